@@ -1,0 +1,74 @@
+# SPDX-License-Identifier: MIT
+# What every target of the project has in common, and the three kinds of target there are.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+add_library(quillbay_options INTERFACE)
+target_include_directories(quillbay_options INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_definitions(quillbay_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_KEYWORDS
+    QT_NO_FOREACH)
+target_compile_options(quillbay_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${QUILLBAY_WARNINGS_AS_ERRORS}>:-Werror>)
+if(QUILLBAY_SANITIZERS)
+    target_compile_options(quillbay_options INTERFACE
+        -fsanitize=${QUILLBAY_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(quillbay_options INTERFACE -fsanitize=${QUILLBAY_SANITIZERS})
+endif()
+
+# quillbay_library(NAME SOURCES file… [LINKS target… [PRIVATE target…]]): the static library of one room.
+function(quillbay_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC quillbay_options ${arg_LINKS})
+endfunction()
+
+# quillbay_program(NAME SOURCES file… [LINKS target…]): an executable in build/<preset>/bin.
+function(quillbay_program name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE quillbay_options ${arg_LINKS})
+endfunction()
+
+# quillbay_test(NAME SOURCES file… [LINKS target…] [HELPERS target…] [TIMEOUT seconds]): a GoogleTest
+# binary on the project's harness; every TEST is a CTest test of its own. HELPERS are programs that the
+# tests start; they lie in the same folder as the test binary.
+function(quillbay_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LINKS;HELPERS")
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 120)
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+    target_link_libraries(${name} PRIVATE quillbay_options test_harness GTest::gmock ${arg_LINKS})
+    if(arg_HELPERS)
+        add_dependencies(${name} ${arg_HELPERS})
+    endif()
+    gtest_discover_tests(${name}
+        TEST_PREFIX "${name}/"
+        DISCOVERY_MODE PRE_TEST
+        PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()
+
+# quillbay_test_helper(NAME SOURCES file… [LINKS target…]): a program for tests to start.
+function(quillbay_test_helper name)
+    quillbay_program(${name} ${ARGN})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+endfunction()

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// Result holds what an operation made, or the named cause of why it made nothing.
+// Thread: any; a value.
+#pragma once
+
+#include <utility>
+#include <variant>
+
+/// Value and Error must be different types. Asking for the side that is not there is a programming error
+/// and ends the process (std::get throws std::bad_variant_access, which nothing catches).
+template <typename Value, typename Error>
+class [[nodiscard]] Result {
+public:
+    Result(Value value)
+        : m_content(std::in_place_index<0>, std::move(value))
+    {
+    }
+    Result(Error error)
+        : m_content(std::in_place_index<1>, std::move(error))
+    {
+    }
+
+    [[nodiscard]] bool hasValue() const { return m_content.index() == 0; }
+    explicit operator bool() const { return hasValue(); }
+
+    [[nodiscard]] const Value &value() const & { return std::get<0>(m_content); }
+    [[nodiscard]] Value &&value() && { return std::get<0>(std::move(m_content)); }
+    [[nodiscard]] const Error &error() const { return std::get<1>(m_content); }
+
+private:
+    std::variant<Value, Error> m_content;
+};

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "platform/styled_text/AttributedString.h"
+
+#include <algorithm>
+
+AttributedString::AttributedString(const QString &text, const TextAttributes &attributes)
+{
+    if (!text.isEmpty())
+        m_content = std::make_shared<const Content>(Content {text, {{0, 0}}, {attributes}});
+}
+
+const AttributedString::Content &AttributedString::content() const
+{
+    static const Content empty;
+    return m_content ? *m_content : empty;
+}
+
+const QString &AttributedString::string() const
+{
+    return content().text;
+}
+
+qsizetype AttributedString::runCount() const
+{
+    return static_cast<qsizetype>(content().runs.size());
+}
+
+AttributedString::Run AttributedString::run(qsizetype index) const
+{
+    const std::vector<StoredRun> &runs = content().runs;
+    const auto at = static_cast<size_t>(index);
+    const qsizetype end = at + 1 < runs.size() ? runs[at + 1].start : length();
+    return {runs[at].start, end - runs[at].start, runs[at].attributesIndex};
+}
+
+qsizetype AttributedString::runIndexAt(qsizetype position) const
+{
+    const std::vector<StoredRun> &runs = content().runs;
+    const auto after = std::upper_bound(runs.begin(), runs.end(), position,
+        [](qsizetype wanted, const StoredRun &run) { return wanted < run.start; });
+    return after - runs.begin() - 1;
+}
+
+const std::vector<TextAttributes> &AttributedString::distinctAttributes() const
+{
+    return content().attributes;
+}
+
+const TextAttributes &AttributedString::attributesAt(qsizetype position) const
+{
+    return content().attributes[run(runIndexAt(position)).attributesIndex];
+}
+
+bool AttributedString::operator==(const AttributedString &other) const
+{
+    if (m_content == other.m_content)
+        return true;
+    if (string() != other.string() || runCount() != other.runCount())
+        return false;
+    // Neighbouring runs always differ, so equal styled texts have the same runs. Each pair of indices is
+    // compared once only: whole texts in one style would otherwise compare it again for every run.
+    constexpr quint32 unknown = UINT32_MAX;
+    std::vector<quint32> partner(distinctAttributes().size(), unknown);
+    for (qsizetype i = 0; i < runCount(); ++i) {
+        const Run mine = run(i);
+        const Run theirs = other.run(i);
+        if (mine.start != theirs.start)
+            return false;
+        quint32 &known = partner[mine.attributesIndex];
+        if (known == unknown) {
+            if (!(distinctAttributes()[mine.attributesIndex] == other.distinctAttributes()[theirs.attributesIndex]))
+                return false;
+            known = theirs.attributesIndex;
+        } else if (known != theirs.attributesIndex) {
+            return false;
+        }
+    }
+    return true;
+}
+
+quint32 AttributedStringBuilder::indexOf(const TextAttributes &attributes)
+{
+    const auto found = m_indices.constFind(attributes);
+    if (found != m_indices.cend())
+        return *found;
+    const auto index = static_cast<quint32>(m_content.attributes.size());
+    m_content.attributes.push_back(attributes);
+    m_indices.insert(attributes, index);
+    return index;
+}
+
+void AttributedStringBuilder::append(QStringView text, const TextAttributes &attributes)
+{
+    if (text.isEmpty())
+        return;
+    const quint32 index = indexOf(attributes);
+    if (m_content.runs.empty() || m_content.runs.back().attributesIndex != index)
+        m_content.runs.push_back({m_content.text.size(), index});
+    m_content.text.append(text);
+}
+
+void AttributedStringBuilder::append(const AttributedString &text)
+{
+    const QStringView characters = text.string();
+    for (qsizetype i = 0; i < text.runCount(); ++i) {
+        const AttributedString::Run run = text.run(i);
+        append(characters.sliced(run.start, run.length), text.distinctAttributes()[run.attributesIndex]);
+    }
+}
+
+AttributedString AttributedStringBuilder::build()
+{
+    m_indices.clear();
+    AttributedString::Content content = std::exchange(m_content, {});
+    if (content.text.isEmpty())
+        return {};
+    content.text.squeeze();
+    content.runs.shrink_to_fit();
+    content.attributes.shrink_to_fit();
+    return AttributedString(std::make_shared<const AttributedString::Content>(std::move(content)));
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+// AttributedString is UTF-16 text with attribute runs: the form in which every document reaches counting and
+// layout. AttributedStringBuilder makes one; a made one never changes.
+// Thread: AttributedString any, copies share their content; a builder belongs to one thread.
+#pragma once
+
+#include "platform/styled_text/TextAttributes.h"
+
+#include <QHash>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+/// The character that stands for an attachment in the text.
+inline constexpr char16_t attachmentCharacter = u'\uFFFC';
+
+/// Positions and lengths are UTF-16 code units. Runs cover the text without gaps, in order, none empty, and
+/// neighbours always differ; an empty text has none. Each distinct set of attributes is stored once.
+class AttributedString {
+public:
+    struct Run {
+        qsizetype start;
+        qsizetype length;
+        quint32 attributesIndex; ///< into distinctAttributes(): equal index, equal attributes
+    };
+
+    AttributedString() = default;
+    explicit AttributedString(const QString &text, const TextAttributes &attributes = {});
+
+    [[nodiscard]] const QString &string() const;
+    [[nodiscard]] qsizetype length() const { return string().size(); }
+    [[nodiscard]] bool isEmpty() const { return string().isEmpty(); }
+
+    [[nodiscard]] qsizetype runCount() const;
+    /// index: 0 to runCount() - 1.
+    [[nodiscard]] Run run(qsizetype index) const;
+    /// The index of the run that holds a position (0 to length() - 1), found in logarithmic time.
+    [[nodiscard]] qsizetype runIndexAt(qsizetype position) const;
+
+    [[nodiscard]] const std::vector<TextAttributes> &distinctAttributes() const;
+    /// position: 0 to length() - 1.
+    [[nodiscard]] const TextAttributes &attributesAt(qsizetype position) const;
+
+    /// Equal text under equal attributes at every position.
+    bool operator==(const AttributedString &other) const;
+
+private:
+    friend class AttributedStringBuilder;
+    struct StoredRun {
+        qsizetype start;
+        quint32 attributesIndex;
+    };
+    struct Content {
+        QString text;
+        std::vector<StoredRun> runs;
+        std::vector<TextAttributes> attributes;
+    };
+    explicit AttributedString(std::shared_ptr<const Content> content)
+        : m_content(std::move(content))
+    {
+    }
+    [[nodiscard]] const Content &content() const;
+
+    std::shared_ptr<const Content> m_content; ///< null for the empty string
+};
+
+/// Appends pieces in time proportional to their length, whatever came before them.
+class AttributedStringBuilder {
+public:
+    void append(QStringView text, const TextAttributes &attributes);
+    void append(const AttributedString &text);
+    /// Makes room for a text of this many code units.
+    void reserve(qsizetype length) { m_content.text.reserve(length); }
+    [[nodiscard]] qsizetype length() const { return m_content.text.size(); }
+
+    /// Hands the text over and starts again with an empty one.
+    [[nodiscard]] AttributedString build();
+
+private:
+    [[nodiscard]] quint32 indexOf(const TextAttributes &attributes);
+
+    AttributedString::Content m_content;
+    QHash<TextAttributes, quint32> m_indices;
+};

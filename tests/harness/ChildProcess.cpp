@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "tests/harness/ChildProcess.h"
+
+#include "tests/harness/TestHome.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <grp.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr uid_t nobody = 65534;
+constexpr int runLimit = 60'000; // milliseconds
+constexpr int lineLimit = 20'000;
+
+} // namespace
+
+QString testProgram(const QString &name)
+{
+    return QStringLiteral(TEST_PROGRAMS "/") + name;
+}
+
+QString productProgram(const QString &name)
+{
+    return QStringLiteral(PRODUCT_PROGRAMS "/") + name;
+}
+
+ChildProcess::~ChildProcess()
+{
+    kill();
+}
+
+ChildProcess &ChildProcess::withVariable(const char *name, const QByteArray &value)
+{
+    m_environment.insert(QString::fromLatin1(name), QFile::decodeName(value));
+    return *this;
+}
+
+ChildProcess &ChildProcess::withoutVariable(const char *name)
+{
+    m_environment.remove(QString::fromLatin1(name));
+    return *this;
+}
+
+ChildProcess &ChildProcess::inFolder(const QString &folder)
+{
+    m_process.setWorkingDirectory(folder);
+    return *this;
+}
+
+ChildProcess &ChildProcess::asOtherUser()
+{
+    if (::geteuid() != 0)
+        return *this;
+    const QString folder = TestHome::instance().root() + QStringLiteral("/programs");
+    QDir().mkpath(folder);
+    const QString copy = folder + u'/' + QFileInfo(m_program).fileName();
+    if (!QFile::exists(copy) && !QFile::copy(m_program, copy))
+        ADD_FAILURE() << "cannot copy " << m_program.toStdString();
+    m_program = copy;
+    return afterFork([] {
+        if (::setgroups(0, nullptr) != 0 || ::setgid(nobody) != 0 || ::setuid(nobody) != 0)
+            ::_exit(126);
+    });
+}
+
+ChildProcess &ChildProcess::afterFork(const std::function<void()> &call)
+{
+    m_afterFork.push_back(call);
+    return *this;
+}
+
+void ChildProcess::start(const QByteArrayList &arguments)
+{
+    QStringList decoded;
+    for (const QByteArray &argument : arguments)
+        decoded.append(QFile::decodeName(argument));
+    m_process.setProcessEnvironment(m_environment);
+    m_process.setChildProcessModifier([this] {
+        for (const auto &call : m_afterFork)
+            call();
+    });
+    m_process.start(m_program, decoded);
+    if (!m_process.waitForStarted())
+        ADD_FAILURE() << "cannot start " << m_program.toStdString();
+}
+
+ChildProcess::Outcome ChildProcess::run(const QByteArrayList &arguments, const QByteArray &input)
+{
+    start(arguments);
+    m_process.write(input);
+    return finish();
+}
+
+void ChildProcess::writeLine(const QByteArray &line)
+{
+    m_process.write(line + '\n');
+    while (m_process.bytesToWrite() > 0 && m_process.waitForBytesWritten(lineLimit)) { }
+}
+
+QByteArray ChildProcess::readLine()
+{
+    while (!m_process.canReadLine()) {
+        if (!m_process.waitForReadyRead(lineLimit)) {
+            ADD_FAILURE() << m_program.toStdString() << " printed no further line; it said: "
+                          << m_process.readAllStandardError().toStdString();
+            return {};
+        }
+    }
+    QByteArray line = m_process.readLine();
+    line.chop(1);
+    return line;
+}
+
+void ChildProcess::kill()
+{
+    if (m_process.state() == QProcess::NotRunning)
+        return;
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+ChildProcess::Outcome ChildProcess::finish()
+{
+    m_process.closeWriteChannel();
+    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(runLimit)) {
+        ADD_FAILURE() << m_program.toStdString() << " did not end";
+        kill();
+    }
+    Outcome outcome;
+    if (m_process.exitStatus() == QProcess::NormalExit)
+        outcome.exitStatus = m_process.exitCode();
+    outcome.output = m_process.readAllStandardOutput();
+    outcome.errors = m_process.readAllStandardError();
+    return outcome;
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// ChildProcess runs a program of the project, or a test's helper, in the test's own world and collects what
+// it prints.
+// Thread: main.  Owner: the test.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QProcess>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+/// Paths of the programs that this build made.
+QString testProgram(const QString &name);
+QString productProgram(const QString &name);
+
+class ChildProcess {
+public:
+    struct Outcome {
+        int exitStatus = -1; ///< -1 where the program was killed by a signal or did not start
+        QByteArray output;
+        QByteArray errors;
+    };
+
+    explicit ChildProcess(const QString &program)
+        : m_program(program)
+    {
+    }
+    ChildProcess(const ChildProcess &) = delete;
+    ChildProcess &operator=(const ChildProcess &) = delete;
+    /// Kills a program that still runs.
+    ~ChildProcess();
+
+    // To be called before the program starts.
+    ChildProcess &withVariable(const char *name, const QByteArray &value);
+    ChildProcess &withoutVariable(const char *name);
+    ChildProcess &inFolder(const QString &folder);
+    /// As a user who owns nothing and is in no group of root's. Has no effect where the test itself does not
+    /// run as root: there permissions bind it anyway. The program is copied to where that user can read it.
+    ChildProcess &asOtherUser();
+    /// Called in the child between fork and exec: only async-signal-safe calls.
+    ChildProcess &afterFork(const std::function<void()> &call);
+
+    /// Runs to the end, with the given standard input; fails the test if that takes a minute.
+    Outcome run(const QByteArrayList &arguments, const QByteArray &input = {});
+
+    // For a talk over several lines.
+    void start(const QByteArrayList &arguments);
+    void writeLine(const QByteArray &line);
+    /// The next line of its standard output, without line end; fails the test after 20 seconds.
+    QByteArray readLine();
+    void kill();
+    Outcome finish();
+    [[nodiscard]] qint64 processIdentifier() const { return m_process.processId(); }
+
+private:
+    QString m_program;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    std::vector<std::function<void()>> m_afterFork;
+    QProcess m_process;
+};
