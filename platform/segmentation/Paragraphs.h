@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// The paragraphs and hard lines of a text, found by their separators alone.
+// Thread: any.
+#pragma once
+
+#include <QStringView>
+
+/// LF, CR and U+2029; CR LF together are one separator.
+bool isParagraphSeparator(char16_t unit);
+
+/// A paragraph separator or U+2028.
+bool isLineEnd(char16_t unit);
+
+/// One paragraph of a text: where it starts and how long it is, without and with its separator, in UTF-16
+/// code units. The last paragraph may lack a separator; an empty line is an empty paragraph.
+struct Paragraph {
+    qsizetype start;
+    qsizetype contentLength;
+    qsizetype length;
+
+    [[nodiscard]] QStringView content(QStringView text) const { return text.sliced(start, contentLength); }
+    [[nodiscard]] qsizetype end() const { return start + length; }
+};
+
+/// The paragraph that starts at a position (0 to the text's length - 1).
+Paragraph paragraphAt(QStringView text, qsizetype start);
+
+/// Calls yield(Paragraph) for every paragraph of the text, first to last. A text that ends in a separator has
+/// no empty paragraph behind it.
+template <typename Yield>
+void forEachParagraph(QStringView text, Yield &&yield)
+{
+    for (qsizetype start = 0; start < text.size();) {
+        const Paragraph paragraph = paragraphAt(text, start);
+        yield(paragraph);
+        start = paragraph.end();
+    }
+}
