@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "text_statistics/TextCounter.h"
+
+namespace {
+
+// In American English a lone letter or digit is no word, but for the words a, I and O and the letter x.
+bool isWordCounted(QStringView word, const CountingRules &rules)
+{
+    constexpr QStringView countedLetters = u"aAiIoOxX";
+    if (word.size() != 1 || countedLetters.contains(word.front()))
+        return true;
+    return rules.localeIdentifier() != QStringLiteral("en_US");
+}
+
+bool isBlank(QStringView text)
+{
+    return text.trimmed().isEmpty();
+}
+
+bool isParagraphCounted(QStringView content, quint64 sentences, const CountingRules &rules)
+{
+    return static_cast<qint64>(sentences) >= rules.minimumSentencesOfParagraph && !isBlank(content);
+}
+
+bool isIndented(QStringView content)
+{
+    return content.startsWith(u'\t');
+}
+
+bool endsWithMark(QStringView text, char16_t mark)
+{
+    QStringView trimmed = text.trimmed();
+    if (trimmed.endsWith(u'"') && !trimmed.endsWith(mark))
+        trimmed.chop(1);
+    return trimmed.endsWith(mark);
+}
+
+} // namespace
+
+TextCounts &TextCounts::operator+=(const TextCounts &other)
+{
+    words += other.words;
+    charactersNotIncludingWhiteSpace += other.charactersNotIncludingWhiteSpace;
+    characters += other.characters;
+    sentences += other.sentences;
+    hardLineBreaks += other.hardLineBreaks;
+    paragraphs += other.paragraphs;
+    paragraphsIndented += other.paragraphsIndented;
+    return *this;
+}
+
+TextCounts TextCounter::count(QStringView text, const CountingRules &rules, const Progress &progress)
+{
+    TextCounts counts;
+    forEachParagraph(text, [&](const Paragraph &paragraph) {
+        counts += countParagraph(text, paragraph, rules);
+        if (progress)
+            progress(paragraph.end());
+    });
+    return counts;
+}
+
+TextCounts TextCounter::countParagraph(
+    QStringView text, const Paragraph &paragraph, const CountingRules &rules)
+{
+    const QStringView content = paragraph.content(text);
+    const QStringView whole = text.sliced(paragraph.start, paragraph.length);
+    TextCounts counts;
+    counts.words = wordsOf(content, rules);
+    counts.charactersNotIncludingWhiteSpace = ::numberOfCharactersNotIncludingWhiteSpace(content);
+    counts.characters = static_cast<quint64>(whole.size());
+    counts.sentences = sentencesOf(content, rules);
+    counts.hardLineBreaks = ::numberOfHardLineBreaks(whole);
+    counts.paragraphs = isParagraphCounted(content, counts.sentences, rules) ? 1 : 0;
+    counts.paragraphsIndented = isIndented(content) ? counts.paragraphs : 0;
+    return counts;
+}
+
+quint64 TextCounter::numberOfWords(QStringView text, const CountingRules &rules)
+{
+    quint64 words = 0;
+    forEachParagraph(
+        text, [&](const Paragraph &paragraph) { words += wordsOf(paragraph.content(text), rules); });
+    return words;
+}
+
+quint64 TextCounter::numberOfSentences(QStringView text, const CountingRules &rules)
+{
+    quint64 sentences = 0;
+    forEachParagraph(
+        text, [&](const Paragraph &paragraph) { sentences += sentencesOf(paragraph.content(text), rules); });
+    return sentences;
+}
+
+quint64 TextCounter::numberOfParagraphs(QStringView text, const CountingRules &rules)
+{
+    quint64 paragraphs = 0;
+    forEachParagraph(text, [&](const Paragraph &paragraph) {
+        const QStringView content = paragraph.content(text);
+        paragraphs += isParagraphCounted(content, sentencesOf(content, rules), rules) ? 1 : 0;
+    });
+    return paragraphs;
+}
+
+quint64 TextCounter::numberOfParagraphsIndented(QStringView text, const CountingRules &rules)
+{
+    quint64 paragraphs = 0;
+    forEachParagraph(text, [&](const Paragraph &paragraph) {
+        const QStringView content = paragraph.content(text);
+        if (isIndented(content) && isParagraphCounted(content, sentencesOf(content, rules), rules))
+            ++paragraphs;
+    });
+    return paragraphs;
+}
+
+bool TextCounter::isSentenceCounted(QStringView sentence, const CountingRules &rules)
+{
+    if (rules.sentencesNeedTerminalPunctuation && !endsWithTerminalPunctuationMark(sentence))
+        return false;
+    bool hasWord = false;
+    m_segmenter.forEachWord(sentence, [&](QStringView word) {
+        hasWord = isWordCounted(word, rules);
+        return !hasWord;
+    });
+    return hasWord;
+}
+
+quint64 TextCounter::wordsOf(QStringView content, const CountingRules &rules)
+{
+    quint64 words = 0;
+    m_segmenter.forEachWord(content, [&](QStringView word) {
+        words += isWordCounted(word, rules) ? 1 : 0;
+        return true;
+    });
+    return words;
+}
+
+quint64 TextCounter::sentencesOf(QStringView content, const CountingRules &rules)
+{
+    quint64 sentences = 0;
+    m_segmenter.forEachSentence(content, [&](QStringView sentence) {
+        sentences += isSentenceCounted(sentence, rules) ? 1 : 0;
+        return true;
+    });
+    return sentences;
+}
+
+quint64 numberOfCharactersNotIncludingWhiteSpace(QStringView text)
+{
+    quint64 characters = 0;
+    for (const QChar unit : text)
+        characters += unit.isSpace() ? 0 : 1;
+    return characters;
+}
+
+quint64 numberOfHardLineBreaks(QStringView text)
+{
+    quint64 lines = 0;
+    const char16_t *units = text.utf16();
+    bool isLineOpen = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isFirstOfPair = units[i] == u'\r' && i + 1 < text.size() && units[i + 1] == u'\n';
+        isLineOpen = isFirstOfPair || !isLineEnd(units[i]);
+        lines += isLineOpen ? 0 : 1;
+    }
+    return lines + (isLineOpen ? 1 : 0);
+}
+
+bool endsWithPeriod(QStringView text)
+{
+    return endsWithMark(text, u'.');
+}
+
+bool endsWithQuestionMark(QStringView text)
+{
+    return endsWithMark(text, u'?');
+}
+
+bool endsWithExclamationPoint(QStringView text)
+{
+    return endsWithMark(text, u'!');
+}
+
+bool endsWithTerminalPunctuationMark(QStringView text)
+{
+    return endsWithPeriod(text) || endsWithQuestionMark(text) || endsWithExclamationPoint(text);
+}
