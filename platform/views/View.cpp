@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "platform/views/View.h"
+
+#include "platform/views/Window.h"
+
+#include <algorithm>
+#include <utility>
+
+View::View(const QRectF &frame)
+    : m_frame(frame)
+{
+}
+
+View::~View()
+{
+    for (const std::shared_ptr<View> &subview : m_subviews)
+        subview->m_superview = nullptr;
+}
+
+void View::setFrame(const QRectF &frame)
+{
+    if (isExactlyEqual(frame, m_frame))
+        return;
+    m_frame = frame;
+    layoutForNewFrame();
+    Q_EMIT frameDidChange();
+}
+
+Window *View::window() const
+{
+    const View *root = this;
+    while (root->m_superview)
+        root = root->m_superview;
+    return root->m_window;
+}
+
+bool View::isOrLiesIn(const View &view) const
+{
+    const View *place = this;
+    while (place && place != &view)
+        place = place->m_superview;
+    return place != nullptr;
+}
+
+std::shared_ptr<View> View::takeSubview(const View &view)
+{
+    const auto place = std::ranges::find(m_subviews, &view, &std::shared_ptr<View>::get);
+    std::shared_ptr<View> taken = std::move(*place);
+    m_subviews.erase(place);
+    return taken;
+}
+
+void View::addSubview(std::shared_ptr<View> view)
+{
+    if (!view || isOrLiesIn(*view))
+        return;
+    if (view->m_superview == this) {
+        if (m_subviews.back() == view)
+            return;
+        takeSubview(*view);
+    } else {
+        view->leaveSuperviewAndWindow();
+        view->m_superview = this;
+    }
+    m_subviews.push_back(std::move(view));
+    Q_EMIT subviewsDidChange();
+}
+
+void View::leaveSuperviewAndWindow()
+{
+    removeFromSuperview();
+    if (m_window)
+        m_window->setContentView(nullptr);
+}
+
+void View::removeFromSuperview()
+{
+    if (!m_superview)
+        return;
+    View *const superview = std::exchange(m_superview, nullptr);
+    const std::shared_ptr<View> keptUntilTheEnd = superview->takeSubview(*this);
+    Q_EMIT superview->subviewsDidChange();
+}
+
+void View::drawRect(const QRectF & /*dirtyRect*/, Painter & /*painter*/) { }
+
+void View::scrollWheel(const ScrollWheelEvent &event)
+{
+    if (m_superview)
+        m_superview->scrollWheel(event);
+}

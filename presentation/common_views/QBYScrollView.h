@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// QBYScrollView is a scroll view whose scrolling by wheel can be switched off.
+// Thread: main.  Owner: its superview or window.
+#pragma once
+
+#include "platform/views/ScrollView.h"
+
+class QBYScrollView : public ScrollView {
+public:
+    using ScrollView::ScrollView;
+
+    [[nodiscard]] bool disableScrolling() const { return m_disableScrolling; }
+    void setDisableScrolling(bool disable) { m_disableScrolling = disable; }
+
+    /// With scrolling switched off the event ends here: what encloses the view does not scroll either.
+    void scrollWheel(const ScrollWheelEvent &event) override;
+
+private:
+    bool m_disableScrolling = false;
+};

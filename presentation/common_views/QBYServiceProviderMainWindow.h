@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// QBYServiceProviderMainWindow is a window of the service provider that the user can type and work in
+// whatever its style, also without a title bar. Thread: main.  Owner: its controller.
+#pragma once
+
+#include "platform/views/Window.h"
+
+class QBYServiceProviderMainWindow : public Window {
+public:
+    using Window::Window;
+
+    [[nodiscard]] bool canBecomeKeyWindow() const override { return true; }
+    [[nodiscard]] bool canBecomeMainWindow() const override { return true; }
+};
