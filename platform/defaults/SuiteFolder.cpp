@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "platform/defaults/SuiteFolder.h"
+
+#include <QDateTime>
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <memory>
+#include <thread>
+
+int makeFolder(const QByteArray &path)
+{
+    // The XDG Base Directory Specification asks for 0700 where a program makes such a folder.
+    constexpr mode_t mode = 0700;
+    if (::mkdir(path.constData(), mode) == 0 || errno == EEXIST)
+        return 0;
+    const qsizetype slash = path.lastIndexOf('/');
+    if (errno != ENOENT || slash <= 0)
+        return errno;
+    if (const int error = makeFolder(path.first(slash)))
+        return error;
+    return ::mkdir(path.constData(), mode) == 0 || errno == EEXIST ? 0 : errno;
+}
+
+FolderLock::FolderLock(const QByteArray &folder, std::chrono::milliseconds limit)
+    : m_descriptor(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+{
+    if (m_descriptor < 0) {
+        m_error = errno;
+        return;
+    }
+    // Waiting inside flock() cannot be bounded. The steps are short against one write, so that a process that
+    // writes without pause does not shut the others out.
+    constexpr std::chrono::microseconds step(200);
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+        m_error = errno;
+        if ((m_error != EWOULDBLOCK && m_error != EINTR) || std::chrono::steady_clock::now() >= deadline)
+            return;
+        m_error = 0;
+        std::this_thread::sleep_for(step);
+    }
+}
+
+FolderLock::~FolderLock()
+{
+    if (m_descriptor < 0)
+        return;
+    // Closing alone would leave the lock to a child that another thread forks just now, until it execs.
+    if (m_error == 0)
+        ::flock(m_descriptor, LOCK_UN);
+    ::close(m_descriptor);
+}
+
+QByteArray putAside(const QByteArray &databasePath)
+{
+    // The database lies where a symbolic link points to, and its journal beside it.
+    const std::unique_ptr<char, decltype(&std::free)> real(
+        ::realpath(databasePath.constData(), nullptr), &std::free);
+    if (!real)
+        return {};
+    const QByteArray from(real.get());
+    const QByteArray to = from + ".broken-"
+        + QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd-hhmmss").toLatin1() + '-'
+        + QByteArray::number(QRandomGenerator::system()->generate(), 16);
+    // The journal goes first: left behind, it would be played back into the fresh database.
+    for (const char *suffix : {"-journal", "-wal", "-shm", ""}) {
+        if (::rename((from + suffix).constData(), (to + suffix).constData()) != 0
+            && (errno != ENOENT || *suffix == '\0'))
+            return {};
+    }
+    return to;
+}

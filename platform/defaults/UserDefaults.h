@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+// UserDefaults is one suite of key-value pairs on disk that all processes of the user share.
+// Thread: any.  Owner: anyone; several objects and processes may have the same suite open.
+#pragma once
+
+#include "platform/defaults/DefaultsValue.h"
+#include "platform/defaults/SuiteDatabase.h"
+
+#include <QString>
+
+#include <chrono>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+/// A suite is a small SQLite database, "quillbay/<suite name>.sqlite3" in the user's configuration folder. It
+/// is opened at the first access; reading makes neither file nor folder. There is no cache: a getter returns
+/// what was written last, by whatever process. A setter returns when the value is on the disk.
+///
+/// Nothing here fails loudly. What cannot be read is absent, what cannot be written leaves the old values,
+/// and the standard log gets one line for as long as the fault lasts. A file that is no usable suite
+/// (damaged, not a database, another program's) reads as empty; the next write first renames it to
+/// "<file>.broken-<time>-<number>".
+class UserDefaults {
+public:
+    static constexpr qsizetype maximalKeyLength = 256; ///< UTF-16 code units
+    static constexpr qsizetype maximalTextLength = 65'536; ///< UTF-16 code units
+    static constexpr std::chrono::milliseconds defaultPatience{5000};
+
+    /// suiteName: not empty, usable as a file name. patience: how long an access waits while other processes
+    /// keep the suite locked; once it has run out, the accesses after it hardly wait until one has succeeded.
+    explicit UserDefaults(const QString &suiteName, std::chrono::milliseconds patience = defaultPatience);
+    UserDefaults(const UserDefaults &) = delete;
+    UserDefaults &operator=(const UserDefaults &) = delete;
+
+    /// The value as it was written; absent if the key never was, or is longer than any that can be written.
+    [[nodiscard]] std::optional<DefaultsValue> objectForKey(const QString &key) const;
+    /// False for an absent value; others as boolValue() says.
+    [[nodiscard]] bool boolForKey(const QString &key) const;
+    /// 0 for an absent value; others as integerValue() says.
+    [[nodiscard]] qint64 integerForKey(const QString &key) const;
+
+    // Setters return whether the value is on the disk. Infinite numbers, NaN, and keys and texts beyond the
+    // limits are refused with a line in the log. Lone surrogates in a text are stored as U+FFFD.
+    bool setBool(bool value, const QString &forKey);
+    bool setInteger(qint64 value, const QString &forKey);
+    bool setDouble(double value, const QString &forKey);
+    bool setObject(const DefaultsValue &value, const QString &forKey);
+
+    /// Writes all entries, in order, in one transaction: no other process ever sees some of them only.
+    bool setObjects(const std::vector<DefaultsEntry> &entries);
+    /// The same, unless the guard's value reads true: then nothing is written, and that counts as success. No
+    /// other process writes between the look at the guard and the end of the transaction.
+    bool setObjectsUnless(const QString &guard, const std::vector<DefaultsEntry> &entries);
+
+private:
+    // A fault of one kind of access, from its first appearance until that access works again.
+    struct Episode {
+        const char16_t *message;
+        bool lasts = false;
+        bool waitedInVain = false;
+    };
+
+    bool write(const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
+    std::optional<SuiteFault> writeUnderLock(
+        const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
+    std::optional<SuiteFault> putBrokenFileAside(const SuiteFault &fault);
+    [[nodiscard]] bool isAcceptable(const DefaultsEntry &entry) const;
+    void note(Episode &episode, const std::optional<SuiteFault> &fault) const;
+    [[nodiscard]] std::chrono::milliseconds patience(const Episode &episode) const;
+
+    const QString m_suiteName;
+    const QByteArray m_folder;
+    const std::chrono::milliseconds m_patience;
+
+    mutable std::mutex m_mutex; // guards all below
+    mutable SuiteDatabase m_database;
+    mutable Episode m_reading{u"Preference suite {} cannot be read: {}"};
+    Episode m_writing{u"Preference suite {} cannot be written: {}"};
+};
