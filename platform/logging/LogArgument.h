@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
-// LogArgument is one value that a log message mentions, with the decision whether readers of the log may see it.
-// Thread: any; a value.
+// LogArgument is one value that a log message mentions, with the decision whether readers of the log may see
+// it. Thread: any; a value.
 #pragma once
 
 #include <QString>
 
 #include <concepts>
+#include <utility>
 
 /// Text is private unless it is wrapped in publicly(): it may be a file name or a piece of a document.
 /// Numbers and truth values are public, as they name nobody.
 class LogArgument {
 public:
-    LogArgument(const QString &text)
-        : m_text(text)
+    LogArgument(QString text)
+        : m_text(std::move(text))
         , m_isPublic(false)
     {
     }

@@ -10,7 +10,7 @@ std::atomic<LogSink *> sinkOfTest = nullptr;
 QString filledIn(QStringView message, LogChannel::Arguments arguments)
 {
     QString filled;
-    auto argument = arguments.begin();
+    const LogArgument *argument = arguments.begin();
     for (;;) {
         const qsizetype place = argument == arguments.end() ? -1 : message.indexOf(u"{}");
         if (place < 0)

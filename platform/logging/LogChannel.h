@@ -24,7 +24,10 @@ public:
     // In every message each "{}" stands for the next argument; one too many stays as it is.
     void debug(QStringView message, Arguments arguments = {}) { write(LogLevel::Debug, message, arguments); }
     void info(QStringView message, Arguments arguments = {}) { write(LogLevel::Info, message, arguments); }
-    void notice(QStringView message, Arguments arguments = {}) { write(LogLevel::Notice, message, arguments); }
+    void notice(QStringView message, Arguments arguments = {})
+    {
+        write(LogLevel::Notice, message, arguments);
+    }
     void error(QStringView message, Arguments arguments = {}) { write(LogLevel::Error, message, arguments); }
 
     [[nodiscard]] const QString &subsystem() const { return m_subsystem; }

@@ -23,10 +23,11 @@ bool journalListens()
     const int descriptor = ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     if (descriptor < 0)
         return false;
-    sockaddr_un address {};
+    sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::memcpy(address.sun_path, journalSocket, sizeof journalSocket);
-    const bool connected = ::connect(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+    const bool connected =
+        ::connect(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
     ::close(descriptor);
     return connected;
 }
@@ -65,7 +66,7 @@ class JournalSink final : public LogSink {
 public:
     void write(const LogRecord &record) override
     {
-        std::array fields {
+        std::array fields{
             "MESSAGE=" + record.message.toUtf8(),
             "PRIORITY=" + QByteArray::number(journalPriority(record.level)),
             "SUBSYSTEM=" + record.subsystem.toUtf8(),
@@ -74,7 +75,7 @@ public:
         };
         std::array<iovec, fields.size()> vectors;
         for (size_t i = 0; i < fields.size(); ++i)
-            vectors[i] = iovec {fields[i].data(), static_cast<size_t>(fields[i].size())};
+            vectors[i] = iovec{fields[i].data(), static_cast<size_t>(fields[i].size())};
         sd_journal_sendv(vectors.data(), static_cast<int>(vectors.size()));
     }
 };
@@ -85,8 +86,8 @@ public:
     {
         // One write() a line keeps the lines of several threads and processes apart.
         const QByteArray line = formattedLogLine(record).toUtf8() + '\n';
-        [[maybe_unused]] const ssize_t written
-            = ::write(STDERR_FILENO, line.constData(), static_cast<size_t>(line.size()));
+        [[maybe_unused]] const ssize_t written =
+            ::write(STDERR_FILENO, line.constData(), static_cast<size_t>(line.size()));
     }
 };
 
@@ -94,9 +95,9 @@ public:
 
 LogSink &systemLogSink()
 {
-    static const std::unique_ptr<LogSink> sink
-        = journalListens() ? std::unique_ptr<LogSink>(std::make_unique<JournalSink>())
-                           : std::make_unique<StandardErrorSink>();
+    static const std::unique_ptr<LogSink> sink = journalListens()
+        ? std::unique_ptr<LogSink>(std::make_unique<JournalSink>())
+        : std::make_unique<StandardErrorSink>();
     return *sink;
 }
 

@@ -6,7 +6,7 @@
 AttributedString::AttributedString(const QString &text, const TextAttributes &attributes)
 {
     if (!text.isEmpty())
-        m_content = std::make_shared<const Content>(Content {text, {{0, 0}}, {attributes}});
+        m_content = std::make_shared<const Content>(Content{text, {{0, 0}}, {attributes}});
 }
 
 const AttributedString::Content &AttributedString::content() const
@@ -68,7 +68,8 @@ bool AttributedString::operator==(const AttributedString &other) const
             return false;
         quint32 &known = partner[mine.attributesIndex];
         if (known == unknown) {
-            if (!(distinctAttributes()[mine.attributesIndex] == other.distinctAttributes()[theirs.attributesIndex]))
+            if (!(distinctAttributes()[mine.attributesIndex]
+                    == other.distinctAttributes()[theirs.attributesIndex]))
                 return false;
             known = theirs.attributesIndex;
         } else if (known != theirs.attributesIndex) {

@@ -11,15 +11,15 @@ bool TextAttributes::operator==(const TextAttributes &other) const
 
 size_t qHash(const FontAttributes &font, size_t seed)
 {
-    return qHashMulti(seed, font.family, font.pointSize, font.weight, static_cast<int>(font.slant), font.tracking,
-        font.baselineOffset);
+    return qHashMulti(seed, font.family, font.pointSize, font.weight, static_cast<int>(font.slant),
+        font.tracking, font.baselineOffset);
 }
 
 size_t qHash(const ParagraphStyle &style, size_t seed)
 {
     size_t hash = qHashMulti(seed, static_cast<int>(style.alignment), static_cast<int>(style.direction),
-        style.firstLineHeadIndent, style.headIndent, style.tailIndent, style.defaultTabInterval, style.lineSpacing,
-        style.paragraphSpacingBefore, style.paragraphSpacing);
+        style.firstLineHeadIndent, style.headIndent, style.tailIndent, style.defaultTabInterval,
+        style.lineSpacing, style.paragraphSpacingBefore, style.paragraphSpacing);
     for (const TabStop &stop : style.tabStops)
         hash = qHashMulti(hash, stop.position, static_cast<int>(stop.alignment));
     return hash;

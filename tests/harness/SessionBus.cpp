@@ -37,19 +37,20 @@ QString SessionBus::start()
             ADD_FAILURE() << "cannot write the configuration of the private bus";
             return {};
         }
-        configuration.write(QStringLiteral("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
-                                           " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-                                           "<busconfig>\n"
-                                           "  <type>session</type>\n"
-                                           "  <listen>unix:path=%1/socket</listen>\n"
-                                           "  <servicedir>%2/dbus-1/services</servicedir>\n"
-                                           "  <auth>EXTERNAL</auth>\n"
-                                           "  <policy context=\"default\">\n"
-                                           "    <allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
-                                           "    <allow eavesdrop=\"true\"/>\n"
-                                           "    <allow own=\"*\"/>\n"
-                                           "  </policy>\n"
-                                           "</busconfig>\n")
+        configuration.write(QStringLiteral(
+            "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
+            " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+            "<busconfig>\n"
+            "  <type>session</type>\n"
+            "  <listen>unix:path=%1/socket</listen>\n"
+            "  <servicedir>%2/dbus-1/services</servicedir>\n"
+            "  <auth>EXTERNAL</auth>\n"
+            "  <policy context=\"default\">\n"
+            "    <allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
+            "    <allow eavesdrop=\"true\"/>\n"
+            "    <allow own=\"*\"/>\n"
+            "  </policy>\n"
+            "</busconfig>\n")
                                 .arg(folder, TestHome::instance().data())
                                 .toUtf8());
         configuration.close();

@@ -15,9 +15,9 @@
 namespace {
 
 // Only these of the caller's variables reach a test, besides those of tests/README.md.
-const std::vector<QByteArray> keptVariables {
-    "PATH", "TMPDIR", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS",
-    "QUILLBAY_CORPORA", "GTEST_OUTPUT", "GTEST_COLOR", "GTEST_TOTAL_SHARDS", "GTEST_SHARD_INDEX"};
+const std::vector<QByteArray> keptVariables{"PATH", "TMPDIR", "LD_LIBRARY_PATH", "ASAN_OPTIONS",
+    "LSAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS", "QUILLBAY_CORPORA", "GTEST_OUTPUT", "GTEST_COLOR",
+    "GTEST_TOTAL_SHARDS", "GTEST_SHARD_INDEX"};
 
 void makeFolder(const QString &path, mode_t mode)
 {
@@ -40,8 +40,8 @@ TestHome::TestHome()
             m_firstEnvironment[name] = value;
     }
     const auto temporary = m_firstEnvironment.find("TMPDIR");
-    QByteArray pattern
-        = (temporary == m_firstEnvironment.end() ? QByteArray("/tmp") : temporary->second) + "/quillbay-test-XXXXXX";
+    QByteArray pattern = (temporary == m_firstEnvironment.end() ? QByteArray("/tmp") : temporary->second)
+        + "/quillbay-test-XXXXXX";
     if (!::mkdtemp(pattern.data()))
         throw std::runtime_error("cannot make a temporary folder");
     m_root = QFile::decodeName(pattern);

@@ -22,7 +22,7 @@ TEST(WordCounterStatStringFormatter, HasEightLongTemplatesInStyleZero)
 
 TEST(WordCounterStatStringFormatter, HasEightShortTemplatesInEveryOtherStyle)
 {
-    for (const qint64 style : std::initializer_list<qint64> {1, 7, -1, INT64_MIN, INT64_MAX}) {
+    for (const qint64 style : std::initializer_list<qint64>{1, 7, -1, INT64_MIN, INT64_MAX}) {
         EXPECT_EQ(Formatter::formattedWordCountStringForStyle(style, 0), QStringLiteral("•Words: 0"));
         EXPECT_EQ(
             Formatter::formattedCharacterCountStringForStyle(style, 1), QStringLiteral("•Characters: 1"));

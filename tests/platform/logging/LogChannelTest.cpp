@@ -18,7 +18,7 @@ using ::testing::Not;
 class LogChannelTest : public QuillbayTest {
 protected:
     RecordingLogSink m_log;
-    LogChannel m_channel {QStringLiteral("com.quillbay.test"), QStringLiteral("channel")};
+    LogChannel m_channel{QStringLiteral("com.quillbay.test"), QStringLiteral("channel")};
 };
 
 TEST_F(LogChannelTest, RecordsCarryLevelSubsystemAndCategory)
@@ -81,7 +81,7 @@ TEST_F(LogChannelTest, WithAJournalTheRecordGoesThereInFieldsAndNothingToStandar
             ::_exit(unsupported);
         ::mkdir("/run/systemd", 0755);
         ::mkdir("/run/systemd/journal", 0755);
-        sockaddr_un address {AF_UNIX, "/run/systemd/journal/socket"};
+        sockaddr_un address{AF_UNIX, "/run/systemd/journal/socket"};
         const int listener = ::socket(AF_UNIX, SOCK_DGRAM, 0);
         if (::bind(listener, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0)
             ::_exit(unsupported);

@@ -8,7 +8,7 @@ namespace {
 TextAttributes bold()
 {
     TextAttributes attributes;
-    attributes.font = FontAttributes {QStringLiteral("Nimbus Sans"), 14, 700};
+    attributes.font = FontAttributes{QStringLiteral("Nimbus Sans"), 14, 700};
     return attributes;
 }
 
@@ -119,11 +119,11 @@ TEST(AttributedString, AppendingStyledTextKeepsItsRuns)
 TEST(TextAttributes, AttachmentsCompareByContent)
 {
     TextAttributes one;
-    one.attachment = std::make_shared<const Attachment>(Attachment {QStringLiteral("a.png"), "data"});
+    one.attachment = std::make_shared<const Attachment>(Attachment{QStringLiteral("a.png"), "data"});
     TextAttributes same = one;
     same.attachment = std::make_shared<const Attachment>(*one.attachment);
     TextAttributes other = one;
-    other.attachment = std::make_shared<const Attachment>(Attachment {QStringLiteral("a.png"), "date"});
+    other.attachment = std::make_shared<const Attachment>(Attachment{QStringLiteral("a.png"), "date"});
     EXPECT_EQ(one, same);
     EXPECT_EQ(qHash(one), qHash(same));
     EXPECT_FALSE(one == other);
@@ -143,6 +143,6 @@ TEST(TextAttributes, EveryFieldCountsInComparison)
     changed.language = QStringLiteral("de");
     EXPECT_FALSE(plain == changed);
     changed = plain;
-    changed.font = FontAttributes {};
+    changed.font = FontAttributes{};
     EXPECT_FALSE(plain == changed);
 }
