@@ -154,6 +154,22 @@ TEST_F(ScrollViewTest, TheWheelStopsAtTheEndsOfTheDocument)
     EXPECT_EQ(position(), QPointF(0, 0));
 }
 
+TEST_F(ScrollViewTest, TheWheelLeavesADirectionAloneThatItDoesNotTurnIn)
+{
+    show(m_flipped);
+    m_scrollView.contentView().scrollToPoint({-5, 0});
+    m_scrollView.scrollWheel({0, -30});
+    EXPECT_EQ(position(), QPointF(-5, 30));
+}
+
+TEST_F(ScrollViewTest, TheWheelLeavesADocumentAloneThatIsVisibleAsAWhole)
+{
+    show(std::make_shared<View>(QRectF(0, 0, 200, 100)));
+    m_scrollView.contentView().scrollToPoint({0, -150});
+    m_scrollView.scrollWheel({0, 30});
+    EXPECT_EQ(position(), QPointF(0, -150));
+}
+
 TEST_F(ScrollViewTest, AnEventThatScrollsNothingScrollsTheEnclosingView)
 {
     const auto inner = std::make_shared<ScrollView>(QRectF(0, 0, 1000, 1000));

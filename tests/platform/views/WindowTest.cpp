@@ -78,6 +78,15 @@ TEST(Window, AViewIsTheContentOfOneWindowOrASubviewNeverBoth)
     EXPECT_EQ(view->superview(), &parent);
 }
 
+TEST(Window, AReplacedContentViewIsInNoWindow)
+{
+    Window window;
+    const auto view = std::make_shared<View>();
+    window.setContentView(view);
+    window.setContentView(std::make_shared<View>());
+    EXPECT_EQ(view->window(), nullptr);
+}
+
 TEST(Window, AnnouncesANewContentViewAndStyleMaskOnce)
 {
     Window window;
