@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "platform/notifications/NotificationObserver.h"
+
+#include "platform/notifications/SessionBusConnection.h"
+
+NotificationObserver::NotificationObserver(const QString &name, QObject *parent)
+    : QObject(parent)
+    , m_name(name)
+{
+    auto connection = SessionBusConnection::connected();
+    if (!connection)
+        return;
+    connection->connect(
+        {}, SessionBusConnection::path(), SessionBusConnection::interface(), m_name, this, SLOT(deliver()));
+    SessionBusConnection::settle(*connection);
+}
+
+NotificationObserver::~NotificationObserver()
+{
+    SessionBusConnection::current().disconnect(
+        {}, SessionBusConnection::path(), SessionBusConnection::interface(), m_name, this, SLOT(deliver()));
+}
+
+void NotificationObserver::deliver()
+{
+    Q_EMIT posted();
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "platform/notifications/SessionBusConnection.h"
+
+#include "platform/logging/LogChannel.h"
+
+#include <QCoreApplication>
+#include <QDBusError>
+#include <QDBusMessage>
+
+#include <atomic>
+#include <mutex>
+
+namespace {
+
+constexpr int patience = 2000; // milliseconds
+constexpr int patienceWithASilentBus = 20;
+
+const QString &connectionName()
+{
+    static const QString name = QStringLiteral("com.quillbay.notifications");
+    return name;
+}
+
+} // namespace
+
+QString SessionBusConnection::path()
+{
+    return QStringLiteral("/com/quillbay/DistributedNotificationCenter");
+}
+
+QString SessionBusConnection::interface()
+{
+    return QStringLiteral("com.quillbay.DistributedNotificationCenter");
+}
+
+QDBusConnection SessionBusConnection::current()
+{
+    return QDBusConnection(connectionName());
+}
+
+std::optional<QDBusConnection> SessionBusConnection::connected()
+{
+    static std::mutex mutex;
+    static bool isLogged = false;
+    const std::lock_guard guard(mutex);
+    QString reason = QStringLiteral("there is no application object");
+    if (QCoreApplication::instance()) {
+        if (QDBusConnection connection = current(); connection.isConnected())
+            return connection;
+        QDBusConnection::disconnectFromBus(connectionName()); // a lost one keeps its name otherwise
+        const auto connection = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName());
+        if (connection.isConnected()) {
+            isLogged = false;
+            return connection;
+        }
+        reason = connection.lastError().message();
+        QDBusConnection::disconnectFromBus(connectionName());
+    }
+    if (!std::exchange(isLogged, true))
+        LogChannel::standard().error(
+            u"No session bus, so notifications reach nobody: {}", {publicly(reason)});
+    return std::nullopt;
+}
+
+void SessionBusConnection::settle(QDBusConnection &connection)
+{
+    static std::atomic<bool> isSilent = false;
+    // Qt sends from a thread of its own, so that a process that ends at once would take its last signals with
+    // it. The bus handles the messages of one connection in their order: its answer to this one says that it
+    // has handled those before.
+    const QDBusMessage ping = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus.Peer"),
+        QStringLiteral("Ping"));
+    const QDBusMessage reply =
+        connection.call(ping, QDBus::Block, isSilent ? patienceWithASilentBus : patience);
+    const bool timedOut = reply.type() == QDBusMessage::ErrorMessage && connection.isConnected();
+    if (timedOut && !isSilent)
+        LogChannel::standard().error(u"The session bus does not answer");
+    isSilent = timedOut;
+}
