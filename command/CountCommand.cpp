@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "command/CountCommand.h"
+
+#include "command/FileNames.h"
+#include "platform/files/FileContents.h"
+#include "platform/styled_text/DocumentLoader.h"
+#include "preferences/QBYUserDefaultsController.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <new>
+
+namespace {
+
+constexpr char standardInput[] = "-";
+
+qint64 sizeOfAll(const QByteArrayList &names)
+{
+    qint64 sum = 0;
+    for (const QByteArray &name : names) {
+        struct stat status { };
+        if (::stat(name.constData(), &status) == 0 && S_ISREG(status.st_mode))
+            sum += status.st_size;
+    }
+    return sum;
+}
+
+} // namespace
+
+int CountCommand::run()
+{
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+
+    const QByteArrayList names = inputNames();
+    const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.form, sizeOfAll(names));
+    ProgressLine progress(names.size());
+    m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        progress.startReading(names[i], i);
+        countFile(names[i], *report, progress);
+    }
+    if (names.size() > 1)
+        print(report->total(m_total));
+    if (std::fflush(stdout) != 0)
+        fail("standard output", std::strerror(errno));
+    return m_hasFailed ? 1 : 0;
+}
+
+QByteArrayList CountCommand::inputNames()
+{
+    QByteArrayList names = m_arguments.fileNames;
+    if (!m_arguments.listName)
+        return names;
+    const Result<QByteArray, FileError> list = *m_arguments.listName == standardInput
+        ? readDescriptor(STDIN_FILENO)
+        : readFile(*m_arguments.listName);
+    if (!list) {
+        fail(*m_arguments.listName, causeText(list.error()).toUtf8());
+        return names;
+    }
+    return names + namesInList(list.value());
+}
+
+void CountCommand::countFile(const QByteArray &name, CountReport &report, ProgressLine &progress)
+{
+    // Every step makes buffers as large as the document.
+    try {
+        Result<AttributedString, LoadError> text
+            = name == standardInput ? loadDocument(STDIN_FILENO) : loadDocument(name);
+        if (!text) {
+            progress.hide();
+            fail(name, causeText(text.error()).toUtf8());
+            return;
+        }
+        progress.startCounting(text.value().length());
+        m_model.setAttributedStringToCount(text.value());
+    } catch (const std::bad_alloc &) {
+        progress.hide();
+        fail(name, "not enough memory");
+        return;
+    }
+    progress.hide();
+    if (!m_hasPrintedHeader)
+        print(report.header());
+    m_hasPrintedHeader = true;
+    print(report.row(name, m_model.statsRepresentation()));
+    m_total += m_model.statsRepresentation();
+}
+
+void CountCommand::fail(const QByteArray &name, const QByteArray &cause)
+{
+    m_hasFailed = true;
+    // What was printed so far comes first where both streams end in one place.
+    std::fflush(stdout);
+    std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(), cause.constData());
+}
+
+void CountCommand::print(const QByteArray &text)
+{
+    std::fwrite(text.constData(), 1, static_cast<size_t>(text.size()), stdout);
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// CountCommand is "quillbay count": it counts files one after the other through the statistics model and
+// prints the counts. A file that cannot be counted is told on standard error, and the others are still
+// counted. Thread: main.  Owner: main().
+#pragma once
+
+#include "command/CountArguments.h"
+#include "command/CountReport.h"
+#include "command/ProgressLine.h"
+#include "text_statistics/WordCounterModel.h"
+
+#include <QByteArrayList>
+
+class CountCommand {
+public:
+    explicit CountCommand(const CountArguments &arguments)
+        : m_arguments(arguments)
+    {
+    }
+
+    /// The exit status: 0, or 1 if a file was not counted or the counts could not be printed.
+    int run();
+
+private:
+    [[nodiscard]] QByteArrayList inputNames();
+    [[nodiscard]] std::optional<AttributedString> load(const QByteArray &name);
+    void countFile(const QByteArray &name, CountReport &report, ProgressLine &progress);
+    void fail(const QByteArray &name, const QByteArray &cause);
+    void print(const QByteArray &text);
+
+    const CountArguments m_arguments;
+    WordCounterModel m_model;
+    QBYWordCounterStats m_total;
+    bool m_hasFailed = false;
+    bool m_hasPrintedHeader = false;
+};

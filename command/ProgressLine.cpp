@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "command/ProgressLine.h"
+
+#include "command/FileNames.h"
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto patience = 1s;
+constexpr auto interval = 200ms;
+
+void writeToStandardError(const QByteArray &text)
+{
+    [[maybe_unused]] const ssize_t written =
+        ::write(STDERR_FILENO, text.constData(), static_cast<size_t>(text.size()));
+}
+
+// A line longer than the terminal is wide would wrap, and wiping would leave its first part.
+qsizetype terminalWidth()
+{
+    winsize size{};
+    return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
+}
+
+} // namespace
+
+ProgressLine::ProgressLine(qsizetype fileCount)
+    : m_fileCount(fileCount)
+{
+    if (::isatty(STDERR_FILENO))
+        m_thread = std::thread([this] { drawUntilStopped(); });
+}
+
+ProgressLine::~ProgressLine()
+{
+    if (!m_thread.joinable())
+        return;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isStopped = true;
+    }
+    m_stop.notify_one();
+    m_thread.join();
+    wipe();
+}
+
+void ProgressLine::startReading(const QByteArray &fileName, qsizetype index)
+{
+    const std::lock_guard lock(m_mutex);
+    m_fileName = fileName;
+    m_index = index;
+    m_length = 0;
+    m_position = 0;
+}
+
+void ProgressLine::startCounting(qsizetype length)
+{
+    const std::lock_guard lock(m_mutex);
+    m_length = length;
+}
+
+void ProgressLine::hide()
+{
+    const std::lock_guard lock(m_mutex);
+    wipe();
+}
+
+void ProgressLine::drawUntilStopped()
+{
+    std::unique_lock lock(m_mutex);
+    const auto isStopped = [this] { return m_isStopped; };
+    if (m_stop.wait_for(lock, patience, isStopped))
+        return;
+    do {
+        draw();
+    } while (!m_stop.wait_for(lock, interval, isStopped));
+}
+
+void ProgressLine::draw()
+{
+    QString line = m_length > 0 ? QStringLiteral("counting ") : QStringLiteral("reading ");
+    if (m_fileCount > 1)
+        line += QStringLiteral("%1 of %2, ").arg(m_index + 1).arg(m_fileCount);
+    if (m_length > 0)
+        line += QStringLiteral("%1 %, ").arg(100 * m_position.load(std::memory_order_relaxed) / m_length);
+    line +=
+        m_fileName == "-" ? QStringLiteral("standard input") : QString::fromUtf8(printableName(m_fileName));
+    writeToStandardError("\r\033[K" + line.left(terminalWidth() - 1).toUtf8());
+    m_isShown = true;
+}
+
+void ProgressLine::wipe()
+{
+    if (m_isShown)
+        writeToStandardError("\r\033[K");
+    m_isShown = false;
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// CommandTest is the fixture of tests that run the real quillbay command.
+#pragma once
+
+#include "tests/harness/QuillbayTest.h"
+
+class CommandTest : public QuillbayTest {
+protected:
+    static ChildProcess::Outcome quillbay(const QByteArrayList &words, const QByteArray &input = {})
+    {
+        return ChildProcess(productProgram(QStringLiteral("quillbay"))).run(words, input);
+    }
+
+    /// "quillbay count" with further words.
+    static ChildProcess::Outcome count(const QByteArrayList &words, const QByteArray &input = {})
+    {
+        return quillbay(QByteArrayList{"count"} + words, input);
+    }
+
+    /// The path of a new file below the test's folder.
+    static QByteArray file(const char *name, const QByteArray &contents)
+    {
+        return QFile::encodeName(writeFile(QString::fromUtf8(name), contents));
+    }
+
+    /// The rows of a table: words separated by blanks, without header.
+    static QList<QByteArrayList> tableRows(const QByteArray &output)
+    {
+        QList<QByteArrayList> rows;
+        for (const QByteArray &line : output.trimmed().split('\n').sliced(1))
+            rows.append(line.simplified().split(' '));
+        return rows;
+    }
+};

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "tests/command/CommandTest.h"
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+class CountUsageTest : public CommandTest { };
+
+TEST_F(CountUsageTest, HelpAndVersionGoToStandardOutput)
+{
+    for (const QByteArrayList &words :
+        {QByteArrayList{"--help"}, QByteArrayList{"-h"}, QByteArrayList{"count", "--help"}}) {
+        const ChildProcess::Outcome outcome = quillbay(words);
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_THAT(outcome.output.toStdString(), StartsWith("Usage: quillbay "));
+        EXPECT_EQ(outcome.errors, QByteArray());
+    }
+    EXPECT_THAT(quillbay({"--version"}).output.toStdString(), ::testing::MatchesRegex("quillbay [0-9.]+\n"));
+}
+
+TEST_F(CountUsageTest, WrongUsageEndsWithTwoAndAHintOnStandardError)
+{
+    const std::vector<std::pair<QByteArrayList, const char *>> cases{
+        {{}, "no command given"},
+        {{"frobnicate"}, "no command 'frobnicate'"},
+        {{"count", "--nonsense"}, "--nonsense"},
+        {{"count", "--json", "--tsv"}, "--json and --tsv exclude each other"},
+        {{"count", "--files-from"}, "--files-from"},
+        {{"count", "--files-from", "a", "--files-from", "b"}, "only once"},
+        {{"count", "--files-from", "-", "-"}, "standard input cannot be both"},
+    };
+    for (const auto &[words, message] : cases) {
+        const ChildProcess::Outcome outcome = quillbay(words);
+        EXPECT_EQ(outcome.exitStatus, 2) << message;
+        EXPECT_EQ(outcome.output, QByteArray());
+        EXPECT_THAT(outcome.errors.toStdString(), HasSubstr(message));
+        EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("--help' for more."));
+    }
+}
+
+TEST_F(CountUsageTest, OptionsMayFollowFilesAndTwoDashesEndThem)
+{
+    const QByteArray name = file("--json", "One.");
+    const QString folder = QFileInfo(QFile::decodeName(name)).path();
+    ChildProcess process(productProgram(QStringLiteral("quillbay")));
+    const ChildProcess::Outcome outcome = process.inFolder(folder).run({"count", "--tsv", "--", "--json"});
+    EXPECT_THAT(outcome.output.toStdString(), HasSubstr("\n--json\t1\t"));
+    const QByteArray other = file("other", "One.");
+    EXPECT_THAT(count({other, "--json"}).output.toStdString(), StartsWith("{\"file\":"));
+}

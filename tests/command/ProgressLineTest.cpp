@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Progress on a real pseudo-terminal: standard input that does not end makes the work take as long as the
+// test likes.
+#include "tests/command/CommandTest.h"
+
+#include <fcntl.h>
+#include <pty.h>
+#include <unistd.h>
+
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+
+namespace {
+
+class ProgressLineTest : public CommandTest {
+protected:
+    void SetUp() override { ASSERT_EQ(::openpty(&m_terminal, &m_end, nullptr, nullptr, nullptr), 0); }
+    void TearDown() override
+    {
+        ::close(m_terminal);
+        ::close(m_end);
+    }
+
+    QByteArray terminalOutput()
+    {
+        ::fcntl(m_terminal, F_SETFL, O_NONBLOCK);
+        char piece[4096];
+        for (ssize_t size = 0; (size = ::read(m_terminal, piece, sizeof piece)) > 0;)
+            m_output.append(piece, size);
+        return m_output;
+    }
+
+    int m_terminal = -1;
+    int m_end = -1;
+    QByteArray m_output;
+};
+
+} // namespace
+
+TEST_F(ProgressLineTest, ATerminalIsToldWhatIsBeingReadAndTheLineIsWipedAtTheEnd)
+{
+    ChildProcess process(productProgram(QStringLiteral("quillbay")));
+    process.afterFork([this] { ::dup2(m_end, STDERR_FILENO); });
+    process.start({"count", "-"});
+    process.writeLine("One two.");
+    EXPECT_TRUE(waitUntil([this] { return terminalOutput().contains("reading standard input"); }));
+    const ChildProcess::Outcome outcome = process.finish();
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_THAT(outcome.output.toStdString(), HasSubstr("  -\n"));
+    EXPECT_THAT(terminalOutput().toStdString(), EndsWith("\r\033[K"));
+}
