@@ -5,11 +5,16 @@
 #include "tests/harness/QuillbayTest.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QPointer>
 #include <QThread>
+#include <QXmlStreamReader>
 
 #include <memory>
 #include <thread>
 
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 namespace {
@@ -167,10 +172,42 @@ TEST_F(DistributedNotificationCenterTest, AnObserverHearsOnTheThreadThatMadeIt)
 TEST_F(DistributedNotificationCenterTest, ANameThatTheBusCannotCarryIsRefusedInTheLog)
 {
     DistributedNotificationCenter::post(QStringLiteral("no name"));
-    EXPECT_THAT(
-        m_log.messages(), ::testing::ElementsAre(QStringLiteral("Notification no name cannot be posted")));
+    EXPECT_THAT(m_log.messages(), ElementsAre(QStringLiteral("Notification no name cannot be posted")));
     const Counter counter(name);
     DistributedNotificationCenter::post(name);
     settle();
     EXPECT_EQ(counter.count(), 1);
+}
+
+TEST_F(DistributedNotificationCenterTest, TheSignalOnTheBusIsTheOneThatTheDocumentationDescribes)
+{
+    QXmlStreamReader description(
+        readFile(QStringLiteral(BUS_DOCUMENTATION "/com.quillbay.DistributedNotificationCenter.xml")));
+    QString path;
+    QString interface;
+    QStringList signalNames;
+    while (!description.atEnd()) {
+        if (description.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QString value = description.attributes().value(QLatin1StringView("name")).toString();
+        if (description.name() == u"node")
+            path = value;
+        else if (description.name() == u"interface")
+            interface = value;
+        else if (description.name() == u"signal")
+            signalNames.append(value);
+    }
+    ASSERT_FALSE(description.hasError()) << description.errorString().toStdString();
+    ASSERT_THAT(signalNames, ElementsAre(QStringLiteral("QBYPreferencesChangedNotification")));
+
+    QDBusConnection bus =
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("stranger"));
+    QPointer<QObject> listener = new QObject; // gone once it has heard the signal
+    bus.connect({}, path, interface, signalNames.front(), listener, SLOT(deleteLater()));
+    bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
+        QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping")));
+    DistributedNotificationCenter::post(signalNames.front());
+    EXPECT_TRUE(waitUntil([&listener] { return listener.isNull(); }));
+    delete listener;
+    QDBusConnection::disconnectFromBus(QStringLiteral("stranger"));
 }

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "preferences/page_preview/PageSizeForMeasuringPreviewViewController.h"
+
+#include "preferences/page_preview/SampleText.h"
+#include "presentation/common_views/ScrollViewExtension.h"
+#include "presentation/common_views/ViewExtension.h"
+#include "text_statistics/display_strings/TrimTrailingNumbersOffDecimal.h"
+
+#include <limits>
+
+using namespace QBYExtension;
+
+namespace {
+
+std::shared_ptr<QBYScrollView> madeScrollView()
+{
+    auto scrollView = std::make_shared<QBYScrollView>();
+    scrollView->setDisableScrolling(true);
+    scrollView->setMinMagnification(0.15);
+    return scrollView;
+}
+
+std::shared_ptr<FlippedView> madePage()
+{
+    auto page = std::make_shared<FlippedView>();
+    page->setBackgroundColor(Color::white());
+    return page;
+}
+
+std::shared_ptr<TextView> madeTextView()
+{
+    // As high as can be: the column never ends, whatever the page.
+    auto textView = std::make_shared<TextView>(QRectF(0, 0, 0, std::numeric_limits<double>::max()));
+    textView->setAppearance(Appearance::Light); // the page is white in a dark desktop too
+    textView->setEditable(false);
+    textView->setSelectable(false);
+    textView->textContainer().setLineFragmentPadding(0);
+    textView->textStorage().setAttributedString(AttributedString(pagePreviewSampleText()));
+    return textView;
+}
+
+QString inches(double points)
+{
+    return TrimTrailingNumbersOffDecimal::trimTrailingNumbersOffFloatingPointNumber(
+        screenPointValueToInch(points));
+}
+
+} // namespace
+
+void PageSizeForMeasuringPreviewViewController::loadView()
+{
+    if (!m_mainScrollView) {
+        const std::shared_ptr<QBYScrollView> scrollView = madeScrollView();
+        m_mainScrollView = scrollView.get();
+        setView(scrollView);
+    }
+    if (!m_wrapperView) {
+        const std::shared_ptr<FlippedView> page = madePage();
+        m_wrapperView = page.get();
+        m_mainScrollView->setDocumentView(page);
+    }
+    if (!m_previewTextView)
+        m_previewTextView = madeTextView();
+    m_wrapperView->addSubview(m_previewTextView);
+    scrollToTop(*m_mainScrollView);
+}
+
+void PageSizeForMeasuringPreviewViewController::setPreviewContentFrameSize(
+    const QSizeF &size, double leftInset, double rightInset)
+{
+    const double columnWidth = size.width() - leftInset - rightInset;
+    if (!(leftInset + rightInset < size.width()))
+        return;
+    if (!m_mainScrollView || !m_wrapperView || !m_previewTextView)
+        loadView();
+    m_wrapperView->setFrameSize(size);
+    m_previewTextView->setFrame({leftInset, 0, columnWidth, m_previewTextView->frame().height()});
+    m_mainScrollView->magnifyToFitRect(m_wrapperView->frame());
+    scrollToTop(*m_mainScrollView);
+}
+
+QSizeF PageSizeForMeasuringPreviewViewController::pageSize() const
+{
+    return m_wrapperView ? m_wrapperView->frame().size() : QSizeF(0, 0);
+}
+
+double PageSizeForMeasuringPreviewViewController::embeddedTextViewOffsetMagnifiedWidth() const
+{
+    if (!m_mainScrollView)
+        return 0;
+    return m_mainScrollView->frame().width() - pageSize().width() * m_mainScrollView->magnification();
+}
+
+QString PageSizeForMeasuringPreviewViewController::formattedPageSizeInInches() const
+{
+    return QStringLiteral("%1 x %2 inches").arg(inches(pageSize().width()), inches(pageSize().height()));
+}

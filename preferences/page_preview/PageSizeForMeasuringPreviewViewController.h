@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// PageSizeForMeasuringPreviewViewController shows a white page with a column of text between its margins,
+// shrunk to fit its scroll view. On a screen it is a preview of the page; off screen, its text view measures
+// texts in lines.
+// Thread: main.  Owner: whoever shows the page, or measures on it; shares the ownership of the text view.
+#pragma once
+
+#include "platform/views/ViewController.h"
+#include "preferences/page_preview/TextView.h"
+#include "presentation/common_views/FlippedView.h"
+#include "presentation/common_views/QBYScrollView.h"
+
+#include <QPointer>
+
+/// The scroll view is the controller's view, the page its document, and the text view lies on the page.
+class PageSizeForMeasuringPreviewViewController : public ViewController {
+public:
+    /// Null before loadView().
+    [[nodiscard]] const std::shared_ptr<TextView> &previewTextView() const { return m_previewTextView; }
+    /// The page; null before loadView() and when the scroll view has let it go.
+    [[nodiscard]] FlippedView *wrapperView() const { return m_wrapperView; }
+    /// Null before loadView() and when the controller has been given another view.
+    [[nodiscard]] QBYScrollView *mainScrollView() const { return m_mainScrollView; }
+
+    /// Makes those of the three views that are missing, puts the text view on top of the page and scrolls to the
+    /// page's top.
+    void loadView() override;
+
+    /// Points. Makes the page that large, sets the column between the insets, and shrinks the page to fit; the
+    /// column keeps its height. Insets that leave the column no width change nothing at all.
+    void setPreviewContentFrameSize(const QSizeF &size, double leftInset, double rightInset);
+
+    /// The points beside the shrunk page: the scroll view's width less the page's width as shown.
+    [[nodiscard]] double embeddedTextViewOffsetMagnifiedWidth() const;
+
+    /// "8.5 x 11.0 inches" for a page of 612 by 792 points, "0.0 x 0.0 inches" before the first layout.
+    [[nodiscard]] QString formattedPageSizeInInches() const;
+
+private:
+    [[nodiscard]] QSizeF pageSize() const;
+
+    std::shared_ptr<TextView> m_previewTextView;
+    QPointer<FlippedView> m_wrapperView;
+    QPointer<QBYScrollView> m_mainScrollView;
+};

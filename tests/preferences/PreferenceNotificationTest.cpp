@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+// Which change of a preference tells the other processes, and how often.
+#include "platform/notifications/DistributedNotificationCenter.h"
+#include "platform/notifications/NotificationObserver.h"
+#include "preferences/QBYUserDefaultsController.h"
+#include "tests/harness/QuillbayTest.h"
+
+#include <functional>
+
+using Controller = QBYUserDefaultsController;
+
+class PreferenceNotificationTest : public QuillbayTest {
+protected:
+    void SetUp() override { SessionBus::start(); }
+
+    // How many change notifications other processes hear of a piece of work. The bus keeps the order, so none
+    // is on its way any more when the marker that is posted after it has come.
+    static int postsDuring(const std::function<void()> &work)
+    {
+        const QString marker = QStringLiteral("QBYMarkerNotification");
+        int posts = 0;
+        bool isOver = false;
+        const NotificationObserver changes(QBYPreferencesChangedNotification);
+        const NotificationObserver markers(marker);
+        QObject::connect(&changes, &NotificationObserver::posted, &changes, [&posts] { ++posts; });
+        QObject::connect(&markers, &NotificationObserver::posted, &markers, [&isOver] { isOver = true; });
+        work();
+        DistributedNotificationCenter::post(marker);
+        EXPECT_TRUE(waitUntil([&isOver] { return isOver; }));
+        return posts;
+    }
+};
+
+TEST_F(PreferenceNotificationTest, EverySetterOfAnAnnouncedPreferencePostsExactlyOnce)
+{
+    using Switch = void (*)(bool);
+    for (const Switch set : {Switch(Controller::setShowCharacterCountPreference),
+             Switch(Controller::setShowCharacterCountIncludingWhitespacePreference),
+             Switch(Controller::setShowSentencesCountPreference),
+             Switch(Controller::setShowLineCountPreference),
+             Switch(Controller::setShowHardLineBreakCountPreference),
+             Switch(Controller::setShowParagraphCountPreference),
+             Switch(Controller::setShowHardIndentParagraphCountPreference),
+             Switch(Controller::setSayWordCountOutLoudOnSaveInWatchFileMode)}) {
+        EXPECT_EQ(postsDuring([set] { set(true); }), 1);
+        EXPECT_EQ(postsDuring([set] { set(true); }), 1) << "the same value again";
+        EXPECT_EQ(postsDuring([set] { set(false); }), 1);
+    }
+    EXPECT_EQ(postsDuring([] { Controller::setMinNumberOfSentencesForParagraphCount(2); }), 1);
+    EXPECT_EQ(postsDuring([] { Controller::setCurrentPaperNamePreference(QStringLiteral("A4")); }), 1);
+}
+
+TEST_F(PreferenceNotificationTest, TheSentenceRuleAndTheMarginsPostNothing)
+{
+    EXPECT_EQ(postsDuring([] { Controller::setShouldEnforceTrailingPeriodForSentencesCount(true); }), 0);
+    EXPECT_EQ(postsDuring([] { Controller::setShouldEnforceTrailingPeriodForSentencesCount(false); }), 0);
+    EXPECT_EQ(postsDuring([] { Controller::setLeftMarginForPaperSizeLineMeasuring(1); }), 0);
+    EXPECT_EQ(postsDuring([] { Controller::setRightMarginForPaperSizeLineMeasuring(1); }), 0);
+}
+
+TEST_F(PreferenceNotificationTest, TheFirstLaunchStepPostsNothing)
+{
+    EXPECT_EQ(postsDuring(Controller::configureUserDefaultsOnApplicationLaunch), 0);
+    EXPECT_TRUE(Controller::isShowLineCountPreferenceOn());
+    EXPECT_EQ(postsDuring(Controller::configureUserDefaultsOnApplicationLaunch), 0);
+}
+
+TEST_F(PreferenceNotificationTest, ReadingPostsNothingAndPostingByHandPostsOnce)
+{
+    EXPECT_EQ(postsDuring([] { Controller::paperNameForLineMeasuring(); }), 0);
+    EXPECT_EQ(postsDuring(Controller::postPreferencesChangedNotification), 1);
+}
+
+TEST_F(PreferenceNotificationTest, WhenTheNotificationOfAnotherProcessArrivesItsValueCanBeRead)
+{
+    Controller::configureUserDefaultsOnApplicationLaunch();
+    std::vector<bool> seen;
+    const NotificationObserver observer(QBYPreferencesChangedNotification);
+    QObject::connect(&observer, &NotificationObserver::posted, &observer,
+        [&seen] { seen.push_back(Controller::isShowLineCountPreferenceOn()); });
+    const auto outcome = ChildProcess(testProgram(QStringLiteral("preference_user"))).run({}, "hide lines\n");
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_TRUE(waitUntil([&seen] { return !seen.empty(); }));
+    EXPECT_EQ(seen, std::vector<bool>{false});
+}
+
+TEST_F(PreferenceNotificationTest, AChangeThatIsNotAnnouncedIsReadByOtherProcessesAllTheSame)
+{
+    Controller::configureUserDefaultsOnApplicationLaunch();
+    EXPECT_TRUE(Controller::shouldEnforceTrailingPeriodForSentencesCount());
+    ChildProcess(testProgram(QStringLiteral("preference_user"))).run({}, "ignore-endings\n");
+    EXPECT_FALSE(Controller::shouldEnforceTrailingPeriodForSentencesCount());
+}
+
+TEST_F(PreferenceNotificationTest, WithoutABusPreferencesAreKeptAllTheSameAndOneLineIsLogged)
+{
+    ChildProcess user(testProgram(QStringLiteral("preference_user")));
+    user.withoutVariable("DBUS_SESSION_BUS_ADDRESS");
+    const auto outcome = user.run({}, "launch-and-hide lines\nhide sentences\n");
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.output, QByteArray("ready\ndone\ndone\n"));
+    EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.constData();
+    EXPECT_FALSE(Controller::isShowLineCountPreferenceOn());
+    EXPECT_FALSE(Controller::isShowSentencesCountPreferenceOn());
+    EXPECT_TRUE(Controller::isShowParagraphCountPreferenceOn());
+}
