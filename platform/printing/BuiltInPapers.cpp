@@ -7,7 +7,6 @@
 #include <paper.h>
 #include <unicode/ulocdata.h>
 
-#include <cmath>
 #include <cstdlib>
 #include <memory>
 #include <string>
@@ -15,22 +14,11 @@
 
 namespace {
 
-constexpr double pointsPerMillimetre = 72 / 25.4;
 constexpr PaperMargins genericMargins{.top = 36, .left = 18, .bottom = 36, .right = 18};
 
 Paper builtInPaper(const QString &ppdName, const QString &identifier, double width, double height)
 {
     return {ppdName, identifier, false, QSizeF(width, height), genericMargins};
-}
-
-std::optional<Paper> builtInPaperOfSize(QSizeF size)
-{
-    for (const Paper &paper : builtInPapers()) {
-        if (std::abs(paper.size.width() - size.width()) <= pointsPerMillimetre
-            && std::abs(paper.size.height() - size.height()) <= pointsPerMillimetre)
-            return paper;
-    }
-    return std::nullopt;
 }
 
 // libpaper reads its file to the end of the first word, and an endless one (a device, a pipe) for ever.
@@ -123,6 +111,15 @@ const std::vector<Paper> &builtInPapers()
         builtInPaper(QStringLiteral("EnvC5"), QStringLiteral("iso_c5_162x229mm"), 459, 649),
         builtInPaper(QStringLiteral("EnvC6"), QStringLiteral("iso_c6_114x162mm"), 323, 459)};
     return papers;
+}
+
+std::optional<Paper> builtInPaperOfSize(QSizeF size)
+{
+    for (const Paper &paper : builtInPapers()) {
+        if (isSamePaperSize(paper.size, size))
+            return paper;
+    }
+    return std::nullopt;
 }
 
 Paper builtInDefaultPaper()

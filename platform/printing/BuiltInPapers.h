@@ -11,6 +11,9 @@
 /// 36 points top and bottom.
 const std::vector<Paper> &builtInPapers();
 
+/// The paper of the catalogue with that size in points, within a millimetre.
+std::optional<Paper> builtInPaperOfSize(QSizeF size);
+
 /// The paper of the user's surroundings: what libpaper is configured to, else the paper of the region in the
 /// locale's LC_PAPER. Always a paper of builtInPapers().
 Paper builtInDefaultPaper();

@@ -6,7 +6,10 @@
 #include <QSizeF>
 #include <QString>
 
+#include <cmath>
 #include <optional>
+
+constexpr double pointsPerMillimetre = 72 / 25.4;
 
 /// Points (1/72 inch).
 struct PaperMargins {
@@ -19,7 +22,8 @@ struct PaperMargins {
 };
 
 struct Paper {
-    std::optional<QString> ppdName; ///< its name in printer descriptions, such as "Letter"; absent if it has none
+    std::optional<QString>
+        ppdName; ///< its name in printer descriptions, such as "Letter"; absent if it has none
     std::optional<QString> identifier; ///< the printing system's own; absent if it has none
     bool isCustom = false;
     QSizeF size; ///< points
@@ -27,3 +31,19 @@ struct Paper {
 
     bool operator==(const Paper &) const = default;
 };
+
+/// Whether a sheet can have that size in points: from nothing to 100,000 (35 metres) a side.
+inline bool isPossiblePaperSize(QSizeF size)
+{
+    constexpr double longestSide = 100'000;
+    return size.width() > 0 && size.width() <= longestSide && size.height() > 0
+        && size.height() <= longestSide;
+}
+
+/// Whether two sizes in points are the same sheet. They may differ by a millimetre: printing systems round to
+/// whole points here and to hundredths of a millimetre there.
+inline bool isSamePaperSize(QSizeF size, QSizeF other)
+{
+    return std::abs(size.width() - other.width()) <= pointsPerMillimetre
+        && std::abs(size.height() - other.height()) <= pointsPerMillimetre;
+}

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "platform/printing/CupsAnswers.h"
+
+#include "platform/printing/BuiltInPapers.h"
+#include "platform/printing/PrinterDescription.h"
+
+#include <QByteArrayList>
+
+#include <cups/cups.h>
+#include <cups/pwg.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int mostPapers = 1000;
+
+// A media keyword of the printer with the size that it describes itself to have.
+struct Medium {
+    QByteArray keyword;
+    QSizeF size; // points
+};
+
+QByteArrayList strings(ipp_t *message, const char *name)
+{
+    QByteArrayList values;
+    ipp_attribute_t *attribute = ippFindAttribute(message, name, IPP_TAG_ZERO);
+    const int count = std::min(ippGetCount(attribute), mostPapers);
+    for (int index = 0; index < count; ++index) {
+        if (const char *value = ippGetString(attribute, index, nullptr))
+            values.append(value);
+    }
+    return values;
+}
+
+QSizeF inPoints(int width, int length)
+{
+    return QSizeF(width, length) * pointsPerMillimetre / 100;
+}
+
+std::vector<Medium> supportedMedia(ipp_t *attributes)
+{
+    std::vector<Medium> media;
+    for (const QByteArray &keyword : strings(attributes, "media-supported")) {
+        if (const pwg_media_t *medium = pwgMediaForPWG(keyword.constData()))
+            media.push_back({keyword, inPoints(medium->width, medium->length)});
+    }
+    return media;
+}
+
+// In hundredths of a millimetre; 0 if the collection does not have it, or as a range.
+int length(ipp_t *collection, const char *name)
+{
+    return ippGetInteger(ippFindAttribute(collection, name, IPP_TAG_INTEGER), 0);
+}
+
+std::vector<Paper> papersOfDatabase(ipp_t *attributes)
+{
+    std::vector<Paper> papers;
+    ipp_attribute_t *database = ippFindAttribute(attributes, "media-col-database", IPP_TAG_BEGIN_COLLECTION);
+    const int count = std::min(ippGetCount(database), mostPapers);
+    for (int index = 0; index < count; ++index) {
+        ipp_t *entry = ippGetCollection(database, index);
+        ipp_t *size = ippGetCollection(ippFindAttribute(entry, "media-size", IPP_TAG_BEGIN_COLLECTION), 0);
+        const auto margin = [entry](const char *name) {
+            return std::max(0, length(entry, name)) * pointsPerMillimetre / 100;
+        };
+        Paper paper;
+        paper.size = inPoints(length(size, "x-dimension"), length(size, "y-dimension"));
+        paper.margins = {.top = margin("media-top-margin"),
+            .left = margin("media-left-margin"),
+            .bottom = margin("media-bottom-margin"),
+            .right = margin("media-right-margin")};
+        if (isPossiblePaperSize(paper.size))
+            papers.push_back(paper);
+    }
+    return papers;
+}
+
+void identify(Paper &paper, const std::vector<Medium> &media)
+{
+    const auto medium = std::find_if(media.begin(), media.end(),
+        [&](const Medium &other) { return isSamePaperSize(other.size, paper.size); });
+    if (medium != media.end()) {
+        paper.identifier = QString::fromUtf8(medium->keyword);
+        paper.isCustom = medium->keyword.startsWith("custom_");
+    }
+    if (const std::optional<Paper> known = builtInPaperOfSize(paper.size)) {
+        paper.size = known->size;
+        if (!paper.ppdName)
+            paper.ppdName = known->ppdName;
+    }
+}
+
+// The paper that one word of a "media" option means: a name of a printer description, a keyword of the
+// printer, or one of the older keywords such as "iso-a4".
+std::optional<Paper> paperMeant(const std::vector<Paper> &papers, const QByteArray &word)
+{
+    const QString name = QString::fromUtf8(word);
+    for (const Paper &paper : papers) {
+        if (paper.identifier == name
+            || (paper.ppdName && paper.ppdName->compare(name, Qt::CaseInsensitive) == 0))
+            return paper;
+    }
+    const pwg_media_t *medium = pwgMediaForPWG(word.constData());
+    if (!medium)
+        medium = pwgMediaForLegacy(word.constData());
+    if (!medium)
+        medium = pwgMediaForPPD(word.constData());
+    if (!medium)
+        return std::nullopt;
+    const auto found = std::find_if(
+        papers.begin(), papers.end(), [size = inPoints(medium->width, medium->length)](const Paper &paper) {
+            return isSamePaperSize(paper.size, size);
+        });
+    return found == papers.end() ? std::nullopt : std::optional(*found);
+}
+
+std::optional<Paper> defaultPaper(const std::vector<Paper> &papers, const CupsAnswers &answers,
+    const std::optional<QString> &describedDefault)
+{
+    // "media" may name tray and type as well, as in "A4,Upper". CUPS lets PageSize win.
+    QByteArrayList words{answers.pageSizeOption};
+    words += answers.mediaOption.split(',');
+    if (describedDefault)
+        words += describedDefault->toUtf8();
+    words += strings(answers.attributes, "media-default");
+    for (const QByteArray &word : words) {
+        if (const std::optional<Paper> paper = paperMeant(papers, word))
+            return paper;
+    }
+    return std::nullopt;
+}
+
+double pageScale(const QByteArray &scalingOption)
+{
+    constexpr double largestScale = 1000;
+    bool isNumber = false;
+    const double scale = scalingOption.toDouble(&isNumber);
+    return isNumber && scale > 0 && scale <= largestScale ? scale : 100;
+}
+
+} // namespace
+
+Printer printerInAnswers(const CupsAnswers &answers)
+{
+    PrinterDescription description = printerDescription(answers.descriptionFile);
+    Printer printer;
+    printer.papers =
+        description.papers.empty() ? papersOfDatabase(answers.attributes) : std::move(description.papers);
+    const std::vector<Medium> media = supportedMedia(answers.attributes);
+    for (Paper &paper : printer.papers)
+        identify(paper, media);
+    printer.defaultPaper = defaultPaper(printer.papers, answers, description.defaultPaperName);
+    printer.pageScale = pageScale(answers.scalingOption);
+    return printer;
+}

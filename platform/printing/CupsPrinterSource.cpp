@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "platform/printing/CupsPrinterSource.h"
+
+#include "platform/printing/CupsAnswers.h"
+
+#include <cups/cups.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstring>
+#include <memory>
+#include <mutex>
+
+namespace {
+
+constexpr qsizetype mostDescriptionBytes = 4 * 1024 * 1024;
+constexpr int silenceLimit = 20; // seconds
+
+struct CupsDeleter {
+    void operator()(http_t *connection) const { httpClose(connection); }
+    void operator()(ipp_t *message) const { ippDelete(message); }
+    void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
+};
+using Connection = std::unique_ptr<http_t, CupsDeleter>;
+using Message = std::unique_ptr<ipp_t, CupsDeleter>;
+using Destination = std::unique_ptr<cups_dest_t, CupsDeleter>;
+
+void initializeCups()
+{
+    // The first use of CUPS ignores SIGPIPE for the whole process, whose other writers may rest on it.
+    static std::once_flag once;
+    std::call_once(once, [] {
+        struct sigaction before { };
+        ::sigaction(SIGPIPE, nullptr, &before);
+        httpInitialize();
+        ::sigaction(SIGPIPE, &before, nullptr);
+    });
+    // Where a server wants a password, CUPS would ask for it in the terminal.
+    cupsSetPasswordCB2(
+        [](const char *, http_t *, const char *, const char *, void *) -> const char * { return nullptr; },
+        nullptr);
+}
+
+Connection connection()
+{
+    Connection http(httpConnect2(
+        cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, silenceLimit * 1000, nullptr));
+    if (http)
+        httpSetTimeout(
+            http.get(), silenceLimit, [](http_t *, void *) { return 0; }, nullptr);
+    return http;
+}
+
+// What it means that no connection came about. A server elsewhere may have printers though it cannot be
+// reached now; one of this machine that does not run has none. CUPS does not tell why it could not connect.
+PrinterFailure failureToConnect()
+{
+    const char *server = cupsServer();
+    if (std::strcmp(server, "localhost") == 0)
+        return PrinterFailure::NoPrinter;
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (*server != '/' || std::strlen(server) >= sizeof address.sun_path)
+        return PrinterFailure::NotAnswering;
+    std::strcpy(address.sun_path, server);
+    const int probe = ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    const bool isRefused = ::connect(probe, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
+        && (errno == ENOENT || errno == ECONNREFUSED);
+    ::close(probe);
+    return isRefused ? PrinterFailure::NoPrinter : PrinterFailure::NotAnswering;
+}
+
+Message request(
+    http_t *http, ipp_op_t operation, const char *printerUri, std::initializer_list<const char *> attributes)
+{
+    ipp_t *message = ippNewRequest(operation);
+    if (printerUri)
+        ippAddString(message, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, printerUri);
+    else
+        ippAddInteger(message, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "limit", 1);
+    ippAddStrings(message, IPP_TAG_OPERATION, IPP_CONST_TAG(IPP_TAG_KEYWORD), "requested-attributes",
+        static_cast<int>(attributes.size()), nullptr, attributes.begin());
+    return Message(cupsDoRequest(http, message, "/"));
+}
+
+// The library's own look-up of the default destination reports a silent server as one without printers, so
+// the server is asked for its queues first.
+Result<QByteArray, PrinterFailure> firstQueue(http_t *http)
+{
+    const Message answer = request(http, IPP_OP_CUPS_GET_PRINTERS, nullptr, {"printer-name"});
+    if (!answer)
+        return PrinterFailure::NotAnswering;
+    const ipp_status_t status = ippGetStatusCode(answer.get());
+    if (status == IPP_STATUS_ERROR_NOT_FOUND)
+        return PrinterFailure::NoPrinter;
+    if (status > IPP_STATUS_OK_EVENTS_COMPLETE)
+        return PrinterFailure::NotAnswering;
+    const char *name = ippGetString(ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME), 0, nullptr);
+    if (!name)
+        return PrinterFailure::NoPrinter;
+    return QByteArray(name);
+}
+
+QByteArray option(const cups_dest_t &destination, const char *name)
+{
+    return cupsGetOption(name, destination.num_options, destination.options);
+}
+
+Destination queueOfDefaultDestination(http_t *http, const QByteArray &firstQueue)
+{
+    Destination destination(cupsGetNamedDest(http, nullptr, nullptr));
+    if (!destination || option(*destination, "printer-uri-supported").isEmpty())
+        destination.reset(cupsGetNamedDest(http, firstQueue.constData(), nullptr));
+    return destination;
+}
+
+// Absent if the server did not answer, empty if it has none.
+std::optional<QByteArray> descriptionFile(http_t *http, const char *queue)
+{
+    const QByteArray resource = "/printers/" + QByteArray(queue) + ".ppd";
+    httpClearFields(http);
+    if (httpGet(http, resource.constData()) != 0)
+        return std::nullopt;
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE)
+        status = httpUpdate(http);
+    if (status == HTTP_STATUS_ERROR)
+        return std::nullopt;
+    if (status != HTTP_STATUS_OK)
+        return QByteArray();
+    QByteArray file;
+    char piece[16 * 1024];
+    ssize_t size = 0;
+    while (file.size() < mostDescriptionBytes && (size = httpRead2(http, piece, sizeof piece)) > 0)
+        file.append(piece, size);
+    return size < 0 ? std::nullopt : std::optional(file);
+}
+
+} // namespace
+
+Result<Printer, PrinterFailure> CupsPrinterSource::ask()
+{
+    initializeCups();
+    const Connection http = connection();
+    if (!http)
+        return failureToConnect();
+    const Result<QByteArray, PrinterFailure> queue = firstQueue(http.get());
+    if (!queue)
+        return queue.error();
+    const Destination destination = queueOfDefaultDestination(http.get(), queue.value());
+    if (!destination)
+        return PrinterFailure::NotAnswering;
+    const Message attributes = request(http.get(), IPP_OP_GET_PRINTER_ATTRIBUTES,
+        option(*destination, "printer-uri-supported").constData(),
+        {"media-supported", "media-default", "media-col-database"});
+    const std::optional<QByteArray> file = descriptionFile(http.get(), destination->name);
+    if (!attributes || ippGetStatusCode(attributes.get()) > IPP_STATUS_OK_EVENTS_COMPLETE || !file)
+        return PrinterFailure::NotAnswering;
+
+    return printerInAnswers({.attributes = attributes.get(),
+        .descriptionFile = *file,
+        .pageSizeOption = option(*destination, "PageSize"),
+        .mediaOption = option(*destination, "media"),
+        .scalingOption = option(*destination, "scaling")});
+}

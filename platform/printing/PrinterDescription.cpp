@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "platform/printing/PrinterDescription.h"
+
+#include <QByteArray>
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype mostPapers = 1000;
+
+// *Keyword Option/Translation: "value"
+struct Statement {
+    QByteArrayView keyword;
+    QByteArrayView option;
+    QByteArrayView value;
+};
+
+std::optional<Statement> parsedStatement(QByteArrayView line)
+{
+    const qsizetype colon = line.indexOf(':');
+    if (!line.startsWith('*') || line.startsWith("*%") || colon < 0)
+        return std::nullopt;
+    const QByteArrayView head = line.first(colon).trimmed();
+    QByteArrayView value = line.sliced(colon + 1).trimmed();
+    if (value.startsWith('"'))
+        value = value.sliced(1);
+    if (value.endsWith('"'))
+        value.chop(1);
+    const auto space = std::find_if(head.begin(), head.end(), [](char c) { return c == ' ' || c == '\t'; });
+    const QByteArrayView keyword(head.begin(), space);
+    const QByteArrayView option = QByteArrayView(space, head.end()).trimmed();
+    const qsizetype slash = option.indexOf('/');
+    return Statement{keyword, slash < 0 ? option : option.first(slash).trimmed(), value};
+}
+
+// Exactly as many numbers as asked for, else none.
+std::vector<double> numbersIn(QByteArrayView text, size_t count)
+{
+    std::vector<double> numbers;
+    for (const QByteArray &word : text.toByteArray().simplified().split(' ')) {
+        bool isNumber = false;
+        numbers.push_back(word.toDouble(&isNumber));
+        if (!isNumber || !std::isfinite(numbers.back()) || numbers.size() > count)
+            return {};
+    }
+    return numbers.size() == count ? numbers : std::vector<double>();
+}
+
+struct Measures {
+    std::vector<double> dimension; // width, height
+    std::vector<double> imageableArea; // left, bottom, right, top, from the lower left corner
+};
+
+std::optional<Paper> paperWith(const QByteArray &name, const Measures &measures)
+{
+    if (measures.dimension.empty())
+        return std::nullopt;
+    Paper paper;
+    paper.ppdName = QString::fromUtf8(name);
+    paper.size = QSizeF(measures.dimension[0], measures.dimension[1]);
+    if (!isPossiblePaperSize(paper.size))
+        return std::nullopt;
+    if (!measures.imageableArea.empty()) {
+        const std::vector<double> &area = measures.imageableArea;
+        paper.margins = {.top = std::max(0.0, paper.size.height() - area[3]),
+            .left = std::max(0.0, area[0]),
+            .bottom = std::max(0.0, area[1]),
+            .right = std::max(0.0, paper.size.width() - area[2])};
+    }
+    return paper;
+}
+
+} // namespace
+
+PrinterDescription printerDescription(QByteArrayView file)
+{
+    QList<QByteArray> choices;
+    QHash<QByteArray, Measures> measuresOfChoices;
+    PrinterDescription description;
+    while (!file.isEmpty()) {
+        const auto lineEnd =
+            std::find_if(file.begin(), file.end(), [](char c) { return c == '\n' || c == '\r'; });
+        const std::optional<Statement> statement = parsedStatement(QByteArrayView(file.begin(), lineEnd));
+        file = QByteArrayView(lineEnd == file.end() ? lineEnd : lineEnd + 1, file.end());
+        if (!statement)
+            continue;
+        if (statement->keyword == "*DefaultPageSize" && statement->value != "Unknown")
+            description.defaultPaperName = QString::fromUtf8(statement->value);
+        if (statement->option.isEmpty() || measuresOfChoices.size() >= 3 * mostPapers)
+            continue;
+        const QByteArray option = statement->option.toByteArray();
+        if (statement->keyword == "*PageSize" && choices.size() < mostPapers)
+            choices.append(option);
+        else if (statement->keyword == "*PaperDimension")
+            measuresOfChoices[option].dimension = numbersIn(statement->value, 2);
+        else if (statement->keyword == "*ImageableArea")
+            measuresOfChoices[option].imageableArea = numbersIn(statement->value, 4);
+    }
+    for (const QByteArray &choice : choices) {
+        if (std::optional<Paper> paper = paperWith(choice, measuresOfChoices.value(choice)))
+            description.papers.push_back(*std::move(paper));
+    }
+    return description;
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// Asks the shared print settings once, prints what they say and leaves, whatever still runs in the
+// background.
+#include "platform/printing/PrintSettings.h"
+
+#include <csignal>
+#include <iostream>
+
+int main()
+{
+    switch (PrintSettings::shared().printer().state) {
+    case PrinterState::Answering:
+        std::cout << "answering\n";
+        break;
+    case PrinterState::NoPrinter:
+        std::cout << "no printer\n";
+        break;
+    case PrinterState::NotAnswering:
+        std::cout << "not answering\n";
+        break;
+    }
+    struct sigaction pipe { };
+    ::sigaction(SIGPIPE, nullptr, &pipe);
+    std::cout << (pipe.sa_handler == SIG_DFL ? "SIGPIPE as before\n" : "SIGPIPE changed\n");
+    return 0;
+}
