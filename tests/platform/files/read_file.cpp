@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// Reads the file that it is given and prints how many bytes that were, or why it could not be read.
+#include "platform/files/FileContents.h"
+
+#include <cstdio>
+
+int main(int argumentCount, char **arguments)
+{
+    const auto contents = argumentCount == 2 ? readFile(arguments[1]) : readDescriptor(0);
+    if (contents)
+        std::printf("%lld bytes", static_cast<long long>(contents.value().size()));
+    else
+        std::fputs(qPrintable(causeText(contents.error())), stdout);
+    return 0;
+}
