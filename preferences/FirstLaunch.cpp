@@ -2,30 +2,29 @@
 #include "preferences/FirstLaunch.h"
 
 #include "platform/logging/LogChannel.h"
-#include "platform/printing/BuiltInPapers.h"
+#include "platform/printing/PrintSettings.h"
 #include "preferences/PreferenceTable.h"
+#include "preferences/QBYPaper.h"
+
+#include <cerrno>
 
 namespace {
 
-double inches(double points)
+void addPaper(std::vector<DefaultsEntry> &entries, const QBYPaper &paper)
 {
-    constexpr double pointsPerInch = 72;
-    return points / pointsPerInch;
-}
-
-void addPaper(std::vector<DefaultsEntry> &entries, const Paper &paper)
-{
-    if (paper.ppdName)
-        entries.push_back({keyOf(Preference::PaperName), *paper.ppdName});
-    entries.push_back({keyOf(Preference::LeftMargin), inches(paper.margins.left)});
-    entries.push_back({keyOf(Preference::RightMargin), inches(paper.margins.right)});
+    if (paper.paperName())
+        entries.push_back({keyOf(Preference::PaperName), *paper.paperName()});
+    entries.push_back({keyOf(Preference::LeftMargin), paper.leftMarginInInches()});
+    entries.push_back({keyOf(Preference::RightMargin), paper.rightMarginInInches()});
 }
 
 } // namespace
 
 Result<Paper, PrintingStatus> systemDefaultPaper()
 {
-    return builtInDefaultPaper();
+    if (const std::optional<Paper> paper = PrintSettings::shared().printer().defaultPaper)
+        return *paper;
+    return PrintingStatus{ETIMEDOUT};
 }
 
 void writeFirstLaunchDefaults(UserDefaults &defaults, const DefaultPaperLookup &lookUpDefaultPaper)
@@ -35,7 +34,7 @@ void writeFirstLaunchDefaults(UserDefaults &defaults, const DefaultPaperLookup &
         return;
     std::vector<DefaultsEntry> entries = fixedFirstLaunchDefaults();
     if (const auto paper = lookUpDefaultPaper()) {
-        addPaper(entries, paper.value());
+        addPaper(entries, QBYPaper(paper.value()));
     } else {
         LogChannel::standard().error(u"Error getting default paper name/margins!");
         LogChannel::standard().error(u"{}", {paper.error().code});

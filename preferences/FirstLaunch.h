@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The first-launch step: the preferences of a user who has never had any.
-// Thread: any.
+// Thread: main, as the print settings are.
 #pragma once
 
 #include "platform/base/Result.h"
@@ -16,7 +16,8 @@ struct PrintingStatus {
 
 using DefaultPaperLookup = std::function<Result<Paper, PrintingStatus>()>;
 
-/// The paper that new users get.
+/// The paper that new users get: the default of the shared print settings. ETIMEDOUT where a printer does not
+/// answer within their limit.
 Result<Paper, PrintingStatus> systemDefaultPaper();
 
 /// Writes the defaults in one transaction, unless they have been written before, by this process or by any

@@ -27,7 +27,7 @@ public:
     static UserDefaults &sharedUserDefaults();
 
     /// The first-launch step: gives a user who has no preferences yet the product's. Does nothing at all
-    /// after that, and never posts.
+    /// after that, and never posts. Thread: main, as it asks the print settings for the default paper.
     static void configureUserDefaultsOnApplicationLaunch();
 
     static void postPreferencesChangedNotification();

@@ -33,13 +33,14 @@ PrinterAnswer builtInAnswer(PrinterState state)
     return answer;
 }
 
-// The user's surroundings choose where neither user nor printer does, and the printer knows its own margins.
+// The surroundings choose where neither user nor printer does, but only a paper that the printer takes:
+// whoever looks the default up by its name must find it.
 Paper surroundingsPaper(const std::vector<Paper> &papers)
 {
-    const Paper wanted = builtInDefaultPaper();
-    const auto found = std::find_if(papers.begin(), papers.end(),
-        [&](const Paper &paper) { return isSamePaperSize(paper.size, wanted.size); });
-    return found == papers.end() ? wanted : *found;
+    const QSizeF size = builtInDefaultPaper().size;
+    const auto found = std::find_if(
+        papers.begin(), papers.end(), [&](const Paper &paper) { return isSamePaperSize(paper.size, size); });
+    return found == papers.end() ? papers.front() : *found;
 }
 
 PrinterAnswer answerFrom(const Result<Printer, PrinterFailure> &result)

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "preferences/PrintSettingsExtension.h"
+
+#include "platform/logging/LogChannel.h"
+#include "platform/printing/PrintSettings.h"
+#include "preferences/QBYUserDefaultsController.h"
+
+#include <algorithm>
+
+namespace {
+
+std::optional<QBYPaper> paperNamed(const std::vector<Paper> &papers, const QString &name)
+{
+    const auto found =
+        std::find_if(papers.begin(), papers.end(), [&](const Paper &paper) { return paper.ppdName == name; });
+    return found == papers.end() ? std::nullopt : std::optional<QBYPaper>(*found);
+}
+
+} // namespace
+
+std::vector<QBYPaper> QBYExtension::getAllPaperObjects(PrintSettings &printSettings)
+{
+    const std::vector<Paper> papers = printSettings.printer().papers;
+    return {papers.begin(), papers.end()};
+}
+
+std::optional<QBYPaper> QBYExtension::paperObjectForPaperName(
+    PrintSettings &printSettings, const QString &paperName)
+{
+    return paperNamed(printSettings.printer().papers, paperName);
+}
+
+std::optional<QBYPaper> QBYExtension::currentPaperObject(PrintSettings &printSettings)
+{
+    std::optional<QString> name = QBYUserDefaultsController::paperNameForLineMeasuring();
+    if (!name) {
+        LogChannel::standard().error(u"Error retrieving current paper name. Defaulting to Letter.");
+        name = QStringLiteral("Letter");
+    }
+    // One answer for both looks: between two the printer could begin to answer, with a list that has the
+    // paper.
+    const PrinterAnswer printer = printSettings.printer();
+    if (const std::optional<QBYPaper> paper = paperNamed(printer.papers, *name))
+        return paper;
+    LogChannel::standard().error(u"Error instantiating paper object...attempt to restore default.");
+    if (!printer.defaultPaper || !printer.defaultPaper->ppdName)
+        return std::nullopt;
+    QBYUserDefaultsController::setCurrentPaperNamePreference(*printer.defaultPaper->ppdName);
+    return paperNamed(printer.papers, *printer.defaultPaper->ppdName);
+}
