@@ -6,12 +6,12 @@
 #include "platform/styled_text/DocumentLoader.h"
 #include "preferences/QBYUserDefaultsController.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <new>
 
 namespace {
@@ -27,6 +27,22 @@ qint64 sizeOfAll(const QByteArrayList &names)
             sum += status.st_size;
     }
     return sum;
+}
+
+// A list may be a pipe, unlike a document: shells make one of "--files-from <(find …)".
+Result<QByteArray, FileError> readList(const QByteArray &name)
+{
+    if (name == standardInput)
+        return readDescriptor(STDIN_FILENO);
+    Result<QByteArray, FileError> list = readFile(name);
+    if (list || list.error().cause != FileError::Cause::NamedPipe)
+        return list;
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return list;
+    list = readDescriptor(descriptor);
+    ::close(descriptor);
+    return list;
 }
 
 } // namespace
@@ -46,7 +62,7 @@ int CountCommand::run()
     if (names.size() > 1)
         print(report->total(m_total));
     if (std::fflush(stdout) != 0)
-        fail("standard output", std::strerror(errno));
+        fail("standard output", qt_error_string(errno));
     return m_hasFailed ? 1 : 0;
 }
 
@@ -55,11 +71,9 @@ QByteArrayList CountCommand::inputNames()
     QByteArrayList names = m_arguments.fileNames;
     if (!m_arguments.listName)
         return names;
-    const Result<QByteArray, FileError> list = *m_arguments.listName == standardInput
-        ? readDescriptor(STDIN_FILENO)
-        : readFile(*m_arguments.listName);
+    const Result<QByteArray, FileError> list = readList(*m_arguments.listName);
     if (!list) {
-        fail(*m_arguments.listName, causeText(list.error()).toUtf8());
+        fail(*m_arguments.listName, causeText(list.error()));
         return names;
     }
     return names + namesInList(list.value());
@@ -69,18 +83,18 @@ void CountCommand::countFile(const QByteArray &name, CountReport &report, Progre
 {
     // Every step makes buffers as large as the document.
     try {
-        Result<AttributedString, LoadError> text
-            = name == standardInput ? loadDocument(STDIN_FILENO) : loadDocument(name);
+        Result<AttributedString, LoadError> text =
+            name == standardInput ? loadDocument(STDIN_FILENO) : loadDocument(name);
         if (!text) {
             progress.hide();
-            fail(name, causeText(text.error()).toUtf8());
+            fail(name, causeText(text.error()));
             return;
         }
         progress.startCounting(text.value().length());
         m_model.setAttributedStringToCount(text.value());
     } catch (const std::bad_alloc &) {
         progress.hide();
-        fail(name, "not enough memory");
+        fail(name, causeText(FileError{FileError::Cause::NotEnoughMemory}));
         return;
     }
     progress.hide();
@@ -91,12 +105,12 @@ void CountCommand::countFile(const QByteArray &name, CountReport &report, Progre
     m_total += m_model.statsRepresentation();
 }
 
-void CountCommand::fail(const QByteArray &name, const QByteArray &cause)
+void CountCommand::fail(const QByteArray &name, const QString &cause)
 {
     m_hasFailed = true;
     // What was printed so far comes first where both streams end in one place.
     std::fflush(stdout);
-    std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(), cause.constData());
+    std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(), cause.toUtf8().constData());
 }
 
 void CountCommand::print(const QByteArray &text)

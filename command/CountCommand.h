@@ -23,9 +23,8 @@ public:
 
 private:
     [[nodiscard]] QByteArrayList inputNames();
-    [[nodiscard]] std::optional<AttributedString> load(const QByteArray &name);
     void countFile(const QByteArray &name, CountReport &report, ProgressLine &progress);
-    void fail(const QByteArray &name, const QByteArray &cause);
+    void fail(const QByteArray &name, const QString &cause);
     void print(const QByteArray &text);
 
     const CountArguments m_arguments;

@@ -16,4 +16,17 @@ struct QBYWordCounterStats {
     quint64 numberOfIndentedParagraphs = 0;
 
     bool operator==(const QBYWordCounterStats &) const = default;
+
+    QBYWordCounterStats &operator+=(const QBYWordCounterStats &other)
+    {
+        numberOfWords += other.numberOfWords;
+        numberOfCharacters += other.numberOfCharacters;
+        numberOfCharactersIncludingWhitespace += other.numberOfCharactersIncludingWhitespace;
+        numberOfSentences += other.numberOfSentences;
+        numberOfLines += other.numberOfLines;
+        numberOfHardLineBreaks += other.numberOfHardLineBreaks;
+        numberOfParagraphs += other.numberOfParagraphs;
+        numberOfIndentedParagraphs += other.numberOfIndentedParagraphs;
+        return *this;
+    }
 };

@@ -4,6 +4,9 @@
 
 #include "tests/harness/QuillbayTest.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 class CommandTest : public QuillbayTest {
 protected:
     static ChildProcess::Outcome quillbay(const QByteArrayList &words, const QByteArray &input = {})
