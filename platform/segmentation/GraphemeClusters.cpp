@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+#include "platform/segmentation/GraphemeClusters.h"
+
+#include <unicode/uchar.h>
+#include <unicode/uscript.h>
+
+namespace {
+
+qsizetype lengthOf(char32_t character)
+{
+    return character > 0xFFFF ? 2 : 1;
+}
+
+UGraphemeClusterBreak breakClass(char32_t character)
+{
+    return static_cast<UGraphemeClusterBreak>(
+        u_getIntPropertyValue(static_cast<UChar32>(character), UCHAR_GRAPHEME_CLUSTER_BREAK));
+}
+
+bool isPictograph(char32_t character)
+{
+    return u_hasBinaryProperty(static_cast<UChar32>(character), UCHAR_EXTENDED_PICTOGRAPHIC);
+}
+
+bool isControl(UGraphemeClusterBreak value)
+{
+    return value == U_GCB_CONTROL || value == U_GCB_CR || value == U_GCB_LF;
+}
+
+// The conjuncts of these scripts are one cluster, as in ICU's root rules: consonant, virama, consonant.
+bool hasConjuncts(char32_t character)
+{
+    if (character < 0x900 || character >= 0xD80)
+        return false;
+    UErrorCode status = U_ZERO_ERROR;
+    switch (uscript_getScript(static_cast<UChar32>(character), &status)) {
+    case USCRIPT_BENGALI:
+    case USCRIPT_DEVANAGARI:
+    case USCRIPT_GUJARATI:
+    case USCRIPT_MALAYALAM:
+    case USCRIPT_ORIYA:
+    case USCRIPT_TELUGU:
+        return true;
+    default:
+        return false;
+    }
+}
+
+int syllabicCategory(char32_t character)
+{
+    return hasConjuncts(character)
+        ? u_getIntPropertyValue(static_cast<UChar32>(character), UCHAR_INDIC_SYLLABIC_CATEGORY)
+        : U_INSC_OTHER;
+}
+
+bool continuesSyllable(UGraphemeClusterBreak before, UGraphemeClusterBreak after)
+{
+    switch (before) {
+    case U_GCB_L:
+        return after == U_GCB_L || after == U_GCB_V || after == U_GCB_LV || after == U_GCB_LVT;
+    case U_GCB_LV:
+    case U_GCB_V:
+        return after == U_GCB_V || after == U_GCB_T;
+    case U_GCB_LVT:
+    case U_GCB_T:
+        return after == U_GCB_T;
+    default:
+        return false;
+    }
+}
+
+// What the rules must remember of the cluster so far, besides its last character.
+struct Cluster {
+    UGraphemeClusterBreak last;
+    bool endsInPictograph; // and perhaps Extend behind it: the left side of GB11, up to its ZWJ
+    int regionalIndicators;
+    enum class Conjunct { None, Consonant, Linked } conjunct; // how much of one stands at the end
+
+    [[nodiscard]] bool isContinuedBy(char32_t character, UGraphemeClusterBreak value) const
+    {
+        if (last == U_GCB_CR)
+            return value == U_GCB_LF;
+        if (isControl(last) || isControl(value))
+            return false;
+        if (value == U_GCB_EXTEND || value == U_GCB_ZWJ || value == U_GCB_SPACING_MARK
+            || last == U_GCB_PREPEND)
+            return true;
+        if (last == U_GCB_ZWJ && endsInPictograph)
+            return isPictograph(character);
+        if (value == U_GCB_REGIONAL_INDICATOR)
+            return last == U_GCB_REGIONAL_INDICATOR && regionalIndicators == 1;
+        if (conjunct == Conjunct::Linked && syllabicCategory(character) == U_INSC_CONSONANT)
+            return true;
+        return continuesSyllable(last, value);
+    }
+
+    void add(char32_t character, UGraphemeClusterBreak value)
+    {
+        if (value != U_GCB_EXTEND && value != U_GCB_ZWJ)
+            endsInPictograph = isPictograph(character);
+        else if (last == U_GCB_ZWJ)
+            endsInPictograph = false; // GB11 has one ZWJ, right before the second picture
+        regionalIndicators = value == U_GCB_REGIONAL_INDICATOR ? regionalIndicators + 1 : 0;
+        addToConjunct(character, value);
+        last = value;
+    }
+
+    void addToConjunct(char32_t character, UGraphemeClusterBreak value)
+    {
+        const int category = syllabicCategory(character);
+        const bool isPassedOver = value == U_GCB_ZWJ
+            || (value == U_GCB_EXTEND && u_getCombiningClass(static_cast<UChar32>(character)) != 0);
+        if (category == U_INSC_CONSONANT)
+            conjunct = Conjunct::Consonant;
+        else if (category == U_INSC_VIRAMA && conjunct != Conjunct::None)
+            conjunct = Conjunct::Linked;
+        else if (!isPassedOver)
+            conjunct = Conjunct::None;
+    }
+};
+
+} // namespace
+
+char32_t codePointAt(QStringView text, qsizetype position)
+{
+    const char16_t unit = text.utf16()[position];
+    if (!QChar::isSurrogate(unit))
+        return unit;
+    if (QChar::isHighSurrogate(unit) && position + 1 < text.size()) {
+        const char16_t low = text.utf16()[position + 1];
+        if (QChar::isLowSurrogate(low))
+            return QChar::surrogateToUcs4(unit, low);
+    }
+    return QChar::ReplacementCharacter;
+}
+
+qsizetype graphemeClusterEnd(QStringView text, qsizetype start)
+{
+    const char32_t first = codePointAt(text, start);
+    qsizetype end = start + lengthOf(first);
+    // Latin text, nearly always: what follows is below the first combining mark.
+    constexpr char16_t firstMark = 0x300;
+    if (first < firstMark && first != u'\r' && (end >= text.size() || text.utf16()[end] < firstMark)
+        && first != 0xA9 && first != 0xAE)
+        return end;
+    Cluster cluster{U_GCB_OTHER, false, 0, Cluster::Conjunct::None};
+    cluster.add(first, breakClass(first));
+    while (end < text.size()) {
+        const char32_t next = codePointAt(text, end);
+        const UGraphemeClusterBreak value = breakClass(next);
+        if (!cluster.isContinuedBy(next, value))
+            break;
+        cluster.add(next, value);
+        end += lengthOf(next);
+    }
+    return end;
+}
+
+bool continuesGraphemeCluster(char32_t character)
+{
+    if (character < 0x300)
+        return false;
+    switch (breakClass(character)) {
+    case U_GCB_EXTEND:
+    case U_GCB_ZWJ:
+    case U_GCB_SPACING_MARK:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isEmojiCluster(QStringView cluster)
+{
+    constexpr char16_t asText = 0xFE0E;
+    constexpr char16_t asPicture = 0xFE0F;
+    if (cluster.isEmpty() || cluster.utf16()[0] < 0x23)
+        return false;
+    const char32_t first = codePointAt(cluster, 0);
+    const qsizetype behind = lengthOf(first);
+    if (behind < cluster.size()) {
+        const char16_t selector = cluster.utf16()[behind];
+        if (selector == asText)
+            return false;
+        if (selector == asPicture && u_hasBinaryProperty(static_cast<UChar32>(first), UCHAR_EMOJI))
+            return true;
+    }
+    return u_hasBinaryProperty(static_cast<UChar32>(first), UCHAR_EMOJI_PRESENTATION);
+}
+
+bool isDefaultIgnorable(char32_t character)
+{
+    return character >= 0xAD
+        && u_hasBinaryProperty(static_cast<UChar32>(character), UCHAR_DEFAULT_IGNORABLE_CODE_POINT);
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// FontFace is one font file, loaded for shaping. Its unit is the font unit, unitsPerEm() to the em: advances
+// are whole, unhinted, and the same at every size.
+// Thread: one at a time.  Owner: FontLibrary.
+#pragma once
+
+#include "platform/text_layout/FontCatalogue.h"
+
+#include <memory>
+
+typedef struct hb_font_t hb_font_t;
+
+class FontFace {
+public:
+    /// The source must outlive the face. A file that cannot be read gives a face without glyphs.
+    explicit FontFace(const CatalogueFont &source);
+
+    [[nodiscard]] const CatalogueFont &source() const { return m_source; }
+
+    /// Never null; belongs to this object.
+    [[nodiscard]] hb_font_t *shapingFont() const { return m_font.get(); }
+
+    [[nodiscard]] double unitsPerEm() const { return m_unitsPerEm; }
+    [[nodiscard]] double ascent() const { return m_ascent; } ///< font units above the baseline
+    [[nodiscard]] double descent() const { return m_descent; } ///< font units below it, positive
+    [[nodiscard]] double lineGap() const { return m_lineGap; }
+
+private:
+    struct FontDeleter {
+        void operator()(hb_font_t *font) const;
+    };
+
+    const CatalogueFont &m_source;
+    std::unique_ptr<hb_font_t, FontDeleter> m_font;
+    double m_unitsPerEm;
+    double m_ascent;
+    double m_descent;
+    double m_lineGap;
+};

@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_layout/FontLibrary.h"
+
+#include "platform/segmentation/GraphemeClusters.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+// Distance of a font from what is asked, the dearest difference first.
+std::tuple<int, int, int> styleDistance(const CatalogueFont &font, int weight, FontSlant slant)
+{
+    int slantDistance = 0;
+    if (font.slant != slant) {
+        const bool bothSlanted = font.slant != FontSlant::Upright && slant != FontSlant::Upright;
+        slantDistance = bothSlanted ? 1 : 2;
+    }
+    constexpr int normalWidth = 100;
+    return {std::abs(font.width - normalWidth), slantDistance, std::abs(font.weight - weight)};
+}
+
+// A cluster may be any number of marks; this many are asked for.
+constexpr int mostCharactersAskedFor = 8;
+
+bool coversAll(const CatalogueFont &font, QStringView cluster)
+{
+    int asked = 0;
+    for (qsizetype i = 0; i < cluster.size() && asked < mostCharactersAskedFor; ++asked) {
+        const char32_t character = codePointAt(cluster, i);
+        if (!isDefaultIgnorable(character) && !font.covers(character))
+            return false;
+        i += character > 0xFFFF ? 2 : 1;
+    }
+    return true;
+}
+
+} // namespace
+
+QByteArray canonicalLanguage(QStringView language)
+{
+    const auto isLetter = [](QChar character) {
+        const int lower = character.unicode() | 0x20;
+        return character.unicode() < 0x80 && lower >= 'a' && lower <= 'z';
+    };
+    qsizetype length = 0;
+    while (length < language.size() && isLetter(language[length]))
+        ++length;
+    const bool isWhole = length == language.size() || language[length] == u'-' || language[length] == u'_';
+    if (length < 2 || length > 3 || !isWhole)
+        return {};
+    const QByteArray primary = language.first(length).toLatin1().toLower();
+    if (primary != "zh")
+        return primary;
+    const auto has = [&](QStringView part) {
+        return language.sliced(length).contains(part, Qt::CaseInsensitive);
+    };
+    if (has(u"-HK") || has(u"-MO") || has(u"_HK"))
+        return "zh-hk";
+    return has(u"Hant") || has(u"-TW") || has(u"_TW") ? "zh-tw" : "zh-cn";
+}
+
+FontChain::FontChain(
+    FontLibrary &library, const FontRequest &request, const QByteArray &language, std::vector<quint16> named)
+    : m_library(library)
+    , m_request(request)
+    , m_language(language)
+    , m_named(std::move(named))
+{
+}
+
+FontFace *FontChain::primary()
+{
+    return m_library.load(m_named.front());
+}
+
+bool FontChain::isPrimaryForAscii()
+{
+    if (!m_isPrimaryForAscii) {
+        const CatalogueFont &font = m_library.m_catalogue.fonts()[m_named.front()];
+        m_isPrimaryForAscii = true;
+        for (char32_t character = U' '; character <= U'~'; ++character)
+            *m_isPrimaryForAscii = *m_isPrimaryForAscii && font.covers(character);
+    }
+    return *m_isPrimaryForAscii;
+}
+
+// Every other font of the machine: those that serve the language, then the large sans family made to fit
+// together, then the nearest in style.
+const std::vector<quint16> &FontChain::fallbacks()
+{
+    if (!m_fallbacks.empty())
+        return m_fallbacks;
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    m_fallbacks.resize(fonts.size());
+    for (size_t i = 0; i < fonts.size(); ++i)
+        m_fallbacks[i] = static_cast<quint16>(i);
+    const auto key = [&](quint16 index) {
+        const CatalogueFont &font = fonts[index];
+        const bool isForLanguage = !m_language.isEmpty() && font.supports(m_language);
+        const bool isOfLargeFamily = font.families.first().startsWith(QStringLiteral("notosans"));
+        return std::make_tuple(font.isColored, !isForLanguage, !isOfLargeFamily,
+            styleDistance(font, m_request.weight, m_request.slant), index);
+    };
+    using Key = decltype(key(0));
+    std::vector<Key> keys;
+    for (const quint16 index : m_fallbacks)
+        keys.push_back(key(index));
+    std::sort(m_fallbacks.begin(), m_fallbacks.end(),
+        [&](quint16 left, quint16 right) { return keys[left] < keys[right]; });
+    return m_fallbacks;
+}
+
+quint16 FontChain::findFontFor(char32_t character)
+{
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    const auto covers = [&](quint16 font) { return fonts[font].covers(character); };
+    const auto named = std::find_if(m_named.begin(), m_named.end(), covers);
+    if (named != m_named.end())
+        return *named;
+    const std::vector<quint16> &others = fallbacks();
+    const auto other = std::find_if(others.begin(), others.end(), covers);
+    return other != others.end() ? *other : m_named.front();
+}
+
+quint16 FontChain::fontFor(char32_t character)
+{
+    std::unique_ptr<Page> &page = m_pages[character >> 8];
+    if (!page) {
+        page = std::make_unique<Page>();
+        page->fill(unknown);
+    }
+    quint16 &font = (*page)[character & 0xFF];
+    if (font == unknown)
+        font = findFontFor(character);
+    return font;
+}
+
+quint16 FontChain::findFontForCluster(QStringView cluster, bool isEmoji)
+{
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    const auto covers = [&](quint16 font) { return coversAll(fonts[font], cluster); };
+    if (isEmoji) {
+        const auto isColoredAndCovers = [&](quint16 font) { return fonts[font].isColored && covers(font); };
+        const std::vector<quint16> &others = fallbacks();
+        const auto colored = std::find_if(others.begin(), others.end(), isColoredAndCovers);
+        if (!covers(m_named.front()) && colored != others.end())
+            return *colored;
+    }
+    // The first font with the first character is the first with the whole cluster, if it has the rest too.
+    const quint16 forFirst = fontFor(codePointAt(cluster, 0));
+    if (covers(forFirst))
+        return forFirst;
+    const auto named = std::find_if(m_named.begin(), m_named.end(), covers);
+    if (named != m_named.end())
+        return *named;
+    const std::vector<quint16> &others = fallbacks();
+    const auto other = std::find_if(others.begin(), others.end(), covers);
+    return other != others.end() ? *other : forFirst;
+}
+
+FontFace *FontChain::faceFor(QStringView cluster, FontFace *preferred)
+{
+    const char32_t first = codePointAt(cluster, 0);
+    const bool isOneCharacter = cluster.size() == (first > 0xFFFF ? 2 : 1);
+    const bool isEmoji = isEmojiCluster(cluster);
+    const quint16 found = isOneCharacter && !isEmoji ? fontFor(first) : findFontForCluster(cluster, isEmoji);
+    const bool isNamed = std::find(m_named.begin(), m_named.end(), found) != m_named.end();
+    // A comma between two words that only a fallback font has belongs with them.
+    if (!isNamed && !isEmoji && preferred && coversAll(preferred->source(), cluster))
+        return preferred;
+    return m_library.load(found);
+}
+
+FontLibrary::FontLibrary()
+{
+    const std::vector<CatalogueFont> &fonts = m_catalogue.fonts();
+    m_faces.resize(fonts.size());
+    for (size_t i = 0; i < fonts.size(); ++i) {
+        for (const QString &family : fonts[i].families)
+            m_families[family].push_back(static_cast<quint16>(i));
+    }
+}
+
+FontLibrary::~FontLibrary() = default;
+
+FontFace *FontLibrary::load(quint16 font)
+{
+    std::unique_ptr<FontFace> &face = m_faces[font];
+    if (!face)
+        face = std::make_unique<FontFace>(m_catalogue.fonts()[font]);
+    return face.get();
+}
+
+std::vector<quint16> FontLibrary::namedFonts(const FontRequest &request) const
+{
+    const std::vector<CatalogueFont> &fonts = m_catalogue.fonts();
+    const auto isNearer = [&](quint16 left, quint16 right) {
+        return styleDistance(fonts[left], request.weight, request.slant)
+            < styleDistance(fonts[right], request.weight, request.slant);
+    };
+    std::vector<quint16> named;
+    for (const QString &family : request.families) {
+        const auto found = m_families.constFind(family);
+        if (found == m_families.cend())
+            continue;
+        const quint16 best = *std::min_element(found->begin(), found->end(), isNearer);
+        if (std::find(named.begin(), named.end(), best) == named.end())
+            named.push_back(best);
+    }
+    if (!named.empty())
+        return named;
+    // None of them, not even a default one: the nearest font that can set an English text.
+    std::vector<quint16> usable;
+    for (size_t i = 0; i < fonts.size(); ++i) {
+        if (fonts[i].covers(U'a') && fonts[i].covers(U' '))
+            usable.push_back(static_cast<quint16>(i));
+    }
+    const auto best = std::min_element(usable.begin(), usable.end(), isNearer);
+    return {best != usable.end() ? *best : quint16(0)};
+}
+
+FontChain *FontLibrary::chainFor(const FontAttributes &attributes, const QString &language)
+{
+    if (isEmpty())
+        return nullptr;
+    const FontRequest request = fontRequestFor(attributes);
+    const QByteArray canonical = canonicalLanguage(language);
+    std::vector<quint16> named = namedFonts(request);
+    std::unique_ptr<FontChain> &chain = m_chains[{named, request.weight, request.slant, canonical}];
+    if (!chain)
+        chain = std::make_unique<FontChain>(*this, request, canonical, std::move(named));
+    return chain.get();
+}

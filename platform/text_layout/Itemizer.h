@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// Itemizer cuts a paragraph into text runs, first to last, by its attributes, directions, scripts and fonts.
+// Thread: one at a time.  Owner: MeasuredParagraph.
+#pragma once
+
+#include "platform/segmentation/BidiRuns.h"
+#include "platform/segmentation/Paragraphs.h"
+#include "platform/segmentation/ScriptRuns.h"
+#include "platform/styled_text/AttributedString.h"
+#include "platform/text_layout/TextRun.h"
+
+#include <QHash>
+
+class Itemizer {
+public:
+    explicit Itemizer(FontLibrary &fonts)
+        : m_fonts(fonts)
+    {
+    }
+
+    /// The text must live until the last next().
+    void setParagraph(const AttributedString &text, const Paragraph &paragraph);
+
+    /// The next run of at most longest code units (at least 1), or a few more where a grapheme cluster must
+    /// stay whole. To be called only while !isAtEnd().
+    TextRun next(qsizetype longest);
+
+    /// Goes back to a position inside the last run, which is Text; the next run starts there.
+    void returnTo(qsizetype position) { m_position = position; }
+
+    [[nodiscard]] bool isAtEnd() const { return m_position >= m_text.size(); }
+    [[nodiscard]] bool isParagraphRightToLeft() const { return m_bidi.isParagraphRightToLeft(); }
+
+    /// The style of a character, for one that no run holds: a line end. position: in the whole text.
+    TextStyle styleAt(qsizetype position);
+
+private:
+    TextStyle resolve(const TextAttributes &attributes);
+    void updateRuns();
+    /// The end of the run of characters with one font that starts at m_position and ends at limit at the
+    /// latest.
+    qsizetype textEnd(qsizetype limit, qsizetype longest, FontFace *&face);
+
+    FontLibrary &m_fonts;
+    BidiRuns m_bidi;
+    const AttributedString *m_source = nullptr;
+    qsizetype m_offset = 0; // of the paragraph in the text
+    QStringView m_text;
+    qsizetype m_position = 0;
+
+    // The three kinds of run that hold m_position, each with its end.
+    qsizetype m_attributesEnd = 0;
+    qsizetype m_attributesRun = 0;
+    TextStyle m_style;
+    BidiRuns::Run m_direction{};
+    ScriptRun m_script{};
+    FontFace *m_lastFace = nullptr;
+
+    struct StyleKey {
+        std::optional<FontAttributes> font;
+        QString language;
+        bool operator==(const StyleKey &) const = default;
+    };
+    friend size_t qHash(const StyleKey &key, size_t seed)
+    {
+        return qHashMulti(key.font ? qHash(*key.font, seed) : seed, key.language);
+    }
+    QHash<StyleKey, TextStyle> m_styles; // what resolve() found
+};

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_layout/LayoutEngine.h"
+
+#include "platform/logging/LogChannel.h"
+#include "platform/text_layout/Bounds.h"
+
+#include <algorithm>
+
+namespace {
+
+// Height of a line as its tallest characters need it.
+struct LineHeight {
+    double ascent = 0;
+    double descent = 0;
+    double gap = 0;
+
+    void add(const TextStyle &style, const FontFace *face)
+    {
+        const double scale = face ? style.pointSize / face->unitsPerEm() : style.pointSize;
+        // Without a font: the proportions of Helvetica.
+        ascent = std::max(ascent, (face ? face->ascent() : 0.77) * scale + style.baselineOffset);
+        descent = std::max(descent, (face ? face->descent() : 0.23) * scale - style.baselineOffset);
+        gap = std::max(gap, (face ? face->lineGap() : 0) * scale);
+    }
+
+    [[nodiscard]] double sum() const { return ascent + descent + gap; }
+};
+
+// What of a column's free room stands to the left of a line, from 0 (none) to 1 (all of it).
+double leftShare(TextAlignment alignment, bool isRightToLeft)
+{
+    switch (alignment) {
+    case TextAlignment::Left:
+        return 0;
+    case TextAlignment::Right:
+        return 1;
+    case TextAlignment::Center:
+        return 0.5;
+    case TextAlignment::Natural:
+    case TextAlignment::Justified:
+        break;
+    }
+    return isRightToLeft ? 1 : 0;
+}
+
+} // namespace
+
+LayoutEngine::LayoutEngine()
+    : m_paragraph(m_fonts)
+{
+    if (m_fonts.isEmpty())
+        LogChannel::standard().notice(
+            u"No usable font found. Lines are measured by a fixed character width.");
+}
+
+double LayoutEngine::heightOf(qsizetype start, qsizetype end, qsizetype separator)
+{
+    LineHeight height;
+    for (qsizetype at = start; at < end;) {
+        const TextRun &run = m_paragraph.runAt(at);
+        const bool isText = run.kind == TextRun::Kind::Text || !run.style.fonts;
+        height.add(run.style, isText ? run.face : run.style.fonts->primary());
+        at = run.end;
+    }
+    if (start == end) {
+        const TextStyle style = m_paragraph.styleOfSeparator(separator);
+        height.add(style, style.fonts ? style.fonts->primary() : nullptr);
+    }
+    return height.sum();
+}
+
+template <typename Report>
+quint64 LayoutEngine::fillLines(
+    const AttributedString &text, const Paragraph &paragraph, double columnWidth, Report &&report)
+{
+    m_paragraph.setParagraph(text, paragraph);
+    m_breaks.setParagraph(m_paragraph.text());
+    LineBreaker breaker(
+        m_paragraph, m_breaks, text.attributesAt(paragraph.start).paragraphStyle, columnWidth);
+    const qsizetype contentLength = m_paragraph.text().size();
+    quint64 count = 0;
+    LineBreaker::Line line{0, true};
+    for (qsizetype start = 0; start < contentLength; start = line.end) {
+        line = breaker.next(start);
+        ++count;
+        report(breaker, start, line);
+    }
+    // A separator ends the last line, unless that has been ended already or there is none.
+    if (line.isForced && paragraph.length > contentLength) {
+        ++count;
+        report(breaker, contentLength, LineBreaker::Line{contentLength, true});
+    }
+    return count;
+}
+
+LineFragment LayoutEngine::describe(const AttributedString &text, const Paragraph &paragraph,
+    LineBreaker &breaker, qsizetype start, const LineBreaker::Line &line)
+{
+    const ParagraphStyle &style = text.attributesAt(paragraph.start).paragraphStyle;
+    const LineBreaker::Extent extent = breaker.extentOf(start, line);
+    // Indents count from the right in a paragraph from right to left.
+    const bool isRightToLeft = m_paragraph.isRightToLeft();
+    const double leftEdge = isRightToLeft ? breaker.columnWidth() - breaker.lineEnd() : extent.leading;
+    const double room = std::max(0.0, breaker.lineEnd() - extent.leading - extent.width);
+
+    LineFragment fragment{};
+    fragment.start = paragraph.start + start;
+    const bool holdsSeparator =
+        line.end == m_paragraph.text().size() && (!line.isForced || start == line.end);
+    fragment.length = (holdsSeparator ? paragraph.length : line.end) - start;
+    fragment.left = leftEdge + room * leftShare(style.alignment, isRightToLeft);
+    fragment.width = extent.width;
+    const qsizetype separator = paragraph.start + paragraph.contentLength;
+    fragment.height = heightOf(start, line.end, separator) + bounded(style.lineSpacing, 0, 10'000);
+    return fragment;
+}
+
+void LayoutEngine::layOutParagraph(
+    const AttributedString &text, const Paragraph &paragraph, double columnWidth, const Yield &yield)
+{
+    fillLines(text, paragraph, columnWidth,
+        [&](LineBreaker &breaker, qsizetype start, const LineBreaker::Line &line) {
+            yield(describe(text, paragraph, breaker, start, line));
+        });
+}
+
+quint64 LayoutEngine::countLinesOfParagraph(
+    const AttributedString &text, const Paragraph &paragraph, double columnWidth)
+{
+    if (paragraph.contentLength == 0)
+        return 1;
+    return fillLines(
+        text, paragraph, columnWidth, [](LineBreaker &, qsizetype, const LineBreaker::Line &) {});
+}
+
+quint64 LayoutEngine::countLines(const AttributedString &text, double columnWidth)
+{
+    return countLines(text, columnWidth, 0, text.length());
+}
+
+quint64 LayoutEngine::countLines(
+    const AttributedString &text, double columnWidth, qsizetype start, qsizetype end)
+{
+    quint64 count = 0;
+    while (start < end) {
+        const Paragraph paragraph = paragraphAt(text.string(), start);
+        count += countLinesOfParagraph(text, paragraph, columnWidth);
+        start = paragraph.end();
+    }
+    return count;
+}

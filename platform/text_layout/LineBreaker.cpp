@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_layout/LineBreaker.h"
+
+#include "platform/segmentation/GraphemeClusters.h"
+#include "platform/text_layout/Bounds.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double largestLength = 1e7; // points: more than two miles
+
+// Sums of advances are not exact; text that fits exactly must fit.
+constexpr double tolerance = 1e-6;
+
+constexpr char16_t softHyphen = 0x00AD;
+
+bool isDigit(char16_t unit)
+{
+    return QChar::isDigit(unit);
+}
+
+} // namespace
+
+LineBreaker::LineBreaker(
+    MeasuredParagraph &paragraph, LineBreaks &breaks, const ParagraphStyle &style, double columnWidth)
+    : m_paragraph(paragraph)
+    , m_breaks(breaks)
+    , m_tabStops(style)
+    , m_firstIndent(bounded(style.firstLineHeadIndent, 0, largestLength))
+    , m_indent(bounded(style.headIndent, 0, largestLength))
+    , m_columnWidth(bounded(columnWidth, 0, largestLength))
+    , m_lineEnd(m_columnWidth - bounded(style.tailIndent, 0, largestLength))
+{
+}
+
+double LineBreaker::Pen::positionAfter(double advance, double lineEnd) const
+{
+    const double unaligned = base + advance;
+    switch (alignment) {
+    case TabAlignment::Right:
+        return std::max(unaligned, alignedAt);
+    case TabAlignment::Center:
+        return std::max(unaligned, std::min(alignedAt + advance / 2, lineEnd));
+    case TabAlignment::Left:
+    case TabAlignment::Decimal: // its base is where it must be from the start
+        break;
+    }
+    return unaligned;
+}
+
+LineBreaker::Pen LineBreaker::penAtStart(qsizetype start) const
+{
+    return {start == 0 ? m_firstIndent : m_indent};
+}
+
+void LineBreaker::measureUpTo(qsizetype position)
+{
+    while (m_paragraph.measuredEnd() < position)
+        m_paragraph.measureMore();
+}
+
+// The number behind a decimal tab ends at its last point or comma: which of the two separates decimals is a
+// matter of the writer's language, which the text does not tell.
+double LineBreaker::advanceToDecimalSeparator(qsizetype start)
+{
+    constexpr qsizetype longestNumber = 64;
+    const QStringView text = m_paragraph.text();
+    const qsizetype farthest = std::min(text.size(), start + longestNumber);
+    measureUpTo(farthest);
+    double advance = 0;
+    double found = -1;
+    for (qsizetype at = start; at < farthest && !(m_paragraph.flags(at) & (TabCharacter | EndsLine)); ++at) {
+        const char16_t unit = text.utf16()[at];
+        const bool isSeparator = unit == u'.' || unit == u',';
+        const bool isWithinNumber = at > start && isDigit(text.utf16()[at - 1]) && at + 1 < text.size()
+            && isDigit(text.utf16()[at + 1]);
+        if (isSeparator && isWithinNumber)
+            found = advance;
+        else if (found >= 0 && !isDigit(unit))
+            return found;
+        advance += m_paragraph.advance(at);
+    }
+    return found >= 0 ? found : advance;
+}
+
+// False where the tab leads behind the line's end, and so must start the next line. At the start of a line it
+// stays: the next line has no more room.
+bool LineBreaker::moveBehindTab(Pen &pen, qsizetype tab, bool isFirstOfLine)
+{
+    const double position = pen.positionAfter(pen.flow, m_lineEnd);
+    const TabStop stop = m_tabStops.nextBehind(position);
+    const bool fits = stop.position <= m_lineEnd + tolerance;
+    if (!fits && !isFirstOfLine)
+        return false;
+    const double target = fits ? stop.position : std::max(position, m_lineEnd);
+    switch (stop.alignment) {
+    case TabAlignment::Left:
+        pen = {target};
+        break;
+    case TabAlignment::Right:
+    case TabAlignment::Center:
+        pen = {position, 0, 0, target, stop.alignment};
+        break;
+    case TabAlignment::Decimal:
+        pen = {std::max(position, target - advanceToDecimalSeparator(tab + 1))};
+        break;
+    }
+    return true;
+}
+
+LineBreaker::Obstacle LineBreaker::findObstacle(qsizetype start)
+{
+    Pen pen = penAtStart(start);
+    qsizetype lastTabEnd = start;
+    for (qsizetype at = start; at < m_paragraph.text().size(); ++at) {
+        if (at >= m_paragraph.measuredEnd())
+            m_paragraph.measureMore();
+        const quint8 flags = m_paragraph.flags(at);
+        if (flags & EndsLine)
+            return {at, Obstacle::Kind::ForcedBreak, lastTabEnd};
+        if (flags & TabCharacter) {
+            if (!moveBehindTab(pen, at, at == start))
+                return {at, Obstacle::Kind::NoRoom, at};
+            lastTabEnd = at + 1;
+            continue;
+        }
+        pen.flow += m_paragraph.advance(at);
+        // However text is aligned to a tab stop, it never starts before the pen's base.
+        if (!(flags & HangingBlank) && pen.base + pen.flow > m_lineEnd + tolerance)
+            return {at, Obstacle::Kind::NoRoom, lastTabEnd};
+    }
+    return {m_paragraph.text().size(), Obstacle::Kind::End, lastTabEnd};
+}
+
+LineBreaker::Pen LineBreaker::penAt(qsizetype start, qsizetype end)
+{
+    Pen pen = penAtStart(start);
+    for (qsizetype at = start; at < end; ++at) {
+        const quint8 flags = m_paragraph.flags(at);
+        if (flags & TabCharacter) {
+            (void)moveBehindTab(pen, at, at == start); // it did so when the line was filled
+            continue;
+        }
+        pen.flow += m_paragraph.advance(at);
+        if (!(flags & HangingBlank))
+            pen.content = pen.flow;
+    }
+    return pen;
+}
+
+// A line that was measured together with what follows may grow when it is broken off: a kerning pair is torn
+// apart, or a hyphen appears.
+double LineBreaker::growthWhenBrokenAt(qsizetype start, qsizetype end)
+{
+    const double growth = m_paragraph.changeWhenLineEndsAt(start, end);
+    const bool hasHyphen =
+        end < m_paragraph.text().size() && m_paragraph.text().utf16()[end - 1] == softHyphen;
+    return hasHyphen ? growth + m_paragraph.hyphenAdvanceAt(end - 1) : growth;
+}
+
+bool LineBreaker::fitsWhenBrokenAt(qsizetype start, qsizetype end)
+{
+    const double growth = growthWhenBrokenAt(start, end);
+    if (growth <= 0)
+        return true;
+    const Pen pen = penAt(start, end);
+    return pen.positionAfter(pen.content, m_lineEnd) + growth <= m_lineEnd + tolerance;
+}
+
+// Returns the start where there is none.
+qsizetype LineBreaker::opportunityBefore(const Obstacle &obstacle, qsizetype start)
+{
+    // More than one that does not fit when broken is hardly seen; after these the text may stand out by a
+    // hair.
+    constexpr int mostTries = 4;
+    qsizetype end = m_breaks.lastAtOrBefore(obstacle.position);
+    for (int tries = 0; tries < mostTries && end > obstacle.lastTabEnd && !fitsWhenBrokenAt(start, end);
+         ++tries) {
+        const qsizetype earlier = m_breaks.lastAtOrBefore(end - 1);
+        if (earlier <= start)
+            break;
+        end = earlier;
+    }
+    return std::max(end, obstacle.lastTabEnd);
+}
+
+LineBreaker::Line LineBreaker::breakWithinWord(qsizetype start, qsizetype obstacle)
+{
+    const QStringView text = m_paragraph.text();
+    qsizetype end = graphemeClusterEnd(text, start);
+    while (end < obstacle) {
+        const qsizetype next = graphemeClusterEnd(text, end);
+        if (next > obstacle)
+            break;
+        end = next;
+    }
+    // Blanks hang, and a line end belongs to its line, also where there was room for nothing.
+    measureUpTo(std::min(end + 1, text.size()));
+    while (end < text.size() && m_paragraph.flags(end) & HangingBlank) {
+        ++end;
+        if (m_paragraph.flags(end - 1) & EndsLine)
+            return {end, true};
+        measureUpTo(std::min(end + 1, text.size()));
+    }
+    return {end, false};
+}
+
+LineBreaker::Line LineBreaker::next(qsizetype start)
+{
+    m_paragraph.startLineAt(start, m_startsWithinWord);
+    const Obstacle obstacle = findObstacle(start);
+    Line line{obstacle.position, false};
+    m_startsWithinWord = false;
+    switch (obstacle.kind) {
+    case Obstacle::Kind::End:
+        return line;
+    case Obstacle::Kind::ForcedBreak:
+        line = {obstacle.position + 1, true};
+        break;
+    case Obstacle::Kind::NoRoom:
+        line.end = opportunityBefore(obstacle, start);
+        if (line.end <= start) {
+            line = breakWithinWord(start, obstacle.position);
+            m_startsWithinWord = true;
+        }
+        break;
+    }
+    return line;
+}
+
+LineBreaker::Extent LineBreaker::extentOf(qsizetype start, const Line &line)
+{
+    const Pen pen = penAt(start, line.end);
+    const double leading = penAtStart(start).base;
+    const double growth = line.isForced ? 0 : growthWhenBrokenAt(start, line.end);
+    return {leading, std::max(0.0, pen.positionAfter(pen.content, m_lineEnd) + growth - leading)};
+}

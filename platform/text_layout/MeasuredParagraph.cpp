@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_layout/MeasuredParagraph.h"
+
+#include "platform/segmentation/GraphemeClusters.h"
+#include "platform/segmentation/LineBreaks.h"
+
+#include <algorithm>
+
+namespace {
+
+// What is shaped at once: many words, so that cuts between two stretches are rare.
+constexpr qsizetype longestRun = 512;
+
+// At a cut the words just before it have been shaped without what follows; they are shaped again.
+constexpr qsizetype lookAhead = 64;
+
+// How far around a line's end text is shaped again. What a break changes is a kerning pair or the form of a
+// letter; a longer stretch without a safe place is a word of joined letters, which keep their forms.
+constexpr qsizetype longestReshape = 64;
+
+} // namespace
+
+void MeasuredParagraph::setParagraph(const AttributedString &text, const Paragraph &paragraph)
+{
+    m_text = paragraph.content(text.string());
+    m_itemizer.setParagraph(text, paragraph);
+    m_base = 0;
+    m_advances.clear();
+    m_flags.clear();
+    m_runs.clear();
+}
+
+void MeasuredParagraph::measureMore()
+{
+    if (m_itemizer.isAtEnd())
+        return;
+    const TextRun run = m_itemizer.next(longestRun);
+    switch (run.kind) {
+    case TextRun::Kind::Tab:
+        append(0, StartsCluster | TabCharacter);
+        break;
+    case TextRun::Kind::Attachment:
+        append(attachmentAdvance, StartsCluster);
+        break;
+    case TextRun::Kind::Invisible:
+        for (qsizetype at = run.start; at < run.end; ++at) {
+            const bool endsLine = isForcedLineBreak(m_text.utf16()[at]);
+            append(0, StartsCluster | HangingBlank | (endsLine ? EndsLine : 0));
+        }
+        break;
+    case TextRun::Kind::Text:
+        if (run.face) {
+            appendShaped(run);
+            return;
+        }
+        appendFontless(run);
+        break;
+    }
+    m_runs.push_back(run);
+}
+
+void MeasuredParagraph::append(double advance, int flags)
+{
+    m_advances.push_back(advance);
+    m_flags.push_back(static_cast<quint8>(flags));
+}
+
+void MeasuredParagraph::appendFontless(const TextRun &run)
+{
+    const QStringView text = m_text.first(run.end);
+    for (qsizetype at = run.start; at < run.end;) {
+        const qsizetype end = graphemeClusterEnd(text, at);
+        const int blank = isHangingBlank(m_text.utf16()[at]) ? HangingBlank : 0;
+        append(fontlessAdvance * run.style.pointSize + run.style.tracking, StartsCluster | blank);
+        while (++at < end)
+            append(0, blank);
+    }
+}
+
+double MeasuredParagraph::inPoints(const TextRun &run, float advance, quint8 flags)
+{
+    const double points = advance * run.style.pointSize / run.face->unitsPerEm();
+    return flags & StartsCluster ? points + run.style.tracking : points;
+}
+
+void MeasuredParagraph::appendShaped(TextRun run)
+{
+    const auto length = static_cast<size_t>(run.end - run.start);
+    m_shapedAdvances.resize(length);
+    m_shapedFlags.resize(length);
+    m_shaper.shape(
+        m_shaper.styleOf(run), m_text, run.start, run.end, m_shapedAdvances.data(), m_shapedFlags.data());
+    if (run.isCut) {
+        qsizetype end = run.end - lookAhead;
+        const auto isSafe = [&](qsizetype position) {
+            return (m_shapedFlags[static_cast<size_t>(position - run.start)]
+                       & (StartsCluster | UnsafeToBreak))
+                == StartsCluster;
+        };
+        while (end > run.start && !isSafe(end))
+            --end;
+        if (end > run.start) {
+            run.end = end;
+            m_itemizer.returnTo(end);
+        }
+    }
+    m_runs.push_back(run);
+    for (size_t i = 0; i < static_cast<size_t>(run.end - run.start); ++i) {
+        append(inPoints(run, m_shapedAdvances[i], m_shapedFlags[i]), m_shapedFlags[i]);
+    }
+}
+
+const TextRun &MeasuredParagraph::runAt(qsizetype position) const
+{
+    const auto behind = std::upper_bound(m_runs.begin(), m_runs.end(), position,
+        [](qsizetype wanted, const TextRun &run) { return wanted < run.start; });
+    return *(behind - 1);
+}
+
+void MeasuredParagraph::forgetBefore(qsizetype position)
+{
+    // Only when it is worth the move of what stays, so that every unit is moved about once.
+    constexpr size_t leastForgotten = 4096;
+    const size_t count = index(position);
+    if (count < leastForgotten || count * 2 < m_advances.size())
+        return;
+    m_advances.erase(m_advances.begin(), m_advances.begin() + static_cast<std::ptrdiff_t>(count));
+    m_flags.erase(m_flags.begin(), m_flags.begin() + static_cast<std::ptrdiff_t>(count));
+    m_base = position;
+    while (!m_runs.empty() && m_runs.front().end <= position)
+        m_runs.pop_front();
+}
+
+qsizetype MeasuredParagraph::safePositionFrom(qsizetype position) const
+{
+    const qsizetype farthest = std::min({position + longestReshape, runAt(position).end, measuredEnd()});
+    while (position < farthest && (flags(position) & (StartsCluster | UnsafeToBreak)) != StartsCluster)
+        ++position;
+    return position;
+}
+
+qsizetype MeasuredParagraph::safePositionBefore(qsizetype position, qsizetype least) const
+{
+    const qsizetype farthest = std::max({position - longestReshape, runAt(position - 1).start, least});
+    do {
+        --position;
+    } while (position > farthest && (flags(position) & (StartsCluster | UnsafeToBreak)) != StartsCluster);
+    return position;
+}
+
+void MeasuredParagraph::startLineAt(qsizetype position, bool isWithinWord)
+{
+    forgetBefore(position);
+    if (isWithinWord || position >= measuredEnd() || !(flags(position) & UnsafeToBreak))
+        return;
+    const TextRun &run = runAt(position);
+    const qsizetype end = safePositionFrom(position);
+    m_shapedAdvances.resize(static_cast<size_t>(end - position));
+    m_shapedFlags.resize(static_cast<size_t>(end - position));
+    m_shaper.shape(
+        m_shaper.styleOf(run), m_text, position, end, m_shapedAdvances.data(), m_shapedFlags.data());
+    for (size_t i = 0; i < m_shapedAdvances.size(); ++i) {
+        m_advances[index(position) + i] = inPoints(run, m_shapedAdvances[i], m_shapedFlags[i]);
+        m_flags[index(position) + i] = m_shapedFlags[i];
+    }
+}
+
+double MeasuredParagraph::changeWhenLineEndsAt(qsizetype lineStart, qsizetype end)
+{
+    if (end >= measuredEnd() || !(flags(end) & UnsafeToBreak))
+        return 0;
+    const TextRun &run = runAt(end - 1);
+    if (run.kind != TextRun::Kind::Text || !run.face)
+        return 0;
+    const qsizetype start = safePositionBefore(end, lineStart);
+    m_shapedAdvances.resize(static_cast<size_t>(end - start));
+    m_shapedFlags.resize(static_cast<size_t>(end - start));
+    m_shaper.shape(m_shaper.styleOf(run), m_text, start, end, m_shapedAdvances.data(), m_shapedFlags.data());
+    qsizetype contentEnd = end;
+    while (contentEnd > start && flags(contentEnd - 1) & HangingBlank)
+        --contentEnd;
+    double change = 0;
+    for (qsizetype at = start; at < contentEnd; ++at) {
+        const auto i = static_cast<size_t>(at - start);
+        change += inPoints(run, m_shapedAdvances[i], m_shapedFlags[i]) - advance(at);
+    }
+    return change;
+}
+
+double MeasuredParagraph::hyphenAdvanceAt(qsizetype position)
+{
+    const TextRun &run = runAt(position);
+    if (!run.face)
+        return fontlessAdvance * run.style.pointSize;
+    const QStringView hyphen = run.face->source().covers(U'\u2010') ? u"\u2010" : u"-";
+    float advance = 0;
+    quint8 flags = 0;
+    m_shaper.shape(m_shaper.styleOf(run), hyphen, 0, 1, &advance, &flags);
+    return inPoints(run, advance, flags);
+}

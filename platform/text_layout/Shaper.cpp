@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_layout/Shaper.h"
+
+#include "platform/segmentation/GraphemeClusters.h"
+
+#include <hb.h>
+
+#include <algorithm>
+
+namespace {
+
+// What HarfBuzz looks at on either side of a stretch.
+constexpr qsizetype contextLength = 8;
+
+void shareOutLigatures(QStringView text, float *advances, quint8 *flags)
+{
+    for (qsizetype start = 0; start < text.size();) {
+        qsizetype end = start + 1;
+        while (end < text.size() && !(flags[end] & StartsCluster))
+            ++end;
+        int graphemes = 0;
+        if (end - start > 1) {
+            for (qsizetype at = start; at < end; at = graphemeClusterEnd(text, at))
+                ++graphemes;
+        }
+        if (graphemes > 1) {
+            const float share = advances[start] / static_cast<float>(graphemes);
+            for (qsizetype at = start; at < end; at = graphemeClusterEnd(text, at))
+                advances[at] = share;
+        }
+        start = end;
+    }
+}
+
+} // namespace
+
+bool isHangingBlank(char16_t unit)
+{
+    if (unit <= u' ')
+        return unit == u' ';
+    return unit == 0x1680 || (unit >= 0x2000 && unit <= 0x200B && unit != 0x2007) || unit == 0x205F
+        || unit == 0x3000;
+}
+
+void Shaper::BufferDeleter::operator()(hb_buffer_t *buffer) const
+{
+    hb_buffer_destroy(buffer);
+}
+
+Shaper::Shaper()
+    : m_buffer(hb_buffer_create())
+{
+}
+
+Shaper::~Shaper() = default;
+
+const ShapingStyle &Shaper::styleOf(const TextRun &run)
+{
+    std::unique_ptr<ShapingStyle> &style = m_styles[ShapingStyle::keyOf(run)];
+    if (!style)
+        style = std::make_unique<ShapingStyle>(run);
+    return *style;
+}
+
+void Shaper::shape(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
+    float *advances, quint8 *flags)
+{
+    const qsizetype length = end - start;
+    const qsizetype contextStart = std::max<qsizetype>(0, start - contextLength);
+    const qsizetype contextEnd = std::min(paragraph.size(), end + contextLength);
+    hb_buffer_t *buffer = m_buffer.get();
+    hb_buffer_clear_contents(buffer);
+    hb_buffer_add_utf16(buffer, reinterpret_cast<const uint16_t *>(paragraph.utf16() + contextStart),
+        static_cast<int>(contextEnd - contextStart), static_cast<unsigned>(start - contextStart),
+        static_cast<int>(length));
+    style.shape(buffer);
+
+    const QStringView text = paragraph.sliced(start, length);
+    std::fill(advances, advances + length, 0.0F);
+    for (qsizetype i = 0; i < length; ++i)
+        flags[i] = isHangingBlank(text.utf16()[i]) ? HangingBlank : 0;
+    unsigned glyphCount = 0;
+    const hb_glyph_info_t *glyphs = hb_buffer_get_glyph_infos(buffer, &glyphCount);
+    const hb_glyph_position_t *positions = hb_buffer_get_glyph_positions(buffer, &glyphCount);
+    for (unsigned i = 0; i < glyphCount; ++i) {
+        const qsizetype at = contextStart + glyphs[i].cluster - start;
+        if (at < 0 || at >= length)
+            continue;
+        advances[at] += static_cast<float>(positions[i].x_advance);
+        flags[at] |= StartsCluster;
+        if (hb_glyph_info_get_glyph_flags(glyphs + i) & HB_GLYPH_FLAG_UNSAFE_TO_BREAK)
+            flags[at] |= UnsafeToBreak;
+    }
+    shareOutLigatures(text, advances, flags);
+}

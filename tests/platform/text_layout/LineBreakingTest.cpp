@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_layout/LayoutEngine.h"
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/text_layout/FontWorld.h"
+
+namespace {
+
+class LineBreaking : public QuillbayTest {
+protected:
+    void SetUp() override
+    {
+        useOnlyFonts({QStringLiteral("NimbusMonoPS-Regular.otf"), QStringLiteral("NimbusSans-Regular.otf")});
+    }
+
+    // In Courier every character is 0.6 em wide: 6 points at 10 points, so that columns count characters.
+    static AttributedString typewritten(const QString &text, const ParagraphStyle &style = {})
+    {
+        TextAttributes attributes;
+        attributes.font = FontAttributes{.family = QStringLiteral("Courier"), .pointSize = 10};
+        attributes.paragraphStyle = style;
+        return AttributedString(text, attributes);
+    }
+
+    static double columns(int count) { return 6.0 * count; }
+
+    QStringList linesOf(const AttributedString &text, double width)
+    {
+        LayoutEngine engine;
+        QStringList lines;
+        forEachParagraph(text.string(), [&](const Paragraph &paragraph) {
+            engine.layOutParagraph(text, paragraph, width,
+                [&](const LineFragment &line) { lines.append(text.string().mid(line.start, line.length)); });
+        });
+        EXPECT_EQ(engine.countLines(text, width), static_cast<quint64>(lines.size()));
+        EXPECT_EQ(lines.join(QString()), text.string());
+        return lines;
+    }
+
+    QStringList linesOf(const QString &text, int count) { return linesOf(typewritten(text), columns(count)); }
+
+    static quint64 count(const QString &text, int columnCount)
+    {
+        return LayoutEngine().countLines(typewritten(text), columns(columnCount));
+    }
+};
+
+TEST_F(LineBreaking, CountsEveryLineEndButNoEmptyLineBehindTheLast)
+{
+    EXPECT_EQ(count(QString(), 10), 0U);
+    EXPECT_EQ(count(QStringLiteral("a"), 10), 1U);
+    EXPECT_EQ(count(QStringLiteral("a\n"), 10), 1U);
+    EXPECT_EQ(count(QStringLiteral("\n\n"), 10), 2U);
+    EXPECT_EQ(count(QStringLiteral("a\nb"), 10), 2U);
+    EXPECT_EQ(count(QStringLiteral("\r\n\r\n"), 10), 2U);
+    EXPECT_EQ(count(QStringLiteral("\r\r\n"), 10), 2U);
+    EXPECT_EQ(count(QStringLiteral("a\u2029b\u2029"), 10), 2U);
+}
+
+TEST_F(LineBreaking, EndsALineAtForcedBreaksWithinAParagraph)
+{
+    const QStringList expected{QStringLiteral("a\u2028"), QStringLiteral("b\u000B"),
+        QStringLiteral("c\u000C"), QStringLiteral("d\u0085"), QStringLiteral("\u2028"), QStringLiteral("\n"),
+        QStringLiteral("e\u2028")};
+    EXPECT_EQ(linesOf(expected.join(QString()), 10), expected);
+}
+
+TEST_F(LineBreaking, BreaksBetweenWordsAndLetsBlanksHang)
+{
+    EXPECT_EQ(linesOf(QStringLiteral("aaa bbb ccc"), 7),
+        (QStringList{QStringLiteral("aaa bbb "), QStringLiteral("ccc")}));
+    EXPECT_EQ(linesOf(QStringLiteral("aaa bbb ccc"), 6),
+        (QStringList{QStringLiteral("aaa "), QStringLiteral("bbb "), QStringLiteral("ccc")}));
+    EXPECT_EQ(linesOf(QStringLiteral("aaa bbb") + QString(50, u' ') + QStringLiteral("ccc"), 7),
+        (QStringList{QStringLiteral("aaa bbb") + QString(50, u' '), QStringLiteral("ccc")}));
+    EXPECT_EQ(linesOf(QString(500, u' '), 7).size(), 1);
+}
+
+TEST_F(LineBreaking, FitsTextThatIsExactlyAsWideAsTheColumn)
+{
+    EXPECT_EQ(count(QString(77, u'x'), 77), 1U);
+    EXPECT_EQ(count(QString(77, u'x'), 76), 2U);
+}
+
+TEST_F(LineBreaking, BreaksAWordWiderThanTheColumnBetweenGraphemes)
+{
+    EXPECT_EQ(linesOf(QStringLiteral("a wonderful x"), 4),
+        (QStringList{
+            QStringLiteral("a "), QStringLiteral("wond"), QStringLiteral("erfu"), QStringLiteral("l x")}));
+    EXPECT_EQ(linesOf(QStringLiteral("e\u0301e\u0301e\u0301"), 2),
+        (QStringList{QStringLiteral("e\u0301e\u0301"), QStringLiteral("e\u0301")}));
+}
+
+TEST_F(LineBreaking, GivesEveryGraphemeALineWhereThereIsNoRoom)
+{
+    EXPECT_EQ(linesOf(QStringLiteral("ab  c\u0301\td"), 0),
+        (QStringList{QStringLiteral("a"), QStringLiteral("b  "), QStringLiteral("c\u0301"),
+            QStringLiteral("\t"), QStringLiteral("d")}));
+    EXPECT_EQ(linesOf(QStringLiteral("a\u2028b\nc"), 0),
+        (QStringList{QStringLiteral("a\u2028"), QStringLiteral("b\n"), QStringLiteral("c")}));
+}
+
+TEST_F(LineBreaking, BreaksBehindHyphensAndShowsASoftHyphenWhereItFits)
+{
+    EXPECT_EQ(linesOf(QStringLiteral("well-known"), 6),
+        (QStringList{QStringLiteral("well-"), QStringLiteral("known")}));
+    EXPECT_EQ(linesOf(QStringLiteral("x over\u00ADland"), 7),
+        (QStringList{QStringLiteral("x over\u00AD"), QStringLiteral("land")}));
+    EXPECT_EQ(linesOf(QStringLiteral("x over\u00ADland"), 6),
+        (QStringList{QStringLiteral("x "), QStringLiteral("over\u00AD"), QStringLiteral("land")}));
+    EXPECT_EQ(count(QStringLiteral("over\u00ADland"), 8), 1U);
+}
+
+TEST_F(LineBreaking, KeepsTextTogetherAroundNoBreakSpaces)
+{
+    EXPECT_EQ(linesOf(QStringLiteral("aa 10\u00A0km"), 6),
+        (QStringList{QStringLiteral("aa "), QStringLiteral("10\u00A0km")}));
+}
+
+TEST_F(LineBreaking, TakesNoRoomForControlsAndAFixedBoxForAttachments)
+{
+    EXPECT_EQ(count(QStringLiteral("aaaa\u0001\u0002\u200Baaaa"), 8), 1U);
+    const QString two(2, attachmentCharacter);
+    EXPECT_EQ(LayoutEngine().countLines(typewritten(two), 2 * attachmentAdvance), 1U);
+    EXPECT_EQ(LayoutEngine().countLines(typewritten(two), 2 * attachmentAdvance - 1), 2U);
+}
+
+TEST_F(LineBreaking, SetsTextThatNamesNoFontInHelveticaOfTwelvePoints)
+{
+    // 556 units of 1000 for a digit, in Helvetica and all that stand in for it.
+    const AttributedString text(QString(10, u'0'));
+    EXPECT_EQ(LayoutEngine().countLines(text, 10 * 12 * 0.556), 1U);
+    EXPECT_EQ(LayoutEngine().countLines(text, 10 * 12 * 0.556 - 0.01), 2U);
+}
+
+TEST_F(LineBreaking, AddsTrackingToEveryGrapheme)
+{
+    TextAttributes attributes;
+    attributes.font = FontAttributes{.family = QStringLiteral("Courier"), .pointSize = 10, .tracking = 2};
+    const AttributedString text(QStringLiteral("e\u0301abc"), attributes);
+    EXPECT_EQ(LayoutEngine().countLines(text, 4 * 8), 1U);
+    EXPECT_EQ(LayoutEngine().countLines(text, 4 * 8 - 0.01), 2U);
+}
+
+TEST_F(LineBreaking, SumsUpOverPartsOfTheText)
+{
+    const AttributedString text = typewritten(QStringLiteral("aaa bbb\nccc ddd eee\n\nfff"));
+    LayoutEngine engine;
+    EXPECT_EQ(engine.countLines(text, columns(4)), 7U);
+    EXPECT_EQ(engine.countLines(text, columns(4), 0, 8), 2U);
+    EXPECT_EQ(engine.countLines(text, columns(4), 8, 20), 3U);
+    EXPECT_EQ(engine.countLines(text, columns(4), 20, text.length()), 2U);
+}
+
+TEST_F(LineBreaking, MeasuresKerning)
+{
+    TextAttributes attributes;
+    attributes.font = FontAttributes{.family = QStringLiteral("Helvetica"), .pointSize = 1000};
+    LayoutEngine engine;
+    const auto widthOf = [&](const QString &text) {
+        double width = 0;
+        const AttributedString styled(text, attributes);
+        engine.layOutParagraph(
+            styled, paragraphAt(text, 0), 1e6, [&](const LineFragment &line) { width = line.width; });
+        return width;
+    };
+    EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("A")), 667);
+    EXPECT_LT(widthOf(QStringLiteral("AV")), 667 + 667);
+    EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("A ")), 667) << "blanks at the end hang";
+}
+
+} // namespace
