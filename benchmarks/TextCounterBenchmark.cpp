@@ -20,7 +20,7 @@ const QString englishSentence = QStringLiteral(
 
 void countText(benchmark::State &state, const QString &text)
 {
-    const CountingRules rules{
+    const TextRules rules{
         .localeIdentifier = [] { return QStringLiteral("en_US"); }, .sentencesNeedTerminalPunctuation = true};
     TextCounter counter;
     for ([[maybe_unused]] auto _ : state)

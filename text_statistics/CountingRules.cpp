@@ -2,9 +2,11 @@
 #include "text_statistics/CountingRules.h"
 
 #include "platform/locale/CurrentLocale.h"
+#include "platform/printing/PrintSettings.h"
 #include "preferences/QBYUserDefaultsController.h"
+#include "text_statistics/MeasuringSurface.h"
 
-CountingRules currentCountingRules()
+TextRules currentTextRules()
 {
     return {
         .localeIdentifier = currentLocaleIdentifier,
@@ -12,4 +14,14 @@ CountingRules currentCountingRules()
         .sentencesNeedTerminalPunctuation =
             QBYUserDefaultsController::shouldEnforceTrailingPeriodForSentencesCount(),
     };
+}
+
+PageRules currentPageRules()
+{
+    return MeasuringSurface::shared().pageOf(PrintSettings::shared());
+}
+
+CountingRules currentCountingRules()
+{
+    return {.text = currentTextRules(), .page = currentPageRules()};
 }

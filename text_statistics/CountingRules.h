@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
-// CountingRules is everything besides the text that a count rests on, as a value: whoever has the same rules
-// and the same text gets the same numbers, in any process and on any thread. Thread: any; a value.
-// localeIdentifier must be callable from the thread that counts.
+// CountingRules is everything besides the text and the fonts that a count rests on, as a value: whoever has
+// the same rules and the same text gets the same numbers, in any process and on any thread. Thread: any;
+// values. localeIdentifier must be callable from the thread that counts.
 #pragma once
 
+#include <QSizeF>
 #include <QString>
 
 #include <functional>
+#include <optional>
 
-struct CountingRules {
+/// What words, sentences and paragraphs are.
+struct TextRules {
     /// Asked anew for every word that it may decide about, so that a count follows a locale changed
     /// meanwhile. A snapshot for another process gives a fixed identifier.
     std::function<QString()> localeIdentifier;
@@ -18,5 +21,25 @@ struct CountingRules {
     bool sentencesNeedTerminalPunctuation = false;
 };
 
-/// The rules of this moment: the user's preferences and current locale.
+/// The page on which lines are measured, in points of the measuring surface.
+struct PageRules {
+    std::optional<QString> paperName; ///< as printer descriptions call it; absent where the paper has no name
+    QSizeF paperSize;
+    double leftMargin = 0;
+    double rightMargin = 0;
+};
+
+struct CountingRules {
+    TextRules text;
+    PageRules page;
+};
+
+/// The user's preferences and current locale, as they are now.
+TextRules currentTextRules();
+
+/// The paper and the margins of the user's preferences, as they are now. May ask the printing system, and may
+/// repair the preference where it names a paper that the printer lacks. Main thread.
+PageRules currentPageRules();
+
+/// Both of them. Main thread.
 CountingRules currentCountingRules();

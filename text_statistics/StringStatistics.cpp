@@ -15,7 +15,7 @@ TextCounter &counterOfThisThread()
 
 quint64 QBYExtension::numberOfWords(QStringView text)
 {
-    return counterOfThisThread().numberOfWords(text, currentCountingRules());
+    return counterOfThisThread().numberOfWords(text, currentTextRules());
 }
 
 quint64 QBYExtension::numberOfCharactersNotIncludingWhiteSpace(QStringView text)
@@ -25,7 +25,7 @@ quint64 QBYExtension::numberOfCharactersNotIncludingWhiteSpace(QStringView text)
 
 quint64 QBYExtension::numberOfSentences(QStringView text)
 {
-    return counterOfThisThread().numberOfSentences(text, currentCountingRules());
+    return counterOfThisThread().numberOfSentences(text, currentTextRules());
 }
 
 quint64 QBYExtension::numberOfHardLineBreaks(QStringView text)
@@ -35,12 +35,12 @@ quint64 QBYExtension::numberOfHardLineBreaks(QStringView text)
 
 quint64 QBYExtension::numberOfParagraphs(QStringView text)
 {
-    return counterOfThisThread().numberOfParagraphs(text, currentCountingRules());
+    return counterOfThisThread().numberOfParagraphs(text, currentTextRules());
 }
 
 quint64 QBYExtension::numberOfParagraphsIndented(QStringView text)
 {
-    return counterOfThisThread().numberOfParagraphsIndented(text, currentCountingRules());
+    return counterOfThisThread().numberOfParagraphsIndented(text, currentTextRules());
 }
 
 bool QBYExtension::endsWithPeriod(QStringView text)

@@ -4,7 +4,7 @@
 namespace {
 
 // In American English a lone letter or digit is no word, but for the words a, I and O and the letter x.
-bool isWordCounted(QStringView word, const CountingRules &rules)
+bool isWordCounted(QStringView word, const TextRules &rules)
 {
     constexpr QStringView countedLetters = u"aAiIoOxX";
     if (word.size() != 1 || countedLetters.contains(word.front()))
@@ -17,7 +17,7 @@ bool isBlank(QStringView text)
     return text.trimmed().isEmpty();
 }
 
-bool isParagraphCounted(QStringView content, quint64 sentences, const CountingRules &rules)
+bool isParagraphCounted(QStringView content, quint64 sentences, const TextRules &rules)
 {
     return static_cast<qint64>(sentences) >= rules.minimumSentencesOfParagraph && !isBlank(content);
 }
@@ -49,7 +49,7 @@ TextCounts &TextCounts::operator+=(const TextCounts &other)
     return *this;
 }
 
-TextCounts TextCounter::count(QStringView text, const CountingRules &rules, const Progress &progress)
+TextCounts TextCounter::count(QStringView text, const TextRules &rules, const Progress &progress)
 {
     TextCounts counts;
     forEachParagraph(text, [&](const Paragraph &paragraph) {
@@ -60,8 +60,7 @@ TextCounts TextCounter::count(QStringView text, const CountingRules &rules, cons
     return counts;
 }
 
-TextCounts TextCounter::countParagraph(
-    QStringView text, const Paragraph &paragraph, const CountingRules &rules)
+TextCounts TextCounter::countParagraph(QStringView text, const Paragraph &paragraph, const TextRules &rules)
 {
     const QStringView content = paragraph.content(text);
     const QStringView whole = text.sliced(paragraph.start, paragraph.length);
@@ -76,7 +75,7 @@ TextCounts TextCounter::countParagraph(
     return counts;
 }
 
-quint64 TextCounter::numberOfWords(QStringView text, const CountingRules &rules)
+quint64 TextCounter::numberOfWords(QStringView text, const TextRules &rules)
 {
     quint64 words = 0;
     forEachParagraph(
@@ -84,7 +83,7 @@ quint64 TextCounter::numberOfWords(QStringView text, const CountingRules &rules)
     return words;
 }
 
-quint64 TextCounter::numberOfSentences(QStringView text, const CountingRules &rules)
+quint64 TextCounter::numberOfSentences(QStringView text, const TextRules &rules)
 {
     quint64 sentences = 0;
     forEachParagraph(
@@ -92,7 +91,7 @@ quint64 TextCounter::numberOfSentences(QStringView text, const CountingRules &ru
     return sentences;
 }
 
-quint64 TextCounter::numberOfParagraphs(QStringView text, const CountingRules &rules)
+quint64 TextCounter::numberOfParagraphs(QStringView text, const TextRules &rules)
 {
     quint64 paragraphs = 0;
     forEachParagraph(text, [&](const Paragraph &paragraph) {
@@ -102,7 +101,7 @@ quint64 TextCounter::numberOfParagraphs(QStringView text, const CountingRules &r
     return paragraphs;
 }
 
-quint64 TextCounter::numberOfParagraphsIndented(QStringView text, const CountingRules &rules)
+quint64 TextCounter::numberOfParagraphsIndented(QStringView text, const TextRules &rules)
 {
     quint64 paragraphs = 0;
     forEachParagraph(text, [&](const Paragraph &paragraph) {
@@ -113,7 +112,7 @@ quint64 TextCounter::numberOfParagraphsIndented(QStringView text, const Counting
     return paragraphs;
 }
 
-bool TextCounter::isSentenceCounted(QStringView sentence, const CountingRules &rules)
+bool TextCounter::isSentenceCounted(QStringView sentence, const TextRules &rules)
 {
     if (rules.sentencesNeedTerminalPunctuation && !endsWithTerminalPunctuationMark(sentence))
         return false;
@@ -125,7 +124,7 @@ bool TextCounter::isSentenceCounted(QStringView sentence, const CountingRules &r
     return hasWord;
 }
 
-quint64 TextCounter::wordsOf(QStringView content, const CountingRules &rules)
+quint64 TextCounter::wordsOf(QStringView content, const TextRules &rules)
 {
     quint64 words = 0;
     m_segmenter.forEachWord(content, [&](QStringView word) {
@@ -135,7 +134,7 @@ quint64 TextCounter::wordsOf(QStringView content, const CountingRules &rules)
     return words;
 }
 
-quint64 TextCounter::sentencesOf(QStringView content, const CountingRules &rules)
+quint64 TextCounter::sentencesOf(QStringView content, const TextRules &rules)
 {
     quint64 sentences = 0;
     m_segmenter.forEachSentence(content, [&](QStringView sentence) {

@@ -32,24 +32,23 @@ public:
     using Progress = std::function<void(qsizetype position)>;
 
     /// All counts of a text, in time proportional to its length.
-    [[nodiscard]] TextCounts count(
-        QStringView text, const CountingRules &rules, const Progress &progress = {});
+    [[nodiscard]] TextCounts count(QStringView text, const TextRules &rules, const Progress &progress = {});
 
     /// All counts of one paragraph of a text, its separator included. Nothing in a paragraph depends on its
     /// neighbours: the counts of a text are the sum over its paragraphs.
     [[nodiscard]] TextCounts countParagraph(
-        QStringView text, const Paragraph &paragraph, const CountingRules &rules);
+        QStringView text, const Paragraph &paragraph, const TextRules &rules);
 
     // Single counts of any text.
-    [[nodiscard]] quint64 numberOfWords(QStringView text, const CountingRules &rules);
-    [[nodiscard]] quint64 numberOfSentences(QStringView text, const CountingRules &rules);
-    [[nodiscard]] quint64 numberOfParagraphs(QStringView text, const CountingRules &rules);
-    [[nodiscard]] quint64 numberOfParagraphsIndented(QStringView text, const CountingRules &rules);
+    [[nodiscard]] quint64 numberOfWords(QStringView text, const TextRules &rules);
+    [[nodiscard]] quint64 numberOfSentences(QStringView text, const TextRules &rules);
+    [[nodiscard]] quint64 numberOfParagraphs(QStringView text, const TextRules &rules);
+    [[nodiscard]] quint64 numberOfParagraphsIndented(QStringView text, const TextRules &rules);
 
 private:
-    [[nodiscard]] bool isSentenceCounted(QStringView sentence, const CountingRules &rules);
-    [[nodiscard]] quint64 wordsOf(QStringView content, const CountingRules &rules);
-    [[nodiscard]] quint64 sentencesOf(QStringView content, const CountingRules &rules);
+    [[nodiscard]] bool isSentenceCounted(QStringView sentence, const TextRules &rules);
+    [[nodiscard]] quint64 wordsOf(QStringView content, const TextRules &rules);
+    [[nodiscard]] quint64 sentencesOf(QStringView content, const TextRules &rules);
 
     Segmenter m_segmenter;
 };

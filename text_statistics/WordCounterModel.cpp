@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/WordCounterModel.h"
 
+#include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/display_strings/WordCounterStatStringFormatter.h"
 
 void WordCounterModel::setAttributedStringToCount(
@@ -28,17 +29,27 @@ void WordCounterModel::updateStatsUsingAttributedString(bool usingAttributedStri
 void WordCounterModel::countAttributedString()
 {
     const AttributedString text = m_attributedStringToCount.value_or(AttributedString());
-    const TextCounts counts = m_counter.count(text.string(), m_rules(), m_progress);
+    const CountingRules rules = m_rules();
+    const quint64 lines = MeasuringSurface::shared().numberOfLines(text, rules.page, halfOfProgress(0));
+    const TextCounts counts = m_counter.count(text.string(), rules.text, halfOfProgress(text.length()));
     m_stats = {
         .numberOfWords = counts.words,
         .numberOfCharacters = counts.charactersNotIncludingWhiteSpace,
         .numberOfCharactersIncludingWhitespace = counts.characters,
         .numberOfSentences = counts.sentences,
-        .numberOfLines = 0,
+        .numberOfLines = lines,
         .numberOfHardLineBreaks = counts.hardLineBreaks,
         .numberOfParagraphs = counts.paragraphs,
         .numberOfIndentedParagraphs = counts.paragraphsIndented,
     };
+}
+
+// Laying out and counting are two passes over the text, told as one.
+TextCounter::Progress WordCounterModel::halfOfProgress(qsizetype done) const
+{
+    if (!m_progress)
+        return {};
+    return [this, done](qsizetype position) { m_progress((done + position) / 2); };
 }
 
 void WordCounterModel::copyDocXMetaData()

@@ -59,7 +59,7 @@ public:
     }
     [[nodiscard]] qint64 formattedStringStyle() const { return m_formattedStringStyle; }
 
-    /// Told how far a count of styled text has come; see TextCounter.
+    /// Told how far a count of styled text has come, in UTF-16 code units up to the text's length.
     void setProgress(TextCounter::Progress progress) { m_progress = std::move(progress); }
 
     // The counts: plain stores, in the record.
@@ -130,6 +130,7 @@ private:
 
     void countAttributedString();
     void copyDocXMetaData();
+    [[nodiscard]] TextCounter::Progress halfOfProgress(qsizetype done) const;
 
     std::function<CountingRules()> m_rules;
     TextCounter m_counter;

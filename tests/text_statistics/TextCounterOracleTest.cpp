@@ -10,7 +10,7 @@ namespace {
 // One segmentation over the whole text, the rules in the order of their definition.
 class WholeTextOracle {
 public:
-    explicit WholeTextOracle(const CountingRules &rules)
+    explicit WholeTextOracle(const TextRules &rules)
         : m_rules(rules)
     {
     }
@@ -77,7 +77,7 @@ private:
         return rest;
     }
 
-    const CountingRules &m_rules;
+    const TextRules &m_rules;
 };
 
 QString randomText(std::mt19937 &random)
@@ -108,7 +108,7 @@ TEST(TextCounterOracle, ParagraphsAddUpToTheCountOfTheWholeText)
     for (int round = 0; round < 3000; ++round) {
         const QString text = randomText(random);
         const QString locale = round % 2 == 0 ? QStringLiteral("en_US") : QStringLiteral("de_DE");
-        const CountingRules rules{.localeIdentifier = [locale] { return locale; },
+        const TextRules rules{.localeIdentifier = [locale] { return locale; },
             .minimumSentencesOfParagraph = round % 3,
             .sentencesNeedTerminalPunctuation = round % 5 < 2};
         WholeTextOracle oracle(rules);

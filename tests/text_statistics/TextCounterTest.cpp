@@ -9,7 +9,7 @@ using ::testing::ElementsAre;
 
 namespace {
 
-CountingRules rulesOf(const QString &locale)
+TextRules rulesOf(const QString &locale)
 {
     return {.localeIdentifier = [locale] { return locale; }};
 }
@@ -22,7 +22,7 @@ protected:
     quint64 indented(const QString &text) { return m_counter.numberOfParagraphsIndented(text, m_rules); }
 
     TextCounter m_counter;
-    CountingRules m_rules = rulesOf(QStringLiteral("en_US"));
+    TextRules m_rules = rulesOf(QStringLiteral("en_US"));
 };
 
 } // namespace

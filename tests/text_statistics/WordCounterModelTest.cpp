@@ -4,6 +4,8 @@
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/QuillbayTest.h"
 
+#include <vector>
+
 namespace {
 
 constexpr qint64 longStyle = 0;
@@ -63,6 +65,7 @@ TEST_F(WordCounterModelTest, CountsAStyledTextAtOnce)
     EXPECT_EQ(m_model.numberOfCharacters(), 17U);
     EXPECT_EQ(m_model.numberOfCharactersIncludingWhitespace(), 22U);
     EXPECT_EQ(m_model.numberOfSentences(), 3U);
+    EXPECT_EQ(m_model.numberOfLines(), 2U);
     EXPECT_EQ(m_model.numberOfHardLineBreaks(), 2U);
     EXPECT_EQ(m_model.numberOfParagraphs(), 2U);
     EXPECT_EQ(m_model.numberOfIndentedParagraphs(), 1U);
@@ -84,12 +87,14 @@ TEST_F(WordCounterModelTest, ReadsThePreferencesForEveryCount)
 TEST_F(WordCounterModelTest, CountsUnderGivenRulesWithoutPreferences)
 {
     WordCounterModel model([] {
-        return CountingRules{
-            .localeIdentifier = [] { return QStringLiteral("de_DE"); }, .minimumSentencesOfParagraph = 2};
+        return CountingRules{.text = {.localeIdentifier = [] { return QStringLiteral("de_DE"); },
+                                 .minimumSentencesOfParagraph = 2},
+            .page = {.paperName = {}, .paperSize = {100, 100}, .leftMargin = 45, .rightMargin = 45}};
     });
     model.setAttributedStringToCount(text(QStringLiteral("b. Zwei.\nEins.")));
     EXPECT_EQ(model.numberOfWords(), 3U);
     EXPECT_EQ(model.numberOfParagraphs(), 1U);
+    EXPECT_GT(model.numberOfLines(), 2U); // in a column of ten points
 }
 
 TEST_F(WordCounterModelTest, TakingTheTextAwayMakesAllCountsZero)
@@ -176,8 +181,8 @@ TEST_F(WordCounterModelTest, SettersOfCountsAndStringsOnlyStore)
 
 TEST_F(WordCounterModelTest, TellsHowFarACountHasCome)
 {
-    qsizetype last = 0;
-    m_model.setProgress([&](qsizetype position) { last = position; });
+    std::vector<qsizetype> positions;
+    m_model.setProgress([&](qsizetype position) { positions.push_back(position); });
     m_model.setAttributedStringToCount(text(QStringLiteral("One\nTwo\n")));
-    EXPECT_EQ(last, 8);
+    EXPECT_THAT(positions, ::testing::ElementsAre(2, 4, 6, 8));
 }

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "text_statistics/MeasuringSurface.h"
+
+#include "platform/logging/LogChannel.h"
+#include "platform/printing/PrintSettings.h"
+#include "platform/segmentation/Paragraphs.h"
+#include "platform/text_layout/LayoutEngine.h"
+#include "preferences/PrintSettingsExtension.h"
+#include "preferences/QBYUserDefaultsController.h"
+#include "presentation/common_views/ViewExtension.h"
+
+MeasuringSurface &MeasuringSurface::shared()
+{
+    static auto &surface = *new MeasuringSurface(std::make_shared<LayoutEngine>());
+    return surface;
+}
+
+MeasuringSurface::MeasuringSurface(std::shared_ptr<LayoutEngine> engine)
+    : m_engine(std::move(engine))
+    , m_preview(m_engine)
+{
+    m_preview.loadView();
+    m_window.setContentView(m_preview.view());
+}
+
+MeasuringSurface::~MeasuringSurface() = default;
+
+PageRules MeasuringSurface::pageOf(PrintSettings &printSettings) const
+{
+    using Preferences = QBYUserDefaultsController;
+    const std::optional<QBYPaper> paper = QBYExtension::currentPaperObject(printSettings);
+    if (!paper) {
+        LogChannel::standard().error(
+            u"Error getting page from preferences. defaulting to NSPrintInfo values.");
+        return {.paperName = std::nullopt,
+            .paperSize = printSettings.paperSize(),
+            .leftMargin = printSettings.leftMargin(),
+            .rightMargin = printSettings.rightMargin()};
+    }
+    const View &textView = *m_preview.previewTextView();
+    return {.paperName = paper->paperName(),
+        .paperSize = paper->paperSize(),
+        .leftMargin =
+            QBYExtension::inchToScreenNumber(textView, Preferences::leftMarginForPaperSizeLineMeasuring()),
+        .rightMargin =
+            QBYExtension::inchToScreenNumber(textView, Preferences::rightMarginForPaperSizeLineMeasuring())};
+}
+
+void MeasuringSurface::setPage(const PageRules &page)
+{
+    const QRectF frame(QPointF(0, 0), page.paperSize);
+    if (m_window.frame().size() != page.paperSize)
+        m_window.setFrame(frame, true, false);
+    m_preview.view()->setFrame(frame);
+    m_preview.setPreviewContentFrameSize(page.paperSize, page.leftMargin, page.rightMargin);
+}
+
+quint64 MeasuringSurface::numberOfLines(
+    const AttributedString &text, const PageRules &page, const Progress &progress)
+{
+    setPage(page);
+    TextView &textView = *m_preview.previewTextView();
+    textView.textStorage().setAttributedString(text);
+    // The layout manager would keep every line; here only their number is wanted.
+    const double columnWidth = textView.textContainer().width();
+    quint64 lines = 0;
+    forEachParagraph(text.string(), [&](const Paragraph &paragraph) {
+        lines += m_engine->countLinesOfParagraph(text, paragraph, columnWidth);
+        if (progress)
+            progress(paragraph.end());
+    });
+    return lines;
+}
