@@ -20,6 +20,7 @@ constexpr std::array columns{
     Column{"charactersIncludingWhitespace", "+Whitespace",
         &QBYWordCounterStats::numberOfCharactersIncludingWhitespace},
     Column{"sentences", "Sentences", &QBYWordCounterStats::numberOfSentences},
+    Column{"lines", "Lines", &QBYWordCounterStats::numberOfLines},
     Column{"hardLineBreaks", "Hard breaks", &QBYWordCounterStats::numberOfHardLineBreaks},
     Column{"paragraphs", "Paragraphs", &QBYWordCounterStats::numberOfParagraphs},
     Column{"indentedParagraphs", "Indented", &QBYWordCounterStats::numberOfIndentedParagraphs},

@@ -25,9 +25,9 @@ TEST_F(CountCommandTest, TheTableHasAHeaderAndARowForTheFile)
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors, QByteArray());
     EXPECT_THAT(outcome.output.toStdString(),
-        StartsWith("Words  Characters  +Whitespace  Sentences  Hard breaks  Paragraphs  Indented  File\n"));
+        StartsWith("Words  Characters  +Whitespace  Sentences  Lines  Hard breaks  Paragraphs  Indented  File\n"));
     EXPECT_THAT(
-        tableRows(outcome.output), ElementsAre(QByteArrayList{"6", "22", "30", "2", "3", "2", "1", name}));
+        tableRows(outcome.output), ElementsAre(QByteArrayList{"6", "22", "30", "2", "3", "3", "2", "1", name}));
 }
 
 TEST_F(CountCommandTest, SeveralFilesComeInTheOrderGivenWithATotalBelow)
@@ -36,18 +36,18 @@ TEST_F(CountCommandTest, SeveralFilesComeInTheOrderGivenWithATotalBelow)
     const QByteArray two = file("two", "Two words.\n");
     const QList<QByteArrayList> rows = tableRows(count({two, one, two}).output);
     EXPECT_THAT(rows,
-        ElementsAre(QByteArrayList{"2", "9", "11", "1", "1", "1", "0", two},
-            QByteArrayList{"1", "4", "4", "1", "1", "1", "0", one},
-            QByteArrayList{"2", "9", "11", "1", "1", "1", "0", two},
-            QByteArrayList{"5", "22", "26", "3", "3", "3", "0", "total"}));
+        ElementsAre(QByteArrayList{"2", "9", "11", "1", "1", "1", "1", "0", two},
+            QByteArrayList{"1", "4", "4", "1", "1", "1", "1", "0", one},
+            QByteArrayList{"2", "9", "11", "1", "1", "1", "1", "0", two},
+            QByteArrayList{"5", "22", "26", "3", "3", "3", "3", "0", "total"}));
 }
 
 TEST_F(CountCommandTest, StandardInputIsReadForADashAndWhereNoFileIsNamed)
 {
     EXPECT_THAT(tableRows(count({"-"}, "One two.").output),
-        ElementsAre(QByteArrayList{"2", "7", "8", "1", "1", "1", "0", "-"}));
+        ElementsAre(QByteArrayList{"2", "7", "8", "1", "1", "1", "1", "0", "-"}));
     EXPECT_THAT(tableRows(count({}, "One two.").output),
-        ElementsAre(QByteArrayList{"2", "7", "8", "1", "1", "1", "0", "-"}));
+        ElementsAre(QByteArrayList{"2", "7", "8", "1", "1", "1", "1", "0", "-"}));
 }
 
 TEST_F(CountCommandTest, JsonIsOneObjectALineInTheOrderOfTheFiles)
@@ -58,12 +58,13 @@ TEST_F(CountCommandTest, JsonIsOneObjectALineInTheOrderOfTheFiles)
     const QByteArrayList lines = outcome.output.split('\n');
     ASSERT_EQ(lines.size(), 3) << outcome.output.toStdString();
     QJsonObject object = QJsonDocument::fromJson(lines[0]).object();
-    EXPECT_EQ(object.size(), 8);
+    EXPECT_EQ(object.size(), 9);
     EXPECT_EQ(object[u"file"].toString(), QString::fromUtf8(name));
     EXPECT_EQ(object[u"words"].toInt(-1), 2);
     EXPECT_EQ(object[u"characters"].toInt(-1), 7);
     EXPECT_EQ(object[u"charactersIncludingWhitespace"].toInt(-1), 9);
     EXPECT_EQ(object[u"sentences"].toInt(-1), 1);
+    EXPECT_EQ(object[u"lines"].toInt(-1), 1);
     EXPECT_EQ(object[u"hardLineBreaks"].toInt(-1), 1);
     EXPECT_EQ(object[u"paragraphs"].toInt(-1), 1);
     EXPECT_EQ(object[u"indentedParagraphs"].toInt(-1), 0);
@@ -79,9 +80,9 @@ TEST_F(CountCommandTest, TsvNamesItsColumnsAndEscapesWhatWouldBreakThem)
     ASSERT_EQ(lines.size(), 3);
     EXPECT_EQ(lines[0],
         QByteArray(
-            "file\twords\tcharacters\tcharactersIncludingWhitespace\tsentences\thardLineBreaks\tparagraphs\t"
+            "file\twords\tcharacters\tcharactersIncludingWhitespace\tsentences\tlines\thardLineBreaks\tparagraphs\t"
             "indentedParagraphs"));
-    EXPECT_THAT(lines[1].toStdString(), EndsWith("/tab\\there\\\\line\\nend\t2\t7\t9\t1\t1\t1\t0"));
+    EXPECT_THAT(lines[1].toStdString(), EndsWith("/tab\\there\\\\line\\nend\t2\t7\t9\t1\t1\t1\t1\t0"));
 }
 
 TEST_F(CountCommandTest, AHostileNameCannotForgeARow)
@@ -147,7 +148,7 @@ TEST_F(CountCommandTest, WhatCannotBeReadIsToldInALineAndTheOthersAreStillCounte
     ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
     const ChildProcess::Outcome outcome = count({"--tsv", "/no/such/file", folder, pipe, "/dev/zero", good});
     EXPECT_EQ(outcome.exitStatus, 1);
-    EXPECT_THAT(outcome.output.toStdString(), EndsWith("/good\t1\t4\t4\t1\t1\t1\t0\n"));
+    EXPECT_THAT(outcome.output.toStdString(), EndsWith("/good\t1\t4\t4\t1\t1\t1\t1\t0\n"));
     EXPECT_EQ(outcome.output.count('\n'), 2);
     const QByteArrayList lines = outcome.errors.split('\n');
     ASSERT_EQ(lines.size(), 5) << outcome.errors.toStdString();
@@ -213,11 +214,11 @@ TEST_F(CountCommandTest, CountsUnderThePreferencesAndTheLocaleOfTheMoment)
     QBYUserDefaultsController::setShouldEnforceTrailingPeriodForSentencesCount(false);
     QBYUserDefaultsController::setMinNumberOfSentencesForParagraphCount(1);
     EXPECT_EQ(
-        tableRows(count({name}).output).front().first(6), (QByteArrayList{"3", "18", "21", "2", "2", "2"}));
+        tableRows(count({name}).output).front().first(7), (QByteArrayList{"3", "18", "21", "2", "2", "2", "2"}));
     QBYUserDefaultsController::setMinNumberOfSentencesForParagraphCount(2);
     setLocale("fr_FR.UTF-8");
     EXPECT_EQ(
-        tableRows(count({name}).output).front().first(6), (QByteArrayList{"4", "18", "21", "2", "2", "0"}));
+        tableRows(count({name}).output).front().first(7), (QByteArrayList{"4", "18", "21", "2", "2", "2", "0"}));
 }
 
 TEST_F(CountCommandTest, WithoutAUsableConfigurationFolderItStillCountsWithOneLineOfWarning)
@@ -228,5 +229,17 @@ TEST_F(CountCommandTest, WithoutAUsableConfigurationFolderItStillCountsWithOneLi
     const ChildProcess::Outcome outcome = count({name});
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_THAT(tableRows(outcome.output).front().first(4), ElementsAre("2", "8", "9", "2"));
-    EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.toStdString();
+    EXPECT_EQ(outcome.errors.count("Preference suite"), 1) << outcome.errors.toStdString();
+}
+
+TEST_F(CountCommandTest, LinesAreThoseOfTheUsersPaper)
+{
+    const QByteArray name = file("story", QByteArray("Nobody on the quay had seen it leave. ").repeated(40));
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    const auto lines = [&] { return tableRows(count({name}).output).front()[4].toInt(); };
+    QBYUserDefaultsController::setCurrentPaperNamePreference(QStringLiteral("A4"));
+    const int onA4 = lines();
+    QBYUserDefaultsController::setCurrentPaperNamePreference(QStringLiteral("A6"));
+    EXPECT_GT(onA4, 1);
+    EXPECT_GT(lines(), onA4);
 }
