@@ -93,7 +93,10 @@ QByteArray fileName(const QByteArray &path)
 
 bool CatalogueFont::covers(char32_t character) const
 {
-    return FcCharSetHasChar(characters, character) == FcTrue;
+    constexpr char32_t hyphen = 0x2010;
+    constexpr char32_t noBreakHyphen = 0x2011; // shown by the hyphen where it has no glyph of its own
+    return FcCharSetHasChar(characters, character) == FcTrue
+        || (character == noBreakHyphen && FcCharSetHasChar(characters, hyphen) == FcTrue);
 }
 
 bool CatalogueFont::supports(const QByteArray &language) const

@@ -5,6 +5,7 @@
 #include "platform/text_layout/Bounds.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -49,9 +50,17 @@ double LineBreaker::Pen::positionAfter(double advance, double lineEnd) const
     return unaligned;
 }
 
+double LineBreaker::Pen::contentEnd(double lineEnd) const
+{
+    return hasContent ? positionAfter(content, lineEnd) : endOfEarlierContent;
+}
+
 LineBreaker::Pen LineBreaker::penAtStart(qsizetype start) const
 {
-    return {start == 0 ? m_firstIndent : m_indent};
+    Pen pen;
+    pen.base = start == 0 ? m_firstIndent : m_indent;
+    pen.endOfEarlierContent = pen.base;
+    return pen;
 }
 
 void LineBreaker::measureUpTo(qsizetype position)
@@ -84,29 +93,25 @@ double LineBreaker::advanceToDecimalSeparator(qsizetype start)
     return found >= 0 ? found : advance;
 }
 
-// False where the tab leads behind the line's end, and so must start the next line. At the start of a line it
-// stays: the next line has no more room.
-bool LineBreaker::moveBehindTab(Pen &pen, qsizetype tab, bool isFirstOfLine)
+void LineBreaker::moveBehindTab(Pen &pen, qsizetype tab)
 {
     const double position = pen.positionAfter(pen.flow, m_lineEnd);
+    const double contentEnd = pen.contentEnd(m_lineEnd);
     const TabStop stop = m_tabStops.nextBehind(position);
+    // A tab that leads behind the line's end hangs like other blanks; nothing can be aligned there.
     const bool fits = stop.position <= m_lineEnd + tolerance;
-    if (!fits && !isFirstOfLine)
-        return false;
-    const double target = fits ? stop.position : std::max(position, m_lineEnd);
-    switch (stop.alignment) {
-    case TabAlignment::Left:
-        pen = {target};
-        break;
-    case TabAlignment::Right:
-    case TabAlignment::Center:
-        pen = {position, 0, 0, target, stop.alignment};
-        break;
-    case TabAlignment::Decimal:
-        pen = {std::max(position, target - advanceToDecimalSeparator(tab + 1))};
-        break;
+    pen = {};
+    pen.base = stop.position;
+    pen.endOfEarlierContent = contentEnd;
+    if (!fits || stop.alignment == TabAlignment::Left)
+        return;
+    if (stop.alignment == TabAlignment::Decimal) {
+        pen.base = std::max(position, stop.position - advanceToDecimalSeparator(tab + 1));
+        return;
     }
-    return true;
+    pen.base = position;
+    pen.alignedAt = stop.position;
+    pen.alignment = stop.alignment;
 }
 
 LineBreaker::Obstacle LineBreaker::findObstacle(qsizetype start)
@@ -120,8 +125,10 @@ LineBreaker::Obstacle LineBreaker::findObstacle(qsizetype start)
         if (flags & EndsLine)
             return {at, Obstacle::Kind::ForcedBreak, lastTabEnd};
         if (flags & TabCharacter) {
-            if (!moveBehindTab(pen, at, at == start))
+            // One tab may hang; another behind it leads on into the next line.
+            if (pen.base > m_lineEnd + tolerance && at > start)
                 return {at, Obstacle::Kind::NoRoom, at};
+            moveBehindTab(pen, at);
             lastTabEnd = at + 1;
             continue;
         }
@@ -139,12 +146,14 @@ LineBreaker::Pen LineBreaker::penAt(qsizetype start, qsizetype end)
     for (qsizetype at = start; at < end; ++at) {
         const quint8 flags = m_paragraph.flags(at);
         if (flags & TabCharacter) {
-            (void)moveBehindTab(pen, at, at == start); // it did so when the line was filled
+            moveBehindTab(pen, at);
             continue;
         }
         pen.flow += m_paragraph.advance(at);
-        if (!(flags & HangingBlank))
+        if (!(flags & HangingBlank)) {
             pen.content = pen.flow;
+            pen.hasContent = true;
+        }
     }
     return pen;
 }
@@ -165,7 +174,7 @@ bool LineBreaker::fitsWhenBrokenAt(qsizetype start, qsizetype end)
     if (growth <= 0)
         return true;
     const Pen pen = penAt(start, end);
-    return pen.positionAfter(pen.content, m_lineEnd) + growth <= m_lineEnd + tolerance;
+    return pen.contentEnd(m_lineEnd) + growth <= m_lineEnd + tolerance;
 }
 
 // Returns the start where there is none.
@@ -197,7 +206,10 @@ LineBreaker::Line LineBreaker::breakWithinWord(qsizetype start, qsizetype obstac
     }
     // Blanks hang, and a line end belongs to its line, also where there was room for nothing.
     measureUpTo(std::min(end + 1, text.size()));
-    while (end < text.size() && m_paragraph.flags(end) & HangingBlank) {
+    bool hasTab = false;
+    while (end < text.size() && m_paragraph.flags(end) & (HangingBlank | TabCharacter)) {
+        if (m_paragraph.flags(end) & TabCharacter && std::exchange(hasTab, true))
+            break;
         ++end;
         if (m_paragraph.flags(end - 1) & EndsLine)
             return {end, true};
@@ -234,5 +246,5 @@ LineBreaker::Extent LineBreaker::extentOf(qsizetype start, const Line &line)
     const Pen pen = penAt(start, line.end);
     const double leading = penAtStart(start).base;
     const double growth = line.isForced ? 0 : growthWhenBrokenAt(start, line.end);
-    return {leading, std::max(0.0, pen.positionAfter(pen.content, m_lineEnd) + growth - leading)};
+    return {leading, std::max(0.0, pen.contentEnd(m_lineEnd) + growth - leading)};
 }

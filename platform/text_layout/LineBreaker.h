@@ -38,13 +38,16 @@ public:
 private:
     // Where the next character of a line goes: advances add up from the last tab on.
     struct Pen {
-        double base; // of the text behind the last tab
+        double base = 0; // of the text behind the last tab
         double flow = 0; // its advance so far
         double content = 0; // the same, without the blanks at its end
+        bool hasContent = false; // other than blanks
+        double endOfEarlierContent = 0; // of what stands before the last tab, without its blanks
         double alignedAt = 0; // the stop that the text is aligned to
         TabAlignment alignment = TabAlignment::Left;
 
         [[nodiscard]] double positionAfter(double advance, double lineEnd) const;
+        [[nodiscard]] double contentEnd(double lineEnd) const;
     };
 
     struct Obstacle {
@@ -55,7 +58,7 @@ private:
 
     [[nodiscard]] Pen penAtStart(qsizetype start) const;
     [[nodiscard]] Obstacle findObstacle(qsizetype start);
-    [[nodiscard]] bool moveBehindTab(Pen &pen, qsizetype tab, bool isFirstOfLine);
+    void moveBehindTab(Pen &pen, qsizetype tab);
     [[nodiscard]] double advanceToDecimalSeparator(qsizetype start);
     [[nodiscard]] qsizetype opportunityBefore(const Obstacle &obstacle, qsizetype start);
     [[nodiscard]] double growthWhenBrokenAt(qsizetype start, qsizetype end);

@@ -92,8 +92,8 @@ TEST_F(LineBreaking, BreaksAWordWiderThanTheColumnBetweenGraphemes)
 
 TEST_F(LineBreaking, GivesEveryGraphemeALineWhereThereIsNoRoom)
 {
-    EXPECT_EQ(linesOf(QStringLiteral("ab  c\u0301\td"), 0),
-        (QStringList{QStringLiteral("a"), QStringLiteral("b  "), QStringLiteral("c\u0301"),
+    EXPECT_EQ(linesOf(QStringLiteral("ab  c\u0301\t\td"), 0),
+        (QStringList{QStringLiteral("a"), QStringLiteral("b  "), QStringLiteral("c\u0301\t"),
             QStringLiteral("\t"), QStringLiteral("d")}));
     EXPECT_EQ(linesOf(QStringLiteral("a\u2028b\nc"), 0),
         (QStringList{QStringLiteral("a\u2028"), QStringLiteral("b\n"), QStringLiteral("c")}));
