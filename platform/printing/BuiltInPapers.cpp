@@ -75,8 +75,8 @@ std::optional<Paper> localePaper()
     const std::string_view posixName = firstVariable({"LC_ALL", "LC_PAPER", "LANG"});
     // Charset and variant do not change the region.
     const std::string name(posixName.substr(0, posixName.find_first_of(".@")));
-    // ICU takes C for American English; it names no region at all.
-    if (name.empty() || name == "C" || name == "POSIX")
+    // To ICU an empty name is the locale that the process started with.
+    if (name.empty())
         return std::nullopt;
     UErrorCode status = U_ZERO_ERROR;
     int32_t height = 0;
@@ -93,7 +93,8 @@ const std::vector<Paper> &builtInPapers()
 {
     // Names of the PPD specification 4.3 in the spelling of CUPS, whole points as in its table; identifiers
     // of PWG 5101.1.
-    static const std::vector<Paper> papers{
+    // Never destroyed: a query about printers may still use it while the process ends.
+    static const auto &papers = *new std::vector<Paper>{
         builtInPaper(QStringLiteral("Letter"), QStringLiteral("na_letter_8.5x11in"), 612, 792),
         builtInPaper(QStringLiteral("Legal"), QStringLiteral("na_legal_8.5x14in"), 612, 1008),
         builtInPaper(QStringLiteral("Executive"), QStringLiteral("na_executive_7.25x10.5in"), 522, 756),

@@ -62,17 +62,18 @@ std::vector<Paper> papersOfDatabase(ipp_t *attributes)
     for (int index = 0; index < count; ++index) {
         ipp_t *entry = ippGetCollection(database, index);
         ipp_t *size = ippGetCollection(ippFindAttribute(entry, "media-size", IPP_TAG_BEGIN_COLLECTION), 0);
-        const auto margin = [entry](const char *name) {
-            return std::max(0, length(entry, name)) * pointsPerMillimetre / 100;
-        };
         Paper paper;
         paper.size = inPoints(length(size, "x-dimension"), length(size, "y-dimension"));
-        paper.margins = {.top = margin("media-top-margin"),
-            .left = margin("media-left-margin"),
-            .bottom = margin("media-bottom-margin"),
-            .right = margin("media-right-margin")};
-        if (isPossiblePaperSize(paper.size))
-            papers.push_back(paper);
+        if (!isPossiblePaperSize(paper.size))
+            continue;
+        const auto margin = [entry](const char *name, double side) {
+            return std::clamp(length(entry, name) * pointsPerMillimetre / 100, 0.0, side);
+        };
+        paper.margins = {.top = margin("media-top-margin", paper.size.height()),
+            .left = margin("media-left-margin", paper.size.width()),
+            .bottom = margin("media-bottom-margin", paper.size.height()),
+            .right = margin("media-right-margin", paper.size.width())};
+        papers.push_back(paper);
     }
     return papers;
 }

@@ -72,6 +72,11 @@ PrinterFailure failureToConnect()
     return isRefused ? PrinterFailure::NoPrinter : PrinterFailure::NotAnswering;
 }
 
+bool isSuccess(ipp_status_t status)
+{
+    return status <= IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
 Message request(
     http_t *http, ipp_op_t operation, const char *printerUri, std::initializer_list<const char *> attributes)
 {
@@ -85,22 +90,17 @@ Message request(
     return Message(cupsDoRequest(http, message, "/"));
 }
 
-// The library's own look-up of the default destination reports a silent server as one without printers, so
-// the server is asked for its queues first.
-Result<QByteArray, PrinterFailure> firstQueue(http_t *http)
+// The library's own listing reports a silent server as one without printers, so the server is asked first.
+std::optional<PrinterFailure> failureToListQueues(http_t *http)
 {
     const Message answer = request(http, IPP_OP_CUPS_GET_PRINTERS, nullptr, {"printer-name"});
     if (!answer)
         return PrinterFailure::NotAnswering;
     const ipp_status_t status = ippGetStatusCode(answer.get());
-    if (status == IPP_STATUS_ERROR_NOT_FOUND)
+    const bool hasQueues = ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME);
+    if (status == IPP_STATUS_ERROR_NOT_FOUND || (isSuccess(status) && !hasQueues))
         return PrinterFailure::NoPrinter;
-    if (status > IPP_STATUS_OK_EVENTS_COMPLETE)
-        return PrinterFailure::NotAnswering;
-    const char *name = ippGetString(ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME), 0, nullptr);
-    if (!name)
-        return PrinterFailure::NoPrinter;
-    return QByteArray(name);
+    return isSuccess(status) ? std::nullopt : std::optional(PrinterFailure::NotAnswering);
 }
 
 QByteArray option(const cups_dest_t &destination, const char *name)
@@ -108,12 +108,27 @@ QByteArray option(const cups_dest_t &destination, const char *name)
     return cupsGetOption(name, destination.num_options, destination.options);
 }
 
-Destination queueOfDefaultDestination(http_t *http, const QByteArray &firstQueue)
+// Takes the default queue, and the first until that comes.
+int chooseQueue(void *chosen, unsigned, cups_dest_t *candidate)
 {
-    Destination destination(cupsGetNamedDest(http, nullptr, nullptr));
-    if (!destination || option(*destination, "printer-uri-supported").isEmpty())
-        destination.reset(cupsGetNamedDest(http, firstQueue.constData(), nullptr));
-    return destination;
+    auto &queue = *static_cast<Destination *>(chosen);
+    if ((queue && !candidate->is_default) || option(*candidate, "printer-uri-supported").isEmpty())
+        return 1;
+    cups_dest_t *copy = nullptr;
+    cupsCopyDest(candidate, 0, &copy);
+    queue.reset(copy);
+    return candidate->is_default ? 0 : 1;
+}
+
+Destination defaultQueue()
+{
+    Destination queue;
+    // To leave out what was discovered in the network keeps the library from looking there, which takes a
+    // second.
+    constexpr int networkLimit = 1000; // milliseconds
+    cupsEnumDests(
+        CUPS_DEST_FLAGS_NONE, networkLimit, nullptr, 0, CUPS_PRINTER_DISCOVERED, chooseQueue, &queue);
+    return queue;
 }
 
 // Absent if the server did not answer, empty if it has none.
@@ -146,22 +161,21 @@ Result<Printer, PrinterFailure> CupsPrinterSource::ask()
     const Connection http = connection();
     if (!http)
         return failureToConnect();
-    const Result<QByteArray, PrinterFailure> queue = firstQueue(http.get());
+    if (const std::optional<PrinterFailure> failure = failureToListQueues(http.get()))
+        return *failure;
+    const Destination queue = defaultQueue();
     if (!queue)
-        return queue.error();
-    const Destination destination = queueOfDefaultDestination(http.get(), queue.value());
-    if (!destination)
         return PrinterFailure::NotAnswering;
     const Message attributes = request(http.get(), IPP_OP_GET_PRINTER_ATTRIBUTES,
-        option(*destination, "printer-uri-supported").constData(),
+        option(*queue, "printer-uri-supported").constData(),
         {"media-supported", "media-default", "media-col-database"});
-    const std::optional<QByteArray> file = descriptionFile(http.get(), destination->name);
-    if (!attributes || ippGetStatusCode(attributes.get()) > IPP_STATUS_OK_EVENTS_COMPLETE || !file)
+    const std::optional<QByteArray> file = descriptionFile(http.get(), queue->name);
+    if (!attributes || !isSuccess(ippGetStatusCode(attributes.get())) || !file)
         return PrinterFailure::NotAnswering;
 
     return printerInAnswers({.attributes = attributes.get(),
         .descriptionFile = *file,
-        .pageSizeOption = option(*destination, "PageSize"),
-        .mediaOption = option(*destination, "media"),
-        .scalingOption = option(*destination, "scaling")});
+        .pageSizeOption = option(*queue, "PageSize"),
+        .mediaOption = option(*queue, "media"),
+        .scalingOption = option(*queue, "scaling")});
 }

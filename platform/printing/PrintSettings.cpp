@@ -93,20 +93,17 @@ bool PrintSettings::hasPendingAnswerWithin(std::chrono::milliseconds limit) cons
 void PrintSettings::ask()
 {
     m_askedAt = m_clock();
-    if (!m_pending.valid()) {
-        std::promise<Answer> promise;
-        std::future<Answer> future = promise.get_future();
-        // The thread owns all that it touches, so that its answer may come when nobody waits for it any more.
-        const auto query = [source = m_source](std::promise<Answer> answer) {
-            blockSignals();
-            answer.set_value(source->ask());
-        };
-        try {
-            std::thread(query, std::move(promise)).detach();
-            m_pending = std::move(future);
-        } catch (const std::system_error &) {
-            // No thread to be had: nobody is asked, and nobody answers.
-        }
+    std::promise<Answer> promise;
+    m_pending = promise.get_future();
+    // The thread owns all that it touches, so that its answer may come when nobody waits for it any more.
+    const auto query = [source = m_source](std::promise<Answer> answer) {
+        blockSignals();
+        answer.set_value(source->ask());
+    };
+    try {
+        std::thread(query, std::move(promise)).detach();
+    } catch (const std::system_error &) {
+        m_pending = {}; // no thread to be had: nobody is asked, and nobody answers
     }
     m_answer = hasPendingAnswerWithin(m_limit) ? m_pending.get() : Answer(PrinterFailure::NotAnswering);
 }

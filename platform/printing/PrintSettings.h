@@ -63,7 +63,7 @@ private:
     std::shared_ptr<PrinterSource> m_source;
     Clock m_clock;
     std::chrono::milliseconds m_limit;
-    std::future<Answer> m_pending; // valid while a query runs
+    std::future<Answer> m_pending; // of the last query; valid until its answer is taken
     std::optional<Answer> m_answer; // absent until first asked for
     std::chrono::steady_clock::time_point m_askedAt;
 };

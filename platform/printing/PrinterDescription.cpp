@@ -64,10 +64,12 @@ std::optional<Paper> paperWith(const QByteArray &name, const Measures &measures)
         return std::nullopt;
     if (!measures.imageableArea.empty()) {
         const std::vector<double> &area = measures.imageableArea;
-        paper.margins = {.top = std::max(0.0, paper.size.height() - area[3]),
-            .left = std::max(0.0, area[0]),
-            .bottom = std::max(0.0, area[1]),
-            .right = std::max(0.0, paper.size.width() - area[2])};
+        const double width = paper.size.width();
+        const double height = paper.size.height();
+        paper.margins = {.top = std::clamp(height - area[3], 0.0, height),
+            .left = std::clamp(area[0], 0.0, width),
+            .bottom = std::clamp(area[1], 0.0, height),
+            .right = std::clamp(width - area[2], 0.0, width)};
     }
     return paper;
 }

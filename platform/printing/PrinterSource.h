@@ -27,6 +27,6 @@ public:
     PrinterSource &operator=(const PrinterSource &) = delete;
     virtual ~PrinterSource() = default;
 
-    /// Asks about the user's default printer. May block for long.
+    /// Asks about the user's default printer. May block for long, but should come to an end within a minute.
     [[nodiscard]] virtual Result<Printer, PrinterFailure> ask() = 0;
 };

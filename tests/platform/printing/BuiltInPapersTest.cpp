@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <set>
+#include <sys/stat.h>
 
 namespace {
 
@@ -95,7 +96,9 @@ TEST_F(BuiltInPapersTest, APaperFileWithoutANameLeavesTheChoiceToTheLocale)
 TEST_F(BuiltInPapersTest, WhatIsNoOrdinaryFileLeavesTheChoiceToTheLocaleAndIsNotReadForEver)
 {
     ::setenv("LC_ALL", "de_DE.UTF-8", 1);
-    for (const QString &path : {world().root(), QStringLiteral("/dev/zero"),
+    const QString pipe = world().root() + QStringLiteral("/pipe");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString &path : {world().root(), QStringLiteral("/dev/zero"), pipe,
              writeFile(QStringLiteral("long"), QByteArray(1'000'000, ' '))}) {
         configurePaperFile(path);
         EXPECT_EQ(defaultName(), QStringLiteral("A4")) << path.toStdString();

@@ -112,10 +112,11 @@ TEST_F(CupsAnswersTest, RangesAndSizesThatNoSheetHasAreLeftOut)
     ippAddRange(range, IPP_TAG_ZERO, "y-dimension", 1000, 30000);
     addDatabase(
         {mediumOfSize(range, 0, 0, 0, 0), medium(0, 29700, 0, 0, 0, 0), medium(-21000, 29700, 0, 0, 0, 0),
-            medium(21000, 2'000'000'000, 0, 0, 0, 0), medium(21000, 29700, -100, 0, 0, 0)});
+            medium(21000, 2'000'000'000, 0, 0, 0, 0), medium(21000, 29700, -100, 2'000'000'000, 0, 0)});
     const std::vector<Paper> papers = printer().papers;
     ASSERT_EQ(papers.size(), 1U);
     EXPECT_EQ(papers[0].margins.top, 0);
+    EXPECT_THAT(papers[0].margins.left, DoubleNear(210 * 72 / 25.4, 1e-9)) << "not wider than the paper";
 }
 
 TEST_F(CupsAnswersTest, ADescriptionNamesEveryPaperAndTheAttributesIdentifyThem)

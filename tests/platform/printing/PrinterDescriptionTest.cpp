@@ -56,14 +56,24 @@ TEST(PrinterDescription, ChoicesWithoutASensibleSizeAreLeftOut)
     EXPECT_THAT(names(printerDescription(file)), ElementsAre(QStringLiteral("Good")));
 }
 
-TEST(PrinterDescription, MarginsThatAreMissingOrNegativeAreZero)
+TEST(PrinterDescription, MarginsThatAreMissingOrNegativeOrNoNumbersAreZero)
+{
+    for (const QByteArray area : {"", "*ImageableArea A: \"-5 -5 105 205\"\n",
+             "*ImageableArea A: \"1 1 99\"\n", "*ImageableArea A: \"inf nan 1 1\"\n"}) {
+        const PrinterDescription description =
+            printerDescription("*PageSize A: \"\"\n*PaperDimension A: \"100 200\"\n" + area);
+        ASSERT_EQ(description.papers.size(), 1U);
+        EXPECT_EQ(description.papers[0].margins, PaperMargins()) << area.constData();
+    }
+}
+
+TEST(PrinterDescription, AMarginIsNotWiderThanThePaper)
 {
     const PrinterDescription description = printerDescription(
-        "*PageSize A: \"\"\n*PaperDimension A: \"100 200\"\n"
-        "*PageSize B: \"\"\n*PaperDimension B: \"100 200\"\n*ImageableArea B: \"-5 -5 105 205\"\n");
-    ASSERT_EQ(description.papers.size(), 2U);
-    EXPECT_EQ(description.papers[0].margins, PaperMargins());
-    EXPECT_EQ(description.papers[1].margins, PaperMargins());
+        "*PageSize A: \"\"\n*PaperDimension A: \"100 200\"\n*ImageableArea A: \"1e9 1e9 -1e9 -1e9\"\n");
+    ASSERT_EQ(description.papers.size(), 1U);
+    EXPECT_EQ(
+        description.papers[0].margins, (PaperMargins{.top = 200, .left = 100, .bottom = 200, .right = 100}));
 }
 
 TEST(PrinterDescription, WhatIsNoDescriptionHasNoPapers)
