@@ -12,6 +12,7 @@
 
 #include <csignal>
 #include <cstring>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -159,6 +160,8 @@ PrintServer::PrintServer()
     // Where AppArmor confines the server, it does so by path: the system's one may not read a test's folder.
     const QString copy = m_folder + QStringLiteral("/cupsd");
     QFile::copy(programPath("cupsd"), copy);
+    // No test that crashes may leave a server behind.
+    m_server.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     m_server.start(
         copy, {QStringLiteral("-f"), QStringLiteral("-c"), configuration, QStringLiteral("-s"), files});
     if (!waitUntil([&] { return takesConnections(socket); })) {
