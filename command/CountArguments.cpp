@@ -8,13 +8,14 @@
 
 namespace {
 
-enum Option { Help = 'h', Json = 0x100, Tsv, FilesFrom };
+enum Option { Help = 'h', Json = 0x100, Tsv, FilesFrom, ExplainRules };
 
 constexpr option options[] = {
     {"help", no_argument, nullptr, Help},
     {"json", no_argument, nullptr, Json},
     {"tsv", no_argument, nullptr, Tsv},
     {"files-from", required_argument, nullptr, FilesFrom},
+    {"explain-rules", no_argument, nullptr, ExplainRules},
     {},
 };
 
@@ -30,7 +31,7 @@ std::nullopt_t wrongUsage(const char *message)
 
 const char *CountArguments::helpText()
 {
-    return R"(Usage: quillbay count [--json | --tsv] [--files-from LIST] [FILE…]
+    return R"(Usage: quillbay count [--json | --tsv | --explain-rules] [--files-from LIST] [FILE…]
 
 Counts words, characters, sentences, lines on your paper, hard line breaks,
 paragraphs and indented paragraphs of each FILE, under your preferences. Reads
@@ -41,6 +42,9 @@ standard input where FILE is - or where no file is named at all.
   --files-from LIST  count the files named in LIST too, behind those of the
                      command line; the names are separated by line ends, or by
                      NUL bytes if there is one; LIST may be - for standard input
+  --explain-rules    print what the counts of the files rest on instead: locale,
+                     preferences, paper, margins, and the fonts that the files
+                     need (without a file, the font of plain text)
   -h, --help         show this and leave
 
 The table counts together what is in several files; the other two forms have
@@ -81,6 +85,9 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
                 return wrongUsage("--files-from can be given only once");
             arguments.listName = optarg;
             break;
+        case ExplainRules:
+            arguments.wantsRules = true;
+            break;
         default:
             return wrongUsage(nullptr); // getopt_long() has said what is wrong
         }
@@ -90,7 +97,7 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
 
     if (arguments.listName == "-" && arguments.fileNames.contains("-"))
         return wrongUsage("standard input cannot be both a text and the list of files");
-    if (!arguments.listName && arguments.fileNames.isEmpty())
+    if (!arguments.listName && arguments.fileNames.isEmpty() && !arguments.wantsRules)
         arguments.fileNames.append("-");
     return arguments;
 }

@@ -13,6 +13,7 @@ enum class CountForm { Table, Json, Tsv };
 struct CountArguments {
     CountForm form = CountForm::Table;
     bool wantsHelp = false;
+    bool wantsRules = false; ///< what the counts rest on, instead of the counts
     std::optional<QByteArray> listName; ///< of a file with names, "-" for standard input
     QByteArrayList fileNames; ///< "-" for standard input
 

@@ -2,9 +2,11 @@
 #include "command/CountCommand.h"
 
 #include "command/FileNames.h"
+#include "command/RulesExplanation.h"
 #include "platform/files/FileContents.h"
 #include "platform/styled_text/DocumentLoader.h"
 #include "preferences/QBYUserDefaultsController.h"
+#include "text_statistics/MeasuringSurface.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -13,6 +15,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -50,20 +53,49 @@ Result<QByteArray, FileError> readList(const QByteArray &name)
 int CountCommand::run()
 {
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
-
     const QByteArrayList names = inputNames();
-    const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.form, sizeOfAll(names));
-    ProgressLine progress(names.size());
-    m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        progress.startReading(names[i], i);
-        countFile(names[i], *report, progress);
-    }
-    if (names.size() > 1)
-        print(report->total(m_total));
+    if (m_arguments.wantsRules)
+        explainRules(names);
+    else
+        countAll(names);
     if (std::fflush(stdout) != 0)
         fail("standard output", qt_error_string(errno));
     return m_hasFailed ? 1 : 0;
+}
+
+void CountCommand::countAll(const QByteArrayList &names)
+{
+    const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.form, sizeOfAll(names));
+    QBYWordCounterStats total;
+    bool isFirst = true;
+    ProgressLine progress(names.size());
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        progress.startReading(names[i], i);
+        const std::optional<QBYWordCounterStats> stats = count(names[i], progress);
+        if (!stats)
+            continue;
+        if (std::exchange(isFirst, false))
+            print(report->header());
+        print(report->row(names[i], *stats));
+        total += *stats;
+    }
+    progress.hide();
+    if (names.size() > 1)
+        print(report->total(total));
+}
+
+// The fonts are known only after the texts have been laid out.
+void CountCommand::explainRules(const QByteArrayList &names)
+{
+    ProgressLine progress(names.size());
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        progress.startReading(names[i], i);
+        count(names[i], progress);
+    }
+    if (names.isEmpty())
+        m_model.setAttributedStringToCount(AttributedString(QStringLiteral("a")));
+    progress.hide();
+    print(rulesExplanation(currentCountingRules(), MeasuringSurface::shared().engine().fontFilesInUse()));
 }
 
 QByteArrayList CountCommand::inputNames()
@@ -79,30 +111,28 @@ QByteArrayList CountCommand::inputNames()
     return names + namesInList(list.value());
 }
 
-void CountCommand::countFile(const QByteArray &name, CountReport &report, ProgressLine &progress)
+std::optional<QBYWordCounterStats> CountCommand::count(const QByteArray &name, ProgressLine &progress)
 {
+    QString failure;
     // Every step makes buffers as large as the document.
     try {
-        Result<AttributedString, LoadError> text =
+        const Result<AttributedString, LoadError> text =
             name == standardInput ? loadDocument(STDIN_FILENO) : loadDocument(name);
-        if (!text) {
-            progress.hide();
-            fail(name, causeText(text.error()));
-            return;
+        if (text) {
+            progress.startCounting(text.value().length());
+            m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
+            m_model.setAttributedStringToCount(text.value());
+        } else {
+            failure = causeText(text.error());
         }
-        progress.startCounting(text.value().length());
-        m_model.setAttributedStringToCount(text.value());
     } catch (const std::bad_alloc &) {
-        progress.hide();
-        fail(name, causeText(FileError{FileError::Cause::NotEnoughMemory}));
-        return;
+        failure = causeText(FileError{FileError::Cause::NotEnoughMemory});
     }
     progress.hide();
-    if (!m_hasPrintedHeader)
-        print(report.header());
-    m_hasPrintedHeader = true;
-    print(report.row(name, m_model.statsRepresentation()));
-    m_total += m_model.statsRepresentation();
+    if (failure.isEmpty())
+        return m_model.statsRepresentation();
+    fail(name, failure);
+    return std::nullopt;
 }
 
 void CountCommand::fail(const QByteArray &name, const QString &cause)

@@ -23,13 +23,13 @@ public:
 
 private:
     [[nodiscard]] QByteArrayList inputNames();
-    void countFile(const QByteArray &name, CountReport &report, ProgressLine &progress);
+    void countAll(const QByteArrayList &names);
+    void explainRules(const QByteArrayList &names);
+    std::optional<QBYWordCounterStats> count(const QByteArray &name, ProgressLine &progress);
     void fail(const QByteArray &name, const QString &cause);
-    void print(const QByteArray &text);
+    static void print(const QByteArray &text);
 
     const CountArguments m_arguments;
     WordCounterModel m_model;
-    QBYWordCounterStats m_total;
     bool m_hasFailed = false;
-    bool m_hasPrintedHeader = false;
 };

@@ -27,6 +27,7 @@ struct PageRules {
     QSizeF paperSize;
     double leftMargin = 0;
     double rightMargin = 0;
+    double scale = 1; ///< the surface's backing scale factor, by which the margins are divided already
 };
 
 struct CountingRules {

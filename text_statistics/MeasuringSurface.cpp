@@ -35,7 +35,8 @@ PageRules MeasuringSurface::pageOf(PrintSettings &printSettings) const
         return {.paperName = std::nullopt,
             .paperSize = printSettings.paperSize(),
             .leftMargin = printSettings.leftMargin(),
-            .rightMargin = printSettings.rightMargin()};
+            .rightMargin = printSettings.rightMargin(),
+            .scale = m_window.backingScaleFactor()};
     }
     const View &textView = *m_preview.previewTextView();
     return {.paperName = paper->paperName(),
@@ -43,7 +44,8 @@ PageRules MeasuringSurface::pageOf(PrintSettings &printSettings) const
         .leftMargin =
             QBYExtension::inchToScreenNumber(textView, Preferences::leftMarginForPaperSizeLineMeasuring()),
         .rightMargin =
-            QBYExtension::inchToScreenNumber(textView, Preferences::rightMarginForPaperSizeLineMeasuring())};
+            QBYExtension::inchToScreenNumber(textView, Preferences::rightMarginForPaperSizeLineMeasuring()),
+        .scale = m_window.backingScaleFactor()};
 }
 
 void MeasuringSurface::setPage(const PageRules &page)

@@ -25,9 +25,10 @@ TEST_F(CountCommandTest, TheTableHasAHeaderAndARowForTheFile)
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors, QByteArray());
     EXPECT_THAT(outcome.output.toStdString(),
-        StartsWith("Words  Characters  +Whitespace  Sentences  Lines  Hard breaks  Paragraphs  Indented  File\n"));
-    EXPECT_THAT(
-        tableRows(outcome.output), ElementsAre(QByteArrayList{"6", "22", "30", "2", "3", "3", "2", "1", name}));
+        StartsWith(
+            "Words  Characters  +Whitespace  Sentences  Lines  Hard breaks  Paragraphs  Indented  File\n"));
+    EXPECT_THAT(tableRows(outcome.output),
+        ElementsAre(QByteArrayList{"6", "22", "30", "2", "3", "3", "2", "1", name}));
 }
 
 TEST_F(CountCommandTest, SeveralFilesComeInTheOrderGivenWithATotalBelow)
@@ -79,9 +80,9 @@ TEST_F(CountCommandTest, TsvNamesItsColumnsAndEscapesWhatWouldBreakThem)
     const QByteArrayList lines = count({"--tsv", name}).output.split('\n');
     ASSERT_EQ(lines.size(), 3);
     EXPECT_EQ(lines[0],
-        QByteArray(
-            "file\twords\tcharacters\tcharactersIncludingWhitespace\tsentences\tlines\thardLineBreaks\tparagraphs\t"
-            "indentedParagraphs"));
+        QByteArray("file\twords\tcharacters\tcharactersIncludingWhitespace\tsentences\tlines\thardLineBreaks"
+                   "\tparagraphs\t"
+                   "indentedParagraphs"));
     EXPECT_THAT(lines[1].toStdString(), EndsWith("/tab\\there\\\\line\\nend\t2\t7\t9\t1\t1\t1\t1\t0"));
 }
 
@@ -213,12 +214,12 @@ TEST_F(CountCommandTest, CountsUnderThePreferencesAndTheLocaleOfTheMoment)
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
     QBYUserDefaultsController::setShouldEnforceTrailingPeriodForSentencesCount(false);
     QBYUserDefaultsController::setMinNumberOfSentencesForParagraphCount(1);
-    EXPECT_EQ(
-        tableRows(count({name}).output).front().first(7), (QByteArrayList{"3", "18", "21", "2", "2", "2", "2"}));
+    EXPECT_EQ(tableRows(count({name}).output).front().first(7),
+        (QByteArrayList{"3", "18", "21", "2", "2", "2", "2"}));
     QBYUserDefaultsController::setMinNumberOfSentencesForParagraphCount(2);
     setLocale("fr_FR.UTF-8");
-    EXPECT_EQ(
-        tableRows(count({name}).output).front().first(7), (QByteArrayList{"4", "18", "21", "2", "2", "2", "0"}));
+    EXPECT_EQ(tableRows(count({name}).output).front().first(7),
+        (QByteArrayList{"4", "18", "21", "2", "2", "2", "0"}));
 }
 
 TEST_F(CountCommandTest, WithoutAUsableConfigurationFolderItStillCountsWithOneLineOfWarning)
@@ -242,4 +243,28 @@ TEST_F(CountCommandTest, LinesAreThoseOfTheUsersPaper)
     QBYUserDefaultsController::setCurrentPaperNamePreference(QStringLiteral("A6"));
     EXPECT_GT(onA4, 1);
     EXPECT_GT(lines(), onA4);
+}
+
+TEST_F(CountCommandTest, ExplainedRulesNameWhatTheCountsRestOn)
+{
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    QBYUserDefaultsController::setCurrentPaperNamePreference(QStringLiteral("Legal"));
+    QBYUserDefaultsController::setLeftMarginForPaperSizeLineMeasuring(1);
+    QBYUserDefaultsController::setMinNumberOfSentencesForParagraphCount(2);
+    const ChildProcess::Outcome outcome = count({"--explain-rules"});
+    EXPECT_EQ(outcome.exitStatus, 0);
+    const std::string text = outcome.output.simplified().toStdString();
+    for (const char *rule : {"Locale en_US", "Sentences end in punctuation yes", "at least 2", "Paper Legal",
+             "Paper width 612 points", "Left margin 72 points", "Right margin 18 points", "Column 522 points",
+             "Pixels per point 1", "Font "})
+        EXPECT_THAT(text, HasSubstr(rule));
+}
+
+TEST_F(CountCommandTest, ExplainedRulesNameTheFontsThatTheFilesNeed)
+{
+    const QByteArray latin = count({"--explain-rules", file("latin", "One.")}).output;
+    const QByteArray thai = count({"--explain-rules", file("thai", "\xE0\xB8\xA0\xE0\xB8\xB2")}).output;
+    if (latin.count("\nFont ") != 1)
+        GTEST_SKIP() << "no usable font here";
+    EXPECT_NE(latin, thai);
 }
