@@ -5,16 +5,13 @@
 
 #include <QFile>
 
-#include <atomic>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <sys/un.h>
-#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -38,63 +35,12 @@ protected:
         return file;
     }
 
-    static QString cause(const Result<QByteArray, FileError> &contents)
-    {
-        return contents ? QStringLiteral("none") : causeText(contents.error());
-    }
-
     static QString causeFor(const QByteArray &file, const FileLimits &limits = {})
     {
-        return cause(::readFile(file, limits));
+        const Result<QByteArray, FileError> contents = ::readFile(file, limits);
+        return contents ? QStringLiteral("none") : causeText(contents.error());
     }
 };
-
-struct Pipe {
-    explicit Pipe(int flags = 0)
-    {
-        int ends[2];
-        EXPECT_EQ(::pipe2(ends, flags | O_CLOEXEC), 0);
-        reading = ends[0];
-        writing = ends[1];
-    }
-    Pipe(const Pipe &) = delete;
-    Pipe &operator=(const Pipe &) = delete;
-    ~Pipe()
-    {
-        ::close(reading);
-        closeWriting();
-    }
-    void write(const QByteArray &bytes) const
-    {
-        EXPECT_EQ(::write(writing, bytes.constData(), static_cast<size_t>(bytes.size())), bytes.size());
-    }
-    void closeWriting()
-    {
-        if (writing >= 0)
-            ::close(writing);
-        writing = -1;
-    }
-
-    int reading = -1;
-    int writing = -1;
-};
-
-/// Waits until a thread of this process sleeps in the kernel.
-void waitUntilAsleep(pid_t thread)
-{
-    const QByteArray file = "/proc/self/task/" + QByteArray::number(thread) + "/stat";
-    QByteArray status;
-    do {
-        QFile stat(QFile::decodeName(file));
-        ASSERT_TRUE(stat.open(QIODevice::ReadOnly));
-        status = stat.readAll();
-    } while (!status.contains(") S "));
-}
-
-pid_t currentThread()
-{
-    return static_cast<pid_t>(::syscall(SYS_gettid));
-}
 
 } // namespace
 
@@ -270,135 +216,4 @@ TEST_F(FileContents, AFileWithLessThanItsSizeGivesWhatIsThere)
     const QByteArray contents = ::readFile(file).value();
     EXPECT_EQ(contents.left(1), "0");
     EXPECT_LT(contents.size(), 1000);
-}
-
-TEST_F(FileContents, AFileThatGrowsIsReadAsFarAsItWasLongAtFirst)
-{
-    const QByteArray file = sparseFile("log", mebibyte);
-    const int descriptor = ::open(file.constData(), O_RDWR | O_CLOEXEC);
-    // The position is the reader's too: the end of the file is always out of the reader's reach.
-    std::atomic<bool> started = false;
-    std::atomic<bool> stop = false;
-    std::thread writer([&] {
-        while (!stop) {
-            const off_t position = ::lseek(descriptor, 0, SEEK_CUR);
-            EXPECT_EQ(::ftruncate(descriptor, position + mebibyte), 0);
-            started = true;
-        }
-    });
-    while (!started)
-        std::this_thread::yield();
-    EXPECT_EQ(readDescriptor(descriptor).value().size(), mebibyte);
-    stop = true;
-    writer.join();
-    ::close(descriptor);
-}
-
-TEST_F(FileContents, ADescriptorOfAFileIsReadFromItsPosition)
-{
-    const int descriptor = ::open(written("text", "first\nsecond\n").constData(), O_RDONLY | O_CLOEXEC);
-    ASSERT_EQ(::lseek(descriptor, 6, SEEK_SET), 6);
-    EXPECT_EQ(readDescriptor(descriptor).value(), "second\n");
-    EXPECT_EQ(readDescriptor(descriptor).value(), QByteArray());
-    ASSERT_EQ(::lseek(descriptor, 100, SEEK_SET), 100);
-    EXPECT_EQ(readDescriptor(descriptor).value(), QByteArray());
-    ::close(descriptor);
-}
-
-TEST_F(FileContents, AFolderOnADescriptorIsRefused)
-{
-    const int descriptor = ::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    EXPECT_EQ(cause(readDescriptor(descriptor)), QStringLiteral("is a folder"));
-    ::close(descriptor);
-}
-
-TEST_F(FileContents, AClosedDescriptorIsAnError)
-{
-    EXPECT_EQ(cause(readDescriptor(-1)), QStringLiteral("cannot be read (Bad file descriptor)"));
-}
-
-TEST_F(FileContents, APipeIsReadToItsEnd)
-{
-    Pipe pipe;
-    const QByteArray bytes = QByteArray("0123456789").repeated(50'000);
-    std::thread writer([&] {
-        for (qsizetype at = 0; at < bytes.size(); at += 1000)
-            pipe.write(bytes.mid(at, 1000));
-        pipe.closeWriting();
-    });
-    EXPECT_EQ(readDescriptor(pipe.reading).value(), bytes);
-    writer.join();
-}
-
-TEST_F(FileContents, AnEmptyDeviceAsInputIsAnEmptyText)
-{
-    const int descriptor = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
-    EXPECT_EQ(readDescriptor(descriptor).value(), QByteArray());
-    ::close(descriptor);
-}
-
-TEST_F(FileContents, AnEndlessInputIsRefusedAtTheLimit)
-{
-    const int descriptor = ::open("/dev/zero", O_RDONLY | O_CLOEXEC);
-    FileLimits limits;
-    limits.largestSize = 10 * mebibyte;
-    EXPECT_EQ(cause(readDescriptor(descriptor, limits)), QStringLiteral("is larger than 2 GiB"));
-    limits.memory = 3 * mebibyte;
-    EXPECT_EQ(cause(readDescriptor(descriptor, limits)), QStringLiteral("not enough memory"));
-    ::close(descriptor);
-}
-
-TEST_F(FileContents, AnInputAsLongAsTheLimitIsStillRead)
-{
-    FileLimits limits;
-    limits.largestSize = 5;
-    Pipe pipe;
-    pipe.write("12345");
-    pipe.closeWriting();
-    EXPECT_EQ(readDescriptor(pipe.reading, limits).value(), "12345");
-}
-
-TEST_F(FileContents, ADescriptorThatDoesNotBlockIsWaitedFor)
-{
-    Pipe pipe(O_NONBLOCK);
-    const pid_t reader = currentThread();
-    std::thread writer([&] {
-        waitUntilAsleep(reader);
-        pipe.write("late");
-        pipe.closeWriting();
-    });
-    EXPECT_EQ(readDescriptor(pipe.reading).value(), "late");
-    writer.join();
-}
-
-TEST_F(FileContents, ASignalDoesNotEndTheReading)
-{
-    static std::atomic<int> signalCount = 0;
-    struct sigaction count { };
-    struct sigaction before;
-    count.sa_handler = [](int) { ++signalCount; };
-    ASSERT_EQ(::sigaction(SIGUSR1, &count, &before), 0); // without SA_RESTART
-
-    Pipe pipe;
-    const pid_t reader = currentThread();
-    const pthread_t readerHandle = ::pthread_self();
-    std::thread writer([&] {
-        for (int sent = 1; sent <= 20; ++sent) {
-            waitUntilAsleep(reader);
-            ::pthread_kill(readerHandle, SIGUSR1);
-            while (signalCount < sent)
-                std::this_thread::yield();
-        }
-        pipe.write("whole");
-        pipe.closeWriting();
-    });
-    EXPECT_EQ(readDescriptor(pipe.reading).value(), "whole");
-    writer.join();
-    ::sigaction(SIGUSR1, &before, nullptr);
-}
-
-TEST_F(FileContents, StandardInputOfAProgramIsRead)
-{
-    ChildProcess reader(testProgram(QStringLiteral("read_file")));
-    EXPECT_EQ(reader.run({}, QByteArray(200'000, 'x')).output, "200000 bytes");
 }

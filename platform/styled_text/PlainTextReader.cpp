@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "platform/styled_text/PlainTextReader.h"
+
+#include "platform/styled_text/EncodedText.h"
+#include "platform/styled_text/TextEncoding.h"
+
+#include <new>
+
+namespace {
+
+/// Bytes, of which there are never fewer than code units.
+constexpr qsizetype longestInput = INT32_MAX - 1;
+
+} // namespace
+
+QString causeText(TextError error)
+{
+    return error == TextError::TooLong ? QStringLiteral("is larger than 2 GiB")
+                                       : QStringLiteral("not enough memory");
+}
+
+Result<PlainText, TextError> readPlainText(QByteArrayView bytes)
+{
+    if (bytes.size() > longestInput)
+        return TextError::TooLong;
+    try {
+        const TextEncoding encoding = detectTextEncoding(bytes);
+        return PlainText{decodedText(bytes.sliced(encoding.markLength), encoding.name), encoding.name};
+    } catch (const std::bad_alloc &) {
+        return TextError::NotEnoughMemory;
+    }
+}
