@@ -27,14 +27,13 @@ std::shared_ptr<FlippedView> madePage()
     return page;
 }
 
-std::shared_ptr<TextView> madeTextView()
+std::shared_ptr<TextView> madeTextView(const std::shared_ptr<LayoutEngine> &engine)
 {
-    // As high as can be: the column never ends, whatever the page.
-    auto textView = std::make_shared<TextView>(QRectF(0, 0, 0, std::numeric_limits<double>::max()));
+    constexpr double endless = std::numeric_limits<double>::max();
+    auto textView = std::make_shared<TextView>(QRectF(0, 0, 0, endless), engine);
     textView->setAppearance(Appearance::Light); // the page is white in a dark desktop too
     textView->setEditable(false);
     textView->setSelectable(false);
-    textView->textContainer().setLineFragmentPadding(0);
     textView->textStorage().setAttributedString(AttributedString(pagePreviewSampleText()));
     return textView;
 }
@@ -46,6 +45,12 @@ QString inches(double points)
 }
 
 } // namespace
+
+PageSizeForMeasuringPreviewViewController::PageSizeForMeasuringPreviewViewController(
+    std::shared_ptr<LayoutEngine> engine)
+    : m_engine(std::move(engine))
+{
+}
 
 void PageSizeForMeasuringPreviewViewController::loadView()
 {
@@ -60,7 +65,7 @@ void PageSizeForMeasuringPreviewViewController::loadView()
         m_mainScrollView->setDocumentView(page);
     }
     if (!m_previewTextView)
-        m_previewTextView = madeTextView();
+        m_previewTextView = madeTextView(m_engine);
     m_wrapperView->addSubview(m_previewTextView);
     scrollToTop(*m_mainScrollView);
 }

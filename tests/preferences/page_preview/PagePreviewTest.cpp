@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/views/Window.h"
 #include "preferences/page_preview/PageSizeForMeasuringPreviewViewController.h"
 #include "preferences/page_preview/SampleText.h"
 
@@ -8,7 +9,7 @@
 
 namespace {
 
-constexpr QSizeF letter {612, 792};
+constexpr QSizeF letter{612, 792};
 constexpr double endless = std::numeric_limits<double>::max();
 
 } // namespace
@@ -23,7 +24,7 @@ protected:
     [[nodiscard]] QBYScrollView &scrollView() const { return *m_preview.mainScrollView(); }
     [[nodiscard]] QPointF scrollPosition() const { return scrollView().contentView().bounds().topLeft(); }
 
-    PageSizeForMeasuringPreviewViewController m_preview;
+    PageSizeForMeasuringPreviewViewController m_preview{std::make_shared<LayoutEngine>()};
 };
 
 TEST_F(PagePreview, ThePageIsTheDocumentOfTheControllersViewAndHoldsTheColumn)
@@ -55,7 +56,6 @@ TEST_F(PagePreview, TheColumnIsLightReadOnlyTextOfNoWidthAndEndlessHeight)
     EXPECT_EQ(column().appearance(), Appearance::Light);
     EXPECT_FALSE(column().isEditable());
     EXPECT_FALSE(column().isSelectable());
-    EXPECT_EQ(column().textContainer().lineFragmentPadding(), 0);
     EXPECT_EQ(column().textStorage().attributedString().string(), pagePreviewSampleText());
 }
 
@@ -103,7 +103,8 @@ TEST_F(PagePreview, LoadingMakesAMissingScrollViewWithAPage)
     ASSERT_EQ(m_preview.mainScrollView(), nullptr);
     ASSERT_EQ(m_preview.wrapperView(), nullptr);
 
-    EXPECT_EQ(m_preview.view().get(), &scrollView());
+    m_preview.loadView();
+    EXPECT_EQ(m_preview.view().get(), m_preview.mainScrollView());
     EXPECT_TRUE(scrollView().disableScrolling());
     EXPECT_EQ(columnBefore->superview(), &page());
 }
@@ -137,7 +138,7 @@ TEST_F(PagePreview, InsetsThatLeaveTheColumnNoWidthChangeNothing)
     m_preview.setPreviewContentFrameSize(letter, 72, 90);
     scrollView().contentView().scrollToPoint({3, 4});
     const double notANumber = std::numeric_limits<double>::quiet_NaN();
-    for (const auto &[left, right] : std::initializer_list<std::pair<double, double>> {
+    for (const auto &[left, right] : std::initializer_list<std::pair<double, double>>{
              {400, 195}, {595, 0}, {0, 595}, {400, 400}, {notANumber, 0}}) {
         m_preview.setPreviewContentFrameSize({595, 842}, left, right);
         EXPECT_EQ(page().frame(), QRectF(0, 0, 612, 792)) << left;
@@ -182,7 +183,7 @@ TEST_F(PagePreview, NamesThePageSizeInInchesWhateverTheScreensScaleFactor)
 
 TEST(PagePreviewBeforeLoading, HasNoViewsAndAPageOfNoSize)
 {
-    const PageSizeForMeasuringPreviewViewController preview;
+    const PageSizeForMeasuringPreviewViewController preview(std::make_shared<LayoutEngine>());
     EXPECT_EQ(preview.previewTextView(), nullptr);
     EXPECT_EQ(preview.wrapperView(), nullptr);
     EXPECT_EQ(preview.mainScrollView(), nullptr);
@@ -192,7 +193,7 @@ TEST(PagePreviewBeforeLoading, HasNoViewsAndAPageOfNoSize)
 
 TEST(PagePreviewBeforeLoading, LoadsItsViewsForTheFirstLayout)
 {
-    PageSizeForMeasuringPreviewViewController preview;
+    PageSizeForMeasuringPreviewViewController preview(std::make_shared<LayoutEngine>());
     preview.setPreviewContentFrameSize(letter, 612, 0);
     EXPECT_FALSE(preview.isViewLoaded());
     preview.setPreviewContentFrameSize(letter, 72, 72);
