@@ -29,13 +29,14 @@ bool isSign(QChar unit)
 
 QStringView withoutLeadingSpace(QStringView text)
 {
-    const auto first = std::find_if_not(text.begin(), text.end(), [](QChar unit) { return unit.isSpace(); });
+    const auto *const first =
+        std::find_if_not(text.begin(), text.end(), [](QChar unit) { return unit.isSpace(); });
     return text.sliced(first - text.begin());
 }
 
 qsizetype digitsFrom(QStringView text, qsizetype start)
 {
-    const auto first = text.begin() + start;
+    const auto *const first = text.begin() + start;
     return std::find_if_not(first, text.end(), isDigit) - first;
 }
 

@@ -161,10 +161,10 @@ SuiteDatabase::Failure SuiteDatabase::ensureOpen(Purpose purpose)
             return SuiteFault{SuiteFault::Kind::Broken, QStringLiteral("it is not a file")};
         if (exists && status.st_size > maximalFileSize)
             return SuiteFault{SuiteFault::Kind::Broken, QStringLiteral("it is too large")};
-        if (const Failure failure = openFile(purpose))
+        if (Failure failure = openFile(purpose))
             return failure;
         if (m_database) {
-            const Failure failure = checkFile(purpose);
+            Failure failure = checkFile(purpose);
             return failure ? failure : setLimits();
         }
     }
@@ -196,7 +196,7 @@ SuiteDatabase::Failure SuiteDatabase::openFile(Purpose purpose)
 SuiteDatabase::Failure SuiteDatabase::checkFile(Purpose purpose)
 {
     // EXTRA is FULL and also makes the end of a transaction last through a loss of power.
-    if (const Failure failure = execute("PRAGMA synchronous = EXTRA"))
+    if (Failure failure = execute("PRAGMA synchronous = EXTRA"))
         return failure;
     const auto found = content();
     if (!found)
@@ -247,7 +247,7 @@ SuiteDatabase::Failure SuiteDatabase::checkIntegrity()
 
 Result<std::optional<DefaultsValue>, SuiteFault> SuiteDatabase::read(const QString &key)
 {
-    const Failure failure = ensureOpen(Purpose::Reading);
+    Failure failure = ensureOpen(Purpose::Reading);
     if (failure) {
         close();
         return *failure;
@@ -289,9 +289,9 @@ std::optional<SuiteFault> SuiteDatabase::write(
 SuiteDatabase::Failure SuiteDatabase::writeInTransaction(
     const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard)
 {
-    if (const Failure failure = execute("BEGIN IMMEDIATE"))
+    if (Failure failure = execute("BEGIN IMMEDIATE"))
         return failure;
-    if (const Failure failure = makeTable())
+    if (Failure failure = makeTable())
         return failure;
     if (guard) {
         const auto value = select(*guard);
@@ -301,7 +301,7 @@ SuiteDatabase::Failure SuiteDatabase::writeInTransaction(
             return execute("ROLLBACK");
     }
     for (const DefaultsEntry &entry : entries) {
-        if (const Failure failure = store(entry))
+        if (Failure failure = store(entry))
             return failure;
     }
     return execute("COMMIT");
@@ -316,7 +316,7 @@ SuiteDatabase::Failure SuiteDatabase::makeTable()
         return foreignFault();
     if (found.value() == Content::Suite)
         return {};
-    if (const Failure failure =
+    if (Failure failure =
             execute("CREATE TABLE preference (key TEXT PRIMARY KEY NOT NULL, type TEXT NOT NULL,"
                     " value ANY NOT NULL) STRICT, WITHOUT ROWID"))
         return failure;

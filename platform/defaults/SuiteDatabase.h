@@ -69,7 +69,7 @@ private:
         const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
     Result<std::optional<DefaultsValue>, SuiteFault> select(const QString &key);
     Failure store(const DefaultsEntry &entry);
-    Failure execute(const QByteArray &statement);
+    Failure execute(const QByteArray &text);
     [[nodiscard]] SuiteFault faultOf(int code) const;
 
     QByteArray m_path;

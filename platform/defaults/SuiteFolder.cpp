@@ -66,7 +66,7 @@ QByteArray putAside(const QByteArray &databasePath)
     if (!real)
         return {};
     const QByteArray from(real.get());
-    const QByteArray to = from + ".broken-"
+    QByteArray to = from + ".broken-"
         + QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd-hhmmss").toLatin1() + '-'
         + QByteArray::number(QRandomGenerator::system()->generate(), 16);
     // The journal goes first: left behind, it would be played back into the fresh database.

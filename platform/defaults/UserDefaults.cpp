@@ -111,12 +111,12 @@ std::optional<SuiteFault> UserDefaults::writeUnderLock(
     if (lock.error() != 0)
         return SuiteFault{SuiteFault::Kind::Other, qt_error_string(lock.error())};
     m_database.setPatience(patience(m_writing));
-    const auto fault = m_database.write(entries, guard);
+    auto fault = m_database.write(entries, guard);
     if (!fault || fault->kind != SuiteFault::Kind::Broken)
         return fault;
     // The write has just looked at what the path leads to, and nobody else may change that while the lock is
     // held: what is put aside is what was found broken.
-    if (const auto failure = putBrokenFileAside(*fault))
+    if (auto failure = putBrokenFileAside(*fault))
         return failure;
     return m_database.write(entries, guard);
 }

@@ -3,9 +3,11 @@
 
 #include "platform/notifications/SessionBusConnection.h"
 
-NotificationObserver::NotificationObserver(const QString &name, QObject *parent)
+#include <utility>
+
+NotificationObserver::NotificationObserver(QString name, QObject *parent)
     : QObject(parent)
-    , m_name(name)
+    , m_name(std::move(name))
 {
     auto connection = SessionBusConnection::connected();
     if (!connection)

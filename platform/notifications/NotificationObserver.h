@@ -13,7 +13,7 @@ class NotificationObserver : public QObject {
 
 public:
     /// Hears what is posted after this returns. name: as for DistributedNotificationCenter::post().
-    explicit NotificationObserver(const QString &name, QObject *parent = nullptr);
+    explicit NotificationObserver(QString name, QObject *parent = nullptr);
     NotificationObserver(const NotificationObserver &) = delete;
     NotificationObserver &operator=(const NotificationObserver &) = delete;
     /// Nothing is heard any more, not even what has arrived already.

@@ -21,6 +21,15 @@ const QString &connectionName()
     return name;
 }
 
+// libdbus keeps the address that it finds first for as long as the process lives, even one at which nobody
+// answered, so the address is read here at every attempt.
+QDBusConnection newConnection()
+{
+    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    return address.isEmpty() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName())
+                             : QDBusConnection::connectToBus(address, connectionName());
+}
+
 } // namespace
 
 QString SessionBusConnection::path()
@@ -48,7 +57,7 @@ std::optional<QDBusConnection> SessionBusConnection::connected()
         if (QDBusConnection connection = current(); connection.isConnected())
             return connection;
         QDBusConnection::disconnectFromBus(connectionName()); // a lost one keeps its name otherwise
-        const auto connection = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName());
+        const QDBusConnection connection = newConnection();
         if (connection.isConnected()) {
             isLogged = false;
             return connection;

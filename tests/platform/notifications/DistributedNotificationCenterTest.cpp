@@ -64,6 +64,17 @@ TEST_F(DistributedNotificationCenterTest, AnObserverInThePostingProcessHearsEach
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
+TEST_F(DistributedNotificationCenterTest, ABusThatCameAfterAVainAttemptIsUsed)
+{
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
+    DistributedNotificationCenter::post(name); // in vain, unless another test has connected this process
+    SessionBus::start();
+    const Counter counter(name);
+    DistributedNotificationCenter::post(name);
+    settle();
+    EXPECT_EQ(counter.count(), 1);
+}
+
 TEST_F(DistributedNotificationCenterTest, DeliveryWaitsForTheEventLoop)
 {
     const Counter counter(name);
