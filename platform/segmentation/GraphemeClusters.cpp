@@ -17,9 +17,17 @@ UGraphemeClusterBreak breakClass(char32_t character)
         u_getIntPropertyValue(static_cast<UChar32>(character), UCHAR_GRAPHEME_CLUSTER_BREAK));
 }
 
+// No pictograph stands between these, as the code charts are laid out; the property is dear to look up.
+bool mayBePictograph(char32_t character)
+{
+    return (character >= 0xA9 && character <= 0xAE) || (character >= 0x2000 && character < 0x3400)
+        || character >= 0x1F000;
+}
+
 bool isPictograph(char32_t character)
 {
-    return u_hasBinaryProperty(static_cast<UChar32>(character), UCHAR_EXTENDED_PICTOGRAPHIC);
+    return mayBePictograph(character)
+        && u_hasBinaryProperty(static_cast<UChar32>(character), UCHAR_EXTENDED_PICTOGRAPHIC);
 }
 
 bool isControl(UGraphemeClusterBreak value)
@@ -185,7 +193,8 @@ bool isEmojiCluster(QStringView cluster)
         if (selector == asPicture && u_hasBinaryProperty(static_cast<UChar32>(first), UCHAR_EMOJI))
             return true;
     }
-    return u_hasBinaryProperty(static_cast<UChar32>(first), UCHAR_EMOJI_PRESENTATION);
+    return mayBePictograph(first)
+        && u_hasBinaryProperty(static_cast<UChar32>(first), UCHAR_EMOJI_PRESENTATION);
 }
 
 bool isDefaultIgnorable(char32_t character)

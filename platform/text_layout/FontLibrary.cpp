@@ -111,16 +111,38 @@ const std::vector<quint16> &FontChain::fallbacks()
     return m_fallbacks;
 }
 
-quint16 FontChain::findFontFor(char32_t character)
+template <typename Covers>
+std::optional<quint16> FontChain::firstThat(Covers covers)
 {
-    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
-    const auto covers = [&](quint16 font) { return fonts[font].covers(character); };
     const auto named = std::find_if(m_named.begin(), m_named.end(), covers);
     if (named != m_named.end())
         return *named;
     const std::vector<quint16> &others = fallbacks();
     const auto other = std::find_if(others.begin(), others.end(), covers);
-    return other != others.end() ? *other : m_named.front();
+    return other != others.end() ? std::optional(*other) : std::nullopt;
+}
+
+// A colourful font, for an emoji that the first font lacks.
+std::optional<quint16> FontChain::coloredFontFor(QStringView emoji)
+{
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    if (coversAll(fonts[m_named.front()], emoji))
+        return std::nullopt;
+    const std::vector<quint16> &others = fallbacks();
+    const auto found = std::find_if(others.begin(), others.end(),
+        [&](quint16 font) { return fonts[font].isColored && coversAll(fonts[font], emoji); });
+    return found != others.end() ? std::optional(*found) : std::nullopt;
+}
+
+quint16 FontChain::findFontFor(char32_t character)
+{
+    const QString text = QString::fromUcs4(&character, 1);
+    if (isEmojiCluster(text)) {
+        if (const std::optional<quint16> colored = coloredFontFor(text))
+            return *colored;
+    }
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    return firstThat([&](quint16 font) { return fonts[font].covers(character); }).value_or(m_named.front());
 }
 
 quint16 FontChain::fontFor(char32_t character)
@@ -136,40 +158,33 @@ quint16 FontChain::fontFor(char32_t character)
     return font;
 }
 
-quint16 FontChain::findFontForCluster(QStringView cluster, bool isEmoji)
+quint16 FontChain::findFontForCluster(QStringView cluster)
 {
-    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
-    const auto covers = [&](quint16 font) { return coversAll(fonts[font], cluster); };
-    if (isEmoji) {
-        const auto isColoredAndCovers = [&](quint16 font) { return fonts[font].isColored && covers(font); };
-        const std::vector<quint16> &others = fallbacks();
-        const auto colored = std::find_if(others.begin(), others.end(), isColoredAndCovers);
-        if (!covers(m_named.front()) && colored != others.end())
+    if (isEmojiCluster(cluster)) {
+        if (const std::optional<quint16> colored = coloredFontFor(cluster))
             return *colored;
     }
     // The first font with the first character is the first with the whole cluster, if it has the rest too.
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
     const quint16 forFirst = fontFor(codePointAt(cluster, 0));
-    if (covers(forFirst))
+    if (coversAll(fonts[forFirst], cluster))
         return forFirst;
-    const auto named = std::find_if(m_named.begin(), m_named.end(), covers);
-    if (named != m_named.end())
-        return *named;
-    const std::vector<quint16> &others = fallbacks();
-    const auto other = std::find_if(others.begin(), others.end(), covers);
-    return other != others.end() ? *other : forFirst;
+    return firstThat([&](quint16 font) { return coversAll(fonts[font], cluster); }).value_or(forFirst);
 }
 
 FontFace *FontChain::faceFor(QStringView cluster, FontFace *preferred)
 {
     const char32_t first = codePointAt(cluster, 0);
     const bool isOneCharacter = cluster.size() == (first > 0xFFFF ? 2 : 1);
-    const bool isEmoji = isEmojiCluster(cluster);
-    const quint16 found = isOneCharacter && !isEmoji ? fontFor(first) : findFontForCluster(cluster, isEmoji);
+    const quint16 found = isOneCharacter ? fontFor(first) : findFontForCluster(cluster);
+    FontFace *face = m_library.load(found);
+    if (face == preferred || !preferred)
+        return face;
     const bool isNamed = std::find(m_named.begin(), m_named.end(), found) != m_named.end();
     // A comma between two words that only a fallback font has belongs with them.
-    if (!isNamed && !isEmoji && preferred && coversAll(preferred->source(), cluster))
+    if (!isNamed && !isEmojiCluster(cluster) && coversAll(preferred->source(), cluster))
         return preferred;
-    return m_library.load(found);
+    return face;
 }
 
 FontLibrary::FontLibrary()
@@ -183,6 +198,16 @@ FontLibrary::FontLibrary()
 }
 
 FontLibrary::~FontLibrary() = default;
+
+QByteArrayList FontLibrary::loadedFiles() const
+{
+    QByteArrayList files;
+    for (const std::unique_ptr<FontFace> &face : m_faces) {
+        if (face)
+            files.append(face->source().path);
+    }
+    return files;
+}
 
 FontFace *FontLibrary::load(quint16 font)
 {

@@ -9,12 +9,14 @@
 #include "platform/text_layout/FontFace.h"
 #include "platform/text_layout/FontRequest.h"
 
+#include <QByteArrayList>
 #include <QHash>
 #include <QStringView>
 
 #include <array>
 #include <map>
 #include <memory>
+#include <optional>
 #include <tuple>
 
 class FontLibrary;
@@ -42,7 +44,11 @@ private:
 
     quint16 fontFor(char32_t character);
     quint16 findFontFor(char32_t character);
-    [[nodiscard]] quint16 findFontForCluster(QStringView cluster, bool isEmoji);
+    quint16 findFontForCluster(QStringView cluster);
+    std::optional<quint16> coloredFontFor(QStringView emoji);
+    /// The first font, of the named and then the others, for which covers(font) holds.
+    template <typename Covers>
+    std::optional<quint16> firstThat(Covers covers);
     const std::vector<quint16> &fallbacks();
 
     FontLibrary &m_library;
@@ -66,6 +72,9 @@ public:
 
     /// language: BCP 47 or empty. Null only where isEmpty().
     FontChain *chainFor(const FontAttributes &attributes, const QString &language);
+
+    /// The files of the fonts that were needed so far, in the order of the catalogue.
+    [[nodiscard]] QByteArrayList loadedFiles() const;
 
 private:
     friend class FontChain;

@@ -45,8 +45,8 @@ double leftShare(TextAlignment alignment, bool isRightToLeft)
 
 } // namespace
 
-LayoutEngine::LayoutEngine()
-    : m_paragraph(m_fonts)
+LayoutEngine::LayoutEngine(Shaping shaping)
+    : m_paragraph(m_fonts, shaping == Shaping::ByWords)
 {
     if (m_fonts.isEmpty())
         LogChannel::standard().notice(

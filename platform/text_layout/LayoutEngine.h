@@ -13,8 +13,11 @@
 
 class LayoutEngine {
 public:
+    /// Both give the same lines. ByWords is the quick one, WholeRuns the plain one that it is tested against.
+    enum class Shaping { ByWords, WholeRuns };
+
     /// Logs one notice where the machine has no usable font; every grapheme is as wide as the others then.
-    LayoutEngine();
+    explicit LayoutEngine(Shaping shaping = Shaping::ByWords);
 
     using Yield = std::function<void(const LineFragment &)>;
 
@@ -33,6 +36,9 @@ public:
 
     /// The sum over those that start from one paragraph's start on and before end (UTF-16 code units).
     quint64 countLines(const AttributedString &text, double columnWidth, qsizetype start, qsizetype end);
+
+    /// The files of the fonts that all texts so far needed.
+    [[nodiscard]] QByteArrayList fontFilesInUse() const { return m_fonts.loadedFiles(); }
 
 private:
     template <typename Report>

@@ -9,7 +9,7 @@
 namespace {
 
 // What is shaped at once: many words, so that cuts between two stretches are rare.
-constexpr qsizetype longestRun = 512;
+constexpr qsizetype longestRun = 2048;
 
 // At a cut the words just before it have been shaped without what follows; they are shaped again.
 constexpr qsizetype lookAhead = 64;
@@ -17,6 +17,25 @@ constexpr qsizetype lookAhead = 64;
 // How far around a line's end text is shaped again. What a break changes is a kerning pair or the form of a
 // letter; a longer stretch without a safe place is a word of joined letters, which keep their forms.
 constexpr qsizetype longestReshape = 64;
+
+// Turns what shaping found of a run into points.
+class Scale {
+public:
+    explicit Scale(const TextRun &run)
+        : m_pointsPerUnit(run.style.pointSize / run.face->unitsPerEm())
+        , m_tracking(run.style.tracking)
+    {
+    }
+
+    [[nodiscard]] double points(float advance, quint8 flags) const
+    {
+        return advance * m_pointsPerUnit + (flags & StartsCluster ? m_tracking : 0);
+    }
+
+private:
+    double m_pointsPerUnit;
+    double m_tracking;
+};
 
 } // namespace
 
@@ -77,19 +96,17 @@ void MeasuredParagraph::appendFontless(const TextRun &run)
     }
 }
 
-double MeasuredParagraph::inPoints(const TextRun &run, float advance, quint8 flags)
-{
-    const double points = advance * run.style.pointSize / run.face->unitsPerEm();
-    return flags & StartsCluster ? points + run.style.tracking : points;
-}
-
 void MeasuredParagraph::appendShaped(TextRun run)
 {
     const auto length = static_cast<size_t>(run.end - run.start);
     m_shapedAdvances.resize(length);
     m_shapedFlags.resize(length);
-    m_shaper.shape(
-        m_shaper.styleOf(run), m_text, run.start, run.end, m_shapedAdvances.data(), m_shapedFlags.data());
+    const ShapingStyle &style = m_shaper.styleOf(run);
+    if (m_isByWords)
+        m_shaper.shapeByWords(
+            style, m_text, run.start, run.end, m_shapedAdvances.data(), m_shapedFlags.data());
+    else
+        m_shaper.shape(style, m_text, run.start, run.end, m_shapedAdvances.data(), m_shapedFlags.data());
     if (run.isCut) {
         qsizetype end = run.end - lookAhead;
         const auto isSafe = [&](qsizetype position) {
@@ -105,9 +122,14 @@ void MeasuredParagraph::appendShaped(TextRun run)
         }
     }
     m_runs.push_back(run);
-    for (size_t i = 0; i < static_cast<size_t>(run.end - run.start); ++i) {
-        append(inPoints(run, m_shapedAdvances[i], m_shapedFlags[i]), m_shapedFlags[i]);
-    }
+    const Scale scale(run);
+    const size_t first = m_advances.size();
+    const auto taken = static_cast<size_t>(run.end - run.start);
+    m_advances.resize(first + taken);
+    for (size_t i = 0; i < taken; ++i)
+        m_advances[first + i] = scale.points(m_shapedAdvances[i], m_shapedFlags[i]);
+    m_flags.insert(
+        m_flags.end(), m_shapedFlags.begin(), m_shapedFlags.begin() + static_cast<std::ptrdiff_t>(taken));
 }
 
 const TextRun &MeasuredParagraph::runAt(qsizetype position) const
@@ -159,8 +181,9 @@ void MeasuredParagraph::startLineAt(qsizetype position, bool isWithinWord)
     m_shapedFlags.resize(static_cast<size_t>(end - position));
     m_shaper.shape(
         m_shaper.styleOf(run), m_text, position, end, m_shapedAdvances.data(), m_shapedFlags.data());
+    const Scale scale(run);
     for (size_t i = 0; i < m_shapedAdvances.size(); ++i) {
-        m_advances[index(position) + i] = inPoints(run, m_shapedAdvances[i], m_shapedFlags[i]);
+        m_advances[index(position) + i] = scale.points(m_shapedAdvances[i], m_shapedFlags[i]);
         m_flags[index(position) + i] = m_shapedFlags[i];
     }
 }
@@ -179,10 +202,11 @@ double MeasuredParagraph::changeWhenLineEndsAt(qsizetype lineStart, qsizetype en
     qsizetype contentEnd = end;
     while (contentEnd > start && flags(contentEnd - 1) & HangingBlank)
         --contentEnd;
+    const Scale scale(run);
     double change = 0;
     for (qsizetype at = start; at < contentEnd; ++at) {
         const auto i = static_cast<size_t>(at - start);
-        change += inPoints(run, m_shapedAdvances[i], m_shapedFlags[i]) - advance(at);
+        change += scale.points(m_shapedAdvances[i], m_shapedFlags[i]) - advance(at);
     }
     return change;
 }
@@ -196,5 +220,5 @@ double MeasuredParagraph::hyphenAdvanceAt(qsizetype position)
     float advance = 0;
     quint8 flags = 0;
     m_shaper.shape(m_shaper.styleOf(run), hyphen, 0, 1, &advance, &flags);
-    return inPoints(run, advance, flags);
+    return Scale(run).points(advance, flags);
 }

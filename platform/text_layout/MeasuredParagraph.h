@@ -13,8 +13,10 @@
 /// Positions are UTF-16 code units from the start of the paragraph, advances points.
 class MeasuredParagraph {
 public:
-    explicit MeasuredParagraph(FontLibrary &fonts)
+    /// isByWords: shape single words, out of a cache, where that gives the same advances.
+    MeasuredParagraph(FontLibrary &fonts, bool isByWords)
         : m_itemizer(fonts)
+        , m_isByWords(isByWords)
     {
     }
 
@@ -57,10 +59,10 @@ private:
     /// The next unit from a position on, at most farthest, before which shaping may be cut.
     [[nodiscard]] qsizetype safePositionFrom(qsizetype position) const;
     [[nodiscard]] qsizetype safePositionBefore(qsizetype position, qsizetype least) const;
-    [[nodiscard]] static double inPoints(const TextRun &run, float advance, quint8 flags);
 
     Itemizer m_itemizer;
     Shaper m_shaper;
+    bool m_isByWords;
     QStringView m_text;
     qsizetype m_base = 0; // of the first unit that is held
     std::vector<double> m_advances;

@@ -58,7 +58,7 @@ const ShapingStyle &Shaper::styleOf(const TextRun &run)
 {
     std::unique_ptr<ShapingStyle> &style = m_styles[ShapingStyle::keyOf(run)];
     if (!style)
-        style = std::make_unique<ShapingStyle>(run);
+        style = std::make_unique<ShapingStyle>(run, static_cast<quint32>(m_styles.size()));
     return *style;
 }
 
@@ -92,4 +92,80 @@ void Shaper::shape(const ShapingStyle &style, QStringView paragraph, qsizetype s
             flags[at] |= UnsafeToBreak;
     }
     shareOutLigatures(text, advances, flags);
+}
+
+// A word is shaped between two spaces, which shows whether it is the same without them.
+const CachedWord &Shaper::cached(const ShapingStyle &style, QStringView word)
+{
+    CachedWord &slot = m_words.slotFor(style.number(), word);
+    if (slot.holds(style.number(), word))
+        return slot;
+    constexpr auto longest = static_cast<size_t>(CachedWord::longest) + 2;
+    const auto length = static_cast<size_t>(word.size());
+    std::array<char16_t, longest> text;
+    std::array<float, longest> advances;
+    std::array<quint8, longest> flags;
+    text[0] = u' ';
+    std::copy_n(word.utf16(), length, text.begin() + 1);
+    text[length + 1] = u' ';
+    const auto textLength = static_cast<qsizetype>(length) + 2;
+    shape(style, QStringView(text.data(), textLength), 0, textLength, advances.data(), flags.data());
+
+    const auto isSafe = [&](size_t at) {
+        return (flags[at] & (StartsCluster | UnsafeToBreak)) == StartsCluster;
+    };
+    slot.style = style.number();
+    slot.length = static_cast<quint8>(length);
+    slot.isSeparable = isSafe(1) && isSafe(length + 1) && advances[0] == style.spaceAdvance()
+        && advances[length + 1] == style.spaceAdvance();
+    std::copy_n(text.begin() + 1, length, slot.text.begin());
+    std::copy_n(advances.begin() + 1, length, slot.advances.begin());
+    std::copy_n(flags.begin() + 1, length, slot.flags.begin());
+    return slot;
+}
+
+// False where the word cannot be shaped without its neighbours.
+bool Shaper::shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
+    float *advances, quint8 *flags)
+{
+    // Beside a space or a control character no letter joins another.
+    const char16_t *units = paragraph.utf16();
+    const bool isApart =
+        (start == 0 || units[start - 1] <= u' ') && (end == paragraph.size() || units[end] <= u' ');
+    if (!isApart || end - start > CachedWord::longest) {
+        shape(style, paragraph, start, end, advances, flags);
+        return true;
+    }
+    const CachedWord &word = cached(style, paragraph.sliced(start, end - start));
+    std::copy_n(word.advances.begin(), end - start, advances);
+    std::copy_n(word.flags.begin(), end - start, flags);
+    return word.isSeparable;
+}
+
+void Shaper::shapeByWords(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
+    float *advances, quint8 *flags)
+{
+    const char16_t *units = paragraph.utf16();
+    const auto separates = [&](qsizetype at) {
+        return units[at] == u' '
+            && (at + 1 == paragraph.size() || !continuesGraphemeCluster(codePointAt(paragraph, at + 1)));
+    };
+    bool areSeparable = style.areWordsSeparable();
+    for (qsizetype at = start; at < end && areSeparable;) {
+        float *advance = advances + (at - start);
+        quint8 *flag = flags + (at - start);
+        if (separates(at)) {
+            *advance = style.spaceAdvance();
+            *flag = StartsCluster | HangingBlank;
+            ++at;
+            continue;
+        }
+        qsizetype wordEnd = at + 1;
+        while (wordEnd < end && !separates(wordEnd))
+            ++wordEnd;
+        areSeparable = shapeWord(style, paragraph, at, wordEnd, advance, flag);
+        at = wordEnd;
+    }
+    if (!areSeparable)
+        shape(style, paragraph, start, end, advances, flags);
 }

@@ -31,8 +31,9 @@ ShapingStyle::Key ShapingStyle::keyOf(const TextRun &run)
     return {run.face, run.script, run.isRightToLeft, hasLigatures(run), run.style.language};
 }
 
-ShapingStyle::ShapingStyle(const TextRun &run)
-    : m_face(*run.face)
+ShapingStyle::ShapingStyle(const TextRun &run, quint32 number)
+    : m_number(number)
+    , m_face(*run.face)
     , m_script(run.script)
     , m_isRightToLeft(run.isRightToLeft)
     , m_hasLigatures(hasLigatures(run))
@@ -49,6 +50,47 @@ ShapingStyle::ShapingStyle(const TextRun &run)
     const int *coordinates = hb_font_get_var_coords_normalized(font, &coordinateCount);
     m_plan.reset(hb_shape_plan_create_cached2(hb_font_get_face(font), &properties, withoutLigatures.data(),
         featureCount, coordinates, coordinateCount, nullptr));
+
+    hb_codepoint_t space = 0;
+    if (!hb_font_get_nominal_glyph(font, ' ', &space))
+        return;
+    m_spaceAdvance = static_cast<float>(hb_font_get_glyph_h_advance(font, space));
+    m_areWordsSeparable = !hasStateMachines() && !isNamedByRules(space);
+}
+
+// Tables with rules over any number of glyphs, which HarfBuzz does not list: the state machines of AAT, to
+// which a 'kern' table of version 1 belongs too. One of version 0 knows pairs only.
+bool ShapingStyle::hasStateMachines() const
+{
+    hb_face_t *face = hb_font_get_face(m_face.shapingFont());
+    const auto hasTable = [face](hb_tag_t tag, bool onlyOfVersionOne) {
+        hb_blob_t *table = hb_face_reference_table(face, tag);
+        unsigned length = 0;
+        const char *data = hb_blob_get_data(table, &length);
+        const bool isThere = length > 1 && (!onlyOfVersionOne || data[1] == 1);
+        hb_blob_destroy(table);
+        return isThere;
+    };
+    return hasTable(HB_TAG('m', 'o', 'r', 'x'), false) || hasTable(HB_TAG('m', 'o', 'r', 't'), false)
+        || hasTable(HB_TAG('k', 'e', 'r', 'x'), false) || hasTable(HB_TAG('k', 'e', 'r', 'n'), true);
+}
+
+bool ShapingStyle::isNamedByRules(quint32 glyph) const
+{
+    hb_face_t *face = hb_font_get_face(m_face.shapingFont());
+    hb_set_t *lookups = hb_set_create();
+    hb_set_t *glyphs = hb_set_create();
+    for (const hb_tag_t table : {HB_OT_TAG_GSUB, HB_OT_TAG_GPOS}) {
+        hb_set_clear(lookups);
+        hb_ot_shape_plan_collect_lookups(m_plan.get(), table, lookups);
+        hb_codepoint_t lookup = HB_SET_VALUE_INVALID;
+        while (hb_set_next(lookups, &lookup))
+            hb_ot_layout_lookup_collect_glyphs(face, table, lookup, glyphs, glyphs, glyphs, glyphs);
+    }
+    const bool isNamed = hb_set_has(glyphs, glyph);
+    hb_set_destroy(lookups);
+    hb_set_destroy(glyphs);
+    return isNamed;
 }
 
 void ShapingStyle::shape(hb_buffer_t *buffer) const

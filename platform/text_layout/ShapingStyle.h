@@ -16,18 +16,33 @@ class ShapingStyle {
 public:
     using Key = std::tuple<const FontFace *, quint32, bool, bool, QByteArray>;
 
-    /// The run is Text with a face.
-    explicit ShapingStyle(const TextRun &run);
+    /// The run is Text with a face. number: from 1, another one for every style of a shaper.
+    ShapingStyle(const TextRun &run, quint32 number);
     [[nodiscard]] static Key keyOf(const TextRun &run);
 
     /// Shapes a buffer of Unicode text and leaves glyphs in it.
     void shape(hb_buffer_t *buffer) const;
 
+    [[nodiscard]] quint32 number() const { return m_number; }
+
+    /// Whether the font leaves spaces alone: none of its rules that apply here names the space, so that no
+    /// rule reaches from one word over it into the next.
+    [[nodiscard]] bool areWordsSeparable() const { return m_areWordsSeparable; }
+
+    /// The advance of a space between words; only where they are separable.
+    [[nodiscard]] float spaceAdvance() const { return m_spaceAdvance; }
+
 private:
+    [[nodiscard]] bool hasStateMachines() const;
+    [[nodiscard]] bool isNamedByRules(quint32 glyph) const;
+
     struct PlanDeleter {
         void operator()(hb_shape_plan_t *plan) const;
     };
 
+    quint32 m_number;
+    bool m_areWordsSeparable = false;
+    float m_spaceAdvance = 0;
     const FontFace &m_face;
     quint32 m_script;
     bool m_isRightToLeft;

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+// The quick way to measure, word by word out of a cache, against the plain one, which shapes whole runs.
+#include "platform/text_layout/LayoutEngine.h"
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/text_layout/FontWorld.h"
+
+#include <random>
+
+namespace {
+
+const QStringList fontFiles{QStringLiteral("NimbusSans-Regular.otf"),
+    QStringLiteral("NimbusSans-BoldItalic.otf"), QStringLiteral("NimbusRoman-Regular.otf"),
+    QStringLiteral("DejaVuSans.ttf"), QStringLiteral("NotoSans-Regular.ttf"),
+    QStringLiteral("NotoSansArabic-Regular.ttf"), QStringLiteral("NotoNastaliqUrdu-Regular.ttf"),
+    QStringLiteral("NotoSansHebrew-Regular.ttf"), QStringLiteral("NotoSansDevanagari-Regular.ttf"),
+    QStringLiteral("NotoSansThai-Regular.ttf"), QStringLiteral("NotoSansCJK-Regular.ttc"),
+    QStringLiteral("NotoColorEmoji.ttf")};
+
+const QStringList families{QStringLiteral("Helvetica"), QStringLiteral("Times"),
+    QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans"), QStringLiteral("Noto Sans Arabic"),
+    QStringLiteral("Noto Nastaliq Urdu"), QStringLiteral("Noto Sans Devanagari"),
+    QStringLiteral("Noto Sans Thai"), QStringLiteral("Noto Sans CJK JP")};
+
+const QStringList pieces{QStringLiteral("the"), QStringLiteral("AVATAR"), QStringLiteral("T."),
+    QStringLiteral("\"Wo\","), QStringLiteral("office"), QStringLiteral("fi"), QStringLiteral("fl\u200Dx"),
+    QStringLiteral("well-known"), QStringLiteral("1,234.50"), QStringLiteral("Größe"),
+    QStringLiteral("e\u0301te\u0301"), QStringLiteral("\u0301x"), QStringLiteral("Привет"),
+    QStringLiteral("Γειά"), QStringLiteral("السلام"), QStringLiteral("لا"), QStringLiteral("عليكم،"),
+    QStringLiteral("شلوم"), QStringLiteral("שָׁלוֹם"), QStringLiteral("किताब"), QStringLiteral("क्षत्रिय।"),
+    QStringLiteral("र्\u200Dय"), QStringLiteral("ภาษาไทยง่ายมาก"), QStringLiteral("漢字かな交じり"),
+    QStringLiteral("「引用」。"), QStringLiteral("한국어"), QStringLiteral("😀"),
+    QStringLiteral("👩‍👩‍👧"), QStringLiteral("❤\uFE0F"), QStringLiteral("🇩🇪"),
+    QStringLiteral("\u00AD"), QStringLiteral("a\u00A0b"), QStringLiteral("\t"), QStringLiteral("\u200B"),
+    QStringLiteral("\u200F"), QStringLiteral("\u2028"), QStringLiteral("\u0001"), QString(QChar(0xD83D)),
+    QString(QChar(0xFFFC)), QStringLiteral("—"), QStringLiteral("..."),
+    QStringLiteral("averyveryverylongwordthatnocacheholdsbecauseitistoolong")};
+
+class ShapingOracle : public QuillbayTest {
+protected:
+    void SetUp() override { useOnlyFonts(fontFiles); }
+
+    static TextAttributes randomAttributes(std::mt19937 &random)
+    {
+        const auto oneOf = [&](int count) {
+            return static_cast<int>(random() % static_cast<unsigned>(count));
+        };
+        TextAttributes attributes;
+        if (oneOf(8) != 0) {
+            FontAttributes font;
+            font.family = families[oneOf(static_cast<int>(families.size()))];
+            font.pointSize = 6 + oneOf(30);
+            font.weight = oneOf(2) ? 400 : 700;
+            font.slant = oneOf(4) ? FontSlant::Upright : FontSlant::Italic;
+            font.tracking = oneOf(6) ? 0 : 1.5;
+            attributes.font = font;
+        }
+        return attributes;
+    }
+
+    static AttributedString randomText(std::mt19937 &random)
+    {
+        AttributedStringBuilder builder;
+        while (builder.length() < 3000) {
+            const TextAttributes attributes = randomAttributes(random);
+            for (auto count = 1 + random() % 60; count > 0; --count) {
+                builder.append(pieces[static_cast<qsizetype>(random() % static_cast<size_t>(pieces.size()))],
+                    attributes);
+                if (random() % 8 != 0)
+                    builder.append(random() % 12 ? u" " : u"   ", attributes);
+                if (random() % 100 == 0)
+                    builder.append(u"\n", attributes);
+            }
+        }
+        return builder.build();
+    }
+
+    static std::vector<LineFragment> linesOf(LayoutEngine &engine, const AttributedString &text, double width)
+    {
+        std::vector<LineFragment> lines;
+        forEachParagraph(text.string(), [&](const Paragraph &paragraph) {
+            engine.layOutParagraph(
+                text, paragraph, width, [&](const LineFragment &line) { lines.push_back(line); });
+        });
+        return lines;
+    }
+};
+
+TEST_F(ShapingOracle, GivesTheSameLinesWordByWordAsInWholeRuns)
+{
+    std::mt19937 random(20);
+    LayoutEngine byWords(LayoutEngine::Shaping::ByWords);
+    LayoutEngine wholeRuns(LayoutEngine::Shaping::WholeRuns);
+    for (int round = 0; round < 40; ++round) {
+        const AttributedString text = randomText(random);
+        for (const double width : {0.0, 60.0, 250.0, 451.0, 3000.0}) {
+            const std::vector<LineFragment> quick = linesOf(byWords, text, width);
+            const std::vector<LineFragment> plain = linesOf(wholeRuns, text, width);
+            ASSERT_EQ(quick.size(), plain.size());
+            for (size_t i = 0; i < quick.size(); ++i) {
+                ASSERT_EQ(quick[i].start, plain[i].start) << "at " << width << " points, round " << round;
+                ASSERT_NEAR(quick[i].width, plain[i].width, 1e-6)
+                    << text.string().mid(plain[i].start, plain[i].length).toStdString();
+                ASSERT_EQ(quick[i].height, plain[i].height);
+            }
+            ASSERT_EQ(byWords.countLines(text, width), plain.size());
+        }
+    }
+}
+
+TEST_F(ShapingOracle, GivesTheSameLinesFromAnEngineThatHasSeenOtherTexts)
+{
+    std::mt19937 random(21);
+    LayoutEngine experienced;
+    for (int round = 0; round < 20; ++round)
+        (void)experienced.countLines(randomText(random), 300);
+    const AttributedString text = randomText(random);
+    LayoutEngine fresh;
+    EXPECT_EQ(experienced.countLines(text, 300), fresh.countLines(text, 300));
+}
+
+TEST_F(ShapingOracle, SumsUpParagraphsInAnyOrder)
+{
+    std::mt19937 random(22);
+    const AttributedString text = randomText(random);
+    std::vector<Paragraph> paragraphs;
+    forEachParagraph(text.string(), [&](const Paragraph &paragraph) { paragraphs.push_back(paragraph); });
+    std::shuffle(paragraphs.begin(), paragraphs.end(), random);
+    LayoutEngine engine;
+    quint64 sum = 0;
+    for (const Paragraph &paragraph : paragraphs)
+        sum += engine.countLinesOfParagraph(text, paragraph, 300);
+    EXPECT_EQ(sum, LayoutEngine().countLines(text, 300));
+}
+
+} // namespace
