@@ -11,10 +11,12 @@
 
 #include <QByteArrayList>
 
+#include <utility>
+
 class CountCommand {
 public:
-    explicit CountCommand(const CountArguments &arguments)
-        : m_arguments(arguments)
+    explicit CountCommand(CountArguments arguments)
+        : m_arguments(std::move(arguments))
     {
     }
 

@@ -33,7 +33,7 @@ public:
     {
     }
 
-    QByteArray header() const override
+    [[nodiscard]] QByteArray header() const override
     {
         QByteArray line;
         for (const Column &column : columns)
@@ -41,7 +41,7 @@ public:
         return line + "File\n";
     }
 
-    QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
+    [[nodiscard]] QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
     {
         QByteArray line;
         for (const Column &column : columns)
@@ -49,7 +49,10 @@ public:
         return line + printableName(fileName) + '\n';
     }
 
-    QByteArray total(const QBYWordCounterStats &stats) const override { return row("total", stats); }
+    [[nodiscard]] QByteArray total(const QBYWordCounterStats &stats) const override
+    {
+        return row("total", stats);
+    }
 
 private:
     [[nodiscard]] qsizetype width(const Column &column) const
@@ -62,7 +65,7 @@ private:
 
 class JsonReport final : public CountReport {
 public:
-    QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
+    [[nodiscard]] QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
     {
         QByteArray line = "{\"file\":" + jsonName(fileName);
         for (const Column &column : columns)
@@ -73,7 +76,7 @@ public:
 
 class TsvReport final : public CountReport {
 public:
-    QByteArray header() const override
+    [[nodiscard]] QByteArray header() const override
     {
         QByteArray line = "file";
         for (const Column &column : columns)
@@ -81,7 +84,7 @@ public:
         return line + '\n';
     }
 
-    QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
+    [[nodiscard]] QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
     {
         QByteArray line = tsvName(fileName);
         for (const Column &column : columns)

@@ -51,7 +51,7 @@ PageRules MeasuringSurface::pageOf(PrintSettings &printSettings) const
 void MeasuringSurface::setPage(const PageRules &page)
 {
     const QRectF frame(QPointF(0, 0), page.paperSize);
-    if (m_window.frame().size() != page.paperSize)
+    if (!isExactlyEqual(m_window.frame().size(), page.paperSize))
         m_window.setFrame(frame, true, false);
     m_preview.view()->setFrame(frame);
     m_preview.setPreviewContentFrameSize(page.paperSize, page.leftMargin, page.rightMargin);

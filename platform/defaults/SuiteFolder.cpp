@@ -16,7 +16,7 @@
 
 int makeFolder(const QByteArray &path)
 {
-    // The XDG Base Directory Specification asks for 0700 where a program makes such a folder.
+    // The rules of XDG base directories ask for 0700 where a program makes such a folder.
     constexpr mode_t mode = 0700;
     if (::mkdir(path.constData(), mode) == 0 || errno == EEXIST)
         return 0;

@@ -153,9 +153,11 @@ bool UserDefaults::isAcceptable(const DefaultsEntry &entry) const
 
 void UserDefaults::note(Episode &episode, const std::optional<SuiteFault> &fault) const
 {
-    if (fault && !episode.lasts)
+    // What prevents both reading and writing is one fault.
+    const Episode &other = &episode == &m_reading ? m_writing : m_reading;
+    if (fault && episode.reason.isEmpty() && other.reason != fault->reason)
         LogChannel::standard().error(episode.message, {publicly(m_suiteName), publicly(fault->reason)});
-    episode.lasts = fault.has_value();
+    episode.reason = fault ? fault->reason : QString();
     episode.waitedInVain = fault && fault->kind == SuiteFault::Kind::Busy;
 }
 

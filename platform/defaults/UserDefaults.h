@@ -57,7 +57,7 @@ private:
     // A fault of one kind of access, from its first appearance until that access works again.
     struct Episode {
         const char16_t *message;
-        bool lasts = false;
+        QString reason{}; // of the fault that lasts, empty where there is none
         bool waitedInVain = false;
     };
 

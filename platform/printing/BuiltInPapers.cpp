@@ -91,7 +91,7 @@ std::optional<Paper> localePaper()
 
 const std::vector<Paper> &builtInPapers()
 {
-    // Names of the PPD specification 4.3 in the spelling of CUPS, whole points as in its table; identifiers
+    // Names of the PPD format 4.3 in the spelling of CUPS, whole points as in its table; identifiers
     // of PWG 5101.1.
     // Never destroyed: a query about printers may still use it while the process ends.
     static const auto &papers = *new std::vector<Paper>{

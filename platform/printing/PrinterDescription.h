@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// PrinterDescription is the part of a printer description file (PPD specification 4.3) that tells papers.
+// PrinterDescription is the part of a printer description file (PPD format 4.3) that tells papers.
 // Thread: any; a value.
 #pragma once
 

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 /// Paths of the programs that this build made.
@@ -24,8 +25,8 @@ public:
         QByteArray errors;
     };
 
-    explicit ChildProcess(const QString &program)
-        : m_program(program)
+    explicit ChildProcess(QString program)
+        : m_program(std::move(program))
     {
     }
     ChildProcess(const ChildProcess &) = delete;

@@ -276,8 +276,7 @@ TEST_F(SuiteFaultTest, AFileInPlaceOfTheFolderLeavesValuesAbsentAndIsNotTouched)
     }
     EXPECT_TRUE(QFileInfo(folder()).isFile());
     EXPECT_THAT(m_log.messages(),
-        ElementsAre(QStringLiteral("Preference suite suite cannot be read: Not a directory"),
-            QStringLiteral("Preference suite suite cannot be written: Not a directory")));
+        ElementsAre(QStringLiteral("Preference suite suite cannot be read: Not a directory")));
     ASSERT_TRUE(QFile::remove(folder()));
     EXPECT_TRUE(m_defaults.setInteger(1, m_key));
     EXPECT_EQ(m_defaults.integerForKey(m_key), 1);
@@ -290,7 +289,7 @@ TEST_F(SuiteFaultTest, AFileInPlaceOfTheWholeConfigurationFolderLeavesValuesAbse
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     EXPECT_EQ(m_defaults.objectForKey(m_key), std::nullopt);
     EXPECT_FALSE(m_defaults.setInteger(1, m_key));
-    EXPECT_THAT(m_log.messages(), SizeIs(2));
+    EXPECT_THAT(m_log.messages(), SizeIs(1));
 }
 
 TEST_F(SuiteFaultTest, InAReadOnlyFolderValuesAreReadAndStayAsTheyAre)
@@ -328,7 +327,7 @@ TEST_F(SuiteFaultTest, AFileThatMayNotBeReadIsAbsentAndNeverPutAside)
     changeMode(folder(), 0700);
     changeMode(file(), 0600);
     EXPECT_EQ(outcome.output, QByteArray("ready\nabsent\nabsent\nfailed\nabsent\n"));
-    EXPECT_EQ(outcome.errors.count('\n'), 2) << outcome.errors.constData();
+    EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.constData();
     EXPECT_EQ(m_defaults.integerForKey(m_key), 1);
 }
 
@@ -413,7 +412,7 @@ TEST_F(SuiteFaultTest, WhileAnotherProgramLocksTheFileTheFirstAccessWaitsAndTheN
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(m_defaults.objectForKey(m_key), std::nullopt);
     EXPECT_LT(std::chrono::steady_clock::now() - start, 3 * std::chrono::milliseconds(150));
-    EXPECT_THAT(m_log.messages(), SizeIs(2)) << "one for reading, one for writing";
+    EXPECT_THAT(m_log.messages(), SizeIs(1)) << "one fault";
     ASSERT_EQ(sqlite3_exec(locker, "COMMIT", nullptr, nullptr, nullptr), SQLITE_OK);
     sqlite3_close(locker);
     EXPECT_EQ(m_defaults.integerForKey(m_key), 1);
