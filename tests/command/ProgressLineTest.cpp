@@ -14,7 +14,11 @@ namespace {
 
 class ProgressLineTest : public CommandTest {
 protected:
-    void SetUp() override { ASSERT_EQ(::openpty(&m_terminal, &m_end, nullptr, nullptr, nullptr), 0); }
+    void SetUp() override
+    {
+        if (::openpty(&m_terminal, &m_end, nullptr, nullptr, nullptr) != 0)
+            GTEST_SKIP() << "no pseudo-terminals here";
+    }
     void TearDown() override
     {
         ::close(m_terminal);

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <ostream>
 #include <vector>
 
 struct AgreementText {
@@ -13,5 +14,11 @@ struct AgreementText {
     QString fontFile;
     QString text; ///< one paragraph
 };
+
+/// For GoogleTest: by its name, not by its bytes.
+inline void PrintTo(const AgreementText &sample, std::ostream *stream)
+{
+    *stream << sample.name;
+}
 
 const std::vector<AgreementText> &agreementTexts();
