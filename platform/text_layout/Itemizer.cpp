@@ -31,6 +31,9 @@ BidiRuns::Base baseOf(WritingDirection direction)
     return BidiRuns::Base::FirstStrongCharacter;
 }
 
+// Ten times what the normal form for streams (UAX #15) has room for.
+constexpr qsizetype longestCluster = 300;
+
 } // namespace
 
 void Itemizer::setParagraph(const AttributedString &text, const Paragraph &paragraph)
@@ -105,8 +108,9 @@ qsizetype Itemizer::textEnd(qsizetype limit, qsizetype longest, FontFace *&face)
         qsizetype clusterEnd = end + 1;
         const bool isAlone = clusterEnd >= m_text.size() || units[clusterEnd] < firstMark;
         if (!isAsciiSimple || units[end] > u'~' || !isAlone) {
-            // A cluster that attributes or directions cut is measured in parts.
-            clusterEnd = std::min(graphemeClusterEnd(m_text, end), limit);
+            // A cluster that attributes or directions cut is measured in parts, and so is one of absurd
+            // length: shapers take the square of it.
+            clusterEnd = graphemeClusterEnd(m_text.first(std::min(limit, end + longestCluster)), end);
             if (m_style.fonts)
                 own = m_style.fonts->faceFor(m_text.sliced(end, clusterEnd - end), m_lastFace);
         }

@@ -90,7 +90,8 @@ void MeasuredParagraph::appendFontless(const TextRun &run)
     for (qsizetype at = run.start; at < run.end;) {
         const qsizetype end = graphemeClusterEnd(text, at);
         const int blank = isHangingBlank(m_text.utf16()[at]) ? HangingBlank : 0;
-        append(fontlessAdvance * run.style.pointSize + run.style.tracking, StartsCluster | blank);
+        const double visible = fontlessAdvance * run.style.pointSize + run.style.tracking;
+        append(isDefaultIgnorable(codePointAt(text, at)) ? 0 : visible, StartsCluster | blank);
         while (++at < end)
             append(0, blank);
     }

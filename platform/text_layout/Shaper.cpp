@@ -94,12 +94,26 @@ void Shaper::shape(const ShapingStyle &style, QStringView paragraph, qsizetype s
     shareOutLigatures(text, advances, flags);
 }
 
-// A word is shaped between two spaces, which shows whether it is the same without them.
 const CachedWord &Shaper::cached(const ShapingStyle &style, QStringView word)
 {
     CachedWord &slot = m_words.slotFor(style.number(), word);
     if (slot.holds(style.number(), word))
         return slot;
+    slot.style = style.number();
+    slot.length = static_cast<quint8>(word.size());
+    std::copy_n(word.utf16(), word.size(), slot.text.begin());
+    if (style.areWordsSeparable()) {
+        shapeBetweenSpaces(style, word, slot);
+    } else {
+        shape(style, word, 0, word.size(), slot.advances.data(), slot.flags.data());
+        slot.isSeparable = true; // asked for only where its run holds nothing else
+    }
+    return slot;
+}
+
+// Shows whether the word is the same without the spaces.
+void Shaper::shapeBetweenSpaces(const ShapingStyle &style, QStringView word, CachedWord &slot)
+{
     constexpr auto longest = static_cast<size_t>(CachedWord::longest) + 2;
     const auto length = static_cast<size_t>(word.size());
     std::array<char16_t, longest> text;
@@ -114,14 +128,10 @@ const CachedWord &Shaper::cached(const ShapingStyle &style, QStringView word)
     const auto isSafe = [&](size_t at) {
         return (flags[at] & (StartsCluster | UnsafeToBreak)) == StartsCluster;
     };
-    slot.style = style.number();
-    slot.length = static_cast<quint8>(length);
     slot.isSeparable = isSafe(1) && isSafe(length + 1) && advances[0] == style.spaceAdvance()
         && advances[length + 1] == style.spaceAdvance();
-    std::copy_n(text.begin() + 1, length, slot.text.begin());
     std::copy_n(advances.begin() + 1, length, slot.advances.begin());
     std::copy_n(flags.begin() + 1, length, slot.flags.begin());
-    return slot;
 }
 
 // False where the word cannot be shaped without its neighbours.
@@ -150,7 +160,8 @@ void Shaper::shapeByWords(const ShapingStyle &style, QStringView paragraph, qsiz
         return units[at] == u' '
             && (at + 1 == paragraph.size() || !continuesGraphemeCluster(codePointAt(paragraph, at + 1)));
     };
-    bool areSeparable = style.areWordsSeparable();
+    bool areSeparable =
+        style.areWordsSeparable() || std::find(units + start, units + end, u' ') == units + end;
     for (qsizetype at = start; at < end && areSeparable;) {
         float *advance = advances + (at - start);
         quint8 *flag = flags + (at - start);

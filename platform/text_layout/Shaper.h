@@ -44,6 +44,7 @@ public:
 
 private:
     const CachedWord &cached(const ShapingStyle &style, QStringView word);
+    void shapeBetweenSpaces(const ShapingStyle &style, QStringView word, CachedWord &slot);
     bool shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
         float *advances, quint8 *flags);
 

@@ -107,6 +107,39 @@ TEST_F(ShapingOracle, GivesTheSameLinesWordByWordAsInWholeRuns)
     }
 }
 
+// Rules that reach over spaces, as those of Urdu's slanting script do, show only between words of one script.
+TEST_F(ShapingOracle, GivesTheSameLinesForWordsOfOneScript)
+{
+    const QStringList words[]{
+        QStringLiteral("یہ ہے کی کے اور میں سے نہیں ایک پر تھا ہو کر آپ ہم وہ گئے بچے چلے آئے").split(u' '),
+        QStringLiteral("في من على السلام لا الله كتاب ّ ً مدينة هذا آخر").split(u' '),
+        QStringLiteral("To AV. We Ye y, fi office \"T A\" r. P. L' f f) (W 11 1. V").split(u' '),
+        QStringLiteral("के है। और क्षत्रिय र् ि में ऑफ़ श्री द्ध").split(u' '),
+    };
+    std::mt19937 random(23);
+    LayoutEngine byWords(LayoutEngine::Shaping::ByWords);
+    LayoutEngine wholeRuns(LayoutEngine::Shaping::WholeRuns);
+    for (const QString &family : families) {
+        for (const QStringList &vocabulary : words) {
+            QString text;
+            while (text.size() < 3000) {
+                text += vocabulary[static_cast<qsizetype>(random() % static_cast<size_t>(vocabulary.size()))];
+                text += random() % 10 ? QStringLiteral(" ") : QStringLiteral("  ");
+            }
+            TextAttributes attributes;
+            attributes.font = FontAttributes{.family = family};
+            const AttributedString styled(text, attributes);
+            const std::vector<LineFragment> quick = linesOf(byWords, styled, 250);
+            const std::vector<LineFragment> plain = linesOf(wholeRuns, styled, 250);
+            ASSERT_EQ(quick.size(), plain.size()) << family.toStdString();
+            for (size_t i = 0; i < quick.size(); ++i) {
+                ASSERT_EQ(quick[i].start, plain[i].start) << family.toStdString();
+                ASSERT_NEAR(quick[i].width, plain[i].width, 1e-6) << family.toStdString();
+            }
+        }
+    }
+}
+
 TEST_F(ShapingOracle, GivesTheSameLinesFromAnEngineThatHasSeenOtherTexts)
 {
     std::mt19937 random(21);
