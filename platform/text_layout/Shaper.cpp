@@ -77,8 +77,9 @@ void Shaper::shape(const ShapingStyle &style, QStringView paragraph, qsizetype s
 
     const QStringView text = paragraph.sliced(start, length);
     std::fill(advances, advances + length, 0.0F);
+    // Within a cluster every break is unsafe.
     for (qsizetype i = 0; i < length; ++i)
-        flags[i] = isHangingBlank(text.utf16()[i]) ? HangingBlank : 0;
+        flags[i] = UnsafeToBreak | (isHangingBlank(text.utf16()[i]) ? HangingBlank : 0);
     unsigned glyphCount = 0;
     const hb_glyph_info_t *glyphs = hb_buffer_get_glyph_infos(buffer, &glyphCount);
     const hb_glyph_position_t *positions = hb_buffer_get_glyph_positions(buffer, &glyphCount);
@@ -87,9 +88,10 @@ void Shaper::shape(const ShapingStyle &style, QStringView paragraph, qsizetype s
         if (at < 0 || at >= length)
             continue;
         advances[at] += static_cast<float>(positions[i].x_advance);
-        flags[at] |= StartsCluster;
-        if (hb_glyph_info_get_glyph_flags(glyphs + i) & HB_GLYPH_FLAG_UNSAFE_TO_BREAK)
-            flags[at] |= UnsafeToBreak;
+        // All glyphs of a cluster carry the same flags.
+        const bool isUnsafe = hb_glyph_info_get_glyph_flags(glyphs + i) & HB_GLYPH_FLAG_UNSAFE_TO_BREAK;
+        flags[at] =
+            static_cast<quint8>((flags[at] & HangingBlank) | StartsCluster | (isUnsafe ? UnsafeToBreak : 0));
     }
     shareOutLigatures(text, advances, flags);
 }

@@ -12,7 +12,7 @@
 /// What the line breaker must know of a code unit besides its advance.
 enum UnitFlag : quint8 {
     StartsCluster = 1, ///< of the shaper: one or more graphemes that are measured together
-    UnsafeToBreak = 2, ///< the units before and from here on measure otherwise when they are shaped apart
+    UnsafeToBreak = 2, ///< what stands before and what starts here measure otherwise when shaped apart
     HangingBlank = 4, ///< may stand behind the column's end
     TabCharacter = 8,
     EndsLine = 16, ///< a forced break follows

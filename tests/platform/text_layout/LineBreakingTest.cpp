@@ -151,21 +151,65 @@ TEST_F(LineBreaking, SumsUpOverPartsOfTheText)
     EXPECT_EQ(engine.countLines(text, columns(4), 20, text.length()), 2U);
 }
 
-TEST_F(LineBreaking, MeasuresKerning)
-{
-    TextAttributes attributes;
-    attributes.font = FontAttributes{.family = QStringLiteral("Helvetica"), .pointSize = 1000};
-    LayoutEngine engine;
-    const auto widthOf = [&](const QString &text) {
-        double width = 0;
+// Widths in units of the font: its em is 1000 or 2048 of them.
+class LineEnds : public LineBreaking {
+protected:
+    static std::vector<LineFragment> linesOf(
+        const QString &family, double pointSize, const QString &text, double width)
+    {
+        TextAttributes attributes;
+        attributes.font = FontAttributes{.family = family, .pointSize = pointSize};
         const AttributedString styled(text, attributes);
-        engine.layOutParagraph(
-            styled, paragraphAt(text, 0), 1e6, [&](const LineFragment &line) { width = line.width; });
-        return width;
-    };
-    EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("A")), 667);
-    EXPECT_LT(widthOf(QStringLiteral("AV")), 667 + 667);
-    EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("A ")), 667) << "blanks at the end hang";
+        std::vector<LineFragment> lines;
+        LayoutEngine().layOutParagraph(
+            styled, paragraphAt(text, 0), width, [&](const LineFragment &line) { lines.push_back(line); });
+        return lines;
+    }
+
+    static double widthOf(const QString &family, double pointSize, const QString &text)
+    {
+        return linesOf(family, pointSize, text, 1e6).front().width;
+    }
+};
+
+TEST_F(LineEnds, KerningCounts)
+{
+    const QString helvetica = QStringLiteral("Helvetica");
+    EXPECT_DOUBLE_EQ(widthOf(helvetica, 1000, QStringLiteral("A")), 667);
+    EXPECT_LT(widthOf(helvetica, 1000, QStringLiteral("AV")), 667 + 667);
+    EXPECT_DOUBLE_EQ(widthOf(helvetica, 1000, QStringLiteral("A ")), 667) << "blanks at the end hang";
+}
+
+TEST_F(LineEnds, TearAKerningPairApart)
+{
+    const QString helvetica = QStringLiteral("Helvetica");
+    const QString text = QStringLiteral("aaa bb-YY");
+    // In the text the hyphen leans 90 units under the Y; at a line's end it needs its whole advance.
+    const double apart = widthOf(helvetica, 1000, QStringLiteral("aaa bb-"));
+    ASSERT_DOUBLE_EQ(widthOf(helvetica, 1000, QStringLiteral("-Y")), 333 + 667 - 90);
+    const std::vector<LineFragment> wide = linesOf(helvetica, 1000, text, apart);
+    ASSERT_EQ(wide.size(), 2U);
+    EXPECT_EQ(wide[0].length, 7);
+    EXPECT_DOUBLE_EQ(wide[0].width, apart);
+    const std::vector<LineFragment> narrow = linesOf(helvetica, 1000, text, apart - 1);
+    EXPECT_EQ(narrow[0].length, 4) << "it fits only as long as the Y follows";
+}
+
+TEST_F(LineEnds, TearALigatureApart)
+{
+    useOnlyFonts({QStringLiteral("DejaVuSans.ttf")});
+    const QString dejaVu = QStringLiteral("DejaVu Sans");
+    const auto width = [&](const char16_t *text) { return widthOf(dejaVu, 2048, QString::fromUtf16(text)); };
+    ASSERT_NE(width(u"ffi"), width(u"f") + width(u"fi")) << "the three are one glyph";
+    const std::vector<LineFragment> lines =
+        linesOf(dejaVu, 2048, QStringLiteral("of\u00ADfice"), width(u"of\u2010"));
+    ASSERT_GE(lines.size(), 2U);
+    EXPECT_EQ(lines[0].length, 3);
+    EXPECT_DOUBLE_EQ(lines[0].width, width(u"of\u2010"));
+    const std::vector<LineFragment> second =
+        linesOf(dejaVu, 2048, QStringLiteral("of\u00ADfice"), width(u"fice"));
+    ASSERT_EQ(second.size(), 2U);
+    EXPECT_DOUBLE_EQ(second[1].width, width(u"fice"));
 }
 
 } // namespace
