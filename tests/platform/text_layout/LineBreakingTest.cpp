@@ -81,6 +81,16 @@ TEST_F(LineBreaking, FitsTextThatIsExactlyAsWideAsTheColumn)
     EXPECT_EQ(count(QString(77, u'x'), 76), 2U);
 }
 
+TEST_F(LineBreaking, FitsTextAsWideAsTheColumnButForTheRoundingOfSums)
+{
+    TextAttributes attributes;
+    attributes.font = FontAttributes{.family = QStringLiteral("Courier"), .pointSize = 7.3};
+    for (int length = 2; length < 200; ++length) {
+        const AttributedString text(QString(length, u'x'), attributes);
+        EXPECT_EQ(LayoutEngine().countLines(text, length * 7.3 * 0.6), 1U) << length;
+    }
+}
+
 TEST_F(LineBreaking, BreaksAWordWiderThanTheColumnBetweenGraphemes)
 {
     EXPECT_EQ(linesOf(QStringLiteral("a wonderful x"), 4),
@@ -210,6 +220,17 @@ TEST_F(LineEnds, TearALigatureApart)
         linesOf(dejaVu, 2048, QStringLiteral("of\u00ADfice"), width(u"fice"));
     ASSERT_EQ(second.size(), 2U);
     EXPECT_DOUBLE_EQ(second[1].width, width(u"fice"));
+}
+
+TEST_F(LineEnds, ShareALigatureOutWhereAWordIsBrokenForWantOfRoom)
+{
+    useOnlyFonts({QStringLiteral("DejaVuSans.ttf")});
+    const QString dejaVu = QStringLiteral("DejaVu Sans");
+    const double ligature = widthOf(dejaVu, 2048, QStringLiteral("ffi"));
+    const std::vector<LineFragment> lines = linesOf(dejaVu, 2048, QStringLiteral("ffi"), ligature * 2 / 3);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].length, 2);
+    EXPECT_NEAR(lines[1].width, ligature / 3, 0.001);
 }
 
 } // namespace
