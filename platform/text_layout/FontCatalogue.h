@@ -13,9 +13,11 @@
 #include <memory>
 #include <vector>
 
+// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as the library's own header has them
 typedef struct _FcConfig FcConfig;
 typedef struct _FcCharSet FcCharSet;
 typedef struct _FcLangSet FcLangSet;
+// NOLINTEND(bugprone-reserved-identifier,modernize-use-using)
 
 /// One face of a font file.
 struct CatalogueFont {

@@ -8,7 +8,9 @@
 
 #include <memory>
 
+// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as the library's own header has them
 typedef struct hb_font_t hb_font_t;
+// NOLINTEND(bugprone-reserved-identifier,modernize-use-using)
 
 class FontFace {
 public:

@@ -9,8 +9,10 @@
 #include <memory>
 #include <tuple>
 
+// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as the library's own header has them
 typedef struct hb_shape_plan_t hb_shape_plan_t;
 typedef struct hb_buffer_t hb_buffer_t;
+// NOLINTEND(bugprone-reserved-identifier,modernize-use-using)
 
 class ShapingStyle {
 public:
