@@ -40,7 +40,7 @@ std::optional<QBYPaper> QBYExtension::currentPaperObject(PrintSettings &printSet
     // One answer for both looks: between two the printer could begin to answer, with a list that has the
     // paper.
     const PrinterAnswer printer = printSettings.printer();
-    if (const std::optional<QBYPaper> paper = paperNamed(printer.papers, *name))
+    if (std::optional<QBYPaper> paper = paperNamed(printer.papers, *name))
         return paper;
     LogChannel::standard().error(u"Error instantiating paper object...attempt to restore default.");
     if (!printer.defaultPaper || !printer.defaultPaper->ppdName)

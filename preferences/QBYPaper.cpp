@@ -4,14 +4,16 @@
 #include "platform/printing/PrintSettings.h"
 #include "preferences/PrintSettingsExtension.h"
 
+#include <utility>
+
 namespace {
 
 constexpr double pointsPerInch = 72;
 
 } // namespace
 
-QBYPaper::QBYPaper(const Paper &pmPaper)
-    : m_pmPaper(pmPaper)
+QBYPaper::QBYPaper(Paper pmPaper)
+    : m_pmPaper(std::move(pmPaper))
 {
 }
 

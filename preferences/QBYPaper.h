@@ -8,7 +8,7 @@
 /// The margins are those that the printer cannot print on.
 class QBYPaper {
 public:
-    explicit QBYPaper(const Paper &pmPaper);
+    explicit QBYPaper(Paper pmPaper);
 
     /// Of the shared print settings' papers, as their extension of the same name finds it.
     static std::optional<QBYPaper> paperObjectForPaperName(const QString &paperName);

@@ -24,7 +24,7 @@ Paper builtInPaper(const QString &ppdName, const QString &identifier, double wid
 // libpaper reads its file to the end of the first word, and an endless one (a device, a pipe) for ever.
 bool isReadableSettingsFile(const QString &path)
 {
-    constexpr qint64 mostBytes = 64 * 1024;
+    constexpr qint64 mostBytes = 65'536;
     const QFileInfo file(path);
     return file.isFile() && file.size() <= mostBytes;
 }

@@ -127,7 +127,7 @@ std::optional<Paper> defaultPaper(const std::vector<Paper> &papers, const CupsAn
         words += describedDefault->toUtf8();
     words += strings(answers.attributes, "media-default");
     for (const QByteArray &word : words) {
-        if (const std::optional<Paper> paper = paperMeant(papers, word))
+        if (std::optional<Paper> paper = paperMeant(papers, word))
             return paper;
     }
     return std::nullopt;

@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 
+// NOLINTNEXTLINE(bugprone-reserved-identifier,modernize-use-using): as CUPS has it
 typedef struct _ipp_s ipp_t;
 
 struct CupsAnswers {

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr qsizetype mostDescriptionBytes = 4 * 1024 * 1024;
+constexpr qsizetype mostDescriptionBytes = 4'194'304;
 constexpr int silenceLimit = 20; // seconds
 
 struct CupsDeleter {
@@ -64,7 +64,7 @@ PrinterFailure failureToConnect()
     address.sun_family = AF_UNIX;
     if (*server != '/' || std::strlen(server) >= sizeof address.sun_path)
         return PrinterFailure::NotAnswering;
-    std::strcpy(address.sun_path, server);
+    std::memcpy(address.sun_path, server, std::strlen(server)); // the rest is zero already
     const int probe = ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     const bool isRefused = ::connect(probe, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
         && (errno == ENOENT || errno == ECONNREFUSED);

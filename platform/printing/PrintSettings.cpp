@@ -64,7 +64,7 @@ PrintSettings &PrintSettings::shared()
 {
     if (scopedSettings)
         return *scopedSettings;
-    static PrintSettings *const settings = new PrintSettings(std::make_shared<CupsPrinterSource>());
+    static auto *const settings = new PrintSettings(std::make_shared<CupsPrinterSource>());
     return *settings;
 }
 

@@ -28,7 +28,8 @@ std::optional<Statement> parsedStatement(QByteArrayView line)
         value = value.sliced(1);
     if (value.endsWith('"'))
         value.chop(1);
-    const auto space = std::find_if(head.begin(), head.end(), [](char c) { return c == ' ' || c == '\t'; });
+    const char *const space =
+        std::find_if(head.begin(), head.end(), [](char c) { return c == ' ' || c == '\t'; });
     const QByteArrayView keyword(head.begin(), space);
     const QByteArrayView option = QByteArrayView(space, head.end()).trimmed();
     const qsizetype slash = option.indexOf('/');
@@ -82,7 +83,7 @@ PrinterDescription printerDescription(QByteArrayView file)
     QHash<QByteArray, Measures> measuresOfChoices;
     PrinterDescription description;
     while (!file.isEmpty()) {
-        const auto lineEnd =
+        const char *const lineEnd =
             std::find_if(file.begin(), file.end(), [](char c) { return c == '\n' || c == '\r'; });
         const std::optional<Statement> statement = parsedStatement(QByteArrayView(file.begin(), lineEnd));
         file = QByteArrayView(lineEnd == file.end() ? lineEnd : lineEnd + 1, file.end());

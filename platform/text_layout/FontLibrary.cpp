@@ -49,7 +49,7 @@ QByteArray canonicalLanguage(QStringView language)
     const bool isWhole = length == language.size() || language[length] == u'-' || language[length] == u'_';
     if (length < 2 || length > 3 || !isWhole)
         return {};
-    const QByteArray primary = language.first(length).toLatin1().toLower();
+    QByteArray primary = language.first(length).toLatin1().toLower();
     if (primary != "zh")
         return primary;
     const auto has = [&](QStringView part) {
@@ -61,10 +61,10 @@ QByteArray canonicalLanguage(QStringView language)
 }
 
 FontChain::FontChain(
-    FontLibrary &library, const FontRequest &request, const QByteArray &language, std::vector<quint16> named)
+    FontLibrary &library, FontRequest request, QByteArray language, std::vector<quint16> named)
     : m_library(library)
-    , m_request(request)
-    , m_language(language)
+    , m_request(std::move(request))
+    , m_language(std::move(language))
     , m_named(std::move(named))
 {
 }

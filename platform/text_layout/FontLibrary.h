@@ -25,8 +25,7 @@ class FontLibrary;
 /// library.
 class FontChain {
 public:
-    FontChain(FontLibrary &library, const FontRequest &request, const QByteArray &language,
-        std::vector<quint16> named);
+    FontChain(FontLibrary &library, FontRequest request, QByteArray language, std::vector<quint16> named);
 
     /// The font for characters that none has.
     [[nodiscard]] FontFace *primary();

@@ -12,7 +12,7 @@ namespace {
 // What HarfBuzz looks at on either side of a stretch.
 constexpr qsizetype contextLength = 8;
 
-void shareOutLigatures(QStringView text, float *advances, quint8 *flags)
+void shareOutLigatures(QStringView text, float *advances, const quint8 *flags)
 {
     for (qsizetype start = 0; start < text.size();) {
         qsizetype end = start + 1;
