@@ -67,20 +67,20 @@ void CountCommand::countAll(const QByteArrayList &names)
 {
     const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.form, sizeOfAll(names));
     QBYWordCounterStats total;
-    bool isFirst = true;
+    bool hasRows = false;
     ProgressLine progress(names.size());
     for (qsizetype i = 0; i < names.size(); ++i) {
         progress.startReading(names[i], i);
         const std::optional<QBYWordCounterStats> stats = count(names[i], progress);
         if (!stats)
             continue;
-        if (std::exchange(isFirst, false))
+        if (!std::exchange(hasRows, true))
             print(report->header());
         print(report->row(names[i], *stats));
         total += *stats;
     }
     progress.hide();
-    if (names.size() > 1)
+    if (names.size() > 1 && hasRows)
         print(report->total(total));
 }
 

@@ -159,6 +159,14 @@ TEST_F(CountCommandTest, WhatCannotBeReadIsToldInALineAndTheOthersAreStillCounte
     EXPECT_EQ(lines[3], QByteArray("quillbay: /dev/zero: is a device"));
 }
 
+TEST_F(CountCommandTest, WhereNoFileIsCountedThereIsNoTotal)
+{
+    const ChildProcess::Outcome outcome = count({"/no/such/file", "/no/such/other"});
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.output, QByteArray());
+    EXPECT_EQ(outcome.errors.count('\n'), 2);
+}
+
 TEST_F(CountCommandTest, AFileWithoutPermissionIsAnError)
 {
     const QByteArray name = file("secret", "One.");
