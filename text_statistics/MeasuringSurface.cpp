@@ -3,7 +3,6 @@
 
 #include "platform/logging/LogChannel.h"
 #include "platform/printing/PrintSettings.h"
-#include "platform/segmentation/Paragraphs.h"
 #include "platform/text_layout/LayoutEngine.h"
 #include "preferences/PrintSettingsExtension.h"
 #include "preferences/QBYUserDefaultsController.h"
@@ -58,18 +57,11 @@ void MeasuringSurface::setPage(const PageRules &page)
 }
 
 quint64 MeasuringSurface::numberOfLines(
-    const AttributedString &text, const PageRules &page, const Progress &progress)
+    const AttributedString &text, const PageRules &page, const LayoutEngine::Progress &progress)
 {
     setPage(page);
     TextView &textView = *m_preview.previewTextView();
     textView.textStorage().setAttributedString(text);
     // The layout manager would keep every line; here only their number is wanted.
-    const double columnWidth = textView.textContainer().width();
-    quint64 lines = 0;
-    forEachParagraph(text.string(), [&](const Paragraph &paragraph) {
-        lines += m_engine->countLinesOfParagraph(text, paragraph, columnWidth);
-        if (progress)
-            progress(paragraph.end());
-    });
-    return lines;
+    return m_engine->countLines(text, textView.textContainer().width(), progress);
 }

@@ -8,7 +8,6 @@
 #include "preferences/page_preview/PageSizeForMeasuringPreviewViewController.h"
 #include "text_statistics/CountingRules.h"
 
-#include <functional>
 #include <memory>
 
 class PrintSettings;
@@ -29,14 +28,12 @@ public:
     /// the paper size and the margins of the print settings themselves, with a line in the log.
     [[nodiscard]] PageRules pageOf(PrintSettings &printSettings) const;
 
-    /// Told, after every paragraph, the UTF-16 code units laid out so far.
-    using Progress = std::function<void(qsizetype position)>;
-
     /// The line fragments of the text in the column between the page's margins. A line end makes a line of
     /// its own; the empty line behind a final one does not count. Margins that leave no width leave the
     /// column of the call before in force, which is none at first: then every grapheme has a line. The text
     /// stays in the text view until the next call.
-    quint64 numberOfLines(const AttributedString &text, const PageRules &page, const Progress &progress = {});
+    quint64 numberOfLines(
+        const AttributedString &text, const PageRules &page, const LayoutEngine::Progress &progress = {});
 
     [[nodiscard]] Window &window() { return m_window; }
     [[nodiscard]] PageSizeForMeasuringPreviewViewController &preview() { return m_preview; }

@@ -133,19 +133,21 @@ quint64 LayoutEngine::countLinesOfParagraph(
         text, paragraph, columnWidth, [](LineBreaker &, qsizetype, const LineBreaker::Line &) {});
 }
 
-quint64 LayoutEngine::countLines(const AttributedString &text, double columnWidth)
+quint64 LayoutEngine::countLines(const AttributedString &text, double columnWidth, const Progress &progress)
 {
-    return countLines(text, columnWidth, 0, text.length());
+    return countLines(text, columnWidth, 0, text.length(), progress);
 }
 
-quint64 LayoutEngine::countLines(
-    const AttributedString &text, double columnWidth, qsizetype start, qsizetype end)
+quint64 LayoutEngine::countLines(const AttributedString &text, double columnWidth, qsizetype start,
+    qsizetype end, const Progress &progress)
 {
     quint64 count = 0;
     while (start < end) {
         const Paragraph paragraph = paragraphAt(text.string(), start);
         count += countLinesOfParagraph(text, paragraph, columnWidth);
         start = paragraph.end();
+        if (progress)
+            progress(start);
     }
     return count;
 }

@@ -31,11 +31,15 @@ public:
     quint64 countLinesOfParagraph(
         const AttributedString &text, const Paragraph &paragraph, double columnWidth);
 
+    /// Told, after every paragraph, the UTF-16 code units laid out so far.
+    using Progress = std::function<void(qsizetype position)>;
+
     /// The sum over all paragraphs; 0 for an empty text.
-    quint64 countLines(const AttributedString &text, double columnWidth);
+    quint64 countLines(const AttributedString &text, double columnWidth, const Progress &progress = {});
 
     /// The sum over those that start from one paragraph's start on and before end (UTF-16 code units).
-    quint64 countLines(const AttributedString &text, double columnWidth, qsizetype start, qsizetype end);
+    quint64 countLines(const AttributedString &text, double columnWidth, qsizetype start, qsizetype end,
+        const Progress &progress = {});
 
     /// The files of the fonts that all texts so far needed.
     [[nodiscard]] QByteArrayList fontFilesInUse() const { return m_fonts.loadedFiles(); }
