@@ -33,6 +33,10 @@ if(QUILLBAY_SANITIZERS)
     target_link_options(quillbay_options INTERFACE -fsanitize=${QUILLBAY_SANITIZERS})
 endif()
 
+if(QUILLBAY_FUZZERS)
+    target_compile_options(quillbay_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # quillbay_library(NAME SOURCES file… [LINKS target… [PRIVATE target…]]): the static library of one room.
 function(quillbay_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
@@ -71,4 +75,12 @@ endfunction()
 function(quillbay_test_helper name)
     quillbay_program(${name} ${ARGN})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+endfunction()
+
+# quillbay_fuzzer(NAME SOURCES file… [LINKS target…]): a libFuzzer program in build/<preset>/fuzz; its seeds lie
+# in fuzz/seeds/NAME.
+function(quillbay_fuzzer name)
+    quillbay_program(${name} ${ARGN})
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/fuzz")
 endfunction()

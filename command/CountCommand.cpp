@@ -4,7 +4,7 @@
 #include "command/FileNames.h"
 #include "command/RulesExplanation.h"
 #include "platform/files/FileContents.h"
-#include "platform/styled_text/DocumentLoader.h"
+#include "platform/styled_text/loading/DocumentLoader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/MeasuringSurface.h"
 

@@ -50,6 +50,14 @@ std::shared_ptr<View> View::takeSubview(const View &view)
     return taken;
 }
 
+void View::setHidden(bool hidden)
+{
+    if (m_hidden == hidden)
+        return;
+    m_hidden = hidden;
+    Q_EMIT hiddenDidChange();
+}
+
 void View::addSubview(std::shared_ptr<View> view)
 {
     if (!view || isOrLiesIn(*view))

@@ -38,6 +38,14 @@ public:
     /// Whether y grows downward in the view's own coordinates.
     [[nodiscard]] virtual bool isFlipped() const { return false; }
 
+    /// A hidden view keeps its place and shows nothing, nor do its subviews.
+    [[nodiscard]] bool isHidden() const { return m_hidden; }
+    void setHidden(bool hidden);
+
+    /// A number that the interface file gives the view; 0 where it gives none.
+    [[nodiscard]] qint64 tag() const { return m_tag; }
+    void setTag(qint64 tag) { m_tag = tag; }
+
     /// Lowest first.
     [[nodiscard]] const std::vector<std::shared_ptr<View>> &subviews() const { return m_subviews; }
     [[nodiscard]] View *superview() const { return m_superview; }
@@ -59,6 +67,7 @@ public:
 
 Q_SIGNALS:
     void frameDidChange();
+    void hiddenDidChange();
     void subviewsDidChange();
     void displayNeeded();
 
@@ -74,6 +83,8 @@ private:
     void leaveSuperviewAndWindow();
 
     QRectF m_frame;
+    bool m_hidden = false;
+    qint64 m_tag = 0;
     std::vector<std::shared_ptr<View>> m_subviews;
     View *m_superview = nullptr;
     Window *m_window = nullptr; // of the content view only

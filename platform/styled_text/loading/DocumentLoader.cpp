@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/styled_text/DocumentLoader.h"
+#include "platform/styled_text/loading/DocumentLoader.h"
 
 #include "platform/files/FileContents.h"
 

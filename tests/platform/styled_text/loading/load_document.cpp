@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Loads the document that it is given, or its standard input, and prints how long its text is, or why it
 // could not be loaded.
-#include "platform/styled_text/DocumentLoader.h"
+#include "platform/styled_text/loading/DocumentLoader.h"
 
 #include <cstdio>
 #include <unistd.h>

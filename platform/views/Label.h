@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// Label is a view that shows one line of text.
+// Thread: main.  Owner: its superview or window.
+#pragma once
+
+#include "platform/views/TextMeasurer.h"
+#include "platform/views/View.h"
+
+#include <QString>
+
+class Label : public View {
+    Q_OBJECT
+
+public:
+    using View::View;
+
+    [[nodiscard]] const QString &stringValue() const { return m_stringValue; }
+    void setStringValue(const QString &stringValue);
+
+    /// Null for none, as in a label on no screen: it then keeps its size.
+    void setTextMeasurer(std::shared_ptr<const TextMeasurer> measurer) { m_measurer = std::move(measurer); }
+
+    /// Takes the size that the text needs; the origin stays.
+    void sizeToFit();
+
+Q_SIGNALS:
+    void stringValueDidChange();
+
+private:
+    QString m_stringValue;
+    std::shared_ptr<const TextMeasurer> m_measurer;
+};
