@@ -12,9 +12,7 @@ public:
     // A life is not copied with the rest of an object.
     Delegate(const Delegate &) { }
     Delegate &operator=(const Delegate &) { return *this; }
-
-protected:
-    ~Delegate() = default;
+    virtual ~Delegate() = default;
 
 private:
     template <typename T>

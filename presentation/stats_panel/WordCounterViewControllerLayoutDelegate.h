@@ -11,7 +11,4 @@ public:
     virtual void wordCounterViewControllerDidRelayoutLabels() = 0;
     /// After a placement that shows more labels, or fewer, than the one before.
     virtual void wordCounterViewControllerDidChangeVisibleLabelsCount() { }
-
-protected:
-    ~WordCounterViewControllerLayoutDelegate() = default;
 };
