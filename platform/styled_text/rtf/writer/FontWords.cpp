@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "platform/styled_text/rtf/writer/FontWords.h"
+
+#include "platform/styled_text/rtf/writer/ExactValues.h"
+#include "platform/styled_text/rtf/writer/NearestNumber.h"
+#include "platform/styled_text/rtf/writer/RtfEscapes.h"
+
+#include <unicode/uloc.h>
+
+namespace {
+
+constexpr int regularWeight = 400;
+constexpr int boldWeight = 700;
+constexpr int lightestBold = 550; // from here on bold is nearer than regular
+
+QByteArray number(int value)
+{
+    return QByteArray::number(value);
+}
+
+} // namespace
+
+qsizetype FontWords::indexOf(const QString &family)
+{
+    const auto found = m_indices.constFind(family);
+    if (found != m_indices.cend())
+        return *found;
+    const qsizetype index = m_indices.size();
+    m_groups.append("{\\f").append(QByteArray::number(index)).append("\\fnil\\fcharset0 ");
+    appendRtfName(m_groups, family);
+    m_groups.append(";}\n");
+    m_indices.insert(family, index);
+    return index;
+}
+
+QByteArray FontWords::wordsFor(const FontAttributes &font)
+{
+    const NearestNumber size = nearestNumber(font.pointSize, halfPointsPerPoint);
+    const NearestNumber tracking = nearestNumber(font.tracking, twipsPerPoint);
+    const NearestNumber offset = nearestNumber(font.baselineOffset, halfPointsPerPoint);
+    QByteArray words =
+        "\\f" + QByteArray::number(indexOf(font.family)) + "\\fs" + number(std::max(size.number, 1));
+    if (font.weight >= lightestBold)
+        words += "\\b";
+    if (font.slant != FontSlant::Upright)
+        words += "\\i";
+    if (tracking.number != 0)
+        words += "\\expndtw" + number(tracking.number);
+    if (offset.number > 0)
+        words += "\\up" + number(offset.number);
+    else if (offset.number < 0)
+        words += "\\dn" + number(-offset.number);
+    const bool isExact = size.isExact && size.number > 0 && tracking.isExact && offset.isExact
+        && (font.weight == regularWeight || font.weight == boldWeight) && font.slant != FontSlant::Oblique;
+    return isExact ? words : words + m_exactValues.fontWord(font);
+}
+
+QByteArray FontWords::wordsFor(const QString &language)
+{
+    const auto found = m_languageWords.constFind(language);
+    if (found != m_languageWords.cend())
+        return *found;
+    char locale[ULOC_FULLNAME_CAPACITY];
+    UErrorCode error = U_ZERO_ERROR;
+    uloc_forLanguageTag(language.toLatin1().constData(), locale, sizeof locale, nullptr, &error);
+    const quint32 identifier = U_SUCCESS(error) ? uloc_getLCID(locale) : 0;
+    QByteArray words = identifier == 0 ? QByteArray() : "\\lang" + QByteArray::number(identifier);
+    words += m_exactValues.languageWord(language);
+    m_languageWords.insert(language, words);
+    return words;
+}
+
+QByteArray FontWords::wordsFor(const std::optional<FontAttributes> &font, const QString &language)
+{
+    QByteArray words = "\\plain";
+    if (font)
+        words += wordsFor(*font);
+    if (!language.isEmpty())
+        words += wordsFor(language);
+    return words;
+}
+
+QByteArray FontWords::table() const
+{
+    return m_groups.isEmpty() ? QByteArray() : "{\\fonttbl\n" + m_groups + "}\n";
+}
