@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "platform/connection/ConnectionThread.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <memory>
+#include <mutex>
+
+namespace {
+
+std::mutex mutex;
+std::unique_ptr<QThread> thread;
+
+// Qt's own thread for the bus ends after the application object, so ours never talks to one that is gone.
+void stop()
+{
+    const std::lock_guard guard(mutex);
+    thread->quit();
+    thread->wait();
+    thread.reset();
+}
+
+} // namespace
+
+QThread *ConnectionThread::shared()
+{
+    const std::lock_guard guard(mutex);
+    if (!thread) {
+        thread = std::make_unique<QThread>();
+        thread->setObjectName(QStringLiteral("connections"));
+        thread->start();
+        qAddPostRoutine(stop);
+    }
+    return thread.get();
+}
