@@ -17,17 +17,18 @@
 /// Why an RTFD gave no text.
 struct RtfdError {
     enum class Cause {
-        NotRtfd, ///< does not begin as a flat RTFD does
+        NotRtfd, ///< does not begin as a flat RTFD does, or is no folder
         Damaged, ///< its lengths do not fit each other
         NoText, ///< has no file TXT.rtf
         TextNotRtf, ///< TXT.rtf is none
+        Unreadable, ///< the folder cannot be entered; file tells why
         TextUnreadable, ///< TXT.rtf of a package cannot be read; file tells why
         TooLong, ///< positions in a text are 32 bits wide
         NotEnoughMemory,
     };
 
     Cause cause;
-    std::optional<FileError> file = std::nullopt; ///< of TextUnreadable
+    std::optional<FileError> file = std::nullopt; ///< of Unreadable and TextUnreadable
 
     bool operator==(const RtfdError &) const = default;
 };
@@ -38,15 +39,16 @@ QString causeText(const RtfdError &error);
 /// Whether the bytes begin as every flat RTFD does.
 bool looksLikeFlatRtfd(QByteArrayView bytes);
 
-/// The text of a flat RTFD with its attachments. One that is a folder itself, is missing or has a name that
-/// no file can have stands in the text without contents. Takes time and memory proportional to the length.
+/// The text of a flat RTFD with its attachments. One that is a folder has no contents; U+FFFC stands without
+/// an attachment for one that is missing or whose name no file can have. Takes time and memory proportional
+/// to the length.
 Result<AttributedString, RtfdError> readFlatRtfd(QByteArrayView bytes);
 
 /// Whether a path leads to a folder that has something by the name of TXT.rtf.
 /// path: as the system holds it, bytes in any encoding.
 bool isRtfdPackage(const QByteArray &path);
 
-/// The text of a package. Opens TXT.rtf and the attachments that it names, regular files within the folder
-/// all of them: a symbolic link that leads out of it counts as missing, and so does what makes the package
-/// larger than a document may be. Missing attachments stand in the text without contents.
+/// The text of a package, its attachments as above. Opens TXT.rtf and the attachments that it names, and only
+/// where they are regular files within the folder: a symbolic link that leads out of it counts as missing,
+/// and so does what would make the package larger than a document may be.
 Result<AttributedString, RtfdError> readRtfdPackage(const QByteArray &path);
