@@ -10,6 +10,14 @@ void Label::setStringValue(const QString &stringValue)
     setNeedsDisplay();
 }
 
+void Label::setAlignment(TextAlignment alignment)
+{
+    if (m_alignment == alignment)
+        return;
+    m_alignment = alignment;
+    Q_EMIT alignmentDidChange();
+}
+
 void Label::sizeToFit()
 {
     if (m_measurer)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Label is a view that shows one line of text.
+// Label is a view that shows one line of text, which the mouse cannot select.
 // Thread: main.  Owner: its superview or window.
 #pragma once
 
@@ -7,6 +7,8 @@
 #include "platform/views/View.h"
 
 #include <QString>
+
+enum class TextAlignment { Left, Center, Right };
 
 class Label : public View {
     Q_OBJECT
@@ -17,6 +19,9 @@ public:
     [[nodiscard]] const QString &stringValue() const { return m_stringValue; }
     void setStringValue(const QString &stringValue);
 
+    [[nodiscard]] TextAlignment alignment() const { return m_alignment; }
+    void setAlignment(TextAlignment alignment);
+
     /// Null for none, as in a label on no screen: it then keeps its size.
     void setTextMeasurer(std::shared_ptr<const TextMeasurer> measurer) { m_measurer = std::move(measurer); }
 
@@ -25,8 +30,10 @@ public:
 
 Q_SIGNALS:
     void stringValueDidChange();
+    void alignmentDidChange();
 
 private:
     QString m_stringValue;
+    TextAlignment m_alignment = TextAlignment::Left;
     std::shared_ptr<const TextMeasurer> m_measurer;
 };

@@ -4,6 +4,7 @@
 #include "platform/views/Window.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 View::View(const QRectF &frame)
@@ -34,6 +35,27 @@ Window *View::window() const
     return root->m_window;
 }
 
+QRectF View::convertToSuperview(const QRectF &rect) const
+{
+    const QRectF shown = bounds();
+    const double xScale = shown.width() > 0 ? m_frame.width() / shown.width() : 1;
+    const double yScale = shown.height() > 0 ? m_frame.height() / shown.height() : 1;
+    const bool turned = isFlipped() != (m_superview && m_superview->isFlipped());
+    const double height = rect.height() * yScale;
+    const double fromStart = (rect.y() - shown.y()) * yScale;
+    return {m_frame.x() + (rect.x() - shown.x()) * xScale,
+        m_frame.y() + (turned ? m_frame.height() - fromStart - height : fromStart), rect.width() * xScale,
+        height};
+}
+
+QRectF View::convertToWindow(const QRectF &rect) const
+{
+    QRectF converted = rect;
+    for (const View *view = this; view; view = view->m_superview)
+        converted = view->convertToSuperview(converted);
+    return converted;
+}
+
 bool View::isOrLiesIn(const View &view) const
 {
     const View *place = this;
@@ -56,6 +78,33 @@ void View::setHidden(bool hidden)
         return;
     m_hidden = hidden;
     Q_EMIT hiddenDidChange();
+}
+
+void View::setAccessibleName(const QString &name)
+{
+    if (m_accessibleName == name)
+        return;
+    m_accessibleName = name;
+    Q_EMIT descriptionDidChange();
+}
+
+void View::setToolTip(const QString &text)
+{
+    if (m_toolTip == text)
+        return;
+    m_toolTip = text;
+    Q_EMIT descriptionDidChange();
+}
+
+void View::fadeTo(double alpha, int milliseconds)
+{
+    if (std::isnan(alpha))
+        return;
+    const double reachable = std::clamp(alpha, 0.0, 1.0);
+    if (reachable == m_alphaValue)
+        return;
+    m_alphaValue = reachable;
+    Q_EMIT alphaValueDidChange(milliseconds);
 }
 
 void View::addSubview(std::shared_ptr<View> view)

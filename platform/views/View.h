@@ -8,6 +8,7 @@
 #include "platform/views/Geometry.h"
 
 #include <QObject>
+#include <QString>
 
 #include <memory>
 #include <vector>
@@ -46,10 +47,30 @@ public:
     [[nodiscard]] qint64 tag() const { return m_tag; }
     void setTag(qint64 tag) { m_tag = tag; }
 
+    /// The object name that the interface file gives the view; empty where it gives none.
+    [[nodiscard]] const QString &identifier() const { return m_identifier; }
+    void setIdentifier(const QString &identifier) { m_identifier = identifier; }
+
+    /// What a screen reader calls the view; where it is empty, what the view shows.
+    [[nodiscard]] const QString &accessibleName() const { return m_accessibleName; }
+    void setAccessibleName(const QString &name);
+    [[nodiscard]] const QString &toolTip() const { return m_toolTip; }
+    void setToolTip(const QString &text);
+
+    /// The opacity of the view and its subviews, from 0, invisible, to 1.
+    [[nodiscard]] double alphaValue() const { return m_alphaValue; }
+    void setAlphaValue(double alpha) { fadeTo(alpha, 0); }
+    /// The view has the new value at once; what shows it on a screen goes there step by step within that
+    /// time. Beyond the ends it is the end; a value that is no number is ignored.
+    void fadeTo(double alpha, int milliseconds);
+
     /// Lowest first.
     [[nodiscard]] const std::vector<std::shared_ptr<View>> &subviews() const { return m_subviews; }
     [[nodiscard]] View *superview() const { return m_superview; }
     [[nodiscard]] Window *window() const;
+    /// A rectangle in the view's own coordinates, in those of the root of its tree's superview: of the
+    /// window, where the view lies in one. Points from the bottom left.
+    [[nodiscard]] QRectF convertToWindow(const QRectF &rect) const;
 
     /// Puts the view above all other subviews. It leaves the superview or window it had; a subview of this
     /// view only moves up. A null view, this view and the views that hold it are refused: nothing changes.
@@ -68,6 +89,8 @@ public:
 Q_SIGNALS:
     void frameDidChange();
     void hiddenDidChange();
+    void descriptionDidChange(); ///< the accessible name or the tool tip
+    void alphaValueDidChange(int milliseconds);
     void subviewsDidChange();
     void displayNeeded();
 
@@ -78,6 +101,7 @@ protected:
 private:
     friend class Window; // sets m_window of its content view
 
+    [[nodiscard]] QRectF convertToSuperview(const QRectF &rect) const;
     [[nodiscard]] bool isOrLiesIn(const View &view) const;
     std::shared_ptr<View> takeSubview(const View &view);
     void leaveSuperviewAndWindow();
@@ -85,6 +109,10 @@ private:
     QRectF m_frame;
     bool m_hidden = false;
     qint64 m_tag = 0;
+    double m_alphaValue = 1;
+    QString m_identifier;
+    QString m_accessibleName;
+    QString m_toolTip;
     std::vector<std::shared_ptr<View>> m_subviews;
     View *m_superview = nullptr;
     Window *m_window = nullptr; // of the content view only

@@ -4,6 +4,7 @@
 #include "platform/views/View.h"
 
 #include <cmath>
+#include <utility>
 
 Window::Window(const QRectF &frame, unsigned styleMask)
     : m_frame(frame)
@@ -60,4 +61,55 @@ void Window::setBackingScaleFactor(double factor)
         return;
     m_backingScaleFactor = factor;
     Q_EMIT backingScaleFactorDidChange();
+}
+
+void Window::setTitle(const QString &title)
+{
+    if (title == m_title)
+        return;
+    m_title = title;
+    Q_EMIT titleDidChange();
+}
+
+void Window::setLevel(WindowLevel level)
+{
+    if (level == m_level)
+        return;
+    m_level = level;
+    Q_EMIT levelDidChange();
+}
+
+void Window::orderFront()
+{
+    m_visible = true;
+    Q_EMIT orderedFront();
+}
+
+void Window::orderOut()
+{
+    if (!m_visible)
+        return;
+    m_visible = false;
+    Q_EMIT orderedOut();
+}
+
+void Window::performClose()
+{
+    Q_EMIT closeRequested();
+    if (m_closesOnRequest)
+        close();
+}
+
+void Window::close()
+{
+    if (!m_visible)
+        return;
+    orderOut();
+    Q_EMIT closed();
+}
+
+void Window::setCopyProvider(std::function<MimeContent()> provider)
+{
+    m_copyProvider = std::move(provider);
+    Q_EMIT copyProviderDidChange();
 }
