@@ -2,6 +2,7 @@
 #include "presentation/stats_panel/BaseWordCounterViewController.h"
 
 #include "platform/notifications/NotificationObserver.h"
+#include "platform/views/InterfaceFile.h"
 #include "preferences/QBYUserDefaultsController.h"
 
 #include <algorithm>
@@ -13,6 +14,14 @@ namespace {
 constexpr double gapBetweenLabels = 11;
 constexpr double roomBelowLastLabel = 5.5;
 
+// In canonical order.
+constexpr std::array<QLatin1StringView, 8> outletNames{QLatin1StringView("wordCountTextField"),
+    QLatin1StringView("characterCountTextField"),
+    QLatin1StringView("characterCountTextFieldIncludingWhiteSpace"),
+    QLatin1StringView("numberOfSentecesTextField"), QLatin1StringView("numberOfLinesTextField"),
+    QLatin1StringView("numberOfHardLineBreaksTextField"), QLatin1StringView("numberOfParagraphsTextField"),
+    QLatin1StringView("numberOfIndentedParagraphsTextField")};
+
 void setHidden(const std::shared_ptr<Label> &label, bool hidden)
 {
     if (label)
@@ -21,9 +30,36 @@ void setHidden(const std::shared_ptr<Label> &label, bool hidden)
 
 } // namespace
 
-BaseWordCounterViewController::BaseWordCounterViewController() = default;
+QString BaseWordCounterViewController::panelInterfaceFile()
+{
+    return QStringLiteral(":/interface_files/WordCounterViewController.ui");
+}
+
+BaseWordCounterViewController::BaseWordCounterViewController(QString interfaceFile)
+    : m_interfaceFile(std::move(interfaceFile))
+{
+}
 
 BaseWordCounterViewController::~BaseWordCounterViewController() = default;
+
+void BaseWordCounterViewController::loadView()
+{
+    const auto interface = InterfaceFile::load(m_interfaceFile);
+    if (!interface)
+        qFatal("%s", qPrintable(messageText(interface.error())));
+    for (size_t index = 0; index < numberOfLabels; ++index) {
+        const auto label = interface.value().outlet<Label>(QString(outletNames.at(index)));
+        if (!label)
+            qFatal("%s", qPrintable(messageText(label.error())));
+        m_outlets[index] = label.value();
+    }
+    const std::shared_ptr<View> &root = interface.value().rootView();
+    const auto policy =
+        interface.value().integerProperty(root->identifier(), QStringLiteral("labelPositionPolicy"));
+    if (policy)
+        m_labelPositionPolicy = static_cast<WordCounterLabelPositionPolicy>(*policy);
+    setView(root);
+}
 
 void BaseWordCounterViewController::viewDidLoad()
 {
@@ -37,6 +73,9 @@ void BaseWordCounterViewController::viewDidLoad()
                 index + 1, numberOfLabels);
         m_labelPositions.push_back(label->frame().topLeft());
         m_allTextfieldsForLayout.push_back(label);
+        nameForScreenReaders(*label);
+        connect(label.get(), &Label::stringValueDidChange, this,
+            [this, label = label.get()] { nameForScreenReaders(*label); });
     }
     m_visibleTextfieldsForLayout = m_allTextfieldsForLayout;
 
@@ -48,6 +87,15 @@ void BaseWordCounterViewController::viewDidLoad()
 
     connect(view().get(), &View::frameDidChange, this,
         &BaseWordCounterViewController::_ourViewsFrameDidChangeNotification);
+}
+
+// The bullet that the texts begin with is for the eye.
+void BaseWordCounterViewController::nameForScreenReaders(Label &label)
+{
+    QString name = label.stringValue();
+    if (name.startsWith(u'•'))
+        name.remove(0, 1);
+    label.setAccessibleName(name.trimmed());
 }
 
 void BaseWordCounterViewController::updateArray()
@@ -122,6 +170,13 @@ void BaseWordCounterViewController::adjustViewHeightToFitVisibleLabels()
     const double lastLabelsY = visible.empty() ? 0 : visible.back()->frame().y();
     const QSizeF size = view()->frame().size();
     view()->setFrameSize({size.width(), std::floor(size.height() + roomBelowLastLabel - lastLabelsY)});
+}
+
+void BaseWordCounterViewController::fitLabels()
+{
+    for (const std::shared_ptr<Label> &label : m_allTextfieldsForLayout)
+        label->sizeToFit();
+    repositionLabels();
 }
 
 void BaseWordCounterViewController::viewsFrameDidChange()

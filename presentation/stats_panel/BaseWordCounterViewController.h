@@ -30,7 +30,12 @@ class BaseWordCounterViewController : public ViewController {
 public:
     using Labels = std::vector<std::shared_ptr<Label>>;
 
-    BaseWordCounterViewController();
+    /// The interface file of the panel that comes with the program, a resource. Its labels have the tags 1 to
+    /// 8 in canonical order; labelPositionPolicy is 0.
+    static QString panelInterfaceFile();
+
+    /// interfaceFile: of the panel, with the eight labels under the names of their outlets.
+    explicit BaseWordCounterViewController(QString interfaceFile = panelInterfaceFile());
     BaseWordCounterViewController(const BaseWordCounterViewController &) = delete;
     BaseWordCounterViewController &operator=(const BaseWordCounterViewController &) = delete;
     ~BaseWordCounterViewController() override;
@@ -79,6 +84,10 @@ public:
     }
     void setLayoutDelegate(WordCounterViewControllerLayoutDelegate *delegate) { m_layoutDelegate = delegate; }
 
+    /// Makes view and outlets from the interface file, and takes the label position policy from it where it
+    /// has one. The process ends where the file cannot be used: it is a part of the program.
+    void loadView() override;
+
     /// Takes the slots, shows and places the labels, and begins to follow preferences and frame. All eight
     /// outlets must be connected: the process ends where one is not, since an interface file without it is a
     /// broken build.
@@ -94,6 +103,9 @@ public:
     /// Makes the panel's view end 5.5 points below the last visible label, rounded down to whole points; its
     /// width and its origin stay. The panel leaves it to its host to ask for this.
     void adjustViewHeightToFitVisibleLabels();
+    /// Sizes every label to its text and places them. Hosts call it when the text metrics of their window
+    /// change.
+    void fitLabels();
     /// Places the labels, and moves every direct subview of the panel's view down and left to whole points.
     void viewsFrameDidChange();
 
@@ -103,9 +115,11 @@ private:
     [[nodiscard]] std::shared_ptr<Label> outlet(size_t index) const { return m_outlets[index].lock(); }
     void hideLabelsByPreferences();
     void putLabelsIntoSlots();
+    void nameForScreenReaders(Label &label);
     void preferencesDidChange();
     void _ourViewsFrameDidChangeNotification();
 
+    const QString m_interfaceFile;
     WordCounterLabelPositionPolicy m_labelPositionPolicy = WordCounterLabelPositionPolicySlots;
     std::array<std::weak_ptr<Label>, numberOfLabels> m_outlets;
     Labels m_visibleTextfieldsForLayout;

@@ -170,6 +170,29 @@ TEST_F(LabelPlacement, AFrameChangePlacesTheLabelsAnewAndSnapsEverySubviewDownTo
     EXPECT_EQ(panel.label(1)->frame().topLeft(), QPointF(7, 7)) << "its slot was at 7.75";
 }
 
+TEST_F(LabelPlacement, LabelsTakeTheSizesOfTheirTextsAndArePlacedOnce)
+{
+    class TenPerCharacter : public TextMeasurer {
+    public:
+        [[nodiscard]] QSizeF labelSize(const QString &text) const override
+        {
+            return {10.0 * static_cast<double>(text.size()), 20};
+        }
+    };
+    preferOnly({Preference::ShowLineCount});
+    const auto panel = stackedPanel();
+    for (const std::shared_ptr<Label> &label : panel->labels) {
+        label->setTextMeasurer(std::make_shared<TenPerCharacter>());
+        label->setStringValue(QStringLiteral("12345"));
+    }
+    panel->delegate.calls.clear();
+    panel->controller.fitLabels();
+    EXPECT_EQ(panel->label(1)->frame(), QRectF(75, 100, 50, 20));
+    EXPECT_EQ(panel->label(5)->frame(), QRectF(75, 69, 50, 20));
+    EXPECT_EQ(panel->label(2)->frame().size(), QSizeF(50, 20)) << "hidden labels too";
+    EXPECT_EQ(panel->delegate.calls, std::vector<std::string>{"relayout"});
+}
+
 TEST_F(LabelPlacement, APanelThatHasGoneFollowsItsViewNoLonger)
 {
     preferOnly({});

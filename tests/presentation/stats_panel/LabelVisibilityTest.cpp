@@ -158,3 +158,13 @@ TEST_F(LabelVisibility, AnInterfaceFileThatLacksALabelEndsTheProcess)
     panel.controller.setNumberOfSentecesTextField(nullptr);
     EXPECT_DEATH(panel.controller.viewDidLoad(), "outlet 4 of 8");
 }
+
+TEST_F(LabelVisibility, ScreenReadersNameALabelByItsTextWithoutTheBullet)
+{
+    StatsPanel panel;
+    panel.label(1)->setStringValue(QStringLiteral("•Words: 7"));
+    panel.controller.viewDidLoad();
+    EXPECT_EQ(panel.label(1)->accessibleName(), QStringLiteral("Words: 7"));
+    panel.label(1)->setStringValue(QStringLiteral("•Words: 8"));
+    EXPECT_EQ(panel.label(1)->accessibleName(), QStringLiteral("Words: 8"));
+}
