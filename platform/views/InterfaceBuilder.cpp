@@ -11,14 +11,14 @@ using Cause = InterfaceError::Cause;
 
 namespace {
 
-std::optional<TextAlignment> alignmentOf(const QString &flags)
+std::optional<LabelAlignment> alignmentOf(const QString &flags)
 {
-    TextAlignment alignment = TextAlignment::Left;
+    LabelAlignment alignment = LabelAlignment::Left;
     for (const QStringView flag : QStringView(flags).split(u'|')) {
         if (flag == u"Qt::AlignRight" || flag == u"Qt::AlignTrailing")
-            alignment = TextAlignment::Right;
+            alignment = LabelAlignment::Right;
         else if (flag == u"Qt::AlignHCenter" || flag == u"Qt::AlignCenter")
-            alignment = TextAlignment::Center;
+            alignment = LabelAlignment::Center;
         else if (flag != u"Qt::AlignLeft" && flag != u"Qt::AlignLeading" && flag != u"Qt::AlignVCenter")
             return std::nullopt;
     }
@@ -33,7 +33,7 @@ std::optional<bool> applyToLabel(const InterfaceProperty &property, Label &label
     }
     if (property.name != u"alignment")
         return std::nullopt;
-    const std::optional<TextAlignment> alignment = alignmentOf(property.value.toString());
+    const std::optional<LabelAlignment> alignment = alignmentOf(property.value.toString());
     if (alignment)
         label.setAlignment(*alignment);
     return alignment.has_value();

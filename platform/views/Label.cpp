@@ -10,7 +10,7 @@ void Label::setStringValue(const QString &stringValue)
     setNeedsDisplay();
 }
 
-void Label::setAlignment(TextAlignment alignment)
+void Label::setAlignment(LabelAlignment alignment)
 {
     if (m_alignment == alignment)
         return;

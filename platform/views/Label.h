@@ -8,7 +8,7 @@
 
 #include <QString>
 
-enum class TextAlignment { Left, Center, Right };
+enum class LabelAlignment { Left, Center, Right };
 
 class Label : public View {
     Q_OBJECT
@@ -19,8 +19,8 @@ public:
     [[nodiscard]] const QString &stringValue() const { return m_stringValue; }
     void setStringValue(const QString &stringValue);
 
-    [[nodiscard]] TextAlignment alignment() const { return m_alignment; }
-    void setAlignment(TextAlignment alignment);
+    [[nodiscard]] LabelAlignment alignment() const { return m_alignment; }
+    void setAlignment(LabelAlignment alignment);
 
     /// Null for none, as in a label on no screen: it then keeps its size.
     void setTextMeasurer(std::shared_ptr<const TextMeasurer> measurer) { m_measurer = std::move(measurer); }
@@ -34,6 +34,6 @@ Q_SIGNALS:
 
 private:
     QString m_stringValue;
-    TextAlignment m_alignment = TextAlignment::Left;
+    LabelAlignment m_alignment = LabelAlignment::Left;
     std::shared_ptr<const TextMeasurer> m_measurer;
 };
