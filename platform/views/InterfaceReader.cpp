@@ -57,8 +57,7 @@ bool isTextKind(QStringView kind)
 
 bool InterfaceReader::fail(Cause cause, const QString &detail)
 {
-    if (!m_error)
-        m_error = InterfaceError{cause, m_file, m_xml.lineNumber(), detail};
+    m_error = InterfaceError{cause, m_file, m_xml.lineNumber(), detail};
     return false;
 }
 
@@ -69,25 +68,25 @@ QString InterfaceReader::attribute(QStringView name) const
 
 bool InterfaceReader::read()
 {
-    const bool isRead = readForm();
-    if (m_xml.hasError() && !m_error)
-        return fail(Cause::NotWellFormed, m_xml.errorString());
-    return isRead;
-}
-
-bool InterfaceReader::readForm()
-{
-    if (!m_xml.readNextStartElement() || m_xml.hasError())
-        return fail(Cause::NotWellFormed, m_xml.errorString());
-    if (m_xml.name() != u"ui" || !attribute(u"version").startsWith(u"4."))
+    if (!isWellFormed())
+        return false;
+    if (!m_xml.readNextStartElement() || m_xml.name() != u"ui" || !attribute(u"version").startsWith(u"4."))
         return fail(Cause::NotAnInterface);
     while (m_xml.readNextStartElement()) {
         if (!readFormElement())
             return false;
     }
-    while (!m_xml.atEnd()) // what follows the form must be XML too
-        m_xml.readNext();
-    return m_xml.hasError() || !m_widgets.empty() || fail(Cause::NotAnInterface);
+    return !m_widgets.empty() || fail(Cause::NotAnInterface);
+}
+
+bool InterfaceReader::isWellFormed()
+{
+    QXmlStreamReader xml(m_contents);
+    while (!xml.atEnd())
+        xml.readNext();
+    if (xml.hasError())
+        m_error = InterfaceError{Cause::NotWellFormed, m_file, xml.lineNumber(), xml.errorString()};
+    return !xml.hasError();
 }
 
 bool InterfaceReader::readFormElement()
@@ -111,7 +110,7 @@ bool InterfaceReader::readWidgets()
 {
     if (!openWidget())
         return false;
-    while (!m_open.empty() && !m_xml.hasError()) {
+    while (!m_open.empty()) {
         if (!m_xml.readNextStartElement())
             m_open.pop_back();
         else if (m_xml.name() == u"widget" ? !openWidget() : !readProperty())
@@ -139,9 +138,7 @@ bool InterfaceReader::readProperty()
     InterfaceProperty property{attribute(u"name"), {}, {}, m_xml.lineNumber()};
     if (!m_xml.readNextStartElement())
         return fail(Cause::BadValue, property.name);
-    if (!readValue(property) || m_xml.hasError())
-        return false;
-    if (!requireEmptyElement()) // the rest of the property
+    if (!readValue(property) || !requireEmptyElement()) // the rest of the property
         return false;
     m_widgets[m_open.back()].properties.push_back(std::move(property));
     return true;
@@ -164,9 +161,8 @@ bool InterfaceReader::readValue(InterfaceProperty &property)
 bool InterfaceReader::readText(InterfaceProperty &property)
 {
     const std::optional<QVariant> value = valueOf(property.kind, m_xml.readElementText());
-    if (m_xml.hasError() || !value)
-        return fail(m_xml.hasError() ? Cause::NotWellFormed : Cause::BadValue,
-            m_xml.hasError() ? m_xml.errorString() : property.name);
+    if (!value || m_xml.hasError()) // an element where only text may be
+        return fail(Cause::BadValue, property.name);
     property.value = *value;
     return true;
 }
@@ -181,7 +177,8 @@ bool InterfaceReader::readRect(InterfaceProperty &property)
             ++index;
         bool isNumber = false;
         const int length = m_xml.readElementText().toInt(&isNumber);
-        if (index == names.size() || !isNumber || std::abs(qint64(length)) > InterfaceFile::largestLength)
+        if (index == names.size() || !isNumber || m_xml.hasError()
+            || std::abs(qint64(length)) > InterfaceFile::largestLength)
             return fail(Cause::BadValue, property.name);
         lengths[index] = length;
     }

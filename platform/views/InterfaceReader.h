@@ -31,7 +31,8 @@ struct InterfaceWidget {
 class InterfaceReader {
 public:
     InterfaceReader(const QByteArray &contents, QString file)
-        : m_xml(contents)
+        : m_contents(contents)
+        , m_xml(contents)
         , m_file(std::move(file))
     {
     }
@@ -43,7 +44,8 @@ public:
     [[nodiscard]] std::vector<InterfaceWidget> takeWidgets() { return std::move(m_widgets); }
 
 private:
-    bool readForm();
+    /// Looked at in advance, so that what reads the form meets no broken XML.
+    bool isWellFormed();
     bool readFormElement();
     bool readWidgets();
     bool openWidget();
@@ -57,6 +59,7 @@ private:
     [[nodiscard]] QString attribute(QStringView name) const;
     bool fail(InterfaceError::Cause cause, const QString &detail = {});
 
+    QByteArray m_contents;
     QXmlStreamReader m_xml;
     QString m_file;
     std::vector<InterfaceWidget> m_widgets;

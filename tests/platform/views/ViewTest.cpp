@@ -172,3 +172,33 @@ TEST(View, AWheelEventTravelsUpToTheFirstViewThatTakesIt)
     EXPECT_THAT(root->m_received, ElementsAre(7));
     View().scrollWheel({0, 7}); // and ends at the root
 }
+
+TEST(View, IsOpaqueUntilItFades)
+{
+    View view;
+    std::vector<std::pair<double, int>> fades;
+    QObject::connect(&view, &View::alphaValueDidChange, &view,
+        [&](int milliseconds) { fades.emplace_back(view.alphaValue(), milliseconds); });
+    EXPECT_EQ(view.alphaValue(), 1);
+    view.setAlphaValue(1);
+    view.fadeTo(0.25, 300);
+    view.fadeTo(0.25, 100);
+    view.setAlphaValue(-3);
+    view.setAlphaValue(7);
+    view.setAlphaValue(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_THAT(fades, ElementsAre(std::pair(0.25, 300), std::pair(0.0, 0), std::pair(1.0, 0)));
+}
+
+TEST(View, AnnouncesItsDescriptionOnce)
+{
+    View view;
+    const int announced = countOf(view, &View::descriptionDidChange, [&] {
+        for (int i = 0; i < 2; ++i) {
+            view.setAccessibleName(QStringLiteral("Words"));
+            view.setToolTip(QStringLiteral("The words of the text"));
+        }
+    });
+    EXPECT_EQ(announced, 2);
+    EXPECT_EQ(view.accessibleName(), QStringLiteral("Words"));
+    EXPECT_EQ(view.toolTip(), QStringLiteral("The words of the text"));
+}
