@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/rtf/RtfReader.h"
 
+#include "platform/styled_text/rtf/RtfInterpreter.h"
+
+#include <new>
+
 namespace {
 
 /// Bytes, of which there are never fewer than code units.
@@ -36,11 +40,15 @@ bool looksLikeRtf(QByteArrayView bytes)
     return withoutLead(bytes).startsWith("{\\rtf");
 }
 
-Result<AttributedString, RtfError> readRtf(QByteArrayView bytes, const AttachmentSource &)
+Result<AttributedString, RtfError> readRtf(QByteArrayView bytes, const AttachmentSource &attachments)
 {
     if (!looksLikeRtf(bytes))
         return RtfError::NotRtf;
     if (bytes.size() > longestInput)
         return RtfError::TooLong;
-    return AttributedString();
+    try {
+        return RtfInterpreter(attachments).textOf(RtfTokenizer(withoutLead(bytes)));
+    } catch (const std::bad_alloc &) {
+        return RtfError::NotEnoughMemory;
+    }
 }

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// RtfGraphics are the attachments that a document names, found once for each name.
+// Thread: one.  Owner: the reading of one document.
+#pragma once
+
+#include "platform/styled_text/rtf/RtfExactValues.h"
+#include "platform/styled_text/rtf/RtfReader.h"
+
+#include <QHash>
+#include <QString>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+class RtfGraphics {
+public:
+    static constexpr qint32 none = -1;
+
+    RtfGraphics(const AttachmentSource &source, const RtfExactValues &exactValues)
+        : m_source(source)
+        , m_exactValues(exactValues)
+    {
+    }
+
+    /// fileNumber: of \qbyfile, 0 where there is none.
+    qint32 add(const QString &storedName, qint32 fileNumber);
+
+    /// Null where there is none. fileNumber: where the graphic itself was added without.
+    std::shared_ptr<const Attachment> attachment(qint32 graphic, qint32 fileNumber);
+
+private:
+    struct Graphic {
+        QString storedName;
+        qint32 fileNumber;
+    };
+    std::shared_ptr<const Attachment> stored(const QString &name);
+
+    const AttachmentSource &m_source;
+    const RtfExactValues &m_exactValues;
+    std::vector<Graphic> m_graphics;
+    QHash<QString, std::shared_ptr<const Attachment>> m_stored;
+    QHash<std::pair<QString, QString>, std::shared_ptr<const Attachment>> m_renamed; ///< by both names
+};
