@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/rtf/writer/FontWords.h"
 
+#include "platform/styled_text/rtf/RtfLanguage.h"
 #include "platform/styled_text/rtf/writer/ExactValues.h"
 #include "platform/styled_text/rtf/writer/NearestNumber.h"
 #include "platform/styled_text/rtf/writer/RtfEscapes.h"
@@ -16,6 +17,16 @@ constexpr int lightestBold = 550; // from here on bold is nearer than regular
 QByteArray number(int value)
 {
     return QByteArray::number(value);
+}
+
+/// The number that Windows has for the language or the nearest one above it, 0 where it has none.
+int lcidOf(const QString &language)
+{
+    constexpr quint32 withoutSortOrder = 0xFFFF;
+    char locale[ULOC_FULLNAME_CAPACITY];
+    UErrorCode status = U_ZERO_ERROR;
+    uloc_forLanguageTag(language.toLatin1().constData(), locale, sizeof locale, nullptr, &status);
+    return U_SUCCESS(status) ? static_cast<int>(uloc_getLCID(locale) & withoutSortOrder) : 0;
 }
 
 } // namespace
@@ -60,12 +71,10 @@ QByteArray FontWords::wordsFor(const QString &language)
     const auto found = m_languageWords.constFind(language);
     if (found != m_languageWords.cend())
         return *found;
-    char locale[ULOC_FULLNAME_CAPACITY];
-    UErrorCode error = U_ZERO_ERROR;
-    uloc_forLanguageTag(language.toLatin1().constData(), locale, sizeof locale, nullptr, &error);
-    const quint32 identifier = U_SUCCESS(error) ? uloc_getLCID(locale) : 0;
-    QByteArray words = identifier == 0 ? QByteArray() : "\\lang" + QByteArray::number(identifier);
-    words += m_exactValues.languageWord(language);
+    const int number = lcidOf(language);
+    QByteArray words = number == 0 ? QByteArray() : "\\lang" + QByteArray::number(number);
+    if (languageOfLcid(number) != language)
+        words += m_exactValues.languageWord(language);
     m_languageWords.insert(language, words);
     return words;
 }

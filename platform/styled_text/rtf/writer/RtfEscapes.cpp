@@ -65,9 +65,10 @@ void appendRtfText(QByteArray &rtf, QStringView text)
 
 void appendRtfName(QByteArray &rtf, QStringView name)
 {
-    for (const QChar character : name) {
-        const char16_t unit = character.unicode();
-        if (unit < 128 && standsForItself[unit] && unit != u';')
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const char16_t unit = name[i].unicode();
+        const bool isAtEdge = i == 0 || i == name.size() - 1;
+        if (unit < 128 && standsForItself[unit] && unit != u';' && !(unit == u' ' && isAtEdge))
             rtf.append(static_cast<char>(unit));
         else
             appendEscaped(rtf, unit);

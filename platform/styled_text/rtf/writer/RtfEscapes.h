@@ -10,5 +10,6 @@
 /// A piece of the text: line ends and tabulators as \par and \tab.
 void appendRtfText(QByteArray &rtf, QStringView text);
 
-/// A name in a destination of its own: also line ends, tabulators and semicolons as \u and a number.
+/// A name in a destination of its own: also line ends, tabulators, semicolons, and blanks at its ends as \u
+/// and a number.
 void appendRtfName(QByteArray &rtf, QStringView name);

@@ -86,12 +86,14 @@ TEST(RtfRoundTrip, EveryCodeUnitStaysEqual)
 
 TEST(RtfRoundTrip, EveryCodeUnitStaysEqualInNames)
 {
-    TextAttributes attributes;
-    attributes.font = FontAttributes{};
-    for (int unit = 0; unit <= 0xFFFF; ++unit)
-        attributes.font->family += QChar(static_cast<char16_t>(unit));
-    attributes.language = attributes.font->family;
-    attributes.attachment = std::make_shared<const Attachment>(Attachment{attributes.language, "data"});
-    const AttributedString text(QStringLiteral("\uFFFC"), attributes);
-    EXPECT_EQ(differenceBetween(text, writtenAndRead(text, 0, text.length())), QString());
+    constexpr int longestName = 1024;
+    for (int first = 0; first <= 0xFFFF; first += longestName) {
+        TextAttributes attributes;
+        for (int unit = first; unit < first + longestName; ++unit)
+            attributes.language += QChar(static_cast<char16_t>(unit));
+        attributes.font = FontAttributes{attributes.language};
+        attributes.attachment = std::make_shared<const Attachment>(Attachment{attributes.language, "data"});
+        const AttributedString text(QStringLiteral("\uFFFC"), attributes);
+        EXPECT_TRUE(text == writtenAndRead(text, 0, text.length())) << first;
+    }
 }

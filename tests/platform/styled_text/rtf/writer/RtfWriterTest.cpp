@@ -161,14 +161,22 @@ TEST(RtfWriter, EachPartOfAFontThatNoWordSaysIsReasonEnoughForAnExactValue)
         exactValueOf([](FontAttributes &font) { font.baselineOffset = 0.25; }), "\\qbyfont1 12;400;0;0;0.25");
 }
 
-TEST(RtfWriter, ALanguageIsAnExactValueBesideItsNumber)
+TEST(RtfWriter, ALanguageIsItsNumberAndAnExactValueWhereTheNumberMeansAnother)
 {
-    TextAttributes attributes;
-    attributes.language = QStringLiteral("de-AT");
-    EXPECT_EQ(wordsOf(attributes),
-        "{\\*\\qbyexact\n{\\qbylanguage1 de-AT}}\n\\pard\\plain\\lang3079\\qbylanguage1");
-    attributes.language = QStringLiteral("tlh");
-    EXPECT_EQ(wordsOf(attributes), "{\\*\\qbyexact\n{\\qbylanguage1 tlh}}\n\\pard\\plain\\qbylanguage1");
+    const auto wordsOfLanguage = [](const char *tag) {
+        TextAttributes attributes;
+        attributes.language = QString::fromLatin1(tag);
+        return wordsOf(attributes);
+    };
+    const auto exactly = [](const QByteArray &tag, const QByteArray &words) {
+        return "{\\*\\qbyexact\n{\\qbylanguage1 " + tag + "}}\n\\pard\\plain" + words + "\\qbylanguage1";
+    };
+    EXPECT_EQ(wordsOfLanguage("de-AT"), "\\pard\\plain\\lang3079");
+    EXPECT_EQ(wordsOfLanguage("de"), "\\pard\\plain\\lang7");
+    EXPECT_EQ(wordsOfLanguage("DE-at"), exactly("DE-at", "\\lang3079"));
+    EXPECT_EQ(wordsOfLanguage("de-u-co-phonebk"), exactly("de-u-co-phonebk", "\\lang1031"));
+    EXPECT_EQ(wordsOfLanguage("tlh"), exactly("tlh", ""));
+    EXPECT_EQ(wordsOfLanguage(" no tag "), exactly("\\u32 no tag\\u32 ", ""));
 }
 
 TEST(RtfWriter, AlignmentsAndDirectionsAreWords)

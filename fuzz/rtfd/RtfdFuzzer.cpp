@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// Flat RTFDs of any bytes: none breaks the reader, and the text of one, written and read again, stays equal.
+#include "platform/styled_text/rtfd/RtfdReader.h"
+#include "platform/styled_text/rtfd/RtfdWriter.h"
+
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArrayView bytes(data, static_cast<qsizetype>(size));
+    const Result<AttributedString, RtfdError> text = readFlatRtfd(bytes);
+    if (!text)
+        return 0;
+    const Result<QByteArray, RtfWriteError> written = RTFDFromRange(text.value(), 0, text.value().length());
+    const Result<AttributedString, RtfdError> again = readFlatRtfd(written.value());
+    if (!(again.value() == text.value()))
+        std::abort();
+    return 0;
+}
