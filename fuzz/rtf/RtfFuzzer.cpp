@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// Any bytes as an RTF document: reading ends, the text is sound, and every attachment in it was found.
+#include "platform/styled_text/rtf/RtfReader.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+void require(bool isTrue)
+{
+    if (!isTrue)
+        std::abort();
+}
+
+void requireSound(const AttributedString &text)
+{
+    qsizetype end = 0;
+    for (qsizetype i = 0; i < text.runCount(); ++i) {
+        const AttributedString::Run run = text.run(i);
+        require(run.start == end && run.length > 0);
+        require(run.attributesIndex < text.distinctAttributes().size());
+        require(i == 0 || run.attributesIndex != text.run(i - 1).attributesIndex);
+        const TextAttributes &attributes = text.distinctAttributes()[run.attributesIndex];
+        require(!attributes.attachment || text.string().at(run.start) == QChar(attachmentCharacter));
+        end += run.length;
+    }
+    require(end == text.length());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArrayView bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const auto source = [](const QString &name) -> std::shared_ptr<const Attachment> {
+        if (name.size() % 2 == 0)
+            return nullptr;
+        return std::make_shared<const Attachment>(Attachment{name, {}});
+    };
+    const Result<AttributedString, RtfError> result = readRtf(bytes, source);
+    require(result.hasValue() == looksLikeRtf(bytes));
+    if (result) {
+        require(result.value().length() <= bytes.size());
+        requireSound(result.value());
+    }
+    return 0;
+}
