@@ -3,22 +3,25 @@
 // scripts) is neither fetched nor run.
 // Thread: any.
 //
-// The text is what the innerText attribute of the page's root element would be by the HTML standard ("rendered
-// text collection steps") under the standard's own style sheet: lines end in U+000A, a paragraph (p) is set off
-// by an empty line, cells are followed by a tabulator and rows by a line end, white space collapses, no-break
-// spaces and soft hyphens stay. Where the standard leaves a choice, or this reader differs:
-//  - Style attributes count, for the properties that HtmlStyleAttribute.h lists; <style> and linked style sheets
+// The text is what the innerText attribute of the page's root element would be by the HTML standard
+// ("rendered text collection steps") under the standard's own style sheet: lines end in U+000A, a paragraph
+// (p) is set off by an empty line, cells are followed by a tabulator and rows by a line end, white space
+// collapses, no-break spaces and soft hyphens stay. Where the standard leaves a choice, or this reader
+// differs:
+//  - Style attributes count, for the properties that HtmlStyleAttribute.h lists; <style> and linked style
+//  sheets
 //    do not. text-transform, generated content (quotation marks of q, list markers, numbers) and images with
 //    their alternative texts give no text.
-//  - Scripts count as running elsewhere: noscript is hidden. What is in a details element that is not open, in
-//    a dialog that is not, or in a popover is hidden. The content of an object element is shown, as its data is
-//    never there; that of audio, video, canvas, iframe, meter and progress never is.
+//  - Scripts count as running elsewhere: noscript is hidden. What is in a details element that is not open,
+//  in
+//    a dialog that is not, or in a popover is hidden. The content of an object element is shown, as its data
+//    is never there; that of audio, video, canvas, iframe, meter and progress never is.
 //  - The text of a textarea is shown, with its white space, as a reader of the page sees it.
 //  - A line end in collapsing white space is a space even between East Asian characters.
 //  - A hidden root element makes an empty text, not that of the hidden elements.
 //
-// Fonts and paragraph styles follow the same style sheet, a CSS pixel being 0.75 points. Text is set in Times of
-// 12 points, which is what browsers print in, and code in Courier of 9.75. The margins of headings are the
+// Fonts and paragraph styles follow the same style sheet, a CSS pixel being 0.75 points. Text is set in Times
+// of 12 points, which is what browsers print in, and code in Courier of 9.75. The margins of headings are the
 // spacing of their paragraphs; those of p are the empty lines; other vertical margins are left out.
 #pragma once
 
@@ -34,7 +37,9 @@ struct HtmlOptions {
 
 enum class HtmlError {
     TooLong, ///< positions in a text are 32 bits wide
-    TooIntricate, ///< the parser's effort for such elements grows out of all proportion to their number
+    TooDeep, ///< more than 1000 elements inside each other
+    TooIntricate, ///< the parser's time or memory for such elements grows out of all proportion to their
+                  ///< number
     NotEnoughMemory,
 };
 
@@ -42,10 +47,11 @@ enum class HtmlError {
 QString causeText(HtmlError error);
 
 /// Whether the bytes begin with a doctype of HTML or with an html tag, behind white space, a byte order mark,
-/// comments and an XML declaration; in UTF-8 (or whatever has ASCII in it) or UTF-16. Looks at a bounded length.
+/// comments and an XML declaration; in UTF-8 (or whatever has ASCII in it) or UTF-16. Looks at a bounded
+/// length.
 bool looksLikeHtml(QByteArrayView bytes);
 
-/// Every sequence of bytes is a page. Its encoding is that of its byte order mark, else the one the options name,
-/// else the one a meta element in its first 1024 bytes names, else that of its XML declaration, else the one
-/// that TextEncoding.h finds out. Encodings go by the labels of the Encoding Standard.
+/// Every sequence of bytes is a page. Its encoding is that of its byte order mark, else the one the options
+/// name, else the one a meta element in its first 1024 bytes names, else that of its XML declaration, else
+/// the one that TextEncoding.h finds out. Encodings go by the labels of the Encoding Standard.
 Result<AttributedString, HtmlError> readHtml(QByteArrayView bytes, const HtmlOptions &options = {});

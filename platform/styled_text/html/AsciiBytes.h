@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// What of a page is read before its encoding is known: ASCII.
+// Thread: any.
+#pragma once
+
+#include <QByteArrayView>
+
+/// "ASCII whitespace" of the HTML standard.
+inline bool isHtmlSpace(char byte)
+{
+    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\f' || byte == '\r';
+}
+
+/// Whatever the case of ASCII letters is.
+inline bool startsWithWord(QByteArrayView bytes, QByteArrayView word)
+{
+    return bytes.size() >= word.size()
+        && qstrnicmp(bytes.data(), word.data(), static_cast<size_t>(word.size())) == 0;
+}
