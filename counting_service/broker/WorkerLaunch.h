@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// Starting a worker's program with nothing of the broker's open in it but its end of their connection.
+// Thread: main.
+#pragma once
+
+#include "counting_service/protocol/PacketSocket.h"
+
+#include <QByteArray>
+#include <QByteArrayList>
+
+#include <sys/types.h>
+
+#include <optional>
+
+struct LaunchedWorker {
+    pid_t process;
+    OwnedDescriptor processFile; ///< readable once the process has ended
+    OwnedDescriptor socket; ///< our end
+};
+
+/// Absent where the system cannot start it; errno tells why.
+std::optional<LaunchedWorker> launchWorker(const QByteArray &path, const QByteArrayList &arguments);

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// CountFailure is why a document has no counts. Whoever asked gets eight zeros; the cause is for the log.
+// Thread: any; a value.
+#pragma once
+
+#include <QString>
+
+/// The numbers travel between broker and worker.
+enum class CountFailure : quint32 {
+    // Found by the broker.
+    Absent = 1, ///< its sender has none
+    NotSealed, ///< it could still change
+    LengthDiffers, ///< it is not as long as its sender said
+    TooLarge, ///< longer than anything that is counted
+    TooManyRequests, ///< more wait than there are descriptors for
+    NotReceived, ///< the system failed to hand it over
+    NoWorker, ///< no worker can be started
+    WorkerFailed, ///< two workers ended over it
+    // Found by the worker.
+    NoReader, ///< its kind has no reader yet
+    NotRtfd,
+    DamagedRtfd,
+    RtfdWithoutText,
+    RtfdTextNotRtf,
+    TextTooLong,
+    NotEnoughMemory,
+};
+inline constexpr CountFailure lastCountFailure = CountFailure::NotEnoughMemory;
+
+/// In English, to stand behind "The document ": "is a damaged RTFD".
+QString causeText(CountFailure failure);

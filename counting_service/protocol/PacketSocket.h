@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// Packets with a descriptor on a socket between two processes; what they say is WorkerMessages' business.
+// Thread: any, one at a time for each socket.
+#pragma once
+
+#include "platform/base/Result.h"
+
+#include <QByteArray>
+
+#include <optional>
+#include <utility>
+
+/// A descriptor that is closed with its owner.
+class OwnedDescriptor {
+public:
+    OwnedDescriptor() = default;
+    explicit OwnedDescriptor(int descriptor)
+        : m_descriptor(descriptor)
+    {
+    }
+    OwnedDescriptor(OwnedDescriptor &&other) noexcept
+        : m_descriptor(std::exchange(other.m_descriptor, -1))
+    {
+    }
+    OwnedDescriptor &operator=(OwnedDescriptor &&other) noexcept
+    {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
+    ~OwnedDescriptor();
+
+    [[nodiscard]] int get() const { return m_descriptor; } ///< -1 for none
+    explicit operator bool() const { return m_descriptor >= 0; }
+
+private:
+    int m_descriptor = -1;
+};
+
+struct Packet {
+    QByteArray message;
+    OwnedDescriptor descriptor; ///< none where none came with it
+};
+
+enum class PacketError {
+    NothingYet, ///< on a socket that does not wait
+    Closed, ///< the other side is gone
+    Garbage, ///< longer than a message, or with more than a descriptor
+    SystemError, ///< errno tells it
+};
+
+/// Two ends of one connection, closed at exec; absent where the system has none left.
+std::optional<std::pair<OwnedDescriptor, OwnedDescriptor>> connectedSockets();
+
+/// Whether the packet was taken over. descriptor: sent along; -1 for none.
+[[nodiscard]] bool sendPacket(int socket, const QByteArray &message, int descriptor = -1);
+
+/// The next packet; waits for it where the socket does.
+Result<Packet, PacketError> receivePacket(int socket);
+Result<Packet, PacketError> receivePacketWithoutWaiting(int socket);

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "counting_service/protocol/WorkerMessages.h"
+
+#include <QDataStream>
+#include <QIODevice>
+
+#include <algorithm>
+
+namespace {
+
+constexpr quint32 magic = 0x51425957; // "QBYW"
+
+enum class Type : quint16 { Request = 1, Greeting, Reply };
+
+class Writer {
+public:
+    explicit Writer(Type type)
+        : m_stream(&m_bytes, QIODevice::WriteOnly)
+    {
+        m_stream.setVersion(QDataStream::Qt_6_4);
+        m_stream << magic << WorkerMessages::version << static_cast<quint16>(type);
+    }
+
+    QDataStream &stream() { return m_stream; }
+    [[nodiscard]] QByteArray bytes() const { return m_bytes; }
+
+private:
+    QByteArray m_bytes;
+    QDataStream m_stream;
+};
+
+class Reader {
+public:
+    Reader(const QByteArray &message, Type type)
+        : m_stream(message.first(std::min(message.size(), WorkerMessages::longestMessage + 1)))
+    {
+        m_stream.setVersion(QDataStream::Qt_6_4);
+        quint32 sign = 0;
+        quint16 version = 0;
+        quint16 number = 0;
+        m_stream >> sign >> version >> number;
+        m_isExpected = message.size() <= WorkerMessages::longestMessage && sign == magic
+            && version == WorkerMessages::version && number == static_cast<quint16>(type);
+    }
+
+    QDataStream &stream() { return m_stream; }
+    /// Read to its end, and not beyond.
+    [[nodiscard]] bool isWhole() const
+    {
+        return m_isExpected && m_stream.status() == QDataStream::Ok && m_stream.atEnd();
+    }
+
+private:
+    QDataStream m_stream;
+    bool m_isExpected;
+};
+
+// In the order in which they travel, as in the answer on the bus.
+template <typename Stream, typename Stats>
+void transfer(Stream &&each, Stats &stats)
+{
+    each(stats.numberOfWords);
+    each(stats.numberOfCharacters);
+    each(stats.numberOfCharactersIncludingWhitespace);
+    each(stats.numberOfSentences);
+    each(stats.numberOfLines);
+    each(stats.numberOfHardLineBreaks);
+    each(stats.numberOfParagraphs);
+    each(stats.numberOfIndentedParagraphs);
+}
+
+QDataStream &operator<<(QDataStream &stream, const RulesSnapshot &rules)
+{
+    return stream << rules.localeName << rules.minimumSentencesOfParagraph
+                  << rules.sentencesNeedTerminalPunctuation << rules.page.paperSize << rules.page.leftMargin
+                  << rules.page.rightMargin << rules.page.scale;
+}
+
+QDataStream &operator>>(QDataStream &stream, RulesSnapshot &rules)
+{
+    return stream >> rules.localeName >> rules.minimumSentencesOfParagraph
+        >> rules.sentencesNeedTerminalPunctuation >> rules.page.paperSize >> rules.page.leftMargin
+        >> rules.page.rightMargin >> rules.page.scale;
+}
+
+bool isKnown(quint32 kind)
+{
+    return kind == static_cast<quint32>(DocumentKind::FlatRtfd)
+        || kind == static_cast<quint32>(DocumentKind::WordDocument);
+}
+
+} // namespace
+
+QByteArray encoded(const WorkerRequest &request)
+{
+    Writer writer(Type::Request);
+    writer.stream() << request.number << static_cast<quint32>(request.kind) << request.length
+                    << request.rules;
+    return writer.bytes();
+}
+
+QByteArray encoded(const WorkerGreeting &greeting)
+{
+    Writer writer(Type::Greeting);
+    writer.stream() << greeting.sandbox.hasNoNewPrivileges << qint32(greeting.sandbox.landlockVersion)
+                    << greeting.sandbox.hasSystemCallFilter;
+    return writer.bytes();
+}
+
+QByteArray encoded(const WorkerReply &reply)
+{
+    Writer writer(Type::Reply);
+    const quint32 failure = reply.counts ? 0 : static_cast<quint32>(reply.counts.error());
+    const QBYWordCounterStats stats = reply.counts ? reply.counts.value() : QBYWordCounterStats();
+    writer.stream() << reply.number << failure;
+    transfer([&](quint64 count) { writer.stream() << count; }, stats);
+    return writer.bytes();
+}
+
+std::optional<WorkerRequest> decodedRequest(const QByteArray &message)
+{
+    Reader reader(message, Type::Request);
+    WorkerRequest request;
+    quint32 kind = 0;
+    reader.stream() >> request.number >> kind >> request.length >> request.rules;
+    if (!reader.isWhole() || !isKnown(kind))
+        return std::nullopt;
+    request.kind = static_cast<DocumentKind>(kind);
+    return request;
+}
+
+std::optional<WorkerGreeting> decodedGreeting(const QByteArray &message)
+{
+    Reader reader(message, Type::Greeting);
+    WorkerGreeting greeting;
+    qint32 landlock = 0;
+    reader.stream() >> greeting.sandbox.hasNoNewPrivileges >> landlock
+        >> greeting.sandbox.hasSystemCallFilter;
+    if (!reader.isWhole())
+        return std::nullopt;
+    greeting.sandbox.landlockVersion = landlock;
+    return greeting;
+}
+
+std::optional<WorkerReply> decodedReply(const QByteArray &message)
+{
+    Reader reader(message, Type::Reply);
+    quint64 number = 0;
+    quint32 failure = 0;
+    QBYWordCounterStats stats;
+    reader.stream() >> number >> failure;
+    transfer([&](quint64 &count) { reader.stream() >> count; }, stats);
+    if (!reader.isWhole() || failure > static_cast<quint32>(lastCountFailure))
+        return std::nullopt;
+    if (failure != 0)
+        return WorkerReply{number, static_cast<CountFailure>(failure)};
+    return WorkerReply{number, stats};
+}

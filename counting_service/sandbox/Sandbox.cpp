@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "counting_service/sandbox/Sandbox.h"
+
+#include <QStringList>
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+
+QString descriptionOf(const SandboxReport &report)
+{
+    const QStringList parts{
+        report.hasNoNewPrivileges ? QStringLiteral("no new privileges")
+                                  : QStringLiteral("new privileges not ruled out"),
+        report.landlockVersion > 0 ? QStringLiteral("Landlock %1").arg(report.landlockVersion)
+                                   : QStringLiteral("no Landlock in this kernel"),
+        report.hasSystemCallFilter ? QStringLiteral("a system call filter")
+                                   : QStringLiteral("no system call filter in this kernel"),
+    };
+    return parts.join(QStringLiteral(", "));
+}
+
+void Sandbox::endWithParent()
+{
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+}
+
+void Sandbox::keepMemoryPrivate()
+{
+    ::prctl(PR_SET_DUMPABLE, 0);
+    constexpr rlimit none{0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
+}
+
+void Sandbox::growNoFile()
+{
+    // Otherwise a line for a log that is a file would end the process instead of getting lost.
+    ::signal(SIGXFSZ, SIG_IGN);
+    constexpr rlimit none{0, 0};
+    ::setrlimit(RLIMIT_FSIZE, &none);
+}
+
+void Sandbox::mayRead(const QByteArrayList &paths)
+{
+    for (const QByteArray &path : paths)
+        m_landlock.allowReading(path);
+}
+
+void Sandbox::mayNotChangeFiles()
+{
+    m_filter.refuseOpeningToWrite();
+    m_filter.refuse({"truncate", "rename", "renameat", "renameat2", "link", "linkat", "symlink", "symlinkat",
+        "unlink", "unlinkat", "mkdir", "mkdirat", "rmdir", "mknod", "mknodat"});
+    // These Landlock does not know.
+    m_filter.refuse({"chmod", "fchmod", "fchmodat", "fchmodat2", "chown", "lchown", "fchown", "fchownat",
+        "setxattr", "lsetxattr", "fsetxattr", "removexattr", "lremovexattr", "fremovexattr", "utime",
+        "utimes", "futimesat", "utimensat"});
+}
+
+void Sandbox::mayNotStartPrograms()
+{
+    m_filter.refuse({"execve", "execveat"});
+    m_filter.refuseNewProcesses();
+}
+
+void Sandbox::mayNotConnect()
+{
+    // Landlock knows TCP and abstract sockets; without a new socket there are no others either.
+    m_filter.refuse({"socket", "socketpair", "connect", "bind", "listen", "accept", "accept4", "socketcall"});
+    // System V and POSIX message passing, which has no sockets.
+    m_filter.refuse({"msgget", "msgsnd", "msgrcv", "msgctl", "semget", "semop", "semtimedop", "semctl",
+        "shmget", "shmat", "shmctl", "ipc", "mq_open", "mq_unlink"});
+}
+
+void Sandbox::mayNotTouchOtherProcesses()
+{
+    m_filter.refuseSignalsToOthers();
+    m_filter.refuse({"ptrace", "process_vm_readv", "process_vm_writev", "process_madvise", "process_mrelease",
+        "pidfd_open", "pidfd_getfd", "kcmp", "move_pages", "migrate_pages"});
+    m_filter.refuseTyping();
+}
+
+void Sandbox::mayNotLiftItsLimits()
+{
+    m_filter.refuseNewLimits();
+}
+
+void Sandbox::mayNotAskForPrivilegedThings()
+{
+    m_filter.refuse({"mount", "umount", "umount2", "pivot_root", "chroot", "move_mount", "open_tree",
+        "fsopen", "fsconfig", "fsmount", "fspick", "mount_setattr", "unshare", "setns"});
+    m_filter.refuse({"setuid", "setgid", "setreuid", "setregid", "setresuid", "setresgid", "setfsuid",
+        "setfsgid", "setgroups", "capset"});
+    m_filter.refuse({"bpf", "perf_event_open", "io_uring_setup", "io_uring_enter", "io_uring_register",
+        "userfaultfd", "keyctl", "add_key", "request_key", "memfd_secret", "name_to_handle_at",
+        "open_by_handle_at", "fanotify_init", "lookup_dcookie", "syslog", "acct", "quotactl", "quotactl_fd"});
+    m_filter.refuse({"init_module", "finit_module", "delete_module", "kexec_load", "kexec_file_load",
+        "reboot", "swapon", "swapoff", "settimeofday", "clock_settime", "adjtimex", "clock_adjtime",
+        "sethostname", "setdomainname", "iopl", "ioperm", "modify_ldt", "vhangup"});
+}
+
+SandboxReport Sandbox::enter()
+{
+    SandboxReport report;
+    // Without it neither of the others is to be had.
+    report.hasNoNewPrivileges = ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
+    report.landlockVersion = m_landlock.enforce();
+    report.hasSystemCallFilter = m_filter.load();
+    return report;
+}

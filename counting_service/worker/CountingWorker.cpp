@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "counting_service/worker/CountingWorker.h"
+
+#include "counting_service/protocol/PacketSocket.h"
+#include "counting_service/worker/DocumentReading.h"
+#include "platform/connection/SealedMemory.h"
+#include "platform/locale/CurrentLocale.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+// The identifier that a process has whose user logged in with this locale. Nobody else reads the environment
+// of a worker between two documents.
+QString identifierOfLocale(const QByteArray &name)
+{
+    ::setenv("LC_ALL", name.constData(), 1);
+    return currentLocaleIdentifier();
+}
+
+CountingRules rulesFrom(const RulesSnapshot &snapshot)
+{
+    CountingRules rules;
+    rules.text.localeIdentifier = [identifier = identifierOfLocale(snapshot.localeName)] {
+        return identifier;
+    };
+    rules.text.minimumSentencesOfParagraph = snapshot.minimumSentencesOfParagraph;
+    rules.text.sentencesNeedTerminalPunctuation = snapshot.sentencesNeedTerminalPunctuation;
+    rules.page = snapshot.page;
+    return rules;
+}
+
+} // namespace
+
+CountingWorker::CountingWorker()
+    : m_rules(rulesFrom(RulesSnapshot()))
+    , m_model([this] { return m_rules; })
+{
+}
+
+int CountingWorker::run(const SandboxReport &sandbox)
+{
+    loadFonts();
+    if (!sendPacket(socket, encoded(WorkerGreeting{sandbox})))
+        return 1;
+    for (;;) {
+        const Result<Packet, PacketError> packet = receivePacket(socket);
+        if (!packet)
+            return packet.error() == PacketError::Closed ? 0 : 1;
+        const std::optional<WorkerRequest> request = decodedRequest(packet.value().message);
+        if (!request || !packet.value().descriptor)
+            return 1;
+        const WorkerReply reply = replyTo(*request, packet.value().descriptor.get());
+        if (!sendPacket(socket, encoded(reply)))
+            return 1;
+        // Memory in pieces might fail the next document, too.
+        if (!reply.counts && reply.counts.error() == CountFailure::NotEnoughMemory)
+            return 1;
+    }
+}
+
+// A count of a few letters makes all that counts are made with.
+void CountingWorker::loadFonts()
+{
+    m_model.setAttributedStringToCount(AttributedString(QStringLiteral("One. Two.")));
+}
+
+WorkerReply CountingWorker::replyTo(const WorkerRequest &request, int descriptor)
+{
+    try {
+        return {request.number, count(request, descriptor)};
+    } catch (const std::bad_alloc &) {
+        return {request.number, CountFailure::NotEnoughMemory};
+    }
+}
+
+Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequest &request, int descriptor)
+{
+    const SealedMemory::MadeMemory memory = SealedMemory::received(descriptor, request.length);
+    if (!memory)
+        return CountFailure::NotReceived;
+    const Result<AttributedString, CountFailure> text = readDocument(request.kind, memory.value().bytes());
+    if (!text)
+        return text.error();
+    m_rules = rulesFrom(request.rules);
+    m_model.setAttributedStringToCount(text.value());
+    const QBYWordCounterStats stats = m_model.statsRepresentation();
+    // The text of one document does not lie about while the next is read.
+    m_model.setAttributedStringToCount(std::nullopt);
+    return stats;
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// From the kind and the bytes of a document to its text: the one place that knows which reader is for which
+// kind. Thread: any.
+#pragma once
+
+#include "counting_service/protocol/CountFailure.h"
+#include "counting_service/protocol/WorkerMessages.h"
+#include "platform/base/Result.h"
+#include "platform/styled_text/AttributedString.h"
+
+#include <QByteArrayView>
+
+/// NoReader for Word documents.
+Result<AttributedString, CountFailure> readDocument(DocumentKind kind, QByteArrayView bytes);
