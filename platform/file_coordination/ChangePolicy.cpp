@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "platform/file_coordination/ChangePolicy.h"
+
+#include <algorithm>
+
+ChangePolicy::ChangePolicy(const std::optional<FileSighting> &known)
+{
+    if (!known)
+        return;
+    m_known = known->state;
+    m_lastSeen = known->state;
+    m_knownMayHideAChange = known->mayHideAChange;
+}
+
+void ChangePolicy::note(FileEvent event, Clock::Time now)
+{
+    m_lastActivity = now;
+    switch (event) {
+    case FileEvent::Written:
+    case FileEvent::Created:
+    case FileEvent::Unknown:
+        m_isWritten = true;
+        m_isFinished = false;
+        break;
+    case FileEvent::Replaced:
+        m_isWritten = true;
+        m_isFinished = true;
+        break;
+    case FileEvent::Closed:
+        m_isFinished = true;
+        break;
+    case FileEvent::Gone:
+    case FileEvent::FolderMoved:
+        break;
+    }
+}
+
+ChangePolicy::Verdict ChangePolicy::look(const FileSighting &seen, Clock::Time now)
+{
+    if (!seen.state)
+        return lookAtNothing(seen, now);
+    m_missingSince.reset();
+    if (seen.state != m_lastSeen)
+        m_lastActivity = now;
+    m_lastSeen = seen.state;
+    if (!isChanged(*seen.state)) {
+        m_isFinished = false;
+        return {};
+    }
+    if (!m_changedSince)
+        m_changedSince = now;
+    // An empty file is most often one whose contents are about to come.
+    const bool isWhole = m_isFinished && seen.state->size > 0;
+    const Clock::Time settled = std::min(m_lastActivity + quiet, *m_changedSince + patience);
+    if (!isWhole && now < settled)
+        return {std::nullopt, settled};
+    if (m_lastTold && now < *m_lastTold + burst)
+        return {std::nullopt, *m_lastTold + burst};
+    return tellChange(seen, now);
+}
+
+bool ChangePolicy::isChanged(const FileState &state) const
+{
+    // Writing through mapped memory shows in nothing but the times and, at the end, in the closing.
+    return m_isWritten || m_known != state || (m_isFinished && m_knownMayHideAChange);
+}
+
+ChangePolicy::Verdict ChangePolicy::tellChange(const FileSighting &seen, Clock::Time now)
+{
+    m_known = seen.state;
+    m_knownMayHideAChange = seen.mayHideAChange;
+    m_isWritten = false;
+    m_isFinished = false;
+    m_changedSince.reset();
+    m_lastTold = now;
+    return {FileNews{FileNews::Kind::Changed, {}}, std::nullopt};
+}
+
+ChangePolicy::Verdict ChangePolicy::lookAtNothing(const FileSighting &seen, Clock::Time now)
+{
+    // What has never been there cannot go; it may still come.
+    if (!m_known)
+        return {};
+    if (!m_missingSince)
+        m_missingSince = now;
+    if (now < *m_missingSince + grace)
+        return {std::nullopt, *m_missingSince + grace};
+    if (!seen.whereabouts)
+        return {FileNews{FileNews::Kind::Deleted, {}}, std::nullopt};
+    const bool changedToo = m_isWritten || !seen.stateThere || !haveSameContents(*seen.stateThere, *m_known);
+    return {FileNews{FileNews::Kind::Moved, *seen.whereabouts, changedToo}, std::nullopt};
+}

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "platform/file_coordination/CoordinatedAccess.h"
+
+#include "platform/file_coordination/FilePresentations.h"
+#include "platform/file_coordination/WriterLock.h"
+
+#include <QFile>
+#include <QScopedValueRollback>
+
+namespace {
+
+constexpr std::chrono::milliseconds betweenLooks{20};
+constexpr std::chrono::milliseconds untilNextAttempt{2000}; // after a read that was refused
+constexpr int mostReads = 3; // of a file that changes while it is read; its next change is told anyway
+
+QByteArray pathOf(const QUrl &url)
+{
+    return QFile::encodeName(url.toLocalFile());
+}
+
+bool isUnchanged(const std::optional<FileState> &before, const std::optional<FileState> &after)
+{
+    return before && after ? haveSameContents(*before, *after) : !before && !after;
+}
+
+} // namespace
+
+std::optional<CoordinationError> CoordinatedAccess::read(
+    const QUrl &url, const FileCoordinator::Accessor &accessor)
+{
+    if (m_isUnderWay)
+        return std::nullopt;
+    const QScopedValueRollback underWay(m_isUnderWay, true);
+    const QByteArray path = pathOf(url);
+    const Relinquishment relinquishment(path, Relinquishment::Party::Reader, m_presenter);
+    if (!waitFor(relinquishment))
+        return CoordinationError{CoordinationError::Cause::NotRelinquished};
+    return readInTurn(url, path, accessor);
+}
+
+std::optional<CoordinationError> CoordinatedAccess::readInTurn(
+    const QUrl &url, const QByteArray &path, const FileCoordinator::Accessor &accessor)
+{
+    for (int reads = 0; reads < mostReads && !m_isAbandoned; ++reads) {
+        if (waitForTurn(path) == Obstacle::Lock)
+            return refuseForLock();
+        if (m_isAbandoned)
+            return std::nullopt;
+        const std::optional<FileState> before = fileStateAt(path);
+        m_wasEmpty = before && before->size == 0;
+        accessor(url);
+        if (isUnchanged(before, fileStateAt(path)))
+            return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+std::optional<CoordinationError> CoordinatedAccess::write(
+    const QUrl &url, const FileCoordinator::Accessor &accessor)
+{
+    if (m_isUnderWay)
+        return std::nullopt;
+    const QScopedValueRollback underWay(m_isUnderWay, true);
+    const Relinquishment relinquishment(pathOf(url), Relinquishment::Party::Writer, m_presenter);
+    if (!waitFor(relinquishment))
+        return CoordinationError{CoordinationError::Cause::NotRelinquished};
+    if (!m_isAbandoned)
+        accessor(url);
+    return std::nullopt;
+}
+
+/// The obstacle that has outlasted the patience with it.
+CoordinatedAccess::Obstacle CoordinatedAccess::waitForTurn(const QByteArray &path)
+{
+    const Clock::Time start = m_clock.now();
+    for (;;) {
+        const Obstacle obstacle = obstacleAt(path);
+        if (obstacle == Obstacle::None || m_clock.now() - start >= patienceWith(obstacle))
+            return obstacle;
+        m_clock.pause(betweenLooks);
+        if (m_isAbandoned)
+            return Obstacle::None;
+    }
+}
+
+CoordinatedAccess::Obstacle CoordinatedAccess::obstacleAt(const QByteArray &path)
+{
+    const std::optional<FileState> state = fileStateAt(path);
+    if (!state)
+        return Obstacle::Missing;
+    if (!isLockedByWriter(path))
+        m_hasLockOutlastedPatience = false;
+    else if (!m_hasLockOutlastedPatience)
+        return Obstacle::Lock;
+    return state->size == 0 && !m_wasEmpty ? Obstacle::Empty : Obstacle::None;
+}
+
+std::chrono::milliseconds CoordinatedAccess::patienceWith(Obstacle obstacle)
+{
+    switch (obstacle) {
+    case Obstacle::None:
+        return std::chrono::milliseconds(0);
+    case Obstacle::Missing:
+        return ChangePolicy::grace;
+    case Obstacle::Empty:
+        return ChangePolicy::quiet;
+    case Obstacle::Lock:
+        break;
+    }
+    return FileCoordinator::patience;
+}
+
+bool CoordinatedAccess::waitFor(const Relinquishment &relinquishment)
+{
+    const Clock::Time start = m_clock.now();
+    while (!relinquishment.isComplete() && m_clock.now() - start < FileCoordinator::patience)
+        m_clock.pause(betweenLooks);
+    return relinquishment.isComplete();
+}
+
+std::optional<CoordinationError> CoordinatedAccess::refuseForLock()
+{
+    m_hasLockOutlastedPatience = true;
+    // The end of a lock is told by nothing, and the change that was to be read would stay unread.
+    if (const auto presentation = FilePresentations::instance().of(m_presenter))
+        presentation->expectChange(untilNextAttempt);
+    return CoordinationError{CoordinationError::Cause::LockedByWriter};
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// CoordinatedAccess is what one coordinator does: it waits for its turn, calls the accessor and looks whether
+// the file stayed the same. Thread: main.  Owner: FileCoordinator, and an access under way, which the
+// coordinator may not outlive.
+#pragma once
+
+#include "platform/file_coordination/Clock.h"
+#include "platform/file_coordination/FileCoordinator.h"
+#include "platform/file_coordination/Relinquishment.h"
+
+class CoordinatedAccess {
+public:
+    CoordinatedAccess(const FilePresenter *presenter, Clock &clock)
+        : m_presenter(presenter)
+        , m_clock(clock)
+    {
+    }
+
+    std::optional<CoordinationError> read(const QUrl &url, const FileCoordinator::Accessor &accessor);
+    std::optional<CoordinationError> write(const QUrl &url, const FileCoordinator::Accessor &accessor);
+
+    /// The access under way ends without calling its accessor again.
+    void abandon() { m_isAbandoned = true; }
+
+private:
+    enum class Obstacle { None, Missing, Empty, Lock };
+
+    std::optional<CoordinationError> readInTurn(
+        const QUrl &url, const QByteArray &path, const FileCoordinator::Accessor &accessor);
+    Obstacle waitForTurn(const QByteArray &path);
+    Obstacle obstacleAt(const QByteArray &path);
+    static std::chrono::milliseconds patienceWith(Obstacle obstacle);
+    bool waitFor(const Relinquishment &relinquishment);
+    std::optional<CoordinationError> refuseForLock();
+
+    const FilePresenter *m_presenter; // perhaps gone; only to tell it from others
+    Clock &m_clock;
+    bool m_isUnderWay = false;
+    bool m_isAbandoned = false;
+    bool m_wasEmpty = false; // and stayed so
+    bool m_hasLockOutlastedPatience = false; // the one that is held now
+};

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "platform/file_coordination/FilePresentation.h"
+
+#include "platform/file_coordination/FilePlaces.h"
+#include "platform/file_coordination/FilePresentations.h"
+#include "platform/file_coordination/HeldFiles.h"
+#include "platform/logging/LogChannel.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+FilePresentation::FilePresentation(FilePresenter &presenter, Clock &clock)
+    : m_presenter(&presenter)
+    , m_clock(clock)
+    , m_lookTimer(clock.makeTimer([this] { look(); }))
+    , m_pollTimer(clock.makeTimer([this] { look(); }))
+    , m_expectationTimer(clock.makeTimer([this] {
+        m_policy.note(FileEvent::Replaced, m_clock.now());
+        look();
+    }))
+{
+    if (m_watches.descriptor() < 0)
+        return;
+    m_notifier = std::make_unique<QSocketNotifier>(m_watches.descriptor(), QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { look(); });
+}
+
+void FilePresentation::begin()
+{
+    follow(QFile::encodeName(m_presenter->presentedItemURL().toLocalFile()));
+}
+
+void FilePresentation::end()
+{
+    m_hasEnded = true;
+    m_lookTimer->stop();
+    m_pollTimer->stop();
+    m_expectationTimer->stop();
+    if (m_notifier)
+        m_notifier->setEnabled(false);
+    m_pin = PinnedFile();
+}
+
+void FilePresentation::expectChange(std::chrono::milliseconds delay)
+{
+    if (!m_hasEnded)
+        m_expectationTimer->start(delay);
+}
+
+void FilePresentation::lend()
+{
+    ++m_lentTo;
+}
+
+void FilePresentation::takeBack()
+{
+    --m_lentTo;
+    // Looked at from the event loop: who borrowed the file is still at work.
+    if (m_lentTo == 0 && !m_hasEnded)
+        m_lookTimer->start(std::chrono::milliseconds(0));
+}
+
+void FilePresentation::follow(const QByteArray &path)
+{
+    m_path = path;
+    m_isPolling = false;
+    m_isFolderMissing = false;
+    m_pollTimer->stop();
+    // Watched before it is looked at, so that no change falls between the two.
+    if (const std::optional<int> systemError = m_watches.watch(m_path))
+        poll(*systemError);
+    else if (changesUnnoticed(m_path))
+        poll(0);
+    m_pin = PinnedFile(m_path);
+    m_policy = ChangePolicy(sight());
+}
+
+void FilePresentation::watch()
+{
+    const std::optional<int> systemError = m_watches.watch(m_path);
+    // A folder that is missing may be on its way back; the policy's grace will tell.
+    m_isFolderMissing = systemError == ENOENT || systemError == ENOTDIR;
+    if (systemError && !m_isFolderMissing)
+        poll(*systemError);
+}
+
+void FilePresentation::poll(int systemError)
+{
+    if (std::exchange(m_isPolling, true))
+        return;
+    const QString reason = systemError ? QString::fromLocal8Bit(::strerrordesc_np(systemError))
+                                       : QStringLiteral("it is on a file system of that kind");
+    LogChannel::standard().notice(
+        u"The system may not tell of changes to {} ({}), so it is looked at every two seconds",
+        {QFile::decodeName(m_path), publicly(reason)});
+    m_pollTimer->repeat(pollInterval);
+}
+
+FileSighting FilePresentation::sight()
+{
+    FileSighting seen;
+    seen.state = fileStateAt(m_path);
+    if (seen.state) {
+        seen.mayHideAChange = mayHideAChange(*seen.state);
+        return seen;
+    }
+    // The file is still where it was: it is a symbolic link, and what it led to has gone.
+    const std::optional<QByteArray> whereabouts = m_pin.whereabouts();
+    if (!whereabouts || isInTrash(*whereabouts) || m_pin.isAt(m_path))
+        return seen;
+    seen.whereabouts = whereabouts;
+    seen.stateThere = fileStateAt(*whereabouts);
+    return seen;
+}
+
+void FilePresentation::look()
+{
+    if (m_hasEnded)
+        return;
+    const std::vector<FileEvent> events = m_watches.takeEvents();
+    for (const FileEvent event : events)
+        m_policy.note(event, m_clock.now());
+    if (m_lentTo > 0)
+        return;
+    const bool isElsewhere = !m_pin.isAt(m_path);
+    const auto concernsNames = [](FileEvent event) {
+        return event != FileEvent::Written && event != FileEvent::Closed;
+    };
+    if (isElsewhere || m_isFolderMissing || std::any_of(events.begin(), events.end(), concernsNames))
+        watch();
+    const FileSighting seen = sight();
+    if (seen.state && isElsewhere) {
+        m_pin = PinnedFile(m_path);
+        HeldFile::replacedAt(m_path);
+    }
+    const Clock::Time now = m_clock.now();
+    const ChangePolicy::Verdict verdict = m_policy.look(seen, now);
+    if (verdict.lookAgain)
+        m_lookTimer->start(*verdict.lookAgain - now);
+    else
+        m_lookTimer->stop();
+    if (verdict.news)
+        tell(*verdict.news);
+}
+
+void FilePresentation::tell(const FileNews &news)
+{
+    switch (news.kind) {
+    case FileNews::Kind::Changed:
+        m_expectationTimer->stop();
+        m_presenter->presentedItemDidChange();
+        break;
+    case FileNews::Kind::Moved:
+        tellMove(news);
+        break;
+    case FileNews::Kind::Deleted:
+        end();
+        m_presenter->accommodatePresentedItemDeletionWithCompletionHandler(
+            [](const std::optional<CoordinationError> &) {});
+        break;
+    }
+}
+
+void FilePresentation::tellMove(const FileNews &news)
+{
+    FilePresenter *const presenter = m_presenter;
+    follow(news.path);
+    presenter->presentedItemDidMoveToURL(QUrl::fromLocalFile(QFile::decodeName(news.path)));
+    if (!news.changedToo)
+        return;
+    // By now the presenter may have gone, or have been added anew.
+    if (const auto presentation = FilePresentations::instance().of(presenter))
+        presentation->expectChange(std::chrono::milliseconds(0));
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// FilePresentation follows the file of one presenter: it listens and looks, has ChangePolicy decide, and
+// tells. Thread: main.  Owner: FilePresentations.
+#pragma once
+
+#include "platform/file_coordination/ChangePolicy.h"
+#include "platform/file_coordination/FilePresenter.h"
+#include "platform/file_coordination/FileWatches.h"
+#include "platform/file_coordination/PinnedFile.h"
+
+#include <QSocketNotifier>
+
+#include <memory>
+
+/// Where the system does not tell of changes, the log gets one line and the file is looked at every two
+/// seconds.
+class FilePresentation {
+public:
+    /// How often the file is looked at where changes may go untold.
+    static constexpr std::chrono::milliseconds pollInterval{2000};
+
+    FilePresentation(FilePresenter &presenter, Clock &clock);
+    FilePresentation(const FilePresentation &) = delete;
+    FilePresentation &operator=(const FilePresentation &) = delete;
+    ~FilePresentation() = default;
+
+    /// Follows the presenter's file as it is now; only what happens from here on is told.
+    void begin();
+    /// Nothing is told any more, not even what has happened already.
+    void end();
+
+    /// Tells a change after this time even if none is seen: the last one could not be read.
+    void expectChange(std::chrono::milliseconds delay);
+
+    // While it is lent, news wait.
+    void lend();
+    void takeBack();
+
+    [[nodiscard]] FilePresenter *presenter() const { return m_presenter; }
+    [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
+    [[nodiscard]] const QByteArray &path() const { return m_path; }
+
+private:
+    void follow(const QByteArray &path);
+    void watch();
+    void poll(int systemError);
+    [[nodiscard]] FileSighting sight();
+    void look();
+    void tell(const FileNews &news);
+    void tellMove(const FileNews &news);
+
+    FilePresenter *m_presenter;
+    bool m_hasEnded = false;
+    Clock &m_clock;
+    QByteArray m_path;
+    FileWatches m_watches;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    PinnedFile m_pin;
+    ChangePolicy m_policy;
+    std::unique_ptr<ClockTimer> m_lookTimer;
+    std::unique_ptr<ClockTimer> m_pollTimer;
+    std::unique_ptr<ClockTimer> m_expectationTimer;
+    bool m_isPolling = false;
+    bool m_isFolderMissing = false; // so that not everything is watched
+    int m_lentTo = 0; // how many
+};

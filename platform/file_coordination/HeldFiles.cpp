@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "platform/file_coordination/HeldFiles.h"
+
+#include <algorithm>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <vector>
+
+namespace {
+
+std::vector<HeldFile *> &heldFiles()
+{
+    static std::vector<HeldFile *> files;
+    return files;
+}
+
+} // namespace
+
+std::optional<FileIdentity> fileIdentityAt(const QByteArray &path)
+{
+    struct statx status;
+    if (::statx(AT_FDCWD, path.constData(), AT_SYMLINK_NOFOLLOW, STATX_INO | STATX_BTIME, &status) != 0)
+        return std::nullopt;
+    constexpr qint64 perSecond = 1'000'000'000;
+    const bool hasBirthTime = status.stx_mask & STATX_BTIME;
+    return FileIdentity{::makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino,
+        hasBirthTime ? status.stx_btime.tv_sec * perSecond + status.stx_btime.tv_nsec : 0};
+}
+
+std::unique_ptr<HeldFile> HeldFile::hold(const QByteArray &path, const FileIdentity &bookmarked)
+{
+    if (::access(path.constData(), R_OK) != 0)
+        return nullptr;
+    PinnedFile pin(path);
+    if (!pin)
+        return nullptr;
+    return std::unique_ptr<HeldFile>(new HeldFile(path, bookmarked, std::move(pin)));
+}
+
+HeldFile::HeldFile(QByteArray path, const FileIdentity &bookmarked, PinnedFile pin)
+    : m_path(std::move(path))
+    , m_bookmarked(bookmarked)
+    , m_pin(std::move(pin))
+{
+    heldFiles().push_back(this);
+}
+
+HeldFile::~HeldFile()
+{
+    std::erase(heldFiles(), this);
+}
+
+std::optional<QByteArray> HeldFile::whereabouts(const FileIdentity &bookmarked)
+{
+    for (const HeldFile *file : heldFiles()) {
+        if (file->m_bookmarked != bookmarked)
+            continue;
+        if (std::optional<QByteArray> path = file->m_pin.whereabouts())
+            return path;
+    }
+    return std::nullopt;
+}
+
+void HeldFile::replacedAt(const QByteArray &path)
+{
+    for (HeldFile *file : heldFiles()) {
+        if (file->m_path != path)
+            continue;
+        if (PinnedFile pin(path); pin)
+            file->m_pin = std::move(pin);
+    }
+}

@@ -1,0 +1,441 @@
+// SPDX-License-Identifier: MIT
+// What a presenter is told of what happens to its file, on a real disk and with a fake clock.
+#include "platform/file_coordination/FileState.h"
+
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/file_coordination/FakeClock.h"
+#include "tests/platform/file_coordination/RecordingPresenter.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using namespace std::chrono_literals;
+
+class FilePresenterTest : public QuillbayTest {
+protected:
+    FilePresenterTest() { FileCoordinator::addFilePresenter(&m_presenter, m_clock); }
+
+    /// Serves the events of what has happened so far.
+    void settle(std::chrono::milliseconds duration = 0ms)
+    {
+        QCoreApplication::processEvents();
+        m_clock.advance(duration);
+        QCoreApplication::processEvents();
+    }
+    /// Everything told once all waiting is over.
+    QStringList allNews()
+    {
+        settle();
+        settle(500ms);
+        settle(500ms);
+        return m_presenter.takeNews();
+    }
+    static void write(const QString &path, const QByteArray &contents)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        ASSERT_EQ(file.write(contents), contents.size());
+    }
+    static void replace(const QString &path, const QByteArray &contents)
+    {
+        write(path + QStringLiteral(".new"), contents);
+        rename(path + QStringLiteral(".new"), path);
+    }
+    static void rename(const QString &from, const QString &to)
+    {
+        ASSERT_EQ(::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()), 0);
+    }
+    [[nodiscard]] QString in(const QString &folder, const QString &name = QStringLiteral("f.txt")) const
+    {
+        return m_folder + u'/' + folder + u'/' + name;
+    }
+    [[nodiscard]] QString at(const QString &name) const { return m_folder + u'/' + name; }
+    static QString movedTo(const QString &path) { return QStringLiteral("moved to ") + path; }
+
+    const QString m_changed = QStringLiteral("changed");
+    const QString m_deleted = QStringLiteral("deleted");
+    const QString m_path = writeFile(QStringLiteral("above/folder/f.txt"), "before");
+    const QString m_folder = world().root() + QStringLiteral("/files");
+    FakeClock m_clock;
+    RecordingPresenter m_presenter{m_path};
+};
+
+TEST_F(FilePresenterTest, ToldOfNothingWhereNothingHappens)
+{
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, ReadingAndOtherFilesOfTheFolderAreNoNews)
+{
+    readFile(m_path);
+    write(in(QStringLiteral("above/folder"), QStringLiteral("g.txt")), "other");
+    write(in(QStringLiteral("above/folder"), QStringLiteral("f.txt~")), "other");
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, OpeningForWritingAloneIsNoNews)
+{
+    const QByteArray path = QFile::encodeName(m_path);
+    // Only a state that is old enough to show every change lets the closing be told from a write.
+    ASSERT_TRUE(waitUntil([&] { return !mayHideAChange(*fileStateAt(path)); }));
+    RecordingPresenter presenter(m_path);
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    ::close(::open(path.constData(), O_RDWR));
+    settle();
+    settle(500ms);
+    EXPECT_THAT(presenter.news(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, ToldAtOnceOfAWriteInPlace)
+{
+    write(m_path, "after");
+    settle();
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed));
+    EXPECT_EQ(m_presenter.contents(), QByteArray("after"));
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, ToldAtOnceOfAFileMovedOverIt)
+{
+    for (const char *contents : {"one", "two", "three"}) {
+        replace(m_path, contents);
+        settle();
+        EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed));
+        EXPECT_EQ(m_presenter.contents(), QByteArray(contents));
+        settle(100ms);
+    }
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, ToldOfEverySaveOfQSaveFile)
+{
+    for (const char *contents : {"one", "two", "three"}) {
+        QSaveFile file(m_path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+        ASSERT_TRUE(file.commit());
+        EXPECT_THAT(allNews(), ElementsAre(m_changed));
+        EXPECT_EQ(m_presenter.contents(), QByteArray(contents));
+    }
+}
+
+TEST_F(FilePresenterTest, AFileTruncatedBeforeItIsWrittenIsOneChange)
+{
+    write(m_path, {});
+    settle(140ms);
+    EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
+    write(m_path, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    EXPECT_EQ(m_presenter.contents(), QByteArray("after"));
+}
+
+TEST_F(FilePresenterTest, AFileThatStaysEmptyIsAChange)
+{
+    write(m_path, {});
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    EXPECT_EQ(m_presenter.contents(), QByteArray());
+}
+
+TEST_F(FilePresenterTest, AWriterThatPausesIsWaitedFor)
+{
+    QFile file(m_path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    for (int i = 0; i < 5; ++i) {
+        file.write("piece ");
+        settle(149ms);
+        EXPECT_THAT(m_presenter.news(), IsEmpty());
+    }
+    settle(1ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed));
+    file.write("end");
+    file.close();
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    EXPECT_TRUE(m_presenter.contents().endsWith("end"));
+}
+
+TEST_F(FilePresenterTest, AnOldFileRenamedAwayAndANewOneIsOneChange)
+{
+    rename(m_path, m_path + u'~');
+    settle(499ms);
+    EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
+    write(m_path, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    write(m_path + u'~', "backup");
+    EXPECT_THAT(allNews(), IsEmpty());
+    write(m_path, "later");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+}
+
+TEST_F(FilePresenterTest, ADeletionAndACreationWithinHalfASecondIsOneChange)
+{
+    ASSERT_TRUE(QFile::remove(m_path));
+    settle(499ms);
+    write(m_path, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    EXPECT_EQ(m_presenter.contents(), QByteArray("after"));
+}
+
+TEST_F(FilePresenterTest, ManySavesAtOnceAreOneChangeAndTheLastIsRead)
+{
+    for (int i = 0; i < 100; ++i)
+        i % 2 ? write(m_path, QByteArray::number(i)) : replace(m_path, QByteArray::number(i));
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    EXPECT_EQ(m_presenter.contents(), QByteArray("99"));
+}
+
+TEST_F(FilePresenterTest, AWriteThroughMappedMemoryIsOneChange)
+{
+    for (const char letter : {'x', 'y'}) {
+        const int descriptor = ::open(QFile::encodeName(m_path).constData(), O_RDWR);
+        void *memory = ::mmap(nullptr, 6, PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
+        ASSERT_NE(memory, MAP_FAILED);
+        static_cast<char *>(memory)[0] = letter;
+        ::munmap(memory, 6);
+        ::close(descriptor);
+        EXPECT_THAT(allNews(), ElementsAre(m_changed));
+        EXPECT_EQ(m_presenter.contents().front(), letter);
+    }
+}
+
+TEST_F(FilePresenterTest, AWriteThroughAnotherNameOfTheFileIsAChange)
+{
+    const QString other = at(QStringLiteral("elsewhere.txt"));
+    ASSERT_EQ(::link(QFile::encodeName(m_path).constData(), QFile::encodeName(other).constData()), 0);
+    write(other, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    EXPECT_EQ(m_presenter.contents(), QByteArray("after"));
+    ASSERT_TRUE(QFile::remove(other));
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, WhatASymbolicLinkLeadsToIsFollowedThroughItsSaves)
+{
+    const QString second = in(QStringLiteral("links"), QStringLiteral("second.txt"));
+    const QString first = at(QStringLiteral("first.txt"));
+    QDir().mkpath(m_folder + QStringLiteral("/links"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("../above/folder/f.txt"), second));
+    ASSERT_TRUE(QFile::link(second, first));
+    RecordingPresenter presenter(first);
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    const auto news = [&] {
+        allNews();
+        return presenter.takeNews();
+    };
+    write(m_path, "in place");
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    replace(m_path, "replaced");
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    write(m_path, "in place again");
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    ASSERT_TRUE(QFile::remove(second));
+    ASSERT_TRUE(QFile::link(writeFile(QStringLiteral("other.txt"), "other"), second));
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    EXPECT_EQ(presenter.contents(), QByteArray("other"));
+    ASSERT_TRUE(QFile::remove(at(QStringLiteral("other.txt"))));
+    EXPECT_THAT(news(), ElementsAre(m_deleted));
+}
+
+TEST_F(FilePresenterTest, ARenamedFileHasMovedAndIsFollowed)
+{
+    const QString there = in(QStringLiteral("above/folder"), QStringLiteral("g.txt"));
+    rename(m_path, there);
+    settle(499ms);
+    EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
+    settle(1ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(movedTo(there)));
+    replace(there, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    write(m_path, "a stranger");
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, AFileInAnotherFolderHasMoved)
+{
+    QDir().mkpath(m_folder + QStringLiteral("/elsewhere"));
+    replace(m_path, "saved before");
+    allNews();
+    rename(m_path, in(QStringLiteral("elsewhere")));
+    EXPECT_THAT(allNews(), ElementsAre(movedTo(in(QStringLiteral("elsewhere")))));
+    rename(in(QStringLiteral("elsewhere")), m_path);
+    EXPECT_THAT(allNews(), ElementsAre(movedTo(m_path)));
+}
+
+TEST_F(FilePresenterTest, AFolderAboveThatIsRenamedMovesTheFile)
+{
+    rename(in(QStringLiteral("above"), QStringLiteral("folder")),
+        in(QStringLiteral("above"), QStringLiteral("new")));
+    EXPECT_THAT(allNews(), ElementsAre(movedTo(in(QStringLiteral("above/new")))));
+    rename(at(QStringLiteral("above")), at(QStringLiteral("top")));
+    EXPECT_THAT(allNews(), ElementsAre(movedTo(in(QStringLiteral("top/new")))));
+    write(in(QStringLiteral("top/new")), "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+}
+
+TEST_F(FilePresenterTest, AFolderAboveThatComesBackIsNoNews)
+{
+    const QString above = at(QStringLiteral("above"));
+    rename(above, above + u'2');
+    settle();
+    rename(above + u'2', above);
+    EXPECT_THAT(allNews(), IsEmpty());
+    write(m_path, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+}
+
+TEST_F(FilePresenterTest, AFolderThatIsDeletedAndMadeAgainIsOneChange)
+{
+    ASSERT_TRUE(QDir(at(QStringLiteral("above"))).removeRecursively());
+    settle(300ms);
+    writeFile(QStringLiteral("above/folder/f.txt"), "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    write(m_path, "later");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+}
+
+TEST_F(FilePresenterTest, AFileWrittenWhileItMovesHasMovedAndChanged)
+{
+    const QString there = in(QStringLiteral("above/folder"), QStringLiteral("g.txt"));
+    rename(m_path, there);
+    settle();
+    write(there, "after");
+    EXPECT_THAT(allNews(), ElementsAre(movedTo(there), m_changed));
+    EXPECT_EQ(m_presenter.contents(), QByteArray("after"));
+}
+
+TEST_F(FilePresenterTest, APresenterThatIsAddedAnewAtAMoveIsStillToldOfTheChange)
+{
+    const QString there = in(QStringLiteral("above/folder"), QStringLiteral("g.txt"));
+    m_presenter.whenTold = [this] {
+        if (m_presenter.news().size() > 1)
+            return;
+        FileCoordinator::removeFilePresenter(&m_presenter);
+        FileCoordinator::addFilePresenter(&m_presenter, m_clock);
+    };
+    rename(m_path, there);
+    settle();
+    write(there, "after");
+    EXPECT_THAT(allNews(), ElementsAre(movedTo(there), m_changed));
+}
+
+TEST_F(FilePresenterTest, ANameThatLooksLikeADeletedFileIsAMove)
+{
+    const QString there = in(QStringLiteral("above/folder"), QStringLiteral("f.txt (deleted)"));
+    rename(m_path, there);
+    EXPECT_THAT(allNews(), ElementsAre(movedTo(there)));
+}
+
+TEST_F(FilePresenterTest, ADeletedFileIsNotConfusedWithAnotherThatLooksLikeIt)
+{
+    write(in(QStringLiteral("above/folder"), QStringLiteral("f.txt (deleted)")), "a stranger");
+    ASSERT_TRUE(QFile::remove(m_path));
+    EXPECT_THAT(allNews(), ElementsAre(m_deleted));
+}
+
+TEST_F(FilePresenterTest, DeletedIsFinal)
+{
+    ASSERT_TRUE(QFile::remove(m_path));
+    settle(500ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_deleted));
+    write(m_path, "another");
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, AFileInTheTrashIsDeleted)
+{
+    QDir().mkpath(world().data() + QStringLiteral("/Trash/files"));
+    rename(m_path, world().data() + QStringLiteral("/Trash/files/f.txt"));
+    EXPECT_THAT(allNews(), ElementsAre(m_deleted));
+}
+
+TEST_F(FilePresenterTest, AFileInTheTrashOfItsFileSystemIsDeleted)
+{
+    const QString trash = m_folder + QStringLiteral("/.Trash-%1/files").arg(::getuid());
+    QDir().mkpath(trash);
+    rename(at(QStringLiteral("above")), trash + QStringLiteral("/above"));
+    EXPECT_THAT(allNews(), ElementsAre(m_deleted));
+}
+
+TEST_F(FilePresenterTest, AFileOnAnotherFileSystemIsDeleted)
+{
+    const QString there = QStringLiteral("/dev/shm/quillbay-test-%1.txt").arg(::getpid());
+    struct stat one;
+    struct stat other;
+    if (::stat("/dev/shm", &one) != 0 || ::stat(QFile::encodeName(m_folder).constData(), &other) != 0
+        || one.st_dev == other.st_dev)
+        GTEST_SKIP() << "/dev/shm is no other file system here";
+    ChildProcess(QStringLiteral("/bin/mv")).run({QFile::encodeName(m_path), QFile::encodeName(there)});
+    EXPECT_TRUE(QFile::remove(there));
+    EXPECT_THAT(allNews(), ElementsAre(m_deleted));
+}
+
+TEST_F(FilePresenterTest, AFileThatIsNotThereYetIsAChangeOnceItComes)
+{
+    const QString path = in(QStringLiteral("above/folder"), QStringLiteral("later.txt"));
+    RecordingPresenter presenter(path);
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    allNews();
+    EXPECT_THAT(presenter.takeNews(), IsEmpty());
+    write(path, "here");
+    settle();
+    EXPECT_THAT(presenter.takeNews(), ElementsAre(m_changed));
+}
+
+TEST_F(FilePresenterTest, AFolderDocumentChangesWithTheFilesInIt)
+{
+    const QString text = writeFile(QStringLiteral("a.rtfd/TXT.rtf"), "{\\rtf1 before}");
+    const QString folder = at(QStringLiteral("a.rtfd"));
+    RecordingPresenter presenter(folder);
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    const auto news = [&] {
+        allNews();
+        return presenter.takeNews();
+    };
+    write(text, "{\\rtf1 after}");
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    replace(text, "{\\rtf1 later}");
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    rename(folder, folder + u'2');
+    EXPECT_THAT(news(), ElementsAre(movedTo(folder + u'2')));
+}
+
+TEST_F(FilePresenterTest, AChangeOfTheAttributesAloneIsNoNews)
+{
+    ASSERT_EQ(::chmod(QFile::encodeName(m_path).constData(), 0640), 0);
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, NothingIsToldAfterTheRemoval)
+{
+    write(m_path, "after");
+    FileCoordinator::removeFilePresenter(&m_presenter);
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, APresenterMayGoWhileItIsTold)
+{
+    auto presenter = std::make_unique<RecordingPresenter>(m_path);
+    FileCoordinator::addFilePresenter(presenter.get(), m_clock);
+    RecordingPresenter &presenting = *presenter;
+    presenting.whenTold = [&] { presenter.reset(); };
+    write(m_path, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    EXPECT_EQ(presenter, nullptr);
+}
+
+TEST_F(FilePresenterTest, EveryPresenterOfAFileIsTold)
+{
+    RecordingPresenter other(m_path);
+    FileCoordinator::addFilePresenter(&other, m_clock);
+    replace(m_path, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    EXPECT_THAT(other.news(), ElementsAre(m_changed));
+}
