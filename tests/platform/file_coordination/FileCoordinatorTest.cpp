@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: MIT
+#include "platform/file_coordination/FileCoordinator.h"
+
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/file_coordination/FakeClock.h"
+#include "tests/platform/file_coordination/RecordingPresenter.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using namespace std::chrono_literals;
+
+class FileCoordinatorTest : public QuillbayTest {
+protected:
+    FileCoordinatorTest() { FileCoordinator::addFilePresenter(&m_presenter, m_clock); }
+
+    std::optional<CoordinationError> read()
+    {
+        return m_coordinator->coordinateReadingItemAtURL(m_url, [this](const QUrl &url) {
+            ++m_reads;
+            m_contents = readFile(url.toLocalFile());
+            if (m_whileReading)
+                m_whileReading();
+        });
+    }
+    void settle(std::chrono::milliseconds duration)
+    {
+        QCoreApplication::processEvents();
+        m_clock.advance(duration);
+        QCoreApplication::processEvents();
+    }
+    std::unique_ptr<ClockTimer> after(std::chrono::milliseconds delay, std::function<void()> call)
+    {
+        auto timer = m_clock.makeTimer(std::move(call));
+        timer->start(delay);
+        return timer;
+    }
+    void write(const QByteArray &contents) const
+    {
+        QFile file(m_path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    }
+
+    const QString m_path = writeFile(QStringLiteral("f.txt"), "before");
+    const QUrl m_url = QUrl::fromLocalFile(m_path);
+    FakeClock m_clock;
+    RecordingPresenter m_presenter{m_path};
+    std::unique_ptr<FileCoordinator> m_coordinator = std::make_unique<FileCoordinator>(&m_presenter, m_clock);
+    int m_reads = 0;
+    QByteArray m_contents;
+    std::function<void()> m_whileReading;
+    const std::optional<CoordinationError> m_granted;
+    const std::optional<CoordinationError> m_locked{{CoordinationError::Cause::LockedByWriter}};
+};
+
+TEST_F(FileCoordinatorTest, ReadsOnceAndAtOnce)
+{
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_reads, 1);
+    EXPECT_EQ(m_contents, QByteArray("before"));
+    EXPECT_EQ(m_clock.paused(), 0ms);
+}
+
+TEST_F(FileCoordinatorTest, WaitsForTheEndOfAnExclusiveLock)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    const auto release = after(1500ms, [&] {
+        writer.write("after!");
+        writer.close();
+    });
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_contents, QByteArray("after!"));
+    EXPECT_GE(m_clock.paused(), 1500ms);
+    EXPECT_LT(m_clock.paused(), 1600ms);
+}
+
+TEST_F(FileCoordinatorTest, WaitsForTheWriteLockOfAnOpenFile)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
+    struct flock lock { };
+    lock.l_type = F_WRLCK;
+    lock.l_len = 1;
+    ASSERT_EQ(::fcntl(writer.handle(), F_OFD_SETLK, &lock), 0);
+    const auto release = after(500ms, [&] { writer.close(); });
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_GE(m_clock.paused(), 500ms);
+}
+
+TEST_F(FileCoordinatorTest, RefusesAfterTwoSecondsOfAnotherProcesssWriteLock)
+{
+    ChildProcess writer(QStringLiteral("/usr/bin/python3"));
+    writer.start({"-c",
+        "import fcntl, sys\n"
+        "f = open(sys.argv[1], 'r+')\n"
+        "fcntl.lockf(f, fcntl.LOCK_EX)\n"
+        "print('locked', flush=True)\n"
+        "sys.stdin.readline()\n",
+        QFile::encodeName(m_path)});
+    ASSERT_EQ(writer.readLine(), QByteArray("locked"));
+    EXPECT_EQ(read(), m_locked);
+    EXPECT_EQ(m_reads, 0);
+    EXPECT_GE(m_clock.paused(), 2000ms);
+    EXPECT_LT(m_clock.paused(), 2100ms);
+}
+
+TEST_F(FileCoordinatorTest, DoesNotWaitForLocksOfReaders)
+{
+    QFile reader(m_path);
+    ASSERT_TRUE(reader.open(QIODevice::ReadOnly));
+    ASSERT_EQ(::flock(reader.handle(), LOCK_SH), 0);
+    struct flock lock { };
+    lock.l_type = F_RDLCK;
+    ASSERT_EQ(::fcntl(reader.handle(), F_OFD_SETLK, &lock), 0);
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_clock.paused(), 0ms);
+}
+
+TEST_F(FileCoordinatorTest, HoldsNoLockWhileItReads)
+{
+    m_whileReading = [this] {
+        QFile writer(m_path);
+        ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
+        EXPECT_EQ(::flock(writer.handle(), LOCK_EX | LOCK_NB), 0);
+        EXPECT_EQ(::fcntl(writer.handle(), F_SETLEASE, F_WRLCK), 0) << "nor a lease";
+        ::fcntl(writer.handle(), F_SETLEASE, F_UNLCK);
+    };
+    EXPECT_EQ(read(), m_granted);
+}
+
+TEST_F(FileCoordinatorTest, ARefusedReaderIsToldAgainAndReadsWhatIsStillLocked)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    ASSERT_EQ(read(), m_locked);
+    settle(1999ms);
+    EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
+    settle(1ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(QStringLiteral("changed")));
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_contents, QByteArray("before"));
+    // Once it has been let go, the next lock is waited for again.
+    ::flock(writer.handle(), LOCK_UN);
+    EXPECT_EQ(read(), m_granted);
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    EXPECT_EQ(read(), m_locked);
+}
+
+TEST_F(FileCoordinatorTest, ServesTheEventLoopWhileItWaits)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    bool isServed = false;
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [&] { isServed = true; }, Qt::QueuedConnection);
+    ASSERT_EQ(read(), m_locked);
+    EXPECT_TRUE(isServed);
+}
+
+TEST_F(FileCoordinatorTest, AReadDuringAReadIsLeftToTheFirst)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    const auto nested = after(100ms, [&] { EXPECT_EQ(read(), m_granted); });
+    const auto release = after(200ms, [&] {
+        EXPECT_EQ(m_reads, 0);
+        writer.close();
+    });
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_reads, 1);
+}
+
+TEST_F(FileCoordinatorTest, ACoordinatorThatGoesWhileItWaitsReadsNothingAndReportsNothing)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    const auto end = after(100ms, [&] { m_coordinator.reset(); });
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_reads, 0);
+    EXPECT_LT(m_clock.paused(), 200ms);
+}
+
+TEST_F(FileCoordinatorTest, ReadsAgainWhatChangedWhileItWasRead)
+{
+    m_whileReading = [this] {
+        if (m_reads == 1)
+            write("after and longer");
+    };
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_reads, 2);
+    EXPECT_EQ(m_contents, QByteArray("after and longer"));
+}
+
+TEST_F(FileCoordinatorTest, DoesNotReadForeverWhatNeverStops)
+{
+    m_whileReading = [this] { write(QByteArray(m_reads, 'x')); };
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_reads, 3);
+}
+
+TEST_F(FileCoordinatorTest, AnAccessorThatEndsTheCoordinatorIsNotCalledAgain)
+{
+    m_whileReading = [this] {
+        write("after");
+        m_coordinator.reset();
+    };
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_reads, 1);
+}
+
+TEST_F(FileCoordinatorTest, WaitsForANameThatIsMissingForAMoment)
+{
+    ASSERT_TRUE(QFile::remove(m_path));
+    const auto comeBack = after(300ms, [&] { write("after"); });
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_contents, QByteArray("after"));
+}
+
+TEST_F(FileCoordinatorTest, LeavesAFileThatStaysMissingToTheAccessor)
+{
+    ASSERT_TRUE(QFile::remove(m_path));
+    int calls = 0;
+    EXPECT_EQ(m_coordinator->coordinateReadingItemAtURL(m_url, [&](const QUrl &) { ++calls; }), m_granted);
+    EXPECT_EQ(calls, 1);
+    EXPECT_GE(m_clock.paused(), 500ms);
+    EXPECT_LT(m_clock.paused(), 600ms);
+}
+
+TEST_F(FileCoordinatorTest, WaitsForTheContentsOfAnEmptyFileOnce)
+{
+    write({});
+    const auto fill = after(100ms, [&] { write("after"); });
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_contents, QByteArray("after"));
+    write({});
+    EXPECT_EQ(read(), m_granted);
+    const auto before = m_clock.paused();
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_clock.paused(), before);
+}
+
+TEST_F(FileCoordinatorTest, AWriterBorrowsTheFileFromPresentersAndTheyAreToldAfterwards)
+{
+    FileCoordinator writer(nullptr, m_clock);
+    const auto error = writer.coordinateWritingItemAtURL(m_url, [&](const QUrl &) {
+        EXPECT_THAT(m_presenter.news(), ElementsAre(QStringLiteral("lent to writer")));
+        write("after");
+        settle(1000ms);
+        EXPECT_THAT(m_presenter.takeNews(), ElementsAre(QStringLiteral("lent to writer")));
+    });
+    EXPECT_EQ(error, m_granted);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(QStringLiteral("back")));
+    settle(150ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(QStringLiteral("changed")));
+}
+
+TEST_F(FileCoordinatorTest, AReaderBorrowsTheFileFromOtherPresentersOnly)
+{
+    RecordingPresenter other(m_path);
+    RecordingPresenter elsewhere(writeFile(QStringLiteral("g.txt"), "x"));
+    FileCoordinator::addFilePresenter(&other, m_clock);
+    FileCoordinator::addFilePresenter(&elsewhere, m_clock);
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_THAT(m_presenter.news(), IsEmpty());
+    EXPECT_THAT(elsewhere.news(), IsEmpty());
+    EXPECT_THAT(other.news(), ElementsAre(QStringLiteral("lent to reader"), QStringLiteral("back")));
+}
+
+TEST_F(FileCoordinatorTest, APresenterThatKeepsTheFileIsWaitedForTwoSeconds)
+{
+    m_presenter.keepsFile = true;
+    FileCoordinator writer(nullptr, m_clock);
+    bool isCalled = false;
+    const auto error = writer.coordinateWritingItemAtURL(m_url, [&](const QUrl &) { isCalled = true; });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->cause, CoordinationError::Cause::NotRelinquished);
+    EXPECT_FALSE(isCalled);
+    EXPECT_GE(m_clock.paused(), 2000ms);
+    m_presenter.takeNews();
+    write("after");
+    settle(0ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(QStringLiteral("changed")));
+}

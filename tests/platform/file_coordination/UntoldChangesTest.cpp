@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// Where the system tells nothing of a file's changes.
+#include "platform/file_coordination/FilePlaces.h"
+
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/file_coordination/FakeClock.h"
+#include "tests/platform/file_coordination/RecordingPresenter.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <unistd.h>
+
+using ::testing::SizeIs;
+using namespace std::chrono_literals;
+
+namespace {
+
+// Only in a user namespace of its own can a process have other limits of inotify than the user.
+void allowNoInotify()
+{
+    constexpr int unsupported = 1;
+    if (::unshare(CLONE_NEWUSER) != 0)
+        ::_exit(unsupported);
+    const int limit = ::open("/proc/sys/user/max_inotify_instances", O_WRONLY);
+    if (limit < 0 || ::write(limit, "0", 1) != 1)
+        ::_exit(unsupported);
+    ::close(limit);
+}
+
+} // namespace
+
+class UntoldChangesTest : public QuillbayTest {
+protected:
+    const QString m_path = writeFile(QStringLiteral("f.txt"), "before");
+};
+
+TEST_F(UntoldChangesTest, WithoutInotifyThePresenterLooksEveryTwoSecondsAndLogsOneLine)
+{
+    if (ChildProcess(QStringLiteral("/bin/true")).afterFork(allowNoInotify).run({}).exitStatus != 0)
+        GTEST_SKIP() << "no user namespaces here";
+    ChildProcess presenter(testProgram(QStringLiteral("presenter")));
+    presenter.afterFork(allowNoInotify).start({QFile::encodeName(m_path)});
+    const auto newsAfter = [&](const char *milliseconds) {
+        presenter.writeLine(milliseconds);
+        return presenter.readLine();
+    };
+    ASSERT_EQ(newsAfter("0"), QByteArray("."));
+    writeFile(QStringLiteral("f.txt"), "in place");
+    EXPECT_EQ(newsAfter("1999"), QByteArray("."));
+    EXPECT_EQ(newsAfter("151"), QByteArray("changed."));
+    writeFile(QStringLiteral("f.new"), "replaced");
+    ASSERT_EQ(::rename(QFile::encodeName(world().root() + QStringLiteral("/files/f.new")).constData(),
+                  QFile::encodeName(m_path).constData()),
+        0);
+    EXPECT_EQ(newsAfter("2150"), QByteArray("changed."));
+    EXPECT_EQ(newsAfter("10000"), QByteArray("."));
+    ASSERT_TRUE(QFile::rename(m_path, m_path + u'2'));
+    EXPECT_EQ(newsAfter("2500"), "moved to " + QFile::encodeName(m_path) + "2.");
+    ASSERT_TRUE(QFile::remove(m_path + u'2'));
+    EXPECT_EQ(newsAfter("2500"), QByteArray("deleted."));
+    const ChildProcess::Outcome outcome = presenter.finish();
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.errors.count('\n'), 2) << outcome.errors.toStdString(); // before and after the move
+}
+
+TEST_F(UntoldChangesTest, FilesMadeUpByTheSystemAreLookedAt)
+{
+    EXPECT_TRUE(changesUnnoticed("/proc/self/status"));
+    EXPECT_FALSE(changesUnnoticed(QFile::encodeName(m_path)));
+    const RecordingLogSink log;
+    FakeClock clock;
+    RecordingPresenter presenter(QStringLiteral("/proc/self/status"));
+    FileCoordinator::addFilePresenter(&presenter, clock);
+    EXPECT_THAT(log.messages(), SizeIs(1));
+    EXPECT_EQ(clock.runningTimers(), 1);
+    RecordingPresenter local(m_path);
+    FileCoordinator::addFilePresenter(&local, clock);
+    EXPECT_THAT(log.messages(), SizeIs(1));
+    EXPECT_EQ(clock.runningTimers(), 1);
+}
