@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// PackageWriter makes ZIP archives and Word documents byte by byte, sound ones and others.
+// Thread: any; values.
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+#include <vector>
+
+/// CRC-32 as ZIP has it.
+quint32 zipChecksum(const QByteArray &bytes);
+
+class ZipWriter {
+public:
+    enum class Method { Stored, Deflated };
+    struct Entry {
+        QByteArray name;
+        QByteArray contents;
+        Method method = Method::Stored;
+        std::optional<quint32> claimedLength = std::nullopt; ///< of the contents, where it is a lie
+        bool isEncrypted = false; ///< flagged so; the contents are not
+    };
+
+    void add(const Entry &entry) { m_entries.push_back(entry); }
+    [[nodiscard]] QByteArray archive() const;
+
+private:
+    std::vector<Entry> m_entries;
+};
+
+/// A Word document of the given parts, named and related as Word does it. Empty parts are left out.
+struct WordPackage {
+    QByteArray body = {}; ///< what is within w:body
+    QByteArray styles = {}; ///< what is within w:styles
+    QByteArray numbering = {}; ///< what is within w:numbering
+    QByteArray settings = {}; ///< what is within w:settings
+    QByteArray fontScheme = {}; ///< what is within a:fontScheme of the theme
+    QByteArray footnotes = {}; ///< what is within w:footnotes
+    QByteArray endnotes = {}; ///< what is within w:endnotes
+    QByteArray wordNamespace = "http://schemas.openxmlformats.org/wordprocessingml/2006/main";
+    QByteArray relationshipsNamespace = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
+    QByteArray mainType = "application/vnd.openxmlformats-officedocument.wordprocessingml.document.main+xml";
+    QByteArray rootAttributes = "mc:Ignorable='w14 wp14'"; ///< of w:document
+
+    struct Part {
+        QByteArray identifier; ///< of its relationship from the main part
+        QByteArray relationshipType; ///< the last part of the URI
+        QByteArray target; ///< as the relationship names it
+        QByteArray contentType;
+        QByteArray contents;
+        bool isExternal = false; ///< related only, not in the package
+    };
+    std::vector<Part> others = {};
+    ZipWriter::Method method = ZipWriter::Method::Stored;
+
+    /// The main part with its XML declaration and namespaces.
+    [[nodiscard]] QByteArray mainPart() const;
+    [[nodiscard]] ZipWriter writer() const;
+    [[nodiscard]] QByteArray bytes() const { return writer().archive(); }
+};

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/styled_text/docx/DocxTest.h"
+
+TEST(DocxText, EndsEveryParagraphWithALineFeed)
+{
+    EXPECT_EQ(textOfBody(textParagraph("one") + textParagraph("two")), QStringLiteral("one\ntwo\n"));
+    EXPECT_EQ(textOfBody(textParagraph("one") + "<w:p/>"), QStringLiteral("one\n\n"));
+    EXPECT_EQ(textOfBody({}), QString());
+}
+
+TEST(DocxText, JoinsTheRunsOfAParagraph)
+{
+    EXPECT_EQ(textOfBody(paragraph(run("quill", "<w:b/>") + run("bay ") + run("&#x1F41F;&lt;&amp;"))),
+        QStringLiteral("quillbay \U0001F41F<&\n"));
+}
+
+TEST(DocxText, KeepsWhiteSpaceAtTheEdgesOfARunOnlyWhereItIsPreserved)
+{
+    EXPECT_EQ(
+        textOfBody(paragraph("<w:r><w:t>\n  a  b </w:t></w:r>" + run(" c "))), QStringLiteral("a  b c \n"));
+    EXPECT_EQ(textOfBody(paragraph("\n  " + run("d\ne") + "\n  ")), QStringLiteral("d e\n"));
+}
+
+TEST(DocxText, HasACharacterForTabsBreaksAndHyphens)
+{
+    EXPECT_EQ(textOfBody(paragraph("<w:r><w:t>a</w:t><w:tab/><w:t>b</w:t><w:br/><w:t>c</w:t><w:cr/>"
+                                   "<w:br w:type='page'/><w:br w:type='column'/><w:br w:type='textWrapping'/>"
+                                   "<w:noBreakHyphen/><w:softHyphen/><w:ptab w:alignment='right'/></w:r>")),
+        QStringLiteral("a\tb\u2028c\u2028\f\f\u2028\u2011\u00AD\t\n"));
+}
+
+TEST(DocxText, TakesTabStopsForNoTabulators)
+{
+    EXPECT_EQ(textOfBody(paragraph(run("a"), "<w:tabs><w:tab w:val='left' w:pos='720'/></w:tabs>")),
+        QStringLiteral("a\n"));
+}
+
+TEST(DocxText, GivesSymbolsTheCharactersTheyDepict)
+{
+    EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:font='Symbol' w:char='F061'/></w:r>"
+                                   "<w:r><w:sym w:font='Wingdings' w:char='F0FC'/></w:r>"
+                                   "<w:r><w:sym w:font='Arial' w:char='2022'/></w:r>")),
+        QStringLiteral("\u03B1\uF0FC\u2022\n"));
+    EXPECT_EQ(textOfBody(paragraph(run("\xEF\x82\xB7\xEF\x82\xA3", "<w:rFonts w:ascii='Symbol'/>"))),
+        QStringLiteral("\u2022\u2264\n"));
+}
+
+TEST(DocxText, LeavesOutSymbolsThatAreNoCharacters)
+{
+    EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:char='D800'/><w:sym w:char='0'/><w:sym w:char='12345'/>"
+                                   "<w:sym w:char='x'/><w:sym/></w:r>")),
+        QStringLiteral("\n"));
+}
+
+TEST(DocxText, MakesParagraphsOfCellsAndOfTablesInThem)
+{
+    const QByteArray inner = "<w:tbl><w:tr>" + cell(textParagraph("in")) + "</w:tr></w:tbl>";
+    EXPECT_EQ(
+        textOfBody(textParagraph("before") + "<w:tbl><w:tblPr/><w:tblGrid><w:gridCol/></w:tblGrid><w:tr>"
+            + cell(textParagraph("a") + textParagraph("b")) + cell(inner + "<w:p/>") + "</w:tr></w:tbl>"
+            + textParagraph("after")),
+        QStringLiteral("before\na\nb\nin\n\nafter\n"));
+}
+
+TEST(DocxText, LooksIntoContentControlsLinksTagsAndCustomXml)
+{
+    EXPECT_EQ(
+        textOfBody("<w:sdt><w:sdtPr><w:alias w:val='x'/><w:placeholder><w:docPart w:val='y'/>"
+                   "</w:placeholder></w:sdtPr><w:sdtContent>"
+            + paragraph("<w:sdt><w:sdtContent>" + run("a") + "</w:sdtContent></w:sdt><w:hyperlink>" + run("b")
+                + "</w:hyperlink><w:smartTag><w:smartTagPr><w:attr w:name='n' w:val='v'/></w:smartTagPr>"
+                + run("c") + "</w:smartTag><w:customXml>" + run("d") + "</w:customXml><w:bdo>" + run("e")
+                + "</w:bdo>")
+            + "</w:sdtContent></w:sdt><w:customXml>" + textParagraph("f") + "</w:customXml>"),
+        QStringLiteral("abcde\nf\n"));
+}
+
+TEST(DocxText, TakesTheBaseOfRubyOnly)
+{
+    EXPECT_EQ(textOfBody(paragraph("<w:r><w:ruby><w:rubyPr/><w:rt>" + run("ruby") + "</w:rt><w:rubyBase>"
+                  + run("base") + "</w:rubyBase></w:ruby></w:r>")),
+        QStringLiteral("base\n"));
+}
+
+TEST(DocxText, TakesTheCharactersOfFormulas)
+{
+    EXPECT_EQ(
+        textOfBody(paragraph("<m:oMathPara><m:oMath><m:sSup><m:e><m:r><m:rPr><m:sty/></m:rPr><m:t>r</m:t>"
+                             "</m:r></m:e><m:sup><m:r><w:rPr><w:i/></w:rPr><m:t>2</m:t></m:r></m:sup>"
+                             "</m:sSup></m:oMath></m:oMathPara>")),
+        QStringLiteral("r2\n"));
+}
+
+TEST(DocxText, HasNoNumbersOfListsNorCommentsNorPictures)
+{
+    EXPECT_EQ(
+        textOf({.body = paragraph("<w:commentRangeStart w:id='0'/>" + run("a")
+                        + "<w:r><w:commentReference w:id='0'/></w:r><w:r><w:drawing><wp:inline>"
+                          "<wp:docPr id='1' descr='a picture'/></wp:inline></w:drawing></w:r>",
+                    "<w:numPr><w:ilvl w:val='0'/><w:numId w:val='1'/></w:numPr>"),
+            .numbering = "<w:abstractNum w:abstractNumId='0'><w:lvl w:ilvl='0'><w:lvlText w:val='%1.'/>"
+                         "</w:lvl></w:abstractNum><w:num w:numId='1'><w:abstractNumId w:val='0'/></w:num>"}),
+        QStringLiteral("a\n"));
+}
+
+TEST(DocxText, ReadsAParagraphThatStandsWhereNoneBelongs)
+{
+    EXPECT_EQ(textOfBody(paragraph(run("outer ") + textParagraph("inner") + run("on"))),
+        QStringLiteral("outer on\ninner\n"));
+}
