@@ -2,6 +2,7 @@
 #include "platform/styled_text/loading/DocumentLoader.h"
 
 #include "platform/files/FileContents.h"
+#include "platform/styled_text/loading/DocumentKind.h"
 
 #include <new>
 
@@ -9,31 +10,16 @@ namespace {
 
 using LoadResult = Result<AttributedString, LoadError>;
 
-LoadResult documentFromContents(const Result<QByteArray, FileError> &contents, const DocumentOptions &options)
+/// What a reader of one kind gave, with its cause of failure as one of many.
+template <typename Error>
+LoadResult loaded(Result<AttributedString, Error> document)
 {
-    if (!contents)
-        return LoadError(contents.error());
-    return documentFromBytes(contents.value(), options);
+    if (!document)
+        return LoadError(document.error());
+    return std::move(document).value();
 }
 
-} // namespace
-
-QString causeText(const LoadError &error)
-{
-    return std::visit([](const auto &cause) { return causeText(cause); }, error);
-}
-
-LoadResult loadDocument(const QByteArray &path, const DocumentOptions &options)
-{
-    return documentFromContents(readFile(path), options);
-}
-
-LoadResult loadDocument(int descriptor, const DocumentOptions &options)
-{
-    return documentFromContents(readDescriptor(descriptor), options);
-}
-
-LoadResult documentFromBytes(QByteArrayView bytes, const DocumentOptions &)
+LoadResult loadedPlainText(QByteArrayView bytes)
 {
     const Result<PlainText, TextError> plainText = readPlainText(bytes);
     if (!plainText)
@@ -43,4 +29,52 @@ LoadResult documentFromBytes(QByteArrayView bytes, const DocumentOptions &)
     } catch (const std::bad_alloc &) {
         return LoadError(TextError::NotEnoughMemory);
     }
+}
+
+LoadResult loadedBytes(const QByteArray &path, QByteArrayView bytes)
+{
+    switch (kindOfDocument(path, bytes)) {
+    case DocumentKind::Rtf:
+        return loaded(readRtf(bytes));
+    case DocumentKind::FlatRtfd:
+        return loaded(readFlatRtfd(bytes));
+    case DocumentKind::Html:
+        return loaded(readHtml(bytes));
+    case DocumentKind::WordDocument:
+        return loaded(readDocx(bytes));
+    case DocumentKind::PlainText:
+        break;
+    }
+    return loadedPlainText(bytes);
+}
+
+LoadResult loadedContents(const QByteArray &path, const Result<QByteArray, FileError> &contents)
+{
+    if (!contents)
+        return LoadError(contents.error());
+    return loadedBytes(path, contents.value());
+}
+
+} // namespace
+
+QString causeText(const LoadError &error)
+{
+    return std::visit([](const auto &cause) { return causeText(cause); }, error);
+}
+
+LoadResult loadDocument(const QByteArray &path, const DocumentOptions &)
+{
+    if (isRtfdPackage(path))
+        return loaded(readRtfdPackage(path));
+    return loadedContents(path, readFile(path));
+}
+
+LoadResult loadDocument(int descriptor, const DocumentOptions &)
+{
+    return loadedContents({}, readDescriptor(descriptor));
+}
+
+LoadResult documentFromBytes(QByteArrayView bytes, const DocumentOptions &)
+{
+    return loadedBytes({}, bytes);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// DocumentLoader turns a document into styled text, whatever its kind; so far each one is a plain text.
+// DocumentLoader turns a document into styled text, whatever its kind: plain text, RTF, RTFD as a folder or
+// as one file, web pages, Word documents. Which kind it is, DocumentKind tells; each has a reader of its own.
 // Thread: any.
 #pragma once
 
@@ -7,6 +8,10 @@
 #include "platform/files/FileError.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/styled_text/PlainTextReader.h"
+#include "platform/styled_text/docx/DocxReader.h"
+#include "platform/styled_text/html/HtmlReader.h"
+#include "platform/styled_text/rtf/RtfReader.h"
+#include "platform/styled_text/rtfd/RtfdReader.h"
 
 #include <QVariantMap>
 
@@ -15,12 +20,13 @@
 /// Wishes about the loading; so far there is none to be had, and unknown ones are left unheeded.
 using DocumentOptions = QVariantMap;
 
-using LoadError = std::variant<FileError, TextError>;
+using LoadError = std::variant<FileError, TextError, RtfError, RtfdError, HtmlError, DocxError>;
 
 /// The cause in English, on one line, to stand behind the document's name.
 QString causeText(const LoadError &error);
 
-/// A document on disk. path: bytes in any encoding.
+/// A document on disk: a file, or a folder with the RTF and the attachments of an RTFD. path: bytes in any
+/// encoding.
 Result<AttributedString, LoadError> loadDocument(const QByteArray &path, const DocumentOptions &options = {});
 
 /// A document that an open descriptor, such as standard input, has from its position on; waits for its end.

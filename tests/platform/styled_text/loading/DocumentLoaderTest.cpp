@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/loading/DocumentLoader.h"
 
+#include "platform/styled_text/rtfd/RtfdWriter.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/styled_text/SampleTexts.h"
+#include "tests/platform/styled_text/docx/PackageWriter.h"
 
 #include <QFile>
 
@@ -60,6 +62,61 @@ TEST_F(DocumentLoader, AFileThatCannotBeReadSaysWhy)
     EXPECT_EQ(causeText(loadDocument(QByteArray("/missing")).error()), QStringLiteral("no such file"));
     const auto error = loadDocument(QByteArray("/")).error();
     EXPECT_EQ(std::get<FileError>(error), FileError{FileError::Cause::Folder});
+}
+
+TEST_F(DocumentLoader, RtfIsReadWithItsStyles)
+{
+    const AttributedString text = loadDocument(written("text.rtf", R"({\rtf1 one {\b two}})")).value();
+    EXPECT_EQ(text.string(), QStringLiteral("one two"));
+    EXPECT_EQ(text.attributesAt(5).font->weight, 700);
+    EXPECT_EQ(documentFromBytes(R"({\rtf1 one})").value().string(), QStringLiteral("one"));
+}
+
+TEST_F(DocumentLoader, AnRtfdFolderIsReadWithItsAttachments)
+{
+    written("text.rtfd/sun.png", "bytes of a picture");
+    const QByteArray rtf =
+        written("text.rtfd/TXT.rtf", R"({\rtf1 a{{\NeXTGraphic sun.png \width0\height0}\'ac}b})");
+    const AttributedString text = loadDocument(rtf.chopped(qstrlen("/TXT.rtf"))).value();
+    EXPECT_EQ(text.string(), QStringLiteral("a\uFFFCb"));
+    ASSERT_NE(text.attributesAt(1).attachment, nullptr);
+    EXPECT_EQ(text.attributesAt(1).attachment->contents, "bytes of a picture");
+}
+
+TEST_F(DocumentLoader, AFileOfFlatRtfdIsRead)
+{
+    const AttributedString text(QStringLiteral("one two"));
+    const QByteArray path = written("text.rtfd", RTFDFromRange(text, 0, text.length()).value());
+    EXPECT_EQ(loadDocument(path).value(), text);
+}
+
+TEST_F(DocumentLoader, AWebPageIsRead)
+{
+    const QByteArray page = "<!DOCTYPE html><p>one<p>two";
+    EXPECT_EQ(loadDocument(written("page.html", page)).value().string(), QStringLiteral("one\n\ntwo"));
+    EXPECT_EQ(documentFromBytes(page).value().string(), QStringLiteral("one\n\ntwo"));
+}
+
+TEST_F(DocumentLoader, AWordDocumentIsRead)
+{
+    const QByteArray document = WordPackage{.body = "<w:p><w:r><w:t>one two</w:t></w:r></w:p>"}.bytes();
+    EXPECT_EQ(loadDocument(written("report.docx", document)).value().string(), QStringLiteral("one two\n"));
+    EXPECT_EQ(documentFromBytes(document).value().string(), QStringLiteral("one two\n"));
+}
+
+TEST_F(DocumentLoader, ANameOfAWordDocumentWithOtherBytesFailsWithTheCause)
+{
+    const auto error = loadDocument(written("report.docx", "Some words.")).error();
+    EXPECT_EQ(std::get<DocxError>(error), DocxError::NotWordDocument);
+    EXPECT_EQ(causeText(error), causeText(DocxError::NotWordDocument));
+}
+
+TEST_F(DocumentLoader, AFailureOfAReaderComesWithItsCause)
+{
+    const QByteArray damaged = QByteArray("rtfd\0\0\0\0\3\0\0\0\xff\xff\xff\xff", 16);
+    const auto error = documentFromBytes(damaged).error();
+    EXPECT_EQ(std::get<RtfdError>(error).cause, RtfdError::Cause::Damaged);
+    EXPECT_EQ(causeText(error), causeText(std::get<RtfdError>(error)));
 }
 
 TEST_F(DocumentLoader, AProcessThatHasMemoryForTheBytesOnlySaysSo)

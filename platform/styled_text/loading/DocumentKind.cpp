@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "platform/styled_text/loading/DocumentKind.h"
+
+#include "platform/styled_text/docx/DocxReader.h"
+#include "platform/styled_text/html/HtmlReader.h"
+#include "platform/styled_text/rtf/RtfReader.h"
+#include "platform/styled_text/rtfd/RtfdReader.h"
+
+#include <QMimeDatabase>
+
+#include <optional>
+
+namespace {
+
+/// Absent where the name tells nothing.
+std::optional<DocumentKind> kindByName(const QByteArray &path)
+{
+    const QList<QMimeType> types = QMimeDatabase().mimeTypesForFileName(QString::fromLocal8Bit(path));
+    if (types.isEmpty())
+        return std::nullopt;
+    for (const QMimeType &type : types) {
+        if (type.inherits(QStringLiteral("text/html"))
+            || type.inherits(QStringLiteral("application/xhtml+xml")))
+            return DocumentKind::Html;
+        if (type.inherits(
+                QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.document")))
+            return DocumentKind::WordDocument;
+    }
+    return DocumentKind::PlainText;
+}
+
+} // namespace
+
+DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
+{
+    if (looksLikeRtf(bytes))
+        return DocumentKind::Rtf;
+    if (looksLikeFlatRtfd(bytes))
+        return DocumentKind::FlatRtfd;
+    if (const std::optional<DocumentKind> kind = kindByName(path))
+        return *kind;
+    if (looksLikeHtml(bytes))
+        return DocumentKind::Html;
+    return looksLikeDocx(bytes) ? DocumentKind::WordDocument : DocumentKind::PlainText;
+}
