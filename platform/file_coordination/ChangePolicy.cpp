@@ -3,13 +3,16 @@
 
 #include <algorithm>
 
-ChangePolicy::ChangePolicy(const std::optional<FileSighting> &known)
+ChangePolicy::ChangePolicy(const FileSighting &known, Clock::Time now)
 {
-    if (!known)
-        return;
-    m_known = known->state;
-    m_lastSeen = known->state;
-    m_knownMayHideAChange = known->mayHideAChange;
+    know(known, now);
+}
+
+void ChangePolicy::know(const FileSighting &seen, Clock::Time now)
+{
+    m_known = seen.state;
+    m_lastSeen = seen.state;
+    m_doubtfulUntil = seen.mayHideAChange ? std::optional(now + doubt) : std::nullopt;
 }
 
 void ChangePolicy::note(FileEvent event, Clock::Time now)
@@ -43,7 +46,7 @@ ChangePolicy::Verdict ChangePolicy::look(const FileSighting &seen, Clock::Time n
     if (seen.state != m_lastSeen)
         m_lastActivity = now;
     m_lastSeen = seen.state;
-    if (!isChanged(*seen.state)) {
+    if (!isChanged(*seen.state, now)) {
         m_isFinished = false;
         return {};
     }
@@ -56,24 +59,20 @@ ChangePolicy::Verdict ChangePolicy::look(const FileSighting &seen, Clock::Time n
         return {std::nullopt, settled};
     if (m_lastTold && now < *m_lastTold + burst)
         return {std::nullopt, *m_lastTold + burst};
-    return tellChange(seen, now);
-}
-
-bool ChangePolicy::isChanged(const FileState &state) const
-{
-    // Writing through mapped memory shows in nothing but the times and, at the end, in the closing.
-    return m_isWritten || m_known != state || (m_isFinished && m_knownMayHideAChange);
-}
-
-ChangePolicy::Verdict ChangePolicy::tellChange(const FileSighting &seen, Clock::Time now)
-{
-    m_known = seen.state;
-    m_knownMayHideAChange = seen.mayHideAChange;
+    know(seen, now);
     m_isWritten = false;
     m_isFinished = false;
     m_changedSince.reset();
     m_lastTold = now;
     return {FileNews{FileNews::Kind::Changed, {}}, std::nullopt};
+}
+
+bool ChangePolicy::isChanged(const FileState &state, Clock::Time now) const
+{
+    // Writing through mapped memory shows in nothing but the times and, at the end, in the closing. But many
+    // a program opens a file for writing and closes it unchanged.
+    const bool isDoubtful = m_doubtfulUntil && now < *m_doubtfulUntil;
+    return m_isWritten || m_known != state || (m_isFinished && isDoubtful);
 }
 
 ChangePolicy::Verdict ChangePolicy::lookAtNothing(const FileSighting &seen, Clock::Time now)

@@ -37,6 +37,8 @@ public:
     static constexpr Clock::Time grace{500};
     /// The least time between the news of two changes: those of a burst become one.
     static constexpr Clock::Time burst{100};
+    /// How long a state too young to show a further change casts doubt on a file that is closed unchanged.
+    static constexpr Clock::Time doubt{300};
     /// When a change is told although its writer never pauses.
     static constexpr Clock::Time patience{2000};
 
@@ -46,8 +48,8 @@ public:
     };
 
     ChangePolicy() = default;
-    /// known: the state of the file at the start; absent: there is none yet.
-    explicit ChangePolicy(const std::optional<FileSighting> &known);
+    /// known: what there is at the start.
+    ChangePolicy(const FileSighting &known, Clock::Time now);
 
     void note(FileEvent event, Clock::Time now);
     /// To be asked after events and at the time that the last verdict named. After a move or a deletion
@@ -56,11 +58,11 @@ public:
 
 private:
     Verdict lookAtNothing(const FileSighting &seen, Clock::Time now);
-    [[nodiscard]] bool isChanged(const FileState &state) const;
-    Verdict tellChange(const FileSighting &seen, Clock::Time now);
+    [[nodiscard]] bool isChanged(const FileState &state, Clock::Time now) const;
+    void know(const FileSighting &seen, Clock::Time now);
 
     std::optional<FileState> m_known; // as of the last news
-    bool m_knownMayHideAChange = false;
+    std::optional<Clock::Time> m_doubtfulUntil; // whether m_known shows every change
     std::optional<FileState> m_lastSeen;
     bool m_isWritten = false; // since the last news
     bool m_isFinished = false; // the last event says that the writer has finished

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr std::chrono::milliseconds betweenLooks{20};
-constexpr std::chrono::milliseconds untilNextAttempt{2000}; // after a read that was refused
 constexpr int mostReads = 3; // of a file that changes while it is read; its next change is told anyway
 
 QByteArray pathOf(const QUrl &url)
@@ -88,9 +87,7 @@ CoordinatedAccess::Obstacle CoordinatedAccess::obstacleAt(const QByteArray &path
     const std::optional<FileState> state = fileStateAt(path);
     if (!state)
         return Obstacle::Missing;
-    if (!isLockedByWriter(path))
-        m_hasLockOutlastedPatience = false;
-    else if (!m_hasLockOutlastedPatience)
+    if (isLockedByWriter(path))
         return Obstacle::Lock;
     return state->size == 0 && !m_wasEmpty ? Obstacle::Empty : Obstacle::None;
 }
@@ -120,9 +117,7 @@ bool CoordinatedAccess::waitFor(const Relinquishment &relinquishment)
 
 std::optional<CoordinationError> CoordinatedAccess::refuseForLock()
 {
-    m_hasLockOutlastedPatience = true;
-    // The end of a lock is told by nothing, and the change that was to be read would stay unread.
     if (const auto presentation = FilePresentations::instance().of(m_presenter))
-        presentation->expectChange(untilNextAttempt);
+        presentation->tellChangeOnceUnlocked();
     return CoordinationError{CoordinationError::Cause::LockedByWriter};
 }

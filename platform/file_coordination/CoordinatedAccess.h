@@ -38,5 +38,4 @@ private:
     bool m_isUnderWay = false;
     bool m_isAbandoned = false;
     bool m_wasEmpty = false; // and stayed so
-    bool m_hasLockOutlastedPatience = false; // the one that is held now
 };

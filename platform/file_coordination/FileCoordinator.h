@@ -35,9 +35,7 @@ public:
 
     /// Waits for a lock of a writer, and a moment for a file that is missing or has just been emptied, as
     /// happens while programs save. The accessor is called again where the file has changed while it read. A
-    /// lock that outlasts the wait is reported, and the presenter told of a change a little later; as
-    /// long as it then is held without a break, it is taken for that of a program that has the document open,
-    /// and no longer waited for.
+    /// lock that outlasts the wait is reported; once it has gone, the presenter is told of a change.
     [[nodiscard]] std::optional<CoordinationError> coordinateReadingItemAtURL(
         const QUrl &url, const Accessor &byAccessor);
 

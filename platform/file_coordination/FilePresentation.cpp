@@ -4,6 +4,7 @@
 #include "platform/file_coordination/FilePlaces.h"
 #include "platform/file_coordination/FilePresentations.h"
 #include "platform/file_coordination/HeldFiles.h"
+#include "platform/file_coordination/WriterLock.h"
 #include "platform/logging/LogChannel.h"
 
 #include <QFile>
@@ -17,10 +18,7 @@ FilePresentation::FilePresentation(FilePresenter &presenter, Clock &clock)
     , m_clock(clock)
     , m_lookTimer(clock.makeTimer([this] { look(); }))
     , m_pollTimer(clock.makeTimer([this] { look(); }))
-    , m_expectationTimer(clock.makeTimer([this] {
-        m_policy.note(FileEvent::Replaced, m_clock.now());
-        look();
-    }))
+    , m_expectationTimer(clock.makeTimer([this] { tellExpectedChange(); }))
 {
     if (m_watches.descriptor() < 0)
         return;
@@ -44,10 +42,25 @@ void FilePresentation::end()
     m_pin = PinnedFile();
 }
 
-void FilePresentation::expectChange(std::chrono::milliseconds delay)
+void FilePresentation::tellChange()
+{
+    m_expectationTimer->start(std::chrono::milliseconds(0));
+}
+
+void FilePresentation::tellChangeOnceUnlocked()
 {
     if (!m_hasEnded)
-        m_expectationTimer->start(delay);
+        m_expectationTimer->start(pollInterval);
+}
+
+void FilePresentation::tellExpectedChange()
+{
+    if (isLockedByWriter(m_path)) {
+        tellChangeOnceUnlocked();
+        return;
+    }
+    m_policy.note(FileEvent::Replaced, m_clock.now());
+    look();
 }
 
 void FilePresentation::lend()
@@ -75,7 +88,7 @@ void FilePresentation::follow(const QByteArray &path)
     else if (changesUnnoticed(m_path))
         poll(0);
     m_pin = PinnedFile(m_path);
-    m_policy = ChangePolicy(sight());
+    m_policy = ChangePolicy(sight(), m_clock.now());
 }
 
 void FilePresentation::watch()
@@ -173,5 +186,5 @@ void FilePresentation::tellMove(const FileNews &news)
         return;
     // By now the presenter may have gone, or have been added anew.
     if (const auto presentation = FilePresentations::instance().of(presenter))
-        presentation->expectChange(std::chrono::milliseconds(0));
+        presentation->tellChange();
 }

@@ -16,7 +16,7 @@
 /// seconds.
 class FilePresentation {
 public:
-    /// How often the file is looked at where changes may go untold.
+    /// How often is looked for what the system does not tell.
     static constexpr std::chrono::milliseconds pollInterval{2000};
 
     FilePresentation(FilePresenter &presenter, Clock &clock);
@@ -29,8 +29,11 @@ public:
     /// Nothing is told any more, not even what has happened already.
     void end();
 
-    /// Tells a change after this time even if none is seen: the last one could not be read.
-    void expectChange(std::chrono::milliseconds delay);
+    /// Tells a change from the event loop, whether one is seen or not.
+    void tellChange();
+    /// The same once no writer holds a lock on the file. Nothing tells of the end of a lock, so it is looked
+    /// for as often as in pollInterval.
+    void tellChangeOnceUnlocked();
 
     // While it is lent, news wait.
     void lend();
@@ -48,6 +51,7 @@ private:
     void look();
     void tell(const FileNews &news);
     void tellMove(const FileNews &news);
+    void tellExpectedChange();
 
     FilePresenter *m_presenter;
     bool m_hasEnded = false;

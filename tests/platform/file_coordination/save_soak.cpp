@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+// save_soak COUNT [SEED]: has another process save a presented file that often, in modes, sizes and with
+// pauses chosen at random, and prints what the presenter made of it. Exit status 1 where it made a mistake:
+// it told a move or a deletion, or did not come to read what was saved last.
+#include "tests/harness/ChildProcess.h"
+#include "tests/harness/TestHome.h"
+#include "tests/harness/WaitUntil.h"
+#include "tests/platform/file_coordination/RecordingPresenter.h"
+#include "tests/platform/file_coordination/SaveModes.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTextStream>
+
+#include <random>
+
+namespace {
+
+class Soak {
+public:
+    Soak(const QString &path, unsigned seed)
+        : m_presenter(path)
+        , m_random(seed)
+    {
+        m_presenter.whenTold = [this] { count(); };
+        FileCoordinator::addFilePresenter(&m_presenter);
+        m_saver.start({QFile::encodeName(path)});
+    }
+
+    /// One to three saves in a row, and the wait until the last of them has been read.
+    void saveOnce()
+    {
+        QString mode;
+        const int saves = chosen(1, 3);
+        for (int save = 0; save < saves; ++save) {
+            mode = m_modes.at(chosen(0, static_cast<int>(m_modes.size()) - 1));
+            ++m_number;
+            const int lines = chosen(0, 9) ? chosen(1, 50) : chosen(1000, 20'000);
+            const int pause = chosen(0, 9) ? chosen(0, 1000) : chosen(0, 100'000); // microseconds
+            m_expected = (QByteArray::number(m_number) + '\n').repeated(lines);
+            m_saver.writeLine(
+                QStringLiteral("%1 %2:%3 %4").arg(mode).arg(m_number).arg(lines).arg(pause).toLatin1());
+        }
+        m_saves += saves;
+        if (!waitUntil([this] { return m_presenter.contents() == m_expected; }, std::chrono::seconds(5)))
+            report(QStringLiteral("save %1 (%2) was not read").arg(m_number).arg(mode));
+    }
+
+    [[nodiscard]] int saves() const { return m_saves; }
+    [[nodiscard]] int changes() const { return m_changes; }
+    [[nodiscard]] int partial() const { return m_partial; }
+    [[nodiscard]] const QStringList &mistakes() const { return m_mistakes; }
+
+private:
+    int chosen(int least, int most) { return std::uniform_int_distribution(least, most)(m_random); }
+    void report(const QString &mistake) { m_mistakes << mistake; }
+
+    void count()
+    {
+        const QString news = m_presenter.takeNews().join(u',');
+        if (news != QStringLiteral("changed"))
+            report(QStringLiteral("told \"%1\" during save %2").arg(news).arg(m_number));
+        ++m_changes;
+        const QByteArray &contents = m_presenter.contents();
+        const QByteArray line = contents.first(contents.indexOf('\n') + 1);
+        m_partial += line.isEmpty() || line.repeated(contents.size() / line.size()) != contents;
+    }
+
+    const QStringList m_modes = SaveModes::names();
+    RecordingPresenter m_presenter;
+    ChildProcess m_saver{testProgram(QStringLiteral("file_saver"))};
+    std::mt19937 m_random;
+    QByteArray m_expected;
+    int m_number = 0;
+    int m_saves = 0;
+    int m_changes = 0;
+    int m_partial = 0; // changes at which contents were read that were never saved
+    QStringList m_mistakes;
+};
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    TestHome::instance();
+    const QCoreApplication application(argumentCount, arguments);
+    const int count = application.arguments().value(1).toInt();
+    const QString seed = application.arguments().value(2);
+    const QString path = TestHome::instance().root() + QStringLiteral("/f.txt");
+    QFile file(path);
+    if (count <= 0 || !file.open(QIODevice::WriteOnly))
+        return 2;
+    file.close();
+    Soak soak(path, seed.isEmpty() ? std::random_device()() : seed.toUInt());
+    while (soak.saves() < count)
+        soak.saveOnce();
+    QTextStream output(stdout);
+    output << soak.saves() << " saves, " << soak.changes() << " changes told, " << soak.partial()
+           << " of them read half-way, " << soak.mistakes().size() << " mistakes\n";
+    for (const QString &mistake : soak.mistakes())
+        output << mistake << '\n';
+    return soak.mistakes().isEmpty() ? 0 : 1;
+}
