@@ -2,10 +2,32 @@
 #include "platform/styled_text/docx/AlternativeChunk.h"
 
 #include "platform/styled_text/PlainTextReader.h"
+#include "platform/styled_text/html/HtmlReader.h"
+#include "platform/styled_text/rtf/RtfReader.h"
 
 namespace {
 
 using Chunk = Result<AttributedString, DocxError>;
+
+DocxError causeOf(HtmlError error)
+{
+    if (error == HtmlError::NotEnoughMemory)
+        return DocxError::NotEnoughMemory;
+    return error == HtmlError::TooLong ? DocxError::TooLarge : DocxError::TooIntricate;
+}
+
+DocxError causeOf(RtfError error)
+{
+    return error == RtfError::NotEnoughMemory ? DocxError::NotEnoughMemory : DocxError::TooLarge;
+}
+
+template <typename Error>
+Chunk withCause(Result<AttributedString, Error> text)
+{
+    if (!text)
+        return causeOf(text.error());
+    return std::move(text).value();
+}
 
 Chunk plainChunk(QByteArrayView bytes)
 {
@@ -25,11 +47,16 @@ Chunk nestedDocument(QByteArrayView bytes, ReadAllowance &allowance)
     return chunk;
 }
 
+/// What a chunk begins with tells more than its type, which producers choose carelessly.
 Chunk chunkOfType(const QByteArray &type, QByteArrayView bytes, ReadAllowance &allowance)
 {
     if (bytes.startsWith("PK\x03\x04"))
         return nestedDocument(bytes, allowance);
-    if (type.startsWith("text/plain"))
+    if (looksLikeRtf(bytes))
+        return withCause(readRtf(bytes));
+    if (type == "text/html" || type == "application/xhtml+xml" || looksLikeHtml(bytes))
+        return withCause(readHtml(bytes));
+    if (type == "text/plain")
         return plainChunk(bytes);
     return DocxError::UnreadableChunk;
 }
@@ -48,8 +75,9 @@ Chunk readAlternativeChunk(
     Chunk chunk = chunkOfType(document.types.typeOf(*part), bytes.value(), document.package.allowance());
     if (!chunk || chunk.value().isEmpty() || chunk.value().string().endsWith(u'\n'))
         return chunk;
+    const AttributedString &text = chunk.value();
     AttributedStringBuilder ended;
-    ended.append(chunk.value());
-    ended.append(u"\n", chunk.value().attributesAt(chunk.value().length() - 1));
+    ended.append(text);
+    ended.append(u"\n", text.attributesAt(text.length() - 1));
     return ended.build();
 }
