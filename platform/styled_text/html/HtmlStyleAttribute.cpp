@@ -142,8 +142,9 @@ std::optional<CssLength> lengthOf(const QByteArray &value)
     };
     const auto lengthWith = [](const QByteArray &digits, const Unit &unit) -> std::optional<CssLength> {
         bool isNumber = false;
-        const double number = digits.toDouble(&isNumber);
-        if (!isNumber || !std::isfinite(number) || std::abs(number) > greatestNumber)
+        const double number = digits.toDouble(&isNumber); // heedless of white space
+        if (!isNumber || isHtmlSpace(digits.back()) || !std::isfinite(number)
+            || std::abs(number) > greatestNumber)
             return std::nullopt;
         return CssLength{number * unit.factor, unit.unit};
     };

@@ -47,6 +47,9 @@ private:
 
     void visit(const GumboNode &node)
     {
+        // The parser follows a standard in which isindex was a form with words; it is nothing any more.
+        if (node.parse_flags & GUMBO_INSERTION_FROM_ISINDEX)
+            return;
         switch (node.type) {
         case GUMBO_NODE_ELEMENT:
             return enter(node.v.element);

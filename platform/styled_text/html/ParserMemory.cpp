@@ -20,12 +20,14 @@ constexpr size_t memoryPerByte = 192;
 /// Processor time that parsing takes at most. Honest pages need about 50 ns for every byte; many attributes
 /// of one element, or formatting elements that overlap in certain ways, need the more for each the more there
 /// are.
-constexpr std::chrono::nanoseconds timeBase = 2s;
-constexpr std::chrono::nanoseconds timePerByte = 500ns;
+constexpr std::chrono::nanoseconds timeBase = 1s;
+constexpr std::chrono::nanoseconds timePerByte = 1us;
 constexpr int callsPerLookAtClock = 64;
 
-/// Before every block stands its size.
-constexpr size_t headerSize = alignof(std::max_align_t);
+/// Before every block stands its size. Nothing of the parser's needs a wider alignment than that.
+constexpr size_t headerSize = sizeof(size_t);
+constexpr size_t blockAlignment = alignof(size_t);
+static_assert(alignof(GumboNode) <= blockAlignment && alignof(GumboAttribute) <= blockAlignment);
 
 std::chrono::nanoseconds processorTime()
 {
@@ -92,7 +94,7 @@ void *ParserMemory::allocate(size_t size)
     }
     void *block = nullptr;
     try {
-        block = m_pool.allocate(headerSize + size, headerSize);
+        block = m_pool.allocate(headerSize + size, blockAlignment);
     } catch (const std::bad_alloc &) {
         m_refusal = m_source.hasReachedLimit() ? HtmlError::TooIntricate : HtmlError::NotEnoughMemory;
         return nullptr;
@@ -115,7 +117,7 @@ void ParserMemory::release(void *block)
     void *start = static_cast<std::byte *>(block) - headerSize;
     size_t size = 0;
     std::memcpy(&size, start, sizeof size);
-    m_pool.deallocate(start, headerSize + size, headerSize);
+    m_pool.deallocate(start, headerSize + size, blockAlignment);
 }
 
 /// No element is more than one level deeper than the one before, so that the depth need only be measured

@@ -404,6 +404,11 @@ TEST(InnerText, ListMarkersAndQuotationMarksOfTheStyleSheetAreNoText)
     expectTexts({{"<ol start=3><li value=7>a</ol><q>b</q>", u"a\nb"}});
 }
 
+TEST(InnerText, AnIndexFormOfOldIsNothing)
+{
+    expectTexts({{"a<isindex prompt=x>b", u"ab"}});
+}
+
 TEST(InnerText, ACutPageHasTheTextBeforeTheCut)
 {
     expectTexts({{"<p>a<b class='x", u"a"}, {"<p>a<!-- x", u"a"}, {"<p>a<", u"a<"}, {"<p>a&am", u"a&am"},
