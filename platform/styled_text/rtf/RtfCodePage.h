@@ -14,8 +14,8 @@ struct RtfCodePage {
     };
 
     qint32 number;
+    Kind kind;
     const char *encoding; ///< as ICU knows it; null for fonts
-    Kind kind = Kind::Encoding;
 };
 
 /// Null where it is none that is known. Pages live as long as the process.

@@ -313,5 +313,5 @@ void RtfInterpreter::finishBytes()
     if (m_state.destination == RtfDestination::FontTable)
         m_fonts.finishName(m_decoder);
     else
-        m_decoder.finish(isText() ? *target() : m_name);
+        m_decoder.finish(isText() ? flow().under(m_state.format) : m_name);
 }
