@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "platform/views/widgets/ViewBinding.h"
+
+#include "platform/views/ClipView.h"
+#include "platform/views/Label.h"
+#include "platform/views/Window.h"
+#include "platform/views/widgets/PixelGeometry.h"
+#include "platform/views/widgets/ViewWidgets.h"
+
+#include <QApplication>
+#include <QGraphicsOpacityEffect>
+#include <QPropertyAnimation>
+#include <QWheelEvent>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double wheelStep = 120; // of QWheelEvent::angleDelta(), a notch of an ordinary wheel
+
+/// In points: as far as a touchpad says, or the user's number of lines for every notch.
+ScrollWheelEvent scrollOf(const QWheelEvent &event, const QWidget &widget)
+{
+    if (!event.pixelDelta().isNull())
+        return {double(event.pixelDelta().x()), double(event.pixelDelta().y())};
+    const double notch = QApplication::wheelScrollLines() * widget.fontMetrics().lineSpacing();
+    return {event.angleDelta().x() / wheelStep * notch, event.angleDelta().y() / wheelStep * notch};
+}
+
+} // namespace
+
+ViewBinding::ViewBinding(View &view, QWidget &parent, const WindowBindings &bindings)
+    : m_view(&view)
+    , m_bindings(bindings)
+    , m_widget(makeViewWidget(view, &parent))
+{
+    m_widget->installEventFilter(this);
+    followView();
+    bindSubviews();
+    setTextMeasurer();
+    fade(0);
+    showOrHide();
+}
+
+ViewBinding::~ViewBinding()
+{
+    m_subviews.clear();
+    delete m_widget;
+}
+
+void ViewBinding::followView()
+{
+    const auto layOutAgain = [this] { layOut(m_parentOrigin); };
+    connect(m_view, &View::frameDidChange, this, layOutAgain);
+    connect(m_view, &View::hiddenDidChange, this, &ViewBinding::showOrHide);
+    connect(m_view, &View::alphaValueDidChange, this, &ViewBinding::fade);
+    connect(m_view, &View::subviewsDidChange, this, [this, layOutAgain] {
+        bindSubviews();
+        layOutAgain();
+    });
+    if (auto *const clipView = dynamic_cast<ClipView *>(m_view.get()))
+        connect(clipView, &ClipView::boundsDidChange, this, layOutAgain);
+}
+
+void ViewBinding::bindSubviews()
+{
+    std::vector<std::unique_ptr<ViewBinding>> bindings;
+    for (const std::shared_ptr<View> &subview : m_view->subviews()) {
+        std::unique_ptr<ViewBinding> binding = takeBinding(*subview);
+        if (!binding)
+            binding = std::make_unique<ViewBinding>(*subview, *m_widget, m_bindings);
+        // The order of widgets is that of the views: which lies above, and which is read first.
+        binding->m_widget->raise();
+        bindings.push_back(std::move(binding));
+    }
+    m_subviews = std::move(bindings);
+}
+
+std::unique_ptr<ViewBinding> ViewBinding::takeBinding(const View &subview)
+{
+    for (std::unique_ptr<ViewBinding> &binding : m_subviews) {
+        if (binding && binding->view() == &subview)
+            return std::move(binding);
+    }
+    return nullptr;
+}
+
+void ViewBinding::layOut(const QPoint &parentOrigin)
+{
+    m_parentOrigin = parentOrigin;
+    if (!m_view || !m_widget)
+        return;
+    const QRect inWindow = pixelRectInWindow(
+        m_view->convertToWindow(m_view->bounds()), roundedToPixel(m_bindings.window.frame().height()));
+    m_widget->setGeometry(inWindow.translated(-parentOrigin));
+    for (const std::unique_ptr<ViewBinding> &subview : m_subviews)
+        subview->layOut(inWindow.topLeft());
+}
+
+void ViewBinding::setTextMeasurer()
+{
+    if (auto *const label = dynamic_cast<Label *>(m_view.get()))
+        label->setTextMeasurer(m_bindings.measurer);
+    for (const std::unique_ptr<ViewBinding> &subview : m_subviews)
+        subview->setTextMeasurer();
+}
+
+void ViewBinding::showOrHide()
+{
+    m_widget->setVisible(!m_view->isHidden());
+}
+
+QGraphicsOpacityEffect &ViewBinding::opacityEffect()
+{
+    if (!m_widget->graphicsEffect()) {
+        auto *const effect = new QGraphicsOpacityEffect(m_widget);
+        effect->setOpacity(1);
+        m_widget->setGraphicsEffect(effect);
+    }
+    return *static_cast<QGraphicsOpacityEffect *>(m_widget->graphicsEffect());
+}
+
+void ViewBinding::fade(int milliseconds)
+{
+    const double alpha = m_view->alphaValue();
+    if (alpha == 1 && !m_widget->graphicsEffect())
+        return;
+    QGraphicsOpacityEffect &effect = opacityEffect();
+    qDeleteAll(effect.findChildren<QPropertyAnimation *>());
+    if (milliseconds <= 0) {
+        // An opaque widget needs no effect, which would draw it into a picture first.
+        if (alpha == 1)
+            m_widget->setGraphicsEffect(nullptr);
+        else
+            effect.setOpacity(alpha);
+        return;
+    }
+    auto *const animation = new QPropertyAnimation(&effect, "opacity", &effect);
+    animation->setDuration(milliseconds);
+    animation->setEndValue(alpha);
+    // Ends by a call without a duration, which does away with the effect and the animation.
+    connect(
+        animation, &QPropertyAnimation::finished, this, [this] { fade(0); }, Qt::QueuedConnection);
+    animation->start();
+}
+
+bool ViewBinding::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::Wheel || !m_view)
+        return QObject::eventFilter(watched, event);
+    m_view->scrollWheel(scrollOf(*static_cast<QWheelEvent *>(event), *m_widget));
+    return true;
+}

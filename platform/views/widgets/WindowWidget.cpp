@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "platform/views/widgets/WindowWidget.h"
+
+#include "platform/views/widgets/LabelTextMeasurer.h"
+#include "platform/views/widgets/PixelGeometry.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QShortcut>
+#include <QWindow>
+
+#include <chrono>
+
+namespace {
+
+// After a change by the program, the display may still report former places and sizes for a while.
+constexpr std::chrono::milliseconds settlingTime{300};
+
+Qt::WindowFlags flagsOf(const Window &window)
+{
+    const unsigned style = window.styleMask();
+    const bool isFloating = window.level() == WindowLevel::Floating;
+    Qt::WindowFlags flags = isFloating ? Qt::Tool | Qt::WindowStaysOnTopHint : Qt::Window;
+    flags |= Qt::CustomizeWindowHint;
+    flags |=
+        style & Window::titled ? Qt::WindowTitleHint | Qt::WindowSystemMenuHint : Qt::FramelessWindowHint;
+    if (style & Window::closable)
+        flags |= Qt::WindowCloseButtonHint;
+    if (style & Window::miniaturizable)
+        flags |= Qt::WindowMinimizeButtonHint;
+    if (style & Window::resizable)
+        flags |= Qt::WindowMaximizeButtonHint;
+    if (!window.canBecomeKeyWindow())
+        flags |= Qt::WindowDoesNotAcceptFocus;
+    return flags;
+}
+
+QRect primaryScreenRect()
+{
+    return QGuiApplication::primaryScreen()->geometry();
+}
+
+} // namespace
+
+WindowWidget::WindowWidget(std::shared_ptr<Window> window)
+    : m_window(std::move(window))
+    , m_bindings{*m_window, nullptr}
+    , m_copyShortcut(new QShortcut(QKeySequence::Copy, this, this, &WindowWidget::copy))
+{
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(settlingTime);
+    connect(&m_settling, &QTimer::timeout, this, &WindowWidget::takeOverGeometry);
+    followWindow();
+    followScreens();
+    applyStyle();
+    applyFrame();
+    takeOverScreen();
+    bindContent();
+    if (m_window->isVisible())
+        show();
+}
+
+WindowWidget::~WindowWidget() = default;
+
+void WindowWidget::followWindow()
+{
+    Window *const window = m_window.get();
+    connect(window, &Window::frameDidChange, this, &WindowWidget::applyFrame);
+    connect(window, &Window::contentViewDidChange, this, &WindowWidget::bindContent);
+    connect(window, &Window::styleMaskDidChange, this, &WindowWidget::applyStyle);
+    connect(window, &Window::levelDidChange, this, &WindowWidget::applyStyle);
+    connect(window, &Window::orderedFront, this, &WindowWidget::show);
+    connect(window, &Window::orderedOut, this, &WindowWidget::hide);
+    const auto applyTitle = [this] { setWindowTitle(m_window->title()); };
+    connect(window, &Window::titleDidChange, this, applyTitle);
+    applyTitle();
+    const auto applyCopy = [this] { m_copyShortcut->setEnabled(m_window->canCopy()); };
+    connect(window, &Window::copyProviderDidChange, this, applyCopy);
+    applyCopy();
+}
+
+void WindowWidget::followScreens()
+{
+    const auto followPrimary = [this](const QScreen *screen) {
+        disconnect(m_primaryScreen);
+        if (!screen)
+            return;
+        m_primaryScreen = connect(screen, &QScreen::geometryChanged, this, &WindowWidget::takeOverGeometry);
+        takeOverGeometry();
+    };
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, followPrimary);
+    followPrimary(QGuiApplication::primaryScreen());
+}
+
+void WindowWidget::bindContent()
+{
+    m_content.reset();
+    if (!m_window->contentView())
+        return;
+    m_content = std::make_unique<ViewBinding>(*m_window->contentView(), *this, m_bindings);
+    m_content->layOut({});
+    Q_EMIT m_window->textMetricsDidChange();
+}
+
+void WindowWidget::applyStyle()
+{
+    const Qt::WindowFlags flags = flagsOf(*m_window);
+    setAttribute(Qt::WA_ShowWithoutActivating, !m_window->canBecomeKeyWindow());
+    applySizeLimits();
+    if (flags == windowFlags())
+        return;
+    const QRect place = geometry();
+    setWindowFlags(flags); // hides the widget
+    setGeometry(place); // it would put a title bar there otherwise
+    m_settling.start();
+    if (m_window->isVisible())
+        show();
+}
+
+void WindowWidget::applySizeLimits()
+{
+    if (m_window->styleMask() & Window::resizable) {
+        setMinimumSize(1, 1);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    } else {
+        setFixedSize(pixelRectOnScreen(m_window->frame(), primaryScreenRect()).size());
+    }
+}
+
+void WindowWidget::applyFrame()
+{
+    if (m_takingOver)
+        return;
+    const QRect pixels = pixelRectOnScreen(m_window->frame(), primaryScreenRect());
+    m_settling.start();
+    // Place and size change in one step, so that the window does not jump; only then the size is fixed again.
+    setMinimumSize(size().boundedTo(pixels.size()));
+    setMaximumSize(size().expandedTo(pixels.size()));
+    setGeometry(pixels);
+    applySizeLimits();
+}
+
+void WindowWidget::takeOverGeometry()
+{
+    if (m_settling.isActive() || !isVisible() || isMinimized())
+        return;
+    const QScopedValueRollback guard(m_takingOver, true);
+    m_window->setFrame(frameOnScreen(geometry(), primaryScreenRect(), m_window->frame()), false, false);
+}
+
+void WindowWidget::takeOverScreen()
+{
+    m_window->setBackingScaleFactor(devicePixelRatioF());
+    auto measurer = std::make_shared<const LabelTextMeasurer>(*this);
+    if (m_measurer && m_measurer->measuresAs(*measurer))
+        return;
+    m_measurer = std::move(measurer);
+    m_bindings.measurer = m_measurer;
+    if (!m_content)
+        return;
+    m_content->setTextMeasurer();
+    Q_EMIT m_window->textMetricsDidChange();
+}
+
+void WindowWidget::show()
+{
+    QWidget::show();
+    raise();
+    if (m_window->canBecomeKeyWindow())
+        activateWindow();
+}
+
+bool WindowWidget::event(QEvent *event)
+{
+    const bool isHandled = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::ScreenChangeInternal:
+    case QEvent::ApplicationFontChange:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        takeOverScreen();
+        break;
+    default:
+        break;
+    }
+    return isHandled;
+}
+
+void WindowWidget::moveEvent(QMoveEvent *event)
+{
+    QWidget::moveEvent(event);
+    takeOverGeometry();
+}
+
+void WindowWidget::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    takeOverGeometry();
+}
+
+void WindowWidget::closeEvent(QCloseEvent *event)
+{
+    event->ignore(); // the window hides the widget, if its owner lets it
+    m_window->performClose();
+}
+
+void WindowWidget::mousePressEvent(QMouseEvent *event)
+{
+    m_pressedAt.reset();
+    if (event->button() == Qt::LeftButton && m_window->isMovableByBackground())
+        m_pressedAt = event->globalPosition().toPoint();
+}
+
+void WindowWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_pressedAt || !(event->buttons() & Qt::LeftButton))
+        return;
+    const QPoint way = event->globalPosition().toPoint() - *m_pressedAt;
+    if (way.manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_pressedAt.reset(); // from here on the window manager has the pointer
+    windowHandle()->startSystemMove();
+}
+
+void WindowWidget::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    m_pressedAt.reset();
+}
+
+void WindowWidget::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!m_window->canCopy())
+        return;
+    auto *const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    // Qt's own word, in the user's language.
+    QAction *const action = menu->addAction(QCoreApplication::translate("QWidgetTextControl", "&Copy"));
+    action->setShortcut(QKeySequence::Copy);
+    connect(action, &QAction::triggered, this, &WindowWidget::copy);
+    menu->popup(event->globalPos());
+}
+
+void WindowWidget::copy()
+{
+    const MimeContent content = m_window->contentToCopy();
+    if (content.empty())
+        return;
+    auto forms = std::make_unique<QMimeData>();
+    for (const auto &[type, bytes] : content)
+        forms->setData(type, bytes);
+    QGuiApplication::clipboard()->setMimeData(forms.release());
+}

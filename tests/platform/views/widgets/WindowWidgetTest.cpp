@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/views/widgets/ShownWindow.h"
+
+namespace {
+
+QByteArray propertyOf(const ShownWindow &shown, const char *name)
+{
+    return TestDisplay::outputOf(
+        QStringLiteral("xprop"), {QStringLiteral("-id"), shown.identifier(), QString::fromLatin1(name)});
+}
+
+} // namespace
+
+TEST(WindowWidget, PutsTheContentWhereTheFrameIs)
+{
+    for (const unsigned style : {0U, Window::titled, Window::titled | Window::resizable}) {
+        ShownWindow shown({100, 200, 300, 150}, style);
+        shown.show();
+        EXPECT_EQ(shown.frameOnDisplay(), QRectF(100, 200, 300, 150)) << style;
+        EXPECT_EQ(shown.window().frame(), QRectF(100, 200, 300, 150)) << style;
+    }
+}
+
+TEST(WindowWidget, AWindowThatChangesItsSizeKeepsItsBottomLeftCorner)
+{
+    for (const unsigned style : {0U, Window::titled, Window::titled | Window::resizable}) {
+        ShownWindow shown({100, 200, 300, 150}, style);
+        shown.show();
+        for (const QSizeF size :
+            {QSizeF(300, 170), QSizeF(290, 60), QSizeF(290, 400), QSizeF(291, 399), QSizeF(40, 10)}) {
+            shown.window().setFrame({{100, 200}, size}, true, false);
+            EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == shown.window().frame(); }))
+                << style << " " << size.height();
+            EXPECT_EQ(shown.window().frame(), QRectF({100, 200}, size));
+            EXPECT_TRUE(waitUntil([&] { return QSizeF(shown.widget().size()) == size; }));
+        }
+    }
+}
+
+TEST(WindowWidget, ManyChangesInARowEndAtTheLast)
+{
+    ShownWindow shown({100, 200, 300, 150});
+    shown.show();
+    std::vector<QRectF> announced;
+    QObject::connect(&shown.window(), &Window::frameDidChange, &shown.widget(),
+        [&] { announced.push_back(shown.window().frame()); });
+    for (int i = 0; i < 50; ++i)
+        shown.window().setFrame({100, 200, 300, 150.0 + i}, true, false);
+    EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(100, 200, 300, 199); }));
+    EXPECT_EQ(shown.window().frame(), QRectF(100, 200, 300, 199));
+    EXPECT_EQ(announced.size(), 49U);
+}
+
+TEST(WindowWidget, FractionsOfTheFrameStayInTheWindow)
+{
+    ShownWindow shown({100.5, 200.25, 300.5, 150.5});
+    shown.window().orderFront();
+    EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(101, 200, 301, 151); }));
+    EXPECT_EQ(shown.window().frame(), QRectF(100.5, 200.25, 300.5, 150.5));
+    EXPECT_EQ(shown.content().frame(), QRectF(0, 0, 300.5, 150.5));
+}
+
+TEST(WindowWidget, WhatTheUserMakesOfTheWindowIsItsFrame)
+{
+    ShownWindow shown({100, 200, 300, 150}, Window::titled | Window::resizable, WindowLevel::Normal);
+    shown.show();
+    const QString window = shown.identifier();
+    TestDisplay::xdotool(
+        {QStringLiteral("windowsize"), window, QStringLiteral("360"), QStringLiteral("190")});
+    EXPECT_TRUE(waitUntil([&] { return shown.window().frame().size() == QSizeF(360, 190); }));
+    EXPECT_EQ(shown.content().frame(), QRectF(0, 0, 360, 190));
+    TestDisplay::xdotool({QStringLiteral("windowmove"), window, QStringLiteral("500"), QStringLiteral("50")});
+    EXPECT_TRUE(waitUntil([&] { return shown.window().frame().x() >= 500; }));
+    EXPECT_TRUE(waitUntil([&] { return shown.window().frame() == shown.frameOnDisplay(); }));
+    EXPECT_EQ(shown.window().frame().size(), QSizeF(360, 190));
+}
+
+TEST(WindowWidget, AWindowThatIsNotResizableKeepsItsSize)
+{
+    ShownWindow shown({100, 200, 300, 150}, Window::titled);
+    shown.show();
+    EXPECT_THAT(propertyOf(shown, "WM_NORMAL_HINTS").toStdString(),
+        ::testing::AllOf(::testing::HasSubstr("minimum size: 300 by 150"),
+            ::testing::HasSubstr("maximum size: 300 by 150")));
+    shown.window().setStyleMask(Window::titled | Window::resizable);
+    EXPECT_TRUE(waitUntil(
+        [&] { return !propertyOf(shown, "WM_NORMAL_HINTS").contains("maximum size: 300 by 150"); }));
+    EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(100, 200, 300, 150); }));
+}
+
+TEST(WindowWidget, StyleAndLevelAreThoseOfTheWindow)
+{
+    ShownWindow shown({100, 200, 300, 150});
+    shown.show();
+    const auto has = [&shown](
+                         Qt::WindowFlags flags) { return (shown.widget().windowFlags() & flags) == flags; };
+    EXPECT_TRUE(has(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint));
+    EXPECT_THAT(
+        propertyOf(shown, "_NET_WM_STATE").toStdString(), ::testing::HasSubstr("_NET_WM_STATE_ABOVE"));
+    EXPECT_THAT(propertyOf(shown, "_NET_FRAME_EXTENTS").toStdString(), ::testing::HasSubstr("0, 0, 0, 0"));
+
+    shown.window().setStyleMask(Window::titled | Window::closable);
+    EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(100, 200, 300, 150); }))
+        << shown.describe();
+    EXPECT_TRUE(has(Qt::WindowTitleHint | Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(has(Qt::FramelessWindowHint));
+    EXPECT_FALSE(has(Qt::WindowMinimizeButtonHint));
+    shown.window().setStyleMask(Window::titled | Window::miniaturizable);
+    EXPECT_TRUE(has(Qt::WindowMinimizeButtonHint));
+    EXPECT_FALSE(has(Qt::WindowCloseButtonHint));
+
+    shown.window().setLevel(WindowLevel::Normal);
+    EXPECT_FALSE(has(Qt::WindowStaysOnTopHint));
+    EXPECT_EQ(shown.widget().windowType(), Qt::Window);
+    EXPECT_TRUE(shown.widget().isVisible());
+    EXPECT_TRUE(waitUntil([&] { return !propertyOf(shown, "_NET_WM_STATE").contains("ABOVE"); }));
+}
+
+TEST(WindowWidget, OnlyAKeyWindowTakesTheKeyboard)
+{
+    ShownWindow key({100, 200, 300, 150});
+    key.show();
+    EXPECT_TRUE(waitUntil([&] { return key.widget().isActiveWindow(); }));
+    const auto plain = std::make_shared<Window>(QRectF(500, 200, 300, 150));
+    WindowWidget plainWidget(plain);
+    plain->orderFront();
+    EXPECT_TRUE(waitUntil([&] { return plainWidget.windowHandle()->isExposed(); }));
+    EXPECT_TRUE(plainWidget.windowFlags() & Qt::WindowDoesNotAcceptFocus);
+    EXPECT_TRUE(key.widget().isActiveWindow());
+}
+
+TEST(WindowWidget, ShowsAndHidesWithTheWindow)
+{
+    ShownWindow shown({100, 200, 300, 150});
+    EXPECT_FALSE(shown.widget().isVisible());
+    shown.show();
+    EXPECT_TRUE(shown.widget().isVisible());
+    shown.window().orderOut();
+    EXPECT_FALSE(shown.widget().isVisible());
+    shown.window().setFrame({150, 250, 320, 160}, false, false);
+    shown.show();
+    EXPECT_EQ(shown.frameOnDisplay(), QRectF(150, 250, 320, 160));
+}
+
+TEST(WindowWidget, ACloseRequestGoesToTheWindow)
+{
+    ShownWindow shown({100, 200, 300, 150}, Window::titled | Window::closable, WindowLevel::Normal);
+    shown.show();
+    EXPECT_TRUE(waitUntil([&] { return shown.widget().isActiveWindow(); }));
+    int requests = 0;
+    QObject::connect(&shown.window(), &Window::closeRequested, &shown.widget(), [&requests] { ++requests; });
+    shown.window().setClosesOnRequest(false);
+    TestDisplay::xdotool({QStringLiteral("key"), QStringLiteral("alt+F4")});
+    EXPECT_TRUE(waitUntil([&] { return requests == 1; }));
+    EXPECT_TRUE(shown.widget().isVisible());
+    shown.window().setClosesOnRequest(true);
+    TestDisplay::xdotool({QStringLiteral("key"), QStringLiteral("alt+F4")});
+    EXPECT_TRUE(waitUntil([&] { return !shown.widget().isVisible(); }));
+    EXPECT_FALSE(shown.window().isVisible());
+    EXPECT_EQ(requests, 2);
+}
+
+TEST(WindowWidget, HasTheTitleOfTheWindow)
+{
+    ShownWindow shown({100, 200, 300, 150}, Window::titled);
+    shown.window().setTitle(QStringLiteral("Statistics"));
+    EXPECT_EQ(shown.widget().windowTitle(), QStringLiteral("Statistics"));
+}
