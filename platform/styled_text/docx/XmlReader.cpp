@@ -12,7 +12,8 @@
 namespace {
 
 constexpr int greatestDepth = 2'000;
-// Bytes of one tag or comment. The drawings of old shapes are attributes of hundreds of kilobytes.
+// Bytes of one tag or comment; some twice as long are let through. The drawings of old shapes are attributes
+// of hundreds of kilobytes.
 constexpr qsizetype longestToken = 16'777'216;
 constexpr qsizetype shortestFeed = 65'536;
 

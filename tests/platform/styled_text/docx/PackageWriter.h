@@ -15,8 +15,8 @@ class ZipWriter {
 public:
     enum class Method { Stored, Deflated };
     struct Entry {
-        QByteArray name;
-        QByteArray contents;
+        QByteArray name = {};
+        QByteArray contents = {};
         Method method = Method::Stored;
         std::optional<quint32> claimedLength = std::nullopt; ///< of the contents, where it is a lie
         bool isEncrypted = false; ///< flagged so; the contents are not
@@ -48,7 +48,7 @@ struct WordPackage {
         QByteArray relationshipType; ///< the last part of the URI
         QByteArray target; ///< as the relationship names it
         QByteArray contentType;
-        QByteArray contents;
+        QByteArray contents = {};
         bool isExternal = false; ///< related only, not in the package
     };
     std::vector<Part> others = {};
