@@ -85,11 +85,11 @@ void ServiceChannel::send(
 
 void ServiceChannel::close()
 {
+    m_isClosed = true;
     m_replies.close();
     QMetaObject::invokeMethod(
         this,
         [this] {
-            m_isClosed = true;
             m_requests.clear();
             m_watcher.reset();
             m_bus.reset();
@@ -99,8 +99,6 @@ void ServiceChannel::close()
 
 void ServiceChannel::accept(Identifier identifier, const Request &request)
 {
-    if (m_isClosed)
-        return;
     m_requests.emplace(identifier, request);
     if (m_isResumed)
         call(identifier);
@@ -116,6 +114,8 @@ void ServiceChannel::callWhatWaits()
 
 void ServiceChannel::call(Identifier identifier)
 {
+    if (m_isClosed)
+        return;
     if (!connectToBus()) {
         giveUp(identifier, publicly(QStringLiteral("no session bus")), m_bus->bus().lastError().message());
         return;
@@ -215,8 +215,10 @@ void ServiceChannel::callEnded(Identifier identifier, const QDBusMessage &answer
 
 void ServiceChannel::giveUp(Identifier identifier, const LogArgument &cause, const LogArgument &details)
 {
-    LogChannel::standard().error(u"No answer from {} to {}: {}: {}",
-        {publicly(m_serviceName), publicly(m_requests.at(identifier).content.method), cause, details});
+    if (!m_isClosed) {
+        LogChannel::standard().error(u"No answer from {} to {}: {}: {}",
+            {publicly(m_serviceName), publicly(m_requests.at(identifier).content.method), cause, details});
+    }
     m_requests.erase(identifier);
     m_replies.drop(identifier);
 }

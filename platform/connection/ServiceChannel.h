@@ -11,6 +11,7 @@
 
 #include <QObject>
 
+#include <atomic>
 #include <map>
 #include <memory>
 #include <vector>
@@ -56,7 +57,7 @@ private:
     PendingReplies m_replies;
     std::map<Identifier, Request> m_requests; // in the order in which they came
     bool m_isResumed = false;
-    bool m_isClosed = false;
+    std::atomic<bool> m_isClosed = false;
     std::unique_ptr<SessionBusClient> m_bus;
     std::unique_ptr<QDBusServiceWatcher> m_watcher;
 };

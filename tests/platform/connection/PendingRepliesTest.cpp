@@ -110,36 +110,37 @@ TEST(PendingReplies, EndingHandlersMayAddAndDropOthers)
     pending.add(adder());
 }
 
+// Closes after every possible number of deliveries, while the next one is underway.
 TEST(PendingReplies, ClosingRacesWithDeliveryAndWins)
 {
-    constexpr int rounds = 5000;
-    int delivered = 0;
-    for (int round = 0; round < rounds; ++round) {
+    constexpr int replies = 8;
+    for (int round = 0; round < 1000; ++round) {
         PendingReplies pending;
-        bool isOver = false; // not atomic: what close() promises keeps these from being used at once
-        bool wasLate = false;
-        int calls = 0;
+        std::atomic<int> started = 0;
+        int ended = 0; // not atomic: what close() promises keeps these two from being used at once
+        bool isOver = false;
         std::vector<PendingReplies::Identifier> identifiers;
-        for (int i = 0; i < 8; ++i)
+        for (int i = 0; i < replies; ++i) {
             identifiers.push_back(pending.add([&](const ServiceReply &) {
-                ++calls;
-                wasLate = wasLate || isOver;
+                EXPECT_FALSE(isOver);
+                ++started;
+                started.notify_one();
+                ++ended;
             }));
-        std::atomic<bool> started = false;
+        }
         std::thread deliverer([&] {
-            started = true;
             for (const auto identifier : identifiers)
                 pending.deliver(identifier, {});
         });
-        while (!started) { }
+        for (int seen = 0; seen < round % replies; seen = started)
+            started.wait(seen);
         pending.close();
         isOver = true;
-        delivered += calls;
-        ASSERT_FALSE(wasLate);
+        ASSERT_GE(ended, round % replies);
+        ASSERT_EQ(ended, started);
         deliverer.join();
-        ASSERT_FALSE(wasLate);
+        ASSERT_EQ(ended, started);
     }
-    EXPECT_GT(delivered, 0);
 }
 
 TEST(PendingReplies, RequestsMayBeAddedOnManyThreads)

@@ -105,10 +105,10 @@ TEST_F(ServiceConnectionTest, EveryConnectionIsAClientOfItsOwnForAllOfItsRequest
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto first = resumedConnection();
     const auto second = resumedConnection();
-    for (int i = 0; i < 2; ++i) {
-        send(*first);
-        m_replies.waitFor(m_replies.count() + 1);
-    }
+    send(*first);
+    m_replies.waitFor(1);
+    send(*first);
+    m_replies.waitFor(2);
     send(*second);
     m_replies.waitFor(3);
     const auto received = service.requests();
@@ -218,13 +218,14 @@ TEST_F(ServiceConnectionTest, AHundredConnectionsLeaveNoDescriptorBehind)
     const auto connection = resumedConnection();
     send(*connection);
     service.waitForRequests(1);
-    const qsizetype before = openDescriptors();
+    const qsizetype descriptors = openDescriptors();
     for (size_t i = 0; i < 100; ++i) {
+        const size_t before = service.requests().size();
         const auto another = resumedConnection();
         send(*another);
         if (i % 2 == 0)
-            service.waitForRequests(service.requests().size() + 1);
+            service.waitForRequests(before + 1);
     }
-    EXPECT_TRUE(waitUntil([before] { return openDescriptors() <= before; }))
-        << before << " before, " << openDescriptors() << " after";
+    EXPECT_TRUE(waitUntil([descriptors] { return openDescriptors() <= descriptors; }))
+        << descriptors << " before, " << openDescriptors() << " after";
 }
