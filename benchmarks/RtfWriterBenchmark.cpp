@@ -58,7 +58,7 @@ AttributedString mixed()
 void measureRtf(benchmark::State &state, const AttributedString &text)
 {
     qsizetype size = 0;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         size = writeRtf(text, 0, text.length()).value().size();
     state.SetBytesProcessed(state.iterations() * size);
 }
@@ -66,7 +66,7 @@ void measureRtf(benchmark::State &state, const AttributedString &text)
 void measureRtfd(benchmark::State &state, const AttributedString &text)
 {
     qsizetype size = 0;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         size = RTFDFromRange(text, 0, text.length()).value().size();
     state.SetBytesProcessed(state.iterations() * size);
 }
@@ -74,7 +74,7 @@ void measureRtfd(benchmark::State &state, const AttributedString &text)
 void measureReading(benchmark::State &state, const AttributedString &text)
 {
     const QByteArray bytes = RTFDFromRange(text, 0, text.length()).value();
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(readFlatRtfd(bytes));
     state.SetBytesProcessed(state.iterations() * bytes.size());
 }

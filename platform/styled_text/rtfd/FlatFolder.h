@@ -14,8 +14,7 @@ public:
     /// Whether the bytes begin as every flat RTFD does.
     static bool hasMagic(QByteArrayView bytes);
 
-    /// Absent where the folder's lengths reach beyond the bytes. Of entries with equal names the first
-    /// counts.
+    /// Absent where its lengths reach beyond the bytes. Of entries with equal names the first counts.
     static std::optional<FlatFolder> parsed(QByteArrayView bytes);
 
     enum class Kind { Missing, File, Damaged, Other };

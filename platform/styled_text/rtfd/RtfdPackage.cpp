@@ -50,7 +50,7 @@ public:
 
     Contents contents(const QByteArray &name)
     {
-        const Contents path = realPath(m_prefix + name);
+        Contents path = realPath(m_prefix + name);
         if (!path)
             return path;
         if (!path.value().startsWith(m_prefix))

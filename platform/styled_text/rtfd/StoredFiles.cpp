@@ -91,7 +91,7 @@ QString StoredFiles::nameFor(const Attachment &attachment)
     const auto found = m_names.constFind(identity);
     if (found != m_names.cend())
         return *found;
-    const QString name = freeName(attachment.fileName);
+    QString name = freeName(attachment.fileName);
     m_files.push_back({name, attachment.contents});
     m_names.insert(identity, name);
     return name;

@@ -111,7 +111,7 @@ void RtfDocument::collectAttachment(Style &style, const Attachment &attachment)
     style.attachment += " \\width0 \\height0";
     if (*name != attachment.fileName)
         style.attachment += m_exactValues.fileWord(attachment.fileName);
-    style.attachment += "}\\'ac}";
+    style.attachment += R"(}\'ac})";
 }
 
 void RtfDocument::collectStyle(const AttributedString::Run &run)
@@ -134,7 +134,7 @@ void RtfDocument::writeHeader()
     // As much as plain ASCII takes, so that it is never copied.
     constexpr qsizetype roomForRest = 1024;
     m_rtf.reserve(m_end - m_start + fonts.size() + exactValues.size() + roomForRest);
-    m_rtf += "{\\rtf1\\ansi\\ansicpg1252\\uc0" + defaultTabWord() + '\n' + fonts + exactValues;
+    m_rtf += R"({\rtf1\ansi\ansicpg1252\uc0)" + defaultTabWord() + '\n' + fonts + exactValues;
 }
 
 void RtfDocument::writeWords(const Style &style)

@@ -25,8 +25,9 @@ QString causeText(RtfWriteError error);
 /// order of the text.
 using AttachmentNames = std::function<std::optional<QString>(const Attachment &attachment)>;
 
-/// The RTF of a range that is cut to what the text has of it; RtfReader makes an equal text of it.
-/// Attachments on other characters than U+FFFC, and those that are stored nowhere, are left out. Takes time
-/// proportional to the length and to the distinct attributes. start, length: UTF-16 code units, 0 or more.
+/// The RTF of a range that is cut to what the text has of it; RtfReader makes an equal text of it, within the
+/// bounds that docs/rtf.md names. Attachments on other characters than U+FFFC, and those that are stored
+/// nowhere, are left out. Takes time proportional to the length and to the distinct attributes.
+/// start, length: UTF-16 code units, 0 or more.
 Result<QByteArray, RtfWriteError> writeRtf(const AttributedString &text, qsizetype start, qsizetype length,
     const AttachmentNames &storedNameOf = {});
