@@ -3,16 +3,10 @@
 
 #include <algorithm>
 
-ChangePolicy::ChangePolicy(const FileSighting &known, Clock::Time now)
+ChangePolicy::ChangePolicy(const std::optional<FileState> &known)
+    : m_known(known)
+    , m_lastSeen(known)
 {
-    know(known, now);
-}
-
-void ChangePolicy::know(const FileSighting &seen, Clock::Time now)
-{
-    m_known = seen.state;
-    m_lastSeen = seen.state;
-    m_doubtfulUntil = seen.mayHideAChange ? std::optional(now + doubt) : std::nullopt;
 }
 
 void ChangePolicy::note(FileEvent event, Clock::Time now)
@@ -46,7 +40,9 @@ ChangePolicy::Verdict ChangePolicy::look(const FileSighting &seen, Clock::Time n
     if (seen.state != m_lastSeen)
         m_lastActivity = now;
     m_lastSeen = seen.state;
-    if (!isChanged(*seen.state, now)) {
+    // Writing through mapped memory is told by nothing but the closing at its end and seen by nothing but the
+    // times. Most files that are closed unchanged have just been opened for writing.
+    if (!m_isWritten && m_known == seen.state) {
         m_isFinished = false;
         return {};
     }
@@ -59,20 +55,12 @@ ChangePolicy::Verdict ChangePolicy::look(const FileSighting &seen, Clock::Time n
         return {std::nullopt, settled};
     if (m_lastTold && now < *m_lastTold + burst)
         return {std::nullopt, *m_lastTold + burst};
-    know(seen, now);
+    m_known = seen.state;
     m_isWritten = false;
     m_isFinished = false;
     m_changedSince.reset();
     m_lastTold = now;
     return {FileNews{FileNews::Kind::Changed, {}}, std::nullopt};
-}
-
-bool ChangePolicy::isChanged(const FileState &state, Clock::Time now) const
-{
-    // Writing through mapped memory shows in nothing but the times and, at the end, in the closing. But many
-    // a program opens a file for writing and closes it unchanged.
-    const bool isDoubtful = m_doubtfulUntil && now < *m_doubtfulUntil;
-    return m_isWritten || m_known != state || (m_isFinished && isDoubtful);
 }
 
 ChangePolicy::Verdict ChangePolicy::lookAtNothing(const FileSighting &seen, Clock::Time now)

@@ -13,7 +13,6 @@
 /// What a look at the path of a file has found.
 struct FileSighting {
     std::optional<FileState> state; ///< of what the path names now; absent: nothing
-    bool mayHideAChange = false; ///< whether the state is too young to show a further change
     /// Where nothing is at the path: where the file last seen there is now; absent: deleted or thrown away.
     std::optional<QByteArray> whereabouts;
     std::optional<FileState> stateThere;
@@ -37,8 +36,6 @@ public:
     static constexpr Clock::Time grace{500};
     /// The least time between the news of two changes: those of a burst become one.
     static constexpr Clock::Time burst{100};
-    /// How long a state too young to show a further change casts doubt on a file that is closed unchanged.
-    static constexpr Clock::Time doubt{300};
     /// When a change is told although its writer never pauses.
     static constexpr Clock::Time patience{2000};
 
@@ -48,8 +45,8 @@ public:
     };
 
     ChangePolicy() = default;
-    /// known: what there is at the start.
-    ChangePolicy(const FileSighting &known, Clock::Time now);
+    /// known: the state of the file at the start; absent: there is none yet.
+    explicit ChangePolicy(const std::optional<FileState> &known);
 
     void note(FileEvent event, Clock::Time now);
     /// To be asked after events and at the time that the last verdict named. After a move or a deletion
@@ -58,11 +55,8 @@ public:
 
 private:
     Verdict lookAtNothing(const FileSighting &seen, Clock::Time now);
-    [[nodiscard]] bool isChanged(const FileState &state, Clock::Time now) const;
-    void know(const FileSighting &seen, Clock::Time now);
 
     std::optional<FileState> m_known; // as of the last news
-    std::optional<Clock::Time> m_doubtfulUntil; // whether m_known shows every change
     std::optional<FileState> m_lastSeen;
     bool m_isWritten = false; // since the last news
     bool m_isFinished = false; // the last event says that the writer has finished

@@ -13,6 +13,16 @@
 #include <cerrno>
 #include <cstring>
 
+namespace {
+
+/// Whether something else may have to be watched from now on.
+bool concernsNames(FileEvent event)
+{
+    return event != FileEvent::Written && event != FileEvent::Closed;
+}
+
+} // namespace
+
 FilePresentation::FilePresentation(FilePresenter &presenter, Clock &clock)
     : m_presenter(&presenter)
     , m_clock(clock)
@@ -88,7 +98,7 @@ void FilePresentation::follow(const QByteArray &path)
     else if (changesUnnoticed(m_path))
         poll(0);
     m_pin = PinnedFile(m_path);
-    m_policy = ChangePolicy(sight(), m_clock.now());
+    m_policy = ChangePolicy(sight().state);
 }
 
 void FilePresentation::watch()
@@ -116,10 +126,8 @@ FileSighting FilePresentation::sight()
 {
     FileSighting seen;
     seen.state = fileStateAt(m_path);
-    if (seen.state) {
-        seen.mayHideAChange = mayHideAChange(*seen.state);
+    if (seen.state)
         return seen;
-    }
     // The file is still where it was: it is a symbolic link, and what it led to has gone.
     const std::optional<QByteArray> whereabouts = m_pin.whereabouts();
     if (!whereabouts || isInTrash(*whereabouts) || m_pin.isAt(m_path))
@@ -139,9 +147,6 @@ void FilePresentation::look()
     if (m_lentTo > 0)
         return;
     const bool isElsewhere = !m_pin.isAt(m_path);
-    const auto concernsNames = [](FileEvent event) {
-        return event != FileEvent::Written && event != FileEvent::Closed;
-    };
     if (isElsewhere || m_isFolderMissing || std::any_of(events.begin(), events.end(), concernsNames))
         watch();
     const FileSighting seen = sight();

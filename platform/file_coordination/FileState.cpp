@@ -2,7 +2,6 @@
 #include "platform/file_coordination/FileState.h"
 
 #include <algorithm>
-#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
@@ -11,8 +10,6 @@
 namespace {
 
 constexpr int mostFilesInADocument = 10'000; // a folder with more is seen by the first of them
-constexpr qint64 longestTick =
-    20'000'000; // nanoseconds; a hundred ticks a second is the slowest clock in use
 
 qint64 nanoseconds(const timespec &time)
 {
@@ -58,13 +55,6 @@ bool haveSameContents(const FileState &one, const FileState &other)
     FileState otherwise = other;
     otherwise.changed = one.changed;
     return one == otherwise;
-}
-
-bool mayHideAChange(const FileState &state)
-{
-    timespec now{};
-    ::clock_gettime(CLOCK_REALTIME, &now);
-    return nanoseconds(now) - std::max(state.modified, state.changed) < longestTick;
 }
 
 std::optional<FileState> fileStateAt(const QByteArray &path)

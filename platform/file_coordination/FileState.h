@@ -21,10 +21,6 @@ struct FileState {
 /// Whether both tell of the same file with the same contents; another mode or owner is left out of account.
 bool haveSameContents(const FileState &one, const FileState &other);
 
-/// Whether the last change is so young that another one need not show in the state: the times of files move
-/// on with the ticks of the system's clock.
-bool mayHideAChange(const FileState &state);
-
 /// Of the document behind the path, symbolic links followed; absent where there is none. A folder is taken
 /// with the files directly in it, as a document with attachments has them. path: bytes in any encoding.
 std::optional<FileState> fileStateAt(const QByteArray &path);

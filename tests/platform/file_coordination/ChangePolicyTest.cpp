@@ -33,7 +33,7 @@ std::optional<FileNews::Kind> kindOf(const ChangePolicy::Verdict &verdict)
 class ChangePolicyTest : public ::testing::Test {
 protected:
     const FileSighting m_before = sighting(7, 10);
-    ChangePolicy m_policy{m_before, 0ms};
+    ChangePolicy m_policy{m_before.state};
 };
 
 TEST_F(ChangePolicyTest, TellsNothingWhereNothingHasChanged)
@@ -123,17 +123,6 @@ TEST_F(ChangePolicyTest, AClosingTellsOfAWriteThroughMappedMemory)
     EXPECT_EQ(kindOf(m_policy.look(sighting(7, 10, 5), 0ms)), FileNews::Kind::Changed);
 }
 
-TEST_F(ChangePolicyTest, AClosingIsAChangeSoonAfterAStateThatMayHideOne)
-{
-    FileSighting young = m_before;
-    young.mayHideAChange = true;
-    ChangePolicy policy{young, 0ms};
-    policy.note(FileEvent::Closed, 299ms);
-    EXPECT_EQ(kindOf(policy.look(young, 299ms)), FileNews::Kind::Changed);
-    policy.note(FileEvent::Closed, 599ms);
-    EXPECT_FALSE(policy.look(young, 599ms).news);
-}
-
 TEST_F(ChangePolicyTest, WithoutEventsAStateThatStaysIsAChange)
 {
     EXPECT_EQ(m_policy.look(sighting(7, 12), 1000ms).lookAgain, 1150ms);
@@ -209,7 +198,7 @@ TEST_F(ChangePolicyTest, TheGraceBeginsAnewAfterTheNameWasBack)
 
 TEST(ChangePolicyWithoutAFile, WaitsForOneToComeAndTellsAChange)
 {
-    ChangePolicy policy{nothing(), 0ms};
+    ChangePolicy policy{std::nullopt};
     EXPECT_FALSE(policy.look(nothing(), 10'000ms).news);
     policy.note(FileEvent::Replaced, 20'000ms);
     EXPECT_EQ(kindOf(policy.look(sighting(7, 10), 20'000ms)), FileNews::Kind::Changed);

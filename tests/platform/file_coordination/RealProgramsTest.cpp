@@ -23,6 +23,7 @@ struct Save {
     const char *mode;
     /// Shell commands in the folder of the document, f.txt; they leave "after" somewhere in it.
     const char *commands;
+    int mostChanges = 1; ///< more where it is several saves
 };
 
 // Types the keys after the last pattern once the terminal's screen has shown each pattern.
@@ -54,12 +55,14 @@ const Save saves[] = {
     {"vim", "two saves",
         "$VIM_PROGRAM -u NONE -i NONE -N -es -c 'set backupcopy=no' -c 's/before/between/' -c w -c "
         "'s/between/after/' "
-        "-c wq f.txt"},
+        "-c wq f.txt",
+        2},
     {"emacs", "first save",
         "emacs -Q --batch f.txt --eval '(progn (erase-buffer) (insert \"after\") (save-buffer))'"},
     {"emacs", "two saves",
         "emacs -Q --batch f.txt --eval '(progn (erase-buffer) (save-buffer) (insert \"after\") "
-        "(save-buffer))'"},
+        "(save-buffer))'",
+        2},
     {"emacs", "backup-by-copying",
         "emacs -Q --batch f.txt --eval '(progn (setq backup-by-copying t) (erase-buffer) (insert \"after\") "
         "(save-buffer))'"},
@@ -85,7 +88,7 @@ const Save saves[] = {
     {"rsync", "--inplace -t", "echo after and more > g; rsync --inplace -t g f.txt"},
     {"git", "checkout", "git checkout -q other"},
     {"git", "checkout of the file", "git checkout -q other -- f.txt"},
-    {"git", "stash", "git checkout -q other; echo more >> f.txt; git stash -q"},
+    {"git", "stash", "git checkout -q other; echo more >> f.txt; git stash -q", 3},
     {"dd", "", "echo after | dd of=f.txt status=none"},
     {"dd", "conv=notrunc", "echo after | dd of=f.txt conv=notrunc status=none"},
     {"dd", "bs=1", "echo after | dd of=f.txt bs=1 status=none"},
@@ -191,11 +194,11 @@ TEST_P(RealProgramsTest, ASaveIsAChangeAndNothingElse)
                                "git commit -qam 2; git checkout -q -")));
     }
     FileCoordinator::addFilePresenter(&m_presenter, m_clock);
-    m_clock.advance(1s); // the file is not new any more
     runWatched(QString::fromLatin1(save.commands));
     const QStringList news = m_presenter.takeNews();
     std::printf("| %s | %s | %s |\n", save.program, save.mode, qPrintable(news.join(QStringLiteral(", "))));
     EXPECT_FALSE(news.isEmpty());
+    EXPECT_LE(news.size(), save.mostChanges);
     for (const QString &one : news)
         EXPECT_EQ(one, QStringLiteral("changed"));
     EXPECT_TRUE(m_presenter.contents().contains("after"));
