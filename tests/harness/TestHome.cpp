@@ -107,5 +107,8 @@ void TestHome::reset()
         throw std::runtime_error("cannot write the font configuration");
     fonts.write("<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n<fontconfig>\n"
                 "<dir>/usr/share/fonts</dir>\n<cachedir>/var/cache/fontconfig</cachedir>\n"
-                "<cachedir prefix=\"xdg\">fontconfig</cachedir>\n</fontconfig>\n");
+                "<cachedir prefix=\"xdg\">fontconfig</cachedir>\n"
+                // The desktop's font for labels; without a preference any font of the folder would do.
+                "<alias><family>Sans Serif</family><prefer><family>DejaVu Sans</family></prefer></alias>\n"
+                "</fontconfig>\n");
 }
