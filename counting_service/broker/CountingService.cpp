@@ -1,36 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "counting_service/broker/CountingService.h"
 
+#include "counting_service/broker/BusLimits.h"
 #include "counting_service/broker/ServiceLog.h"
 
 #include <QCoreApplication>
 #include <QDBusError>
 
-#include <sys/resource.h>
-
-#include <algorithm>
 #include <memory>
 #include <utility>
 
 namespace {
-
-/// Of an open request: in the message, which its reply keeps, and of our own.
-constexpr size_t descriptorsPerRequest = 2;
-/// For all else: the bus, the workers, the libraries.
-constexpr size_t otherDescriptors = 256;
-
-// Requests wait with their descriptors open, so all that the system grants are asked for. The bus's library
-// stops reading long before these are used up, and the requests behind then wait in the bus.
-size_t raisedDescriptorLimit()
-{
-    rlimit limit = {};
-    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0)
-        return 0;
-    limit.rlim_cur = limit.rlim_max;
-    ::setrlimit(RLIMIT_NOFILE, &limit);
-    ::getrlimit(RLIMIT_NOFILE, &limit);
-    return static_cast<size_t>(limit.rlim_cur);
-}
 
 CountFailure failureOf(const SealedMemoryError &error)
 {
@@ -65,8 +45,7 @@ CountingService::CountingService(WorkerProgram workers, std::chrono::millisecond
     : m_pool(std::move(workers), WorkerPool::workersOfThisMachine())
     , m_object([this](const ReceivedRequest &request) { receive(request); })
     , m_bus(QDBusConnection::sessionBus())
-    , m_mostOpenRequests((std::max(raisedDescriptorLimit(), 2 * otherDescriptors) - otherDescriptors)
-          / descriptorsPerRequest)
+    , m_mostOpenRequests(roomForRequests(m_bus))
 {
     m_idleTimer.setInterval(idleTime);
     m_idleTimer.setSingleShot(true);

@@ -102,11 +102,13 @@ void WorkerPool::handOutJobs()
         Place *place = placeFor(*m_queue.front());
         if (!place)
             return;
+        const CountJob &job = *m_queue.front();
+        const bool isTaken = place->worker->count(
+            job.kind, static_cast<quint64>(job.document.size()), job.rules, job.document.descriptor());
+        if (!isTaken)
+            continue; // it has just ended, which is none of the document's doing
         place->job = std::move(m_queue.front());
         m_queue.pop_front();
-        const CountJob &job = *place->job;
-        place->worker->count(
-            job.kind, static_cast<quint64>(job.document.size()), job.rules, job.document.descriptor());
     }
 }
 
@@ -129,14 +131,14 @@ WorkerPool::Place *WorkerPool::placeFor(const CountJob &job)
 
 void WorkerPool::startWorkers()
 {
-    const size_t wanted = wantedWorkers();
-    for (size_t living = m_places.size() - countOf(State::Ending); living < wanted; ++living) {
-        if (m_failedStarts >= mostFailedStarts)
-            return;
-        if (std::unique_ptr<WorkerProcess> worker = WorkerProcess::start(m_program, callbacks()))
+    size_t living = m_places.size() - countOf(State::Ending);
+    while (living < wantedWorkers() && m_failedStarts < mostFailedStarts) {
+        if (std::unique_ptr<WorkerProcess> worker = WorkerProcess::start(m_program, callbacks())) {
             m_places.push_back({std::move(worker), m_fontGeneration});
-        else
+            ++living;
+        } else {
             noteFailedStart();
+        }
     }
 }
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr quint64 mebibyte = 1024 * 1024;
+constexpr qint64 mebibyte = 1024 * 1024;
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of addresses
@@ -22,7 +22,7 @@ constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of addre
 constexpr bool isMemoryLimited = true;
 #endif
 /// Bytes of addresses: the program, its libraries, all fonts of a machine, a heap for each thread.
-constexpr quint64 memoryOfAWorker = 4096 * mebibyte;
+constexpr quint64 memoryOfAWorker = quint64(4096) * mebibyte;
 /// Of each byte of a document, as text, attributes, lines, and all of them once more while they grow.
 constexpr quint64 memoryPerByte = 24;
 
@@ -110,18 +110,20 @@ WorkerProcess::~WorkerProcess()
     ::waitpid(m_process, nullptr, 0);
 }
 
-void WorkerProcess::count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
+bool WorkerProcess::count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
 {
+    const auto time =
+        m_program.countLimit + m_program.countLimitPerMebibyte * static_cast<qint64>(length) / mebibyte;
+    limitResources(length, time);
+    const WorkerRequest request{m_requests + 1, kind, length, rules};
+    if (!sendPacket(m_socket.get(), encoded(request), descriptor)) {
+        end(WorkerEnd::KilledFromOutside);
+        return false;
+    }
     m_state = State::Busy;
     ++m_requests;
-    const auto time = m_program.countLimit
-        + m_program.countLimitPerMebibyte * static_cast<qint64>((length + mebibyte - 1) / mebibyte);
-    limitResources(length, time);
     m_timer.start(time);
-    // Where the worker has just ended, it is about to be collected, and nothing more is to be done.
-    const WorkerRequest request{m_requests, kind, length, rules};
-    if (!sendPacket(m_socket.get(), encoded(request), descriptor))
-        ::kill(m_process, SIGKILL);
+    return true;
 }
 
 void WorkerProcess::end(WorkerEnd reason)

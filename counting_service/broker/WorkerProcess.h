@@ -64,8 +64,9 @@ public:
     [[nodiscard]] bool hasWorked() const { return m_requests > 0; }
     [[nodiscard]] pid_t processIdentifier() const { return m_process; }
 
-    /// Only while Idle. The descriptor stays the caller's.
-    void count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor);
+    /// Only while Idle. The descriptor stays the caller's. False where the worker is no more; ended()
+    /// follows.
+    [[nodiscard]] bool count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor);
 
     /// Ends it now, whatever it does; ended() follows.
     void end(WorkerEnd reason);

@@ -89,7 +89,7 @@ CountingServiceTest::~CountingServiceTest()
     QDBusConnection::disconnectFromBus(m_bus.name());
 }
 
-void CountingServiceTest::installService(const QString &arguments)
+void CountingServiceTest::installService(const QString &arguments) const
 {
     QString file =
         QString::fromUtf8(readFile(QStringLiteral(QUILLBAY_PACKAGING "/%1.service.in").arg(serviceName)));
@@ -100,6 +100,11 @@ void CountingServiceTest::installService(const QString &arguments)
     QFile installed(folder + serviceName + QStringLiteral(".service"));
     EXPECT_TRUE(installed.open(QIODevice::WriteOnly));
     installed.write(file.toUtf8());
+    installed.close();
+    // The bus itself looks at the times of the files, in seconds.
+    m_bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("ReloadConfig")));
 }
 
 QDBusMessage CountingServiceTest::message(const QByteArray &payload, const QVariantMap &options) const
@@ -166,8 +171,8 @@ std::vector<std::optional<QBYWordCounterStats>> CountingServiceTest::countAll(
     return counts;
 }
 
-pid_t CountingServiceTest::service() const
+pid_t CountingServiceTest::serviceOn(const QDBusConnection &bus)
 {
-    const QDBusReply<uint> process = m_bus.interface()->servicePid(serviceName);
+    const QDBusReply<uint> process = bus.interface()->servicePid(serviceName);
     return process.isValid() ? static_cast<pid_t>(process.value()) : 0;
 }

@@ -43,7 +43,7 @@ protected:
     ~CountingServiceTest() override;
 
     /// Writes the service file, from the one that is installed; arguments: further words of its Exec line.
-    static void installService(const QString &arguments = {});
+    void installService(const QString &arguments = {}) const;
 
     [[nodiscard]] QDBusMessage message(const QByteArray &payload, const QVariantMap &options = {}) const;
     [[nodiscard]] QDBusMessage message(const QString &request, int descriptor, quint64 length,
@@ -61,7 +61,8 @@ protected:
         const std::vector<QDBusMessage> &messages) const;
 
     /// The process that owns the service's name; 0 where nobody does.
-    [[nodiscard]] pid_t service() const;
+    [[nodiscard]] pid_t service() const { return serviceOn(m_bus); }
+    [[nodiscard]] static pid_t serviceOn(const QDBusConnection &bus);
 
     QDBusConnection m_bus;
 };

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "counting_service/protocol/WorkerMessages.h"
+#include "counting_service/protocol/PacketSocket.h"
+#include "tests/harness/QuillbayTest.h"
+
+#include <QDir>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <set>
+#include <vector>
+
+namespace {
+
+constexpr QBYWordCounterStats eight{.numberOfWords = 1,
+    .numberOfCharacters = 2,
+    .numberOfCharactersIncludingWhitespace = 3,
+    .numberOfSentences = 4,
+    .numberOfLines = 5,
+    .numberOfHardLineBreaks = 6,
+    .numberOfParagraphs = 7,
+    .numberOfIndentedParagraphs = ~0ULL};
+
+WorkerRequest sampleRequest()
+{
+    WorkerRequest request;
+    request.number = 77;
+    request.kind = DocumentKind::WordDocument;
+    request.length = 1ULL << 40;
+    request.rules.localeName = QByteArray(RulesSnapshot::longestLocaleName, 'l');
+    request.rules.minimumSentencesOfParagraph = 5;
+    request.rules.sentencesNeedTerminalPunctuation = true;
+    request.rules.page.paperSize = {612.5, 0.1};
+    request.rules.page.leftMargin = -1.0 / 3;
+    request.rules.page.rightMargin = 1e300;
+    request.rules.page.scale = 2;
+    return request;
+}
+
+/// Nothing but the whole message is taken: no part, no more, no other kind.
+template <typename Decode>
+void expectOnlyWhole(const QByteArray &message, Decode decode)
+{
+    EXPECT_TRUE(decode(message));
+    for (qsizetype length = 0; length < message.size(); ++length)
+        EXPECT_FALSE(decode(message.first(length))) << length;
+    EXPECT_FALSE(decode(message + '\0'));
+    EXPECT_FALSE(decode(message + QByteArray(WorkerMessages::longestMessage, '\0')));
+    for (qsizetype i = 0; i < 8; ++i) { // what it is, its version, its kind
+        QByteArray changed = message;
+        changed[i] = static_cast<char>(changed[i] + 1);
+        EXPECT_FALSE(decode(changed)) << i;
+    }
+}
+
+} // namespace
+
+TEST(WorkerMessages, ARequestArrivesAsItWasSent)
+{
+    const WorkerRequest sent = sampleRequest();
+    const QByteArray message = encoded(sent);
+    EXPECT_LE(message.size(), WorkerMessages::longestMessage);
+    const std::optional<WorkerRequest> arrived = decodedRequest(message);
+    ASSERT_TRUE(arrived);
+    EXPECT_EQ(arrived->number, sent.number);
+    EXPECT_EQ(arrived->kind, sent.kind);
+    EXPECT_EQ(arrived->length, sent.length);
+    EXPECT_EQ(arrived->rules.localeName, sent.rules.localeName);
+    EXPECT_EQ(arrived->rules.minimumSentencesOfParagraph, sent.rules.minimumSentencesOfParagraph);
+    EXPECT_TRUE(arrived->rules.sentencesNeedTerminalPunctuation);
+    EXPECT_EQ(arrived->rules.page.paperSize.width(), sent.rules.page.paperSize.width());
+    EXPECT_EQ(arrived->rules.page.paperSize.height(), sent.rules.page.paperSize.height());
+    EXPECT_EQ(arrived->rules.page.leftMargin, sent.rules.page.leftMargin);
+    EXPECT_EQ(arrived->rules.page.rightMargin, sent.rules.page.rightMargin);
+    EXPECT_EQ(arrived->rules.page.scale, sent.rules.page.scale);
+    expectOnlyWhole(message, decodedRequest);
+}
+
+TEST(WorkerMessages, ARequestOfAnUnknownKindIsNoRequest)
+{
+    WorkerRequest request = sampleRequest();
+    request.kind = static_cast<DocumentKind>(3);
+    EXPECT_FALSE(decodedRequest(encoded(request)));
+}
+
+TEST(WorkerMessages, AReplyArrivesAsItWasSent)
+{
+    const QByteArray message = encoded(WorkerReply{9, eight});
+    const std::optional<WorkerReply> counted = decodedReply(message);
+    ASSERT_TRUE(counted && counted->counts);
+    EXPECT_EQ(counted->number, 9U);
+    EXPECT_EQ(counted->counts.value(), eight);
+    expectOnlyWhole(message, decodedReply);
+    const std::optional<WorkerReply> failed =
+        decodedReply(encoded(WorkerReply{10, CountFailure::DamagedRtfd}));
+    ASSERT_TRUE(failed && !failed->counts);
+    EXPECT_EQ(failed->counts.error(), CountFailure::DamagedRtfd);
+}
+
+TEST(WorkerMessages, AFailureWithoutANameIsNoReply)
+{
+    const auto beyond = static_cast<CountFailure>(static_cast<quint32>(lastCountFailure) + 1);
+    EXPECT_TRUE(decodedReply(encoded(WorkerReply{1, lastCountFailure})));
+    EXPECT_FALSE(decodedReply(encoded(WorkerReply{1, beyond})));
+}
+
+TEST(WorkerMessages, AGreetingSaysWhatTheSandboxIsMadeOf)
+{
+    const WorkerGreeting sent{
+        {.hasNoNewPrivileges = true, .landlockVersion = 6, .hasSystemCallFilter = true}};
+    const std::optional<WorkerGreeting> arrived = decodedGreeting(encoded(sent));
+    ASSERT_TRUE(arrived);
+    EXPECT_EQ(arrived->sandbox, sent.sandbox);
+    expectOnlyWhole(encoded(sent), decodedGreeting);
+}
+
+TEST(WorkerMessages, EveryFailureHasItsOwnWords)
+{
+    std::set<QString> texts;
+    for (quint32 failure = 1; failure <= static_cast<quint32>(lastCountFailure); ++failure)
+        texts.insert(causeText(static_cast<CountFailure>(failure)));
+    EXPECT_EQ(texts.size(), static_cast<size_t>(lastCountFailure));
+}
+
+TEST(PacketSocket, APacketArrivesWithItsDescriptor)
+{
+    const auto ends = connectedSockets();
+    ASSERT_TRUE(ends);
+    const OwnedDescriptor file(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    ASSERT_TRUE(sendPacket(ends->first.get(), "one", file.get()));
+    ASSERT_TRUE(sendPacket(ends->first.get(), "two"));
+    const auto first = receivePacket(ends->second.get());
+    EXPECT_EQ(first.value().message, "one");
+    EXPECT_TRUE(first.value().descriptor);
+    EXPECT_NE(first.value().descriptor.get(), file.get());
+    EXPECT_TRUE(::fcntl(first.value().descriptor.get(), F_GETFD) & FD_CLOEXEC);
+    const auto second = receivePacketWithoutWaiting(ends->second.get());
+    EXPECT_EQ(second.value().message, "two");
+    EXPECT_FALSE(second.value().descriptor);
+    EXPECT_EQ(receivePacketWithoutWaiting(ends->second.get()).error(), PacketError::NothingYet);
+}
+
+TEST(PacketSocket, AnEndThatIsGoneIsSeenAtTheOther)
+{
+    auto ends = connectedSockets();
+    ASSERT_TRUE(ends);
+    {
+        const OwnedDescriptor gone = std::move(ends->first);
+    }
+    EXPECT_EQ(receivePacket(ends->second.get()).error(), PacketError::Closed);
+    EXPECT_FALSE(sendPacket(ends->second.get(), "to nobody"));
+}
+
+TEST(PacketSocket, APacketThatIsTooLongIsGarbage)
+{
+    const auto ends = connectedSockets();
+    ASSERT_TRUE(ends);
+    ASSERT_TRUE(sendPacket(ends->first.get(), QByteArray(WorkerMessages::longestMessage, 'x')));
+    EXPECT_TRUE(receivePacket(ends->second.get()));
+    ASSERT_TRUE(sendPacket(ends->first.get(), QByteArray(WorkerMessages::longestMessage + 1, 'x')));
+    EXPECT_EQ(receivePacket(ends->second.get()).error(), PacketError::Garbage);
+}
+
+TEST(PacketSocket, SeveralDescriptorsAreGarbageAndAreClosed)
+{
+    const auto ends = connectedSockets();
+    ASSERT_TRUE(ends);
+    const qsizetype before = QDir(QStringLiteral("/proc/self/fd")).count();
+    for (const size_t number : {2U, 3U, 9U}) {
+        const std::vector<int> descriptors(number, STDERR_FILENO);
+        std::vector<char> control(CMSG_SPACE(number * sizeof(int)));
+        char byte = 'x';
+        iovec vector{&byte, 1};
+        msghdr header = {};
+        header.msg_iov = &vector;
+        header.msg_iovlen = 1;
+        header.msg_control = control.data();
+        header.msg_controllen = control.size();
+        cmsghdr *part = CMSG_FIRSTHDR(&header);
+        part->cmsg_level = SOL_SOCKET;
+        part->cmsg_type = SCM_RIGHTS;
+        part->cmsg_len = CMSG_LEN(number * sizeof(int));
+        std::memcpy(CMSG_DATA(part), descriptors.data(), number * sizeof(int));
+        ASSERT_EQ(::sendmsg(ends->first.get(), &header, 0), 1);
+        EXPECT_EQ(receivePacket(ends->second.get()).error(), PacketError::Garbage);
+    }
+    EXPECT_EQ(QDir(QStringLiteral("/proc/self/fd")).count(), before);
+}

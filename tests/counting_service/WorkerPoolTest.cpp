@@ -1,0 +1,340 @@
+// SPDX-License-Identifier: MIT
+// What the broker makes of workers that misbehave.
+#include "counting_service/broker/WorkerPool.h"
+#include "tests/counting_service/CountingServiceTest.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <csignal>
+#include <unistd.h>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <set>
+
+namespace {
+
+class WorkerPoolTest : public QuillbayTest {
+protected:
+    struct Answer {
+        int times = 0;
+        std::optional<CountJob::Outcome> outcome;
+    };
+
+    static WorkerProgram program(const char *beginning = "greet")
+    {
+        return {.path = testProgram(QStringLiteral("fake_worker")).toUtf8(),
+            .arguments = {beginning},
+            .startLimit = std::chrono::seconds(10),
+            .countLimit = std::chrono::seconds(20)};
+    }
+
+    /// A pool with two workers at a time.
+    static std::unique_ptr<WorkerPool> pool(const WorkerProgram &worker = program())
+    {
+        return std::make_unique<WorkerPool>(worker, 2);
+    }
+
+    std::shared_ptr<Answer> add(WorkerPool &pool, const QByteArray &document)
+    {
+        const auto answer = std::make_shared<Answer>();
+        m_answers.push_back(answer);
+        pool.add({DocumentKind::FlatRtfd, SealedMemory::copyOf(document).value(), RulesSnapshot(),
+            [answer](const CountJob::Outcome &outcome) {
+                ++answer->times;
+                answer->outcome = outcome;
+            }});
+        return answer;
+    }
+
+    /// Runs until every document has its answer.
+    void finish()
+    {
+        EXPECT_TRUE(waitUntil([this] {
+            return std::all_of(
+                m_answers.begin(), m_answers.end(), [](const auto &answer) { return answer->outcome; });
+        }));
+    }
+
+    QBYWordCounterStats statsOf(const std::shared_ptr<Answer> &answer)
+    {
+        finish();
+        EXPECT_EQ(answer->times, 1);
+        EXPECT_TRUE(answer->outcome->hasValue()) << causeText(answer->outcome->error()).toStdString();
+        return *answer->outcome ? answer->outcome->value() : QBYWordCounterStats();
+    }
+
+    std::optional<CountFailure> failureOf(const std::shared_ptr<Answer> &answer)
+    {
+        finish();
+        EXPECT_EQ(answer->times, 1);
+        if (answer->outcome->hasValue())
+            return std::nullopt;
+        return answer->outcome->error();
+    }
+
+    /// A document that misbehaves once, whoever counts it.
+    QByteArray once(const char *misdeed)
+    {
+        const QString file = world().root() + QStringLiteral("/first-%1").arg(++m_files);
+        return "first " + QFile::encodeName(file) + ' ' + misdeed;
+    }
+
+    std::vector<std::shared_ptr<Answer>> m_answers;
+    int m_files = 0;
+};
+
+// Each ends the worker, or makes the broker end it.
+constexpr const char *misdeeds[] = {"crash", "exit", "garbage", "long", "other", "hung-up", "memory"};
+
+} // namespace
+
+TEST_F(WorkerPoolTest, CountsManyDocumentsWithFewWorkers)
+{
+    const auto pool = this->pool();
+    std::set<quint64> workers;
+    for (qsizetype i = 0; i < 200; ++i)
+        add(*pool, QByteArray(i, 'x'));
+    for (size_t i = 0; i < 200; ++i) {
+        const QBYWordCounterStats stats = statsOf(m_answers[i]);
+        EXPECT_EQ(stats.numberOfWords, i);
+        workers.insert(stats.numberOfCharacters);
+    }
+    EXPECT_LE(workers.size(), 3U);
+    EXPECT_LE(pool->workers().size(), 3U);
+}
+
+TEST_F(WorkerPoolTest, KeepsASpareWorkerOnceItHasAnswered)
+{
+    const auto pool = this->pool();
+    pool->warmUp();
+    EXPECT_EQ(pool->workers().size(), 1U);
+    statsOf(add(*pool, "count"));
+    add(*pool, "hang");
+    EXPECT_EQ(pool->workers().size(), 2U);
+    add(*pool, "hang");
+    EXPECT_EQ(pool->workers().size(), 3U);
+    add(*pool, "hang");
+    EXPECT_EQ(pool->workers().size(), 3U);
+}
+
+TEST_F(WorkerPoolTest, TriesAgainWithAFreshWorkerWhenOneFails)
+{
+    for (const char *misdeed : misdeeds) {
+        const auto pool = this->pool();
+        const quint64 first = statsOf(add(*pool, "count")).numberOfCharacters;
+        const QBYWordCounterStats stats = statsOf(add(*pool, once(misdeed)));
+        EXPECT_NE(stats.numberOfCharacters, first) << misdeed;
+        EXPECT_EQ(stats.numberOfLines, 1U) << misdeed; // nothing counted before
+    }
+}
+
+TEST_F(WorkerPoolTest, GivesADocumentUpOverWhichTwoWorkersFail)
+{
+    for (const char *misdeed : misdeeds) {
+        const auto pool = this->pool();
+        EXPECT_EQ(failureOf(add(*pool, misdeed)), CountFailure::WorkerFailed) << misdeed;
+        EXPECT_EQ(statsOf(add(*pool, "count")).numberOfWords, 5U) << misdeed;
+    }
+}
+
+TEST_F(WorkerPoolTest, LosesNoOtherDocumentWhenAWorkerFails)
+{
+    const auto pool = this->pool();
+    std::vector<std::shared_ptr<Answer>> good;
+    std::vector<std::shared_ptr<Answer>> bad;
+    for (int i = 0; i < 10; ++i) {
+        for (const char *misdeed : misdeeds) {
+            good.push_back(add(*pool, "count " + QByteArray::number(i)));
+            good.push_back(add(*pool, once(misdeed)));
+            bad.push_back(add(*pool, misdeed));
+        }
+    }
+    for (const auto &answer : good)
+        EXPECT_GT(statsOf(answer).numberOfWords, 0U);
+    for (const auto &answer : bad)
+        EXPECT_EQ(failureOf(answer), CountFailure::WorkerFailed);
+}
+
+TEST_F(WorkerPoolTest, EndsAWorkerThatTakesTooLong)
+{
+    WorkerProgram impatient = program();
+    impatient.countLimit = std::chrono::milliseconds(200);
+    const auto pool = this->pool(impatient);
+    EXPECT_EQ(failureOf(add(*pool, "hang")), CountFailure::WorkerFailed);
+    EXPECT_EQ(statsOf(add(*pool, once("hang"))).numberOfLines, 1U);
+}
+
+TEST_F(WorkerPoolTest, TheTimeLimitGrowsWithTheDocument)
+{
+    WorkerProgram impatient = program();
+    impatient.countLimit = std::chrono::milliseconds(100);
+    impatient.countLimitPerMebibyte = std::chrono::hours(1);
+    const auto pool = this->pool(impatient);
+    const auto small = add(*pool, "hang");
+    const auto large = add(*pool, "hang " + QByteArray(1024 * 1024, ' '));
+    EXPECT_TRUE(waitUntil([&] { return small->outcome.has_value(); }));
+    EXPECT_FALSE(large->outcome);
+}
+
+TEST_F(WorkerPoolTest, AnAnswerNobodyAskedForEndsTheWorkerAndHarmsNobody)
+{
+    const auto pool = this->pool();
+    std::set<quint64> workers;
+    for (int i = 0; i < 20; ++i) {
+        const auto twice = add(*pool, "twice");
+        const auto next = add(*pool, "count and more");
+        EXPECT_EQ(statsOf(twice).numberOfWords, 5U);
+        EXPECT_EQ(statsOf(next).numberOfWords, 14U);
+        workers.insert(statsOf(twice).numberOfCharacters);
+    }
+    EXPECT_EQ(workers.size(), 20U);
+}
+
+TEST_F(WorkerPoolTest, TakesNoDescriptorFromAWorker)
+{
+    const auto pool = this->pool();
+    EXPECT_EQ(statsOf(add(*pool, "descriptor")).numberOfWords, 10U);
+    EXPECT_EQ(statsOf(add(*pool, "descriptor")).numberOfWords, 10U);
+    const qsizetype before = openDescriptors(::getpid());
+    for (int i = 0; i < 20; ++i)
+        EXPECT_EQ(statsOf(add(*pool, "descriptor")).numberOfWords, 10U);
+    EXPECT_EQ(openDescriptors(::getpid()), before);
+}
+
+TEST_F(WorkerPoolTest, CountsOnHoweverOftenIdleWorkersAreKilled)
+{
+    const auto pool = this->pool();
+    for (int i = 0; i < 30; ++i) {
+        EXPECT_EQ(statsOf(add(*pool, "count")).numberOfWords, 5U);
+        for (const pid_t worker : pool->workers())
+            ::kill(worker, SIGKILL);
+    }
+}
+
+TEST_F(WorkerPoolTest, ADocumentMayOutliveSeveralWorkersThatAreKilled)
+{
+    const QString file = world().root() + QStringLiteral("/worker");
+    const QByteArray document = "first " + QFile::encodeName(file) + " hang";
+    for (int kills = 1; kills <= WorkerPool::mostInterruptions; ++kills) {
+        const auto pool = this->pool();
+        const auto answer = add(*pool, document);
+        for (int i = 1; i <= kills; ++i) {
+            ASSERT_TRUE(waitUntil([&] { return QFileInfo(file).size() > 0; }));
+            const pid_t worker = readFile(file).toInt();
+            if (i < kills)
+                QFile::remove(file);
+            ::kill(worker, SIGKILL);
+        }
+        if (kills < WorkerPool::mostInterruptions)
+            EXPECT_EQ(statsOf(answer).numberOfWords, static_cast<quint64>(document.size()));
+        else
+            EXPECT_EQ(failureOf(answer), CountFailure::WorkerFailed);
+        QFile::remove(file);
+    }
+}
+
+TEST_F(WorkerPoolTest, GivesUpWhereNoWorkerStarts)
+{
+    WorkerProgram missing = program();
+    missing.path = "/no/such/program";
+    for (const WorkerProgram &worker : {program("leave"), program("nonsense"), missing}) {
+        const auto pool = this->pool(worker);
+        EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::NoWorker);
+        EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::NoWorker);
+    }
+}
+
+TEST_F(WorkerPoolTest, EndsAWorkerThatDoesNotGetReady)
+{
+    WorkerProgram silent = program("hang");
+    silent.startLimit = std::chrono::milliseconds(20);
+    const auto pool = this->pool(silent);
+    EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::NoWorker);
+}
+
+TEST_F(WorkerPoolTest, WorkersOfOldFontsCountNothingMore)
+{
+    const auto pool = this->pool();
+    pool->setFontGeneration(1);
+    const quint64 first = statsOf(add(*pool, "count")).numberOfCharacters;
+    EXPECT_EQ(statsOf(add(*pool, "count")).numberOfCharacters, first);
+    pool->setFontGeneration(2);
+    EXPECT_EQ(statsOf(add(*pool, "count")).numberOfLines, 1U);
+    EXPECT_TRUE(waitUntil([&] { return !isRunning(static_cast<pid_t>(first)); }));
+}
+
+TEST_F(WorkerPoolTest, AWorkerThatIsCountingWhenTheFontsChangeFinishes)
+{
+    const auto pool = this->pool();
+    pool->setFontGeneration(1);
+    const auto answer = add(*pool, once("hang"));
+    const QString gate = world().root() + QStringLiteral("/first-1");
+    ASSERT_TRUE(waitUntil([&] { return QFile::exists(gate); }));
+    const std::vector<pid_t> before = pool->workers();
+    pool->setFontGeneration(2);
+    EXPECT_TRUE(isRunning(before.front()));
+    ::kill(before.front(), SIGKILL);
+    EXPECT_EQ(statsOf(answer).numberOfLines, 1U);
+}
+
+TEST_F(WorkerPoolTest, AWorkerThatHasCountedALargeDocumentIsReplaced)
+{
+    const auto pool = this->pool();
+    const quint64 first =
+        statsOf(add(*pool, QByteArray(WorkerPool::largestWithoutReplacement, 'x'))).numberOfCharacters;
+    EXPECT_EQ(
+        statsOf(add(*pool, QByteArray(WorkerPool::largestWithoutReplacement + 1, 'x'))).numberOfCharacters,
+        first);
+    EXPECT_NE(statsOf(add(*pool, "count")).numberOfCharacters, first);
+}
+
+TEST_F(WorkerPoolTest, AWorkerIsEndedThatTakesMoreMemoryThanADocumentNeeds)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "the sanitizers need the memory themselves";
+#endif
+    const auto pool = this->pool();
+    EXPECT_EQ(failureOf(add(*pool, "eat")), CountFailure::WorkerFailed);
+    EXPECT_EQ(statsOf(add(*pool, "count")).numberOfWords, 5U);
+}
+
+TEST_F(WorkerPoolTest, LeavesNeitherDescriptorsNorZombies)
+{
+    const auto pool = this->pool();
+    statsOf(add(*pool, "count"));
+    const auto settled = [&] { return childrenOf(::getpid()).size() == pool->workers().size(); };
+    EXPECT_TRUE(waitUntil(settled));
+    const qsizetype before = openDescriptors(::getpid()) - 2 * static_cast<qsizetype>(pool->workers().size());
+    for (int i = 0; i < 500; ++i)
+        add(*pool,
+            i % 10 == 0 ? once(misdeeds[static_cast<size_t>(i / 10) % std::size(misdeeds)])
+                        : QByteArray("count"));
+    finish();
+    EXPECT_TRUE(waitUntil(settled));
+    EXPECT_EQ(openDescriptors(::getpid()) - 2 * static_cast<qsizetype>(pool->workers().size()), before);
+}
+
+TEST_F(WorkerPoolTest, TakesItsWorkersWithIt)
+{
+    auto pool = this->pool();
+    statsOf(add(*pool, "count"));
+    const std::vector<pid_t> workers = pool->workers();
+    EXPECT_FALSE(workers.empty());
+    pool.reset();
+    for (const pid_t worker : workers)
+        EXPECT_FALSE(isRunning(worker));
+    EXPECT_TRUE(childrenOf(::getpid()).empty());
+}
+
+TEST_F(WorkerPoolTest, TheLogSaysWhatBecameOfAWorkerAndNothingOfTheDocument)
+{
+    const RecordingLogSink log;
+    const auto pool = this->pool();
+    failureOf(add(*pool, "crash secretly"));
+    const QString all = log.messages().join(u'\n');
+    EXPECT_EQ(all.count(QStringLiteral("A worker crashed")), 2);
+    EXPECT_FALSE(all.contains(QStringLiteral("secretly")));
+}
