@@ -76,6 +76,12 @@ TEST(RtfReader, ReadsBytesOfTheDefaultFontByItsCharset)
         QStringLiteral(u"ДÄД"));
 }
 
+TEST(RtfReader, ReadsBytesByTheFontTableOfTheMoment)
+{
+    EXPECT_EQ(textOf(R"({\fonttbl{\f7\fcharset204 A;}}\f7\'c4{\fonttbl{\f7\fcharset161 B;}}\'c4)"),
+        QStringLiteral(u"ДΔ"));
+}
+
 TEST(RtfReader, JoinsTheTwoBytesOfACharacterHoweverTheyAreWritten)
 {
     for (const char *bytes : {"\\'83\\'41", "\\'83A", "\x83\\'41",

@@ -68,7 +68,7 @@ TEST(RtfReader, PutsNotesBehindTheBodyInTheOrderOfTheirReferences)
         textOf(
             R"(one{\super\chftn}{\footnote\pard\plain{\super\chftn} first} two{\footnote\ftnalt second\par third}\par)"),
         QStringLiteral("one two\n first\nsecond\nthird"));
-    EXPECT_EQ(textOf(R"(one{\footnote note})"), QStringLiteral("one\nnote"));
+    EXPECT_EQ(textOf(R"(one{\footnote no{\b te}s})"), QStringLiteral("one\nnotes"));
     EXPECT_EQ(textOf(R"(one{\footnote a\par}{\footnote b})"), QStringLiteral("one\na\nb"));
     EXPECT_EQ(textOf(R"(one{\footnote a{\footnote b}c}{\footnote}.)"), QStringLiteral("one.\na\nb\nc"));
 }

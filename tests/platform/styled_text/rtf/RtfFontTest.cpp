@@ -51,6 +51,12 @@ TEST(RtfReader, LeavesOutWhatStandsInsideAFontsGroup)
     EXPECT_EQ(familyIn(R"({\f3 Some{\falt Else};})"), QStringLiteral("Some"));
 }
 
+TEST(RtfReader, ShowsNothingOfAFontTable)
+{
+    EXPECT_EQ(familyIn(R"({\f3 So{\fldrslt m}{\footnote e};})"), QStringLiteral("Some"));
+    EXPECT_EQ(textOf(R"({\fonttbl{\f3 So{\fldrslt m}{\footnote e}\par\cell;}x}y)"), QStringLiteral("y"));
+}
+
 TEST(RtfReader, ReadsANameInUnicodeAndInItsOwnCodePage)
 {
     EXPECT_EQ(familyIn(R"({\f3\fcharset128 \'82\'6c\'82r;})"), QStringLiteral(u"ＭＳ"));
@@ -135,6 +141,7 @@ TEST(RtfReader, ReadsLanguages)
     EXPECT_EQ(attributesAt(R"(\lang1031\lang-7\lang0 x)").language, QString());
     EXPECT_EQ(attributesAt(R"(\lang1031\langfe2052 x)").language, QStringLiteral("de-DE"));
     EXPECT_EQ(attributesAt(R"(\lang1024\noproof\langnp1031 x)").language, QStringLiteral("de-DE"));
+    EXPECT_EQ(attributesAt(R"(\lang1031\langnp1024 x)").language, QStringLiteral("de-DE"));
     EXPECT_EQ(attributesAt(R"(\deflang1036\lang1031\plain x)").language, QStringLiteral("fr-FR"));
     EXPECT_FALSE(attributesAt(R"(\lang1031 x)").font.has_value());
 }

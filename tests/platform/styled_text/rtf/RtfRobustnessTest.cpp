@@ -2,6 +2,12 @@
 // Whatever stands in a document, reading ends, and the text it gives is sound.
 #include "tests/platform/styled_text/rtf/RtfDocuments.h"
 
+#include <cstring>
+#include <fstream>
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
 using namespace RtfDocuments;
 
 namespace {
@@ -55,6 +61,15 @@ TEST(RtfReader, ReadsGroupsHoweverDeep)
     EXPECT_EQ(textOf('a' + open + " b" + closed + 'c'), QStringLiteral("abc"));
     EXPECT_FALSE(attributesAt('a' + open + " b" + closed + 'c', u'c').font.has_value());
     EXPECT_EQ(read("{\\rtf1 a" + open + " b").string(), QStringLiteral("ab"));
+}
+
+TEST(RtfReader, KeepsLooksToTheirGroupDownToABound)
+{
+    const auto looksBehindAGroup = [](qsizetype depth) {
+        return attributesAt(QByteArray("{").repeated(depth) + R"({\b}x)").font.has_value();
+    };
+    EXPECT_FALSE(looksBehindAGroup(9'000));
+    EXPECT_TRUE(looksBehindAGroup(11'000));
 }
 
 TEST(RtfReader, ReadsFontsHoweverMany)
@@ -126,4 +141,34 @@ TEST(RtfReader, ReadsALongTextWhole)
     const AttributedString text = read(document(line.repeated(longRun / line.size())));
     EXPECT_EQ(text.string(), QStringLiteral(u"one two é\n").repeated(longRun / line.size()));
     EXPECT_EQ(text.runCount(), 1);
+}
+
+TEST(RtfReader, RefusesWhatIsTooLongForThePositionsInAText)
+{
+    constexpr size_t length = INT32_MAX;
+    void *pages =
+        ::mmap(nullptr, length, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    ASSERT_NE(pages, MAP_FAILED);
+    std::memcpy(pages, "{\\rtf1", 6);
+    const QByteArrayView bytes(static_cast<const char *>(pages), static_cast<qsizetype>(length));
+    EXPECT_EQ(readRtf(bytes).error(), RtfError::TooLong);
+    ::munmap(pages, length);
+}
+
+TEST(RtfReader, SaysThatMemoryIsShort)
+{
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";
+#endif
+    const QByteArray rtf = document(QByteArray(64 * 1'048'576, 'x'));
+    const auto readWithLittleMemory = [&rtf] {
+        size_t pages = 0;
+        std::ifstream("/proc/self/statm") >> pages;
+        constexpr size_t pageSize = 4096;
+        const rlimit limit{pages * pageSize + 16 * 1'048'576, RLIM_INFINITY};
+        ::setrlimit(RLIMIT_AS, &limit);
+        const Result<AttributedString, RtfError> result = readRtf(rtf);
+        ::_exit(!result && result.error() == RtfError::NotEnoughMemory ? 0 : 1);
+    };
+    EXPECT_EXIT(readWithLittleMemory(), ::testing::ExitedWithCode(0), "");
 }
