@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "presentation/word_counter/CountPayload.h"
+
+#include "platform/files/FileContents.h"
+#include "platform/logging/LogChannel.h"
+#include "platform/styled_text/rtfd/RtfdWriter.h"
+
+namespace {
+
+WordCounterServiceProtocol::Data sealed(const QByteArray &bytes)
+{
+    SealedMemory::MadeMemory memory = SealedMemory::copyOf(bytes);
+    if (!memory) {
+        LogChannel::standard().error(u"A document cannot be handed to the counting service: {}",
+            {publicly(causeText(memory.error()))});
+        return nullptr;
+    }
+    return std::make_shared<const SealedMemory>(std::move(memory).value());
+}
+
+/// The path's bytes, which need not be text in any encoding; empty where the URL names no file of this
+/// machine.
+QByteArray pathOf(const QUrl &url)
+{
+    const QString host = url.host();
+    if (!url.isLocalFile() || !(host.isEmpty() || host == u"localhost"))
+        return {};
+    const QByteArray path = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+    return path.contains('\0') ? QByteArray() : path;
+}
+
+} // namespace
+
+WordCounterServiceProtocol::Data CountPayload::ofText(const AttributedString &text)
+{
+    const auto rtfd = RTFDFromRange(text, 0, text.length(), {});
+    return rtfd ? sealed(rtfd.value()) : nullptr;
+}
+
+WordCounterServiceProtocol::Data CountPayload::ofFile(const QUrl &url)
+{
+    const QByteArray path = pathOf(url);
+    if (path.isEmpty())
+        return nullptr;
+    const auto contents = readFile(path);
+    return contents ? sealed(contents.value()) : nullptr;
+}

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// WordCounterViewController is the statistics panel that counts: it feeds its model, asks the counting
+// service, and writes what the model says into the eight labels. Where the labels lie is its base class's
+// business. Thread: main; made by any.  Owner: the panel's host, and the work that has not yet been sent to
+// the service. Made with std::make_shared; wherever the last reference is let go in here, the panel ends its
+// life on the main thread.
+#pragma once
+
+#include "platform/connection/ServiceConnection.h"
+#include "platform/styled_text/AttributedString.h"
+#include "presentation/stats_panel/BaseWordCounterViewController.h"
+#include "presentation/word_counter/WordCounterServiceProtocol.h"
+#include "text_statistics/WordCounterModel.h"
+
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class WordCounterViewController : public BaseWordCounterViewController,
+                                  public std::enable_shared_from_this<WordCounterViewController> {
+    Q_OBJECT
+    Q_PROPERTY(bool isAsyncCountOperationInProgress READ isAsyncCountOperationInProgress WRITE
+            setIsAsyncCountOperationInProgress NOTIFY isAsyncCountOperationInProgressChanged)
+
+public:
+    /// Runs on the main thread. Required: an empty one ends the process when it is due.
+    using Completion = std::function<void()>;
+    /// Makes the view and connects the outlets, as an interface file does.
+    using Interface = std::function<void(WordCounterViewController &)>;
+
+    /// interface: may be empty where the host gives the panel its view and labels itself.
+    explicit WordCounterViewController(Interface interface = {});
+    WordCounterViewController(const WordCounterViewController &) = delete;
+    WordCounterViewController &operator=(const WordCounterViewController &) = delete;
+    /// Invalidates the connection.
+    ~WordCounterViewController() override;
+
+    void loadView() override;
+
+    /// Never null, and always the same one.
+    [[nodiscard]] const std::shared_ptr<WordCounterModel> &wordCounter() const { return m_wordCounter; }
+
+    /// From the moment an asynchronous count is accepted until its completion has run, or until
+    /// stopAsyncOperation().
+    [[nodiscard]] bool isAsyncCountOperationInProgress() const { return m_isAsyncCountOperationInProgress; }
+    void setIsAsyncCountOperationInProgress(bool isInProgress);
+
+    // Counts here, in a later turn of the event loop.
+    /// In Helvetica of 12 points, and two turns later, with a warning in the log every time.
+    void updateStatsWithString(const QString &string);
+    void updateStatsWithAttributedString(const AttributedString &attributedString);
+    void updateStatsWithDocXMetaData(const QBYDocxMetaData &docXMetaData);
+
+    /// Shows the record before it returns.
+    void updateInterfaceWithPrepopulatedStats(const QBYWordCounterStats &stats);
+
+    /// Writes the model's strings into the labels, hidden ones too, and lets each take the size of its text.
+    /// Where the labels lie stays: see repositionLabels().
+    void updateLabels();
+
+    // Count in the service. While a count is in progress another one is dropped without a trace, its
+    // completion is never called; so is one that a completion starts. A service that never answers keeps the
+    // panel busy until stopAsyncOperation().
+    void asyncUpdateStatsWithAttributedString(
+        const AttributedString &attributedString, Completion completion);
+    /// A file that cannot be read is sent as an absent one; the panel shows what the service says to that.
+    void asyncUpdateStatsDocXFileURL(const QUrl &fileURL, Completion completion);
+
+    /// Abandons the count in progress: its counts are not shown and its completion is not called.
+    void stopAsyncOperation();
+
+    /// What the visible labels show, a line each, with "-" for every bullet, below the title. Neither title
+    /// nor texts are escaped. The line break is "</br>", byte for byte.
+    [[nodiscard]] QString htmlRepresentationWithTitle(
+        const std::optional<QString> &title, bool fullHTMLDocument) const;
+    /// The full document of the above as styled text; absent where UTF-8 has no form for it (half a surrogate
+    /// pair) or the reader refuses it.
+    [[nodiscard]] std::optional<AttributedString> attributedStringRepresentationWithTitle(
+        const std::optional<QString> &title) const;
+
+Q_SIGNALS:
+    void isAsyncCountOperationInProgressChanged();
+
+private:
+    using Data = WordCounterServiceProtocol::Data;
+    using CountRequest = void (WordCounterServiceProtocol::*)(
+        Data, WordCounterServiceProtocol::Results) const;
+    using HeldCompletion = std::shared_ptr<Completion>; // ends its life on the main thread
+
+    void _setUpOnInit();
+    void openConnectionToWordCounterService();
+    void dropConnectionToWordCounterService();
+    void asyncUpdateStats(const QString &queueLabel, const std::function<Data()> &makeData,
+        CountRequest request, Completion completion);
+    /// Whether this is still the panel's connection.
+    [[nodiscard]] bool isOpen(const std::weak_ptr<ServiceConnection> &connection) const;
+    void send(CountRequest request, const Data &data, const HeldCompletion &completion);
+    void showReply(const ServiceReply &reply, const Completion &completion);
+
+    Interface m_interface;
+    std::shared_ptr<WordCounterModel> m_wordCounter;
+    bool m_isAsyncCountOperationInProgress = false;
+    std::shared_ptr<ServiceConnection> _connectionToWordCounterService;
+};

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+// Counts that nobody answers, that are stopped, and whose panel goes away.
+#include "presentation/word_counter/WordCounterViewController.h"
+
+#include "tests/presentation/word_counter/AsyncCount.h"
+
+#include <future>
+#include <thread>
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+namespace {
+
+const QStringList untouched(8, QString());
+const std::thread::id mainThread = std::this_thread::get_id();
+
+// Tells where and when it ends.
+class WatchedPanel : public WordCounterViewController {
+public:
+    explicit WatchedPanel(std::function<void()> atItsEnd)
+        : m_atItsEnd(std::move(atItsEnd))
+    {
+    }
+    ~WatchedPanel() override
+    {
+        EXPECT_EQ(std::this_thread::get_id(), mainThread);
+        m_atItsEnd();
+    }
+
+private:
+    std::function<void()> m_atItsEnd;
+};
+
+} // namespace
+
+class AbandonedCountTest : public AsyncCountTest { };
+
+TEST_F(AbandonedCountTest, AServiceThatNeverAnswersKeepsThePanelBusyUntilItIsStopped)
+{
+    const auto service = standIn({"hold", "answer 1 2 3 4 5 6 7 8"});
+    CountingPanel panel;
+    count(panel);
+    service->waitForRequests(1);
+    count(panel);
+    countDocument(panel, QUrl());
+    EXPECT_TRUE(panel.controller->isAsyncCountOperationInProgress());
+    panel.controller->stopAsyncOperation();
+    EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
+    count(panel);
+    EXPECT_TRUE(panel.controller->isAsyncCountOperationInProgress());
+    waitForCompletions(1);
+    EXPECT_THAT(service->requests(), SizeIs(2));
+    EXPECT_EQ(panel.texts(), oneToEight);
+}
+
+TEST_F(AbandonedCountTest, AfterAStopNoCompletionFollowsAndTheNextCountHasANewConnection)
+{
+    const auto service = standIn({"hold", "answer 8 7 6 5 4 3 2 1"});
+    CountingPanel panel;
+    bool isCalled = false;
+    panel.controller->asyncUpdateStatsWithAttributedString(text, [&isCalled] { isCalled = true; });
+    service->waitForRequests(1);
+    panel.controller->stopAsyncOperation();
+    EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
+    service->release(); // its answer comes before the next one
+    count(panel);
+    waitForCompletions(1);
+    EXPECT_FALSE(isCalled);
+    EXPECT_EQ(panel.texts(), textsFor({8, 7, 6, 5, 4, 3, 2, 1}));
+    const auto requests = service->requests();
+    ASSERT_THAT(requests, SizeIs(2));
+    EXPECT_NE(requests[0].client, requests[1].client);
+    EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(requests[0].client); }));
+}
+
+TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentIsNeverSent)
+{
+    const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
+    CountingPanel panel;
+    bool isCalled = false;
+    panel.controller->asyncUpdateStatsWithAttributedString(text, [&isCalled] { isCalled = true; });
+    panel.controller->stopAsyncOperation();
+    count(panel); // opens the next connection before the first count could be sent
+    waitForCompletions(1);
+    EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; })); // nothing is underway
+    EXPECT_THAT(service->requests(), SizeIs(1));
+    EXPECT_FALSE(isCalled);
+}
+
+TEST_F(AbandonedCountTest, AnAnswerThatIsOnItsWayToTheMainThreadIsDroppedByAStop)
+{
+    const auto service = standIn({"hold", "answer 8 7 6 5 4 3 2 1"});
+    CountingPanel panel;
+    count(panel);
+    service->waitForRequests(1);
+    ServiceConnection probe(WordCounterServiceProtocol::serviceName());
+    probe.setRemoteObjectInterface(WordCounterServiceProtocol::interface());
+    probe.resume();
+    std::promise<void> answered;
+    service->release();
+    WordCounterServiceProtocol(probe.remoteObjectProxy())
+        .countWordsForDocX(nullptr, [&answered](const ServiceReply &) { answered.set_value(); });
+    answered.get_future().wait(); // without the event loop: the answer to the panel has come before
+    panel.controller->stopAsyncOperation();
+    EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; }));
+    EXPECT_EQ(completions(), 0U);
+    EXPECT_EQ(panel.texts(), untouched);
+}
+
+TEST_F(AbandonedCountTest, AStopWithoutACountDoesNothing)
+{
+    CountingPanel panel;
+    panel.controller->stopAsyncOperation();
+    panel.controller->stopAsyncOperation();
+    EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
+}
+
+TEST_F(AbandonedCountTest, ACompletionMayStopAndReleaseItsPanel)
+{
+    const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
+    bool hasEnded = false;
+    auto panel = std::make_shared<WatchedPanel>([&hasEnded] { hasEnded = true; });
+    panel->asyncUpdateStatsWithAttributedString(text, [&panel] {
+        panel->stopAsyncOperation();
+        panel.reset();
+    });
+    EXPECT_TRUE(waitUntil([&hasEnded] { return hasEnded; }));
+}
+
+TEST_F(AbandonedCountTest, ASentCountDoesNotKeepThePanelAliveAndTheServiceSeesItLeave)
+{
+    const auto service = standIn({"hold"});
+    bool hasEnded = false;
+    auto panel = std::make_shared<WatchedPanel>([&hasEnded] { hasEnded = true; });
+    panel->asyncUpdateStatsWithAttributedString(text, completion());
+    service->waitForRequests(1);
+    panel.reset();
+    EXPECT_TRUE(waitUntil([&hasEnded] { return hasEnded; }));
+    const QString client = service->requests().front().client;
+    EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(client); }));
+    EXPECT_EQ(completions(), 0U);
+}
+
+// While the panel's life ends its connection is still open.
+TEST_F(AbandonedCountTest, AnAnswerThatFindsNoPanelRunsTheCompletionAndNothingElse)
+{
+    const auto service = standIn({"hold"});
+    bool hasEnded = false;
+    auto panel = std::make_shared<WatchedPanel>([&] {
+        service->release();
+        waitForCompletions(1);
+        hasEnded = true;
+    });
+    const std::shared_ptr<WordCounterModel> model = panel->wordCounter();
+    panel->asyncUpdateStatsWithAttributedString(text, completion());
+    service->waitForRequests(1);
+    panel.reset();
+    EXPECT_TRUE(waitUntil([&hasEnded] { return hasEnded; }));
+    EXPECT_EQ(completions(), 1U);
+    EXPECT_EQ(model->statsRepresentation(), QBYWordCounterStats());
+}
+
+TEST_F(AbandonedCountTest, ACountThatIsNotYetSentKeepsThePanelAliveAndIsSent)
+{
+    const auto service = standIn({"hold"});
+    bool hasEnded = false;
+    auto panel = std::make_shared<WatchedPanel>([&hasEnded] { hasEnded = true; });
+    panel->asyncUpdateStatsWithAttributedString(text, completion());
+    panel.reset();
+    EXPECT_FALSE(hasEnded);
+    EXPECT_TRUE(waitUntil([&hasEnded] { return hasEnded; }));
+}
+
+TEST_F(AbandonedCountTest, ThePanelAndWhatItsCompletionHoldsEndTheirLivesOnTheMainThread)
+{
+    const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
+    int panels = 0;
+    int held = 0;
+    constexpr int rounds = 100;
+    for (int i = 0; i < rounds; ++i) {
+        auto panel = std::make_shared<WatchedPanel>([&panels] { ++panels; });
+        const std::shared_ptr<void> holder(nullptr, [&held](void *) {
+            EXPECT_EQ(std::this_thread::get_id(), mainThread);
+            ++held;
+        });
+        // The completion holds the panel too, so that whoever lets it go last ends the panel's life.
+        panel->asyncUpdateStatsWithAttributedString(text, [panel, holder] {});
+        if (i % 3 == 1) {
+            EXPECT_TRUE(waitUntil([&] { return !panel->isAsyncCountOperationInProgress(); }));
+        }
+        if (i % 3 == 2)
+            panel->stopAsyncOperation();
+    }
+    EXPECT_TRUE(waitUntil([&] { return panels == rounds && held == rounds; })) << panels << " " << held;
+}
+
+TEST_F(AbandonedCountTest, WithoutABusThePanelStaysBusyAndTheLogHasOneLine)
+{
+    CountingPanel panel;
+    count(panel);
+    EXPECT_TRUE(waitUntil([this] { return !m_log.messages().isEmpty(); }));
+    EXPECT_TRUE(panel.controller->isAsyncCountOperationInProgress());
+    EXPECT_THAT(m_log.messages(LogLevel::Error), SizeIs(1));
+    EXPECT_EQ(completions(), 0U);
+    panel.controller->stopAsyncOperation();
+    const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
+    count(panel);
+    waitForCompletions(1);
+}
