@@ -46,7 +46,9 @@ ViewBinding::ViewBinding(View &view, QWidget &parent, const WindowBindings &bind
 ViewBinding::~ViewBinding()
 {
     m_subviews.clear();
-    delete m_widget;
+    // Later: it may be the widget's own click that has taken the view away.
+    m_widget->hide();
+    m_widget->deleteLater();
 }
 
 void ViewBinding::followView()
@@ -89,8 +91,6 @@ std::unique_ptr<ViewBinding> ViewBinding::takeBinding(const View &subview)
 void ViewBinding::layOut(const QPoint &parentOrigin)
 {
     m_parentOrigin = parentOrigin;
-    if (!m_view || !m_widget)
-        return;
     const QRect inWindow = pixelRectInWindow(
         m_view->convertToWindow(m_view->bounds()), roundedToPixel(m_bindings.window.frame().height()));
     m_widget->setGeometry(inWindow.translated(-parentOrigin));
@@ -147,7 +147,7 @@ void ViewBinding::fade(int milliseconds)
 
 bool ViewBinding::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::Wheel || !m_view)
+    if (event->type() != QEvent::Wheel)
         return QObject::eventFilter(watched, event);
     m_view->scrollWheel(scrollOf(*static_cast<QWheelEvent *>(event), *m_widget));
     return true;

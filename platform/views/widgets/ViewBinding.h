@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ViewBinding puts one view on the screen: it owns the widget of the view and the bindings of its subviews,
 // and keeps the widget where the view is. Thread: main.  Owner: the binding of the superview, or the window's
-// widget; the view may go away first.
+// widget; it ends before control returns to the event loop after the view has gone.
 #pragma once
 
 #include "platform/views/View.h"
@@ -47,7 +47,7 @@ private:
 
     QPointer<View> m_view;
     const WindowBindings &m_bindings;
-    QPointer<QWidget> m_widget;
+    QWidget *m_widget; // belongs to its parent, but ends with this
     QPoint m_parentOrigin;
     std::vector<std::unique_ptr<ViewBinding>> m_subviews;
 };

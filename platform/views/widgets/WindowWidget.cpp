@@ -63,7 +63,7 @@ WindowWidget::WindowWidget(std::shared_ptr<Window> window)
     takeOverScreen();
     bindContent();
     if (m_window->isVisible())
-        show();
+        bringToFront();
 }
 
 WindowWidget::~WindowWidget() = default;
@@ -75,7 +75,7 @@ void WindowWidget::followWindow()
     connect(window, &Window::contentViewDidChange, this, &WindowWidget::bindContent);
     connect(window, &Window::styleMaskDidChange, this, &WindowWidget::applyStyle);
     connect(window, &Window::levelDidChange, this, &WindowWidget::applyStyle);
-    connect(window, &Window::orderedFront, this, &WindowWidget::show);
+    connect(window, &Window::orderedFront, this, &WindowWidget::bringToFront);
     connect(window, &Window::orderedOut, this, &WindowWidget::hide);
     const auto applyTitle = [this] { setWindowTitle(m_window->title()); };
     connect(window, &Window::titleDidChange, this, applyTitle);
@@ -120,7 +120,7 @@ void WindowWidget::applyStyle()
     setGeometry(place); // it would put a title bar there otherwise
     m_settling.start();
     if (m_window->isVisible())
-        show();
+        bringToFront();
 }
 
 void WindowWidget::applySizeLimits()
@@ -168,9 +168,9 @@ void WindowWidget::takeOverScreen()
     Q_EMIT m_window->textMetricsDidChange();
 }
 
-void WindowWidget::show()
+void WindowWidget::bringToFront()
 {
-    QWidget::show();
+    show();
     raise();
     if (m_window->canBecomeKeyWindow())
         activateWindow();

@@ -57,7 +57,7 @@ private:
     void applySizeLimits();
     void takeOverGeometry();
     void takeOverScreen();
-    void show();
+    void bringToFront();
 
     std::shared_ptr<Window> m_window;
     WindowBindings m_bindings;

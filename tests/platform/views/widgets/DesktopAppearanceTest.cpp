@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/DesktopAppearance.h"
+#include "platform/views/Box.h"
+#include "platform/views/Button.h"
+#include "platform/views/Label.h"
+#include "platform/views/ProgressIndicator.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/harness/Screenshot.h"
 #include "tests/platform/views/widgets/FakePortal.h"
-
-#include "platform/views/Label.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 
 #include <QPalette>
@@ -14,6 +16,21 @@ namespace {
 bool isDark(const QPalette &palette)
 {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+/// One of every view that a theme colours.
+Label &fill(const ShownWindow &shown)
+{
+    Label &label = shown.add<Label>("label", {20, 110, 200, 20});
+    label.setStringValue(QStringLiteral("1,234 words"));
+    shown.add<Label>("characters", {20, 84.5, 200, 20}).setStringValue(QStringLiteral("5,678 characters"));
+    shown.add<Box>("line", {20, 65, 260, 9}).setKind(Box::Kind::Separator);
+    shown.add<Button>("button", {20, 20, 90, 28}).setTitle(QStringLiteral("Count"));
+    Button &disabled = shown.add<Button>("disabled", {120, 20, 90, 28});
+    disabled.setTitle(QStringLiteral("Pause"));
+    disabled.setEnabled(false);
+    shown.add<ProgressIndicator>("spinner", {250, 20, 28, 28}).startAnimation();
+    return label;
 }
 
 } // namespace
@@ -51,16 +68,18 @@ TEST_F(DesktopAppearanceTest, FollowsItWhileWindowsAreOpen)
     FakePortal portal(2);
     const DesktopAppearance appearance(m_bus);
     const ShownWindow shown({100, 200, 300, 150});
-    Label &label = shown.add<Label>("label", {20, 60, 200, 20});
-    label.setStringValue(QStringLiteral("1,234 words"));
+    const Label &label = fill(shown);
     shown.show();
     EXPECT_TRUE(waitUntil([&] { return appearance.colorScheme() == ColorScheme::Light; }));
     EXPECT_FALSE(isDark(shown.widgetOf(label).palette()));
     const auto background = [&] { return shown.widget().grab().toImage().pixelColor(280, 10).lightness(); };
     EXPECT_GT(background(), 200);
+    saveScreenshot(QStringLiteral("appearance-light"));
     portal.change(1);
     EXPECT_TRUE(waitUntil([&] { return isDark(shown.widgetOf(label).palette()); }));
     EXPECT_LT(background(), 80);
+    EXPECT_TRUE(waitUntil([] { return takeScreenshot().pixelColor(390, 460).lightness() < 80; }));
+    saveScreenshot(QStringLiteral("appearance-dark"));
     portal.change(2);
     EXPECT_TRUE(waitUntil([&] { return !isDark(shown.widgetOf(label).palette()); }));
 }

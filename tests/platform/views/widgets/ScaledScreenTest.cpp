@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A panel of 200 by 100 points with three labels and a black box of 40 by 20 at its bottom right corner.
+/// A panel of 200 by 100 points; its line runs 60 points below its top.
 const char *const panel = R"(<ui version="4.0"><widget class="QWidget" name="panel">
 <property name="geometry"><rect><x>0</x><y>0</y><width>200</width><height>100</height></rect></property>
 <widget class="QLabel" name="words"><property name="text"><string>1,234 words</string></property>
@@ -32,31 +32,53 @@ QRect rectOnDisplay(const QByteArray &window)
         number("Height:")};
 }
 
+/// The first and the height, in points, of the rows of the window that are darker than their surroundings in
+/// the middle, where only the line is.
+QPair<double, double> lineOnDisplay(const QRect &window, double scale)
+{
+    const QImage picture = takeScreenshot().copy(window);
+    const int x = picture.width() * 19 / 20;
+    int first = -1;
+    int rows = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        if (picture.pixelColor(x - 2 * int(scale), y) == picture.pixelColor(x - 2 * int(scale), 0))
+            continue;
+        first = rows++ == 0 ? y : first;
+    }
+    return {first / scale, rows / scale};
+}
+
 } // namespace
 
 class ScaledScreen : public QuillbayTest, public ::testing::WithParamInterface<double> { };
 
-TEST_P(ScaledScreen, ShowsPointsAsThatManyPixels)
+TEST_P(ScaledScreen, ShowsAPointAsThatManyPixels)
 {
+    const double scale = GetParam();
     const QString path = writeFile(QStringLiteral("Panel.ui"), panel);
     ChildProcess program(testProgram(QStringLiteral("views_widgets_helper")));
     program.withVariable("DISPLAY", TestDisplay::start().toLatin1());
     program.withVariable("QT_QPA_PLATFORM", "xcb");
-    program.withVariable("QT_SCALE_FACTOR", QByteArray::number(GetParam()));
+    program.withVariable("QT_SCALE_FACTOR", QByteArray::number(scale));
     program.start({QFile::encodeName(path)});
     const auto asked = [&program](const char *question) {
         program.writeLine(question);
         return program.readLine();
     };
-    EXPECT_EQ(asked("scale").toDouble(), GetParam());
+    EXPECT_EQ(asked("scale").toDouble(), scale);
     const QByteArray window = asked("window");
-    const QRect wanted(qRound(20 * GetParam()), 800 - qRound(30 * GetParam()) - qRound(100 * GetParam()),
-        qRound(200 * GetParam()), qRound(100 * GetParam()));
-    EXPECT_TRUE(waitUntil([&] { return rectOnDisplay(window).size() == wanted.size(); }));
-    EXPECT_NEAR(rectOnDisplay(window).x(), wanted.x(), 1);
-    EXPECT_NEAR(rectOnDisplay(window).y(), wanted.y(), 1);
-    asked("label");
-    saveScreenshot(QStringLiteral("scale-%1").arg(GetParam()));
+    const QRect wanted(
+        qRound(20 * scale), 800 - qRound(130 * scale), qRound(200 * scale), qRound(100 * scale));
+    EXPECT_TRUE(waitUntil([&] { return rectOnDisplay(window) == wanted; }));
+
+    EXPECT_TRUE(waitUntil([&] { return lineOnDisplay(wanted, scale).first == 60; }));
+    EXPECT_NEAR(lineOnDisplay(wanted, scale).second, 1, 0.4); // whole pixels
+    saveScreenshot(QStringLiteral("scale-%1").arg(scale));
+
+    // Text of another size in points would not fit into what was measured at one scale.
+    const QByteArrayList size = asked("label").split(' ');
+    EXPECT_NEAR(size.value(0).toDouble(), 75, 6);
+    EXPECT_NEAR(size.value(1).toDouble(), 15, 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Factors, ScaledScreen, ::testing::Values(1.0, 1.5, 2.0));

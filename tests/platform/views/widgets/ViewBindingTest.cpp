@@ -5,13 +5,12 @@
 #include "platform/views/Painter.h"
 #include "platform/views/ProgressIndicator.h"
 #include "platform/views/ScrollView.h"
-#include "tests/harness/Screenshot.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 
 #include <QAccessible>
 #include <QGraphicsEffect>
-#include <QIcon>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -39,6 +38,12 @@ class FlippedTwoColorView : public TwoColorView {
 public:
     [[nodiscard]] bool isFlipped() const override { return true; }
 };
+
+/// As the event loop of a program does on its way back.
+void deleteWhatIsDue()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
 
 QStringList accessibleNames(QWidget &widget)
 {
@@ -150,10 +155,13 @@ TEST(ViewBinding, SubviewsComeAndGo)
     label->setIdentifier(QStringLiteral("label"));
     shown.content().addSubview(label);
     EXPECT_TRUE(shown.widgetOf(*label).isVisible());
+    const QPointer<QWidget> widget = &shown.widgetOf(*label);
     label->removeFromSuperview();
-    EXPECT_EQ(shown.widget().findChild<QWidget *>(QStringLiteral("label")), nullptr);
+    EXPECT_FALSE(widget->isVisible());
     label->setStringValue(QStringLiteral("nobody listens"));
     shown.window().setContentView(nullptr);
+    deleteWhatIsDue();
+    EXPECT_TRUE(widget.isNull());
     EXPECT_TRUE(shown.widget().findChildren<QWidget *>().isEmpty());
 }
 
@@ -166,6 +174,7 @@ TEST(ViewBinding, AViewThatMovesToAnotherSuperviewIsShownThere)
     label->setIdentifier(QStringLiteral("label"));
     first.addSubview(label);
     second.addSubview(label);
+    deleteWhatIsDue();
     EXPECT_EQ(shown.widget().findChildren<QWidget *>(QStringLiteral("label")).size(), 1);
     EXPECT_EQ(shown.widgetOf(*label).parentWidget(), &shown.widgetOf(second));
 }
@@ -235,6 +244,21 @@ TEST(ViewBinding, AClickReachesTheButton)
     EXPECT_EQ(shown.widgetOf<QPushButton>(button).text(), QStringLiteral("A && B"));
     button.setEnabled(false);
     EXPECT_FALSE(shown.widgetOf(button).isEnabled());
+}
+
+TEST(ViewBinding, AClickMayTakeItsOwnButtonAway)
+{
+    const ShownWindow shown({100, 200, 300, 150});
+    Button &first = shown.add<Button>("first", {50, 50, 100, 30});
+    shown.show();
+    QObject::connect(&first, &Button::clicked, &shown.widget(), [&first] { first.removeFromSuperview(); });
+    shown.widgetOf<QPushButton>(first).click();
+    EXPECT_TRUE(shown.content().subviews().empty());
+    Button &second = shown.add<Button>("second", {50, 50, 100, 30});
+    QObject::connect(
+        &second, &Button::clicked, &shown.widget(), [&shown] { shown.window().setContentView(nullptr); });
+    shown.widgetOf<QPushButton>(second).click();
+    EXPECT_EQ(shown.window().contentView(), nullptr);
 }
 
 TEST(ViewBinding, TheWheelReachesTheScrollView)

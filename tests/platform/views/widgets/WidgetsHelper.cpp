@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QTextStream>
 #include <QWindow>
 
 #include <cstdio>
@@ -17,37 +16,15 @@
 
 namespace {
 
-/// Resident memory of this process in KiB: all of it, and what it shares with no other.
-std::pair<long, long> memory()
-{
-    QFile file(QStringLiteral("/proc/self/smaps_rollup"));
-    long resident = 0;
-    long unshared = 0;
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    for (const QByteArray &line : file.readAll().split('\n')) {
-        const long size = line.simplified().split(' ').value(1).toLong();
-        if (line.startsWith("Rss:"))
-            resident = size;
-        if (line.startsWith("Private_"))
-            unshared += size;
-    }
-    return {resident, unshared};
-}
-
 QByteArray answer(const std::string &question, const Window &window, const WindowWidget &widget)
 {
-    const auto label = std::dynamic_pointer_cast<Label>(window.contentView()->subviews().front());
     if (question == "scale")
         return QByteArray::number(window.backingScaleFactor());
     if (question == "window")
-        return QByteArray::number(widget.winId());
-    if (question == "label") {
-        label->sizeToFit();
-        return QByteArray::number(label->frame().width()) + ' ' + QByteArray::number(label->frame().height());
-    }
-    const auto [resident, unshared] = memory();
-    return QByteArray::number(qlonglong(resident)) + ' ' + QByteArray::number(qlonglong(unshared));
+        return QByteArray::number(widget.windowHandle()->winId());
+    const auto label = std::dynamic_pointer_cast<Label>(window.contentView()->subviews().front());
+    label->sizeToFit();
+    return QByteArray::number(label->frame().width()) + ' ' + QByteArray::number(label->frame().height());
 }
 
 } // namespace
@@ -60,10 +37,9 @@ int main(int argumentCount, char **arguments)
         std::cerr << messageText(file.error()).toStdString() << '\n';
         return 1;
     }
-    const auto window = std::make_shared<Window>(QRectF(20, 30, 0, 0));
-    const QSizeF size = file.value().rootView()->frame().size();
-    window->setContentView(file.value().rootView());
-    window->setFrame({{20, 30}, size}, false, false);
+    const std::shared_ptr<View> &root = file.value().rootView();
+    const auto window = std::make_shared<Window>(QRectF({20, 30}, root->frame().size()));
+    window->setContentView(root);
     window->setLevel(WindowLevel::Floating);
     const WindowWidget widget(window);
     window->orderFront();

@@ -3,6 +3,32 @@
 
 namespace {
 
+void xrandr(const QByteArray &arguments)
+{
+    TestDisplay::outputOf(QStringLiteral("xrandr"), QString::fromLatin1(arguments).split(u' '));
+}
+
+/// The private display with fewer rows of pixels than it starts with.
+class LowerScreen {
+public:
+    explicit LowerScreen(int height)
+    {
+        const QByteArray timings = "60 1280 1300 1310 1320 " + QByteArray::number(height) + " 810 820 830";
+        xrandr("--newmode lower " + timings);
+        xrandr("--addmode screen lower");
+        xrandr("--output screen --mode lower");
+    }
+    LowerScreen(const LowerScreen &) = delete;
+    LowerScreen &operator=(const LowerScreen &) = delete;
+    ~LowerScreen()
+    {
+        xrandr("--output screen --mode 1280x800");
+        xrandr("--delmode screen lower");
+        xrandr("--rmmode lower");
+        EXPECT_TRUE(waitUntil([] { return QGuiApplication::primaryScreen()->geometry().height() == 800; }));
+    }
+};
+
 QByteArray propertyOf(const ShownWindow &shown, const char *name)
 {
     return TestDisplay::outputOf(
@@ -86,6 +112,18 @@ TEST(WindowWidget, AWindowThatIsNotResizableKeepsItsSize)
     EXPECT_TRUE(waitUntil(
         [&] { return !propertyOf(shown, "WM_NORMAL_HINTS").contains("maximum size: 300 by 150"); }));
     EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(100, 200, 300, 150); }));
+}
+
+TEST(WindowWidget, AWindowStaysOnTheScreenWhoseHeightChanges)
+{
+    ShownWindow shown({100, 500, 300, 150});
+    shown.show();
+    {
+        const LowerScreen lower(600);
+        EXPECT_TRUE(waitUntil([&] { return shown.window().frame() == QRectF(100, 300, 300, 150); }));
+        EXPECT_EQ(shown.frameOnDisplay(), QRectF(100, 300, 300, 150));
+    }
+    EXPECT_TRUE(waitUntil([&] { return shown.window().frame() == QRectF(100, 500, 300, 150); }));
 }
 
 TEST(WindowWidget, StyleAndLevelAreThoseOfTheWindow)
