@@ -69,6 +69,8 @@ Chunk readAlternativeChunk(
     const std::optional<QByteArray> part = relationships.partById(identifier);
     if (!part)
         return AttributedString();
+    if (--document.package.allowance().chunks < 0)
+        return DocxError::TooIntricate;
     const Result<QByteArray, DocxError> bytes = document.package.contents(*part);
     if (!bytes)
         return bytes.error();

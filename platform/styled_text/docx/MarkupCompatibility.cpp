@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QByteArrayList>
 
+#include <algorithm>
+
 namespace {
 
 constexpr XmlTag ignoreTag = 0;

@@ -5,6 +5,8 @@
 
 #include <QByteArrayList>
 
+#include <algorithm>
+
 namespace {
 
 constexpr qsizetype mostFolders = 100; // of a target's path

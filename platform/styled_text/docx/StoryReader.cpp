@@ -104,18 +104,26 @@ void StoryReader::endElement(XmlName name)
             endText();
         m_scopes.pop_back();
     } else if (name.space == XmlSpace::Word && m_assembler.isInStory()) {
-        if (name.tag == "p"_tag && m_assembler.isInParagraph())
-            m_assembler.endParagraph();
-        else if (name.tag == "tc"_tag)
-            m_assembler.endCell();
-        else if (name.tag == "tr"_tag)
-            m_assembler.endRow();
-        else if (name.tag == "tbl"_tag)
-            m_assembler.endTable();
+        endBlock(name.tag);
     }
     if (!m_states.empty() && state().depth == m_depth)
         endStory();
     --m_depth;
+}
+
+void StoryReader::endBlock(XmlTag tag)
+{
+    if (m_assembler.isInParagraph()) { // where startInline() has seen nothing of tables
+        if (tag == "p"_tag)
+            m_assembler.endParagraph();
+        return;
+    }
+    if (tag == "tc"_tag)
+        m_assembler.endCell();
+    else if (tag == "tr"_tag)
+        m_assembler.endRow();
+    else if (tag == "tbl"_tag)
+        m_assembler.endTable();
 }
 
 void StoryReader::characters(QByteArrayView text)

@@ -81,6 +81,7 @@ private:
     void startWordContent(const XmlElement &element);
     void startInline(const XmlElement &element);
     void startBlock(const XmlElement &element);
+    void endBlock(XmlTag tag);
     void startInProperties(const XmlElement &element);
     void startInTableProperties(const XmlElement &element);
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr size_t deepestInheritance = 100;
+constexpr size_t deepestInheritance = 50;
 
 constexpr std::array<const char *, tablePartCount> tablePartNames{"band1Vert", "band2Vert", "band1Horz",
     "band2Horz", "firstRow", "lastRow", "firstCol", "lastCol", "neCell", "nwCell", "seCell", "swCell"};

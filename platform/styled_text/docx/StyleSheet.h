@@ -49,7 +49,7 @@ public:
 
     [[nodiscard]] const StyleProperties &defaults() const { return m_defaults; }
 
-    /// A style with what it is based on, at most 100 levels up; the default one of its kind where the
+    /// A style with what it is based on, at most 50 levels up; the default one of its kind where the
     /// identifier is empty or unknown. Without a style, properties that leave everything open.
     [[nodiscard]] const StyleProperties &style(Kind kind, const QByteArray &identifier) const;
 

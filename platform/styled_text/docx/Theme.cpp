@@ -3,6 +3,8 @@
 
 #include "platform/styled_text/docx/XmlReader.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr qsizetype longestFontName = 255; // bytes

@@ -6,8 +6,10 @@
 
 #include <expat.h>
 
+#include <algorithm>
 #include <memory>
 #include <new>
+#include <vector>
 
 namespace {
 

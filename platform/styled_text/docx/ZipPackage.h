@@ -16,10 +16,11 @@
 
 struct zip;
 
-/// How much may still be uncompressed: shared by a document and those within it.
+/// How much may still be read: shared by a document and those within it.
 struct ReadAllowance {
-    qint64 bytes = 536'870'912;
+    qint64 bytes = 536'870'912; ///< uncompressed
     int nestedDocuments = 3; ///< levels
+    int chunks = 5'000; ///< each takes time, however short it is
 };
 
 class ZipPackage {

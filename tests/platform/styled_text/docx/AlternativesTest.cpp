@@ -143,3 +143,12 @@ TEST(DocxChunks, AreReadWithinEachOtherToABoundedDepth)
     document = wrapped().bytes();
     EXPECT_EQ(readDocx(wrapped().bytes()).error(), DocxError::TooIntricate);
 }
+
+TEST(DocxChunks, AreReadUpToABoundedNumber)
+{
+    WordPackage document = withChunk("text/plain", "x");
+    document.body = QByteArray("<w:altChunk r:id='rId7'/>").repeated(5'000);
+    EXPECT_EQ(textOf(document).size(), 10'000);
+    document.body += "<w:altChunk r:id='rId7'/>";
+    EXPECT_EQ(readDocx(document.bytes()).error(), DocxError::TooIntricate);
+}

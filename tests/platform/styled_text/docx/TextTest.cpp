@@ -108,3 +108,11 @@ TEST(DocxText, ReadsAParagraphThatStandsWhereNoneBelongs)
     EXPECT_EQ(textOfBody(paragraph(run("outer ") + textParagraph("inner") + run("on"))),
         QStringLiteral("outer on\ninner\n"));
 }
+
+TEST(DocxText, SurvivesTablesAndBodiesWhereNoneBelong)
+{
+    EXPECT_EQ(textOfBody("<w:p><w:tc/><w:tr/><w:tbl/><w:body/>" + run("a") + "</w:p><w:tc>" + run("b")
+                  + textParagraph("c") + "</w:tc><w:tr><w:r/></w:tr>" + run("d") + "<w:body>"
+                  + textParagraph("e") + "</w:body>"),
+        QStringLiteral("a\nc\ne\n"));
+}
