@@ -8,7 +8,7 @@
 
 namespace {
 
-enum Option { Help = 'h', Json = 0x100, Tsv, FilesFrom, ExplainRules };
+enum Option { Help = 'h', Json = 0x100, Tsv, FilesFrom, ExplainRules, Service };
 
 constexpr option options[] = {
     {"help", no_argument, nullptr, Help},
@@ -16,6 +16,7 @@ constexpr option options[] = {
     {"tsv", no_argument, nullptr, Tsv},
     {"files-from", required_argument, nullptr, FilesFrom},
     {"explain-rules", no_argument, nullptr, ExplainRules},
+    {"service", no_argument, nullptr, Service},
     {},
 };
 
@@ -31,7 +32,8 @@ std::nullopt_t wrongUsage(const char *message)
 
 const char *CountArguments::helpText()
 {
-    return R"(Usage: quillbay count [--json | --tsv | --explain-rules] [--files-from LIST] [FILE…]
+    return R"(Usage: quillbay count [--json | --tsv | --explain-rules] [--service]
+                      [--files-from LIST] [FILE…]
 
 Counts words, characters, sentences, lines on your paper, hard line breaks,
 paragraphs and indented paragraphs of each FILE, under your preferences. Reads
@@ -45,6 +47,9 @@ standard input where FILE is - or where no file is named at all.
   --explain-rules    print what the counts of the files rest on instead: locale,
                      preferences, paper, margins, and the fonts that the files
                      need (without a file, the font of plain text)
+  --service          count in the counting service, in a process that may do
+                     nothing else, as Quillbay's windows do; the counts are the
+                     same
   -h, --help         show this and leave
 
 The table counts together what is in several files; the other two forms have
@@ -88,6 +93,9 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
         case ExplainRules:
             arguments.wantsRules = true;
             break;
+        case Service:
+            arguments.wantsService = true;
+            break;
         default:
             return wrongUsage(nullptr); // getopt_long() has said what is wrong
         }
@@ -95,6 +103,8 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
     for (int i = optind; i < argumentCount; ++i)
         arguments.fileNames.append(argumentVector[static_cast<size_t>(i)]);
 
+    if (arguments.wantsService && arguments.wantsRules)
+        return wrongUsage("--service and --explain-rules exclude each other");
     if (arguments.listName == "-" && arguments.fileNames.contains("-"))
         return wrongUsage("standard input cannot be both a text and the list of files");
     if (!arguments.listName && arguments.fileNames.isEmpty() && !arguments.wantsRules)

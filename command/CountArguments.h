@@ -14,6 +14,7 @@ struct CountArguments {
     CountForm form = CountForm::Table;
     bool wantsHelp = false;
     bool wantsRules = false; ///< what the counts rest on, instead of the counts
+    bool wantsService = false; ///< counting in the counting service instead of in this process
     std::optional<QByteArray> listName; ///< of a file with names, "-" for standard input
     QByteArrayList fileNames; ///< "-" for standard input
 

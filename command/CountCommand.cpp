@@ -4,6 +4,7 @@
 #include "command/FileNames.h"
 #include "command/RulesExplanation.h"
 #include "platform/files/FileContents.h"
+#include "platform/styled_text/loading/DocumentKind.h"
 #include "platform/styled_text/loading/DocumentLoader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/MeasuringSurface.h"
@@ -46,6 +47,22 @@ Result<QByteArray, FileError> readList(const QByteArray &name)
     list = readDescriptor(descriptor);
     ::close(descriptor);
     return list;
+}
+
+Result<AttributedString, LoadError> loaded(const QByteArray &name)
+{
+    return name == standardInput ? loadDocument(STDIN_FILENO) : loadDocument(name);
+}
+
+/// A Word document goes to the service as it is; absent for any other.
+std::optional<QByteArray> bytesOfWordDocument(const QByteArray &name)
+{
+    if (name == standardInput)
+        return std::nullopt;
+    Result<QByteArray, FileError> contents = readFile(name);
+    if (!contents || kindOfDocument(name, contents.value()) != DocumentKind::WordDocument)
+        return std::nullopt;
+    return std::move(contents).value();
 }
 
 } // namespace
@@ -113,26 +130,46 @@ QByteArrayList CountCommand::inputNames()
 
 std::optional<QBYWordCounterStats> CountCommand::count(const QByteArray &name, ProgressLine &progress)
 {
-    QString failure;
+    Result<QBYWordCounterStats, QString> stats = causeText(FileError{FileError::Cause::NotEnoughMemory});
     // Every step makes buffers as large as the document.
     try {
-        const Result<AttributedString, LoadError> text =
-            name == standardInput ? loadDocument(STDIN_FILENO) : loadDocument(name);
-        if (text) {
-            progress.startCounting(text.value().length());
-            m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
-            m_model.setAttributedStringToCount(text.value());
-        } else {
-            failure = causeText(text.error());
-        }
+        stats = m_arguments.wantsService ? countInService(name, progress) : countHere(name, progress);
     } catch (const std::bad_alloc &) {
-        failure = causeText(FileError{FileError::Cause::NotEnoughMemory});
     }
     progress.hide();
-    if (failure.isEmpty())
-        return m_model.statsRepresentation();
-    fail(name, failure);
+    if (stats)
+        return stats.value();
+    fail(name, stats.error());
     return std::nullopt;
+}
+
+Result<QBYWordCounterStats, QString> CountCommand::countHere(const QByteArray &name, ProgressLine &progress)
+{
+    const Result<AttributedString, LoadError> text = loaded(name);
+    if (!text)
+        return causeText(text.error());
+    progress.startCounting(text.value().length());
+    m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
+    m_model.setAttributedStringToCount(text.value());
+    return m_model.statsRepresentation();
+}
+
+Result<QBYWordCounterStats, QString> CountCommand::countInService(
+    const QByteArray &name, ProgressLine &progress)
+{
+    if (!m_service)
+        m_service.emplace();
+    // A Word document is read here too, so that one which cannot be counted says why.
+    const Result<AttributedString, LoadError> text = loaded(name);
+    if (!text)
+        return causeText(text.error());
+    progress.startCounting(text.value().length());
+    const std::optional<QByteArray> wordDocument = bytesOfWordDocument(name);
+    const Result<QBYWordCounterStats, ServiceFailure> stats =
+        wordDocument ? m_service->countWordDocument(*wordDocument) : m_service->countText(text.value());
+    if (!stats)
+        return causeText(stats.error());
+    return stats.value();
 }
 
 void CountCommand::fail(const QByteArray &name, const QString &cause)

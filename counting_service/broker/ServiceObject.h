@@ -20,7 +20,7 @@
 struct ReceivedRequest {
     using Outcome = Result<QBYWordCounterStats, CountFailure>;
 
-    DocumentKind kind;
+    PayloadKind kind;
     QDBusUnixFileDescriptor payload;
     quint64 length;
     bool isAbsent;
@@ -55,7 +55,7 @@ public Q_SLOTS:
     // NOLINTEND(readability-non-const-parameter)
 
 private:
-    void receive(DocumentKind kind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
+    void receive(PayloadKind kind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
         const QVariantMap &options);
 
     Receiver m_receiver;

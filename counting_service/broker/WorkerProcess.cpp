@@ -110,7 +110,7 @@ WorkerProcess::~WorkerProcess()
     ::waitpid(m_process, nullptr, 0);
 }
 
-bool WorkerProcess::count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
+bool WorkerProcess::count(PayloadKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
 {
     const auto time =
         m_program.countLimit + m_program.countLimitPerMebibyte * static_cast<qint64>(length) / mebibyte;

@@ -20,8 +20,6 @@ QString causeText(CountFailure failure)
         return QStringLiteral("was not counted, as no worker could be started");
     case CountFailure::WorkerFailed:
         return QStringLiteral("was not counted, as the workers that tried have failed");
-    case CountFailure::NoReader:
-        return QStringLiteral("is a Word document, for which there is no reader yet");
     case CountFailure::NotRtfd:
         return QStringLiteral("is not an RTFD");
     case CountFailure::DamagedRtfd:
@@ -30,6 +28,20 @@ QString causeText(CountFailure failure)
         return QStringLiteral("is an RTFD without a text");
     case CountFailure::RtfdTextNotRtf:
         return QStringLiteral("is an RTFD whose text is not RTF");
+    case CountFailure::NotWordDocument:
+        return QStringLiteral("is not a Word document");
+    case CountFailure::OldWordDocument:
+        return QStringLiteral("is a Word document of 1997 to 2003");
+    case CountFailure::EncryptedWordDocument:
+        return QStringLiteral("is an encrypted Word document");
+    case CountFailure::DamagedWordDocument:
+        return QStringLiteral("is a damaged Word document");
+    case CountFailure::WordDocumentTooLarge:
+        return QStringLiteral("is a Word document with more in it than is read");
+    case CountFailure::WordDocumentTooIntricate:
+        return QStringLiteral("is a Word document with deeper markup than is read");
+    case CountFailure::UnreadableChunk:
+        return QStringLiteral("is a Word document with a part in a format that cannot be read");
     case CountFailure::TextTooLong:
         return QStringLiteral("has a longer text than can be counted");
     case CountFailure::NotEnoughMemory:

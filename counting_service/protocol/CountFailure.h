@@ -17,11 +17,17 @@ enum class CountFailure : quint32 {
     NoWorker, ///< no worker can be started
     WorkerFailed, ///< two workers ended over it
     // Found by the worker.
-    NoReader, ///< its kind has no reader yet
     NotRtfd,
     DamagedRtfd,
     RtfdWithoutText,
     RtfdTextNotRtf,
+    NotWordDocument,
+    OldWordDocument, ///< of Word 97 to 2003
+    EncryptedWordDocument,
+    DamagedWordDocument,
+    WordDocumentTooLarge, ///< unpacked
+    WordDocumentTooIntricate,
+    UnreadableChunk, ///< a part of a Word document is in a format that nothing reads
     TextTooLong,
     NotEnoughMemory,
 };

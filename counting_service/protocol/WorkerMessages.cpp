@@ -85,8 +85,8 @@ QDataStream &operator>>(QDataStream &stream, RulesSnapshot &rules)
 
 bool isKnown(quint32 kind)
 {
-    return kind == static_cast<quint32>(DocumentKind::FlatRtfd)
-        || kind == static_cast<quint32>(DocumentKind::WordDocument);
+    return kind == static_cast<quint32>(PayloadKind::FlatRtfd)
+        || kind == static_cast<quint32>(PayloadKind::WordDocument);
 }
 
 } // namespace
@@ -125,7 +125,7 @@ std::optional<WorkerRequest> decodedRequest(const QByteArray &message)
     reader.stream() >> request.number >> kind >> request.length >> request.rules;
     if (!reader.isWhole() || !isKnown(kind))
         return std::nullopt;
-    request.kind = static_cast<DocumentKind>(kind);
+    request.kind = static_cast<PayloadKind>(kind);
     return request;
 }
 

@@ -25,7 +25,7 @@ inline constexpr qsizetype longestMessage = 512;
 
 } // namespace WorkerMessages
 
-enum class DocumentKind : quint32 {
+enum class PayloadKind : quint32 {
     FlatRtfd = 1, ///< styled text as one block of RTF with attachments
     WordDocument = 2,
 };
@@ -43,7 +43,7 @@ struct RulesSnapshot {
 
 struct WorkerRequest {
     quint64 number = 0; ///< of the broker's choice; the reply has the same
-    DocumentKind kind = DocumentKind::FlatRtfd;
+    PayloadKind kind = PayloadKind::FlatRtfd;
     quint64 length = 0; ///< of the document, in bytes
     RulesSnapshot rules;
 };

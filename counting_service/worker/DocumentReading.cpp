@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "counting_service/worker/DocumentReading.h"
 
+#include "platform/styled_text/docx/DocxReader.h"
 #include "platform/styled_text/rtfd/RtfdReader.h"
 
 namespace {
@@ -27,9 +28,33 @@ CountFailure failureOf(const RtfdError &error)
     return CountFailure::DamagedRtfd;
 }
 
-Result<AttributedString, CountFailure> readFlat(QByteArrayView bytes)
+CountFailure failureOf(DocxError error)
 {
-    Result<AttributedString, RtfdError> text = readFlatRtfd(bytes);
+    switch (error) {
+    case DocxError::NotWordDocument:
+        return CountFailure::NotWordDocument;
+    case DocxError::OldWordDocument:
+        return CountFailure::OldWordDocument;
+    case DocxError::Encrypted:
+        return CountFailure::EncryptedWordDocument;
+    case DocxError::TooLarge:
+        return CountFailure::WordDocumentTooLarge;
+    case DocxError::TooIntricate:
+        return CountFailure::WordDocumentTooIntricate;
+    case DocxError::UnreadableChunk:
+        return CountFailure::UnreadableChunk;
+    case DocxError::NotEnoughMemory:
+        return CountFailure::NotEnoughMemory;
+    case DocxError::Damaged:
+        break;
+    }
+    return CountFailure::DamagedWordDocument;
+}
+
+/// What a reader gave, with its cause of failure as one of many.
+template <typename Error>
+Result<AttributedString, CountFailure> textOf(Result<AttributedString, Error> text)
+{
     if (!text)
         return failureOf(text.error());
     return std::move(text).value();
@@ -37,13 +62,13 @@ Result<AttributedString, CountFailure> readFlat(QByteArrayView bytes)
 
 } // namespace
 
-Result<AttributedString, CountFailure> readDocument(DocumentKind kind, QByteArrayView bytes)
+Result<AttributedString, CountFailure> readDocument(PayloadKind kind, QByteArrayView bytes)
 {
     switch (kind) {
-    case DocumentKind::FlatRtfd:
-        return readFlat(bytes);
-    case DocumentKind::WordDocument:
+    case PayloadKind::FlatRtfd:
         break;
+    case PayloadKind::WordDocument:
+        return textOf(readDocx(bytes));
     }
-    return CountFailure::NoReader;
+    return textOf(readFlatRtfd(bytes));
 }

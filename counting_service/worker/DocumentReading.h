@@ -10,5 +10,4 @@
 
 #include <QByteArrayView>
 
-/// NoReader for Word documents.
-Result<AttributedString, CountFailure> readDocument(DocumentKind kind, QByteArrayView bytes);
+Result<AttributedString, CountFailure> readDocument(PayloadKind kind, QByteArrayView bytes);

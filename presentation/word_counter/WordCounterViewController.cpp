@@ -6,8 +6,8 @@
 
 #include <utility>
 
-WordCounterViewController::WordCounterViewController(Interface interface)
-    : m_interface(std::move(interface))
+WordCounterViewController::WordCounterViewController(QString interfaceFile)
+    : BaseWordCounterViewController(std::move(interfaceFile))
 {
     _setUpOnInit();
 }
@@ -20,12 +20,6 @@ WordCounterViewController::~WordCounterViewController()
 void WordCounterViewController::_setUpOnInit()
 {
     m_wordCounter = std::make_shared<WordCounterModel>();
-}
-
-void WordCounterViewController::loadView()
-{
-    if (m_interface)
-        m_interface(*this);
 }
 
 void WordCounterViewController::setIsAsyncCountOperationInProgress(bool isInProgress)

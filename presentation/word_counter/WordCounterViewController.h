@@ -28,17 +28,13 @@ class WordCounterViewController : public BaseWordCounterViewController,
 public:
     /// Runs on the main thread. Required: an empty one ends the process when it is due.
     using Completion = std::function<void()>;
-    /// Makes the view and connects the outlets, as an interface file does.
-    using Interface = std::function<void(WordCounterViewController &)>;
 
-    /// interface: may be empty where the host gives the panel its view and labels itself.
-    explicit WordCounterViewController(Interface interface = {});
+    /// interfaceFile: as for the base class.
+    explicit WordCounterViewController(QString interfaceFile = panelInterfaceFile());
     WordCounterViewController(const WordCounterViewController &) = delete;
     WordCounterViewController &operator=(const WordCounterViewController &) = delete;
     /// Invalidates the connection.
     ~WordCounterViewController() override;
-
-    void loadView() override;
 
     /// Never null, and always the same one.
     [[nodiscard]] const std::shared_ptr<WordCounterModel> &wordCounter() const { return m_wordCounter; }
@@ -100,7 +96,6 @@ private:
     void send(CountRequest request, const Data &data, const HeldCompletion &completion);
     void showReply(const ServiceReply &reply, const Completion &completion);
 
-    Interface m_interface;
     std::shared_ptr<WordCounterModel> m_wordCounter;
     bool m_isAsyncCountOperationInProgress = false;
     std::shared_ptr<ServiceConnection> _connectionToWordCounterService;

@@ -4,6 +4,7 @@
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/counting_service/CountingServiceTest.h"
 #include "tests/platform/styled_text/SampleTexts.h"
+#include "tests/platform/styled_text/docx/PackageWriter.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <QDBusUnixFileDescriptor>
@@ -153,10 +154,25 @@ TEST_F(CountTest, AnAbsentDocumentHasZeros)
     EXPECT_NE(count(message(rtfdRequest, memory.value().descriptor(), size, false)), zeros);
 }
 
-TEST_F(CountTest, AWordDocumentHasZerosAsLongAsThereIsNoReader)
+TEST_F(CountTest, AWordDocumentIsCountedByItsText)
+{
+    const QByteArray document =
+        WordPackage{
+            .body = "<w:p><w:r><w:t>Two words.</w:t></w:r></w:p><w:p><w:r><w:t>Three.</w:t></w:r></w:p>"}
+            .bytes();
+    const SealedMemory::MadeMemory memory = SealedMemory::copyOf(document);
+    const auto size = static_cast<quint64>(document.size());
+    const QBYWordCounterStats stats = count(message(docxRequest, memory.value().descriptor(), size));
+    EXPECT_EQ(stats.numberOfWords, 3U);
+    EXPECT_EQ(stats.numberOfLines, 2U);
+    EXPECT_EQ(stats.numberOfHardLineBreaks, 2U);
+}
+
+TEST_F(CountTest, WhatIsNoWordDocumentHasZerosAndIsCountedAgainNextTime)
 {
     const SealedMemory::MadeMemory memory = SealedMemory::copyOf("PK and the rest");
     EXPECT_EQ(count(message(docxRequest, memory.value().descriptor(), 15)), zeros);
+    EXPECT_NE(count(message(flatRtfd(SampleTexts::english))), zeros);
 }
 
 TEST_F(CountTest, ADocumentThatIsNotSealedOrOfAnotherLengthHasZeros)

@@ -28,7 +28,7 @@ WorkerRequest sampleRequest()
 {
     WorkerRequest request;
     request.number = 77;
-    request.kind = DocumentKind::WordDocument;
+    request.kind = PayloadKind::WordDocument;
     request.length = 1ULL << 40;
     request.rules.localeName = QByteArray(RulesSnapshot::longestLocaleName, 'l');
     request.rules.minimumSentencesOfParagraph = 5;
@@ -82,7 +82,7 @@ TEST(WorkerMessages, ARequestArrivesAsItWasSent)
 TEST(WorkerMessages, ARequestOfAnUnknownKindIsNoRequest)
 {
     WorkerRequest request = sampleRequest();
-    request.kind = static_cast<DocumentKind>(3);
+    request.kind = static_cast<PayloadKind>(3);
     EXPECT_FALSE(decodedRequest(encoded(request)));
 }
 

@@ -57,28 +57,14 @@ TEST_F(DirectUpdateTest, AModelIsThereFromTheStartAndEmpty)
     EXPECT_FALSE(controller->isAsyncCountOperationInProgress());
 }
 
-TEST_F(DirectUpdateTest, TheInterfaceMakesTheViewWhenItIsFirstAskedFor)
+TEST_F(DirectUpdateTest, AnUpdateFillsTheLabelsOfTheInterfaceFile)
 {
-    int made = 0;
-    const CountingPanel drawn;
-    const auto controller =
-        std::make_shared<WordCounterViewController>([&](WordCounterViewController &panel) {
-            ++made;
-            panel.setView(drawn.view);
-            panel.setWordCountTextField(drawn.labels[0]);
-            panel.setCharacterCountTextField(drawn.labels[1]);
-            panel.setCharacterCountTextFieldIncludingWhiteSpace(drawn.labels[2]);
-            panel.setNumberOfSentecesTextField(drawn.labels[3]);
-            panel.setNumberOfLinesTextField(drawn.labels[4]);
-            panel.setNumberOfHardLineBreaksTextField(drawn.labels[5]);
-            panel.setNumberOfParagraphsTextField(drawn.labels[6]);
-            panel.setNumberOfIndentedParagraphsTextField(drawn.labels[7]);
-        });
-    EXPECT_EQ(made, 0);
-    EXPECT_EQ(controller->view(), drawn.view);
-    EXPECT_EQ(controller->view(), drawn.view);
-    EXPECT_EQ(made, 1);
-    EXPECT_EQ(controller->allTextfieldsForLayout().size(), 8U);
+    const auto controller = std::make_shared<WordCounterViewController>();
+    controller->wordCounter()->setFormattedStringStyle(1);
+    EXPECT_FALSE(controller->isViewLoaded());
+    controller->view();
+    controller->updateInterfaceWithPrepopulatedStats({.numberOfWords = 12});
+    EXPECT_EQ(controller->wordCountTextField()->stringValue(), QStringLiteral("•Words: 12"));
 }
 
 TEST_F(DirectUpdateTest, AStyledTextIsCountedInTheNextTurn)

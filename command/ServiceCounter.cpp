@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "command/ServiceCounter.h"
+
+#include "platform/styled_text/rtfd/RtfdWriter.h"
+
+#include <future>
+#include <memory>
+
+QString causeText(ServiceFailure failure)
+{
+    switch (failure) {
+    case ServiceFailure::NoAnswer:
+        return QStringLiteral("the counting service does not answer; count without --service");
+    case ServiceFailure::NotEnoughMemory:
+        break;
+    }
+    return QStringLiteral("not enough memory to hand it to the counting service");
+}
+
+ServiceCounter::ServiceCounter()
+    : m_connection(WordCounterServiceProtocol::serviceName())
+{
+    m_connection.setRemoteObjectInterface(WordCounterServiceProtocol::interface());
+    m_connection.resume();
+}
+
+Result<QBYWordCounterStats, ServiceFailure> ServiceCounter::countText(const AttributedString &text)
+{
+    const auto data = RTFDFromRange(text, 0, text.length());
+    if (!data)
+        return ServiceFailure::NotEnoughMemory;
+    return count(&WordCounterServiceProtocol::countWordsForAttributedStringRTFDData, data.value());
+}
+
+Result<QBYWordCounterStats, ServiceFailure> ServiceCounter::countWordDocument(QByteArrayView bytes)
+{
+    return count(&WordCounterServiceProtocol::countWordsForDocX, bytes);
+}
+
+Result<QBYWordCounterStats, ServiceFailure> ServiceCounter::count(Request request, QByteArrayView payload)
+{
+    SealedMemory::MadeMemory memory = SealedMemory::copyOf(payload);
+    if (!memory)
+        return ServiceFailure::NotEnoughMemory;
+    // A connection that gives a request up lets its handler go, and with it the promise.
+    auto promise = std::make_shared<std::promise<ServiceReply>>();
+    std::future<ServiceReply> answer = promise->get_future();
+    const WordCounterServiceProtocol service(m_connection.remoteObjectProxy());
+    (service.*request)(std::make_shared<const SealedMemory>(std::move(memory).value()),
+        [promise = std::move(promise)](const ServiceReply &reply) { promise->set_value(reply); });
+    try {
+        const ServiceReply counts = answer.get();
+        return QBYWordCounterStats{
+            counts[0], counts[1], counts[2], counts[3], counts[4], counts[5], counts[6], counts[7]};
+    } catch (const std::future_error &) {
+        return ServiceFailure::NoAnswer;
+    }
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// ServiceCounter counts documents in the counting service, as the windows of the product do, and waits for
+// the answers. Thread: one, not that of the connections.  Owner: the count command.
+#pragma once
+
+#include "platform/base/Result.h"
+#include "platform/connection/ServiceConnection.h"
+#include "platform/styled_text/AttributedString.h"
+#include "presentation/word_counter/WordCounterServiceProtocol.h"
+#include "text_statistics/QBYWordCounterStats.h"
+
+#include <QByteArrayView>
+
+enum class ServiceFailure {
+    NoAnswer, ///< there is no service, or it failed twice; the log tells more
+    NotEnoughMemory, ///< to hand the document over
+};
+
+/// The cause in English, on one line, to stand behind the document's name.
+QString causeText(ServiceFailure failure);
+
+class ServiceCounter {
+public:
+    ServiceCounter();
+
+    // Wait for the answer as long as the count takes. What the service could not count has eight zeros.
+    Result<QBYWordCounterStats, ServiceFailure> countText(const AttributedString &text);
+    /// bytes: of a .docx file.
+    Result<QBYWordCounterStats, ServiceFailure> countWordDocument(QByteArrayView bytes);
+
+private:
+    using Request = void (WordCounterServiceProtocol::*)(
+        WordCounterServiceProtocol::Data, WordCounterServiceProtocol::Results) const;
+    Result<QBYWordCounterStats, ServiceFailure> count(Request request, QByteArrayView payload);
+
+    ServiceConnection m_connection;
+};

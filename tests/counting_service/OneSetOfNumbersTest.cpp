@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+// Whoever counts a document, in whatever process, gets the same eight numbers.
+#include "platform/styled_text/loading/DocumentLoader.h"
+#include "presentation/word_counter/WordCounterViewController.h"
+#include "tests/counting_service/CountingServiceTest.h"
+#include "tests/platform/printing/PrintServer.h"
+#include "tests/platform/styled_text/SampleTexts.h"
+#include "tests/platform/styled_text/docx/PackageWriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+QBYWordCounterStats statsFromJson(const QByteArray &line)
+{
+    const QJsonObject counts = QJsonDocument::fromJson(line).object();
+    const auto number = [&counts](const char *key) {
+        return static_cast<quint64>(counts.value(QLatin1StringView(key)).toInteger());
+    };
+    return {number("words"), number("characters"), number("charactersIncludingWhitespace"),
+        number("sentences"), number("lines"), number("hardLineBreaks"), number("paragraphs"),
+        number("indentedParagraphs")};
+}
+
+} // namespace
+
+class OneSetOfNumbers : public CountingServiceTest {
+protected:
+    /// The samples of the project, and a document of each kind in several languages.
+    static QByteArrayList documents()
+    {
+        QByteArrayList paths;
+        const QDir samples(QStringLiteral(QUILLBAY_SAMPLES));
+        for (const QString &name : samples.entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
+            paths.append(QFile::encodeName(samples.filePath(name)));
+        const QString text = QStringLiteral("\ta b. ") + SampleTexts::german + u'\n' + SampleTexts::arabic
+            + u'\n' + SampleTexts::japanese + u'\n' + SampleTexts::hindi.repeated(9);
+        paths.append(QFile::encodeName(writeFile(QStringLiteral("languages.txt"), text.toUtf8())));
+        const QByteArray html =
+            "<!DOCTYPE html><h1>a</h1><p style='font-size:20pt'>" + text.toUtf8() + "</p>";
+        paths.append(QFile::encodeName(writeFile(QStringLiteral("languages.html"), html)));
+        const QByteArray word = WordPackage{.body = "<w:p><w:r><w:rPr><w:sz w:val='40'/></w:rPr><w:t>"
+                + text.toUtf8() + "</w:t></w:r></w:p>"}
+                                    .bytes();
+        paths.append(QFile::encodeName(writeFile(QStringLiteral("languages.docx"), word)));
+        return paths;
+    }
+
+    static QBYWordCounterStats countByCommand(const QByteArrayList &words)
+    {
+        const auto outcome = ChildProcess(productProgram(QStringLiteral("quillbay"))).run(words);
+        EXPECT_EQ(outcome.exitStatus, 0) << outcome.errors.constData();
+        return statsFromJson(outcome.output);
+    }
+
+    static QBYWordCounterStats countByPanel(const QByteArray &path)
+    {
+        const auto panel = std::make_shared<WordCounterViewController>();
+        panel->view();
+        bool isCounted = false;
+        const auto completion = [&isCounted] { isCounted = true; };
+        if (path.endsWith(".docx"))
+            panel->asyncUpdateStatsDocXFileURL(QUrl::fromLocalFile(QFile::decodeName(path)), completion);
+        else
+            panel->asyncUpdateStatsWithAttributedString(loadDocument(path).value(), completion);
+        EXPECT_TRUE(waitUntil([&] { return isCounted && !panel->isAsyncCountOperationInProgress(); }));
+        return panel->wordCounter()->statsRepresentation();
+    }
+
+    static void expectOneSetOfNumbers()
+    {
+        for (const QByteArray &path : documents()) {
+            const QBYWordCounterStats stats = countByCommand({"count", "--json", path});
+            EXPECT_GT(stats.numberOfWords, 0U) << path.constData();
+            EXPECT_EQ(countByCommand({"count", "--json", "--service", path}), stats) << path.constData();
+            EXPECT_EQ(countByPanel(path), stats) << path.constData();
+        }
+    }
+};
+
+TEST_F(OneSetOfNumbers, ForCommandServiceAndPanel)
+{
+    expectOneSetOfNumbers();
+}
+
+TEST_F(OneSetOfNumbers, InALocaleThatIsNotTheBuss)
+{
+    setLocale("de_DE.UTF-8");
+    expectOneSetOfNumbers();
+}
+
+TEST_F(OneSetOfNumbers, OnThePaperOfAPrinter)
+{
+    if (!PrintServer::isInstalled())
+        GTEST_SKIP() << "no print server here";
+    PrintServer server;
+    server.addQueue("odd");
+    server.makeDefault("odd");
+    expectOneSetOfNumbers();
+}
