@@ -5,7 +5,7 @@
 
 #include <QByteArray>
 
-/// Whether the path is in a trash folder of this user (freedesktop.org Trash specification 1.0): the home
+/// Whether the path is in a trash folder of this user (Trash 1.0 of freedesktop.org): the home
 /// trash, or that of a file system, .Trash/UID or .Trash-UID. path: absolute.
 bool isInTrash(const QByteArray &path);
 

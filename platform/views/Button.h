@@ -14,7 +14,7 @@ public:
     [[nodiscard]] const QString &title() const { return m_title; }
     void setTitle(const QString &title);
 
-    /// A name of the freedesktop.org Icon Naming Specification, as "edit-copy"; empty for none.
+    /// A name of freedesktop.org's standard icons, as "edit-copy"; empty for none.
     [[nodiscard]] const QString &iconName() const { return m_iconName; }
     void setIconName(const QString &name);
 
