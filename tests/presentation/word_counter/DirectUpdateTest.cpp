@@ -111,8 +111,8 @@ TEST_F(DirectUpdateTest, AStringIsCountedTwoTurnsLaterInHelveticaOf12Points)
 
 TEST_F(DirectUpdateTest, EveryStringIsWarnedOfInTheLog)
 {
-    const RecordingLogSink log;
     CountingPanel panel;
+    const RecordingLogSink log;
     const auto warning = QStringLiteral(
         "Called update stats with string..you should use the updateStatsWithAttributedString: if "
         "possible...as "
