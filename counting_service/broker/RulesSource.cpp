@@ -10,6 +10,8 @@
 RulesSource::RulesSource()
 {
     m_onThread.moveToThread(&m_thread);
+    connect(this, &RulesSource::wanted, &m_onThread, [this] { Q_EMIT taken(take()); });
+    connect(this, &RulesSource::taken, this, &RulesSource::hand, Qt::QueuedConnection);
     m_thread.setObjectName(QStringLiteral("rules"));
     m_thread.start();
 }
@@ -31,10 +33,7 @@ void RulesSource::takeNext()
 {
     m_isTaking = true;
     m_served = std::exchange(m_waiting, {});
-    QMetaObject::invokeMethod(&m_onThread, [this] {
-        QMetaObject::invokeMethod(
-            this, [this, snapshot = take()] { hand(snapshot); }, Qt::QueuedConnection);
-    });
+    Q_EMIT wanted();
 }
 
 RulesSource::Snapshot RulesSource::take()

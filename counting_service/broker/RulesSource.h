@@ -15,6 +15,8 @@
 #include <vector>
 
 class RulesSource : public QObject {
+    Q_OBJECT
+
 public:
     struct Snapshot {
         RulesSnapshot rules; ///< with the broker's own locale
@@ -32,6 +34,10 @@ public:
     /// Later calls the receiver, on the thread of the caller, with a snapshot that was begun after this call.
     /// All that wait for the same one are called in the order in which they asked.
     void ask(const Receiver &receiver);
+
+Q_SIGNALS:
+    void wanted(); ///< for the thread
+    void taken(const RulesSource::Snapshot &snapshot); ///< for us
 
 private:
     void takeNext();

@@ -8,14 +8,12 @@
 // (p) is set off by an empty line, cells are followed by a tabulator and rows by a line end, white space
 // collapses, no-break spaces and soft hyphens stay. Where the standard leaves a choice, or this reader
 // differs:
-//  - Style attributes count, for the properties that HtmlStyleAttribute.h lists; <style> and linked style
-//  sheets
-//    do not. text-transform, generated content (quotation marks of q, list markers, numbers) and images with
-//    their alternative texts give no text.
+//  - Style attributes count, for the properties that HtmlStyleAttribute.h lists; style sheets do not.
+//    text-transform, generated content (quotation marks of q, list markers, numbers) and images with their
+//    alternative texts give no text.
 //  - Scripts count as running elsewhere: noscript is hidden. What is in a details element that is not open,
-//  in
-//    a dialog that is not, or in a popover is hidden. The content of an object element is shown, as its data
-//    is never there; that of audio, video, canvas, iframe, meter and progress never is.
+//    in a dialog that is not, or in a popover is hidden. The content of object, audio, video, canvas, iframe,
+//    meter and progress elements, which is there for browsers that do not know them, never shows.
 //  - The text of a textarea is shown, with its white space, as a reader of the page sees it.
 //  - A line end in collapsing white space is a space even between East Asian characters.
 //  - A hidden root element makes an empty text, not that of the hidden elements.
@@ -38,8 +36,7 @@ struct HtmlOptions {
 enum class HtmlError {
     TooLong, ///< positions in a text are 32 bits wide
     TooDeep, ///< more than 1000 elements inside each other
-    TooIntricate, ///< the parser's time or memory for such elements grows out of all proportion to their
-                  ///< number
+    TooIntricate, ///< the parser needs time or memory out of all proportion to the page's length
     NotEnoughMemory,
 };
 

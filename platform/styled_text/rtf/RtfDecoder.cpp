@@ -3,33 +3,9 @@
 
 #include "platform/styled_text/rtf/RtfSymbolFont.h"
 
-#include <unicode/ucnv.h>
-#include <unicode/ucnv_cb.h>
-#include <unicode/ucnv_err.h>
-
 #include <algorithm>
-#include <new>
 
 namespace {
-
-void throwOnFailure(UErrorCode status, const char *encoding)
-{
-    if (status == U_MEMORY_ALLOCATION_ERROR)
-        throw std::bad_alloc();
-    if (U_FAILURE(status))
-        qFatal("ICU cannot read %s: %s", encoding, u_errorName(status)); // a broken installation of ICU
-}
-
-/// ICU's own way writes U+001A for some bytes of some encodings.
-void writeReplacement(const void *, UConverterToUnicodeArgs *arguments, const char *, int32_t,
-    UConverterCallbackReason reason, UErrorCode *status)
-{
-    if (reason > UCNV_IRREGULAR) // not about any bytes
-        return;
-    *status = U_ZERO_ERROR;
-    const UChar replacement = QChar::ReplacementCharacter;
-    ucnv_cbToUWriteUChars(arguments, &replacement, 1, 0, status);
-}
 
 bool isAscii(QByteArrayView bytes)
 {
@@ -41,36 +17,15 @@ bool isAscii(QByteArrayView bytes)
 
 } // namespace
 
-void RtfDecoder::CloseConverter::operator()(UConverter *converter) const
-{
-    ucnv_close(converter);
-}
-
 RtfDecoder::RtfDecoder()
     : m_pages(static_cast<size_t>(rtfCodePageCount()))
 {
 }
 
-RtfDecoder::~RtfDecoder() = default;
-
-qsizetype RtfDecoder::convert(UConverter *converter, QByteArrayView bytes, char16_t *target, qsizetype room)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    const char *source = bytes.data();
-    UChar *end = target;
-    ucnv_toUnicode(converter, &end, target + room, &source, source + bytes.size(), nullptr, true, &status);
-    throwOnFailure(status, "text");
-    return end - target;
-}
-
 void RtfDecoder::fill(Page &known, const RtfCodePage *page)
 {
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<UConverter, CloseConverter> converter(ucnv_open(page->encoding, &status));
-    throwOnFailure(status, page->encoding);
-    ucnv_setToUCallBack(converter.get(), writeReplacement, nullptr, nullptr, nullptr, &status);
-    throwOnFailure(status, page->encoding);
-    if (ucnv_getMaxCharSize(converter.get()) > 1) {
+    auto converter = std::make_unique<const EncodingConverter>(page->encoding);
+    if (!converter->isSingleByte()) {
         known.converter = std::move(converter);
         return;
     }
@@ -80,7 +35,7 @@ void RtfDecoder::fill(Page &known, const RtfCodePage *page)
         char16_t &unit = (*known.singleBytes).at(value);
         if (value < 0x80)
             unit = static_cast<char16_t>(value);
-        else if (convert(converter.get(), {&byte, 1}, &unit, 1) != 1)
+        else if (converter->convert({&byte, 1}, &unit) != 1)
             unit = QChar::ReplacementCharacter;
     }
 }
@@ -125,6 +80,6 @@ void RtfDecoder::finish(QString &target)
     // No encoding makes more code units than it has bytes.
     target.resize(length + m_pending.size());
     auto *const from = reinterpret_cast<char16_t *>(target.data()) + length;
-    target.truncate(length + convert(m_pendingConverter, m_pending, from, m_pending.size()));
+    target.truncate(length + m_pendingConverter->convert(m_pending, from));
     m_pending.clear();
 }

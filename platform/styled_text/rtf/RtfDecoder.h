@@ -4,6 +4,7 @@
 // Thread: one.  Owner: the reading of one document.
 #pragma once
 
+#include "platform/styled_text/EncodingConverter.h"
 #include "platform/styled_text/rtf/RtfCodePage.h"
 
 #include <QByteArray>
@@ -14,14 +15,11 @@
 #include <memory>
 #include <vector>
 
-struct UConverter;
-
 /// Bytes without a meaning become U+FFFD. Pages whose characters may take several bytes keep bytes back until
 /// finish(), which must be called before the page or the target change.
 class RtfDecoder {
 public:
     RtfDecoder();
-    ~RtfDecoder();
     RtfDecoder(const RtfDecoder &) = delete;
     RtfDecoder &operator=(const RtfDecoder &) = delete;
 
@@ -30,19 +28,15 @@ public:
     void finish(QString &target);
 
 private:
-    struct CloseConverter {
-        void operator()(UConverter *converter) const;
-    };
     struct Page {
         bool isKnown = false;
         std::unique_ptr<std::array<char16_t, 256>> singleBytes; ///< null where one byte may be too few
-        std::unique_ptr<UConverter, CloseConverter> converter; ///< of the others
+        std::unique_ptr<const EncodingConverter> converter; ///< of the others
     };
     const Page &known(const RtfCodePage *page);
     static void fill(Page &known, const RtfCodePage *page);
-    static qsizetype convert(UConverter *converter, QByteArrayView bytes, char16_t *target, qsizetype room);
 
     std::vector<Page> m_pages; ///< by rtfCodePageIndex()
     QByteArray m_pending;
-    UConverter *m_pendingConverter = nullptr;
+    const EncodingConverter *m_pendingConverter = nullptr;
 };

@@ -7,25 +7,30 @@ qint32 RtfGraphics::add(const QString &storedName, qint32 fileNumber)
     return static_cast<qint32>(m_graphics.size()) - 1;
 }
 
-std::shared_ptr<const Attachment> RtfGraphics::stored(const QString &name)
+const RtfGraphics::Stored &RtfGraphics::stored(const QString &name)
 {
     const auto found = m_stored.constFind(name);
     if (found != m_stored.cend())
         return *found;
-    std::shared_ptr<const Attachment> attachment = m_source ? m_source(name) : nullptr;
-    m_stored.insert(name, attachment);
-    return attachment;
+    Stored stored{m_source ? m_source(name) : nullptr, nullptr};
+    if (stored.attachment)
+        stored.contents = m_contents.insert(stored.attachment->contents)->constData();
+    return *m_stored.insert(name, stored);
 }
 
 std::shared_ptr<const Attachment> RtfGraphics::attachment(qint32 graphic, qint32 fileNumber)
 {
     const Graphic &named = m_graphics[static_cast<size_t>(graphic)];
-    std::shared_ptr<const Attachment> attachment = stored(named.storedName);
-    const QString *ownName = m_exactValues.fileName(named.fileNumber != 0 ? named.fileNumber : fileNumber);
-    if (!attachment || !ownName || *ownName == attachment->fileName)
-        return attachment;
-    std::shared_ptr<const Attachment> &renamed = m_renamed[{named.storedName, *ownName}];
-    if (!renamed)
-        renamed = std::make_shared<const Attachment>(Attachment{*ownName, attachment->contents});
-    return renamed;
+    const Stored &stored = this->stored(named.storedName);
+    if (!stored.attachment)
+        return nullptr;
+    const QString *exactName = m_exactValues.fileName(named.fileNumber != 0 ? named.fileNumber : fileNumber);
+    const QString name = exactName ? *exactName : stored.attachment->fileName;
+    std::shared_ptr<const Attachment> &attachment = m_attachments[{name, stored.contents}];
+    if (!attachment) {
+        attachment = name == stored.attachment->fileName
+            ? stored.attachment
+            : std::make_shared<const Attachment>(Attachment{name, stored.attachment->contents});
+    }
+    return attachment;
 }

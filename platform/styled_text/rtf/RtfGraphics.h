@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-// RtfGraphics are the attachments that a document names, found once for each name.
-// Thread: one.  Owner: the reading of one document.
+// RtfGraphics are the attachments that a document names, found once for each name. Those of equal names and
+// contents are one object, since to compare large ones over and over takes its time. Thread: one.  Owner: the
+// reading of one document.
 #pragma once
 
 #include "platform/styled_text/rtf/RtfExactValues.h"
 #include "platform/styled_text/rtf/RtfReader.h"
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 #include <memory>
@@ -34,11 +36,16 @@ private:
         QString storedName;
         qint32 fileNumber;
     };
-    std::shared_ptr<const Attachment> stored(const QString &name);
+    struct Stored {
+        std::shared_ptr<const Attachment> attachment; ///< null where there is none
+        const char *contents = nullptr; ///< of the first one with equal contents
+    };
+    const Stored &stored(const QString &name);
 
     const AttachmentSource &m_source;
     const RtfExactValues &m_exactValues;
     std::vector<Graphic> m_graphics;
-    QHash<QString, std::shared_ptr<const Attachment>> m_stored;
-    QHash<std::pair<QString, QString>, std::shared_ptr<const Attachment>> m_renamed; ///< by both names
+    QHash<QString, Stored> m_stored;
+    QSet<QByteArray> m_contents;
+    QHash<std::pair<QString, const char *>, std::shared_ptr<const Attachment>> m_attachments; ///< by contents
 };

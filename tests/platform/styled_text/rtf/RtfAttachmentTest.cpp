@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "platform/styled_text/rtf/RtfGraphics.h"
+
 #include "tests/platform/styled_text/rtf/RtfDocuments.h"
 
 #include <QMap>
@@ -111,12 +113,22 @@ TEST(RtfReader, GivesAnAttachmentItsOwnNameWhereTheStoredOneIsAnother)
         nameIn(table + R"(a{{\NeXTGraphic 1.png \width0\qbyfile3}\'ac}b)", files), QStringLiteral("1.png"));
 }
 
-TEST(RtfReader, SharesTheContentsOfAnAttachmentUnderItsOwnName)
+TEST(RtfGraphics, MakeOneObjectOfAttachmentsOfEqualNamesAndContents)
 {
-    Files files{QStringLiteral("1.png")};
-    const QByteArray graphic = R"({{\NeXTGraphic 1.png \width0\qbyfile1}\'ac})";
-    const AttributedString text =
-        read(document(R"({\*\qbyexact{\qbyfile1 own.png}})" + graphic + graphic), files.source());
-    EXPECT_EQ(text.runCount(), 1);
-    EXPECT_EQ(text.attributesAt(0).attachment->contents, QByteArray("contents"));
+    const AttachmentSource source = [](const QString &name) {
+        return std::make_shared<const Attachment>(Attachment{name, name.endsWith(u'b') ? "b" : "contents"});
+    };
+    RtfExactValues exactValues;
+    exactValues.add(RtfAction::ExactFile, 1, u"a");
+    RtfGraphics graphics(source, exactValues);
+    const auto attachment = [&](const char *storedName, qint32 fileNumber) {
+        return graphics.attachment(graphics.add(QString::fromLatin1(storedName), fileNumber), 0);
+    };
+    const std::shared_ptr<const Attachment> a = attachment("a", 0);
+    EXPECT_EQ(*a, (Attachment{QStringLiteral("a"), "contents"}));
+    EXPECT_EQ(attachment("a", 1), a);
+    EXPECT_EQ(attachment("other", 1), a);
+    EXPECT_EQ(*attachment("other", 0), (Attachment{QStringLiteral("other"), "contents"}));
+    EXPECT_EQ(*attachment("b", 1), (Attachment{QStringLiteral("a"), "b"}));
+    EXPECT_EQ(attachment("b", 1), attachment("b", 1));
 }
