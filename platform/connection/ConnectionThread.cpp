@@ -15,10 +15,13 @@ std::unique_ptr<QThread> thread;
 // Qt's own thread for the bus ends after the application object, so ours never talks to one that is gone.
 void stop()
 {
-    const std::lock_guard guard(mutex);
-    thread->quit();
-    thread->wait();
-    thread.reset();
+    std::unique_ptr<QThread> stopped;
+    {
+        const std::lock_guard guard(mutex);
+        stopped = std::move(thread);
+    }
+    stopped->quit();
+    stopped->wait(); // without the mutex: a handler may still make connections
 }
 
 } // namespace

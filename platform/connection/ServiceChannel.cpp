@@ -99,6 +99,8 @@ void ServiceChannel::close()
 
 void ServiceChannel::accept(Identifier identifier, const Request &request)
 {
+    if (m_isClosed)
+        return;
     m_requests.emplace(identifier, request);
     if (m_isResumed)
         call(identifier);
@@ -114,8 +116,6 @@ void ServiceChannel::callWhatWaits()
 
 void ServiceChannel::call(Identifier identifier)
 {
-    if (m_isClosed)
-        return;
     if (!connectToBus()) {
         giveUp(identifier, publicly(QStringLiteral("no session bus")), m_bus->bus().lastError().message());
         return;

@@ -4,6 +4,7 @@
 
 #include "tests/platform/connection/ConnectionTest.h"
 
+using ::testing::AnyOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -103,7 +104,8 @@ TEST_F(ServiceDeathTest, WhoLostItsNameMayStillAnswerWhenTheOtherOneDied)
     service.release();
     m_replies.waitFor(2);
     EXPECT_EQ(m_replies.replies().back(), counts);
-    EXPECT_THAT(service.requests(), SizeIs(3));
+    // The second request may have met the service that was crashing, and been sent once more.
+    EXPECT_THAT(service.requests(), AnyOf(SizeIs(3), SizeIs(4)));
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
