@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RtfGraphics are the attachments that a document names, found once for each name. Those of equal names and
-// contents are one object, since to compare large ones over and over takes its time. Thread: one.  Owner: the
-// reading of one document.
+// contents are one object, since to compare large ones over and over takes its time.
+// Thread: one.  Owner: the reading of one document.
 #pragma once
 
 #include "platform/styled_text/rtf/RtfExactValues.h"
