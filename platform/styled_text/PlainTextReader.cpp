@@ -2,6 +2,7 @@
 #include "platform/styled_text/PlainTextReader.h"
 
 #include "platform/styled_text/EncodedText.h"
+#include "platform/styled_text/MimeCharset.h"
 #include "platform/styled_text/TextEncoding.h"
 
 #include <new>
@@ -21,10 +22,17 @@ QString causeText(TextError error)
 
 Result<PlainText, TextError> readPlainText(QByteArrayView bytes)
 {
+    return readPlainText(bytes, {});
+}
+
+Result<PlainText, TextError> readPlainText(QByteArrayView bytes, const QByteArray &charset)
+{
     if (bytes.size() > longestInput)
         return TextError::TooLong;
     try {
-        const TextEncoding encoding = detectTextEncoding(bytes);
+        TextEncoding encoding = detectTextEncoding(bytes);
+        if (const char *const named = encodingOfMimeCharset(charset); named && encoding.markLength == 0)
+            encoding.name = named;
         return PlainText{decodedText(bytes.sliced(encoding.markLength), encoding.name), encoding.name};
     } catch (const std::bad_alloc &) {
         return TextError::NotEnoughMemory;

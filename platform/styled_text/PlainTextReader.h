@@ -26,3 +26,6 @@ QString causeText(TextError error);
 /// Every sequence of bytes is a text: NUL bytes are NUL characters, what its encoding has no meaning for is
 /// U+FFFD, and the last line need not end.
 Result<PlainText, TextError> readPlainText(QByteArrayView bytes);
+/// The same where the charset parameter of a MIME type says the encoding. A byte order mark is believed over
+/// it, and a charset that is empty or unknown says nothing.
+Result<PlainText, TextError> readPlainText(QByteArrayView bytes, const QByteArray &charset);

@@ -78,3 +78,8 @@ LoadResult documentFromBytes(QByteArrayView bytes, const DocumentOptions &)
 {
     return loadedBytes({}, bytes);
 }
+
+LoadResult documentFromFile(const QByteArray &path, QByteArrayView bytes)
+{
+    return loadedBytes(path, bytes);
+}

@@ -35,3 +35,6 @@ Result<AttributedString, LoadError> loadDocument(int descriptor, const DocumentO
 /// A document that has been read already. A plain text has no attributes.
 Result<AttributedString, LoadError> documentFromBytes(
     QByteArrayView bytes, const DocumentOptions &options = {});
+
+/// A document of a file that has been read already. path: whose name may tell the kind.
+Result<AttributedString, LoadError> documentFromFile(const QByteArray &path, QByteArrayView bytes);

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// Pasteboard is what the user has selected or copied: one content in all the forms that its owner offers.
+// Thread: any; a value. Who gets it from the display or over the bus: platform/selection, platform/services.
+#pragma once
+
+#include "platform/styled_text/AttributedString.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <map>
+#include <optional>
+
+class Pasteboard {
+public:
+    // MIME types that are read; of text/plain and text/html any charset parameter is too.
+    static constexpr char16_t flatRtfdType[] = u"application/x-flat-rtfd";
+    static constexpr char16_t rtfType[] = u"text/rtf"; // and application/rtf, text/richtext
+    static constexpr char16_t htmlType[] = u"text/html";
+    static constexpr char16_t plainTextType[] = u"text/plain";
+    static constexpr char16_t urlListType[] = u"text/uri-list"; // RFC 2483
+    static constexpr char16_t gnomeFileListType[] = u"x-special/gnome-copied-files";
+    static constexpr char16_t kdeFileListType[] = u"application/x-kde4-urilist";
+
+    /// By MIME type, with its parameters.
+    using Forms = std::map<QString, QByteArray>;
+
+    Pasteboard() = default;
+    explicit Pasteboard(Forms forms)
+        : m_forms(std::move(forms))
+    {
+    }
+
+    [[nodiscard]] const Forms &forms() const { return m_forms; }
+
+    /// The richest form that can be read as styled text: flat RTFD, then RTF, HTML, plain text; absent where
+    /// there is none. A form that turns out to be damaged leaves it to the next one.
+    [[nodiscard]] std::optional<AttributedString> readAttributedString() const;
+    /// The local files among the URLs, in their order, each as often as it is there; empty where there are
+    /// none. Relative and remote URLs are no files.
+    [[nodiscard]] QList<QUrl> readFileURLs() const;
+
+private:
+    Forms m_forms;
+};

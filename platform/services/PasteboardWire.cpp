@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "platform/services/PasteboardWire.h"
+
+#include "platform/connection/SealedMemory.h"
+
+#include <QDBusUnixFileDescriptor>
+
+#include <sys/stat.h>
+
+namespace {
+
+std::optional<QByteArray> bytesInMemoryFile(const QDBusUnixFileDescriptor &file)
+{
+    struct stat status = {};
+    if (!file.isValid() || fstat(file.fileDescriptor(), &status) != 0 || status.st_size < 0
+        || static_cast<quint64>(status.st_size) > PasteboardWire::largestPasteboard)
+        return std::nullopt;
+    const SealedMemory::MadeMemory memory =
+        SealedMemory::received(file.fileDescriptor(), static_cast<quint64>(status.st_size));
+    return memory ? std::optional(memory.value().bytes().toByteArray()) : std::nullopt;
+}
+
+std::optional<QByteArray> bytesOf(const QVariant &value)
+{
+    if (value.metaType() == QMetaType::fromType<QByteArray>())
+        return value.toByteArray();
+    if (value.metaType() == QMetaType::fromType<QDBusUnixFileDescriptor>())
+        return bytesInMemoryFile(value.value<QDBusUnixFileDescriptor>());
+    return std::nullopt;
+}
+
+QVariant valueFor(const QByteArray &bytes)
+{
+    if (bytes.size() <= PasteboardWire::longestInMessage)
+        return bytes;
+    const SealedMemory::MadeMemory memory = SealedMemory::copyOf(bytes);
+    return memory ? QVariant::fromValue(QDBusUnixFileDescriptor(memory.value().descriptor())) : QVariant();
+}
+
+} // namespace
+
+QVariantMap PasteboardWire::toMessage(const Pasteboard &pasteboard)
+{
+    QVariantMap map;
+    for (const auto &[type, bytes] : pasteboard.forms()) {
+        if (const QVariant value = valueFor(bytes); value.isValid())
+            map.insert(type, value);
+    }
+    return map;
+}
+
+std::optional<Pasteboard> PasteboardWire::fromMessage(const QVariantMap &map)
+{
+    if (map.size() > mostForms)
+        return std::nullopt;
+    Pasteboard::Forms forms;
+    quint64 total = 0;
+    for (auto entry = map.begin(); entry != map.end(); ++entry) {
+        std::optional<QByteArray> bytes = bytesOf(entry.value());
+        if (!bytes)
+            return std::nullopt;
+        total += static_cast<quint64>(bytes->size());
+        if (total > largestPasteboard)
+            return std::nullopt;
+        forms.emplace(entry.key(), *std::move(bytes));
+    }
+    return Pasteboard(std::move(forms));
+}

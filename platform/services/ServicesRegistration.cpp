@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "platform/services/ServicesRegistration.h"
+
+#include "platform/logging/LogChannel.h"
+#include "platform/services/ServiceInterface.h"
+#include "platform/services/ServiceMessageReceiver.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusError>
+
+#include <utility>
+
+ServicesRegistration::ServicesRegistration(ServicesProvider &provider, RequestBegins begins, RequestEnds ends)
+    : m_receiver(std::make_unique<ServiceMessageReceiver>(provider, std::move(begins), std::move(ends)))
+{
+}
+
+ServicesRegistration::~ServicesRegistration()
+{
+    QDBusConnection::sessionBus().unregisterObject(ServiceInterface::objectPath());
+}
+
+bool ServicesRegistration::start(std::function<void()> lost)
+{
+    m_receiver->setLostHandler(std::move(lost));
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
+        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), m_receiver.get(),
+        SLOT(busIsLost()));
+    bus.unregisterObject(ServiceInterface::objectPath());
+    // The object comes before the name: messages may be waiting for it.
+    const bool isOnBus = bus.isConnected()
+        && bus.registerObject(
+            ServiceInterface::objectPath(), m_receiver.get(), QDBusConnection::ExportScriptableSlots)
+        && bus.registerService(ServiceInterface::busName());
+    if (!isOnBus) {
+        const QString cause = bus.lastError().message();
+        LogChannel::standard().error(u"The name {} is not to be had: {}",
+            {publicly(ServiceInterface::busName()),
+                publicly(cause.isEmpty() ? QStringLiteral("another process has it") : cause)});
+    }
+    return isOnBus;
+}
+
+void ServicesRegistration::giveNameAway()
+{
+    // Behind the bus's answer to this comes no message any more, and all before it are in our queue.
+    QDBusConnection::sessionBus().unregisterService(ServiceInterface::busName());
+    QCoreApplication::sendPostedEvents();
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// OpenPanel says which files the user may choose from; a Desktop shows it.
+// Thread: main; a value.
+#pragma once
+
+#include <QList>
+#include <QStringList>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+
+struct OpenPanel {
+    /// urls: what was chosen, at least one; absent where the user has cancelled.
+    using Completion = std::function<void(const std::optional<QList<QUrl>> &urls)>;
+
+    /// MIME types, the usual kind first; files of derived types are offered too. Empty for all files.
+    QStringList allowedFileTypes;
+    bool allowsMultipleSelection = false;
+};
