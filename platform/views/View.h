@@ -68,8 +68,8 @@ public:
     [[nodiscard]] const std::vector<std::shared_ptr<View>> &subviews() const { return m_subviews; }
     [[nodiscard]] View *superview() const { return m_superview; }
     [[nodiscard]] Window *window() const;
-    /// A rectangle in the view's own coordinates, in those of the root of its tree's superview: of the
-    /// window, where the view lies in one. Points from the bottom left.
+    /// Takes a rectangle in the view's own coordinates to those of its window, from the bottom left; in a
+    /// tree without a window, to those in which the frame of the topmost view is given.
     [[nodiscard]] QRectF convertToWindow(const QRectF &rect) const;
 
     /// Puts the view above all other subviews. It leaves the superview or window it had; a subview of this

@@ -14,6 +14,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace {
 
@@ -67,25 +68,21 @@ void ViewBinding::followView()
 
 void ViewBinding::bindSubviews()
 {
-    std::vector<std::unique_ptr<ViewBinding>> bindings;
-    for (const std::shared_ptr<View> &subview : m_view->subviews()) {
-        std::unique_ptr<ViewBinding> binding = takeBinding(*subview);
-        if (!binding)
-            binding = std::make_unique<ViewBinding>(*subview, *m_widget, m_bindings);
+    const std::vector<std::shared_ptr<View>> &views = m_view->subviews();
+    size_t kept = 0; // as many as lie where they lay
+    while (kept < std::min(views.size(), m_subviews.size()) && m_subviews[kept]->view() == views[kept].get())
+        ++kept;
+    std::unordered_map<const View *, std::unique_ptr<ViewBinding>> former;
+    for (size_t i = kept; i < m_subviews.size(); ++i)
+        former.emplace(m_subviews[i]->view(), std::move(m_subviews[i]));
+    m_subviews.resize(kept);
+    for (size_t i = kept; i < views.size(); ++i) {
+        std::unique_ptr<ViewBinding> &known = former[views[i].get()];
+        m_subviews.push_back(
+            known ? std::move(known) : std::make_unique<ViewBinding>(*views[i], *m_widget, m_bindings));
         // The order of widgets is that of the views: which lies above, and which is read first.
-        binding->m_widget->raise();
-        bindings.push_back(std::move(binding));
+        m_subviews.back()->m_widget->raise();
     }
-    m_subviews = std::move(bindings);
-}
-
-std::unique_ptr<ViewBinding> ViewBinding::takeBinding(const View &subview)
-{
-    for (std::unique_ptr<ViewBinding> &binding : m_subviews) {
-        if (binding && binding->view() == &subview)
-            return std::move(binding);
-    }
-    return nullptr;
 }
 
 void ViewBinding::layOut(const QPoint &parentOrigin)

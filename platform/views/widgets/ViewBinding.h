@@ -40,7 +40,6 @@ protected:
 private:
     void followView();
     void bindSubviews();
-    std::unique_ptr<ViewBinding> takeBinding(const View &subview);
     void showOrHide();
     void fade(int milliseconds);
     QGraphicsOpacityEffect &opacityEffect();

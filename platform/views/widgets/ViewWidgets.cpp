@@ -43,7 +43,7 @@ QWidget *makeLabel(Label &view, QWidget *parent)
     label->setTextInteractionFlags(Qt::NoTextInteraction);
     label->setIndent(0);
     const auto update = [label, &view] {
-        label->setText(view.stringValue());
+        label->setText(QString(view.stringValue()).replace(u'\n', u' ')); // one line
         label->setAlignment(qtAlignment(view.alignment()) | Qt::AlignAbsolute);
     };
     follow(view, label, update, &Label::stringValueDidChange, &Label::alignmentDidChange);

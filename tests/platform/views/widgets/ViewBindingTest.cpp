@@ -128,8 +128,8 @@ TEST(ViewBinding, LabelsShowTheirTextOnOneLineThatTheMouseCannotSelect)
     EXPECT_EQ(widget.textInteractionFlags(), Qt::NoTextInteraction);
     EXPECT_FALSE(widget.wordWrap());
     EXPECT_TRUE(widget.alignment() & Qt::AlignRight);
-    label.setStringValue(QStringLiteral("3"));
-    EXPECT_EQ(widget.text(), QStringLiteral("3"));
+    label.setStringValue(QStringLiteral("3\nwords"));
+    EXPECT_EQ(widget.text(), QStringLiteral("3 words"));
 }
 
 TEST(ViewBinding, HiddenViewsAreInvisible)
@@ -204,6 +204,23 @@ TEST(ViewBinding, ScreenReadersReadTheLabelsInTheirOrder)
         ElementsAre(QStringLiteral("34 characters"), QStringLiteral("Copy"), QStringLiteral("12 words")));
 }
 
+TEST(ViewBinding, KeepsTheWidgetsOfViewsThatStay)
+{
+    const ShownWindow shown({100, 200, 300, 150});
+    const Label &a = shown.add<Label>("a", {10, 20, 50, 17});
+    const Label &b = shown.add<Label>("b", {10, 40, 50, 17});
+    const QWidget *const widgetOfA = &shown.widgetOf(a);
+    const QWidget *const widgetOfB = &shown.widgetOf(b);
+    shown.add<Label>("c", {10, 60, 50, 17});
+    shown.content().addSubview(shown.content().subviews().front());
+    EXPECT_EQ(&shown.widgetOf(a), widgetOfA);
+    EXPECT_EQ(&shown.widgetOf(b), widgetOfB);
+    shown.content().subviews().front()->removeFromSuperview();
+    deleteWhatIsDue();
+    EXPECT_EQ(&shown.widgetOf(a), widgetOfA);
+    EXPECT_EQ(shown.widget().findChild<QWidget *>(QStringLiteral("b")), nullptr);
+}
+
 TEST(ViewBinding, TheLastSubviewLiesAboveTheOthers)
 {
     const ShownWindow shown({100, 200, 300, 150});
@@ -244,6 +261,19 @@ TEST(ViewBinding, AClickReachesTheButton)
     EXPECT_EQ(shown.widgetOf<QPushButton>(button).text(), QStringLiteral("A && B"));
     button.setEnabled(false);
     EXPECT_FALSE(shown.widgetOf(button).isEnabled());
+}
+
+TEST(ViewBinding, AButtonShowsItsAccessibleNameWhereTheThemeHasNoSuchIcon)
+{
+    const ShownWindow shown({100, 200, 300, 150});
+    Button &button = shown.add<Button>("button", {50, 50, 100, 30});
+    button.setIconName(QStringLiteral("no-such-icon"));
+    button.setAccessibleName(QStringLiteral("Copy"));
+    EXPECT_EQ(shown.widgetOf<QPushButton>(button).text(), QStringLiteral("Copy"));
+    EXPECT_TRUE(shown.widgetOf<QPushButton>(button).isFlat());
+    button.setTitle(QStringLiteral("Copy All"));
+    EXPECT_EQ(shown.widgetOf<QPushButton>(button).text(), QStringLiteral("Copy All"));
+    EXPECT_FALSE(shown.widgetOf<QPushButton>(button).isFlat());
 }
 
 TEST(ViewBinding, AClickMayTakeItsOwnButtonAway)
