@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 mebibyte = 1 << 20;
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of addresses
@@ -84,9 +84,9 @@ std::unique_ptr<WorkerProcess> WorkerProcess::start(const WorkerProgram &program
         std::move(worker->processFile), std::move(worker->socket)));
 }
 
-WorkerProcess::WorkerProcess(const WorkerProgram &program, Callbacks callbacks, pid_t process,
+WorkerProcess::WorkerProcess(WorkerProgram program, Callbacks callbacks, pid_t process,
     OwnedDescriptor processFile, OwnedDescriptor socket)
-    : m_program(program)
+    : m_program(std::move(program))
     , m_callbacks(std::move(callbacks))
     , m_process(process)
     , m_processFile(std::move(processFile))

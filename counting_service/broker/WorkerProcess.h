@@ -72,8 +72,8 @@ public:
     void end(WorkerEnd reason);
 
 private:
-    WorkerProcess(const WorkerProgram &program, Callbacks callbacks, pid_t process,
-        OwnedDescriptor processFile, OwnedDescriptor socket);
+    WorkerProcess(WorkerProgram program, Callbacks callbacks, pid_t process, OwnedDescriptor processFile,
+        OwnedDescriptor socket);
 
     void limitResources(quint64 length, std::chrono::milliseconds time) const;
     void readPackets();
