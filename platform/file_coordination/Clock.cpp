@@ -44,7 +44,11 @@ public:
     void pause(std::chrono::milliseconds duration) override
     {
         QEventLoop loop;
-        QTimer::singleShot(duration, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+        QTimer timer;
+        timer.setTimerType(Qt::PreciseTimer);
+        timer.setSingleShot(true);
+        QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+        timer.start(duration);
         loop.exec();
     }
 };

@@ -10,6 +10,8 @@
 namespace {
 
 constexpr std::chrono::milliseconds betweenLooks{20};
+// Longer than the grace: a presenter must hear that the file has moved before it finds nothing to read.
+constexpr std::chrono::milliseconds patienceWithMissing = ChangePolicy::grace + 5 * betweenLooks;
 constexpr int mostReads = 3; // of a file that changes while it is read; its next change is told anyway
 
 QByteArray pathOf(const QUrl &url)
@@ -76,13 +78,17 @@ CoordinatedAccess::Obstacle CoordinatedAccess::waitForTurn(const QByteArray &pat
         const Obstacle obstacle = obstacleAt(path);
         if (obstacle == Obstacle::None || m_clock.now() - start >= patienceWith(obstacle))
             return obstacle;
+        if (const auto presentation = FilePresentations::instance().of(m_presenter))
+            presentation->look();
+        if (m_isAbandoned)
+            return Obstacle::None;
         m_clock.pause(betweenLooks);
         if (m_isAbandoned)
             return Obstacle::None;
     }
 }
 
-CoordinatedAccess::Obstacle CoordinatedAccess::obstacleAt(const QByteArray &path)
+CoordinatedAccess::Obstacle CoordinatedAccess::obstacleAt(const QByteArray &path) const
 {
     const std::optional<FileState> state = fileStateAt(path);
     if (!state)
@@ -98,7 +104,7 @@ std::chrono::milliseconds CoordinatedAccess::patienceWith(Obstacle obstacle)
     case Obstacle::None:
         return std::chrono::milliseconds(0);
     case Obstacle::Missing:
-        return ChangePolicy::grace;
+        return patienceWithMissing;
     case Obstacle::Empty:
         return ChangePolicy::quiet;
     case Obstacle::Lock:

@@ -28,7 +28,7 @@ private:
     std::optional<CoordinationError> readInTurn(
         const QUrl &url, const QByteArray &path, const FileCoordinator::Accessor &accessor);
     Obstacle waitForTurn(const QByteArray &path);
-    Obstacle obstacleAt(const QByteArray &path);
+    [[nodiscard]] Obstacle obstacleAt(const QByteArray &path) const;
     static std::chrono::milliseconds patienceWith(Obstacle obstacle);
     bool waitFor(const Relinquishment &relinquishment);
     std::optional<CoordinationError> refuseForLock();

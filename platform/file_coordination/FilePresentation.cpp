@@ -105,9 +105,10 @@ void FilePresentation::watch()
 {
     const std::optional<int> systemError = m_watches.watch(m_path);
     // A folder that is missing may be on its way back; the policy's grace will tell.
-    m_isFolderMissing = systemError == ENOENT || systemError == ENOTDIR;
-    if (systemError && !m_isFolderMissing)
-        poll(*systemError);
+    const int error = systemError.value_or(0);
+    m_isFolderMissing = error == ENOENT || error == ENOTDIR;
+    if (error && !m_isFolderMissing)
+        poll(error);
 }
 
 void FilePresentation::poll(int systemError)
@@ -141,6 +142,8 @@ void FilePresentation::look()
 {
     if (m_hasEnded)
         return;
+    // What is told may end this presentation.
+    const std::shared_ptr<FilePresentation> self = shared_from_this();
     const std::vector<FileEvent> events = m_watches.takeEvents();
     for (const FileEvent event : events)
         m_policy.note(event, m_clock.now());

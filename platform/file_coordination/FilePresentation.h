@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // FilePresentation follows the file of one presenter: it listens and looks, has ChangePolicy decide, and
-// tells. Thread: main.  Owner: FilePresentations.
+// tells.
+// Thread: main.  Owner: FilePresentations, and itself while it tells.
 #pragma once
 
 #include "platform/file_coordination/ChangePolicy.h"
@@ -14,7 +15,7 @@
 
 /// Where the system does not tell of changes, the log gets one line and the file is looked at every two
 /// seconds.
-class FilePresentation {
+class FilePresentation : public std::enable_shared_from_this<FilePresentation> {
 public:
     /// How often is looked for what the system does not tell.
     static constexpr std::chrono::milliseconds pollInterval{2000};
@@ -28,6 +29,9 @@ public:
     void begin();
     /// Nothing is told any more, not even what has happened already.
     void end();
+
+    /// Looks without waiting for an event; may tell.
+    void look();
 
     /// Tells a change from the event loop, whether one is seen or not.
     void tellChange();
@@ -48,7 +52,6 @@ private:
     void watch();
     void poll(int systemError);
     [[nodiscard]] FileSighting sight();
-    void look();
     void tell(const FileNews &news);
     void tellMove(const FileNews &news);
     void tellExpectedChange();

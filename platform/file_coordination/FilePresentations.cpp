@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/FilePresentations.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 FilePresentations &FilePresentations::instance()
@@ -26,13 +24,8 @@ void FilePresentations::remove(const FilePresenter *presenter)
         [&](const auto &presentation) { return presentation->presenter() == presenter; });
     if (found == m_presentations.end())
         return;
-    const std::shared_ptr<FilePresentation> presentation = *found;
+    (*found)->end();
     m_presentations.erase(found);
-    presentation->end();
-    // Freed by the event loop: it may be telling its news at this moment.
-    if (QCoreApplication::instance())
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(), [presentation] {}, Qt::QueuedConnection);
 }
 
 std::shared_ptr<FilePresentation> FilePresentations::of(const FilePresenter *presenter) const
