@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "watching/WatchTextFileModel.h"
+
+#include "front_end/file_types/FileTypes.h"
+#include "preferences/QBYLogger.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QPointer>
+
+namespace {
+
+LogChannel &watchLog()
+{
+    return QBYLogger::watchFileModelLog();
+}
+
+} // namespace
+
+WatchTextFileModel::WatchTextFileModel(const QUrl &textFileURLToWatch, WatchTextFileModelDelegate *delegate,
+    ApplicationActivity &applicationActivity, Clock &clock)
+    : m_applicationActivity(applicationActivity)
+    , m_clock(clock)
+    , m_isPresentedItemDocXFile(QBYExtension::doesConformToDocXFileUTI(textFileURLToWatch))
+    , m_presentedItemURL(textFileURLToWatch)
+    , m_delegate(delegate)
+{
+    connect(&m_applicationActivity, &ApplicationActivity::willResignActive, this,
+        &WatchTextFileModel::applicationWillResignActiveNotification);
+    connect(&m_applicationActivity, &ApplicationActivity::didBecomeActive, this,
+        &WatchTextFileModel::applicationDidBecomeActive);
+    openAccess();
+}
+
+WatchTextFileModel::~WatchTextFileModel() = default;
+
+void WatchTextFileModel::openAccess()
+{
+    const Result<QByteArray, BookmarkError> bookmarkData = bookmarkDataOfURL(m_presentedItemURL);
+    if (!bookmarkData) {
+        watchLog().error(u"Error getting bookmark data: {}", {publicly(causeText(bookmarkData.error()))});
+        return;
+    }
+    Result<SecurityScopedURL, BookmarkError> bookmarkURL = URLByResolvingBookmarkData(bookmarkData.value());
+    if (!bookmarkURL) {
+        watchLog().error(u"Error resolving bookmark: {}", {publicly(causeText(bookmarkURL.error()))});
+        return;
+    }
+    m_bookmarkURL = std::move(bookmarkURL).value();
+    if (!m_bookmarkURL->startAccessingSecurityScopedResource()) {
+        watchLog().error(u"Failed to start accessing the security scoped resource!");
+        return;
+    }
+    watchLog().debug(u"Started accessing the bookmark.");
+    m_bookmarkData = bookmarkData.value();
+}
+
+QThread *WatchTextFileModel::presentedItemOperationQueue() const
+{
+    return QCoreApplication::instance()->thread();
+}
+
+void WatchTextFileModel::beginWatchingTextFile()
+{
+    FileCoordinator::addFilePresenter(this, m_clock);
+    m_coordinator = std::make_unique<FileCoordinator>(this, m_clock);
+    m_isWatchingTextFile = true;
+    m_timer.reset();
+}
+
+void WatchTextFileModel::stopWatchingTextFile()
+{
+    FileCoordinator::removeFilePresenter(this);
+    m_coordinator.reset();
+    m_timer.reset();
+    m_loader.forget();
+    m_isWatchingTextFile = false;
+}
+
+void WatchTextFileModel::setTextFileURLToWatch(
+    const QUrl &textFileURLToWatch, bool andImmediatelyBeginWatching)
+{
+    stopWatchingTextFile();
+    m_presentedItemURL = textFileURLToWatch;
+    if (andImmediatelyBeginWatching)
+        beginWatchingTextFile();
+}
+
+void WatchTextFileModel::forceRead(QObject * /*sender*/)
+{
+    if (!m_isTextFileReadable) {
+        // "reaquire": the log's readers know it so.
+        watchLog().debug(u"Force read called but we are waiting for a reaquire block to be called.");
+        return;
+    }
+    if (!m_coordinator)
+        return;
+    const std::optional<CoordinationError> error = m_coordinator->coordinateReadingItemAtURL(
+        m_presentedItemURL, [model = QPointer<WatchTextFileModel>(this)](const QUrl &newURL) {
+            if (!model)
+                return;
+            if (model->m_isPresentedItemDocXFile)
+                model->_reloadDocXInfoAndTellDelegateAtPresentedURL(newURL);
+            else
+                model->_reloadAttributedStringAndTellDelegateAtPresentedURL(newURL);
+        });
+    // The model may have gone by now.
+    if (error)
+        watchLog().error(u"NSFileCoordinator error: {}", {causeText(*error)});
+}
+
+void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(const QUrl &url)
+{
+    if (url.isEmpty()) {
+        watchLog().error(u"URL went nil!!!!");
+        failToLoad();
+        return;
+    }
+    const Result<AttributedString, LoadError> text = m_loader.load(QFile::encodeName(url.toLocalFile()));
+    if (!text) {
+        watchLog().error(u"failed to load attributed string for file at {}. Error {}",
+            {publicly(m_presentedItemURL.toString()), publicly(causeText(text.error()))});
+        failToLoad();
+        return;
+    }
+    if (WatchTextFileModelDelegate *const receiver = delegate())
+        receiver->currentlyWatchedTextFileDidUpdateWithAttributedString(text.value(), *this);
+}
+
+void WatchTextFileModel::_reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl &url)
+{
+    if (!QFile::exists(url.toLocalFile())) {
+        watchLog().error(u"nil QBYDocxMetaData....");
+        failToLoad();
+        return;
+    }
+    if (WatchTextFileModelDelegate *const receiver = delegate())
+        receiver->currentlyWatchedDocXFileDidUpdateWithDocxData(url, *this);
+}
+
+/// Stops before it tells, so that the delegate finds a model that has stopped.
+void WatchTextFileModel::failToLoad()
+{
+    stopWatchingTextFile();
+    if (WatchTextFileModelDelegate *const receiver = delegate())
+        receiver->currentlyWatchedTextFileDidFailToLoadAttribedText(*this);
+}
+
+void WatchTextFileModel::applicationWillResignActiveNotification()
+{
+    _doStartTimerIfAllConditionsAreMet();
+}
+
+void WatchTextFileModel::applicationDidBecomeActive()
+{
+    m_timer.reset();
+    watchLog().debug(u"We are active, kill poll timer.");
+}
+
+void WatchTextFileModel::_doStartTimerIfAllConditionsAreMet()
+{
+    if (!m_isWatchingTextFile || m_isPresentedItemDocXFile)
+        return;
+    m_timer = m_clock.makeTimer([this] { _nsTimerForceRead(); });
+    m_timer->repeat(pollInterval);
+    watchLog().debug(u"We are in the background, start the timer.");
+}
+
+void WatchTextFileModel::_nsTimerForceRead()
+{
+    if (m_isPresentedItemDocXFile) {
+        watchLog().error(
+            u"docx is the current file type. Timer shouldn't be used because it is a waste. Ignoring.");
+        return;
+    }
+    forceRead(nullptr);
+}
+
+void WatchTextFileModel::presentedItemDidChange()
+{
+    forceRead(nullptr);
+}
+
+void WatchTextFileModel::presentedItemDidMoveToURL(const QUrl &newURL)
+{
+    stopWatchingTextFile();
+    watchLog().debug(u"URL's don't match."); // said at every move, compared or not
+    m_presentedItemURL = newURL;
+    renewAccess();
+    const QPointer<WatchTextFileModel> self(this);
+    if (WatchTextFileModelDelegate *const receiver = delegate())
+        receiver->currentlyWatchedTextFileWasRenamed(newURL.fileName(), *this);
+    if (!self)
+        return;
+    beginWatchingTextFile();
+    if (m_applicationActivity.isActive())
+        return;
+    watchLog().debug(u"Get the timer started again if we are not the active app.");
+    _doStartTimerIfAllConditionsAreMet();
+}
+
+void WatchTextFileModel::renewAccess()
+{
+    if (m_bookmarkData.isEmpty())
+        return;
+    Result<SecurityScopedURL, BookmarkError> bookmarkURL = URLByResolvingBookmarkData(m_bookmarkData);
+    if (!bookmarkURL) {
+        watchLog().error(u"Resolve bookmark in -presentedItemDidMoveToURL: failed with error: {}",
+            {publicly(causeText(bookmarkURL.error()))});
+        return;
+    }
+    m_bookmarkURL->stopAccessingSecurityScopedResource();
+    m_bookmarkURL = std::move(bookmarkURL).value();
+    if (!m_bookmarkURL->startAccessingSecurityScopedResource())
+        watchLog().error(u"Failed to start accessing security scoped resource. Next attempt to read the text "
+                         u"might fail.");
+}
+
+void WatchTextFileModel::accommodatePresentedItemDeletionWithCompletionHandler(
+    const CompletionHandler &completionHandler)
+{
+    failToLoad();
+    completionHandler(std::nullopt);
+}
+
+void WatchTextFileModel::relinquishPresentedItemToReader(const Block &reader)
+{
+    m_isTextFileReadable = false;
+    watchLog().debug(u"relinquishPresentedItemToReader: called.");
+    reader([model = QPointer<WatchTextFileModel>(this)] {
+        if (model)
+            model->m_isTextFileReadable = true;
+        watchLog().debug(u"reader reacquirer block called.");
+    });
+}
+
+void WatchTextFileModel::relinquishPresentedItemToWriter(const Block &writer)
+{
+    m_isTextFileReadable = false;
+    watchLog().debug(u"relinquishPresentedItemToWriter: called.");
+    writer([model = QPointer<WatchTextFileModel>(this)] {
+        if (model)
+            model->m_isTextFileReadable = true;
+        watchLog().debug(u"writer reacquirer block called.");
+    });
+}
