@@ -2,10 +2,10 @@
 #include "command/CountCommand.h"
 
 #include "command/FileNames.h"
+#include "command/NamedDocument.h"
 #include "command/RulesExplanation.h"
 #include "platform/files/FileContents.h"
 #include "platform/styled_text/loading/DocumentKind.h"
-#include "platform/styled_text/loading/DocumentLoader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/MeasuringSurface.h"
 
@@ -19,8 +19,6 @@
 #include <utility>
 
 namespace {
-
-constexpr char standardInput[] = "-";
 
 qint64 sizeOfAll(const QByteArrayList &names)
 {
@@ -36,7 +34,7 @@ qint64 sizeOfAll(const QByteArrayList &names)
 // A list may be a pipe, unlike a document: shells make one of "--files-from <(find …)".
 Result<QByteArray, FileError> readList(const QByteArray &name)
 {
-    if (name == standardInput)
+    if (name == standardInputName)
         return readDescriptor(STDIN_FILENO);
     Result<QByteArray, FileError> list = readFile(name);
     if (list || list.error().cause != FileError::Cause::NamedPipe)
@@ -49,15 +47,10 @@ Result<QByteArray, FileError> readList(const QByteArray &name)
     return list;
 }
 
-Result<AttributedString, LoadError> loaded(const QByteArray &name)
-{
-    return name == standardInput ? loadDocument(STDIN_FILENO) : loadDocument(name);
-}
-
 /// A Word document goes to the service as it is; absent for any other.
 std::optional<QByteArray> bytesOfWordDocument(const QByteArray &name)
 {
-    if (name == standardInput)
+    if (name == standardInputName)
         return std::nullopt;
     Result<QByteArray, FileError> contents = readFile(name);
     if (!contents || kindOfDocument(name, contents.value()) != DocumentKind::WordDocument)
@@ -145,7 +138,7 @@ std::optional<QBYWordCounterStats> CountCommand::count(const QByteArray &name, P
 
 Result<QBYWordCounterStats, QString> CountCommand::countHere(const QByteArray &name, ProgressLine &progress)
 {
-    const Result<AttributedString, LoadError> text = loaded(name);
+    const Result<AttributedString, LoadError> text = loadNamedDocument(name);
     if (!text)
         return causeText(text.error());
     progress.startCounting(text.value().length());
@@ -160,12 +153,12 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
     if (!m_service)
         m_service.emplace();
     // A Word document is read here too, so that one which cannot be counted says why.
-    const Result<AttributedString, LoadError> text = loaded(name);
+    const Result<AttributedString, LoadError> text = loadNamedDocument(name);
     if (!text)
         return causeText(text.error());
     progress.startCounting(text.value().length());
     const std::optional<QByteArray> wordDocument = bytesOfWordDocument(name);
-    const Result<QBYWordCounterStats, ServiceFailure> stats =
+    const Result<QBYWordCounterStats, CountServiceFailure> stats =
         wordDocument ? m_service->countWordDocument(*wordDocument) : m_service->countText(text.value());
     if (!stats)
         return causeText(stats.error());
@@ -175,9 +168,7 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
 void CountCommand::fail(const QByteArray &name, const QString &cause)
 {
     m_hasFailed = true;
-    // What was printed so far comes first where both streams end in one place.
-    std::fflush(stdout);
-    std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(), cause.toUtf8().constData());
+    tellDocumentFailure(name, cause);
 }
 
 void CountCommand::print(const QByteArray &text)

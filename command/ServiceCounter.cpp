@@ -6,12 +6,12 @@
 #include <future>
 #include <memory>
 
-QString causeText(ServiceFailure failure)
+QString causeText(CountServiceFailure failure)
 {
     switch (failure) {
-    case ServiceFailure::NoAnswer:
+    case CountServiceFailure::NoAnswer:
         return QStringLiteral("the counting service does not answer; count without --service");
-    case ServiceFailure::NotEnoughMemory:
+    case CountServiceFailure::NotEnoughMemory:
         break;
     }
     return QStringLiteral("not enough memory to hand it to the counting service");
@@ -24,24 +24,25 @@ ServiceCounter::ServiceCounter()
     m_connection.resume();
 }
 
-Result<QBYWordCounterStats, ServiceFailure> ServiceCounter::countText(const AttributedString &text)
+Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::countText(const AttributedString &text)
 {
     const auto data = RTFDFromRange(text, 0, text.length());
     if (!data)
-        return ServiceFailure::NotEnoughMemory;
+        return CountServiceFailure::NotEnoughMemory;
     return count(&WordCounterServiceProtocol::countWordsForAttributedStringRTFDData, data.value());
 }
 
-Result<QBYWordCounterStats, ServiceFailure> ServiceCounter::countWordDocument(QByteArrayView bytes)
+Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::countWordDocument(QByteArrayView bytes)
 {
     return count(&WordCounterServiceProtocol::countWordsForDocX, bytes);
 }
 
-Result<QBYWordCounterStats, ServiceFailure> ServiceCounter::count(Request request, QByteArrayView payload)
+Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::count(
+    Request request, QByteArrayView payload)
 {
     SealedMemory::MadeMemory memory = SealedMemory::copyOf(payload);
     if (!memory)
-        return ServiceFailure::NotEnoughMemory;
+        return CountServiceFailure::NotEnoughMemory;
     // A connection that gives a request up lets its handler go, and with it the promise.
     auto promise = std::make_shared<std::promise<ServiceReply>>();
     std::future<ServiceReply> answer = promise->get_future();
@@ -53,6 +54,6 @@ Result<QBYWordCounterStats, ServiceFailure> ServiceCounter::count(Request reques
         return QBYWordCounterStats{
             counts[0], counts[1], counts[2], counts[3], counts[4], counts[5], counts[6], counts[7]};
     } catch (const std::future_error &) {
-        return ServiceFailure::NoAnswer;
+        return CountServiceFailure::NoAnswer;
     }
 }

@@ -11,27 +11,27 @@
 
 #include <QByteArrayView>
 
-enum class ServiceFailure {
+enum class CountServiceFailure {
     NoAnswer, ///< there is no service, or it failed twice; the log tells more
     NotEnoughMemory, ///< to hand the document over
 };
 
 /// The cause in English, on one line, to stand behind the document's name.
-QString causeText(ServiceFailure failure);
+QString causeText(CountServiceFailure failure);
 
 class ServiceCounter {
 public:
     ServiceCounter();
 
     // Wait for the answer as long as the count takes. What the service could not count has eight zeros.
-    Result<QBYWordCounterStats, ServiceFailure> countText(const AttributedString &text);
+    Result<QBYWordCounterStats, CountServiceFailure> countText(const AttributedString &text);
     /// bytes: of a .docx file.
-    Result<QBYWordCounterStats, ServiceFailure> countWordDocument(QByteArrayView bytes);
+    Result<QBYWordCounterStats, CountServiceFailure> countWordDocument(QByteArrayView bytes);
 
 private:
     using Request = void (WordCounterServiceProtocol::*)(
         WordCounterServiceProtocol::Data, WordCounterServiceProtocol::Results) const;
-    Result<QBYWordCounterStats, ServiceFailure> count(Request request, QByteArrayView payload);
+    Result<QBYWordCounterStats, CountServiceFailure> count(Request request, QByteArrayView payload);
 
     ServiceConnection m_connection;
 };

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The quillbay command: the counts in a terminal.
+// The quillbay command: the counts in a terminal, and the ways to its windows.
+#include "command/CommandWords.h"
 #include "command/CountArguments.h"
 #include "command/CountCommand.h"
+#include "command/TextCommand.h"
 
 #include <QCoreApplication>
 
@@ -10,54 +12,60 @@
 
 namespace {
 
-constexpr int wrongUsage = 2;
-
 constexpr char helpText[] = R"(Usage: quillbay COMMAND …
 
 Counts text for people who write.
 
 Commands:
   count      the counts of files or of standard input
+  text       the same of one file or of a pipe, in a window
 
 Options:
   -h, --help  show this and leave
   --version   show the version and leave
 
-'quillbay count --help' tells more about that command.
+'quillbay COMMAND --help' tells more about a command.
 )";
 
-int printed(const char *text)
+int runCountCommand(int wordCount, char **words)
 {
-    std::fputs(text, stdout);
-    return std::fflush(stdout) == 0 ? 0 : 1;
-}
-
-int count(int argumentCount, char **arguments)
-{
-    const std::optional<CountArguments> wanted = CountArguments::fromWords(argumentCount - 2, arguments + 2);
+    const std::optional<CountArguments> wanted = CountArguments::fromWords(wordCount, words);
     if (!wanted)
-        return wrongUsage;
+        return wrongUsageStatus;
     if (wanted->wantsHelp)
         return printed(CountArguments::helpText());
-    const QCoreApplication application(argumentCount, arguments);
     return CountCommand(*wanted).run();
 }
+
+struct Command {
+    std::string_view name;
+    int (*run)(int wordCount, char **words); ///< words: those behind the name
+};
+
+constexpr Command commands[] = {
+    {"count", runCountCommand},
+    {"text", runTextCommand},
+};
 
 } // namespace
 
 int main(int argumentCount, char **arguments)
 {
-    const std::string_view command = argumentCount > 1 ? arguments[1] : "";
-    if (command == "--help" || command == "-h")
+    const std::string_view name = argumentCount > 1 ? arguments[1] : "";
+    if (name == "--help" || name == "-h")
         return printed(helpText);
-    if (command == "--version")
+    if (name == "--version")
         return printed("quillbay " QUILLBAY_VERSION "\n");
-    if (command == "count")
-        return count(argumentCount, arguments);
-    if (command.empty())
+    for (const Command &command : commands) {
+        if (command.name == name) {
+            const QCoreApplication application(argumentCount, arguments);
+            return command.run(argumentCount - 2, arguments + 2);
+        }
+    }
+    if (name.empty())
         std::fputs("quillbay: no command given\n", stderr);
     else
         std::fprintf(stderr, "quillbay: no command '%s'\n", arguments[1]);
     std::fputs("Try 'quillbay --help' for more.\n", stderr);
-    return wrongUsage;
+    return wrongUsageStatus;
 }

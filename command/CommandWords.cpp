@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "command/CommandWords.h"
+
+#include <getopt.h>
+
+#include <cstdio>
+#include <vector>
+
+std::optional<CommandWords> CommandWords::parse(
+    const char *command, const QByteArrayList &known, int wordCount, char **words)
+{
+    // getopt_long() takes the first word for the program's name, which its messages begin with.
+    char programName[] = "quillbay";
+    std::vector<char *> argumentVector{programName};
+    argumentVector.insert(argumentVector.end(), words, words + wordCount);
+    argumentVector.push_back(nullptr);
+
+    std::vector<option> options{{"help", no_argument, nullptr, 'h'}};
+    for (const QByteArray &name : known)
+        options.push_back({name.constData(), no_argument, nullptr, 0x100});
+    options.push_back({});
+
+    CommandWords parsed;
+    optind = 0; // begin anew, should the process have parsed other words before
+    int index = 0;
+    for (int word;
+         (word = getopt_long(wordCount + 1, argumentVector.data(), "h", options.data(), &index)) != -1;) {
+        if (word == '?') { // getopt_long() has said what is wrong
+            tellWrongUsage(command, nullptr);
+            return std::nullopt;
+        }
+        parsed.switches.append(word == 'h' ? "help" : options[static_cast<size_t>(index)].name);
+    }
+    for (int i = optind; i <= wordCount; ++i)
+        parsed.operands.append(argumentVector[static_cast<size_t>(i)]);
+    return parsed;
+}
+
+int tellWrongUsage(const char *command, const char *message)
+{
+    if (message)
+        std::fprintf(stderr, "quillbay: %s\n", message);
+    std::fprintf(stderr, "Try 'quillbay %s --help' for more.\n", command);
+    return wrongUsageStatus;
+}
+
+int printed(const char *text)
+{
+    std::fputs(text, stdout);
+    return std::fflush(stdout) == 0 ? 0 : 1;
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "command/NamedDocument.h"
+
+#include "command/FileNames.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+
+Result<AttributedString, LoadError> loadNamedDocument(const QByteArray &name)
+{
+    return name == standardInputName ? loadDocument(STDIN_FILENO) : loadDocument(name);
+}
+
+void tellDocumentFailure(const QByteArray &name, const QString &cause)
+{
+    // What was printed so far comes first where both streams end in one place.
+    std::fflush(stdout);
+    std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(), cause.toUtf8().constData());
+}

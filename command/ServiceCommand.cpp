@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "command/ServiceCommand.h"
+
+#include "platform/services/ServiceInterface.h"
+#include "platform/services/ServiceRequestSender.h"
+#include "platform/user_notifications/UserNotification.h"
+#include "preferences/QBYUserDefaultsController.h"
+
+#include <cstdio>
+
+namespace {
+
+/// The token by which a window of this request may take the focus. It serves once: whoever comes after this
+/// process must not find it.
+QString takeActivationToken()
+{
+    QString token;
+    for (const char *const name : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"}) {
+        if (const QString value = qEnvironmentVariable(name); !value.isEmpty())
+            token = value;
+        qunsetenv(name);
+    }
+    return token;
+}
+
+QString asSentence(const QString &cause)
+{
+    QString sentence = cause.left(1).toUpper() + cause.mid(1);
+    if (!sentence.endsWith(u'.') && !sentence.endsWith(u'!') && !sentence.endsWith(u'?'))
+        sentence += u'.';
+    return sentence;
+}
+
+} // namespace
+
+int sendServiceRequest(const QString &message, const Pasteboard &pasteboard, FailureReport report)
+{
+    const QString token = takeActivationToken();
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    exportSessionEnvironment();
+    QVariantMap options;
+    if (!token.isEmpty())
+        options.insert(ServiceInterface::activationTokenOption(), token);
+    const std::optional<ServiceFailure> failure = sendServiceMessage(message, pasteboard, options);
+    return failure ? tellFailure(causeText(*failure), report) : 0;
+}
+
+int tellFailure(const QString &cause, FailureReport report)
+{
+    std::fprintf(stderr, "quillbay: %s\n", cause.toUtf8().constData());
+    if (report == FailureReport::StandardErrorAndNotification)
+        showUserNotification(QStringLiteral("Quillbay"), asSentence(cause));
+    return 1;
+}
