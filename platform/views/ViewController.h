@@ -5,6 +5,8 @@
 
 #include "platform/views/View.h"
 
+#include <optional>
+
 class ViewController : public QObject {
 public:
     /// Loads the view first where there is none.
@@ -16,7 +18,14 @@ public:
     virtual void loadView() = 0;
     /// Runs once after each loadView() that view() asked for.
     virtual void viewDidLoad() { }
+    /// Told by who shows the view, each time before it comes onto the screen.
+    virtual void viewWillAppear() { }
+
+    /// What the view is about, for who shows it; absent for nothing.
+    [[nodiscard]] const std::optional<QString> &title() const { return m_title; }
+    virtual void setTitle(const std::optional<QString> &title) { m_title = title; }
 
 private:
     std::shared_ptr<View> m_view;
+    std::optional<QString> m_title;
 };
