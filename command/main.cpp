@@ -3,6 +3,7 @@
 #include "command/CommandWords.h"
 #include "command/CountArguments.h"
 #include "command/CountCommand.h"
+#include "command/SelectionCommand.h"
 #include "command/TextCommand.h"
 
 #include <QCoreApplication>
@@ -18,7 +19,8 @@ Counts text for people who write.
 
 Commands:
   count      the counts of files or of standard input
-  text       the same of one file or of a pipe, in a window
+  selection  the counts of the selected text of any application, in a window
+  text       the counts of one file or of a pipe, in a window
 
 Options:
   -h, --help  show this and leave
@@ -44,6 +46,7 @@ struct Command {
 
 constexpr Command commands[] = {
     {"count", runCountCommand},
+    {"selection", runSelectionCommand},
     {"text", runTextCommand},
 };
 

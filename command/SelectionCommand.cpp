@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "command/SelectionCommand.h"
+
+#include "command/CommandWords.h"
+#include "command/ServiceCommand.h"
+#include "platform/selection/Selection.h"
+#include "platform/services/PasteboardWire.h"
+
+namespace {
+
+constexpr char helpText[] = R"(Usage: quillbay selection [--clipboard]
+
+Opens a small window with the counts of the text that is selected in whatever
+application. Made for a shortcut of the keyboard: what goes wrong is told in a
+notification of the desktop as well as on standard error.
+
+  --clipboard  the text that was copied last instead
+  -h, --help   show this and leave
+
+Exit status: 0 once the window is there, 1 if there is none, 2 for wrong usage.
+)";
+
+int openWindow(SelectionName name)
+{
+    constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
+    // Before anything that takes time: the user goes on working.
+    const Result<Pasteboard, SelectionFailure> pasteboard =
+        readSelection(name, SelectionContent::Text, PasteboardWire::largestPasteboard);
+    if (!pasteboard)
+        return tellFailure(causeText(pasteboard.error()), report);
+    return sendServiceRequest(QStringLiteral("wordCountSelectedTextService"), pasteboard.value(), report);
+}
+
+} // namespace
+
+int runSelectionCommand(int wordCount, char **words)
+{
+    const std::optional<CommandWords> wanted =
+        CommandWords::parse("selection", {"clipboard"}, wordCount, words);
+    if (!wanted)
+        return wrongUsageStatus;
+    if (wanted->wantsHelp())
+        return printed(helpText);
+    if (!wanted->operands.isEmpty())
+        return tellWrongUsage("selection", "it takes no file; 'quillbay text FILE' does");
+    return openWindow(
+        wanted->switches.contains("clipboard") ? SelectionName::Clipboard : SelectionName::Primary);
+}

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "platform/selection/Selection.h"
+
+#include "platform/selection/SelectionTargets.h"
+#include "platform/selection/SelectionTransfer.h"
+
+#include <new>
+
+namespace {
+
+using Cause = SelectionFailure::Cause;
+using Transfer = SelectionTransfer;
+
+class Display {
+public:
+    Display() = default;
+    Display(const Display &) = delete;
+    Display &operator=(const Display &) = delete;
+    ~Display() { xcb_disconnect(m_connection); }
+
+    [[nodiscard]] xcb_connection_t *connection() const { return m_connection; }
+    [[nodiscard]] bool isThere() const { return xcb_connection_has_error(m_connection) == 0; }
+
+private:
+    xcb_connection_t *m_connection = xcb_connect(nullptr, nullptr);
+};
+
+Cause causeOf(Transfer::Failure failure)
+{
+    switch (failure) {
+    case Transfer::Failure::Refused:
+        return Cause::Refused;
+    case Transfer::Failure::TooLarge:
+        return Cause::TooLarge;
+    case Transfer::Failure::NoAnswer:
+        break;
+    }
+    return Cause::NoAnswer;
+}
+
+class Reading {
+public:
+    Reading(SelectionContent content, Transfer &transfer)
+        : m_content(content)
+        , m_transfer(transfer)
+    {
+    }
+
+    Result<Pasteboard, Cause> run()
+    {
+        const Result<QByteArrayList, Transfer::Failure> offered = m_transfer.targets();
+        if (!offered && offered.error() != Transfer::Failure::Refused)
+            return causeOf(offered.error());
+        const auto groups =
+            SelectionTargets::wanted(m_content, offered ? std::optional(offered.value()) : std::nullopt);
+        for (const QByteArrayList &targets : groups) {
+            if (const std::optional<Cause> cause = takeFirst(targets))
+                return *cause;
+        }
+        if (!m_forms.empty())
+            return Pasteboard(std::move(m_forms));
+        if (m_hasEmptyForm)
+            return Cause::NothingSelected;
+        return offered ? Cause::OtherContent : Cause::Refused;
+    }
+
+private:
+    /// A form that the owner refuses after all, or that is empty, leaves it to the next one.
+    std::optional<Cause> takeFirst(const QByteArrayList &targets)
+    {
+        for (const QByteArray &target : targets) {
+            Result<Transfer::Content, Transfer::Failure> content = m_transfer.convert(target);
+            if (!content && content.error() != Transfer::Failure::Refused)
+                return causeOf(content.error());
+            if (content && add(target, std::move(content).value()))
+                break;
+        }
+        return std::nullopt;
+    }
+
+    bool add(const QByteArray &target, Transfer::Content content)
+    {
+        std::optional<SelectionTargets::Form> form =
+            SelectionTargets::form(target, content.type, std::move(content.bytes));
+        if (!form)
+            return false;
+        m_hasEmptyForm |= form->bytes.isEmpty();
+        if (form->bytes.isEmpty())
+            return false;
+        m_forms.emplace(std::move(form->type), std::move(form->bytes));
+        return true;
+    }
+
+    const SelectionContent m_content;
+    Transfer &m_transfer;
+    Pasteboard::Forms m_forms;
+    bool m_hasEmptyForm = false;
+};
+
+Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, quint64 largest)
+{
+    const Display display;
+    if (!display.isThere())
+        return Cause::NoDisplay;
+    Transfer transfer(
+        display.connection(), name == SelectionName::Primary ? "PRIMARY" : "CLIPBOARD", largest);
+    if (!transfer.hasOwner())
+        return Cause::NothingSelected;
+    return Reading(content, transfer).run();
+}
+
+} // namespace
+
+Result<Pasteboard, SelectionFailure> readSelection(
+    SelectionName name, SelectionContent content, quint64 largest)
+{
+    Result<Pasteboard, Cause> pasteboard = Cause::NotEnoughMemory;
+    // A selection is as large as its owner likes.
+    try {
+        pasteboard = read(name, content, largest);
+    } catch (const std::bad_alloc &) {
+    }
+    if (!pasteboard)
+        return SelectionFailure{pasteboard.error(), name, content};
+    return std::move(pasteboard).value();
+}
+
+QString causeText(const SelectionFailure &failure)
+{
+    const bool isClipboard = failure.name == SelectionName::Clipboard;
+    const QString what = isClipboard ? QStringLiteral("the clipboard") : QStringLiteral("the selection");
+    switch (failure.cause) {
+    case Cause::NoDisplay:
+        return QStringLiteral(
+            "there is no X display to take %1 from; 'quillbay text' takes a text from a pipe")
+            .arg(what);
+    case Cause::NothingSelected:
+        return isClipboard ? QStringLiteral("the clipboard is empty") : QStringLiteral("nothing is selected");
+    case Cause::OtherContent:
+        return QStringLiteral("%1 holds no %2")
+            .arg(what,
+                failure.content == SelectionContent::Text ? QStringLiteral("text") : QStringLiteral("files"));
+    case Cause::Refused:
+        return QStringLiteral("the desktop or the application does not hand %1 over; "
+                              "'quillbay text' takes a text from a pipe")
+            .arg(what);
+    case Cause::NoAnswer:
+        return QStringLiteral("the application that has %1 does not answer").arg(what);
+    case Cause::TooLarge:
+        return QStringLiteral("%1 is too large").arg(what);
+    case Cause::NotEnoughMemory:
+        break;
+    }
+    return QStringLiteral("not enough memory for %1").arg(what);
+}

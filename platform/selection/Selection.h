@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// Selection is what the user has selected or copied in whatever application on the X display, Xwayland
+// included, read without a window or a toolkit of our own (ICCCM 2.0, chapter 2).
+// Thread: any.
+#pragma once
+
+#include "platform/base/Result.h"
+#include "platform/pasteboard/Pasteboard.h"
+
+enum class SelectionName {
+    Primary, ///< what is selected at the moment
+    Clipboard, ///< what was copied last
+};
+
+enum class SelectionContent { Text, Files };
+
+struct SelectionFailure {
+    enum class Cause {
+        NoDisplay,
+        NothingSelected,
+        OtherContent, ///< there is something, but in no form of that content
+        Refused, ///< the owner does not say which forms it has, and hands none over
+        NoAnswer, ///< of the owner, for two seconds, or in the middle of its answer
+        TooLarge,
+        NotEnoughMemory,
+    };
+
+    Cause cause;
+    SelectionName name;
+    SelectionContent content;
+};
+
+/// What failed and where there is one the remedy, in English, on one line and without a full stop.
+QString causeText(const SelectionFailure &failure);
+
+/// Of Text the richest form that is not empty, and a form as plain text; of Files the first list of files
+/// that there is. Asks the owner for no others, as each may be large. largest: bytes of all forms together.
+/// Needs no event loop, and never waits longer than two seconds for a next piece.
+Result<Pasteboard, SelectionFailure> readSelection(
+    SelectionName name, SelectionContent content, quint64 largest);
