@@ -14,7 +14,8 @@ public:
     [[nodiscard]] const QString &title() const { return m_title; }
     void setTitle(const QString &title);
 
-    /// A name of freedesktop.org's standard icons, as "edit-copy"; empty for none.
+    /// A name of freedesktop.org's standard icons, as "edit-copy", or of Quillbay's own symbols:
+    /// "quillbay-close". Empty for none.
     [[nodiscard]] const QString &iconName() const { return m_iconName; }
     void setIconName(const QString &name);
 

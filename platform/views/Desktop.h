@@ -7,6 +7,7 @@
 #include "platform/views/Geometry.h"
 #include "platform/views/OpenPanel.h"
 
+#include <QByteArray>
 #include <QStringList>
 
 #include <functional>
@@ -44,6 +45,10 @@ public:
     /// window: not null, shared with what is returned. What is returned may be let go at any time, also while
     /// the window tells of a click.
     [[nodiscard]] virtual std::unique_ptr<WindowOnScreen> putOnScreen(std::shared_ptr<Window> window) = 0;
+
+    /// The token of the user's request that is being answered (XDG activation, or a startup notification of
+    /// X11); the next window that comes to the front takes the focus by it. Empty for none.
+    virtual void setActivationToken(const QByteArray &token) = 0;
 
     // Points, with the origin at the bottom left of the primary screen, as the frames of windows.
     [[nodiscard]] virtual QPointF pointerLocation() const = 0;

@@ -7,6 +7,7 @@
 #include "platform/views/ProgressIndicator.h"
 #include "platform/views/widgets/PaintedWidget.h"
 #include "platform/views/widgets/SpinnerWidget.h"
+#include "platform/views/widgets/SymbolIcon.h"
 
 #include <QIcon>
 #include <QLabel>
@@ -50,9 +51,17 @@ QWidget *makeLabel(Label &view, QWidget *parent)
     return label;
 }
 
+QIcon iconNamed(const QString &name)
+{
+    if (name.isEmpty())
+        return {};
+    const QIcon symbol = SymbolIcon::named(name);
+    return symbol.isNull() ? QIcon::fromTheme(name) : symbol;
+}
+
 void showFace(QPushButton &button, const Button &view)
 {
-    const QIcon icon = view.iconName().isEmpty() ? QIcon() : QIcon::fromTheme(view.iconName());
+    const QIcon icon = iconNamed(view.iconName());
     // Where the theme has no such icon, words must do.
     QString text = view.title();
     if (text.isEmpty() && icon.isNull())

@@ -3,6 +3,7 @@
 
 #include "platform/views/widgets/LabelTextMeasurer.h"
 #include "platform/views/widgets/PixelGeometry.h"
+#include "platform/views/widgets/WindowActivation.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -56,6 +57,9 @@ WindowWidget::WindowWidget(std::shared_ptr<Window> window)
     m_settling.setSingleShot(true);
     m_settling.setInterval(settlingTime);
     connect(&m_settling, &QTimer::timeout, this, &WindowWidget::takeOverGeometry);
+    const auto performClose = [this] { m_window->performClose(); };
+    for (const QKeySequence &key : {QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)})
+        connect(new QShortcut(key, this), &QShortcut::activated, m_window.get(), performClose);
     followWindow();
     followScreens();
     applyStyle();
@@ -170,10 +174,12 @@ void WindowWidget::takeOverScreen()
 
 void WindowWidget::bringToFront()
 {
+    if (m_window->canBecomeKeyWindow()) {
+        WindowActivation::showAndActivate(*this);
+        return;
+    }
     show();
     raise();
-    if (m_window->canBecomeKeyWindow())
-        activateWindow();
 }
 
 bool WindowWidget::event(QEvent *event)

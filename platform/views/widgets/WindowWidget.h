@@ -8,6 +8,7 @@
 // - What the user, the window manager or another primary screen does to the place and the size becomes the
 // frame
 //   of the window. Without the style resizable the window keeps its size.
+// - Escape and Ctrl+W do what the window manager's close does.
 // - The labels of the window get a text measurer, and a new one whenever the user's font or the scale
 // changes;
 //   Window::textMetricsDidChange() then tells so.

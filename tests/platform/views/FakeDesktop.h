@@ -18,6 +18,7 @@ public:
         return std::make_unique<OnScreen>(std::move(window), numberOnScreen);
     }
 
+    void setActivationToken(const QByteArray &token) override { activationTokens.append(token); }
     [[nodiscard]] QPointF pointerLocation() const override { return pointer; }
     [[nodiscard]] QRectF visibleFrameAt(const QPointF & /*point*/) const override { return visibleFrame; }
 
@@ -56,6 +57,7 @@ public:
 
     int numberOnScreen = 0;
     QStringList notes; ///< "beep", "alert: MESSAGE", "error: TEXT", "open panel"
+    QByteArrayList activationTokens;
     QPointF pointer;
     QRectF visibleFrame{0, 0, 1280, 800};
 

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "front_end/stats_window/QBYServiceProviderShowStatsWindowController.h"
+
+#include "front_end/stats_window/WindowPlacement.h"
+#include "platform/views/InterfaceFile.h"
+#include "presentation/common_views/QBYServiceProviderMainWindow.h"
+#include "presentation/common_views/WindowExtension.h"
+#include "presentation/stats_panel/PanelPlace.h"
+
+#include <QtDebug>
+
+namespace {
+
+constexpr int fadeTime = 250; // milliseconds
+
+constexpr qint64 shortStyle = 1;
+
+const QString productName = QStringLiteral("Quillbay");
+
+/// A missing control lies at zero and has no size.
+QRectF frameOf(const std::shared_ptr<View> &view)
+{
+    return view ? view->frame() : QRectF();
+}
+
+void setOrigin(const std::shared_ptr<View> &view, const QPointF &origin)
+{
+    if (view)
+        view->setFrameOrigin(origin);
+}
+
+void setFrame(const std::shared_ptr<View> &view, const QRectF &frame)
+{
+    if (view)
+        view->setFrame(frame);
+}
+
+template <typename ViewClass>
+std::shared_ptr<ViewClass> required(const InterfaceFile &file, const char *name)
+{
+    const auto view = file.outlet<ViewClass>(QString::fromLatin1(name));
+    if (!view)
+        qFatal("%s", qPrintable(messageText(view.error())));
+    return view.value();
+}
+
+} // namespace
+
+QString QBYServiceProviderShowStatsWindowController::windowInterfaceFile()
+{
+    return QStringLiteral(":/interface_files/QBYServiceProviderShowStatsWindowController.ui");
+}
+
+QBYServiceProviderShowStatsWindowController::QBYServiceProviderShowStatsWindowController(
+    AttributedString attributedStringToCount, Desktop &desktop)
+    : m_attributedStringToCount(std::move(attributedStringToCount))
+    , m_desktop(desktop)
+{
+}
+
+QBYServiceProviderShowStatsWindowController::~QBYServiceProviderShowStatsWindowController() = default;
+
+void QBYServiceProviderShowStatsWindowController::loadWindow()
+{
+    if (window())
+        return;
+    const auto loaded = InterfaceFile::load(windowInterfaceFile());
+    if (!loaded)
+        qFatal("%s", qPrintable(messageText(loaded.error())));
+    const InterfaceFile &file = loaded.value();
+    m_activityIndicator = required<ProgressIndicator>(file, "activityIndicator");
+    m_titleLabel = required<Label>(file, "titleLabel");
+    m_closeButton = required<Button>(file, "closeButton");
+    m_lineSeparator = required<Box>(file, "lineSeparator");
+
+    m_wordCounterViewController = std::make_shared<WordCounterViewController>();
+    PanelPlace::fill(file, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
+    setWindow(std::make_shared<QBYServiceProviderMainWindow>(file.rootView()->frame()));
+    window()->setContentView(file.rootView());
+    connect(m_closeButton.lock().get(), &Button::clicked, this, [this] { closeButtonAction(nullptr); });
+    windowDidLoad();
+}
+
+void QBYServiceProviderShowStatsWindowController::windowDidLoad()
+{
+    connect(window()->contentView().get(), &View::frameDidChange, this,
+        &QBYServiceProviderShowStatsWindowController::windowContentViewFrameDidChange);
+    m_wordCounterViewController->setLayoutDelegate(this);
+    if (const auto label = titleLabel())
+        label->setStringValue(productName);
+    window()->setLevel(WindowLevel::Floating);
+    window()->setMovableByBackground(true);
+    setUpForDesktop();
+    m_wordCounterViewController->wordCounter()->setFormattedStringStyle(shortStyle);
+    if (const auto indicator = activityIndicator())
+        indicator->startAnimation();
+    m_wordCounterViewController->view()->setAlphaValue(0);
+    m_wordCounterViewController->asyncUpdateStatsWithAttributedString(
+        m_attributedStringToCount, [weakSelf = weak_from_this()] {
+            if (const auto self = weakSelf.lock())
+                self->showStatistics();
+        });
+}
+
+/// What users of this desktop expect of a window besides.
+void QBYServiceProviderShowStatsWindowController::setUpForDesktop()
+{
+    window()->setTitle(productName); // for lists of windows and screen readers
+    window()->setClosesOnRequest(false);
+    connect(window().get(), &Window::closeRequested, this, [this] { closeButtonAction(nullptr); });
+    window()->setCopyProvider([this] { return statisticsToCopy(); });
+    connect(window().get(), &Window::textMetricsDidChange, this,
+        [this] { m_wordCounterViewController->fitLabels(); });
+    m_windowOnScreen = m_desktop.putOnScreen(window());
+}
+
+void QBYServiceProviderShowStatsWindowController::showStatistics()
+{
+    if (const auto indicator = activityIndicator())
+        indicator->stopAnimation();
+    m_wordCounterViewController->view()->fadeTo(1, fadeTime);
+}
+
+void QBYServiceProviderShowStatsWindowController::showWindow(QObject * /*sender*/)
+{
+    loadWindow();
+    const QSizeF size = window()->frame().size();
+    const QPointF pointer = m_desktop.pointerLocation();
+    const QPointF origin = originBesidePointer(size, pointer, m_desktop.visibleFrameAt(pointer));
+    window()->setFrame({origin, size}, false, false);
+    window()->orderFront();
+}
+
+void QBYServiceProviderShowStatsWindowController::closeButtonAction(QObject * /*sender*/)
+{
+    const auto self = shared_from_this(); // the delegate lets go of it
+    window()->close();
+    if (auto *const receiver = delegate())
+        receiver->serviceProviderShowStatsWindowControllerDidClose(*this);
+}
+
+void QBYServiceProviderShowStatsWindowController::wordCounterViewControllerDidRelayoutLabels()
+{
+    m_wordCounterViewController->adjustViewHeightToFitVisibleLabels();
+    double width = window()->frame().width();
+    // The last one decides, not the widest.
+    for (const std::shared_ptr<Label> &label : m_wordCounterViewController->allTextfieldsForLayout()) {
+        if (label->frame().width() >= window()->frame().width() && !label->isHidden())
+            width = label->frame().width() + 10;
+    }
+    const double height = m_wordCounterViewController->view()->frame().height() + titleRowHeight;
+    QBYExtension::setFrameSize(*window(), {width, height}, true);
+}
+
+void QBYServiceProviderShowStatsWindowController::windowContentViewFrameDidChange()
+{
+    const double width = window()->frame().width();
+    const double height = window()->frame().height();
+    const std::shared_ptr<View> panel = panelView();
+    // The panel is as wide as the window, so that its labels are in the middle.
+    if (panel)
+        panel->setFrameSize({width, panel->frame().height()});
+
+    setOrigin(panel, {0, 0});
+    setOrigin(activityIndicator(), {5, height - frameOf(activityIndicator()).height() - 4});
+    setOrigin(closeButton(),
+        {frameOf(window()->contentView()).width() - frameOf(closeButton()).width(),
+            frameOf(panel).height() + 2});
+    const QRectF indicator = frameOf(activityIndicator());
+    const double titleX = indicator.x() + indicator.width();
+    const double titleHeight = frameOf(titleLabel()).height();
+    setFrame(
+        titleLabel(), {titleX, height - titleHeight - 3, frameOf(closeButton()).x() - titleX, titleHeight});
+    setFrame(lineSeparator(),
+        {0, frameOf(panel).y() + frameOf(panel).height() + 1, width, frameOf(lineSeparator()).height()});
+}
+
+std::shared_ptr<View> QBYServiceProviderShowStatsWindowController::panelView() const
+{
+    return m_wordCounterViewController ? m_wordCounterViewController->view() : nullptr;
+}
+
+MimeContent QBYServiceProviderShowStatsWindowController::statisticsToCopy() const
+{
+    if (m_wordCounterViewController->view()->alphaValue() == 0)
+        return {}; // not counted yet
+    MimeContent content{{QStringLiteral("text/html"),
+        m_wordCounterViewController->htmlRepresentationWithTitle(std::nullopt, true).toUtf8()}};
+    const auto text = m_wordCounterViewController->attributedStringRepresentationWithTitle(std::nullopt);
+    if (text)
+        content.emplace(QStringLiteral("text/plain"), text->string().toUtf8());
+    return content;
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// WidgetDesktop is the user's desktop by way of Qt's widgets: real windows, message boxes and the file
+// chooser of the desktop. Thread: main.  Owner: main() of a program with windows, behind its QApplication.
+#pragma once
+
+#include "platform/views/Desktop.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <vector>
+
+class QDialog;
+
+class WidgetDesktop final : public Desktop {
+public:
+    WidgetDesktop();
+    /// The dialogs that are still open are closed; their completions are not called.
+    ~WidgetDesktop() override;
+
+    [[nodiscard]] std::unique_ptr<WindowOnScreen> putOnScreen(std::shared_ptr<Window> window) override;
+    void setActivationToken(const QByteArray &token) override;
+    [[nodiscard]] QPointF pointerLocation() const override;
+    [[nodiscard]] QRectF visibleFrameAt(const QPointF &point) const override;
+    void beep() override;
+    void runAlert(const Alert &alert, AlertCompletion completion) override;
+    void presentError(const QString &text) override;
+    void beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion completion) override;
+    [[nodiscard]] bool isAskingUser() const override { return !m_dialogs.empty(); }
+    void setAskingEndedHandler(std::function<void()> handler) override { m_askingEnded = std::move(handler); }
+
+private:
+    /// finish: runs when the user is done with the dialog; result: as of QDialog::finished().
+    void show(std::unique_ptr<QDialog> dialog, std::function<void(QDialog &dialog, int result)> finish);
+    void forget(const QDialog &dialog);
+
+    std::vector<std::unique_ptr<QDialog>> m_dialogs;
+    std::function<void()> m_askingEnded;
+};

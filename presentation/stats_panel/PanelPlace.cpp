@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "presentation/stats_panel/PanelPlace.h"
+
+#include "platform/views/InterfaceFile.h"
+#include "presentation/stats_panel/BaseWordCounterViewController.h"
+
+#include <algorithm>
+#include <vector>
+
+void PanelPlace::fill(
+    const InterfaceFile &file, const QString &placeName, BaseWordCounterViewController &panel)
+{
+    const auto place = file.outlet<View>(placeName);
+    if (!place)
+        qFatal("%s", qPrintable(messageText(place.error())));
+    View *const superview = place.value()->superview();
+    if (!superview)
+        qFatal("The place of a statistics panel is a view in another view.");
+    const std::vector<std::shared_ptr<View>> views = superview->subviews();
+    superview->addSubview(panel.view());
+    for (auto view = std::ranges::find(views, place.value()) + 1; view != views.end(); ++view)
+        superview->addSubview(*view); // above the panel again
+    panel.view()->setFrame(place.value()->frame());
+    place.value()->removeFromSuperview();
+    const auto policy = file.integerProperty(placeName, QStringLiteral("labelPositionPolicy"));
+    if (policy)
+        panel.setLabelPositionPolicy(static_cast<WordCounterLabelPositionPolicy>(*policy));
+}
