@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "front_end/file_types/FileTypes.h"
 
+#include "front_end/file_types/FileTypeNames.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMimeDatabase>
@@ -22,28 +24,27 @@ std::optional<QFileInfo> readableFile(const QUrl &url)
     return file;
 }
 
-bool doesConformTo(const QUrl &url, const QString &typeName)
+bool doesConformTo(const QUrl &url, QStringView typeName)
 {
     const std::optional<QFileInfo> file = readableFile(url);
     // A folder is a folder, and a device a device, whatever its name.
     if (!file || !file->isFile())
         return false;
     const QList<QMimeType> types = QMimeDatabase().mimeTypesForFileName(file->fileName());
-    return std::any_of(
-        types.begin(), types.end(), [&](const QMimeType &type) { return type.inherits(typeName); });
+    return std::any_of(types.begin(), types.end(),
+        [name = typeName.toString()](const QMimeType &type) { return type.inherits(name); });
 }
 
 } // namespace
 
 bool QBYExtension::doesConformToDocXFileUTI(const QUrl &url)
 {
-    return doesConformTo(
-        url, QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.document"));
+    return doesConformTo(url, FileTypeNames::wordDocument);
 }
 
 bool QBYExtension::doesConformToRTFFileUTI(const QUrl &url)
 {
-    return doesConformTo(url, QStringLiteral("application/rtf"));
+    return doesConformTo(url, FileTypeNames::richText);
 }
 
 bool QBYExtension::doesConformToRTFDFileUTI(const QUrl &url)
@@ -55,5 +56,5 @@ bool QBYExtension::doesConformToRTFDFileUTI(const QUrl &url)
 
 bool QBYExtension::doesConformToPlainTextFileUTI(const QUrl &url)
 {
-    return doesConformTo(url, QStringLiteral("text/plain"));
+    return doesConformTo(url, FileTypeNames::text);
 }

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "front_end/file_types/OpenPanelExtension.h"
+
+#include "front_end/file_types/FileTypeNames.h"
+
+OpenPanel QBYExtension::openPanelForTextFiles()
+{
+    return openPanelForTextFilesAllowMultipleSelection(false);
+}
+
+OpenPanel QBYExtension::openPanelForTextFilesAllowMultipleSelection(bool allowMultipleSelection)
+{
+    OpenPanel panel;
+    for (const QStringView type :
+        {FileTypeNames::folder, FileTypeNames::richText, FileTypeNames::text, FileTypeNames::wordDocument})
+        panel.allowedFileTypes << type.toString();
+    panel.allowsMultipleSelection = allowMultipleSelection;
+    return panel;
+}
