@@ -6,6 +6,7 @@
 void RecordingDelegate::currentlyWatchedTextFileDidUpdateWithAttributedString(
     const AttributedString &attributedString, WatchTextFileModel & /*watchModel*/)
 {
+    m_lastText = attributedString;
     note(QStringLiteral("text ") + attributedString.string());
 }
 

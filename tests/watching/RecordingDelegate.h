@@ -23,12 +23,16 @@ public:
     /// last call.
     QStringList takeMessages() { return std::exchange(m_messages, {}); }
 
+    /// That of the last "text".
+    [[nodiscard]] const AttributedString &lastText() const { return m_lastText; }
+
     std::function<void()> whenTold;
 
 private:
     void note(const QString &message);
 
     QStringList m_messages;
+    AttributedString m_lastText;
 };
 
 /// A delegate that leaves the optional message out.

@@ -42,6 +42,21 @@ TEST_F(WatchTextFileModelLifeTest, ARenamedDocumentIsWatchedUnderItsNewNameAndNo
     EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text after")));
 }
 
+TEST_F(WatchTextFileModelLifeTest, TheNewNameIsToldBeforeTheModelWatchesAgain)
+{
+    const auto model = watch(m_path);
+    bool wasWatching = true;
+    QUrl urlThen;
+    m_delegate.whenTold = [&] {
+        wasWatching = model->isWatchingTextFile();
+        urlThen = model->presentedItemURL();
+    };
+    move(m_path, m_there);
+    EXPECT_FALSE(wasWatching);
+    EXPECT_EQ(urlThen, QUrl::fromLocalFile(m_there));
+    EXPECT_TRUE(model->isWatchingTextFile());
+}
+
 TEST_F(WatchTextFileModelLifeTest, PollingGoesOnAfterARename)
 {
     const auto model = watch(m_path);
@@ -133,6 +148,29 @@ TEST_F(WatchTextFileModelLifeTest, AnAccessThatCannotBeOpenedIsLoggedAndNoBookma
         ElementsAre(QStringLiteral("error Failed to start accessing the security scoped resource!")));
     model->presentedItemDidMoveToURL(QUrl::fromLocalFile(m_path));
     EXPECT_THAT(takeLog(), ElementsAre(m_movedMessage));
+}
+
+TEST_F(WatchTextFileModelLifeTest, ABookmarkThatCannotBeResolvedIsLoggedAndNoneKept)
+{
+    // The system takes the name to end where the bookmark may not.
+    const auto model = makeModel(m_path + QChar(u'\0') + QStringLiteral("more"));
+    EXPECT_THAT(takeLog(), ElementsAre(QStringLiteral("error Error resolving bookmark: is not a bookmark")));
+    model->presentedItemDidMoveToURL(QUrl::fromLocalFile(m_path));
+    EXPECT_THAT(takeLog(), ElementsAre(m_movedMessage));
+}
+
+TEST_F(WatchTextFileModelLifeTest, TheEndOfTheModelClosesTheAccessAndLogsNothing)
+{
+    const qsizetype before = openDescriptors();
+    auto model = watch(m_path);
+    m_activity.setActive(false);
+    takeLog();
+    EXPECT_GT(openDescriptors(), before);
+    model.reset();
+    EXPECT_EQ(openDescriptors(), before);
+    EXPECT_EQ(m_clock.runningTimers(), 0);
+    m_activity.setActive(true);
+    EXPECT_THAT(takeLog(), IsEmpty());
 }
 
 TEST_F(WatchTextFileModelLifeTest, ADeletedDocumentIsAFailureAndTheDeletionIsLetPass)

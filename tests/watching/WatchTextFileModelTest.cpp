@@ -81,6 +81,20 @@ TEST_F(WatchTextFileModelTest, ResigningActiveStartsOneTimerOfTwoSeconds)
         m_delegate.takeMessages(), ElementsAre(QStringLiteral("text before"), QStringLiteral("text before")));
 }
 
+TEST_F(WatchTextFileModelTest, APollOfUnchangedBytesTellsTheSameTextWithoutMakingItAnew)
+{
+    const auto model = watch(m_path);
+    m_activity.setActive(false);
+    pass(2s);
+    const AttributedString first = m_delegate.lastText();
+    pass(2s);
+    EXPECT_EQ(m_delegate.takeMessages().size(), 2);
+    EXPECT_EQ(m_delegate.lastText().string().constData(), first.string().constData());
+    writeFile(QStringLiteral("f.txt"), "behind");
+    pass(2s);
+    EXPECT_EQ(m_delegate.lastText().string(), QStringLiteral("behind"));
+}
+
 TEST_F(WatchTextFileModelTest, ResigningTwiceReplacesTheTimer)
 {
     const auto model = watch(m_path);

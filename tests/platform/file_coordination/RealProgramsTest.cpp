@@ -101,6 +101,7 @@ const Save saves[] = {
     {"python3", "write", "python3 -c 'open(\"f.txt\", \"w\").write(\"after\")'"},
     {"python3", "os.replace",
         "python3 -c 'import os; open(\"g\", \"w\").write(\"after\"); os.replace(\"g\", \"f.txt\")'"},
+    {"QSaveFile", "", "printf 'QSaveFile after:1 0\\n' | $FILE_SAVER f.txt"},
     {"gio", "save", "echo after | gio save f.txt"},
     {"gio", "save --backup", "echo after | gio save --backup f.txt"},
     {"g_file_set_contents", "",
@@ -131,6 +132,8 @@ QString missingFor(const QString &program)
             ChildProcess(QStringLiteral("/usr/bin/python3")).run({"-c", "from gi.repository import GLib"});
         return outcome.exitStatus == 0 ? QString() : QStringLiteral("python3-gi");
     }
+    if (program == QStringLiteral("QSaveFile"))
+        return {};
     if (program == QStringLiteral("vim"))
         return vimProgram().isEmpty() ? program : QString();
     return QStandardPaths::findExecutable(program).isEmpty() ? program : QString();
@@ -147,6 +150,7 @@ protected:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("TERMINAL"), QString::fromLatin1(terminal));
         environment.insert(QStringLiteral("VIM_PROGRAM"), vimProgram());
+        environment.insert(QStringLiteral("FILE_SAVER"), testProgram(QStringLiteral("file_saver")));
         environment.insert(QStringLiteral("GIT_CONFIG_GLOBAL"), QStringLiteral("/dev/null"));
         m_process.setProcessEnvironment(environment);
     }

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// Another process saves the watched document in every way that programs have, with the real clock.
+#include "tests/platform/file_coordination/SaveModes.h"
+#include "tests/watching/WatchedFileTest.h"
+
+#include <QFile>
+
+using ::testing::IsEmpty;
+
+class EverySaveTest : public WatchedFileTest, public ::testing::WithParamInterface<int> {
+protected:
+    /// Until the delegate has the text that was saved last.
+    void save(const QString &mode, int number, int lines, int pause)
+    {
+        const QString contents = (QString::number(number) + u'\n').repeated(lines);
+        m_saver.writeLine(
+            QStringLiteral("%1 %2:%3 %4").arg(mode).arg(number).arg(lines).arg(pause).toLatin1());
+        EXPECT_TRUE(waitUntil([&] { return m_delegate.lastText().string() == contents; }))
+            << qPrintable(mode) << " with pauses of " << pause << " microseconds";
+        EXPECT_EQ(m_saver.readLine(), QByteArray("saved"));
+    }
+
+    ChildProcess m_saver{testProgram(QStringLiteral("file_saver"))};
+};
+
+TEST_P(EverySaveTest, ComesThroughAsTheTextAndAsNothingElse)
+{
+    const QString mode = SaveModes::names().at(GetParam());
+    WatchTextFileModel model(QUrl::fromLocalFile(m_path), &m_delegate, m_activity);
+    model.beginWatchingTextFile();
+    takeLog();
+    m_saver.start({QFile::encodeName(m_path)});
+    int number = 0;
+    for (const int pause : {0, 1000, 30'000}) {
+        save(mode, ++number, 1, pause);
+        save(mode, ++number, 100'000, pause);
+    }
+    for (const QString &message : m_delegate.takeMessages())
+        EXPECT_TRUE(message.startsWith(QStringLiteral("text "))) << message.left(80).toStdString();
+    EXPECT_TRUE(model.isWatchingTextFile());
+    EXPECT_THAT(takeLog(), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Modes, EverySaveTest, ::testing::Range(0, static_cast<int>(SaveModes::names().size())));
