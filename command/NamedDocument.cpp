@@ -2,6 +2,7 @@
 #include "command/NamedDocument.h"
 
 #include "command/FileNames.h"
+#include "platform/styled_text/loading/PdfLoader.h"
 
 #include <unistd.h>
 
@@ -9,7 +10,7 @@
 
 Result<AttributedString, LoadError> loadNamedDocument(const QByteArray &name)
 {
-    return name == standardInputName ? loadDocument(STDIN_FILENO) : loadDocument(name);
+    return name == standardInputName ? loadDocumentOrPdf(STDIN_FILENO) : loadDocumentOrPdf(name);
 }
 
 void tellDocumentFailure(const QByteArray &name, const QString &cause)

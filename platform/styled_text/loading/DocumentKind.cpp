@@ -12,6 +12,14 @@
 
 namespace {
 
+/// The header of PDF, and one of the objects that any file has.
+bool looksLikePdf(QByteArrayView bytes)
+{
+    constexpr QByteArrayView header("%PDF-");
+    return bytes.startsWith(header) && bytes.size() > header.size() && bytes[header.size()] >= '1'
+        && bytes[header.size()] <= '9' && bytes.contains(" obj");
+}
+
 /// Absent where the name tells nothing.
 std::optional<DocumentKind> kindByName(const QByteArray &path)
 {
@@ -25,6 +33,8 @@ std::optional<DocumentKind> kindByName(const QByteArray &path)
         if (type.inherits(
                 QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.document")))
             return DocumentKind::WordDocument;
+        if (type.inherits(QStringLiteral("application/pdf")))
+            return DocumentKind::Pdf;
     }
     return DocumentKind::PlainText;
 }
@@ -37,6 +47,8 @@ DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
         return DocumentKind::Rtf;
     if (looksLikeFlatRtfd(bytes))
         return DocumentKind::FlatRtfd;
+    if (looksLikePdf(bytes))
+        return DocumentKind::Pdf;
     if (const std::optional<DocumentKind> kind = kindByName(path))
         return *kind;
     if (looksLikeHtml(bytes))

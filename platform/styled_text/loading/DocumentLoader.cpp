@@ -42,6 +42,8 @@ LoadResult loadedBytes(const QByteArray &path, QByteArrayView bytes)
         return loaded(readHtml(bytes));
     case DocumentKind::WordDocument:
         return loaded(readDocx(bytes));
+    case DocumentKind::Pdf:
+        return LoadError(PdfError::NotReadHere);
     case DocumentKind::PlainText:
         break;
     }
@@ -80,6 +82,11 @@ LoadResult documentFromBytes(QByteArrayView bytes, const DocumentOptions &)
 }
 
 LoadResult documentFromFile(const QByteArray &path, QByteArrayView bytes)
+{
+    return loadedBytes(path, bytes);
+}
+
+LoadResult documentFromBytes(const QByteArray &path, QByteArrayView bytes)
 {
     return loadedBytes(path, bytes);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // DocumentLoader turns a document into styled text, whatever its kind: plain text, RTF, RTFD as a folder or
 // as one file, web pages, Word documents. Which kind it is, DocumentKind tells; each has a reader of its own.
+// PDF files are PdfLoader's: here they are PdfError::NotReadHere, whatever their names.
 // Thread: any.
 #pragma once
 
@@ -10,6 +11,7 @@
 #include "platform/styled_text/PlainTextReader.h"
 #include "platform/styled_text/docx/DocxReader.h"
 #include "platform/styled_text/html/HtmlReader.h"
+#include "platform/styled_text/pdf/PdfError.h"
 #include "platform/styled_text/rtf/RtfReader.h"
 #include "platform/styled_text/rtfd/RtfdReader.h"
 
@@ -20,7 +22,7 @@
 /// Wishes about the loading; so far there is none to be had, and unknown ones are left unheeded.
 using DocumentOptions = QVariantMap;
 
-using LoadError = std::variant<FileError, TextError, RtfError, RtfdError, HtmlError, DocxError>;
+using LoadError = std::variant<FileError, TextError, RtfError, RtfdError, HtmlError, DocxError, PdfError>;
 
 /// The cause in English, on one line, to stand behind the document's name.
 QString causeText(const LoadError &error);
@@ -32,9 +34,11 @@ Result<AttributedString, LoadError> loadDocument(const QByteArray &path, const D
 /// A document that an open descriptor, such as standard input, has from its position on; waits for its end.
 Result<AttributedString, LoadError> loadDocument(int descriptor, const DocumentOptions &options = {});
 
-/// A document that has been read already. A plain text has no attributes.
+/// A document that has been read already. A plain text has no attributes. path: where it was; empty for a
+/// document without a name.
 Result<AttributedString, LoadError> documentFromBytes(
     QByteArrayView bytes, const DocumentOptions &options = {});
+Result<AttributedString, LoadError> documentFromBytes(const QByteArray &path, QByteArrayView bytes);
 
 /// A document of a file that has been read already. path: whose name may tell the kind.
 Result<AttributedString, LoadError> documentFromFile(const QByteArray &path, QByteArrayView bytes);

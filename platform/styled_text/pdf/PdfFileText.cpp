@@ -3,11 +3,9 @@
 
 #include "platform/files/FileContents.h"
 #include "platform/logging/LogChannel.h"
+#include "platform/styled_text/pdf/PdfReader.h"
 
-#include <QBuffer>
 #include <QFile>
-#include <QPdfDocument>
-#include <QPdfSelection>
 
 namespace {
 
@@ -24,17 +22,9 @@ QByteArray contentsOf(const QUrl &url)
 
 std::optional<AttributedString> QBYExtension::attributedStringFromPDFFileURL(const QUrl &url)
 {
-    QByteArray contents = contentsOf(url);
-    QBuffer file(&contents);
-    QPdfDocument document;
-    if (file.open(QIODevice::ReadOnly) && !contents.isEmpty())
-        document.load(&file);
-    if (document.status() != QPdfDocument::Status::Ready || document.pageCount() == 0) {
-        LogChannel::standard().error(u"No pages in the pdf");
-        return std::nullopt;
-    }
-    AttributedStringBuilder text;
-    for (int page = 0; page < document.pageCount(); ++page)
-        text.append(document.getAllText(page).text(), {});
-    return text.build();
+    Result<AttributedString, PdfError> text = readPdf(contentsOf(url));
+    if (text)
+        return std::move(text).value();
+    LogChannel::standard().error(u"No pages in the pdf");
+    return std::nullopt;
 }

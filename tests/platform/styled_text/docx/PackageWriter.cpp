@@ -160,8 +160,14 @@ ZipWriter WordPackage::writer() const
     zip.add({"[Content_Types].xml", types + "</Types>", method});
     zip.add({"_rels/.rels",
         relationshipsStart + "<Relationship Id='rId1' Type='" + relationshipsNamespace
-            + "/officeDocument' Target='word/document.xml'/></Relationships>",
+            + "/officeDocument' Target='word/document.xml'/><Relationship Id='rId2' Type='"
+            + relationshipsNamespace + "/extended-properties' Target='docProps/app.xml'/></Relationships>",
         method});
+    if (!figures.isEmpty())
+        zip.add({"docProps/app.xml",
+            "<Properties xmlns='http://schemas.openxmlformats.org/officeDocument/2006/extended-properties'>"
+                + figures + "</Properties>",
+            method});
     zip.add({"word/document.xml", mainPart(), method});
     zip.add({"word/_rels/document.xml.rels", ofMainPart + "</Relationships>", method});
     for (const Part &part : parts)

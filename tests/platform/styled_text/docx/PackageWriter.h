@@ -23,6 +23,7 @@ public:
     };
 
     void add(const Entry &entry) { m_entries.push_back(entry); }
+    void removeLast() { m_entries.pop_back(); }
     [[nodiscard]] QByteArray archive() const;
 
 private:
@@ -38,6 +39,7 @@ struct WordPackage {
     QByteArray fontScheme = {}; ///< what is within a:fontScheme of the theme
     QByteArray footnotes = {}; ///< what is within w:footnotes
     QByteArray endnotes = {}; ///< what is within w:endnotes
+    QByteArray figures = {}; ///< what is within Properties of docProps/app.xml
     QByteArray wordNamespace = "http://schemas.openxmlformats.org/wordprocessingml/2006/main";
     QByteArray relationshipsNamespace = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
     QByteArray mainType = "application/vnd.openxmlformats-officedocument.wordprocessingml.document.main+xml";

@@ -2,6 +2,7 @@
 #include "platform/styled_text/loading/DocumentKind.h"
 
 #include "tests/platform/styled_text/docx/PackageWriter.h"
+#include "tests/platform/styled_text/pdf/PdfWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -36,6 +37,16 @@ TEST(DocumentKind, BytesThatBeginAsRichTextAreThatUnderAnyName)
         EXPECT_EQ(kindOfDocument(name, rtf), DocumentKind::Rtf) << name;
         EXPECT_EQ(kindOfDocument(name, flatRtfd()), DocumentKind::FlatRtfd) << name;
     }
+}
+
+TEST(DocumentKind, BytesWithHeaderAndObjectsOfPdfAreThatUnderAnyName)
+{
+    const QByteArray pdf = PdfWriter{{"text"}}.bytes();
+    for (const char *name : {"", "paper.pdf", "paper.txt", "paper.docx", "paper"})
+        EXPECT_EQ(kindOfDocument(name, pdf), DocumentKind::Pdf) << name;
+    EXPECT_EQ(kindOfDocument("paper.pdf", words), DocumentKind::Pdf);
+    EXPECT_EQ(kindOfDocument("about.txt", "%PDF-1.7 is how such files begin."), DocumentKind::PlainText);
+    EXPECT_EQ(kindOfDocument("", "%PDF-"), DocumentKind::PlainText);
 }
 
 TEST(DocumentKind, TheMimeTypeOfTheNameTellsWebPagesAndWordDocuments)

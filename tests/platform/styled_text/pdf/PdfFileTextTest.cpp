@@ -78,7 +78,8 @@ TEST_F(PdfFileText, IsAbsentWhereTheFileCannotBeRead)
 
 TEST_F(PdfFileText, IsAbsentWhereTheFileIsEncrypted)
 {
-    expectNoPages(written(PdfWriter{.pages = {"secret"}, .isEncrypted = true}.bytes()));
+    expectNoPages(
+        written(PdfWriter{.pages = {"secret"}, .encryption = PdfWriter::Encryption::WithPassword}.bytes()));
 }
 
 TEST_F(PdfFileText, IsAbsentWhereTheFileIsNoneOfPdf)

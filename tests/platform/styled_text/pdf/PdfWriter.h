@@ -7,8 +7,13 @@
 #include <QByteArrayList>
 
 struct PdfWriter {
+    /// RC4 of 40 bits, the standard security handler of revision 2.
+    enum class Encryption { None, WithPassword, WithEmptyPassword };
+
     QByteArrayList pages; ///< ASCII without parentheses and backslashes; lines end in LF
-    bool isEncrypted = false; ///< with a password that nobody knows
+    Encryption encryption = Encryption::None;
+    bool isCompressed = false;
+    int claimedPages = -1; ///< what the file says of their number, where it is a lie
 
     [[nodiscard]] QByteArray bytes() const;
 };

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "platform/styled_text/pdf/PdfError.h"
+
+QString causeText(PdfError error)
+{
+    switch (error) {
+    case PdfError::NotPdf:
+        return QStringLiteral("is not a PDF file");
+    case PdfError::Encrypted:
+        return QStringLiteral("is encrypted; save it without a password");
+    case PdfError::Damaged:
+        return QStringLiteral("is a damaged PDF file; make it anew with the program that wrote it");
+    case PdfError::NoText:
+        return QStringLiteral("has no text on its pages; run scans through text recognition first");
+    case PdfError::TooIntricate:
+        return QStringLiteral("takes more time or memory than any PDF file; print it to a new one first");
+    case PdfError::NotReadHere:
+        return QStringLiteral("is a PDF file, which is not read here; count it with 'quillbay count'");
+    case PdfError::NotEnoughMemory:
+        break;
+    }
+    return QStringLiteral("not enough memory");
+}

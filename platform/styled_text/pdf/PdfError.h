@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// PdfError is why a PDF file has no text for us.
+// Thread: any; a value.
+#pragma once
+
+#include <QString>
+
+enum class PdfError {
+    NotPdf,
+    Encrypted, ///< with a password to open it
+    Damaged, ///< or without pages
+    NoText, ///< on any page, as in scans
+    TooIntricate, ///< to be read in the time, the memory or the length of text that a PDF file gets
+    NotReadHere, ///< by a loader that leaves PDF files to others
+    NotEnoughMemory,
+};
+
+/// The cause and a remedy in English, on one line, to stand behind a file's name: "is encrypted; …".
+QString causeText(PdfError error);

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// Word documents and PDF files on the command line.
+#include "tests/command/CommandTest.h"
+#include "tests/platform/styled_text/docx/PackageWriter.h"
+#include "tests/platform/styled_text/pdf/PdfWriter.h"
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+namespace {
+
+class CountDocumentsTest : public CommandTest {
+protected:
+    static void expectFailure(const QByteArray &path, const char *cause)
+    {
+        const ChildProcess::Outcome outcome = count({path});
+        EXPECT_EQ(outcome.exitStatus, 1);
+        EXPECT_EQ(outcome.output, QByteArray());
+        EXPECT_EQ(outcome.errors, "quillbay: " + path + ": " + cause + "\n");
+    }
+};
+
+QByteArray wordDocument()
+{
+    return WordPackage{
+        .body = "<w:p><w:r><w:t>Two words.</w:t></w:r></w:p><w:p><w:r><w:tab/><w:t>Three.</w:t></w:r></w:p>",
+        .figures = "<Words>1000</Words>"}
+        .bytes();
+}
+
+} // namespace
+
+TEST_F(CountDocumentsTest, AWordDocumentIsCountedByItsText)
+{
+    const QByteArray name = file("report.docx", wordDocument());
+    EXPECT_THAT(tableRows(count({name}).output),
+        ElementsAre(QByteArrayList{"3", "15", "19", "2", "2", "2", "2", "1", name}));
+    EXPECT_THAT(tableRows(count({}, wordDocument()).output),
+        ElementsAre(QByteArrayList{"3", "15", "19", "2", "2", "2", "2", "1", "-"}));
+}
+
+TEST_F(CountDocumentsTest, APdfFileIsCountedByItsTextPageByPage)
+{
+    const QByteArray pdf = PdfWriter{{"Two words.\nThree", " more. End."}}.bytes();
+    const QByteArray name = file("paper.pdf", pdf);
+    EXPECT_THAT(tableRows(count({name}).output),
+        ElementsAre(QByteArrayList{"5", "23", "28", "3", "2", "2", "2", "0", name}));
+    EXPECT_THAT(tableRows(count({}, pdf).output),
+        ElementsAre(QByteArrayList{"5", "23", "28", "3", "2", "2", "2", "0", "-"}));
+}
+
+TEST_F(CountDocumentsTest, APdfFileThatCannotBeCountedSaysWhyAndWhatToDo)
+{
+    expectFailure(file("locked.pdf",
+                      PdfWriter{.pages = {"a"}, .encryption = PdfWriter::Encryption::WithPassword}.bytes()),
+        "is encrypted; save it without a password");
+    expectFailure(file("cut.pdf", PdfWriter{{"a"}}.bytes().first(100)),
+        "is a damaged PDF file; make it anew with the program that wrote it");
+    expectFailure(file("scan.pdf", PdfWriter{{"", ""}}.bytes()),
+        "has no text on its pages; run scans through text recognition first");
+    expectFailure(file("words.pdf", "Some words."), "is not a PDF file");
+}
+
+TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedSaysWhyAndWhatToDo)
+{
+    QByteArray old("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
+    old.resize(1024, '\0');
+    expectFailure(file("old.docx", old), "is in a format of before 2007; save it as .docx or RTF");
+    expectFailure(file("cut.docx", wordDocument().chopped(30)), "is a damaged Word document; open it in a word processor and save it anew");
+    expectFailure(file("words.docx", "Some words."), "is not a Word document");
+}
+
+TEST_F(CountDocumentsTest, AHostileFileLeavesTheOthersCounted)
+{
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "a sanitized program cannot run under a limit of its memory";
+#endif
+    const PdfWriter bomb{.pages = {QByteArray("a\n").repeated(10'000'000)}, .isCompressed = true};
+    const QByteArray hostile = file("bomb.pdf", bomb.bytes());
+    const QByteArray sound = file("sound.txt", "Two words.");
+    const ChildProcess::Outcome outcome = count({"--tsv", hostile, sound});
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.errors,
+        "quillbay: " + hostile
+            + ": takes more time or memory than any PDF file; print it to a new one first\n");
+    EXPECT_THAT(outcome.output.toStdString(), HasSubstr("2\t9\t10\t"));
+}
