@@ -2,6 +2,7 @@
 #include "platform/styled_text/docx/AlternativeChunk.h"
 
 #include "platform/styled_text/PlainTextReader.h"
+#include "platform/styled_text/docx/WebArchive.h"
 #include "platform/styled_text/html/HtmlReader.h"
 #include "platform/styled_text/rtf/RtfReader.h"
 
@@ -47,6 +48,14 @@ Chunk nestedDocument(QByteArrayView bytes, ReadAllowance &allowance)
     return chunk;
 }
 
+/// A page without any text is one; an archive without a page is unreadable.
+Chunk webArchive(QByteArrayView bytes)
+{
+    const std::optional<WebArchivePage> page = pageOfWebArchive(bytes);
+    return page ? withCause(readHtml(page->contents, {.charset = page->charset}))
+                : DocxError::UnreadableChunk;
+}
+
 /// What a chunk begins with tells more than its type, which producers choose carelessly.
 Chunk chunkOfType(const QByteArray &type, QByteArrayView bytes, ReadAllowance &allowance)
 {
@@ -54,6 +63,8 @@ Chunk chunkOfType(const QByteArray &type, QByteArrayView bytes, ReadAllowance &a
         return nestedDocument(bytes, allowance);
     if (looksLikeRtf(bytes))
         return withCause(readRtf(bytes));
+    if (type == "message/rfc822" || type == "multipart/related" || looksLikeWebArchive(bytes))
+        return webArchive(bytes);
     if (type == "text/html" || type == "application/xhtml+xml" || looksLikeHtml(bytes))
         return withCause(readHtml(bytes));
     if (type == "text/plain")

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/docx/DocxReader.h"
 
+#include "platform/styled_text/Notes.h"
 #include "platform/styled_text/docx/AlternativeChunk.h"
 #include "platform/styled_text/docx/DocumentStyles.h"
 #include "platform/styled_text/docx/PackageDocument.h"
@@ -10,9 +11,6 @@
 #include <new>
 
 namespace {
-
-/// Whether footnotes and endnotes are text.
-constexpr bool notesAreText = true;
 
 /// The notes of one part, in the order of their references. A reference without a note has no text.
 std::optional<DocxError> appendNotes(AttributedStringBuilder &text, const PackageDocument &document,
@@ -73,13 +71,14 @@ QString causeText(DocxError error)
     case DocxError::Encrypted:
         return QStringLiteral("is encrypted; save it without a password");
     case DocxError::Damaged:
-        return QStringLiteral("is a damaged Word document");
+        return QStringLiteral("is a damaged Word document; open it in a word processor and save it anew");
     case DocxError::TooLarge:
-        return QStringLiteral("has more in it than any Word document");
+        return QStringLiteral("has more in it than any Word document; divide it");
     case DocxError::TooIntricate:
-        return QStringLiteral("is more intricate than any Word document");
+        return QStringLiteral("is more intricate than any Word document; save it anew with a word processor");
     case DocxError::UnreadableChunk:
-        return QStringLiteral("has a part of a kind that cannot be read");
+        return QStringLiteral(
+            "has a part in a format that cannot be read; save it anew with a word processor");
     case DocxError::NotEnoughMemory:
         break;
     }

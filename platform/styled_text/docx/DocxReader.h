@@ -5,8 +5,7 @@
 //
 // The text is what stands on the document's pages with every change accepted: the body, then its footnotes,
 // then its endnotes, in the order of their references. In detail:
-//  - Every paragraph ends in U+000A, the last one too; so an empty last paragraph is a line, as it is on
-//  paper.
+//  - Every paragraph ends in U+000A, the last one too; so an empty last paragraph is a line, as on paper.
 //    The paragraphs of a table's cells and of nested tables are paragraphs like any other.
 //  - A line break is U+2028, a page break U+000C, a column break U+000C too, a tabulator U+0009, a no-break
 //    hyphen U+2011, a soft hyphen U+00AD. Symbols of the font Symbol are the characters that they depict;
@@ -16,9 +15,10 @@
 //  - A text box stands once, behind the paragraph that anchors it. Of alternatives, the first one whose
 //    namespaces are understood counts.
 //  - Deleted and hidden text is no text, nor are headers, footers, comments, alternative texts of pictures,
-//  the
-//    numbers of lists and notes. A paragraph whose mark is deleted or hidden goes on in the next one.
-//  - Chunks in other formats stand in their place: Word documents, web pages, RTF and plain text.
+//    charts and diagrams, the numbers of lists and notes. A paragraph whose mark is deleted, hidden or in the
+//    instruction of a field goes on in the next one.
+//  - Chunks in other formats stand in their place: Word documents, web pages and archives of them, RTF and
+//    plain text.
 //
 // Fonts and paragraph styles are those of the document's defaults, its table, paragraph and character styles,
 // its lists and its direct formatting, with the fonts of its theme; each character has the font of its

@@ -8,11 +8,11 @@ using Kind = StyleSheet::Kind;
 
 } // namespace
 
-void StoryAssembler::endStory()
+void StoryAssembler::endStory(bool keepsLast)
 {
     if (isInParagraph())
-        endParagraph();
-    finishPending();
+        endParagraph(false);
+    finishPending(keepsLast);
     Story story = std::move(m_stories.back());
     m_stories.pop_back();
     if (m_stories.empty())
@@ -34,12 +34,12 @@ void StoryAssembler::beginParagraph()
     story.paragraph->base.reset();
 }
 
-void StoryAssembler::endParagraph()
+void StoryAssembler::endParagraph(bool goesOn)
 {
     Story &story = m_stories.back();
     story.isParagraphOpen = false;
     const RunProperties &mark = story.paragraph->mark;
-    if (!mark.isRemoved && !formatOf(mark).isHidden())
+    if (!goesOn && !mark.isRemoved && !formatOf(mark).isHidden())
         finishParagraph();
 }
 

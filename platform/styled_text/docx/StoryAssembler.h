@@ -21,13 +21,15 @@ public:
 
     /// A story within another one is a text box; it goes behind the paragraph that is open there.
     void beginStory() { m_stories.emplace_back(); }
-    void endStory();
+    /// keepsLast: a last paragraph that goes on in none is one even where it is empty.
+    void endStory(bool keepsLast);
     [[nodiscard]] bool isInStory() const { return !m_stories.empty(); }
     [[nodiscard]] const Theme &theme() const { return m_styles.theme; }
 
     // Within a story.
     void beginParagraph();
-    void endParagraph();
+    /// goesOn: as one whose mark is removed does.
+    void endParagraph(bool goesOn);
     [[nodiscard]] bool isInParagraph() const { return m_stories.back().isParagraphOpen; }
     /// Something finished that stands between paragraphs.
     void insert(const AttributedString &text);

@@ -72,6 +72,8 @@ void StoryReader::startElement(const XmlElement &element)
     ++m_depth;
     if (m_leftOutDepth > 0)
         return;
+    if (const auto space = element.attribute(XmlName{XmlSpace::Xml, "space"_tag}))
+        m_spaceScopes.push_back({m_depth, *space == "preserve"});
     switch (mode()) {
     case Mode::Content:
         startContent(element);
@@ -93,6 +95,8 @@ void StoryReader::startElement(const XmlElement &element)
 
 void StoryReader::endElement(XmlName name)
 {
+    if (!m_spaceScopes.empty() && m_spaceScopes.back().depth == m_depth)
+        m_spaceScopes.pop_back();
     if (m_leftOutDepth > 0) {
         if (m_leftOutDepth == m_depth)
             m_leftOutDepth = 0;
@@ -115,7 +119,7 @@ void StoryReader::endBlock(XmlTag tag)
 {
     if (m_assembler.isInParagraph()) { // where startInline() has seen nothing of tables
         if (tag == "p"_tag)
-            m_assembler.endParagraph();
+            m_assembler.endParagraph(state().fieldsWithoutResult > 0);
         return;
     }
     if (tag == "tc"_tag)
@@ -145,7 +149,7 @@ void StoryReader::startContent(const XmlElement &element)
         state().run = {};
         break;
     case "t"_tag:
-        startText(element);
+        startText();
         break;
     case "rPr"_tag:
     case "ctrlPr"_tag:
@@ -245,7 +249,7 @@ void StoryReader::startInline(const XmlElement &element)
         enter(Mode::RunProperties);
         break;
     case "t"_tag:
-        startText(element);
+        startText();
         break;
     case "tab"_tag:
     case "ptab"_tag:
@@ -361,7 +365,7 @@ void StoryReader::beginNote(const XmlElement &element)
 
 void StoryReader::endStory()
 {
-    m_assembler.endStory();
+    m_assembler.endStory(state().fieldsWithoutResult > 0);
     m_states.pop_back();
     if (m_states.empty() && m_wantedNotes)
         m_noteTexts.insert(m_note, m_assembler.takeText());
@@ -380,14 +384,14 @@ bool StoryReader::shows()
     return state().fieldsWithoutResult == 0 && !format().isHidden();
 }
 
-void StoryReader::startText(const XmlElement &element)
+void StoryReader::startText()
 {
     if (!m_assembler.isInParagraph() || !shows()) {
         leaveOut();
         return;
     }
     m_text.clear();
-    state().keepsSpace = element.attribute(XmlName{XmlSpace::Xml, "space"_tag}) == "preserve";
+    state().keepsSpace = !m_spaceScopes.empty() && m_spaceScopes.back().isKept;
     enter(Mode::Text);
 }
 

@@ -60,6 +60,11 @@ private:
         int depth;
         Mode mode;
     };
+    /// xml:space of an element, which holds for all that is in it.
+    struct SpaceScope {
+        int depth;
+        bool isKept;
+    };
     struct Run {
         RunProperties direct;
         std::optional<RunFormat> format; // once its properties are known
@@ -88,7 +93,7 @@ private:
     void beginStory();
     void beginNote(const XmlElement &element);
     void endStory();
-    void startText(const XmlElement &element);
+    void startText();
     void endText();
     void append(QStringView text);
     void appendSymbol(const XmlElement &element);
@@ -106,6 +111,7 @@ private:
     int m_depth = 0;
     int m_leftOutDepth = 0; // of the outermost element that is left out; 0: none
     std::vector<Scope> m_scopes; // innermost last
+    std::vector<SpaceScope> m_spaceScopes; // innermost last
     std::vector<StoryState> m_states; // innermost last
     QByteArray m_text; // of the text element that is open
     const NoteReferences *m_wantedNotes = nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/rtf/RtfWords.h"
 
+#include "platform/styled_text/Notes.h"
 #include "platform/styled_text/TextAttributes.h"
 
 #include <algorithm>
@@ -23,8 +24,6 @@ constexpr qint32 aside = number(RtfDestination::Aside);
 constexpr qint32 container = number(RtfDestination::Container);
 constexpr qint32 skipped = number(RtfDestination::Skipped);
 
-/// Whether notes are text at all.
-constexpr bool notesAreText = true;
 constexpr qint32 note = notesAreText ? aside : skipped;
 
 /// Ascending by name.

@@ -119,6 +119,42 @@ TEST(DocxChunks, OfEveryKindStandInTheirPlace)
         QStringLiteral("before\ndocument\nafter\n"));
 }
 
+TEST(DocxChunks, OfArchivesOfWebPagesAreThePage)
+{
+    const QByteArray page = "<p>caf=E9=20au=\r\n lait<p>=zz";
+    const QByteArray quoted = "Content-Type: text/html;\r\n charset=\"iso-8859-1\"\r\n"
+                              "Content-Transfer-Encoding: quoted-printable\r\n\r\n"
+        + page + "\r\n";
+    const QByteArray start = "MIME-Version: 1.0\r\nContent-Type: multipart/related; type=\"text/html\";\r\n\t"
+                             "boundary=\"=_b; x\"\r\n\r\nfor old programs\r\n--=_b; x\r\n";
+    const QByteArray picture = "Content-Type: image/png\r\n\r\nPNG\r\n--=_b; x\r\n";
+    const QString expected = QStringLiteral("before\ncaf\u00E9 au lait\n\n=zz\nafter\n");
+    EXPECT_EQ(textWithChunk("message/rfc822", start + picture + quoted + "--=_b; x--\r\n"), expected);
+    EXPECT_EQ(textWithChunk("application/x-unknown", start + quoted), expected);
+    EXPECT_EQ(textWithChunk("message/rfc822", quoted), expected);
+    EXPECT_EQ(textWithChunk("message/rfc822",
+                  "Content-Type: text/html\nContent-Transfer-Encoding: base64\n\n"
+                      + QByteArray("<p>page").toBase64()),
+        QStringLiteral("before\npage\nafter\n"));
+    EXPECT_EQ(
+        readDocx(withChunk("message/rfc822", start + picture).bytes()).error(), DocxError::UnreadableChunk);
+}
+
+TEST(DocxChunks, OfWebArchivesWithinEachOtherAreReadToABoundedDepth)
+{
+    QByteArray archive = "Content-Type: text/html\n\n<p>core";
+    const auto wrap = [&archive](int level) {
+        const QByteArray boundary = "b" + QByteArray::number(level);
+        archive = "Content-Type: multipart/mixed; boundary=" + boundary + "\n\n--" + boundary + "\n" + archive
+            + "\n--" + boundary + "--\n";
+    };
+    for (int level = 0; level < 4; ++level)
+        wrap(level);
+    EXPECT_EQ(textWithChunk("message/rfc822", archive), QStringLiteral("before\ncore\nafter\n"));
+    wrap(4);
+    EXPECT_EQ(readDocx(withChunk("message/rfc822", archive).bytes()).error(), DocxError::UnreadableChunk);
+}
+
 TEST(DocxChunks, OfAnUnknownKindAreAnErrorAndNoSilentLoss)
 {
     EXPECT_EQ(readDocx(withChunk("application/x-unknown", "?").bytes()).error(), DocxError::UnreadableChunk);

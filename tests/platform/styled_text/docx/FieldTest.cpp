@@ -51,6 +51,14 @@ TEST(DocxFields, InTheResultOfAnotherOneGiveTheirs)
         QStringLiteral("One 12\nTwo\nafter\n"));
 }
 
+TEST(DocxFields, WithAnInstructionOfSeveralParagraphsMakeOneOfThem)
+{
+    EXPECT_EQ(
+        textOfBody(paragraph(run("one ") + begin + instruction("IF a = b \"")) + paragraph(instruction("c"))
+            + paragraph(instruction("\"") + separate + run("two")) + paragraph(run("three") + end)),
+        QStringLiteral("one two\nthree\n"));
+}
+
 TEST(DocxFields, ThatEndBeforeTheyBeginAreNone)
 {
     EXPECT_EQ(textOfBody(paragraph(end + separate + run("a"))), QStringLiteral("a\n"));

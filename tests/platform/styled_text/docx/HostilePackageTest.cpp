@@ -38,6 +38,38 @@ QByteArray document(const QByteArray &content, const QByteArray &attributes = {}
         + "><w:body>" + content + "</w:body></w:document>";
 }
 
+/// Without the last entry of the directory, whose name another one has.
+QByteArray withoutLastPart(ZipWriter zip)
+{
+    zip.removeLast();
+    return zip.archive();
+}
+
+/// With every chunk where the first one is, in the directory of the archive.
+QByteArray withChunksInOnePlace(QByteArray archive)
+{
+    // Places in a header of the directory (ZIP specification, 4.3.12).
+    constexpr qsizetype headerLength = 46;
+    constexpr qsizetype method = 10;
+    constexpr qsizetype checksumAndLengths = 16;
+    constexpr qsizetype offset = 42;
+    const auto isChunk = [&](qsizetype header) {
+        return archive.sliced(header + headerLength).startsWith("word/chunk");
+    };
+    qsizetype first = archive.indexOf("PK\x01\x02");
+    while (!isChunk(first))
+        first = archive.indexOf("PK\x01\x02", first + headerLength);
+    for (qsizetype header = first; header >= 0;
+         header = archive.indexOf("PK\x01\x02", header + headerLength)) {
+        if (!isChunk(header))
+            continue;
+        archive.replace(header + method, 2, archive.sliced(first + method, 2));
+        archive.replace(header + checksumAndLengths, 12, archive.sliced(first + checksumAndLengths, 12));
+        archive.replace(header + offset, 4, archive.sliced(first + offset, 4));
+    }
+    return archive;
+}
+
 QByteArray soundDocument()
 {
     WordPackage sound{.body = paragraph(run("one") + "<w:r><w:footnoteReference w:id='1'/></w:r>"),
@@ -65,6 +97,43 @@ TEST(HostilePackage, ThatPacksOnePartManyTimesIsRefused)
     for (int i = 0; i < 40; ++i)
         many.body += "<w:altChunk r:id='r'/>";
     EXPECT_EQ(errorOf(many.bytes()), DocxError::TooLarge);
+}
+
+TEST(HostilePackage, ThatIsAChunkOfItselfIsRefused)
+{
+    const WordPackage document{.body = textParagraph("again") + "<w:altChunk r:id='r'/>",
+        .others = {{"r", "aFChunk", "document.xml", WordPackage{}.mainType, {}, false}}};
+    EXPECT_EQ(errorOf(withoutLastPart(document.writer())), DocxError::UnreadableChunk);
+}
+
+TEST(HostilePackage, ThatGrowsAHundredfoldWithEachLevelIsRefused)
+{
+    QByteArray document = WordPackage{.body = textParagraph("core")}.bytes();
+    for (int level = 0; level < 3; ++level)
+        document = WordPackage{.body = QByteArray("<w:altChunk r:id='r'/>").repeated(100),
+            .others = {{"r", "aFChunk", "inner.docx", WordPackage{}.mainType, document}}}
+                       .bytes();
+    EXPECT_EQ(errorOf(document), DocxError::TooIntricate);
+}
+
+TEST(HostilePackage, ThatReadsOnePlaceAsManyPartsIsRefused)
+{
+    WordPackage overlapping;
+    const auto addChunk = [&overlapping](int number, const QByteArray &contents) {
+        const QByteArray identifier = "r" + QByteArray::number(number);
+        overlapping.others.push_back(
+            {identifier, "aFChunk", "chunk" + identifier + ".rtf", "text/rtf", contents});
+        overlapping.body += "<w:altChunk r:id='" + identifier + "'/>";
+    };
+    addChunk(0, "{\\rtf1 x}" + QByteArray(20'000'000, ' '));
+    addChunk(1, "{\\rtf1 y}");
+    overlapping.method = ZipWriter::Method::Deflated;
+    EXPECT_EQ(readDocx(withChunksInOnePlace(overlapping.bytes())).value().string(), QStringLiteral("x\nx\n"));
+    for (int number = 2; number < 40; ++number)
+        addChunk(number, {});
+    const QByteArray archive = withChunksInOnePlace(overlapping.bytes());
+    EXPECT_LT(archive.size(), 50'000);
+    EXPECT_EQ(errorOf(archive), DocxError::TooLarge);
 }
 
 TEST(HostilePackage, WithTooManyPartsIsRefused)

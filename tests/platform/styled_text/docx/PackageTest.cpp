@@ -74,6 +74,27 @@ TEST(DocxPackage, MayBeStrict)
     EXPECT_NEAR(text.value().attributesAt(0).paragraphStyle.headIndent, 28.35, 0.01);
 }
 
+TEST(DocxPackage, HasTheSameTextInTheStrictForm)
+{
+    WordPackage document{
+        .body = paragraph("<w:r><w:t>a</w:t><w:tab/><w:br w:type='page'/><w:noBreakHyphen/>"
+                          "<w:sym w:font='Symbol' w:char='F061'/></w:r><w:ins>"
+                    + run("b") + "</w:ins><w:del><w:r><w:delText>c</w:delText></w:r></w:del>"
+                    + run("d", "<w:vanish/>") + "<w:fldSimple w:instr='PAGE'>" + run("e")
+                    + "</w:fldSimple><w:r><w:footnoteReference w:id='1'/></w:r><w:sdt><w:sdtContent>"
+                    + run("f") + "</w:sdtContent></w:sdt><w:r><w:pict><v:textbox><w:txbxContent>"
+                    + textParagraph("g") + "</w:txbxContent></v:textbox></w:pict></w:r>")
+            + "<w:tbl><w:tr>" + cell(textParagraph("h")) + "</w:tr><w:tr><w:trPr><w:del/></w:trPr>"
+            + cell(textParagraph("i")) + "</w:tr></w:tbl><w:altChunk r:id='chunk'/>",
+        .footnotes = "<w:footnote w:id='1'>" + textParagraph("note") + "</w:footnote>",
+        .others = {{"chunk", "aFChunk", "chunk.txt", "text/plain", "chunk"}}};
+    const QString text = textOf(document);
+    EXPECT_EQ(text, QStringLiteral("a\t\f\u2011\u03B1bef\ng\nh\nchunk\nnote\n"));
+    document.wordNamespace = "http://purl.oclc.org/ooxml/wordprocessingml/main";
+    document.relationshipsNamespace = "http://purl.oclc.org/ooxml/officeDocument/relationships";
+    EXPECT_EQ(textOf(document), text);
+}
+
 TEST(DocxPackage, MayBeCompressed)
 {
     WordPackage document = hello;
@@ -92,8 +113,8 @@ TEST(DocxPackage, HasItsMainPartWhereTheRelationshipLeads)
         read(packageWithMainPart("Word/Document.XML", "word/document.xml", main)), QStringLiteral("hello\n"));
     EXPECT_EQ(read(packageWithMainPart("word\\document.xml", "word/document.xml", main)),
         QStringLiteral("hello\n"));
-    EXPECT_EQ(read(packageWithMainPart("other.xml", "word/document.xml", main)),
-        QStringLiteral("is a damaged Word document"));
+    EXPECT_EQ(
+        read(packageWithMainPart("other.xml", "word/document.xml", main)), causeText(DocxError::Damaged));
 }
 
 TEST(DocxPackage, HasItsStylesWhereTheRelationshipLeads)

@@ -21,6 +21,13 @@ TEST(DocxText, KeepsWhiteSpaceAtTheEdgesOfARunOnlyWhereItIsPreserved)
     EXPECT_EQ(textOfBody(paragraph("\n  " + run("d\ne") + "\n  ")), QStringLiteral("d e\n"));
 }
 
+TEST(DocxText, KeepsWhiteSpaceWhereAnElementAroundTheRunPreservesIt)
+{
+    const QByteArray spaced = "<w:r><w:t> a </w:t><w:t xml:space='default'> b </w:t></w:r>";
+    EXPECT_EQ(textOfBody("<w:p xml:space='preserve'>" + spaced + "</w:p><w:p>" + spaced + "</w:p>"),
+        QStringLiteral(" a b\nab\n"));
+}
+
 TEST(DocxText, HasACharacterForTabsBreaksAndHyphens)
 {
     EXPECT_EQ(textOfBody(paragraph("<w:r><w:t>a</w:t><w:tab/><w:t>b</w:t><w:br/><w:t>c</w:t><w:cr/>"
@@ -101,6 +108,36 @@ TEST(DocxText, HasNoNumbersOfListsNorCommentsNorPictures)
             .numbering = "<w:abstractNum w:abstractNumId='0'><w:lvl w:ilvl='0'><w:lvlText w:val='%1.'/>"
                          "</w:lvl></w:abstractNum><w:num w:numId='1'><w:abstractNumId w:val='0'/></w:num>"}),
         QStringLiteral("a\n"));
+}
+
+TEST(DocxText, HasNoHeadersFootersCommentsNorPagesOfTheProgramThatSavedIt)
+{
+    const QByteArray word = "application/vnd.openxmlformats-officedocument.wordprocessingml.";
+    const auto part = [&word](const char *kind) {
+        const QByteArray root = QByteArray(kind) == "header" ? "hdr"
+            : QByteArray(kind) == "footer"                   ? "ftr"
+                                                             : kind;
+        return WordPackage::Part{QByteArray("rIdOf") + kind, kind, QByteArray(kind) + ".xml",
+            word + kind + "+xml",
+            "<w:" + root + " xmlns:w='" + WordPackage{}.wordNamespace + "'>" + textParagraph(kind)
+                + "</w:" + root + ">"};
+    };
+    EXPECT_EQ(
+        textOf({.body = paragraph(run("one") + "<w:r><w:lastRenderedPageBreak/></w:r>" + run(" two"),
+                            "<w:sectPr><w:headerReference w:type='default' r:id='rIdOfheader'/></w:sectPr>")
+                + "<w:sectPr><w:footerReference w:type='default' r:id='rIdOffooter'/></w:sectPr>",
+            .others = {part("header"), part("footer"), part("comments")}}),
+        QStringLiteral("one two\n"));
+}
+
+TEST(DocxText, NeverComesFromTheStoredFigures)
+{
+    const WordPackage document{
+        .body = textParagraph("one"), .figures = "<Words>1000</Words><Lines>9</Lines>"};
+    EXPECT_EQ(textOf(document), QStringLiteral("one\n"));
+    ZipWriter damaged = WordPackage{.body = textParagraph("one")}.writer();
+    damaged.add({.name = "docProps/app.xml", .contents = "<Properties><Words>"});
+    EXPECT_EQ(readDocx(damaged.archive()).value().string(), QStringLiteral("one\n"));
 }
 
 TEST(DocxText, ReadsAParagraphThatStandsWhereNoneBelongs)
