@@ -85,6 +85,9 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
         return text.error();
     m_rules = rulesFrom(request.rules);
     m_model.setAttributedStringToCount(text.value());
+    // The counts of a record stand in another order than those of a reply; the model has the latter.
+    if (request.kind == PayloadKind::WordDocument)
+        m_model.setDocXMetaDataToFormat(QBYDocxMetaData::ofText(m_model.statsRepresentation()));
     const QBYWordCounterStats stats = m_model.statsRepresentation();
     // The text of one document does not lie about while the next is read.
     m_model.setAttributedStringToCount(std::nullopt);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the counting service counts.
+#include "platform/styled_text/docx/DocxReader.h"
 #include "platform/styled_text/rtfd/RtfdReader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/counting_service/CountingServiceTest.h"
@@ -26,12 +27,17 @@ protected:
             ADD_FAILURE() << causeText(text.error()).toStdString();
             return {};
         }
+        return countInProcess(text.value(), locale);
+    }
+
+    static QBYWordCounterStats countInProcess(const AttributedString &text, const QString &locale)
+    {
         WordCounterModel model([&] {
             CountingRules rules = currentCountingRules();
             rules.text.localeIdentifier = [&] { return locale; };
             return rules;
         });
-        model.setAttributedStringToCount(text.value());
+        model.setAttributedStringToCount(text);
         return model.statsRepresentation();
     }
 
@@ -166,6 +172,27 @@ TEST_F(CountTest, AWordDocumentIsCountedByItsText)
     EXPECT_EQ(stats.numberOfWords, 3U);
     EXPECT_EQ(stats.numberOfLines, 2U);
     EXPECT_EQ(stats.numberOfHardLineBreaks, 2U);
+}
+
+TEST_F(CountTest, TheCountsOfAWordDocumentComeInTheOrderOfAReplyAndAreNotTheStoredOnes)
+{
+    const QByteArray sentence = "<w:r><w:t xml:space='preserve'>Eels swim far. </w:t></w:r>";
+    const WordPackage document{.body = "<w:p><w:r><w:tab/></w:r>" + sentence.repeated(30)
+            + "</w:p><w:p/><w:p>" + sentence + "</w:p><w:p/><w:p>" + sentence + "</w:p>",
+        .figures = "<Words>7</Words><Characters>7</Characters><Lines>7</Lines><Paragraphs>7</Paragraphs>"};
+    const QByteArray bytes = document.bytes();
+    const SealedMemory::MadeMemory memory = SealedMemory::copyOf(bytes);
+    const auto size = static_cast<quint64>(bytes.size());
+    const QBYWordCounterStats stats = count(message(docxRequest, memory.value().descriptor(), size));
+    EXPECT_EQ(stats, countInProcess(readDocx(bytes).value(), QStringLiteral("en_US")));
+    EXPECT_EQ(stats.numberOfWords, 96U);
+    EXPECT_EQ(stats.numberOfCharacters, 384U);
+    EXPECT_EQ(stats.numberOfCharactersIncludingWhitespace, 486U);
+    EXPECT_EQ(stats.numberOfSentences, 32U);
+    EXPECT_GT(stats.numberOfLines, 5U);
+    EXPECT_EQ(stats.numberOfHardLineBreaks, 5U);
+    EXPECT_EQ(stats.numberOfParagraphs, 3U);
+    EXPECT_EQ(stats.numberOfIndentedParagraphs, 1U);
 }
 
 TEST_F(CountTest, WhatIsNoWordDocumentHasZerosAndIsCountedAgainNextTime)

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Whoever counts a document, in whatever process, gets the same eight numbers.
-#include "platform/styled_text/loading/DocumentLoader.h"
+#include "platform/styled_text/loading/PdfLoader.h"
 #include "presentation/word_counter/WordCounterViewController.h"
 #include "tests/counting_service/CountingServiceTest.h"
 #include "tests/platform/printing/PrintServer.h"
 #include "tests/platform/styled_text/SampleTexts.h"
 #include "tests/platform/styled_text/docx/PackageWriter.h"
+#include "tests/platform/styled_text/pdf/PdfWriter.h"
 
 #include <QDir>
 #include <QFile>
@@ -46,6 +47,8 @@ protected:
                 + text.toUtf8() + "</w:t></w:r></w:p>"}
                                     .bytes();
         paths.append(QFile::encodeName(writeFile(QStringLiteral("languages.docx"), word)));
+        const QByteArray pdf = PdfWriter{{"One page of a few words.\nAnd a line.", "Another page."}}.bytes();
+        paths.append(QFile::encodeName(writeFile(QStringLiteral("pages.pdf"), pdf)));
         return paths;
     }
 
@@ -65,7 +68,7 @@ protected:
         if (path.endsWith(".docx"))
             panel->asyncUpdateStatsDocXFileURL(QUrl::fromLocalFile(QFile::decodeName(path)), completion);
         else
-            panel->asyncUpdateStatsWithAttributedString(loadDocument(path).value(), completion);
+            panel->asyncUpdateStatsWithAttributedString(loadDocumentOrPdf(path).value(), completion);
         EXPECT_TRUE(waitUntil([&] { return isCounted && !panel->isAsyncCountOperationInProgress(); }));
         return panel->wordCounter()->statsRepresentation();
     }

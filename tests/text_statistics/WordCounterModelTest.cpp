@@ -113,6 +113,17 @@ TEST_F(WordCounterModelTest, CopiesAWordRecord)
     EXPECT_EQ(m_model.numberOfHardLineBreaksFormattedString(), QStringLiteral("•Lines (Hard Break): 17"));
 }
 
+TEST_F(WordCounterModelTest, AWordRecordOfATextHasTheCountsOfTheText)
+{
+    const QBYWordCounterStats stats{1, 2, 3, 4, 5, 6, 7, 8};
+    const QBYDocxMetaData ofText = QBYDocxMetaData::ofText(stats);
+    EXPECT_EQ(ofText.numberOfCharactersWithWhitespace, 3U);
+    EXPECT_EQ(ofText.numberOfLines, 5U);
+    EXPECT_EQ(ofText.numberOfHardLineBreaks, 6U);
+    m_model.setDocXMetaDataToFormat(ofText);
+    EXPECT_EQ(m_model.statsRepresentation(), stats);
+}
+
 TEST_F(WordCounterModelTest, AStyledTextAfterAWordRecordReplacesTheCountsAndKeepsTheRecord)
 {
     m_model.setDocXMetaDataToFormat(record);
