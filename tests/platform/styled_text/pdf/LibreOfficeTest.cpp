@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// PDF files that LibreOffice has written, held against the text that it writes itself.
+#include "tests/platform/styled_text/LibreOffice.h"
+#include "platform/styled_text/pdf/PdfReader.h"
+#include "tests/harness/QuillbayTest.h"
+
+class PdfFromLibreOffice : public QuillbayTest { };
+
+TEST_F(PdfFromLibreOffice, HasTheWordsOfItsTextExport)
+{
+    if (!LibreOffice::isInstalled())
+        GTEST_SKIP() << "LibreOffice is not installed";
+    const LibreOffice::Document document{
+        .body = "<text:p>One paragraph of some words, \xC3\xA4\xC3\xB6\xC3\xBC and "
+                "\xE2\x80\x9Cquotes\xE2\x80\x9D, long "
+                "enough to be set in more than a single line of a page of paper as they are sold in "
+                "shops.</text:p>"
+                "<text:p>Another one.</text:p><text:p text:style-name='B'>And one more page.</text:p>",
+        .styles = "<style:style style:name='B' style:family='paragraph'>"
+                  "<style:paragraph-properties fo:break-before='page'/></style:style>"};
+    const QString expected = LibreOffice::textExport(document, world().root()).simplified();
+    ASSERT_TRUE(expected.startsWith(QStringLiteral("One paragraph"))) << qPrintable(expected);
+    const auto text = readPdf(LibreOffice::converted(document, QStringLiteral("pdf"), world().root()));
+    ASSERT_TRUE(text.hasValue()) << qPrintable(causeText(text.error()));
+    QString words = text.value().string().simplified();
+    // Nothing stands between two pages.
+    EXPECT_EQ(words.replace(QStringLiteral("one.And"), QStringLiteral("one. And")), expected);
+}
