@@ -71,6 +71,13 @@ TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedSaysWhyAndWhatToDo)
     expectFailure(file("words.docx", "Some words."), "is not a Word document");
 }
 
+TEST_F(CountDocumentsTest, PdfFilesBringNoWidgetsIntoTheCommand)
+{
+    const QByteArray program = readFile(productProgram(QStringLiteral("quillbay")));
+    EXPECT_TRUE(program.contains("libQt6Pdf"));
+    EXPECT_FALSE(program.contains("libQt6Widgets"));
+}
+
 TEST_F(CountDocumentsTest, AHostileFileLeavesTheOthersCounted)
 {
 #ifdef __SANITIZE_ADDRESS__

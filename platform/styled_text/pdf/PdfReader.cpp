@@ -93,6 +93,7 @@ void confine(int pipe, qsizetype size, const PdfLimits &limits)
     const auto time = limits.time + timePerMebibyte * (size / mebibyte);
     limit(RLIMIT_CPU, time.count());
     limit(RLIMIT_FSIZE, 0);
+    limit(RLIMIT_NPROC, 0);
     limit(RLIMIT_CORE, 0);
     ::alarm(static_cast<unsigned>(time.count() * patience));
 }
