@@ -5,9 +5,9 @@
 
 #include <QCoreApplication>
 
-ProviderApplication::ProviderApplication(Desktop &desktop)
-    : m_desktop(desktop)
-    , m_delegate(desktop, [this](ServicesProvider &provider) { m_isOffered = offer(provider); })
+ProviderApplication::ProviderApplication(const WatchSurroundings &surroundings)
+    : m_desktop(surroundings.desktop)
+    , m_delegate(surroundings, [this](ServicesProvider &provider) { m_isOffered = offer(provider); })
 {
     m_delegate.setSomethingEndedHandler([this] { leaveSoonIfUnused(); });
     m_desktop.setAskingEndedHandler([this] { leaveSoonIfUnused(); });

@@ -15,8 +15,8 @@
 /// that it leaves as soon as there is no window, no watcher and no question to the user.
 class ProviderApplication : public QObject {
 public:
-    /// desktop: outlives the application.
-    explicit ProviderApplication(Desktop &desktop);
+    /// What surroundings refer to outlives the application.
+    explicit ProviderApplication(const WatchSurroundings &surroundings);
     ~ProviderApplication() override;
 
     /// Offers the services. False, with a line in the log, where they cannot be offered.

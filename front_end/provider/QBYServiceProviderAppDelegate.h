@@ -7,21 +7,25 @@
 #include "front_end/stats_window/QBYServiceProviderShowStatsWindowController.h"
 #include "front_end/stats_window/QBYServiceProviderShowStatsWindowControllerDelegate.h"
 #include "platform/services/ServicesProvider.h"
-#include "platform/views/Desktop.h"
+#include "watching/watch_controller/WatchTextFileMenuBarController.h"
+#include "watching/watch_controller/WatchTextFileMenuBarControllerDelegate.h"
 
 #include <functional>
 #include <memory>
 #include <vector>
 
 class QBYServiceProviderAppDelegate final : public QBYServiceProviderShowStatsWindowControllerDelegate,
+                                            public WatchTextFileMenuBarControllerDelegate,
                                             public ServicesProvider {
 public:
     using StatWindowControllers = std::vector<std::shared_ptr<QBYServiceProviderShowStatsWindowController>>;
 
-    /// setServicesProvider: makes its argument the one to whom service messages come. desktop: outlives the
-    /// delegate.
-    QBYServiceProviderAppDelegate(
-        Desktop &desktop, std::function<void(ServicesProvider &provider)> setServicesProvider);
+    using WatchTextFileControllers = std::vector<std::shared_ptr<WatchTextFileMenuBarController>>;
+
+    /// setServicesProvider: makes its argument the one to whom service messages come. What surroundings refer
+    /// to outlives the delegate.
+    QBYServiceProviderAppDelegate(const WatchSurroundings &surroundings,
+        std::function<void(ServicesProvider &provider)> setServicesProvider);
     ~QBYServiceProviderAppDelegate() override;
 
     /// One a request, in the order of the requests.
@@ -29,13 +33,21 @@ public:
     {
         return m_statWindowControllerForSelectedText;
     }
+    /// One a watched file, in the order in which they were made.
+    [[nodiscard]] const WatchTextFileControllers &watchTextFileControllers() const
+    {
+        return m_watchTextFileControllers;
+    }
 
     /// From here on services are offered.
     void applicationDidFinishLaunching();
     [[nodiscard]] static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
 
     /// Whether a service has left something behind that still lives.
-    [[nodiscard]] bool isInUse() const { return !m_statWindowControllerForSelectedText.empty(); }
+    [[nodiscard]] bool isInUse() const
+    {
+        return !m_statWindowControllerForSelectedText.empty() || !m_watchTextFileControllers.empty();
+    }
     /// Called whenever something has left a registry.
     void setSomethingEndedHandler(std::function<void()> handler) { m_somethingEnded = std::move(handler); }
 
@@ -43,15 +55,25 @@ public:
     /// Opens a window with the counts of the pasteboard's text. Each request opens one of its own.
     void wordCountSelectedTextService(
         const Pasteboard &pasteboard, const QString &userData, QString *error) override;
+    /// Opens a window for each file of the pasteboard that is of an accepted kind, or brings forward the one
+    /// that follows it already. A file is the same only under the same path.
     void watchTheTextFileService(
         const Pasteboard &pasteboard, const QString &userData, QString *error) override;
+    /// Null where nobody follows the file.
+    [[nodiscard]] std::shared_ptr<WatchTextFileMenuBarController> _existingWatchTextFileControllerForURL(
+        const QUrl &url) const;
 
     void serviceProviderShowStatsWindowControllerDidClose(
         QBYServiceProviderShowStatsWindowController &controller) override;
+    void watchTextFileMenuBarControllerDidFinish(WatchTextFileMenuBarController &controller) override;
 
 private:
-    Desktop &m_desktop;
+    void watch(const QUrl &url);
+    void tellThatSomethingEnded();
+
+    const WatchSurroundings m_surroundings;
     std::function<void(ServicesProvider &provider)> m_setServicesProvider;
     std::function<void()> m_somethingEnded;
     StatWindowControllers m_statWindowControllerForSelectedText;
+    WatchTextFileControllers m_watchTextFileControllers;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The service provider: the program behind the windows of statistics, started by the session bus.
 #include "front_end/provider/ProviderApplication.h"
+#include "platform/views/widgets/ApplicationActivitySource.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/WidgetDesktop.h"
 
@@ -52,6 +53,8 @@ int main(int argumentCount, char **arguments)
     QApplication::setQuitOnLastWindowClosed(false); // ProviderApplication knows when
     const DesktopAppearance appearance;
     WidgetDesktop desktop;
-    ProviderApplication provider(desktop);
+    ApplicationActivity activity(false);
+    const ApplicationActivitySource activitySource(activity);
+    ProviderApplication provider({.desktop = desktop, .applicationActivity = activity});
     return provider.start() ? QApplication::exec() : 1;
 }

@@ -28,9 +28,10 @@ protected:
 
     ServiceStandIn service{WordCounterServiceProtocol::serviceName(), {"answer 1 2 3 4 5 6 7 8"}};
     FakeDesktop desktop;
+    ApplicationActivity activity{true};
     std::vector<ServicesProvider *> registered;
     QBYServiceProviderAppDelegate delegate{
-        desktop, [this](ServicesProvider &provider) { registered.push_back(&provider); }};
+        {desktop, activity}, [this](ServicesProvider &provider) { registered.push_back(&provider); }};
 };
 
 } // namespace
