@@ -66,6 +66,7 @@ TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedSaysWhyAndWhatToDo)
     QByteArray old("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     old.resize(1024, '\0');
     expectFailure(file("old.docx", old), "is in a format of before 2007; save it as .docx or RTF");
+    expectFailure(file("old.doc", old), "is in a format of before 2007; save it as .docx or RTF");
     expectFailure(file("cut.docx", wordDocument().chopped(30)),
         "is a damaged Word document; open it in a word processor and save it anew");
     expectFailure(file("words.docx", "Some words."), "is not a Word document");

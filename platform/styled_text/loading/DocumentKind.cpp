@@ -39,6 +39,12 @@ std::optional<DocumentKind> kindByName(const QByteArray &path)
     return DocumentKind::PlainText;
 }
 
+/// The beginning of every compound file: documents of Word 97 to 2003, and encrypted ones of Word.
+bool looksLikeCompoundFile(QByteArrayView bytes)
+{
+    return bytes.startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
+}
+
 } // namespace
 
 DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
@@ -49,6 +55,8 @@ DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
         return DocumentKind::FlatRtfd;
     if (looksLikePdf(bytes))
         return DocumentKind::Pdf;
+    if (looksLikeCompoundFile(bytes))
+        return DocumentKind::WordDocument;
     if (const std::optional<DocumentKind> kind = kindByName(path))
         return *kind;
     if (looksLikeHtml(bytes))

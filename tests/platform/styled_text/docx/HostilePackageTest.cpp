@@ -48,7 +48,7 @@ QByteArray withoutLastPart(ZipWriter zip)
 /// With every chunk where the first one is, in the directory of the archive.
 QByteArray withChunksInOnePlace(QByteArray archive)
 {
-    // Places in a header of the directory (ZIP specification, 4.3.12).
+    // Places in a header of the directory (APPNOTE.TXT of ZIP, 4.3.12).
     constexpr qsizetype headerLength = 46;
     constexpr qsizetype method = 10;
     constexpr qsizetype checksumAndLengths = 16;

@@ -49,6 +49,13 @@ TEST(DocumentKind, BytesWithHeaderAndObjectsOfPdfAreThatUnderAnyName)
     EXPECT_EQ(kindOfDocument("", "%PDF-"), DocumentKind::PlainText);
 }
 
+TEST(DocumentKind, AWordDocumentOfBefore2007IsNoPlainText)
+{
+    const QByteArray old = QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1") + QByteArray(504, '\0');
+    for (const char *name : {"", "letter.doc", "letter.txt", "letter"})
+        EXPECT_EQ(kindOfDocument(name, old), DocumentKind::WordDocument) << name;
+}
+
 TEST(DocumentKind, TheMimeTypeOfTheNameTellsWebPagesAndWordDocuments)
 {
     for (const char *name : {"page.html", "page.htm", "PAGE.HTML", "/home/me/page.xhtml"})
