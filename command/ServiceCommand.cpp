@@ -10,12 +10,12 @@
 
 namespace {
 
-/// The token by which a window of this request may take the focus. It serves once: whoever comes after this
-/// process must not find it.
+/// The token by which a window of this request may take the focus; that of X11 where there are two, as the
+/// windows are X11's. It serves once: whoever comes after this process must not find it.
 QString takeActivationToken()
 {
     QString token;
-    for (const char *const name : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN"}) {
+    for (const char *const name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
         if (const QString value = qEnvironmentVariable(name); !value.isEmpty())
             token = value;
         qunsetenv(name);

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "tests/command/ServiceCommandTest.h"
+
+using ::testing::HasSubstr;
+using Outcome = ChildProcess::Outcome;
+
+class TextCommand : public ServiceCommandTest { };
+
+TEST_F(TextCommand, HandsAFileOverAsFlatRtfd)
+{
+    const Outcome outcome = quillbay({"text", file("story.txt", "\xff\xfeO\0n\0e\0.\0")});
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.errors, QByteArray());
+    EXPECT_EQ(request()[u"message"].toString(), QStringLiteral("wordCountSelectedTextService"));
+    EXPECT_EQ(request()[u"forms"].toObject().keys(), QStringList{QStringLiteral("application/x-flat-rtfd")});
+    EXPECT_TRUE(request()[u"hasDefaults"].toBool());
+}
+
+TEST_F(TextCommand, ReadsWhatCountReads)
+{
+    const std::vector<std::pair<QByteArray, QString>> documents{
+        {"caf\xc3\xa9\n", QStringLiteral("café\n")},
+        {"{\\rtf1\\ansi caf\\'e9}", QStringLiteral("café")},
+        {"<!DOCTYPE html><p>caf&eacute;", QStringLiteral("café")},
+    };
+    for (const auto &[bytes, text] : documents) {
+        EXPECT_EQ(quillbay({"text", file("document", bytes)}).exitStatus, 0);
+        EXPECT_EQ(requests().last()[u"text"].toString(), text);
+        EXPECT_EQ(quillbay({"text", "-"}, bytes).exitStatus, 0);
+        EXPECT_EQ(requests().last()[u"text"].toString(), text);
+        EXPECT_EQ(quillbay({"text"}, bytes).exitStatus, 0);
+        EXPECT_EQ(requests().last()[u"text"].toString(), text);
+    }
+    EXPECT_EQ(requests().size(), 9);
+}
+
+TEST_F(TextCommand, OpensAWindowForAnEmptyText)
+{
+    EXPECT_EQ(quillbay({"text"}, "").exitStatus, 0);
+    EXPECT_EQ(request()[u"text"].toString(), QString());
+}
+
+TEST_F(TextCommand, FailsAsCountDoes)
+{
+    const QByteArray folder = QFile::encodeName(world().home());
+    for (const QByteArray &name :
+        {QByteArray("/no/such"), folder, file("archive.docx", "PK\x03\x04nonsense")}) {
+        const Outcome outcome = quillbay({"text", name});
+        EXPECT_EQ(outcome.exitStatus, 1);
+        EXPECT_EQ(outcome.errors, count({name}).errors);
+        EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("quillbay: " + name.toStdString() + ": "));
+    }
+    EXPECT_EQ(requests().size(), 0);
+}
+
+TEST_F(TextCommand, SaysOnStandardErrorWhatTheProviderSays)
+{
+    installProvider("No_such_text.");
+    const Outcome outcome = quillbay({"text"}, "text");
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.errors, QByteArray("quillbay: No_such_text.\n"));
+}
+
+TEST_F(TextCommand, TakesOneFile)
+{
+    const Outcome outcome = quillbay({"text", "a", "b"});
+    EXPECT_EQ(outcome.exitStatus, 2);
+    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("one file at a time"));
+    EXPECT_EQ(quillbay({"text", "--help"}).exitStatus, 0);
+}
