@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// How long the service provider stays.
+#include "platform/services/ServiceInterface.h"
+#include "tests/front_end/provider/ProviderTest.h"
+#include "tests/presentation/stats_panel/StatsPanel.h"
+
+#include <QDBusMessage>
+
+namespace {
+
+class ProviderLife : public ProviderTest {
+protected:
+    ProviderLife() { preferOnly(everyStatistic); }
+
+    /// The provider has handled all that has happened so far.
+    void settle() const
+    {
+        const QDBusMessage ping =
+            QDBusMessage::createMethodCall(ServiceInterface::busName(), ServiceInterface::objectPath(),
+                QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+        EXPECT_EQ(m_bus.call(ping).type(), QDBusMessage::ReplyMessage);
+    }
+
+    static void closeAll()
+    {
+        EXPECT_TRUE(waitUntil([&] {
+            const QStringList open = windows();
+            if (!open.isEmpty())
+                click(open.last(), rectOf(open.last()).width() - 12, 16);
+            return open.isEmpty();
+        }));
+    }
+};
+
+} // namespace
+
+TEST_F(ProviderLife, LastsUntilTheFirstRequest)
+{
+    startProvider();
+    const pid_t process = provider();
+    for (int i = 0; i < 5; ++i)
+        settle();
+    EXPECT_EQ(count(QStringLiteral("A text.")), QString());
+    EXPECT_EQ(provider(), process);
+}
+
+TEST_F(ProviderLife, EndsWithARequestThatLeavesNothingBehind)
+{
+    startProvider();
+    const pid_t process = provider();
+    EXPECT_EQ(ask(QStringLiteral("wordCountSelectedTextService"), Pasteboard()),
+        QStringLiteral("Quillbay failed to read retrieve text."));
+    waitForEnd(process);
+}
+
+TEST_F(ProviderLife, GoesOnWithAWindowWhenALaterRequestIsRefused)
+{
+    EXPECT_EQ(count(QStringLiteral("A text.")), QString());
+    const pid_t process = provider();
+    EXPECT_NE(ask(QStringLiteral("wordCountSelectedTextService"), Pasteboard()), QString());
+    settle();
+    EXPECT_EQ(provider(), process);
+    waitForWindows(1);
+}
+
+TEST_F(ProviderLife, NoRequestIsLostWhileItLeaves)
+{
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_EQ(ask(QStringLiteral("wordCountSelectedTextService"), Pasteboard()),
+            QStringLiteral("Quillbay failed to read retrieve text."));
+        EXPECT_EQ(count(QStringLiteral("A text.")), QString());
+    }
+    waitForWindows(10);
+    closeAll();
+}
+
+TEST(ProviderUsage, TakesNoArguments)
+{
+    const auto outcome =
+        ChildProcess(productProgram(QStringLiteral("quillbay-service-provider"))).run({"--help"});
+    EXPECT_EQ(outcome.exitStatus, 2);
+    EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("takes no arguments"));
+}
+
+TEST(ProviderUsage, SaysThatThereIsNoDisplay)
+{
+    const auto outcome = ChildProcess(productProgram(QStringLiteral("quillbay-service-provider")))
+                             .withoutVariable("DISPLAY")
+                             .withoutVariable("WAYLAND_DISPLAY")
+                             .withoutVariable("QT_QPA_PLATFORM")
+                             .run({});
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("no display"));
+}
