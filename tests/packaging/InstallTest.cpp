@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+// What "cmake --install" gives: whether it is complete, and whether it works as it lies there.
+#include "tests/harness/Display.h"
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/selection/SelectionOwner.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <csignal>
+
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+using ::testing::UnorderedElementsAre;
+
+namespace {
+
+class Install : public QuillbayTest {
+protected:
+    /// As a user installs it for himself: the bus looks there.
+    [[nodiscard]] static QString prefix() { return world().home() + QStringLiteral("/.local"); }
+
+    static void install(const QByteArrayList &words, const QByteArray &destination = {})
+    {
+        ChildProcess process(QStringLiteral(CMAKE));
+        process.withVariable("DESTDIR", destination);
+        const ChildProcess::Outcome outcome =
+            process.run(QByteArrayList{"--install", QFile::encodeName(QStringLiteral(BUILD_FOLDER))} + words);
+        ASSERT_EQ(outcome.exitStatus, 0) << outcome.errors.toStdString();
+    }
+
+    static QStringList filesBelow(const QString &folder)
+    {
+        QStringList files;
+        for (QDirIterator entry(folder, QDir::Files, QDirIterator::Subdirectories); entry.hasNext();)
+            files.append(QDir(folder).relativeFilePath(entry.next()));
+        return files;
+    }
+
+    /// What stands behind "Exec=" in the file, a command on each line.
+    static QStringList commandsIn(const QString &path)
+    {
+        QStringList commands;
+        static const QRegularExpression exec(
+            QStringLiteral("^Exec(?:Start)?=(.*)$"), QRegularExpression::MultilineOption);
+        for (const auto &match : exec.globalMatch(QString::fromUtf8(readFile(path))))
+            commands.append(match.captured(1));
+        return commands;
+    }
+
+    /// Of a command, with or without quotes.
+    static QString programOf(const QString &command)
+    {
+        return command.startsWith(u'"') ? command.section(u'"', 1, 1) : command.section(u' ', 0, 0);
+    }
+
+    static QString desktopFile()
+    {
+        return prefix() + QStringLiteral("/share/applications/com.quillbay.Quillbay.desktop");
+    }
+};
+
+const QStringList filesWithCommands{QStringLiteral("share/applications/com.quillbay.Quillbay.desktop"),
+    QStringLiteral("share/dbus-1/services/Brisklane.QBYServiceProviderXPC.service"),
+    QStringLiteral("share/dbus-1/services/com.quillbay.ServiceProvider.service"),
+    QStringLiteral("share/systemd/user/quillbay-counting-service.service")};
+
+} // namespace
+
+TEST_F(Install, IsComplete)
+{
+    install({"--prefix", QFile::encodeName(prefix())});
+    QStringList expected = filesWithCommands
+        + QStringList{QStringLiteral("bin/quillbay"), QStringLiteral("libexec/quillbay-counting-service"),
+            QStringLiteral("libexec/quillbay-service-provider"),
+            QStringLiteral("share/dbus-1/interfaces/com.quillbay.ServiceProvider.xml"),
+            QStringLiteral("share/icons/hicolor/scalable/apps/com.quillbay.Quillbay.svg"),
+            QStringLiteral("share/icons/hicolor/symbolic/apps/com.quillbay.Quillbay-symbolic.svg")};
+    QStringList installed = filesBelow(prefix());
+    expected.sort();
+    installed.sort();
+    EXPECT_EQ(installed, expected);
+}
+
+TEST_F(Install, NamesTheProgramsWhereverItIsInstalled)
+{
+    install({"--prefix", QFile::encodeName(prefix())});
+    for (const QString &file : filesWithCommands) {
+        const QStringList commands = commandsIn(prefix() + u'/' + file);
+        EXPECT_FALSE(commands.isEmpty()) << file.toStdString();
+        for (const QString &command : commands) {
+            EXPECT_THAT(programOf(command).toStdString(), StartsWith(prefix().toStdString()));
+            EXPECT_TRUE(QFileInfo(programOf(command)).isExecutable()) << command.toStdString();
+        }
+    }
+}
+
+TEST_F(Install, IntoTheRootOfAPackageNamesTheProgramsWhereTheyWillLie)
+{
+    const QString root = world().root() + QStringLiteral("/package");
+    install({"--prefix", "/opt/quill bay"}, QFile::encodeName(root));
+    const QString installed = root + QStringLiteral("/opt/quill bay/");
+    EXPECT_TRUE(QFileInfo::exists(installed + QStringLiteral("bin/quillbay")));
+    EXPECT_EQ(commandsIn(installed + filesWithCommands[0])[0],
+        QStringLiteral("\"/opt/quill bay/bin/quillbay\" selection"));
+}
+
+TEST_F(Install, HasAValidDesktopFileWhoseCommandsAreAllTheCommandQuillbay)
+{
+    install({"--prefix", QFile::encodeName(prefix())});
+    const ChildProcess::Outcome outcome =
+        ChildProcess(QStringLiteral(DESKTOP_FILE_VALIDATE)).run({QFile::encodeName(desktopFile())});
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.output + outcome.errors, QByteArray());
+    const QString command = u'"' + prefix() + QStringLiteral("/bin/quillbay\" ");
+    EXPECT_THAT(commandsIn(desktopFile()),
+        UnorderedElementsAre(command + QStringLiteral("selection"), command + QStringLiteral("selection"),
+            command + QStringLiteral("selection --clipboard")));
+}
+
+TEST_F(Install, HasIconsThatAreWellFormed)
+{
+    install({"--prefix", QFile::encodeName(prefix())});
+    EXPECT_TRUE(readFile(desktopFile()).contains("\nIcon=com.quillbay.Quillbay\n"));
+    for (const QString &name : filesBelow(prefix()).filter(QStringLiteral(".svg"))) {
+        QXmlStreamReader icon(readFile(prefix() + u'/' + name));
+        EXPECT_TRUE(icon.readNextStartElement());
+        EXPECT_EQ(icon.name(), QStringLiteral("svg"));
+        while (!icon.atEnd())
+            icon.readNext();
+        EXPECT_EQ(icon.errorString(), QString()) << name.toStdString();
+    }
+}
+
+TEST_F(Install, OpensAWindowForTheSelectedText)
+{
+    SessionBus::start();
+    TestDisplay::start();
+    install({"--prefix", QFile::encodeName(prefix())});
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    // The bus itself looks at the times of the files, in seconds.
+    bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("ReloadConfig")));
+    const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "One sentence of five words."}});
+    const ChildProcess::Outcome outcome =
+        ChildProcess(prefix() + QStringLiteral("/bin/quillbay")).run({"selection"});
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.errors, QByteArray());
+    const QString service = QStringLiteral("com.quillbay.ServiceProvider");
+    const uint provider = bus.interface()->servicePid(service);
+    EXPECT_EQ(QFileInfo(QStringLiteral("/proc/%1/exe").arg(provider)).symLinkTarget(),
+        prefix() + QStringLiteral("/libexec/quillbay-service-provider"));
+    // The window has the focus; Escape closes it, and the program leaves with its last window.
+    EXPECT_TRUE(waitUntil([&] {
+        TestDisplay::xdotool({QStringLiteral("key"), QStringLiteral("Escape")});
+        return !bus.interface()->isServiceRegistered(service);
+    }));
+}
