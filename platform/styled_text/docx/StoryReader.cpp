@@ -107,7 +107,8 @@ void StoryReader::endElement(XmlName name)
         if (mode() == Mode::Text)
             endText();
         m_scopes.pop_back();
-    } else if (name.space == XmlSpace::Word && m_assembler.isInStory()) {
+    } else if (mode() == Mode::Content && name.space == XmlSpace::Word && m_assembler.isInStory()) {
+        // What stands within a text or within properties has not begun as a block.
         endBlock(name.tag);
     }
     if (!m_states.empty() && state().depth == m_depth)

@@ -146,6 +146,15 @@ TEST(DocxText, ReadsAParagraphThatStandsWhereNoneBelongs)
         QStringLiteral("outer on\ninner\n"));
 }
 
+TEST(DocxText, LeavesBlocksWithinTextsAndPropertiesAside)
+{
+    EXPECT_EQ(
+        textOfBody("<w:p><w:pPr><w:p/><w:rPr><w:p/></w:rPr></w:pPr><w:r><w:rPr><w:p/></w:rPr><w:t>a<w:p>"
+            + run("b") + "</w:p>c</w:t></w:r>" + run("d") + "</w:p><w:tbl><w:tblPr><w:tbl/></w:tblPr><w:tr>"
+            + "<w:trPr><w:tr/></w:trPr>" + cell(textParagraph("e"), "<w:tc/><w:p/>") + "</w:tr></w:tbl>"),
+        QStringLiteral("abcd\ne\n"));
+}
+
 TEST(DocxText, SurvivesTablesAndBodiesWhereNoneBelong)
 {
     EXPECT_EQ(textOfBody("<w:p><w:tc/><w:tr/><w:tbl/><w:body/>" + run("a") + "</w:p><w:tc>" + run("b")
