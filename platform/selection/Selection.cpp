@@ -105,7 +105,7 @@ Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, qui
     Transfer transfer(
         display.connection(), name == SelectionName::Primary ? "PRIMARY" : "CLIPBOARD", largest);
     if (!transfer.hasOwner())
-        return Cause::NothingSelected;
+        return qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? Cause::NothingShown : Cause::NothingSelected;
     return Reading(content, transfer).run();
 }
 
@@ -136,6 +136,11 @@ QString causeText(const SelectionFailure &failure)
             .arg(what);
     case Cause::NothingSelected:
         return isClipboard ? QStringLiteral("the clipboard is empty") : QStringLiteral("nothing is selected");
+    case Cause::NothingShown:
+        return QStringLiteral("%1, or the desktop does not show it to X11 programs; "
+                              "'quillbay selection --help' tells another way")
+            .arg(isClipboard ? QStringLiteral("the clipboard is empty")
+                             : QStringLiteral("nothing is selected"));
     case Cause::OtherContent:
         return QStringLiteral("%1 holds no %2")
             .arg(what,

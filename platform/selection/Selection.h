@@ -18,6 +18,7 @@ struct SelectionFailure {
     enum class Cause {
         NoDisplay,
         NothingSelected,
+        NothingShown, ///< nothing is selected, or a Wayland compositor does not show it to X clients
         OtherContent, ///< there is something, but in no form of that content
         Refused, ///< the owner does not say which forms it has, and hands none over
         NoAnswer, ///< of the owner, for two seconds, or in the middle of its answer

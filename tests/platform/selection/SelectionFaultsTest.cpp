@@ -85,12 +85,21 @@ TEST_F(SelectionFaults, WithoutADisplayThatIsSaid)
     qputenv("DISPLAY", display);
 }
 
+TEST_F(SelectionFaults, UnderAWaylandCompositorASelectionMayBeHidden)
+{
+    qputenv("WAYLAND_DISPLAY", "wayland-0");
+    EXPECT_EQ(failureOf(read()), Cause::NothingShown);
+    const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", ""}});
+    EXPECT_EQ(failureOf(read()), Cause::NothingSelected);
+}
+
 TEST_F(SelectionFaults, EveryCauseHasASentenceOfItsOwn)
 {
     QStringList texts;
     for (const SelectionName name : {SelectionName::Primary, SelectionName::Clipboard}) {
-        for (const Cause cause : {Cause::NoDisplay, Cause::NothingSelected, Cause::OtherContent,
-                 Cause::Refused, Cause::NoAnswer, Cause::TooLarge, Cause::NotEnoughMemory})
+        for (const Cause cause :
+            {Cause::NoDisplay, Cause::NothingSelected, Cause::NothingShown, Cause::OtherContent,
+                Cause::Refused, Cause::NoAnswer, Cause::TooLarge, Cause::NotEnoughMemory})
             texts.append(causeText({cause, name, SelectionContent::Text}));
     }
     EXPECT_EQ(texts.removeDuplicates(), 0);
