@@ -5,6 +5,7 @@
 #include "command/CountCommand.h"
 #include "command/SelectionCommand.h"
 #include "command/TextCommand.h"
+#include "command/WatchCommand.h"
 
 #include <QCoreApplication>
 
@@ -21,6 +22,7 @@ Commands:
   count      the counts of files or of standard input
   selection  the counts of the selected text of any application, in a window
   text       the counts of one file or of a pipe, in a window
+  watch      the counts of files after every save, in windows
 
 Options:
   -h, --help  show this and leave
@@ -48,6 +50,7 @@ constexpr Command commands[] = {
     {"count", runCountCommand},
     {"selection", runSelectionCommand},
     {"text", runTextCommand},
+    {"watch", runWatchCommand},
 };
 
 } // namespace
