@@ -36,8 +36,9 @@ const char *CountArguments::helpText()
                       [--files-from LIST] [FILE…]
 
 Counts words, characters, sentences, lines on your paper, hard line breaks,
-paragraphs and indented paragraphs of each FILE, under your preferences. Reads
-standard input where FILE is - or where no file is named at all.
+paragraphs and indented paragraphs of each FILE, under your preferences: plain
+text, RTF, RTFD, web pages, Word documents and PDF files. Reads standard input
+where FILE is - or where no file is named at all.
 
   --json             one JSON object a line for each file
   --tsv              tab-separated columns, the first line naming them

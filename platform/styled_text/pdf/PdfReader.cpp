@@ -164,7 +164,7 @@ std::optional<PdfError> failureOf(int status)
             code >= firstError && code <= firstError + static_cast<int>(PdfError::NotEnoughMemory);
         return isError ? static_cast<PdfError>(code - firstError) : PdfError::Damaged;
     }
-    // Where memory runs out, Qt Pdf ends its process in one of several ways, but never by a wrong address.
+    // Where memory runs out, Qt Pdf ends its process on purpose, in one of several ways.
     const int signal = WTERMSIG(status);
     return signal == SIGSEGV || signal == SIGBUS || signal == SIGFPE ? PdfError::Damaged
                                                                      : PdfError::TooIntricate;
