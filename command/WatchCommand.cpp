@@ -4,6 +4,8 @@
 #include "command/CommandWords.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
+#include "platform/selection/Selection.h"
+#include "platform/services/PasteboardWire.h"
 
 #include <cerrno>
 #include <cstring>
@@ -13,14 +15,18 @@
 
 namespace {
 
+constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
+
 constexpr char helpText[] = R"(Usage: quillbay watch FILE…
+       quillbay watch --clipboard
 
 Opens a small window for each FILE, whose counts follow every save, or brings
 forward the window that FILE has. Watches text, RTF and RTFD, web pages and Word
 documents; other files are passed over. A failure is told in a notification of
 the desktop as well as on standard error.
 
-  -h, --help  show this and leave
+  --clipboard  the files that were copied last in a file manager
+  -h, --help   show this and leave
 
 Exit status: 0 once the windows are there, 1 if a FILE does not exist or none can
 be watched, 2 for wrong usage.
@@ -56,15 +62,25 @@ QByteArray listOfFiles(const QByteArrayList &names, bool &isComplete)
     return list;
 }
 
+int send(const Pasteboard &pasteboard)
+{
+    return sendServiceRequest(QStringLiteral("watchTheTextFileService"), pasteboard, report);
+}
+
+int watchCopiedFiles()
+{
+    const Result<Pasteboard, SelectionFailure> files =
+        readSelection(SelectionName::Clipboard, SelectionContent::Files, PasteboardWire::largestPasteboard);
+    return files ? send(files.value()) : tellFailure(causeText(files.error()), report);
+}
+
 int watch(const QByteArrayList &names)
 {
     bool isComplete = true;
     const QByteArray list = listOfFiles(names, isComplete);
     if (list.isEmpty())
         return 1;
-    const int status = sendServiceRequest(QStringLiteral("watchTheTextFileService"),
-        Pasteboard({{QString::fromUtf16(Pasteboard::urlListType), list}}),
-        FailureReport::StandardErrorAndNotification);
+    const int status = send(Pasteboard({{QString::fromUtf16(Pasteboard::urlListType), list}}));
     return isComplete ? status : 1;
 }
 
@@ -72,12 +88,14 @@ int watch(const QByteArrayList &names)
 
 int runWatchCommand(int wordCount, char **words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse("watch", {}, wordCount, words);
+    const std::optional<CommandWords> wanted = CommandWords::parse("watch", {"clipboard"}, wordCount, words);
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
         return printed(helpText);
-    if (wanted->operands.isEmpty())
-        return tellWrongUsage("watch", "no file named");
-    return watch(wanted->operands);
+    const bool fromClipboard = wanted->switches.contains("clipboard");
+    if (wanted->operands.isEmpty() != fromClipboard)
+        return tellWrongUsage(
+            "watch", fromClipboard ? "either --clipboard or files, not both" : "no file named");
+    return fromClipboard ? watchCopiedFiles() : watch(wanted->operands);
 }

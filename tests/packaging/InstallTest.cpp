@@ -60,13 +60,14 @@ protected:
         return command.startsWith(u'"') ? command.section(u'"', 1, 1) : command.section(u' ', 0, 0);
     }
 
-    static QString desktopFile()
+    static QString desktopFile(const QString &name = QStringLiteral("Quillbay"))
     {
-        return prefix() + QStringLiteral("/share/applications/com.quillbay.Quillbay.desktop");
+        return prefix() + QStringLiteral("/share/applications/com.quillbay.%1.desktop").arg(name);
     }
 };
 
 const QStringList filesWithCommands{QStringLiteral("share/applications/com.quillbay.Quillbay.desktop"),
+    QStringLiteral("share/applications/com.quillbay.Watch.desktop"),
     QStringLiteral("share/dbus-1/services/Brisklane.QBYServiceProviderXPC.service"),
     QStringLiteral("share/dbus-1/services/com.quillbay.ServiceProvider.service"),
     QStringLiteral("share/systemd/user/quillbay-counting-service.service")};
@@ -111,17 +112,22 @@ TEST_F(Install, IntoTheRootOfAPackageNamesTheProgramsWhereTheyWillLie)
         QStringLiteral("\"/opt/quill bay/bin/quillbay\" selection"));
 }
 
-TEST_F(Install, HasAValidDesktopFileWhoseCommandsAreAllTheCommandQuillbay)
+TEST_F(Install, HasValidDesktopFilesWhoseCommandsAreAllTheCommandQuillbay)
 {
     install({"--prefix", QFile::encodeName(prefix())});
-    const ChildProcess::Outcome outcome =
-        ChildProcess(QStringLiteral(DESKTOP_FILE_VALIDATE)).run({QFile::encodeName(desktopFile())});
-    EXPECT_EQ(outcome.exitStatus, 0);
-    EXPECT_EQ(outcome.output + outcome.errors, QByteArray());
+    for (const QString &file : {desktopFile(), desktopFile(QStringLiteral("Watch"))}) {
+        const ChildProcess::Outcome outcome =
+            ChildProcess(QStringLiteral(DESKTOP_FILE_VALIDATE)).run({QFile::encodeName(file)});
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_EQ(outcome.output + outcome.errors, QByteArray());
+    }
     const QString command = u'"' + prefix() + QStringLiteral("/bin/quillbay\" ");
     EXPECT_THAT(commandsIn(desktopFile()),
         UnorderedElementsAre(command + QStringLiteral("selection"), command + QStringLiteral("selection"),
-            command + QStringLiteral("selection --clipboard")));
+            command + QStringLiteral("selection --clipboard"),
+            command + QStringLiteral("watch --clipboard")));
+    EXPECT_THAT(commandsIn(desktopFile(QStringLiteral("Watch"))),
+        UnorderedElementsAre(command + QStringLiteral("watch %F")));
 }
 
 TEST_F(Install, HasIconsThatAreWellFormed)

@@ -4,6 +4,7 @@
 #include "tests/watching/on_screen/WatchOnScreen.h"
 
 #include <QDir>
+#include <QMimeData>
 
 using ::testing::HasSubstr;
 
@@ -139,6 +140,23 @@ TEST_F(WatchWindowOnScreen, RelativePathsAndManyFilesAreWatched)
     waitForWindowsOf(1, QStringLiteral("second file.txt"));
     // ".." is left to the file system: another path, another watcher.
     waitForWindowsOf(2, QStringLiteral("novel.txt"));
+}
+
+TEST_F(WatchWindowOnScreen, FilesThatWereCopiedInAFileManagerAreWatched)
+{
+    ChildProcess::Outcome outcome = watch({"--clipboard", QFile::encodeName(m_novel)});
+    EXPECT_EQ(outcome.exitStatus, 2);
+    auto copied = std::make_unique<QMimeData>();
+    copied->setData(
+        QStringLiteral("x-special/gnome-copied-files"), "copy\n" + QUrl::fromLocalFile(m_novel).toEncoded());
+    QGuiApplication::clipboard()->setMimeData(copied.release());
+    // The files are asked of this process, which must serve its events.
+    QProcess command;
+    command.start(
+        productProgram(QStringLiteral("quillbay")), {QStringLiteral("watch"), QStringLiteral("--clipboard")});
+    EXPECT_TRUE(waitUntil([&] { return command.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(command.exitCode(), 0) << command.readAllStandardError().toStdString();
+    waitForWindowsOf(1, QStringLiteral("novel.txt"));
 }
 
 TEST_F(WatchWindowOnScreen, WhatCannotBeWatchedIsToldByTheCommand)
