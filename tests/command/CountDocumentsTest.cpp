@@ -4,6 +4,9 @@
 #include "tests/platform/styled_text/docx/PackageWriter.h"
 #include "tests/platform/styled_text/pdf/PdfWriter.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
@@ -37,6 +40,26 @@ TEST_F(CountDocumentsTest, AWordDocumentIsCountedByItsText)
         ElementsAre(QByteArrayList{"3", "15", "19", "2", "2", "2", "2", "1", name}));
     EXPECT_THAT(tableRows(count({}, wordDocument()).output),
         ElementsAre(QByteArrayList{"3", "15", "19", "2", "2", "2", "2", "1", "-"}));
+}
+
+TEST_F(CountDocumentsTest, AWordDocumentIsLaidOutInTheSizesOfItsStyles)
+{
+    const auto linesIn = [](const QByteArray &defaults, const QByteArray &style) {
+        const QByteArray text = QByteArray("Eels swim far. ").repeated(40);
+        const WordPackage document{
+            .body = "<w:p><w:pPr><w:pStyle w:val='S'/></w:pPr><w:r><w:t>" + text + "</w:t></w:r></w:p>",
+            .styles = "<w:docDefaults><w:rPrDefault><w:rPr>" + defaults
+                + "</w:rPr></w:rPrDefault></w:docDefaults><w:style w:type='paragraph' w:styleId='S'>" + style
+                + "</w:style>"};
+        const QByteArray json = count({"--json", file("styled.docx", document.bytes())}).output;
+        return QJsonDocument::fromJson(json).object().value(QStringLiteral("lines")).toInt();
+    };
+    const int small = linesIn("<w:sz w:val='20'/>", {});
+    EXPECT_GT(small, 3);
+    EXPECT_GT(linesIn("<w:sz w:val='40'/>", {}), small);
+    EXPECT_GT(linesIn("<w:sz w:val='20'/>", "<w:rPr><w:sz w:val='40'/></w:rPr>"), small);
+    EXPECT_GT(linesIn("<w:sz w:val='20'/>", "<w:pPr><w:ind w:left='4000'/></w:pPr>"), small);
+    EXPECT_EQ(linesIn("<w:sz w:val='40'/>", "<w:rPr><w:sz w:val='20'/></w:rPr>"), small);
 }
 
 TEST_F(CountDocumentsTest, APdfFileIsCountedByItsTextPageByPage)
