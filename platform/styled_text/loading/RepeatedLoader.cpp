@@ -2,9 +2,7 @@
 #include "platform/styled_text/loading/RepeatedLoader.h"
 
 #include "platform/files/FileContents.h"
-#include "platform/styled_text/loading/PackageDigest.h"
-
-#include <QCryptographicHash>
+#include "platform/styled_text/loading/PackageBytes.h"
 
 using LoadResult = Result<AttributedString, LoadError>;
 
@@ -23,37 +21,37 @@ LoadResult RepeatedLoader::loadFile(const QByteArray &path)
         forget();
         return documentFromFile(path, bytes);
     }
-    const QByteArray digest = QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256);
-    if (remembers(path, digest))
+    if (remembers(path, bytes))
         return m_text;
     LoadResult text = documentFromFile(path, bytes);
     if (text)
-        remember(path, digest, text.value());
+        remember(path, bytes, text.value());
     return text;
 }
 
 LoadResult RepeatedLoader::loadPackage(const QByteArray &path)
 {
-    const QByteArray digest = digestOfPackage(path, m_mostKept);
-    if (remembers(path, digest))
+    const std::optional<QByteArray> bytes = bytesOfPackage(path, m_mostKept);
+    if (bytes && remembers(path, *bytes))
         return m_text;
     forget();
     LoadResult text = loadDocument(path);
     // It may have changed between the two readings.
-    if (text && !digest.isEmpty() && digestOfPackage(path, m_mostKept) == digest)
-        remember(path, digest, text.value());
+    if (text && bytes && bytesOfPackage(path, m_mostKept) == bytes)
+        remember(path, *bytes, text.value());
     return text;
 }
 
-bool RepeatedLoader::remembers(const QByteArray &path, const QByteArray &digest) const
+bool RepeatedLoader::remembers(const QByteArray &path, const QByteArray &bytes) const
 {
-    return !m_digest.isEmpty() && digest == m_digest && path == m_path;
+    return m_remembers && path == m_path && bytes == m_bytes;
 }
 
-void RepeatedLoader::remember(const QByteArray &path, const QByteArray &digest, const AttributedString &text)
+void RepeatedLoader::remember(const QByteArray &path, const QByteArray &bytes, const AttributedString &text)
 {
+    m_remembers = true;
     m_path = path;
-    m_digest = digest;
+    m_bytes = bytes;
     m_text = text;
 }
 

@@ -8,13 +8,13 @@
 
 #include <QByteArray>
 
-/// Remembers the last text, and a cryptographic hash of the bytes: all bytes are read at every loading, and
-/// neither times nor sizes are relied on.
+/// Remembers the last text and the bytes that it was made of. All bytes are read at every loading; neither
+/// times nor sizes are relied on.
 class RepeatedLoader {
 public:
     /// Bytes, those of all files of a package together. The text of a larger document is not kept but made
     /// anew each time, so that memory stays bounded.
-    static constexpr qint64 largestKept = 32 * 1024 * 1024;
+    static constexpr qint64 largestKept = 16 * 1024 * 1024;
 
     explicit RepeatedLoader(qint64 mostKept = largestKept)
         : m_mostKept(mostKept)
@@ -29,11 +29,12 @@ public:
 private:
     Result<AttributedString, LoadError> loadFile(const QByteArray &path);
     Result<AttributedString, LoadError> loadPackage(const QByteArray &path);
-    [[nodiscard]] bool remembers(const QByteArray &path, const QByteArray &digest) const;
-    void remember(const QByteArray &path, const QByteArray &digest, const AttributedString &text);
+    [[nodiscard]] bool remembers(const QByteArray &path, const QByteArray &bytes) const;
+    void remember(const QByteArray &path, const QByteArray &bytes, const AttributedString &text);
 
     qint64 m_mostKept;
+    bool m_remembers = false;
     QByteArray m_path; // its name is part of what tells the kind
-    QByteArray m_digest; // empty while nothing is remembered
+    QByteArray m_bytes;
     AttributedString m_text;
 };

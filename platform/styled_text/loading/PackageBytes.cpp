@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/styled_text/loading/PackageDigest.h"
+#include "platform/styled_text/loading/PackageBytes.h"
 
 #include "platform/files/FileContents.h"
-
-#include <QCryptographicHash>
 
 #include <filesystem>
 #include <map>
@@ -30,36 +28,35 @@ std::optional<std::map<std::string, fs::path>> filesIn(const QByteArray &folder)
     return files;
 }
 
-void addField(QCryptographicHash &hash, const QByteArray &bytes)
+void addField(QByteArray &bytes, const QByteArray &field)
 {
-    hash.addData(QByteArray::number(bytes.size()) + ':');
-    hash.addData(bytes);
+    bytes += QByteArray::number(field.size()) + ':' + field;
 }
 
 } // namespace
 
-QByteArray digestOfPackage(const QByteArray &path, qint64 mostBytes)
+std::optional<QByteArray> bytesOfPackage(const QByteArray &path, qint64 mostBytes)
 {
     const auto files = filesIn(path);
     if (!files)
-        return {};
-    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+        return std::nullopt;
+    QByteArray bytes;
     FileLimits limits;
     limits.largestSize = mostBytes;
     for (const auto &[name, file] : *files) {
         std::error_code error;
-        addField(hash, QByteArray::fromStdString(name));
-        addField(hash, QByteArray::fromStdString(fs::canonical(file, error).native()));
+        addField(bytes, QByteArray::fromStdString(name));
+        addField(bytes, QByteArray::fromStdString(fs::canonical(file, error).native()));
         const Result<QByteArray, FileError> contents =
             readFile(QByteArray::fromStdString(file.native()), limits);
         if (contents) {
             limits.largestSize -= contents.value().size();
-            addField(hash, contents.value());
+            addField(bytes, contents.value());
         } else if (contents.error().cause == FileError::Cause::TooLarge) {
-            return {};
+            return std::nullopt;
         } else {
-            addField(hash, "-" + QByteArray::number(static_cast<int>(contents.error().cause)));
+            bytes += '-' + QByteArray::number(static_cast<int>(contents.error().cause)) + ';';
         }
     }
-    return hash.result();
+    return bytes;
 }
