@@ -117,6 +117,8 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
         return;
     }
     const Result<AttributedString, LoadError> text = m_loader.load(QFile::encodeName(url.toLocalFile()));
+    if (!text && m_coordinator && m_coordinator->triesAgain())
+        return;
     if (!text) {
         watchLog().error(u"failed to load attributed string for file at {}. Error {}",
             {publicly(m_presentedItemURL.toString()), publicly(causeText(text.error()))});
@@ -129,7 +131,10 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
 
 void WatchTextFileModel::_reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl &url)
 {
-    if (!QFile::exists(url.toLocalFile())) {
+    const bool exists = QFile::exists(url.toLocalFile());
+    if (!exists && m_coordinator && m_coordinator->triesAgain())
+        return;
+    if (!exists) {
         watchLog().error(u"nil QBYDocxMetaData....");
         failToLoad();
         return;

@@ -42,18 +42,36 @@ std::optional<CoordinationError> CoordinatedAccess::read(
 std::optional<CoordinationError> CoordinatedAccess::readInTurn(
     const QUrl &url, const QByteArray &path, const FileCoordinator::Accessor &accessor)
 {
-    for (int reads = 0; reads < mostReads && !m_isAbandoned; ++reads) {
+    m_read = {path, {}, {}, false};
+    for (int reads = 0; reads < mostReads && !m_isAbandoned;) {
         if (waitForTurn(path) == Obstacle::Lock)
             return refuseForLock();
         if (m_isAbandoned)
             return std::nullopt;
-        const std::optional<FileState> before = fileStateAt(path);
-        m_wasEmpty = before && before->size == 0;
+        m_read.before = fileStateAt(path);
+        m_read.isToBeRepeated = false;
+        m_wasEmpty = m_read.before && m_read.before->size == 0;
         accessor(url);
-        if (isUnchanged(before, fileStateAt(path)))
+        if (m_read.isToBeRepeated) {
+            m_clock.pause(betweenLooks);
+            continue;
+        }
+        if (isUnchanged(m_read.before, fileStateAt(path)))
             return std::nullopt;
+        ++reads;
     }
     return std::nullopt;
+}
+
+bool CoordinatedAccess::triesAgain()
+{
+    if (m_isAbandoned || !m_isUnderWay)
+        return false;
+    if (!m_read.failingSince)
+        m_read.failingSince = m_clock.now();
+    const bool isMissing = !m_read.before && !fileStateAt(m_read.path); // and has been waited for
+    m_read.isToBeRepeated = !isMissing && m_clock.now() - *m_read.failingSince < ChangePolicy::grace;
+    return m_read.isToBeRepeated;
 }
 
 std::optional<CoordinationError> CoordinatedAccess::write(

@@ -6,6 +6,7 @@
 
 #include "platform/file_coordination/Clock.h"
 #include "platform/file_coordination/FileCoordinator.h"
+#include "platform/file_coordination/FileState.h"
 #include "platform/file_coordination/Relinquishment.h"
 
 class CoordinatedAccess {
@@ -19,10 +20,20 @@ public:
     std::optional<CoordinationError> read(const QUrl &url, const FileCoordinator::Accessor &accessor);
     std::optional<CoordinationError> write(const QUrl &url, const FileCoordinator::Accessor &accessor);
 
+    /// See FileCoordinator.
+    bool triesAgain();
+
     /// The access under way ends without calling its accessor again.
     void abandon() { m_isAbandoned = true; }
 
 private:
+    /// One read of readInTurn().
+    struct Read {
+        QByteArray path;
+        std::optional<FileState> before;
+        std::optional<Clock::Time> failingSince;
+        bool isToBeRepeated = false;
+    };
     enum class Obstacle { None, Missing, Empty, Lock };
 
     std::optional<CoordinationError> readInTurn(
@@ -38,4 +49,5 @@ private:
     bool m_isUnderWay = false;
     bool m_isAbandoned = false;
     bool m_wasEmpty = false; // and stayed so
+    Read m_read;
 };

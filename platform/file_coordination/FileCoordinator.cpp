@@ -36,6 +36,11 @@ std::optional<CoordinationError> FileCoordinator::coordinateReadingItemAtURL(
     return access->read(url, byAccessor);
 }
 
+bool FileCoordinator::triesAgain()
+{
+    return m_access->triesAgain();
+}
+
 std::optional<CoordinationError> FileCoordinator::coordinateWritingItemAtURL(
     const QUrl &url, const Accessor &byAccessor)
 {

@@ -39,6 +39,10 @@ public:
     [[nodiscard]] std::optional<CoordinationError> coordinateReadingItemAtURL(
         const QUrl &url, const Accessor &byAccessor);
 
+    /// For the accessor of a read that could make no document of it: whether it will be called again a moment
+    /// later, as the file may be half saved. Not where there is no file, nor after half a second of that.
+    [[nodiscard]] bool triesAgain();
+
     /// Does not wait for locks: the writer takes its own.
     [[nodiscard]] std::optional<CoordinationError> coordinateWritingItemAtURL(
         const QUrl &url, const Accessor &byAccessor);

@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <cstdio>
+
 using ::testing::IsEmpty;
 
 class EverySaveTest : public WatchedFileTest, public ::testing::WithParamInterface<int> {
@@ -43,3 +45,10 @@ TEST_P(EverySaveTest, ComesThroughAsTheTextAndAsNothingElse)
 
 INSTANTIATE_TEST_SUITE_P(
     Modes, EverySaveTest, ::testing::Range(0, static_cast<int>(SaveModes::names().size())));
+
+TEST(SavesAtRandom, AHundredComeThroughWithoutAMistake)
+{
+    const ChildProcess::Outcome outcome = ChildProcess(testProgram(QStringLiteral("save_soak"))).run({"100"});
+    EXPECT_EQ(outcome.exitStatus, 0) << outcome.output.toStdString();
+    std::printf("%s", outcome.output.constData());
+}

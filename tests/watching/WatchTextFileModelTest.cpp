@@ -210,6 +210,31 @@ TEST_F(WatchTextFileModelTest, ADocumentThatHasGoneAtAReadIsADeletionToldOnce)
     }
 }
 
+TEST_F(WatchTextFileModelTest, WhatCannotBeLoadedWhileItIsBeingSavedIsNoFailure)
+{
+    const QString text = writeFile(QStringLiteral("f.rtfd/TXT.rtf"), "{\\rtf1 before}");
+    const auto model = watch(text.chopped(8));
+    ASSERT_TRUE(QFile::remove(text));
+    const auto rest =
+        m_clock.makeTimer([] { writeFile(QStringLiteral("f.rtfd/TXT.rtf"), "{\\rtf1 after}"); });
+    rest->start(200ms);
+    model->_nsTimerForceRead();
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text after")));
+    EXPECT_THAT(takeLog(), IsEmpty());
+    EXPECT_TRUE(model->isWatchingTextFile());
+}
+
+TEST_F(WatchTextFileModelTest, WhatStaysSoThatItCannotBeLoadedIsAFailure)
+{
+    const QString text = writeFile(QStringLiteral("f.rtfd/TXT.rtf"), "{\\rtf1 before}");
+    const auto model = watch(text.chopped(8));
+    ASSERT_TRUE(QFile::remove(text));
+    model->forceRead(nullptr);
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("failed")));
+    EXPECT_FALSE(model->isWatchingTextFile());
+    EXPECT_GE(m_clock.paused(), 500ms);
+}
+
 TEST_F(WatchTextFileModelTest, AMissingURLIsAFailure)
 {
     const auto model = watch(m_path);

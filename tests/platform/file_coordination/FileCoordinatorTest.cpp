@@ -201,6 +201,55 @@ TEST_F(FileCoordinatorTest, ReadsAgainWhatChangedWhileItWasRead)
     EXPECT_EQ(m_contents, QByteArray("after and longer"));
 }
 
+TEST_F(FileCoordinatorTest, AnAccessorThatFoundAFileHalfSavedIsCalledAgainAMomentLater)
+{
+    const QString aside = m_path + u'~';
+    const auto back = m_clock.makeTimer([&] { QFile::rename(aside, m_path); });
+    int calls = 0;
+    int missing = 0;
+    const auto access = [&](const QUrl &) {
+        if (++calls == 1) {
+            ASSERT_TRUE(QFile::rename(m_path, aside)); // gone since the coordinator last looked
+            back->start(100ms);
+        }
+        if (!QFile::exists(m_path)) {
+            ++missing;
+            EXPECT_TRUE(m_coordinator->triesAgain());
+        }
+    };
+    EXPECT_EQ(m_coordinator->coordinateReadingItemAtURL(m_url, access), m_granted);
+    EXPECT_EQ(missing, 1);
+    EXPECT_EQ(calls, 2);
+}
+
+TEST_F(FileCoordinatorTest, AnAccessorThatFailsIsCalledAgainForHalfASecond)
+{
+    int calls = 0;
+    bool isLast = false;
+    const auto access = [&](const QUrl &) {
+        EXPECT_FALSE(isLast);
+        ++calls;
+        isLast = !m_coordinator->triesAgain();
+    };
+    EXPECT_EQ(m_coordinator->coordinateReadingItemAtURL(m_url, access), m_granted);
+    EXPECT_TRUE(isLast);
+    EXPECT_GT(calls, 1);
+    EXPECT_EQ(m_clock.paused(), 500ms);
+    EXPECT_FALSE(m_coordinator->triesAgain()); // nothing is under way
+}
+
+TEST_F(FileCoordinatorTest, AnAccessorThatFailsForWantOfAFileIsNotCalledAgain)
+{
+    ASSERT_TRUE(QFile::remove(m_path));
+    int calls = 0;
+    const auto access = [&](const QUrl &) {
+        ++calls;
+        EXPECT_FALSE(m_coordinator->triesAgain());
+    };
+    EXPECT_EQ(m_coordinator->coordinateReadingItemAtURL(m_url, access), m_granted);
+    EXPECT_EQ(calls, 1);
+}
+
 TEST_F(FileCoordinatorTest, DoesNotReadForeverWhatNeverStops)
 {
     m_whileReading = [this] { write(QByteArray(m_reads, 'x')); };

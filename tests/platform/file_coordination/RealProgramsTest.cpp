@@ -214,10 +214,3 @@ TEST_P(RealProgramsTest, ASaveIsAChangeAndNothingElse)
 }
 
 INSTANTIATE_TEST_SUITE_P(Programs, RealProgramsTest, ::testing::ValuesIn(saves), nameOf);
-
-TEST(SavesAtRandom, AHundredAreToldWithoutAMistake)
-{
-    const ChildProcess::Outcome outcome = ChildProcess(testProgram(QStringLiteral("save_soak"))).run({"100"});
-    EXPECT_EQ(outcome.exitStatus, 0) << outcome.output.toStdString();
-    std::printf("%s", outcome.output.constData());
-}

@@ -6,7 +6,9 @@
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/file_coordination/RecordingPresenter.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <sched.h>
@@ -28,6 +30,11 @@ void allowNoInotify()
         ::_exit(unsupported);
     ::close(limit);
 }
+
+// Shell commands that mount $1 on $2 by FUSE, run $3 with the document there, and leave nothing mounted.
+constexpr char mounted[] =
+    "bindfs -o attr_timeout=0,entry_timeout=0,negative_timeout=0 \"$1\" \"$2\" || exit;"
+    "\"$3\" \"$2/f.txt\"; status=$?; umount \"$2\"; exit $status";
 
 } // namespace
 
@@ -63,6 +70,33 @@ TEST_F(UntoldChangesTest, WithoutInotifyThePresenterLooksEveryTwoSecondsAndLogsO
     const ChildProcess::Outcome outcome = presenter.finish();
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors.count('\n'), 2) << outcome.errors.toStdString(); // before and after the move
+}
+
+TEST_F(UntoldChangesTest, AFileOnAFuseFileSystemIsLookedAtEveryTwoSecondsWithOneLineInTheLog)
+{
+    const QByteArray folder = QFile::encodeName(QFileInfo(m_path).path());
+    const QByteArray mountPoint = QFile::encodeName(world().root()) + "/mount";
+    ASSERT_TRUE(QDir().mkdir(QFile::decodeName(mountPoint)));
+    const auto argumentsFor = [&](const QByteArray &program) {
+        return QByteArrayList{"--mount", "sh", "-c", mounted, "sh", folder, mountPoint, program};
+    };
+    if (ChildProcess(QStringLiteral("unshare")).run(argumentsFor("true")).exitStatus != 0)
+        GTEST_SKIP() << "no FUSE here";
+    ChildProcess presenter(QStringLiteral("unshare"));
+    presenter.start(argumentsFor(QFile::encodeName(testProgram(QStringLiteral("presenter")))));
+    const auto newsAfter = [&](const char *milliseconds) {
+        presenter.writeLine(milliseconds);
+        return presenter.readLine();
+    };
+    ASSERT_EQ(newsAfter("0"), QByteArray("."));
+    writeFile(QStringLiteral("f.txt"), "behind the back of the mounted file system");
+    EXPECT_EQ(newsAfter("1999"), QByteArray("."));
+    EXPECT_EQ(newsAfter("151"), QByteArray("changed."));
+    ASSERT_TRUE(QFile::remove(m_path));
+    EXPECT_EQ(newsAfter("2500"), QByteArray("deleted."));
+    const ChildProcess::Outcome outcome = presenter.finish();
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.toStdString();
 }
 
 TEST_F(UntoldChangesTest, FilesMadeUpByTheSystemAreLookedAt)

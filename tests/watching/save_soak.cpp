@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// save_soak COUNT [SEED]: has another process save a presented file that often, in modes, sizes and with
-// pauses chosen at random, and prints what the presenter made of it. Exit status 1 where it made a mistake:
-// it told a move or a deletion, or did not come to read what was saved last.
+// save_soak COUNT [SEED]: has another process save a watched document that often, in modes, sizes and with
+// pauses chosen at random, and prints what the model made of it. Exit status 1 where it made a mistake: it
+// told another name or a failure, or did not come to tell the text that was saved last.
 #include "tests/harness/ChildProcess.h"
 #include "tests/harness/TestHome.h"
 #include "tests/harness/WaitUntil.h"
-#include "tests/platform/file_coordination/RecordingPresenter.h"
 #include "tests/platform/file_coordination/SaveModes.h"
+#include "tests/watching/RecordingDelegate.h"
+#include "watching/WatchTextFileModel.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -19,11 +20,11 @@ namespace {
 class Soak {
 public:
     Soak(const QString &path, unsigned seed)
-        : m_presenter(path)
+        : m_model(QUrl::fromLocalFile(path), &m_delegate, m_activity)
         , m_random(seed)
     {
-        m_presenter.whenTold = [this] { count(); };
-        FileCoordinator::addFilePresenter(&m_presenter);
+        m_delegate.whenTold = [this] { count(); };
+        m_model.beginWatchingTextFile();
         m_saver.start({QFile::encodeName(path)});
     }
 
@@ -37,13 +38,13 @@ public:
             ++m_number;
             const int lines = chosen(0, 9) ? chosen(1, 50) : chosen(1000, 20'000);
             const int pause = chosen(0, 9) ? chosen(0, 1000) : chosen(0, 100'000); // microseconds
-            m_expected = (QByteArray::number(m_number) + '\n').repeated(lines);
+            m_expected = (QString::number(m_number) + u'\n').repeated(lines);
             m_saver.writeLine(
                 QStringLiteral("%1 %2:%3 %4").arg(mode).arg(m_number).arg(lines).arg(pause).toLatin1());
         }
         m_saves += saves;
-        if (!waitUntil([this] { return m_presenter.contents() == m_expected; }, std::chrono::seconds(5)))
-            report(QStringLiteral("save %1 (%2) was not read").arg(m_number).arg(mode));
+        if (!waitUntil([this] { return m_delegate.lastText().string() == m_expected; }))
+            report(QStringLiteral("save %1 (%2) did not come through").arg(m_number).arg(mode));
     }
 
     [[nodiscard]] int saves() const { return m_saves; }
@@ -57,24 +58,26 @@ private:
 
     void count()
     {
-        const QString news = m_presenter.takeNews().join(u',');
-        if (news != QStringLiteral("changed"))
-            report(QStringLiteral("told \"%1\" during save %2").arg(news).arg(m_number));
+        const QString message = m_delegate.takeMessages().constFirst();
+        if (!message.startsWith(QStringLiteral("text ")))
+            report(QStringLiteral("told \"%1\" during save %2").arg(message).arg(m_number));
         ++m_changes;
-        const QByteArray &contents = m_presenter.contents();
-        const QByteArray line = contents.first(contents.indexOf('\n') + 1);
-        m_partial += line.isEmpty() || line.repeated(contents.size() / line.size()) != contents;
+        const QString &text = m_delegate.lastText().string();
+        const QString line = text.first(text.indexOf(u'\n') + 1);
+        m_partial += line.isEmpty() || line.repeated(text.size() / line.size()) != text;
     }
 
     const QStringList m_modes = SaveModes::names();
-    RecordingPresenter m_presenter;
+    ApplicationActivity m_activity{true};
+    RecordingDelegate m_delegate;
+    WatchTextFileModel m_model;
     ChildProcess m_saver{testProgram(QStringLiteral("file_saver"))};
     std::mt19937 m_random;
-    QByteArray m_expected;
+    QString m_expected;
     int m_number = 0;
     int m_saves = 0;
     int m_changes = 0;
-    int m_partial = 0; // changes at which contents were read that were never saved
+    int m_partial = 0; // changes with a text that was never saved
     QStringList m_mistakes;
 };
 
@@ -95,8 +98,8 @@ int main(int argumentCount, char **arguments)
     while (soak.saves() < count)
         soak.saveOnce();
     QTextStream output(stdout);
-    output << soak.saves() << " saves, " << soak.changes() << " changes told, " << soak.partial()
-           << " of them read half-way, " << soak.mistakes().size() << " mistakes\n";
+    output << soak.saves() << " saves, " << soak.changes() << " texts told, " << soak.partial()
+           << " of them half saved, " << soak.mistakes().size() << " mistakes\n";
     for (const QString &mistake : soak.mistakes())
         output << mistake << '\n';
     return soak.mistakes().isEmpty() ? 0 : 1;
