@@ -19,16 +19,17 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// Only in a user namespace of its own can a process have other limits of inotify than the user.
-void allowNoInotify()
+/// Takes all of one kind of the system's means of inotify away, by its file in /proc/sys/user. Only in a
+/// user namespace of its own can a process have other limits than the user.
+void useUp(const char *limit)
 {
     constexpr int unsupported = 1;
     if (::unshare(CLONE_NEWUSER) != 0)
         ::_exit(unsupported);
-    const int limit = ::open("/proc/sys/user/max_inotify_instances", O_WRONLY);
-    if (limit < 0 || ::write(limit, "0", 1) != 1)
+    const int file = ::open(limit, O_WRONLY);
+    if (file < 0 || ::write(file, "0", 1) != 1)
         ::_exit(unsupported);
-    ::close(limit);
+    ::close(file);
 }
 
 // Shell commands that mount $1 on $2 by FUSE, run $3 with the document there, and leave nothing mounted.
@@ -43,12 +44,15 @@ protected:
     const QString m_path = writeFile(QStringLiteral("f.txt"), "before");
 };
 
-TEST_F(UntoldChangesTest, WithoutInotifyThePresenterLooksEveryTwoSecondsAndLogsOneLine)
+class UsedUpLimitTest : public UntoldChangesTest, public ::testing::WithParamInterface<const char *> { };
+
+TEST_P(UsedUpLimitTest, ThePresenterLooksEveryTwoSecondsAndLogsOneLine)
 {
-    if (ChildProcess(QStringLiteral("/bin/true")).afterFork(allowNoInotify).run({}).exitStatus != 0)
+    const auto useUpLimit = [limit = GetParam()] { useUp(limit); };
+    if (ChildProcess(QStringLiteral("/bin/true")).afterFork(useUpLimit).run({}).exitStatus != 0)
         GTEST_SKIP() << "no user namespaces here";
     ChildProcess presenter(testProgram(QStringLiteral("presenter")));
-    presenter.afterFork(allowNoInotify).start({QFile::encodeName(m_path)});
+    presenter.afterFork(useUpLimit).start({QFile::encodeName(m_path)});
     const auto newsAfter = [&](const char *milliseconds) {
         presenter.writeLine(milliseconds);
         return presenter.readLine();
@@ -71,6 +75,9 @@ TEST_F(UntoldChangesTest, WithoutInotifyThePresenterLooksEveryTwoSecondsAndLogsO
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors.count('\n'), 2) << outcome.errors.toStdString(); // before and after the move
 }
+
+INSTANTIATE_TEST_SUITE_P(Inotify, UsedUpLimitTest,
+    ::testing::Values("/proc/sys/user/max_inotify_instances", "/proc/sys/user/max_inotify_watches"));
 
 TEST_F(UntoldChangesTest, AFileOnAFuseFileSystemIsLookedAtEveryTwoSecondsWithOneLineInTheLog)
 {
