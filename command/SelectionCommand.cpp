@@ -15,9 +15,8 @@ application. Made for a shortcut of the keyboard: what goes wrong is told in a
 notification of the desktop as well as on standard error.
 
 Some Wayland desktops show selections to X11 programs, such as this one, only
-while one of those has the focus. There, bind the shortcut to
-
-  sh -c 'wl-paste --primary --no-newline | quillbay text'
+while one of those has the focus. There wl-paste is asked, if it is installed
+(package wl-clipboard).
 
   --clipboard  the text that was copied last instead
   -h, --help   show this and leave

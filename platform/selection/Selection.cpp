@@ -3,13 +3,14 @@
 
 #include "platform/selection/SelectionTargets.h"
 #include "platform/selection/SelectionTransfer.h"
+#include "platform/selection/WaylandPaste.h"
 
 #include <new>
 
 namespace {
 
 using Cause = SelectionFailure::Cause;
-using Transfer = SelectionTransfer;
+using Source = SelectionSource;
 
 class Display {
 public:
@@ -25,14 +26,14 @@ private:
     xcb_connection_t *m_connection = xcb_connect(nullptr, nullptr);
 };
 
-Cause causeOf(Transfer::Failure failure)
+Cause causeOf(Source::Failure failure)
 {
     switch (failure) {
-    case Transfer::Failure::Refused:
+    case Source::Failure::Refused:
         return Cause::Refused;
-    case Transfer::Failure::TooLarge:
+    case Source::Failure::TooLarge:
         return Cause::TooLarge;
-    case Transfer::Failure::NoAnswer:
+    case Source::Failure::NoAnswer:
         break;
     }
     return Cause::NoAnswer;
@@ -40,16 +41,16 @@ Cause causeOf(Transfer::Failure failure)
 
 class Reading {
 public:
-    Reading(SelectionContent content, Transfer &transfer)
+    Reading(SelectionContent content, Source &source)
         : m_content(content)
-        , m_transfer(transfer)
+        , m_source(source)
     {
     }
 
     Result<Pasteboard, Cause> run()
     {
-        const Result<QByteArrayList, Transfer::Failure> offered = m_transfer.targets();
-        if (!offered && offered.error() != Transfer::Failure::Refused)
+        const Result<QByteArrayList, Source::Failure> offered = m_source.targets();
+        if (!offered && offered.error() != Source::Failure::Refused)
             return causeOf(offered.error());
         const auto groups =
             SelectionTargets::wanted(m_content, offered ? std::optional(offered.value()) : std::nullopt);
@@ -69,8 +70,8 @@ private:
     std::optional<Cause> takeFirst(const QByteArrayList &targets)
     {
         for (const QByteArray &target : targets) {
-            Result<Transfer::Content, Transfer::Failure> content = m_transfer.convert(target);
-            if (!content && content.error() != Transfer::Failure::Refused)
+            Result<Source::Content, Source::Failure> content = m_source.convert(target);
+            if (!content && content.error() != Source::Failure::Refused)
                 return causeOf(content.error());
             if (content && add(target, std::move(content).value()))
                 break;
@@ -78,7 +79,7 @@ private:
         return std::nullopt;
     }
 
-    bool add(const QByteArray &target, Transfer::Content content)
+    bool add(const QByteArray &target, Source::Content content)
     {
         std::optional<SelectionTargets::Form> form =
             SelectionTargets::form(target, content.type, std::move(content.bytes));
@@ -92,21 +93,33 @@ private:
     }
 
     const SelectionContent m_content;
-    Transfer &m_transfer;
+    Source &m_source;
     Pasteboard::Forms m_forms;
     bool m_hasEmptyForm = false;
 };
 
-Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, quint64 largest)
+Result<Pasteboard, Cause> readFromXDisplay(SelectionName name, SelectionContent content, quint64 largest)
 {
     const Display display;
     if (!display.isThere())
         return Cause::NoDisplay;
-    Transfer transfer(
+    SelectionTransfer transfer(
         display.connection(), name == SelectionName::Primary ? "PRIMARY" : "CLIPBOARD", largest);
     if (!transfer.hasOwner())
         return qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? Cause::NothingShown : Cause::NothingSelected;
     return Reading(content, transfer).run();
+}
+
+Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, quint64 largest)
+{
+    Result<Pasteboard, Cause> pasteboard = readFromXDisplay(name, content, largest);
+    const bool mayBeElsewhere = !pasteboard
+        && (pasteboard.error() == Cause::NoDisplay || pasteboard.error() == Cause::NothingShown
+            || pasteboard.error() == Cause::Refused);
+    WaylandPaste paste(name, largest);
+    if (!mayBeElsewhere || !paste.isAvailable())
+        return pasteboard;
+    return paste.hasOwner() ? Reading(content, paste).run() : Cause::NothingSelected;
 }
 
 } // namespace
@@ -131,14 +144,13 @@ QString causeText(const SelectionFailure &failure)
     const QString what = isClipboard ? QStringLiteral("the clipboard") : QStringLiteral("the selection");
     switch (failure.cause) {
     case Cause::NoDisplay:
-        return QStringLiteral(
-            "there is no X display to take %1 from; 'quillbay text' takes a text from a pipe")
+        return QStringLiteral("there is no display to take %1 from; 'quillbay text' takes a text from a pipe")
             .arg(what);
     case Cause::NothingSelected:
         return isClipboard ? QStringLiteral("the clipboard is empty") : QStringLiteral("nothing is selected");
     case Cause::NothingShown:
         return QStringLiteral("%1, or the desktop does not show it to X11 programs; "
-                              "'quillbay selection --help' tells another way")
+                              "it would if wl-paste (package wl-clipboard) were installed")
             .arg(isClipboard ? QStringLiteral("the clipboard is empty")
                              : QStringLiteral("nothing is selected"));
     case Cause::OtherContent:
@@ -146,9 +158,7 @@ QString causeText(const SelectionFailure &failure)
             .arg(what,
                 failure.content == SelectionContent::Text ? QStringLiteral("text") : QStringLiteral("files"));
     case Cause::Refused:
-        return QStringLiteral("the desktop or the application does not hand %1 over; "
-                              "'quillbay text' takes a text from a pipe")
-            .arg(what);
+        return QStringLiteral("the application that has %1 does not hand it over").arg(what);
     case Cause::NoAnswer:
         return QStringLiteral("the application that has %1 does not answer").arg(what);
     case Cause::TooLarge:

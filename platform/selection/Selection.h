@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Selection is what the user has selected or copied in whatever application on the X display, Xwayland
-// included, read without a window or a toolkit of our own (ICCCM 2.0, chapter 2).
-// Thread: any.
+// Selection is what the user has selected or copied in whatever application, read without a window or a
+// toolkit of our own: from the X display, Xwayland included (ICCCM 2.0, chapter 2), or where the Wayland
+// compositor keeps it from X clients, by wl-paste(1) if that is installed. Thread: any.
 #pragma once
 
 #include "platform/base/Result.h"
@@ -18,7 +18,7 @@ struct SelectionFailure {
     enum class Cause {
         NoDisplay,
         NothingSelected,
-        NothingShown, ///< nothing is selected, or a Wayland compositor does not show it to X clients
+        NothingShown, ///< or the Wayland compositor keeps it from X clients, and there is no wl-paste
         OtherContent, ///< there is something, but in no form of that content
         Refused, ///< the owner does not say which forms it has, and hands none over
         NoAnswer, ///< of the owner, for two seconds, or in the middle of its answer

@@ -58,14 +58,14 @@ SelectionTransfer::~SelectionTransfer()
     xcb_flush(m_connection);
 }
 
-bool SelectionTransfer::hasOwner() const
+bool SelectionTransfer::hasOwner()
 {
     const auto reply = owned(xcb_get_selection_owner_reply(
         m_connection, xcb_get_selection_owner(m_connection, m_selection), nullptr));
     return reply && reply->owner != XCB_WINDOW_NONE;
 }
 
-Result<SelectionTransfer::Content, SelectionTransfer::Failure> SelectionTransfer::convert(
+Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::convert(
     const QByteArray &target)
 {
     const xcb_atom_t targetAtom = atom(target);
@@ -84,12 +84,13 @@ Result<SelectionTransfer::Content, SelectionTransfer::Failure> SelectionTransfer
     return content && content.value().type == "INCR" ? takePieces() : content;
 }
 
-Result<QByteArrayList, SelectionTransfer::Failure> SelectionTransfer::targets()
+Result<QByteArrayList, SelectionSource::Failure> SelectionTransfer::targets()
 {
     const Result<Content, Failure> content = convert("TARGETS");
     if (!content)
         return content.error();
-    if (content.value().format != 32)
+    // Some owners take it for the name of a text.
+    if (content.value().type != "ATOM" && content.value().type != "TARGETS")
         return Failure::Refused;
     return namesOf(content.value().bytes);
 }
@@ -148,7 +149,7 @@ SelectionTransfer::Event SelectionTransfer::nextEvent(const QDeadlineTimer &dead
 }
 
 /// Reads the property and deletes it, which tells the owner that we have it.
-Result<SelectionTransfer::Content, SelectionTransfer::Failure> SelectionTransfer::takeProperty()
+Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::takeProperty()
 {
     Content content;
     xcb_atom_t type = XCB_ATOM_NONE;
@@ -166,7 +167,6 @@ Result<SelectionTransfer::Content, SelectionTransfer::Failure> SelectionTransfer
         m_left -= length;
         content.bytes.append(
             static_cast<const char *>(xcb_get_property_value(reply.get())), static_cast<qsizetype>(length));
-        content.format = reply->format;
         type = reply->type;
         hasMore = reply->bytes_after > 0 && length > 0;
     }
@@ -176,7 +176,7 @@ Result<SelectionTransfer::Content, SelectionTransfer::Failure> SelectionTransfer
 }
 
 /// The property has said INCR, and is gone: each piece is put there when the one before has been taken away.
-Result<SelectionTransfer::Content, SelectionTransfer::Failure> SelectionTransfer::takePieces()
+Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::takePieces()
 {
     Content whole;
     for (;;) {

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
-// SelectionTransfer asks the owner of a selection for it in one form after the other, large ones in pieces
-// (ICCCM 2.7.2, INCR). Thread: one.  Owner: readSelection(). Used inside this folder only.
+// SelectionTransfer asks the owner of a selection on the X display for it, large contents in pieces (ICCCM
+// 2.7.2, INCR). Thread: one.  Owner: readSelection(). Used inside this folder only.
 #pragma once
 
-#include "platform/base/Result.h"
-
-#include <QByteArray>
-#include <QByteArrayList>
+#include "platform/selection/SelectionSource.h"
 
 #include <xcb/xcb.h>
 
@@ -16,29 +13,15 @@
 
 class QDeadlineTimer;
 
-class SelectionTransfer {
+class SelectionTransfer final : public SelectionSource {
 public:
-    enum class Failure {
-        Refused, ///< the owner does not have it in that form
-        NoAnswer, ///< for two seconds, or the display has gone
-        TooLarge,
-    };
-    struct Content {
-        QByteArray type; ///< the name of the property's type
-        int format = 0; ///< bits of an item; items of more than a byte are in this machine's order
-        QByteArray bytes;
-    };
-
     /// connection: outlives this. largest: bytes of all contents together.
     SelectionTransfer(xcb_connection_t *connection, const char *selection, quint64 largest);
-    SelectionTransfer(const SelectionTransfer &) = delete;
-    SelectionTransfer &operator=(const SelectionTransfer &) = delete;
-    ~SelectionTransfer();
+    ~SelectionTransfer() override;
 
-    [[nodiscard]] bool hasOwner() const;
-    Result<Content, Failure> convert(const QByteArray &target);
-    /// The names of the targets that the owner says to have: the first few hundred.
-    Result<QByteArrayList, Failure> targets();
+    [[nodiscard]] bool hasOwner() override;
+    Result<QByteArrayList, Failure> targets() override;
+    Result<Content, Failure> convert(const QByteArray &target) override;
 
 private:
     using Event = std::unique_ptr<xcb_generic_event_t, decltype(&std::free)>;

@@ -133,8 +133,8 @@ TEST_F(SelectionCommand, SaysWhereThereIsNoDisplay)
 {
     qunsetenv("DISPLAY");
     const auto [errors, notification] = failure({"selection"});
-    EXPECT_THAT(errors.toStdString(), HasSubstr("there is no X display"));
-    EXPECT_THAT(notification.toStdString(), HasSubstr("There is no X display"));
+    EXPECT_THAT(errors.toStdString(), HasSubstr("there is no display"));
+    EXPECT_THAT(notification.toStdString(), HasSubstr("There is no display"));
 }
 
 TEST_F(SelectionCommand, SaysWhatTheProviderSaysWordForWord)

@@ -85,14 +85,6 @@ TEST_F(SelectionFaults, WithoutADisplayThatIsSaid)
     qputenv("DISPLAY", display);
 }
 
-TEST_F(SelectionFaults, UnderAWaylandCompositorASelectionMayBeHidden)
-{
-    qputenv("WAYLAND_DISPLAY", "wayland-0");
-    EXPECT_EQ(failureOf(read()), Cause::NothingShown);
-    const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", ""}});
-    EXPECT_EQ(failureOf(read()), Cause::NothingSelected);
-}
-
 TEST_F(SelectionFaults, EveryCauseHasASentenceOfItsOwn)
 {
     QStringList texts;
