@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Shows the user a short notice in the way of his desktop (the Desktop Notifications Specification).
+// Shows the user a short notice in the way of his desktop (org.freedesktop.Notifications).
 // Thread: main.
 #pragma once
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// notification_server [silent]: the notification server of a desktop (Desktop Notifications Specification).
+// notification_server [silent]: the notification server of a desktop (org.freedesktop.Notifications).
 // Says "ready", and then a line for each notice: program|icon|summary|body. A silent one takes the name and
 // no notice.
 #include <QCoreApplication>
