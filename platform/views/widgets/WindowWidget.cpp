@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QShortcut>
@@ -22,6 +23,8 @@ namespace {
 
 // After a change by the program, the display may still report former places and sizes for a while.
 constexpr std::chrono::milliseconds settlingTime{300};
+
+constexpr float edgeOpacity = 0.25F;
 
 Qt::WindowFlags flagsOf(const Window &window)
 {
@@ -251,6 +254,19 @@ void WindowWidget::contextMenuEvent(QContextMenuEvent *event)
     action->setShortcut(QKeySequence::Copy);
     connect(action, &QAction::triggered, this, &WindowWidget::copy);
     menu->popup(event->globalPos());
+}
+
+void WindowWidget::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (!(windowFlags() & Qt::FramelessWindowHint))
+        return;
+    // A hair line in place of the window manager's frame: else the window has no edge on its own colour.
+    QPainter painter(this);
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(edgeOpacity);
+    painter.setPen(line);
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 void WindowWidget::copy()

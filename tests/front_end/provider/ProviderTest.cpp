@@ -138,7 +138,7 @@ void ProviderTest::press(const char *key)
 void ProviderTest::waitForNumbers(const QString &window)
 {
     // Below the title row there is nothing but the ground until then.
-    const QRect panel = rectOf(window).adjusted(0, 31, 0, 0);
+    const QRect panel = rectOf(window).adjusted(2, 31, -2, -2);
     EXPECT_TRUE(waitUntil([&] {
         const QImage image = takeScreenshot().copy(panel);
         const QRgb ground = image.pixel(0, 0);

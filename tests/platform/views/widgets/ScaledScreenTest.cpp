@@ -40,8 +40,9 @@ QPair<double, double> lineOnDisplay(const QRect &window, double scale)
     const int x = picture.width() * 19 / 20;
     int first = -1;
     int rows = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        if (picture.pixelColor(x - 2 * int(scale), y) == picture.pixelColor(x - 2 * int(scale), 0))
+    const int edge = 2 * int(scale); // of the window
+    for (int y = edge; y < picture.height() - edge; ++y) {
+        if (picture.pixelColor(x - 2 * int(scale), y) == picture.pixelColor(x - 2 * int(scale), edge))
             continue;
         first = rows++ == 0 ? y : first;
     }
