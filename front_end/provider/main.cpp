@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QIcon>
 
-#include <clocale>
 #include <cstdio>
 
 namespace {

@@ -2,8 +2,10 @@
 // How long the service provider stays.
 #include "platform/services/ServiceInterface.h"
 #include "tests/front_end/provider/ProviderTest.h"
+#include "tests/platform/notifications/PrivateBus.h"
 #include "tests/presentation/stats_panel/StatsPanel.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 
 namespace {
@@ -65,13 +67,36 @@ TEST_F(ProviderLife, GoesOnWithAWindowWhenALaterRequestIsRefused)
 
 TEST_F(ProviderLife, NoRequestIsLostWhileItLeaves)
 {
-    for (int i = 0; i < 10; ++i) {
+    // Each finds a provider that has just been left without anything to do.
+    for (int i = 0; i < 30; ++i) {
         EXPECT_EQ(ask(QStringLiteral("wordCountSelectedTextService"), Pasteboard()),
             QStringLiteral("Quillbay failed to read retrieve text."));
-        EXPECT_EQ(count(QStringLiteral("A text.")), QString());
     }
-    waitForWindows(10);
+    EXPECT_EQ(count(QStringLiteral("A text.")), QString());
+    waitForWindows(1);
     closeAll();
+}
+
+TEST_F(ProviderLife, EndsWithTheSessionBus)
+{
+    PrivateBus bus;
+    ChildProcess program(productProgram(QStringLiteral("quillbay-service-provider")));
+    program.withVariable("DBUS_SESSION_BUS_ADDRESS", bus.address());
+    program.withVariable("DISPLAY", TestDisplay::start().toLatin1());
+    program.start({});
+    QDBusConnection client =
+        QDBusConnection::connectToBus(QString::fromLatin1(bus.address()), QStringLiteral("bus-that-ends"));
+    EXPECT_TRUE(waitUntil(
+        [&] { return client.interface()->isServiceRegistered(ServiceInterface::busName()).value(); }));
+    QDBusMessage request =
+        QDBusMessage::createMethodCall(ServiceInterface::busName(), ServiceInterface::objectPath(),
+            ServiceInterface::interfaceName(), QStringLiteral("wordCountSelectedTextService"));
+    request.setArguments(
+        {QVariantMap{{QStringLiteral("text/plain"), QByteArray("A text.")}}, QString(), QVariantMap()});
+    EXPECT_EQ(client.call(request).type(), QDBusMessage::ReplyMessage);
+    QDBusConnection::disconnectFromBus(client.name());
+    bus.end();
+    EXPECT_EQ(program.finish().exitStatus, 0);
 }
 
 TEST(ProviderUsage, TakesNoArguments)
