@@ -36,7 +36,7 @@ struct Kind {
 };
 
 // The richest first.
-constexpr std::array kinds{
+const std::array kinds{
     Kind{{Pasteboard::flatRtfdType},
         [](const QByteArray &bytes, const QByteArray &) { return textOf(readFlatRtfd(bytes)); }},
     Kind{{Pasteboard::rtfType, u"application/rtf", u"text/richtext"},
@@ -101,7 +101,7 @@ std::optional<AttributedString> Pasteboard::readAttributedString() const
 
 QList<QUrl> Pasteboard::readFileURLs() const
 {
-    constexpr std::array readers{
+    const std::array readers{
         std::pair{QStringView(urlListType), &FileList::fromUriList},
         std::pair{QStringView(kdeFileListType), &FileList::fromUriList},
         std::pair{QStringView(gnomeFileListType), &FileList::fromGnomeFileList},
