@@ -27,6 +27,8 @@ void append32(QByteArray &bytes, quint32 number)
 /// Without the length that qCompress() puts in front and the header and checksum of zlib.
 QByteArray deflatedBytes(const QByteArray &bytes)
 {
+    if (bytes.isEmpty()) // which qCompress() leaves without a header
+        return QByteArray("\x03\0", 2);
     return qCompress(bytes, 6).sliced(6).chopped(4);
 }
 
