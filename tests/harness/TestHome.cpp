@@ -17,7 +17,8 @@ namespace {
 // Only these of the caller's variables reach a test, besides those of tests/README.md.
 const std::vector<QByteArray> keptVariables{"PATH", "TMPDIR", "LD_LIBRARY_PATH", "ASAN_OPTIONS",
     "LSAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS", "QUILLBAY_CORPORA", "QUILLBAY_SCREENSHOTS",
-    "GTEST_OUTPUT", "GTEST_COLOR", "GTEST_TOTAL_SHARDS", "GTEST_SHARD_INDEX"};
+    "QUILLBAY_SOAK_SAVES", "QUILLBAY_SOAK_SEED", "GTEST_OUTPUT", "GTEST_COLOR", "GTEST_TOTAL_SHARDS",
+    "GTEST_SHARD_INDEX"};
 
 void makeFolder(const QString &path, mode_t mode)
 {

@@ -92,7 +92,7 @@ private:
     void setUpWithMenuItem();
     void setUpWithoutMenuItem();
     void makeWindow(const QRectF &contentRect, const std::shared_ptr<WatchTextFileViewController> &panel);
-    void fitPanelToText(const Window &window, const std::shared_ptr<WatchTextFileViewController> &panel);
+    void serve(Window &window, const std::shared_ptr<WatchTextFileViewController> &panel);
     void showPopoverLater();
     void setTitleOfPanels(const QString &title);
 

@@ -64,7 +64,7 @@ void WatchTextFileMenuBarController::setUpWithMenuItem()
     m_watchTextFileViewControllerForPopover = panel;
     m_popover->setContentViewController(panel);
     m_popover->setDelegate(this);
-    fitPanelToText(*m_popover->window(), panel);
+    serve(*m_popover->window(), panel);
     showPopoverLater();
 }
 
@@ -98,18 +98,18 @@ void WatchTextFileMenuBarController::makeWindow(
     window->setClosesOnRequest(false);
     connect(
         window.get(), &Window::closeRequested, this, &WatchTextFileMenuBarController::windowCloseRequested);
-    const std::shared_ptr<WordCounterViewController> statistics = panel->wordCounterViewController();
-    window->setCopyProvider([statistics] { return statisticsToCopy(*statistics); });
-    fitPanelToText(*window, panel);
+    serve(*window, panel);
     m_detachableWindowForPopover = window;
     m_detachableWindowOnScreen = m_surroundings.desktop.putOnScreen(window);
 }
 
-/// Now and whenever texts take another size on the screen.
-void WatchTextFileMenuBarController::fitPanelToText(
-    const Window &window, const std::shared_ptr<WatchTextFileViewController> &panel)
+/// Has the statistics copied from the window, and fitted now and whenever texts take another size on the
+/// screen.
+void WatchTextFileMenuBarController::serve(
+    Window &window, const std::shared_ptr<WatchTextFileViewController> &panel)
 {
     const std::shared_ptr<WordCounterViewController> statistics = panel->wordCounterViewController();
+    window.setCopyProvider([statistics] { return statisticsToCopy(*statistics); });
     connect(&window, &Window::textMetricsDidChange, statistics.get(),
         [statistics = statistics.get()] { statistics->fitLabels(); });
     statistics->fitLabels();
@@ -122,6 +122,8 @@ void WatchTextFileMenuBarController::setTitleOfPanels(const QString &title)
         m_contentViewControllerForDetachableWindow->setTitle(title);
     if (m_detachableWindowForPopover)
         m_detachableWindowForPopover->setTitle(title); // for lists of windows and screen readers
+    if (m_popover)
+        m_popover->window()->setTitle(title);
     if (m_statusItem)
         m_statusItem->setToolTip(title);
 }

@@ -81,7 +81,7 @@ protected:
     /// Whether the window with the keyboard comes to show that many words.
     static bool shows(int words)
     {
-        const QRegularExpression line(QStringLiteral("-Words: %1\\b").arg(words));
+        const QRegularExpression line(QStringLiteral("-Word(s| Count): %1\\b").arg(words));
         QGuiApplication::clipboard()->clear();
         const bool found = waitUntil([&] {
             // First what the last key has copied: that is on its way when the key is.
