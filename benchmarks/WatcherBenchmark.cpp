@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+// Watchers with their windows and the real counting service: how long after a save the label shows its words;
+// what processor time a hundred watchers of 1 MB each take in a minute in which nothing changes, while the
+// application is active and while it is not; what memory one and a hundred take. Run it by
+//
+//     export XDG_DATA_DIRS=build/release/share:/usr/share
+//     xvfb-run dbus-run-session -- build/release/bin/watcher_benchmark [SAVES [SECONDS]]
+#include "platform/views/widgets/WidgetDesktop.h"
+#include "watching/watch_controller/WatchTextFileMenuBarController.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QSaveFile>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+/// Looks again whenever something has happened.
+template <typename Condition>
+void wait(const Condition &condition)
+{
+    while (!condition())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void pass(std::chrono::seconds duration)
+{
+    QEventLoop loop;
+    QTimer::singleShot(duration, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// Lines of twelve words of four letters.
+QByteArray textOf(qint64 words)
+{
+    QByteArray text =
+        QByteArray("word word word word word word word word word word word word\n").repeated(words / 12);
+    return text + QByteArray("word ").repeated(words % 12);
+}
+
+void save(const QString &path, const QByteArray &text)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        qFatal("cannot save %s", qPrintable(path));
+}
+
+double secondsOf(const timeval &time)
+{
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+}
+
+/// Of a process and the children that it has waited for.
+double processorSeconds(qint64 process)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray status = file.readAll();
+    const QByteArrayList rest = status.mid(status.lastIndexOf(')') + 2).split(' ');
+    double ticks = 0;
+    for (int field = 11; field <= 14; ++field)
+        ticks += rest.value(field).toDouble();
+    return ticks / static_cast<double>(sysconf(_SC_CLK_TCK));
+}
+
+/// Of this process, and of the counting service with its workers.
+struct ProcessorTime {
+    double own = 0;
+    double service = 0;
+
+    static ProcessorTime now()
+    {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        ProcessorTime time{secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime), 0};
+        const QDBusReply<uint> service =
+            QDBusConnection::sessionBus().interface()->servicePid(WordCounterServiceProtocol::serviceName());
+        if (!service.isValid())
+            return time;
+        time.service = processorSeconds(service.value());
+        QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(service.value()));
+        if (children.open(QIODevice::ReadOnly)) {
+            for (const QByteArray &child : children.readAll().split(' '))
+                time.service += child.isEmpty() ? 0 : processorSeconds(child.toLongLong());
+        }
+        return time;
+    }
+};
+
+double residentMegabytes()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+class Benchmark {
+public:
+    void measureSaves(qint64 size, int saves)
+    {
+        const QString path = m_folder.filePath(QStringLiteral("novel.txt"));
+        qint64 words = size / 5;
+        save(path, textOf(words));
+        const auto watcher = watch(path);
+        wait([&] { return shows(*watcher, words); });
+        std::vector<double> times;
+        for (int i = 0; i < saves; ++i) {
+            const QByteArray text = textOf(++words);
+            save(path, text);
+            QElapsedTimer timer;
+            timer.start();
+            wait([&] { return shows(*watcher, words); });
+            times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+            wait([&] { return !statisticsOf(*watcher).isAsyncCountOperationInProgress(); });
+        }
+        std::ranges::sort(times);
+        std::printf("%9lld bytes, %d saves: median %.0f ms, 99th of 100 %.0f ms, slowest %.0f ms\n",
+            static_cast<long long>(size), saves, times[times.size() / 2], times[times.size() * 98 / 100],
+            times.back());
+        std::fflush(stdout);
+    }
+
+    void measureIdle(int number, int seconds)
+    {
+        const double before = residentMegabytes();
+        std::vector<std::shared_ptr<WatchTextFileMenuBarController>> watchers;
+        const auto add = [&] {
+            const QString path = m_folder.filePath(QStringLiteral("chapter%1.txt").arg(watchers.size()));
+            save(path, textOf(200'000));
+            watchers.push_back(watch(path));
+        };
+        const auto allRest = [&] {
+            return std::ranges::none_of(watchers,
+                [](const auto &watcher) { return statisticsOf(*watcher).isAsyncCountOperationInProgress(); });
+        };
+        add();
+        wait(allRest);
+        const double withOne = residentMegabytes();
+        while (watchers.size() < static_cast<size_t>(number)) {
+            add();
+            wait(allRest);
+        }
+        std::printf("memory: %.0f MB without a watcher, %.0f with 1, %.0f with %d\n", before, withOne,
+            residentMegabytes(), number);
+        printProcessorTime("active", seconds);
+        m_activity.setActive(false);
+        printProcessorTime("not active, polling", seconds);
+        m_activity.setActive(true);
+        wait(allRest);
+        std::printf("memory behind that: %.0f MB\n", residentMegabytes());
+    }
+
+private:
+    std::shared_ptr<WatchTextFileMenuBarController> watch(const QString &path)
+    {
+        const auto watcher = WatchTextFileMenuBarController::initWithoutMenuItem(
+            {.desktop = m_desktop, .applicationActivity = m_activity});
+        watcher->watchWithTextFileURL(QUrl::fromLocalFile(path));
+        watcher->showWindow();
+        return watcher;
+    }
+    static WordCounterViewController &statisticsOf(const WatchTextFileMenuBarController &watcher)
+    {
+        return *watcher.watchTextFileViewControllerForPopover()->wordCounterViewController();
+    }
+    static bool shows(const WatchTextFileMenuBarController &watcher, qint64 words)
+    {
+        return statisticsOf(watcher).wordCountTextField()->stringValue()
+            == QStringLiteral("•Words: %1").arg(words);
+    }
+    static void printProcessorTime(const char *state, int seconds)
+    {
+        const ProcessorTime before = ProcessorTime::now();
+        pass(std::chrono::seconds(seconds));
+        const ProcessorTime after = ProcessorTime::now();
+        std::printf("%s, %d s: %.2f s of processor time here, %.2f s in the counting service\n", state,
+            seconds, after.own - before.own, after.service - before.service);
+        std::fflush(stdout);
+    }
+
+    QTemporaryDir m_folder;
+    WidgetDesktop m_desktop;
+    ApplicationActivity m_activity{true};
+};
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    const QApplication application(argumentCount, arguments);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QStringList words = QApplication::arguments();
+    const int saves = words.size() > 1 ? words[1].toInt() : 100;
+    const int seconds = words.size() > 2 ? words[2].toInt() : 60;
+    Benchmark benchmark;
+    for (const qint64 size : {10'000, 1'000'000, 10'000'000})
+        benchmark.measureSaves(size, saves);
+    benchmark.measureIdle(100, seconds);
+    return 0;
+}
