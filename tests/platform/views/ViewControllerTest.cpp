@@ -41,6 +41,16 @@ TEST(ViewController, AViewThatWasSetIsNotLoaded)
     EXPECT_EQ(controller.m_loads, 0);
 }
 
+TEST(ViewController, HasATitleOrNone)
+{
+    CountingController controller;
+    EXPECT_EQ(controller.title(), std::nullopt);
+    controller.setTitle(QStringLiteral("novel.txt"));
+    EXPECT_EQ(controller.title(), QStringLiteral("novel.txt"));
+    controller.setTitle(std::nullopt);
+    EXPECT_EQ(controller.title(), std::nullopt);
+}
+
 TEST(WindowController, KeepsItsWindowAlive)
 {
     WindowController controller;
