@@ -30,6 +30,8 @@
 
 namespace {
 
+constexpr std::chrono::milliseconds pauseBetweenSaves{250}; // longer than changes are gathered for
+
 /// Looks again whenever something has happened.
 template <typename Condition>
 void wait(const Condition &condition)
@@ -38,7 +40,7 @@ void wait(const Condition &condition)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-void pass(std::chrono::seconds duration)
+void pass(std::chrono::milliseconds duration)
 {
     QEventLoop loop;
     QTimer::singleShot(duration, &loop, &QEventLoop::quit);
@@ -129,6 +131,7 @@ public:
             wait([&] { return shows(*watcher, words); });
             times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
             wait([&] { return !statisticsOf(*watcher).isAsyncCountOperationInProgress(); });
+            pass(pauseBetweenSaves);
         }
         std::ranges::sort(times);
         std::printf("%9lld bytes, %d saves: median %.0f ms, 99th of 100 %.0f ms, slowest %.0f ms\n",

@@ -92,7 +92,10 @@ protected:
     {
         return panel.titleForFileBeingWatchedLabel()->stringValue();
     }
-    [[nodiscard]] static QString pathOf(const QString &name) { return world().root() + QStringLiteral("/files/") + name; }
+    [[nodiscard]] static QString pathOf(const QString &name)
+    {
+        return world().root() + QStringLiteral("/files/") + name;
+    }
 
     /// Has word counts spoken by a program that notes down its arguments.
     void speakInto(const QString &notes)
