@@ -5,6 +5,7 @@
 #include "platform/views/Popover.h"
 #include "presentation/common_views/ViewExtension.h"
 #include "presentation/common_views/WindowExtension.h"
+#include "presentation/stats_panel/PanelPlace.h"
 
 #include <cmath>
 
@@ -55,10 +56,7 @@ WatchTextFileViewController::~WatchTextFileViewController() = default;
 void WatchTextFileViewController::loadView()
 {
     const QString path = QStringLiteral(":/interface_files/WatchTextFileViewController.ui");
-    InterfaceMakers makers;
-    makers.add(
-        QStringLiteral("WordCounterViewController"), [this] { return m_wordCounterViewController->view(); });
-    const auto loaded = InterfaceFile::load(path, makers);
+    const auto loaded = InterfaceFile::load(path);
     if (!loaded)
         qFatal("%s", qPrintable(messageText(loaded.error())));
     const InterfaceFile &interface = loaded.value();
@@ -67,13 +65,7 @@ void WatchTextFileViewController::loadView()
     m_horizontalLine = outletOf<Box>(interface, "horizontalLine");
     m_closeButton = outletOf<Button>(interface, "closeButton");
     m_activityIndicator = outletOf<ProgressIndicator>(interface, "activityIndicator");
-    const auto policy =
-        interface.integerProperty(QStringLiteral("wordCounterView"), QStringLiteral("labelPositionPolicy"));
-    if (policy) {
-        m_wordCounterViewController->setLabelPositionPolicy(
-            static_cast<WordCounterLabelPositionPolicy>(*policy));
-        m_wordCounterViewController->repositionLabels();
-    }
+    PanelPlace::fill(interface, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
     setView(interface.rootView());
 }
 
