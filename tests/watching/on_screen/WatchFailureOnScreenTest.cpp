@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A watched file that is gone, as the user has it: the alert and the choice of another file.
 #include "tests/watching/on_screen/WatchOnScreen.h"
+#include "watching/speech/ApplicationExtension.h"
 
 namespace {
 
@@ -68,4 +69,21 @@ TEST_F(WatchFailureOnScreen, CancellingTheChoiceEndsTheWatcher)
     chooseAnother();
     press("Escape");
     waitForEnd(process);
+}
+
+TEST_F(WatchFailureOnScreen, ASpeechCommandThatIsMissingIsToldAndTheCountsGoOn)
+{
+    if (QFile::exists(QBYExtension::speechLaunchPath()))
+        GTEST_SKIP() << "the system has the command";
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch(); // which would set it back
+    QBYUserDefaultsController::setSayWordCountOutLoudOnSaveInWatchFileMode(true);
+    EXPECT_EQ(watch({QFile::encodeName(m_novel)}).exitStatus, 0);
+    const QString message = waitForWindows(1, alertTitle).value(0);
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == message; }));
+    saveScreenshot(QStringLiteral("watch-speech-failure"));
+    press("Return");
+    waitForWindows(0, alertTitle);
+    const QString window = waitForWindowsOf(1, QStringLiteral("novel.txt")).value(0);
+    click(window, 4, 60);
+    EXPECT_TRUE(shows(3));
 }
