@@ -56,3 +56,23 @@ TEST_F(StatusItemOnScreen, WithoutATrayThePopoverComesAllTheSame)
     clickStop(popover);
     EXPECT_EQ(m_host.finish().exitStatus, 0);
 }
+
+TEST_F(StatusItemOnScreen, ThePopoverIsDraggedOffIntoAWindowThatFollowsTheFile)
+{
+    const FakeTray tray;
+    m_host.start({QFile::encodeName(m_novel)});
+    const QString popover = onlyWindow();
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == popover; }));
+    EXPECT_TRUE(shows(3));
+    drag(popover, QPoint(10, 60));
+    EXPECT_TRUE(waitUntil([&] { return onlyWindow() != popover; }));
+    const QString window = onlyWindow();
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == window; }));
+    writeFile(QStringLiteral("novel.txt"), "Now it has five words.");
+    EXPECT_TRUE(shows(5));
+    saveScreenshot(QStringLiteral("watch-detached"));
+    EXPECT_TRUE(waitUntil([&] { return tray.items().size() == 1; }));
+    tray.click(tray.items().front());
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == popover; }));
+    EXPECT_EQ(windowsOf(QStringLiteral("novel.txt")), QStringList{popover});
+}

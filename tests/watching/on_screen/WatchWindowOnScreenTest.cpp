@@ -58,13 +58,7 @@ TEST_F(WatchWindowOnScreen, IsShownInTheMiddleAgainWhenAskedForAgain)
 {
     const QString window = open(m_novel, 3);
     const QRect middle = rectOf(window);
-    const QPoint start = middle.topLeft() + QPoint(10, 60);
-    TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(start.x()), QString::number(start.y()),
-        QStringLiteral("mousedown"), QStringLiteral("1")});
-    for (int i = 0; i < 12; ++i)
-        TestDisplay::xdotool({QStringLiteral("mousemove_relative"), QStringLiteral("--"),
-            QStringLiteral("10"), QStringLiteral("-5"), QStringLiteral("sleep"), QStringLiteral("0.02")});
-    TestDisplay::xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
+    drag(window, QPoint(10, 60));
     EXPECT_TRUE(waitUntil([&] { return rectOf(window).x() > middle.x() + 50; }));
     EXPECT_EQ(rectOf(window).size(), middle.size());
     EXPECT_EQ(watch({QFile::encodeName(m_novel)}).exitStatus, 0);
@@ -140,6 +134,21 @@ TEST_F(WatchWindowOnScreen, RelativePathsAndManyFilesAreWatched)
     waitForWindowsOf(1, QStringLiteral("second file.txt"));
     // ".." is left to the file system: another path, another watcher.
     waitForWindowsOf(2, QStringLiteral("novel.txt"));
+}
+
+TEST_F(WatchWindowOnScreen, AHundredFilesOpenAHundredWindows)
+{
+    QByteArrayList files;
+    for (int i = 1; i <= 100; ++i)
+        files.append(QFile::encodeName(writeFile(QStringLiteral("chapter%1.txt").arg(i), "One two three.")));
+    const ChildProcess::Outcome outcome = watch(files);
+    EXPECT_EQ(outcome.exitStatus, 0) << outcome.errors.toStdString();
+    waitForWindowsOf(100, QStringLiteral("chapter"));
+    const QString last = windowsOf(QStringLiteral("chapter100.txt")).value(0);
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == last; }));
+    EXPECT_TRUE(shows(3));
+    writeFile(QStringLiteral("chapter100.txt"), "Now it has five words.");
+    EXPECT_TRUE(shows(5));
 }
 
 TEST_F(WatchWindowOnScreen, FilesThatWereCopiedInAFileManagerAreWatched)
