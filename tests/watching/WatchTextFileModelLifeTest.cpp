@@ -161,6 +161,7 @@ TEST_F(WatchTextFileModelLifeTest, ABookmarkThatCannotBeResolvedIsLoggedAndNoneK
 
 TEST_F(WatchTextFileModelLifeTest, TheEndOfTheModelClosesTheAccessAndLogsNothing)
 {
+    makeModel(m_path); // from then on the MIME database keeps its cache open
     const qsizetype before = openDescriptors();
     auto model = watch(m_path);
     m_activity.setActive(false);
