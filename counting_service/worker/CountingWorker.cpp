@@ -80,6 +80,9 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
     const SealedMemory::MadeMemory memory = SealedMemory::received(descriptor, request.length);
     if (!memory)
         return CountFailure::NotReceived;
+    const QByteArray name = CountMemory::nameOf(request, memory.value().bytes());
+    if (const std::optional<QBYWordCounterStats> known = m_memory.countsOf(name))
+        return *known;
     const Result<AttributedString, CountFailure> text = readDocument(request.kind, memory.value().bytes());
     if (!text)
         return text.error();
@@ -91,5 +94,6 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
     const QBYWordCounterStats stats = m_model.statsRepresentation();
     // The text of one document does not lie about while the next is read.
     m_model.setAttributedStringToCount(std::nullopt);
+    m_memory.remember(name, stats);
     return stats;
 }

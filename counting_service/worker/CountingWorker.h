@@ -6,6 +6,7 @@
 
 #include "counting_service/protocol/WorkerMessages.h"
 #include "counting_service/sandbox/Sandbox.h"
+#include "counting_service/worker/CountMemory.h"
 #include "text_statistics/WordCounterModel.h"
 
 class CountingWorker {
@@ -29,4 +30,5 @@ private:
 
     CountingRules m_rules;
     WordCounterModel m_model;
+    CountMemory m_memory;
 };

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "counting_service/worker/CountMemory.h"
+
+#include <QCryptographicHash>
+
+QByteArray CountMemory::nameOf(const WorkerRequest &request, QByteArrayView document)
+{
+    WorkerRequest rules = request;
+    rules.number = 0;
+    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+    hash.addData(encoded(rules)); // the same length for every document under rules of the same length
+    hash.addData(document);
+    return hash.result();
+}
+
+std::optional<QBYWordCounterStats> CountMemory::countsOf(const QByteArray &name) const
+{
+    const QBYWordCounterStats *const counts = m_counts.object(name);
+    return counts ? std::optional(*counts) : std::nullopt;
+}
+
+void CountMemory::remember(const QByteArray &name, const QBYWordCounterStats &counts)
+{
+    m_counts.insert(name, new QBYWordCounterStats(counts));
+}
