@@ -44,7 +44,9 @@ public:
         }
         m_saves += saves;
         if (!waitUntil([this] { return m_delegate.lastText().string() == m_expected; }))
-            report(QStringLiteral("save %1 (%2) did not come through").arg(m_number).arg(mode));
+            report(QStringLiteral("save %1 (%2) did not come through; the last text told was of save %3")
+                       .arg(m_number)
+                       .arg(mode, m_delegate.lastText().string().section(u'\n', 0, 0)));
     }
 
     [[nodiscard]] int saves() const { return m_saves; }
