@@ -7,8 +7,6 @@
 #include "presentation/common_views/WindowExtension.h"
 #include "presentation/stats_panel/PanelPlace.h"
 
-#include <QtDebug>
-
 namespace {
 
 constexpr int fadeTime = 250; // milliseconds
@@ -35,15 +33,6 @@ void setFrame(const std::shared_ptr<View> &view, const QRectF &frame)
         view->setFrame(frame);
 }
 
-template <typename ViewClass>
-std::shared_ptr<ViewClass> required(const InterfaceFile &file, const char *name)
-{
-    const auto view = file.outlet<ViewClass>(QString::fromLatin1(name));
-    if (!view)
-        qFatal("%s", qPrintable(messageText(view.error())));
-    return view.value();
-}
-
 } // namespace
 
 QString QBYServiceProviderShowStatsWindowController::windowInterfaceFile()
@@ -64,14 +53,11 @@ void QBYServiceProviderShowStatsWindowController::loadWindow()
 {
     if (window())
         return;
-    const auto loaded = InterfaceFile::load(windowInterfaceFile());
-    if (!loaded)
-        qFatal("%s", qPrintable(messageText(loaded.error())));
-    const InterfaceFile &file = loaded.value();
-    m_activityIndicator = required<ProgressIndicator>(file, "activityIndicator");
-    m_titleLabel = required<Label>(file, "titleLabel");
-    m_closeButton = required<Button>(file, "closeButton");
-    m_lineSeparator = required<Box>(file, "lineSeparator");
+    const auto file = InterfaceFile::loadOwn(windowInterfaceFile());
+    m_activityIndicator = file.ownOutlet<ProgressIndicator>(QStringLiteral("activityIndicator"));
+    m_titleLabel = file.ownOutlet<Label>(QStringLiteral("titleLabel"));
+    m_closeButton = file.ownOutlet<Button>(QStringLiteral("closeButton"));
+    m_lineSeparator = file.ownOutlet<Box>(QStringLiteral("lineSeparator"));
 
     m_wordCounterViewController = std::make_shared<WordCounterViewController>();
     PanelPlace::fill(file, QStringLiteral("wordCounterView"), *m_wordCounterViewController);

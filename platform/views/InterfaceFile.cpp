@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 Result<InterfaceFile, InterfaceError> InterfaceFile::load(const QString &path, const InterfaceMakers &makers)
 {
     QFile file(path);
@@ -15,6 +17,19 @@ Result<InterfaceFile, InterfaceError> InterfaceFile::load(const QString &path, c
     if (file.error() != QFileDevice::NoError)
         return InterfaceError{InterfaceError::Cause::CannotBeRead, path, 0, file.errorString()};
     return parse(contents, path, makers);
+}
+
+InterfaceFile InterfaceFile::loadOwn(const QString &path)
+{
+    Result<InterfaceFile, InterfaceError> file = load(path);
+    if (!file)
+        endProcess(file.error());
+    return std::move(file).value();
+}
+
+void InterfaceFile::endProcess(const InterfaceError &error)
+{
+    qFatal("%s", qPrintable(messageText(error)));
 }
 
 Result<InterfaceFile, InterfaceError> InterfaceFile::parse(

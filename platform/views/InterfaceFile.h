@@ -31,6 +31,8 @@ public:
     /// nothing. Any other one that is a number, a boolean or a string is handed out by its name.
     static Result<InterfaceFile, InterfaceError> load(
         const QString &path, const InterfaceMakers &makers = InterfaceMakers());
+    /// For files that are a part of the program: the process ends where the file cannot be used.
+    static InterfaceFile loadOwn(const QString &path);
     /// file: the name that errors show.
     static Result<InterfaceFile, InterfaceError> parse(
         const QByteArray &contents, const QString &file, const InterfaceMakers &makers = InterfaceMakers());
@@ -49,6 +51,16 @@ public:
         return InterfaceError{InterfaceError::Cause::OutletOfOtherClass, m_file, place->line, name};
     }
 
+    /// For files that are a part of the program: the process ends where the file has no such view.
+    template <typename ViewClass>
+    std::shared_ptr<ViewClass> ownOutlet(const QString &name) const
+    {
+        const auto view = outlet<ViewClass>(name);
+        if (!view)
+            endProcess(view.error());
+        return view.value();
+    }
+
     /// A further property of the view with that object name; absent where the file gives it none of this name
     /// and kind.
     [[nodiscard]] std::optional<qint64> integerProperty(const QString &viewName, const QString &name) const;
@@ -64,6 +76,7 @@ private:
         QHash<QString, QVariant> properties = {};
     };
 
+    [[noreturn]] static void endProcess(const InterfaceError &error);
     template <typename Value>
     [[nodiscard]] std::optional<Value> property(const QString &viewName, const QString &name) const;
 

@@ -44,18 +44,11 @@ BaseWordCounterViewController::~BaseWordCounterViewController() = default;
 
 void BaseWordCounterViewController::loadView()
 {
-    const auto interface = InterfaceFile::load(m_interfaceFile);
-    if (!interface)
-        qFatal("%s", qPrintable(messageText(interface.error())));
-    for (size_t index = 0; index < numberOfLabels; ++index) {
-        const auto label = interface.value().outlet<Label>(QString(outletNames.at(index)));
-        if (!label)
-            qFatal("%s", qPrintable(messageText(label.error())));
-        m_outlets[index] = label.value();
-    }
-    const std::shared_ptr<View> &root = interface.value().rootView();
-    const auto policy =
-        interface.value().integerProperty(root->identifier(), QStringLiteral("labelPositionPolicy"));
+    const auto interface = InterfaceFile::loadOwn(m_interfaceFile);
+    for (size_t index = 0; index < numberOfLabels; ++index)
+        m_outlets[index] = interface.ownOutlet<Label>(QString(outletNames.at(index)));
+    const std::shared_ptr<View> &root = interface.rootView();
+    const auto policy = interface.integerProperty(root->identifier(), QStringLiteral("labelPositionPolicy"));
     if (policy)
         m_labelPositionPolicy = static_cast<WordCounterLabelPositionPolicy>(*policy);
     setView(root);

@@ -13,15 +13,6 @@ namespace {
 
 constexpr double roomBesideWidestLabel = 10; // points
 
-template <typename ViewClass>
-std::shared_ptr<ViewClass> outletOf(const InterfaceFile &interface, const char *name)
-{
-    const auto outlet = interface.outlet<ViewClass>(QString::fromLatin1(name));
-    if (!outlet)
-        qFatal("%s", qPrintable(messageText(outlet.error())));
-    return outlet.value();
-}
-
 QRectF frameOf(const std::shared_ptr<View> &view)
 {
     return view ? view->frame() : QRectF(0, 0, 0, 0);
@@ -55,16 +46,13 @@ WatchTextFileViewController::~WatchTextFileViewController() = default;
 
 void WatchTextFileViewController::loadView()
 {
-    const QString path = QStringLiteral(":/interface_files/WatchTextFileViewController.ui");
-    const auto loaded = InterfaceFile::load(path);
-    if (!loaded)
-        qFatal("%s", qPrintable(messageText(loaded.error())));
-    const InterfaceFile &interface = loaded.value();
-    m_titleLabel = outletOf<Label>(interface, "titleForFileBeingWatchedLabel");
-    m_stopButton = outletOf<Button>(interface, "stopButton");
-    m_horizontalLine = outletOf<Box>(interface, "horizontalLine");
-    m_closeButton = outletOf<Button>(interface, "closeButton");
-    m_activityIndicator = outletOf<ProgressIndicator>(interface, "activityIndicator");
+    const auto interface =
+        InterfaceFile::loadOwn(QStringLiteral(":/interface_files/WatchTextFileViewController.ui"));
+    m_titleLabel = interface.ownOutlet<Label>(QStringLiteral("titleForFileBeingWatchedLabel"));
+    m_stopButton = interface.ownOutlet<Button>(QStringLiteral("stopButton"));
+    m_horizontalLine = interface.ownOutlet<Box>(QStringLiteral("horizontalLine"));
+    m_closeButton = interface.ownOutlet<Button>(QStringLiteral("closeButton"));
+    m_activityIndicator = interface.ownOutlet<ProgressIndicator>(QStringLiteral("activityIndicator"));
     PanelPlace::fill(interface, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
     setView(interface.rootView());
 }
