@@ -60,7 +60,8 @@ public:
 
     /// Returns at once. The completion is called once, later, unless the program ends before.
     virtual void runAlert(const Alert &alert, AlertCompletion completion) = 0;
-    /// Tells the user of something that went wrong; there is nothing to answer. Returns at once.
+    /// Tells the user of something that went wrong; there is nothing to answer. Returns at once. What the
+    /// user still has before him is not told again.
     virtual void presentError(const QString &text) = 0;
     /// Shows the desktop's own file chooser beside the other windows; returns at once. The completion is
     /// called once, later, unless the program ends before.

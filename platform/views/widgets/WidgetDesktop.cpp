@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -126,6 +127,12 @@ void WidgetDesktop::runAlert(const Alert &alert, AlertCompletion completion)
 
 void WidgetDesktop::presentError(const QString &text)
 {
+    const bool isShownAlready = std::ranges::any_of(m_dialogs, [&](const std::unique_ptr<QDialog> &dialog) {
+        const auto *const box = qobject_cast<const QMessageBox *>(dialog.get());
+        return box && box->icon() == QMessageBox::Critical && box->text() == text;
+    });
+    if (isShownAlready)
+        return;
     std::unique_ptr<QMessageBox> box = messageBox(QMessageBox::Critical, text);
     box->addButton(QMessageBox::Ok);
     show(std::move(box), [](QDialog &, int) {});
@@ -136,6 +143,7 @@ void WidgetDesktop::beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion
     auto chooser = std::make_unique<QFileDialog>();
     chooser->setFileMode(
         panel.allowsMultipleSelection ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+    chooser->setDirectory(QDir::home()); // a program that the bus starts is nowhere in particular
     if (!panel.allowedFileTypes.isEmpty())
         chooser->setNameFilter(fileFilterOf(panel.allowedFileTypes));
     chooser->setOption(QFileDialog::HideNameFilterDetails);

@@ -127,6 +127,25 @@ TEST_F(WidgetDesktopTest, ErrorsWaitUntilTheUserHasReadThem)
     EXPECT_EQ(endings, 1);
 }
 
+TEST_F(WidgetDesktopTest, AnErrorThatIsStillShownIsNotToldAgain)
+{
+    const auto numberShown = [] {
+        const QWidgetList widgets = QApplication::topLevelWidgets();
+        return std::ranges::count_if(widgets,
+            [](QWidget *widget) { return qobject_cast<QMessageBox *>(widget) && widget->isVisible(); });
+    };
+    desktop.presentError(QStringLiteral("No such program."));
+    desktop.presentError(QStringLiteral("No such program."));
+    EXPECT_EQ(numberShown(), 1);
+    desktop.presentError(QStringLiteral("No such file."));
+    EXPECT_EQ(numberShown(), 2);
+    while (auto *const box = shownDialog<QMessageBox>())
+        box->accept();
+    desktop.presentError(QStringLiteral("No such program."));
+    EXPECT_EQ(numberShown(), 1);
+    waitForDialog<QMessageBox>()->accept();
+}
+
 TEST_F(WidgetDesktopTest, TheFileChooserGivesWhatTheUserChooses)
 {
     const QString path = writeFile(QStringLiteral("a text.txt"), "text");
