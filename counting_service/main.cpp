@@ -3,7 +3,8 @@
 #include "counting_service/broker/CountingService.h"
 #include "counting_service/broker/TerminationSignals.h"
 #include "counting_service/worker/CountingWorker.h"
-#include "counting_service/worker/WorkerSandbox.h"
+#include "platform/fonts/FontSources.h"
+#include "platform/sandbox/DocumentSandbox.h"
 
 #include <QCoreApplication>
 
@@ -50,7 +51,9 @@ std::optional<std::chrono::milliseconds> idleTimeFrom(std::string_view word)
 
 int work()
 {
-    const SandboxReport sandbox = enterWorkerSandbox();
+    // What it costs in memory and processor time is limited by the broker, from outside and anew for every
+    // document.
+    const SandboxReport sandbox = enterDocumentSandbox(FontSources::current().readable);
     return CountingWorker().run(sandbox);
 }
 

@@ -5,8 +5,8 @@
 // Thread: main.  Owner: CountingService.
 #pragma once
 
-#include "counting_service/fonts/FontSources.h"
 #include "counting_service/protocol/WorkerMessages.h"
+#include "platform/fonts/FontSources.h"
 
 #include <QObject>
 #include <QThread>

@@ -67,12 +67,6 @@ Result<Packet, PacketError> receive(int socket, int flags)
 
 } // namespace
 
-OwnedDescriptor::~OwnedDescriptor()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
-}
-
 std::optional<std::pair<OwnedDescriptor, OwnedDescriptor>> connectedSockets()
 {
     std::array<int, 2> ends{};

@@ -3,38 +3,13 @@
 // Thread: any, one at a time for each socket.
 #pragma once
 
+#include "platform/base/OwnedDescriptor.h"
 #include "platform/base/Result.h"
 
 #include <QByteArray>
 
 #include <optional>
 #include <utility>
-
-/// A descriptor that is closed with its owner.
-class OwnedDescriptor {
-public:
-    OwnedDescriptor() = default;
-    explicit OwnedDescriptor(int descriptor)
-        : m_descriptor(descriptor)
-    {
-    }
-    OwnedDescriptor(OwnedDescriptor &&other) noexcept
-        : m_descriptor(std::exchange(other.m_descriptor, -1))
-    {
-    }
-    OwnedDescriptor &operator=(OwnedDescriptor &&other) noexcept
-    {
-        std::swap(m_descriptor, other.m_descriptor);
-        return *this;
-    }
-    ~OwnedDescriptor();
-
-    [[nodiscard]] int get() const { return m_descriptor; } ///< -1 for none
-    explicit operator bool() const { return m_descriptor >= 0; }
-
-private:
-    int m_descriptor = -1;
-};
 
 struct Packet {
     QByteArray message;

@@ -5,8 +5,8 @@
 #pragma once
 
 #include "counting_service/protocol/WorkerMessages.h"
-#include "counting_service/sandbox/Sandbox.h"
 #include "counting_service/worker/CountMemory.h"
+#include "platform/sandbox/Sandbox.h"
 #include "text_statistics/WordCounterModel.h"
 
 class CountingWorker {

@@ -3,6 +3,7 @@
 #include "tests/harness/Display.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/selection/SelectionOwner.h"
+#include "tests/platform/styled_text/pdf/PdfWriter.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -79,6 +80,7 @@ TEST_F(Install, IsComplete)
     install({"--prefix", QFile::encodeName(prefix())});
     QStringList expected = filesWithCommands
         + QStringList{QStringLiteral("bin/quillbay"), QStringLiteral("libexec/quillbay-counting-service"),
+            QStringLiteral("libexec/quillbay-pdf-reader"),
             QStringLiteral("libexec/quillbay-service-provider"),
             QStringLiteral("share/dbus-1/interfaces/com.quillbay.ServiceProvider.xml"),
             QStringLiteral("share/icons/hicolor/scalable/apps/com.quillbay.Quillbay.svg"),
@@ -142,6 +144,39 @@ TEST_F(Install, HasIconsThatAreWellFormed)
             icon.readNext();
         EXPECT_EQ(icon.errorString(), QString()) << name.toStdString();
     }
+}
+
+TEST_F(Install, CountsAPdfFile)
+{
+    install({"--prefix", QFile::encodeName(prefix())});
+    const QByteArray file = QFile::encodeName(
+        writeFile(QStringLiteral("paper.pdf"), PdfWriter{{"One sentence of five words."}}.bytes()));
+    const QString program = prefix() + QStringLiteral("/bin/quillbay");
+    const ChildProcess::Outcome outcome = ChildProcess(program).run({"count", "--tsv", file});
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.errors, QByteArray());
+    EXPECT_TRUE(outcome.output.contains("5\t23\t27\t")) << outcome.output.constData();
+    ASSERT_TRUE(QFile::remove(prefix() + QStringLiteral("/libexec/quillbay-pdf-reader")));
+    const ChildProcess::Outcome without = ChildProcess(program).run({"count", "--tsv", file});
+    EXPECT_EQ(without.exitStatus, 1);
+    EXPECT_EQ(without.errors,
+        "quillbay: " + file
+            + ": needs the program quillbay-pdf-reader, which is missing or does not start; install Quillbay "
+              "anew\n");
+}
+
+TEST_F(Install, HasQtPdfInOneProgramAlone)
+{
+    install({"--prefix", QFile::encodeName(prefix())});
+    QStringList programs;
+    for (const QString &file : filesBelow(prefix())) {
+        ChildProcess program(prefix() + u'/' + file);
+        // The dynamic linker's list of what it loads, in place of a run.
+        program.withVariable("LD_TRACE_LOADED_OBJECTS", "1");
+        if (!file.startsWith(QStringLiteral("share/")) && program.run({}).output.contains("libQt6Pdf"))
+            programs.append(file);
+    }
+    EXPECT_EQ(programs, QStringList{QStringLiteral("libexec/quillbay-pdf-reader")});
 }
 
 TEST_F(Install, OpensAWindowForTheSelectedText)

@@ -16,6 +16,9 @@ QString causeText(PdfError error)
         return QStringLiteral("takes more time or memory than any PDF file; print it to a new one first");
     case PdfError::NotReadHere:
         return QStringLiteral("is a PDF file, which is not read here; count it with 'quillbay count'");
+    case PdfError::NoReader:
+        return QStringLiteral("needs the program quillbay-pdf-reader, which is missing or does not start; "
+                              "install Quillbay anew");
     case PdfError::NotEnoughMemory:
         break;
     }

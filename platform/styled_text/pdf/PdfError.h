@@ -12,6 +12,7 @@ enum class PdfError {
     NoText, ///< on any page, as in scans
     TooIntricate, ///< to be read in the time, the memory or the length of text that a PDF file gets
     NotReadHere, ///< by a loader that leaves PDF files to others
+    NoReader, ///< the program that reads PDF files is not there, or does not start
     NotEnoughMemory,
 };
 

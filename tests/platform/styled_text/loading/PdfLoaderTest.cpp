@@ -80,10 +80,3 @@ TEST_F(PdfLoader, TheLoaderOfLongLivedProgramsReadsNoPdf)
     EXPECT_EQ(errorOf(loadDocument(written("notes.txt", file.bytes()))), PdfError::NotReadHere);
     EXPECT_EQ(errorOf(documentFromBytes(file.bytes())), PdfError::NotReadHere);
 }
-
-TEST_F(PdfLoader, TheLoaderOfLongLivedProgramsHasNoCodeOfPdfInIt)
-{
-    const QByteArray library("libQt6Pdf");
-    EXPECT_FALSE(readFile(testProgram(QStringLiteral("load_document"))).contains(library));
-    EXPECT_TRUE(readFile(testProgram(QStringLiteral("print_pdf_text"))).contains(library));
-}

@@ -79,7 +79,7 @@ TEST(PdfReader, NamesTheCauseOfAFailure)
 TEST(PdfReader, TellsCausesInOneLineWithARemedy)
 {
     for (const PdfError error : {PdfError::Encrypted, PdfError::Damaged, PdfError::NoText,
-             PdfError::TooIntricate, PdfError::NotReadHere}) {
+             PdfError::TooIntricate, PdfError::NotReadHere, PdfError::NoReader}) {
         EXPECT_TRUE(causeText(error).contains(u';')) << qPrintable(causeText(error));
         EXPECT_FALSE(causeText(error).contains(u'\n'));
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "counting_service/sandbox/SystemCallFilter.h"
+#include "platform/sandbox/SystemCallFilter.h"
 
 #include <fcntl.h>
 #include <linux/sched.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "counting_service/sandbox/Landlock.h"
+#include "platform/sandbox/Landlock.h"
 
 #include <QtGlobal>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "counting_service/sandbox/Sandbox.h"
+#include "platform/sandbox/Sandbox.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // PdfPages goes through the pages of a PDF file with Qt Pdf, which may take any time and memory, or end the
-// process; for others than PdfReader, it is PdfReader that reads PDF files.
-// Thread: any; Qt Pdf works on one document at a time.  Owner: PdfReader.
+// process; for others than its own program, it is PdfReader that reads PDF files.
+// Thread: any; Qt Pdf works on one document at a time.  Owner: main.
 #pragma once
 
 #include "platform/styled_text/pdf/PdfError.h"

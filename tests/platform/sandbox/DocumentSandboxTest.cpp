@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a worker may do in its sandbox, tried by a program in the very same one.
-#include "counting_service/sandbox/Landlock.h"
+// What the programs that touch documents may do in their sandboxes, tried by a program in the very same ones.
+#include "platform/sandbox/Landlock.h"
 #include "tests/harness/QuillbayTest.h"
 
 #include <QDir>
@@ -9,22 +9,22 @@
 
 namespace {
 
-class WorkerSandboxTest : public QuillbayTest {
+class SandboxTest : public QuillbayTest {
 protected:
-    /// What came of each attempt, without the description of the sandbox in front.
-    static QByteArrayList resultsOf(const QByteArrayList &attempts)
+    /// What came of each attempt in the sandbox of that kind, without its description in front.
+    static QByteArrayList resultsIn(const QByteArray &kind, const QByteArrayList &attempts)
     {
-        const ChildProcess::Outcome outcome =
-            ChildProcess(testProgram(QStringLiteral("sandboxed_worker"))).run(attempts);
+        const ChildProcess::Outcome outcome = ChildProcess(testProgram(QStringLiteral("sandboxed_program")))
+                                                  .run(QByteArrayList{kind} + attempts);
         EXPECT_EQ(outcome.exitStatus, 0) << outcome.errors.constData();
         return outcome.output.trimmed().split('\n').sliced(1);
     }
 
-    static QByteArray resultOf(const QByteArray &attempt) { return resultsOf({attempt}).value(0); }
-    static QByteArray resultOutside(const QByteArray &attempt)
+    static QByteArray resultIn(const QByteArray &kind, const QByteArray &attempt)
     {
-        return resultsOf({"free", attempt}).value(0);
+        return resultsIn(kind, {attempt}).value(0);
     }
+    static QByteArray resultOutside(const QByteArray &attempt) { return resultIn("free", attempt); }
 
     /// A file of the user's, in the home folder.
     static QByteArray document()
@@ -35,11 +35,22 @@ protected:
     }
 };
 
+/// The facts that hold in every sandbox.
+class DocumentSandbox : public SandboxTest, public ::testing::WithParamInterface<const char *> {
+protected:
+    static QByteArray resultOf(const QByteArray &attempt) { return resultIn(GetParam(), attempt); }
+};
+INSTANTIATE_TEST_SUITE_P(Of, DocumentSandbox, ::testing::Values("counting", "pdf"),
+    [](const auto &kind) { return std::string(kind.param); });
+
+class WorkerSandbox : public SandboxTest { };
+class PdfReaderSandbox : public SandboxTest { };
+
 constexpr char refused[] = "EPERM";
 
 } // namespace
 
-TEST_F(WorkerSandboxTest, ReadsNoFileOfTheUser)
+TEST_P(DocumentSandbox, ReadsNoFileOfTheUser)
 {
     if (Landlock::kernelVersion() == 0)
         GTEST_SKIP() << "this kernel has no Landlock";
@@ -52,7 +63,7 @@ TEST_F(WorkerSandboxTest, ReadsNoFileOfTheUser)
     EXPECT_EQ(resultOf("read=/proc/self/environ"), "EACCES");
 }
 
-TEST_F(WorkerSandboxTest, ReadsFontsTheUsersOwnAmongThem)
+TEST_F(WorkerSandbox, ReadsFontsTheUsersOwnAmongThem)
 {
     const QString fonts = world().data() + QStringLiteral("/fonts");
     QDir().mkpath(fonts);
@@ -64,13 +75,14 @@ TEST_F(WorkerSandboxTest, ReadsFontsTheUsersOwnAmongThem)
         "<?xml version=\"1.0\"?><fontconfig><dir>/usr/share/fonts</dir><dir prefix=\"xdg\">fonts</dir>"
         "</fontconfig>");
     configuration.close();
-    EXPECT_EQ(resultsOf({"list=/usr/share/fonts", "list=" + QFile::encodeName(fonts),
-                  "read=" + QFile::encodeName(fonts) + "/linked.ttf",
-                  "read=" + QFile::encodeName(configuration.fileName())}),
+    EXPECT_EQ(resultsIn("counting",
+                  {"list=/usr/share/fonts", "list=" + QFile::encodeName(fonts),
+                      "read=" + QFile::encodeName(fonts) + "/linked.ttf",
+                      "read=" + QFile::encodeName(configuration.fileName())}),
         QByteArrayList({"done", "done", "done", "done"}));
 }
 
-TEST_F(WorkerSandboxTest, ChangesNoFile)
+TEST_P(DocumentSandbox, ChangesNoFile)
 {
     const QByteArray file = document();
     for (const char *attempt : {"write", "append", "truncate", "rename", "unlink", "chmod"})
@@ -83,7 +95,7 @@ TEST_F(WorkerSandboxTest, ChangesNoFile)
     EXPECT_EQ(resultOutside("append=" + file), "done");
 }
 
-TEST_F(WorkerSandboxTest, MakesNoConnection)
+TEST_P(DocumentSandbox, MakesNoConnection)
 {
     for (const char *attempt : {"tcp", "unix", "pair"}) {
         EXPECT_EQ(resultOf(attempt), refused) << attempt;
@@ -91,7 +103,7 @@ TEST_F(WorkerSandboxTest, MakesNoConnection)
     }
 }
 
-TEST_F(WorkerSandboxTest, StartsNoProgramAndNoProcess)
+TEST_P(DocumentSandbox, StartsNoProgramAndNoProcess)
 {
     EXPECT_EQ(resultOf("exec=/bin/true"), refused);
     EXPECT_EQ(resultOf("fork"), refused);
@@ -100,12 +112,22 @@ TEST_F(WorkerSandboxTest, StartsNoProgramAndNoProcess)
     EXPECT_EQ(resultOutside("fork"), "done");
 }
 
-TEST_F(WorkerSandboxTest, StartsThreads)
+TEST_F(PdfReaderSandbox, ReadsTheFontsOfTheMachineAndNotTheUsers)
 {
-    EXPECT_EQ(resultOf("thread"), "done");
+    if (Landlock::kernelVersion() == 0)
+        GTEST_SKIP() << "this kernel has no Landlock";
+    const QString fonts = world().data() + QStringLiteral("/fonts");
+    QDir().mkpath(fonts);
+    EXPECT_EQ(resultIn("pdf", "list=/usr/share/fonts"), "done");
+    EXPECT_EQ(resultIn("pdf", "list=" + QFile::encodeName(fonts)), "EACCES");
 }
 
-TEST_F(WorkerSandboxTest, ReachesNoOtherProcess)
+TEST_F(WorkerSandbox, StartsThreads)
+{
+    EXPECT_EQ(resultIn("counting", "thread"), "done");
+}
+
+TEST_P(DocumentSandbox, ReachesNoOtherProcess)
 {
     EXPECT_EQ(resultOf("kill-parent"), refused);
     EXPECT_EQ(resultOf("kill-self"), "done");
@@ -113,23 +135,23 @@ TEST_F(WorkerSandboxTest, ReachesNoOtherProcess)
     EXPECT_EQ(resultOutside("kill-parent"), "done");
 }
 
-TEST_F(WorkerSandboxTest, AsksForNothingPrivileged)
+TEST_P(DocumentSandbox, AsksForNothingPrivileged)
 {
     for (const char *attempt : {"unshare", "io-uring", "bpf", "keys", "lift-limit"})
         EXPECT_EQ(resultOf(attempt), refused) << attempt;
 }
 
-TEST_F(WorkerSandboxTest, CountsWithTheFontsOfTheMachine)
+TEST_F(WorkerSandbox, CountsWithTheFontsOfTheMachine)
 {
-    const QByteArray lines = resultOf("count");
+    const QByteArray lines = resultIn("counting", "count");
     EXPECT_EQ(lines, resultOutside("count"));
     EXPECT_GT(lines.toInt(), 10);
 }
 
-TEST_F(WorkerSandboxTest, SaysWhatItIsMadeOf)
+TEST_P(DocumentSandbox, SaysWhatItIsMadeOf)
 {
     const QByteArray said =
-        ChildProcess(testProgram(QStringLiteral("sandboxed_worker"))).run({}).output.trimmed();
+        ChildProcess(testProgram(QStringLiteral("sandboxed_program"))).run({GetParam()}).output.trimmed();
     const int version = Landlock::kernelVersion();
     const QByteArray landlock =
         version ? "Landlock " + QByteArray::number(version) : "no Landlock in this kernel";

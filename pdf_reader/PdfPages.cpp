@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/styled_text/pdf/PdfPages.h"
+#include "pdf_reader/PdfPages.h"
 
 #include <QBuffer>
 #include <QPdfDocument>

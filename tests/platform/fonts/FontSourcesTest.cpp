@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "counting_service/fonts/FontSources.h"
+#include "platform/fonts/FontSources.h"
 
 #include "tests/harness/QuillbayTest.h"
 

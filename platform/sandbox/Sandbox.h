@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Sandbox is what the worker may do, gathered sentence by sentence and put in force at once. Where the kernel
+// Sandbox is what a process may do, gathered sentence by sentence and put in force at once. Where the kernel
 // lacks a part, the others hold alone, and the report says so.
 // Thread: main, before there is another: a part of it binds only the threads that come later.
 #pragma once
 
-#include "counting_service/sandbox/Landlock.h"
-#include "counting_service/sandbox/SystemCallFilter.h"
+#include "platform/sandbox/Landlock.h"
+#include "platform/sandbox/SystemCallFilter.h"
 
 #include <QByteArrayList>
 #include <QString>

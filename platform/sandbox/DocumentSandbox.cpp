@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "counting_service/worker/WorkerSandbox.h"
+#include "platform/sandbox/DocumentSandbox.h"
 
-#include "counting_service/fonts/FontSources.h"
-
-SandboxReport enterWorkerSandbox()
+SandboxReport enterDocumentSandbox(const QByteArrayList &fonts)
 {
     Sandbox sandbox;
     sandbox.endWithParent();
     sandbox.keepMemoryPrivate();
     sandbox.growNoFile();
 
-    sandbox.mayRead(FontSources::current().readable);
+    sandbox.mayRead(fonts);
     sandbox.mayRead({"/usr/share/icu", "/usr/share/locale", "/usr/lib/locale"});
     sandbox.mayRead({"/sys/devices/system/cpu"}); // how many threads are worth their while
 

@@ -28,6 +28,8 @@ struct FontSources {
 
     /// As the configuration in force (FONTCONFIG_FILE) and the disk say now. Reads no font.
     static FontSources current();
+    /// The same of given folders, whatever the configuration says.
+    static FontSources below(const QByteArrayList &folders);
 
     QByteArrayList readable; ///< paths; with all that lies below them they are all that fonts are read from
     std::vector<Stamp> stamps; ///< one of them changes when a font comes or goes

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "counting_service/fonts/FontSources.h"
+#include "platform/fonts/FontSources.h"
 
 #include <fontconfig/fontconfig.h>
 
@@ -102,6 +102,14 @@ Stamp Stamp::of(const QByteArray &path)
         .file = status.st_ino,
         .seconds = status.st_mtim.tv_sec,
         .nanoseconds = status.st_mtim.tv_nsec};
+}
+
+FontSources FontSources::below(const QByteArrayList &folders)
+{
+    FontSources sources;
+    sources.readable = folders;
+    FolderWalk(sources).walk(folders);
+    return sources;
 }
 
 FontSources FontSources::current()

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
-// A worker in its sandbox that tries what a document could make it try. Arguments: words, each followed by
-// what it needs. Prints for each what came of it: "done", or the name of the error.
-#include "counting_service/worker/WorkerSandbox.h"
+// A program in its sandbox that tries what a document could make it try. Arguments: "counting", "pdf" or
+// "free", for a counting worker, the reader of PDF files or no sandbox; then words, each followed by what it
+// needs. Prints what the sandbox is made of, and for each word what came of it: "done", or the name of the
+// error.
+#include "pdf_reader/Confinement.h"
+#include "platform/fonts/FontSources.h"
+#include "platform/sandbox/DocumentSandbox.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <fcntl.h>
@@ -122,14 +126,22 @@ void printLines()
     std::printf("%llu\n", static_cast<unsigned long long>(model.numberOfLines()));
 }
 
+SandboxReport enter(const std::string &kind)
+{
+    if (kind == "counting")
+        return enterDocumentSandbox(FontSources::current().readable);
+    constexpr std::chrono::seconds time(60);
+    if (kind == "pdf")
+        return confine({.processorTime = time, .realTime = time, .memory = 100'000'000, .length = 1});
+    return {};
+}
+
 } // namespace
 
 int main(int argumentCount, char **arguments)
 {
-    const bool isFree = argumentCount > 1 && std::strcmp(arguments[1], "free") == 0;
-    const SandboxReport report = isFree ? SandboxReport() : enterWorkerSandbox();
-    std::printf("%s\n", descriptionOf(report).toUtf8().constData());
-    for (int i = isFree ? 2 : 1; i < argumentCount; ++i) {
+    std::printf("%s\n", descriptionOf(enter(arguments[1])).toUtf8().constData());
+    for (int i = 2; i < argumentCount; ++i) {
         const auto [word, argument] = [&] {
             const std::string all = arguments[i];
             const size_t end = all.find('=');

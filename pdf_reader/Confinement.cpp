@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "pdf_reader/Confinement.h"
+
+#include "platform/fonts/FontSources.h"
+#include "platform/sandbox/DocumentSandbox.h"
+
+#include <QFile>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of addresses
+#else
+constexpr bool isMemoryLimited = true;
+#endif
+
+// Where Qt Pdf looks for the fonts that a file names and does not bring along. It does not ask fontconfig.
+const QByteArrayList fontFolders{
+    "/usr/share/fonts", "/usr/share/X11/fonts/Type1", "/usr/share/X11/fonts/TTF", "/usr/local/share/fonts"};
+
+/// Bytes of writable memory that this process has.
+qint64 memoryInUse()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    constexpr qsizetype dataColumn = 5;
+    return file.readAll().split(' ').value(dataColumn).toLongLong() * ::sysconf(_SC_PAGESIZE);
+}
+
+void limit(__rlimit_resource resource, qint64 value)
+{
+    const rlimit wanted{static_cast<rlim_t>(value), static_cast<rlim_t>(value)};
+    ::setrlimit(resource, &wanted);
+}
+
+} // namespace
+
+SandboxReport confine(const PdfReaderOrder &order)
+{
+    constexpr qint64 longestAlarm = std::numeric_limits<int>::max();
+    ::alarm(static_cast<unsigned>(std::min<qint64>(order.realTime.count(), longestAlarm)));
+    limit(RLIMIT_CPU, order.processorTime.count());
+    const QByteArrayList fonts = FontSources::below(fontFolders).readable;
+    if (isMemoryLimited)
+        limit(RLIMIT_DATA, memoryInUse() + order.memory);
+    limit(RLIMIT_NPROC, 0);
+    return enterDocumentSandbox(fonts);
+}

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// quillbay-pdf-reader: the program that PdfReader starts for every PDF file, and the only one with Qt Pdf in
+// it. It writes the text of the file to standard output; PdfReaderOrder tells what it is given.
+#include "pdf_reader/Confinement.h"
+#include "pdf_reader/PdfPages.h"
+#include "platform/connection/SealedMemory.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <new>
+#include <span>
+
+namespace {
+
+SealedMemory::MadeMemory documentOnStandardInput()
+{
+    struct stat status = {};
+    ::fstat(STDIN_FILENO, &status);
+    return SealedMemory::received(STDIN_FILENO, static_cast<quint64>(status.st_size));
+}
+
+bool writeWhole(QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const ssize_t written = ::write(STDOUT_FILENO, bytes.data(), static_cast<size_t>(bytes.size()));
+        if (written < 0 && errno != EINTR)
+            return false;
+        bytes = bytes.sliced(std::max<ssize_t>(written, 0));
+    }
+    return true;
+}
+
+std::optional<PdfError> writePages(QByteArrayView document, qint64 length)
+{
+    bool isTooLong = false;
+    const auto take = [&](const QString &text) {
+        length -= text.size();
+        isTooLong = length < 0;
+        const auto *units = reinterpret_cast<const char *>(text.constData());
+        const auto size = text.size() * static_cast<qsizetype>(sizeof(QChar));
+        return !isTooLong && writeWhole(QByteArrayView(units, size));
+    };
+    try {
+        const std::optional<PdfError> error = forEachPdfPage(document, take);
+        return isTooLong ? PdfError::TooIntricate : error;
+    } catch (const std::bad_alloc &) {
+        return PdfError::TooIntricate;
+    }
+}
+
+} // namespace
+
+// Ends without the ends of the libraries: theirs are as little to be trusted as the rest of them, and a
+// sanitizer's is not allowed in the sandbox.
+int main(int argumentCount, char **arguments)
+{
+    const auto words = std::span<char *const>(arguments, static_cast<size_t>(argumentCount));
+    const std::optional<PdfReaderOrder> order = orderFrom(words.subspan(std::min<size_t>(1, words.size())));
+    if (order) {
+        // Before it sees a byte of the document.
+        (void)confine(*order);
+        const auto document = documentOnStandardInput();
+        if (document)
+            ::_exit(exitStatusFor(writePages(document.value().bytes(), order->length)));
+    }
+    std::fputs(
+        "quillbay-pdf-reader: is started by Quillbay's other programs, for one PDF file each time\n", stderr);
+    ::_exit(wrongUsageStatus);
+}
