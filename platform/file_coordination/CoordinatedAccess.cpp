@@ -7,11 +7,15 @@
 #include <QFile>
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace {
 
 constexpr std::chrono::milliseconds betweenLooks{20};
 // Longer than the grace: a presenter must hear that the file has moved before it finds nothing to read.
 constexpr std::chrono::milliseconds patienceWithMissing = ChangePolicy::grace + 5 * betweenLooks;
+// Whatever the obstacles are, in all.
+constexpr std::chrono::seconds longestWait{10};
 constexpr int mostReads = 3; // of a file that changes while it is read; its next change is told anyway
 
 QByteArray pathOf(const QUrl &url)
@@ -92,9 +96,14 @@ std::optional<CoordinationError> CoordinatedAccess::write(
 CoordinatedAccess::Obstacle CoordinatedAccess::waitForTurn(const QByteArray &path)
 {
     const Clock::Time start = m_clock.now();
+    Obstacle last = Obstacle::None;
+    Clock::Time since = start; // when the obstacle came up
     for (;;) {
         const Obstacle obstacle = obstacleAt(path);
-        if (obstacle == Obstacle::None || m_clock.now() - start >= patienceWith(obstacle))
+        const Clock::Time now = m_clock.now();
+        if (std::exchange(last, obstacle) != obstacle)
+            since = now; // several saves in a row: each may take the name away for a moment
+        if (obstacle == Obstacle::None || now - since >= patienceWith(obstacle) || now - start >= longestWait)
             return obstacle;
         if (const auto presentation = FilePresentations::instance().of(m_presenter))
             presentation->look();

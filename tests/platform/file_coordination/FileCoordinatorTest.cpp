@@ -275,6 +275,29 @@ TEST_F(FileCoordinatorTest, WaitsForANameThatIsMissingForAMoment)
     EXPECT_EQ(m_contents, QByteArray("after"));
 }
 
+TEST_F(FileCoordinatorTest, WaitsForANameThatSeveralSavesInARowTakeAway)
+{
+    ASSERT_TRUE(QFile::remove(m_path));
+    const auto emptied = after(400ms, [this] { write({}); });
+    const auto removed = after(450ms, [this] { QFile::remove(m_path); });
+    const auto saved = after(850ms, [this] { write("after"); });
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_reads, 1);
+    EXPECT_EQ(m_contents, "after");
+}
+
+TEST_F(FileCoordinatorTest, DoesNotWaitForeverForANameThatComesAndGoes)
+{
+    std::unique_ptr<ClockTimer> turn = m_clock.makeTimer([this] {
+        if (!QFile::remove(m_path))
+            write({});
+    });
+    turn->repeat(100ms);
+    const Clock::Time start = m_clock.now();
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_LE(m_clock.now() - start, 45s); // three reads of ten seconds at most, and what they take
+}
+
 TEST_F(FileCoordinatorTest, LeavesAFileThatStaysMissingToTheAccessor)
 {
     ASSERT_TRUE(QFile::remove(m_path));
