@@ -46,14 +46,17 @@ std::optional<CoordinationError> CoordinatedAccess::read(
 std::optional<CoordinationError> CoordinatedAccess::readInTurn(
     const QUrl &url, const QByteArray &path, const FileCoordinator::Accessor &accessor)
 {
-    m_read = {path, {}, {}, false};
+    m_read = {};
+    m_read.path = path;
     for (int reads = 0; reads < mostReads && !m_isAbandoned;) {
-        if (waitForTurn(path) == Obstacle::Lock)
+        const Obstacle obstacle = waitForTurn(path);
+        if (obstacle == Obstacle::Lock)
             return refuseForLock();
         if (m_isAbandoned)
             return std::nullopt;
         m_read.before = fileStateAt(path);
         m_read.isToBeRepeated = false;
+        m_read.isWaitedFor = obstacle == Obstacle::Missing;
         m_wasEmpty = m_read.before && m_read.before->size == 0;
         accessor(url);
         if (m_read.isToBeRepeated) {
@@ -73,7 +76,9 @@ bool CoordinatedAccess::triesAgain()
         return false;
     if (!m_read.failingSince)
         m_read.failingSince = m_clock.now();
-    const bool isMissing = !m_read.before && !fileStateAt(m_read.path); // and has been waited for
+    // A name may also go between the look that grants the turn and the reading; that one is still to be
+    // waited for.
+    const bool isMissing = m_read.isWaitedFor && !fileStateAt(m_read.path);
     m_read.isToBeRepeated = !isMissing && m_clock.now() - *m_read.failingSince < ChangePolicy::grace;
     return m_read.isToBeRepeated;
 }

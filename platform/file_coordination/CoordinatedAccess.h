@@ -32,6 +32,7 @@ private:
         QByteArray path;
         std::optional<FileState> before;
         std::optional<Clock::Time> failingSince;
+        bool isWaitedFor = false; ///< the name was missing, and stayed so
         bool isToBeRepeated = false;
     };
     enum class Obstacle { None, Missing, Empty, Lock };
