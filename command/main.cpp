@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 
 #include <cstdio>
+#include <cstdlib>
 #include <string_view>
 
 namespace {
@@ -65,7 +66,11 @@ int main(int argumentCount, char **arguments)
     for (const Command &command : commands) {
         if (command.name == name) {
             const QCoreApplication application(argumentCount, arguments);
-            return command.run(argumentCount - 2, arguments + 2);
+            const int status = command.run(argumentCount - 2, arguments + 2);
+            // At once: Qt's thread for the bus may still take a message while an ordinary end clears away
+            // what it needs for that.
+            std::fflush(nullptr);
+            std::_Exit(status);
         }
     }
     if (name.empty())
