@@ -109,8 +109,8 @@ int main(int argumentCount, char **arguments)
 
     Provider provider;
     ServicesRegistration registration(
-        provider, [](const QByteArray &) {}, [] {});
-    if (!registration.start([] {})) {
+        provider, [](const QByteArray &) {}, [] {}, [] {});
+    if (!registration.start()) {
         std::fputs("no bus\n", stderr);
         return 1;
     }

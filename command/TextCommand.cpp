@@ -14,7 +14,7 @@ constexpr char helpText[] = R"(Usage: quillbay text [FILE]
 
 Opens a small window with the counts of FILE, or of standard input where FILE is
 - or not named. Reads what 'quillbay count' reads: plain text of any encoding,
-RTF and RTFD, web pages and Word documents.
+RTF and RTFD, web pages, Word documents and PDF files.
 
   -h, --help  show this and leave
 

@@ -5,7 +5,6 @@
 #include "pdf_reader/PdfPages.h"
 #include "platform/connection/SealedMemory.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,13 +14,6 @@
 #include <span>
 
 namespace {
-
-SealedMemory::MadeMemory documentOnStandardInput()
-{
-    struct stat status = {};
-    ::fstat(STDIN_FILENO, &status);
-    return SealedMemory::received(STDIN_FILENO, static_cast<quint64>(status.st_size));
-}
 
 bool writeWhole(QByteArrayView bytes)
 {
@@ -63,7 +55,7 @@ int main(int argumentCount, char **arguments)
     if (order) {
         // Before it sees a byte of the document.
         (void)confine(*order);
-        const auto document = documentOnStandardInput();
+        const auto document = SealedMemory::received(STDIN_FILENO);
         if (document)
             ::_exit(exitStatusFor(writePages(document.value().bytes(), order->length)));
     }

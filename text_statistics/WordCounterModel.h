@@ -53,6 +53,7 @@ public:
     void doUpdateDisplayStrings();
 
     /// Takes effect at the next filling.
+    static constexpr qint64 shortStyle = 1; ///< as in "Words: 12"
     void setFormattedStringStyle(qint64 formattedStringStyle)
     {
         m_formattedStringStyle = formattedStringStyle;

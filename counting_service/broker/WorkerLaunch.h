@@ -4,17 +4,15 @@
 #pragma once
 
 #include "counting_service/protocol/PacketSocket.h"
+#include "platform/processes/ChildLaunch.h"
 
 #include <QByteArray>
 #include <QByteArrayList>
 
-#include <sys/types.h>
-
 #include <optional>
 
 struct LaunchedWorker {
-    pid_t process;
-    OwnedDescriptor processFile; ///< readable once the process has ended
+    LaunchedChild child;
     OwnedDescriptor socket; ///< our end
 };
 

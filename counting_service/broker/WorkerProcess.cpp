@@ -80,8 +80,8 @@ std::unique_ptr<WorkerProcess> WorkerProcess::start(const WorkerProgram &program
         countingServiceLog().error(u"A worker cannot be started: {}", {publicly(qt_error_string(errno))});
         return nullptr;
     }
-    return std::unique_ptr<WorkerProcess>(new WorkerProcess(program, std::move(callbacks), worker->process,
-        std::move(worker->processFile), std::move(worker->socket)));
+    return std::unique_ptr<WorkerProcess>(new WorkerProcess(program, std::move(callbacks),
+        worker->child.process, std::move(worker->child.processFile), std::move(worker->socket)));
 }
 
 WorkerProcess::WorkerProcess(WorkerProgram program, Callbacks callbacks, pid_t process,

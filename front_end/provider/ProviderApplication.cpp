@@ -27,13 +27,15 @@ bool ProviderApplication::start()
 bool ProviderApplication::offer(ServicesProvider &provider)
 {
     if (!m_registration) {
+        const auto busIsLost = [] {
+            LogChannel::standard().notice(u"The session bus is gone");
+            QCoreApplication::quit();
+        };
         m_registration = std::make_unique<ServicesRegistration>(
-            provider, [this](const QByteArray &token) { requestBegins(token); }, [this] { requestEnds(); });
+            provider, [this](const QByteArray &token) { requestBegins(token); }, [this] { requestEnds(); },
+            busIsLost);
     }
-    return m_registration->start([] {
-        LogChannel::standard().notice(u"The session bus is gone");
-        QCoreApplication::quit();
-    });
+    return m_registration->start();
 }
 
 void ProviderApplication::requestBegins(const QByteArray &activationToken)

@@ -11,8 +11,6 @@ namespace {
 
 constexpr int fadeTime = 250; // milliseconds
 
-constexpr qint64 shortStyle = 1;
-
 const QString productName = QStringLiteral("Quillbay");
 
 /// A missing control lies at zero and has no size.
@@ -77,7 +75,7 @@ void QBYServiceProviderShowStatsWindowController::windowDidLoad()
     window()->setLevel(WindowLevel::Floating);
     window()->setMovableByBackground(true);
     setUpForDesktop();
-    m_wordCounterViewController->wordCounter()->setFormattedStringStyle(shortStyle);
+    m_wordCounterViewController->wordCounter()->setFormattedStringStyle(WordCounterModel::shortStyle);
     if (const auto indicator = activityIndicator())
         indicator->startAnimation();
     m_wordCounterViewController->view()->setAlphaValue(0);
@@ -94,9 +92,7 @@ void QBYServiceProviderShowStatsWindowController::setUpForDesktop()
     window()->setTitle(productName); // for lists of windows and screen readers
     window()->setClosesOnRequest(false);
     connect(window().get(), &Window::closeRequested, this, [this] { closeButtonAction(nullptr); });
-    window()->setCopyProvider([this] { return statisticsToCopy(); });
-    connect(window().get(), &Window::textMetricsDidChange, this,
-        [this] { m_wordCounterViewController->fitLabels(); });
+    m_wordCounterViewController->serve(*window());
     m_windowOnScreen = m_desktop.putOnScreen(window());
 }
 
@@ -164,16 +160,4 @@ void QBYServiceProviderShowStatsWindowController::windowContentViewFrameDidChang
 std::shared_ptr<View> QBYServiceProviderShowStatsWindowController::panelView() const
 {
     return m_wordCounterViewController ? m_wordCounterViewController->view() : nullptr;
-}
-
-MimeContent QBYServiceProviderShowStatsWindowController::statisticsToCopy() const
-{
-    if (m_wordCounterViewController->view()->alphaValue() == 0)
-        return {}; // not counted yet
-    MimeContent content{{QStringLiteral("text/html"),
-        m_wordCounterViewController->htmlRepresentationWithTitle(std::nullopt, true).toUtf8()}};
-    const auto text = m_wordCounterViewController->attributedStringRepresentationWithTitle(std::nullopt);
-    if (text)
-        content.emplace(QStringLiteral("text/plain"), text->string().toUtf8());
-    return content;
 }

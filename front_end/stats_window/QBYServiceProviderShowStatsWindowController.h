@@ -86,7 +86,6 @@ private:
     void setUpForDesktop();
     void showStatistics();
     [[nodiscard]] std::shared_ptr<View> panelView() const;
-    [[nodiscard]] MimeContent statisticsToCopy() const;
 
     const AttributedString m_attributedStringToCount;
     Desktop &m_desktop;

@@ -67,7 +67,7 @@ SealedMemory::MadeMemory SealedMemory::filledBy(const std::function<int(int desc
     return mapped(descriptor);
 }
 
-SealedMemory::MadeMemory SealedMemory::received(int descriptor, quint64 length)
+SealedMemory::MadeMemory SealedMemory::received(int descriptor)
 {
     const int seals = fcntl(descriptor, F_GET_SEALS);
     constexpr int wanted = F_SEAL_WRITE | F_SEAL_SHRINK;
@@ -76,7 +76,12 @@ SealedMemory::MadeMemory SealedMemory::received(int descriptor, quint64 length)
     const int copy = fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
     if (copy < 0)
         return systemError(errno);
-    MadeMemory memory = mapped(copy);
+    return mapped(copy);
+}
+
+SealedMemory::MadeMemory SealedMemory::received(int descriptor, quint64 length)
+{
+    MadeMemory memory = received(descriptor);
     if (memory && static_cast<quint64>(memory.value().size()) != length)
         return SealedMemoryError{Cause::LengthDiffers};
     return memory;

@@ -38,7 +38,9 @@ public:
     /// returns 0, or the errno of what failed.
     static MadeMemory filledBy(const std::function<int(int descriptor)> &fill);
     /// The block that another process sent; takes a descriptor of its own. Only a file that is sealed against
-    /// writing and shrinking and is exactly as long as said is taken.
+    /// writing and shrinking is taken.
+    static MadeMemory received(int descriptor);
+    /// The same, only where it is exactly as long as said.
     static MadeMemory received(int descriptor, quint64 length);
 
     SealedMemory(SealedMemory &&other) noexcept;

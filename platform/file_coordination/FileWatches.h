@@ -3,7 +3,7 @@
 // above; what its events amount to, ChangePolicy decides. Thread: main.  Owner: FilePresentation.
 #pragma once
 
-#include "platform/file_coordination/FileDescriptor.h"
+#include "platform/base/OwnedDescriptor.h"
 #include "platform/file_coordination/FileEvent.h"
 
 #include <QByteArray>
@@ -44,7 +44,7 @@ private:
     std::optional<int> add(const QByteArray &path, quint32 mask, Places &places, const Place &place);
     [[nodiscard]] std::optional<FileEvent> meaning(const inotify_event &event, const char *name) const;
 
-    FileDescriptor m_inotify;
+    OwnedDescriptor m_inotify;
     int m_systemError = 0; // why there is no inotify
     Places m_places;
 };

@@ -4,7 +4,7 @@
 // other file, and a removable disk cannot be unmounted. Thread: any.
 #pragma once
 
-#include "platform/file_coordination/FileDescriptor.h"
+#include "platform/base/OwnedDescriptor.h"
 
 #include <QByteArray>
 
@@ -26,5 +26,5 @@ public:
     [[nodiscard]] std::optional<QByteArray> whereabouts() const;
 
 private:
-    FileDescriptor m_descriptor;
+    OwnedDescriptor m_descriptor;
 };

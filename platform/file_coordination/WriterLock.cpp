@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/WriterLock.h"
 
-#include "platform/file_coordination/FileDescriptor.h"
+#include "platform/base/OwnedDescriptor.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -13,7 +13,7 @@ bool isLockedByWriter(const QByteArray &path)
     struct stat status;
     if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
         return false;
-    const FileDescriptor file(::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    const OwnedDescriptor file(::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file)
         return false;
     // fcntl(2) can be asked who is in the way; flock(2) only by trying.

@@ -5,19 +5,14 @@
 
 #include <QDBusUnixFileDescriptor>
 
-#include <sys/stat.h>
-
 namespace {
 
 std::optional<QByteArray> bytesInMemoryFile(const QDBusUnixFileDescriptor &file)
 {
-    struct stat status = {};
-    if (!file.isValid() || fstat(file.fileDescriptor(), &status) != 0 || status.st_size < 0
-        || static_cast<quint64>(status.st_size) > PasteboardWire::largestPasteboard)
+    const SealedMemory::MadeMemory memory = SealedMemory::received(file.fileDescriptor());
+    if (!memory || static_cast<quint64>(memory.value().size()) > PasteboardWire::largestPasteboard)
         return std::nullopt;
-    const SealedMemory::MadeMemory memory =
-        SealedMemory::received(file.fileDescriptor(), static_cast<quint64>(status.st_size));
-    return memory ? std::optional(memory.value().bytes().toByteArray()) : std::nullopt;
+    return memory.value().bytes().toByteArray();
 }
 
 std::optional<QByteArray> bytesOf(const QVariant &value)

@@ -10,10 +10,12 @@
 #include <utility>
 
 ServiceMessageReceiver::ServiceMessageReceiver(ServicesProvider &provider,
-    ServicesRegistration::RequestBegins begins, ServicesRegistration::RequestEnds ends)
+    ServicesRegistration::RequestBegins begins, ServicesRegistration::RequestEnds ends,
+    ServicesRegistration::BusIsLost busIsLost)
     : m_provider(provider)
     , m_begins(std::move(begins))
     , m_ends(std::move(ends))
+    , m_busIsLost(std::move(busIsLost))
 {
     // Until then the bus's library does not know the type by its name.
     qRegisterMetaType<QDBusUnixFileDescriptor>("QDBusUnixFileDescriptor");
@@ -41,10 +43,4 @@ void ServiceMessageReceiver::handOver(
     if (!error.isEmpty() && calledFromDBus())
         sendErrorReply(ServiceInterface::failureName(), error);
     m_ends();
-}
-
-void ServiceMessageReceiver::busIsLost()
-{
-    if (m_lost)
-        m_lost();
 }

@@ -17,16 +17,14 @@ class ServiceMessageReceiver : public QObject, protected QDBusContext {
 
 public:
     ServiceMessageReceiver(ServicesProvider &provider, ServicesRegistration::RequestBegins begins,
-        ServicesRegistration::RequestEnds ends);
-
-    void setLostHandler(std::function<void()> lost) { m_lost = std::move(lost); }
+        ServicesRegistration::RequestEnds ends, ServicesRegistration::BusIsLost busIsLost);
 
 public Q_SLOTS:
     Q_SCRIPTABLE void wordCountSelectedTextService(
         const QVariantMap &pasteboard, const QString &userData, const QVariantMap &options);
     Q_SCRIPTABLE void watchTheTextFileService(
         const QVariantMap &pasteboard, const QString &userData, const QVariantMap &options);
-    void busIsLost();
+    void busIsLost() { m_busIsLost(); }
 
 private:
     using Service = void (ServicesProvider::*)(const Pasteboard &, const QString &, QString *);
@@ -36,5 +34,5 @@ private:
     ServicesProvider &m_provider;
     ServicesRegistration::RequestBegins m_begins;
     ServicesRegistration::RequestEnds m_ends;
-    std::function<void()> m_lost;
+    ServicesRegistration::BusIsLost m_busIsLost;
 };

@@ -11,9 +11,18 @@
 
 #include <utility>
 
-ServicesRegistration::ServicesRegistration(ServicesProvider &provider, RequestBegins begins, RequestEnds ends)
-    : m_receiver(std::make_unique<ServiceMessageReceiver>(provider, std::move(begins), std::move(ends)))
+ServicesRegistration::ServicesRegistration(
+    ServicesProvider &provider, RequestBegins begins, RequestEnds ends, BusIsLost busIsLost)
+    : m_receiver(std::make_unique<ServiceMessageReceiver>(
+        provider, std::move(begins), std::move(ends), std::move(busIsLost)))
 {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
+        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), m_receiver.get(),
+        SLOT(busIsLost()));
+    // The object comes before the name: messages may be waiting for it.
+    bus.registerObject(
+        ServiceInterface::objectPath(), m_receiver.get(), QDBusConnection::ExportScriptableSlots);
 }
 
 ServicesRegistration::~ServicesRegistration()
@@ -21,18 +30,11 @@ ServicesRegistration::~ServicesRegistration()
     QDBusConnection::sessionBus().unregisterObject(ServiceInterface::objectPath());
 }
 
-bool ServicesRegistration::start(std::function<void()> lost)
+bool ServicesRegistration::start()
 {
-    m_receiver->setLostHandler(std::move(lost));
     QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
-        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), m_receiver.get(),
-        SLOT(busIsLost()));
-    bus.unregisterObject(ServiceInterface::objectPath());
-    // The object comes before the name: messages may be waiting for it.
     const bool isOnBus = bus.isConnected()
-        && bus.registerObject(
-            ServiceInterface::objectPath(), m_receiver.get(), QDBusConnection::ExportScriptableSlots)
+        && bus.objectRegisteredAt(ServiceInterface::objectPath()) == m_receiver.get()
         && bus.registerService(ServiceInterface::busName());
     if (!isOnBus) {
         const QString cause = bus.lastError().message();

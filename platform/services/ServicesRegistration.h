@@ -20,14 +20,18 @@ public:
     /// Runs behind each message, done or refused.
     using RequestEnds = std::function<void()>;
 
-    ServicesRegistration(ServicesProvider &provider, RequestBegins begins, RequestEnds ends);
+    /// Runs when the bus goes away.
+    using BusIsLost = std::function<void()>;
+
+    ServicesRegistration(
+        ServicesProvider &provider, RequestBegins begins, RequestEnds ends, BusIsLost busIsLost);
     ServicesRegistration(const ServicesRegistration &) = delete;
     ServicesRegistration &operator=(const ServicesRegistration &) = delete;
     ~ServicesRegistration();
 
     /// From now on messages come, from the event loop. False, with a line in the log, where there is no bus
-    /// or the name is somebody else's. lost: runs when the bus goes away.
-    [[nodiscard]] bool start(std::function<void()> lost);
+    /// or the name is somebody else's.
+    [[nodiscard]] bool start();
 
     /// Gives the name away. When this returns, every message that the bus has let through has been handed
     /// over; later ones go to the next owner of the name. start() takes it back.

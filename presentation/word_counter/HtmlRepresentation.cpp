@@ -37,3 +37,23 @@ std::optional<AttributedString> WordCounterViewController::attributedStringRepre
         return std::nullopt;
     return std::move(text).value();
 }
+
+MimeContent WordCounterViewController::statisticsToCopy() const
+{
+    if (m_wordCounter->wordCountFormattedString().isNull())
+        return {}; // not counted yet
+    MimeContent content{
+        {QStringLiteral("text/html"), htmlRepresentationWithTitle(std::nullopt, true).toUtf8()}};
+    if (const auto text = attributedStringRepresentationWithTitle(std::nullopt))
+        content.emplace(QStringLiteral("text/plain"), text->string().toUtf8());
+    return content;
+}
+
+void WordCounterViewController::serve(Window &window)
+{
+    window.setCopyProvider([weakPanel = weak_from_this()] {
+        const auto panel = weakPanel.lock();
+        return panel ? panel->statisticsToCopy() : MimeContent();
+    });
+    connect(&window, &Window::textMetricsDidChange, this, &WordCounterViewController::fitLabels);
+}

@@ -8,6 +8,7 @@
 
 #include "platform/connection/ServiceConnection.h"
 #include "platform/styled_text/AttributedString.h"
+#include "platform/views/Window.h"
 #include "presentation/stats_panel/BaseWordCounterViewController.h"
 #include "presentation/word_counter/WordCounterServiceProtocol.h"
 #include "text_statistics/WordCounterModel.h"
@@ -77,6 +78,11 @@ public:
     [[nodiscard]] std::optional<AttributedString> attributedStringRepresentationWithTitle(
         const std::optional<QString> &title) const;
 
+    /// Puts the panel to use in that window: the statistics are what the user copies from it, once they have
+    /// been counted, and the labels are fitted whenever texts take another size on its screen. The host fits
+    /// them itself before it shows the window.
+    void serve(Window &window);
+
 Q_SIGNALS:
     void isAsyncCountOperationInProgressChanged();
 
@@ -95,6 +101,8 @@ private:
     [[nodiscard]] bool isOpen(const std::weak_ptr<ServiceConnection> &connection) const;
     void send(CountRequest request, const Data &data, const HeldCompletion &completion);
     void showReply(const ServiceReply &reply, const Completion &completion);
+
+    [[nodiscard]] MimeContent statisticsToCopy() const;
 
     std::shared_ptr<WordCounterModel> m_wordCounter;
     bool m_isAsyncCountOperationInProgress = false;

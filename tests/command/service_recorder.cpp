@@ -73,8 +73,9 @@ int main(int argumentCount, char **arguments)
     const QStringList words = QCoreApplication::arguments();
     Recorder recorder(words.value(1), words.value(2));
     ServicesRegistration registration(
-        recorder, [&](const QByteArray &token) { recorder.setToken(token); }, &QCoreApplication::quit);
-    if (!registration.start(&QCoreApplication::quit))
+        recorder, [&](const QByteArray &token) { recorder.setToken(token); }, &QCoreApplication::quit,
+        &QCoreApplication::quit);
+    if (!registration.start())
         return 1;
     const int status = QCoreApplication::exec();
     registration.giveNameAway();

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "watching/speech/ApplicationExtension.h"
 
-#include "platform/application/DetachedProcess.h"
 #include "platform/locale/CurrentLocale.h"
 #include "platform/locale/SpelledOutNumber.h"
+#include "platform/processes/DetachedProcess.h"
 #include "platform/views/Desktop.h"
 
 bool QBYExtension::sayWordCountOutloud(quint64 wordCount, Desktop &desktop, const QString &launchPath)

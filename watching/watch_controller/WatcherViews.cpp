@@ -10,23 +10,11 @@
 
 namespace {
 
-constexpr qint64 shortStyle = 1;
 constexpr unsigned texturedBackground = 256; // no title bar; the background moves the window
 
 void setShortStyle(const std::shared_ptr<WatchTextFileViewController> &panel)
 {
-    panel->wordCounterViewController()->wordCounter()->setFormattedStringStyle(shortStyle);
-}
-
-MimeContent statisticsToCopy(const WordCounterViewController &statistics)
-{
-    if (statistics.wordCounter()->wordCountFormattedString().isNull())
-        return {}; // not counted yet
-    MimeContent content{
-        {QStringLiteral("text/html"), statistics.htmlRepresentationWithTitle(std::nullopt, true).toUtf8()}};
-    if (const auto text = statistics.attributedStringRepresentationWithTitle(std::nullopt))
-        content.emplace(QStringLiteral("text/plain"), text->string().toUtf8());
-    return content;
+    panel->wordCounterViewController()->wordCounter()->setFormattedStringStyle(WordCounterModel::shortStyle);
 }
 
 } // namespace
@@ -103,15 +91,12 @@ void WatchTextFileMenuBarController::makeWindow(
     m_detachableWindowOnScreen = m_surroundings.desktop.putOnScreen(window);
 }
 
-/// Has the statistics copied from the window, and fitted now and whenever texts take another size on the
-/// screen.
+/// Fits the statistics now; later they see to it themselves.
 void WatchTextFileMenuBarController::serve(
     Window &window, const std::shared_ptr<WatchTextFileViewController> &panel)
 {
     const std::shared_ptr<WordCounterViewController> statistics = panel->wordCounterViewController();
-    window.setCopyProvider([statistics] { return statisticsToCopy(*statistics); });
-    connect(&window, &Window::textMetricsDidChange, statistics.get(),
-        [statistics = statistics.get()] { statistics->fitLabels(); });
+    statistics->serve(window);
     statistics->fitLabels();
 }
 

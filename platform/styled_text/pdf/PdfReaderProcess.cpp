@@ -5,8 +5,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,7 +13,6 @@
 #include <cerrno>
 #include <csignal>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -32,66 +29,10 @@ OwnedDescriptor raised(int descriptor)
     return OwnedDescriptor(::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }
 
-class FileActions {
-public:
-    FileActions(int input, int output)
-    {
-        ::posix_spawn_file_actions_init(&m_actions);
-        ::posix_spawn_file_actions_adddup2(&m_actions, input, STDIN_FILENO);
-        ::posix_spawn_file_actions_adddup2(&m_actions, output, STDOUT_FILENO);
-        // What Qt Pdf might print belongs nowhere, a sanitizer's report does.
-        if (!isSanitized)
-            ::posix_spawn_file_actions_addopen(&m_actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-        ::posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1);
-    }
-    FileActions(const FileActions &) = delete;
-    FileActions &operator=(const FileActions &) = delete;
-    ~FileActions() { ::posix_spawn_file_actions_destroy(&m_actions); }
-
-    [[nodiscard]] const posix_spawn_file_actions_t *get() const { return &m_actions; }
-
-private:
-    posix_spawn_file_actions_t m_actions{};
-};
-
-// The caller may block and ignore signals that the program must obey.
-class Attributes {
-public:
-    Attributes()
-    {
-        sigset_t none;
-        sigset_t all;
-        ::sigemptyset(&none);
-        ::sigfillset(&all);
-        ::posix_spawnattr_init(&m_attributes);
-        ::posix_spawnattr_setsigmask(&m_attributes, &none);
-        ::posix_spawnattr_setsigdefault(&m_attributes, &all);
-        ::posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-    }
-    Attributes(const Attributes &) = delete;
-    Attributes &operator=(const Attributes &) = delete;
-    ~Attributes() { ::posix_spawnattr_destroy(&m_attributes); }
-
-    [[nodiscard]] const posix_spawnattr_t *get() const { return &m_attributes; }
-
-private:
-    posix_spawnattr_t m_attributes{};
-};
-
-/// 0, or an errno.
-int spawn(pid_t &process, QByteArray program, QByteArrayList arguments, int input, int output)
-{
-    std::vector<char *> words{program.data()};
-    for (QByteArray &argument : arguments)
-        words.push_back(argument.data());
-    words.push_back(nullptr);
-    return ::posix_spawn(&process, program.constData(), FileActions(input, output).get(), Attributes().get(),
-        words.data(), environ);
-}
-
 PdfError errorOfSpawn(int number)
 {
-    return number == ENOMEM || number == EAGAIN ? PdfError::NotEnoughMemory : PdfError::NoReader;
+    const bool isShortage = number == ENOMEM || number == EAGAIN || number == EMFILE || number == ENFILE;
+    return isShortage ? PdfError::NotEnoughMemory : PdfError::NoReader;
 }
 
 std::optional<PdfError> failureOf(int status)
@@ -119,18 +60,23 @@ Result<PdfReaderProcess, PdfError> PdfReaderProcess::started(
     const OwnedDescriptor output = raised(writing.get());
     if (!input || !output)
         return PdfError::NotEnoughMemory;
-    pid_t process = 0;
-    const int failure = spawn(process, program, argumentsOf(order), input.get(), output.get());
-    if (failure != 0)
-        return errorOfSpawn(failure);
-    return PdfReaderProcess(process, std::move(reading), order);
+    ChildFiles files;
+    files.duplicate(input.get(), STDIN_FILENO).duplicate(output.get(), STDOUT_FILENO);
+    // What Qt Pdf might print belongs nowhere, a sanitizer's report does.
+    if (!isSanitized)
+        files.open(STDERR_FILENO, "/dev/null", O_WRONLY);
+    files.closeFrom(STDERR_FILENO + 1);
+    std::optional<LaunchedChild> child =
+        launchChild(program, QByteArrayList{program} + argumentsOf(order), files);
+    if (!child)
+        return errorOfSpawn(errno);
+    return PdfReaderProcess(std::move(*child), std::move(reading), order);
 }
 
-PdfReaderProcess::PdfReaderProcess(pid_t process, OwnedDescriptor pipe, const PdfReaderOrder &order)
-    : m_process(process)
+PdfReaderProcess::PdfReaderProcess(LaunchedChild child, OwnedDescriptor pipe, const PdfReaderOrder &order)
+    : m_process(child.process)
     , m_pipe(std::move(pipe))
-    // The header of pidfd_open() cannot be used from C++ everywhere.
-    , m_processFile(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)))
+    , m_processFile(std::move(child.processFile))
     , m_longest(order.length)
     , m_deadline(Clock::now() + order.realTime)
 {
@@ -153,8 +99,6 @@ PdfReaderProcess::~PdfReaderProcess()
 
 Result<QString, PdfError> PdfReaderProcess::text()
 {
-    if (!m_processFile)
-        return PdfError::NotEnoughMemory;
     QString text;
     const bool isWhole = readToEnd(text) && isReadyInTime(m_processFile.get());
     const std::optional<PdfError> failure = failureOf(end(!isWhole));

@@ -5,14 +5,13 @@
 
 #include "platform/base/OwnedDescriptor.h"
 #include "platform/base/Result.h"
+#include "platform/processes/ChildLaunch.h"
 #include "platform/styled_text/pdf/PdfReaderOrder.h"
 
 #include <QByteArrayView>
 #include <QString>
 
 #include <chrono>
-
-#include <sys/types.h>
 
 class PdfReaderProcess {
 public:
@@ -32,7 +31,7 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    PdfReaderProcess(pid_t process, OwnedDescriptor pipe, const PdfReaderOrder &order);
+    PdfReaderProcess(LaunchedChild child, OwnedDescriptor pipe, const PdfReaderOrder &order);
     bool isReadyInTime(int descriptor) const;
     /// False where it takes too long or writes too much.
     bool readToEnd(QString &text) const;

@@ -135,6 +135,17 @@ void ProviderTest::press(const char *key)
     TestDisplay::xdotool({QStringLiteral("key"), QString::fromLatin1(key)});
 }
 
+void ProviderTest::drag(const QString &window, const QPoint &place)
+{
+    const QPoint start = rectOf(window).topLeft() + place;
+    TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(start.x()), QString::number(start.y()),
+        QStringLiteral("mousedown"), QStringLiteral("1")});
+    for (int i = 0; i < 12; ++i)
+        TestDisplay::xdotool({QStringLiteral("mousemove_relative"), QStringLiteral("--"),
+            QStringLiteral("10"), QStringLiteral("-5"), QStringLiteral("sleep"), QStringLiteral("0.02")});
+    TestDisplay::xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
 void ProviderTest::waitForNumbers(const QString &window)
 {
     // Below the title row there is nothing but the ground until then.

@@ -39,6 +39,8 @@ protected:
     /// Puts the pointer there, in pixels of the window from its top left, and clicks.
     static void click(const QString &window, int x, int y);
     static void press(const char *key);
+    /// By 120 pixels to the right and 60 up, as far as it comes. place: in the window, from its top left.
+    static void drag(const QString &window, const QPoint &place);
 
     /// Waits until the window shows numbers.
     static void waitForNumbers(const QString &window);

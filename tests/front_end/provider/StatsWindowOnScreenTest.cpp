@@ -94,13 +94,7 @@ TEST_F(StatsWindowOnScreen, IsDraggedByItsBackgroundOrALabel)
     const QString window = open();
     for (const QPoint &place : {QPoint(10, 100), QPoint(120, 40)}) {
         const QRect before = rectOf(window);
-        const QPoint start = before.topLeft() + place;
-        TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(start.x()),
-            QString::number(start.y()), QStringLiteral("mousedown"), QStringLiteral("1")});
-        for (int i = 0; i < 12; ++i)
-            TestDisplay::xdotool({QStringLiteral("mousemove_relative"), QStringLiteral("--"),
-                QStringLiteral("10"), QStringLiteral("-5"), QStringLiteral("sleep"), QStringLiteral("0.02")});
-        TestDisplay::xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
+        drag(window, place);
         EXPECT_TRUE(waitUntil([&] { return rectOf(window).x() > before.x() + 50; }));
         EXPECT_EQ(rectOf(window).size(), before.size());
     }

@@ -32,8 +32,8 @@ protected:
     {
         SessionBus::start();
         registration = std::make_unique<ServicesRegistration>(
-            provider, [this](const QByteArray &token) { begun.append(token); }, [this] { ++ended; });
-        EXPECT_TRUE(registration->start([] {}));
+            provider, [this](const QByteArray &token) { begun.append(token); }, [this] { ++ended; }, [] {});
+        EXPECT_TRUE(registration->start());
     }
     ~ServiceMessage() override { registration->giveNameAway(); }
 
@@ -103,6 +103,6 @@ TEST_F(ServiceMessage, FindsNobodyWhenTheNameHasBeenGivenAway)
     const std::optional<ServiceFailure> failure = send(countMessage, pasteboard);
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->cause, ServiceFailure::Cause::NoProvider);
-    EXPECT_TRUE(registration->start([] {}));
+    EXPECT_TRUE(registration->start());
     EXPECT_FALSE(send(countMessage, pasteboard));
 }

@@ -96,17 +96,6 @@ protected:
         }
         return found;
     }
-    /// By 120 pixels to the right and 60 up, as far as it comes. place: in the window, from its top left.
-    static void drag(const QString &window, const QPoint &place)
-    {
-        const QPoint start = rectOf(window).topLeft() + place;
-        TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(start.x()),
-            QString::number(start.y()), QStringLiteral("mousedown"), QStringLiteral("1")});
-        for (int i = 0; i < 12; ++i)
-            TestDisplay::xdotool({QStringLiteral("mousemove_relative"), QStringLiteral("--"),
-                QStringLiteral("10"), QStringLiteral("-5"), QStringLiteral("sleep"), QStringLiteral("0.02")});
-        TestDisplay::xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
-    }
     static void clickStop(const QString &window)
     {
         const QRect rect = rectOf(window);

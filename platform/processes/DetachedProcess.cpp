@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/application/DetachedProcess.h"
+#include "platform/processes/DetachedProcess.h"
 
 #include <QProcess>
 
