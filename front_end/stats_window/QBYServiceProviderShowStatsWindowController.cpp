@@ -51,11 +51,11 @@ void QBYServiceProviderShowStatsWindowController::loadWindow()
 {
     if (window())
         return;
-    const auto file = InterfaceFile::loadOwn(windowInterfaceFile());
-    m_activityIndicator = file.ownOutlet<ProgressIndicator>(QStringLiteral("activityIndicator"));
-    m_titleLabel = file.ownOutlet<Label>(QStringLiteral("titleLabel"));
-    m_closeButton = file.ownOutlet<Button>(QStringLiteral("closeButton"));
-    m_lineSeparator = file.ownOutlet<Box>(QStringLiteral("lineSeparator"));
+    const auto file = InterfaceFile::load(windowInterfaceFile());
+    m_activityIndicator = file.outlet<ProgressIndicator>(QStringLiteral("activityIndicator"));
+    m_titleLabel = file.outlet<Label>(QStringLiteral("titleLabel"));
+    m_closeButton = file.outlet<Button>(QStringLiteral("closeButton"));
+    m_lineSeparator = file.outlet<Box>(QStringLiteral("lineSeparator"));
 
     m_wordCounterViewController = std::make_shared<WordCounterViewController>();
     PanelPlace::fill(file, QStringLiteral("wordCounterView"), *m_wordCounterViewController);

@@ -1,193 +1,238 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/InterfaceReader.h"
 
-#include "platform/views/InterfaceFile.h"
-
-#include <QRect>
-
-#include <array>
-#include <cmath>
-
-using Cause = InterfaceError::Cause;
+#include "platform/views/Box.h"
+#include "platform/views/Button.h"
+#include "platform/views/Label.h"
+#include "platform/views/ProgressIndicator.h"
 
 namespace {
 
-// Elements of a form that say nothing about its views.
-bool isPassedOver(QStringView element)
+constexpr int maxNesting = 64; // widgets in widgets
+constexpr int maxLength = 100'000; // points, either way, of a position or a size
+
+std::shared_ptr<View> viewForClass(const QString &className)
 {
-    constexpr std::array passedOver{u"author", u"class", u"comment", u"customwidgets", u"designerdata",
-        u"exportmacro", u"layoutdefault", u"pixmapfunction", u"resources", u"tabstops"};
-    for (const QStringView name : passedOver) {
-        if (element == name)
-            return true;
-    }
-    return false;
+    if (className == u"QWidget")
+        return std::make_shared<View>();
+    if (className == u"QLabel")
+        return std::make_shared<Label>();
+    if (className == u"QPushButton" || className == u"QToolButton")
+        return std::make_shared<Button>();
+    if (className == u"QProgressBar")
+        return std::make_shared<ProgressIndicator>();
+    if (className == u"Line")
+        return std::make_shared<Box>(Box::Kind::Separator);
+    return nullptr;
 }
 
-std::optional<QVariant> valueOf(QStringView kind, const QString &text)
+std::optional<bool> truth(const QString &value)
 {
-    bool isNumber = true;
-    if (kind == u"number" || kind == u"longLong") {
-        const qlonglong number = text.toLongLong(&isNumber);
-        return isNumber ? std::optional<QVariant>(number) : std::nullopt;
-    }
-    if (kind == u"double") {
-        const double number = text.toDouble(&isNumber);
-        return isNumber && std::isfinite(number) ? std::optional<QVariant>(number) : std::nullopt;
-    }
-    if (kind == u"bool") {
-        const bool isTrue = text == u"true";
-        return isTrue || text == u"false" ? std::optional<QVariant>(isTrue) : std::nullopt;
-    }
-    return text;
+    const bool isTrue = value == u"true";
+    return isTrue || value == u"false" ? std::optional(isTrue) : std::nullopt;
 }
 
-bool isTextKind(QStringView kind)
+std::optional<LabelAlignment> alignment(const QString &flags)
 {
-    constexpr std::array kinds{
-        u"number", u"longLong", u"double", u"bool", u"string", u"cstring", u"enum", u"set"};
-    for (const QStringView name : kinds) {
-        if (kind == name)
-            return true;
+    LabelAlignment alignment = LabelAlignment::Left;
+    for (const QStringView flag : QStringView(flags).split(u'|')) {
+        if (flag == u"Qt::AlignRight" || flag == u"Qt::AlignTrailing")
+            alignment = LabelAlignment::Right;
+        else if (flag == u"Qt::AlignHCenter" || flag == u"Qt::AlignCenter")
+            alignment = LabelAlignment::Center;
+        else if (flag != u"Qt::AlignLeft" && flag != u"Qt::AlignLeading" && flag != u"Qt::AlignVCenter")
+            return std::nullopt;
     }
-    return false;
+    return alignment;
+}
+
+/// The following answer whether the view has such a property and the property can have the value.
+bool setProperty(Label &label, const QString &name, const QString &value)
+{
+    const std::optional<LabelAlignment> labelAlignment = alignment(value);
+    if (name == u"text")
+        label.setStringValue(value);
+    else if (name == u"alignment" && labelAlignment)
+        label.setAlignment(*labelAlignment);
+    else
+        return false;
+    return true;
+}
+
+bool setProperty(Button &button, const QString &name, const QString &value)
+{
+    if (name == u"text")
+        button.setTitle(value);
+    else if (name == u"icon" && !value.isEmpty())
+        button.setIconName(value);
+    else if (name == u"enabled" && truth(value))
+        button.setEnabled(*truth(value));
+    else
+        return false;
+    return true;
+}
+
+bool setPropertyOfClass(View &view, const QString &name, const QString &value)
+{
+    if (auto *const label = dynamic_cast<Label *>(&view))
+        return setProperty(*label, name, value);
+    if (auto *const button = dynamic_cast<Button *>(&view))
+        return setProperty(*button, name, value);
+    return dynamic_cast<Box *>(&view) && name == u"orientation";
+}
+
+bool setProperty(View &view, const QString &name, const QString &value)
+{
+    bool isNumber = false;
+    const qint64 number = value.toLongLong(&isNumber);
+    if (name == u"tag" && isNumber)
+        view.setTag(number);
+    else if (name == u"visible" && truth(value))
+        view.setHidden(!*truth(value));
+    else if (name == u"accessibleName")
+        view.setAccessibleName(value);
+    else if (name == u"toolTip")
+        view.setToolTip(value);
+    else
+        return setPropertyOfClass(view, name, value);
+    return true;
 }
 
 } // namespace
 
-bool InterfaceReader::fail(Cause cause, const QString &detail)
+InterfaceReader::InterfaceReader(const QByteArray &contents, const QString &file)
+    : m_xml(contents)
 {
-    m_error = InterfaceError{cause, m_file, m_xml.lineNumber(), detail};
-    return false;
+    m_file.m_file = file;
 }
 
-QString InterfaceReader::attribute(QStringView name) const
+QString InterfaceReader::attribute(const char *name) const
 {
-    return m_xml.attributes().value(name.toString()).toString();
+    return m_xml.attributes().value(QLatin1String(name)).toString();
 }
 
-bool InterfaceReader::read()
+void InterfaceReader::fail(const QString &error)
 {
-    if (!isWellFormed())
-        return false;
-    if (!m_xml.readNextStartElement() || m_xml.name() != u"ui" || !attribute(u"version").startsWith(u"4."))
-        return fail(Cause::NotAnInterface);
+    if (!m_xml.hasError()) // the first one counts
+        m_xml.raiseError(error);
+}
+
+Result<InterfaceFile, QString> InterfaceReader::read()
+{
+    readForm();
+    while (!m_xml.atEnd()) // what follows the form must be well-formed too
+        m_xml.readNext();
+    if (m_xml.hasError())
+        return QStringLiteral("%1:%2: %3")
+            .arg(m_file.m_file)
+            .arg(m_xml.lineNumber())
+            .arg(m_xml.errorString());
+    return std::move(m_file);
+}
+
+void InterfaceReader::readForm()
+{
+    if (!m_xml.readNextStartElement() || m_xml.name() != u"ui" || !attribute("version").startsWith(u"4."))
+        return fail(QStringLiteral("this is no form of version 4"));
     while (m_xml.readNextStartElement()) {
-        if (!readFormElement())
-            return false;
+        if (m_xml.name() != u"widget")
+            m_xml.skipCurrentElement(); // says nothing about views
+        else if (m_file.m_rootView)
+            fail(QStringLiteral("there is a second root widget"));
+        else
+            m_file.m_rootView = readWidget(nullptr);
     }
-    return !m_widgets.empty() || fail(Cause::NotAnInterface);
+    if (!m_file.m_rootView)
+        fail(QStringLiteral("there is no widget"));
 }
 
-bool InterfaceReader::isWellFormed()
+std::shared_ptr<View> InterfaceReader::readWidget(View *superview)
 {
-    QXmlStreamReader xml(m_contents);
-    while (!xml.atEnd())
-        xml.readNext();
-    if (xml.hasError())
-        m_error = InterfaceError{Cause::NotWellFormed, m_file, xml.lineNumber(), xml.errorString()};
-    return !xml.hasError();
-}
-
-bool InterfaceReader::readFormElement()
-{
-    if (m_xml.name() == u"widget")
-        return m_widgets.empty() ? readWidgets() : fail(Cause::NotAnInterface);
-    if (m_xml.name() == u"connections" || m_xml.name() == u"slots")
-        return requireEmptyElement();
-    if (!isPassedOver(m_xml.name()))
-        return fail(Cause::UnsupportedElement, m_xml.name().toString());
-    m_xml.skipCurrentElement();
-    return true;
-}
-
-bool InterfaceReader::requireEmptyElement()
-{
-    return !m_xml.readNextStartElement() || fail(Cause::UnsupportedElement, m_xml.name().toString());
-}
-
-bool InterfaceReader::readWidgets()
-{
-    if (!openWidget())
-        return false;
-    while (!m_open.empty()) {
-        if (!m_xml.readNextStartElement())
-            m_open.pop_back();
-        else if (m_xml.name() == u"widget" ? !openWidget() : !readProperty())
-            return false;
+    const QString className = attribute("class");
+    const QString name = attribute("name");
+    std::shared_ptr<View> view = viewForClass(className);
+    if (!view) {
+        fail(QStringLiteral("there is no view for the class %1").arg(className));
+        return nullptr;
     }
-    return true;
+    if (m_file.m_outlets.contains(name))
+        fail(QStringLiteral("a second widget is named %1").arg(name));
+    view->setIdentifier(name);
+    if (!name.isEmpty())
+        m_file.m_outlets.insert(name, {view});
+    if (superview)
+        superview->addSubview(view);
+    readContent(*view);
+    return view;
 }
 
-bool InterfaceReader::openWidget()
+void InterfaceReader::readContent(View &view)
 {
-    if (m_open.size() >= InterfaceFile::deepestNesting)
-        return fail(Cause::TooDeep);
-    if (m_widgets.size() >= InterfaceFile::mostViews)
-        return fail(Cause::TooManyViews);
-    m_widgets.push_back({attribute(u"class"), attribute(u"name"), m_xml.lineNumber(),
-        m_open.empty() ? std::nullopt : std::optional(m_open.back())});
-    m_open.push_back(m_widgets.size() - 1);
-    return true;
-}
-
-bool InterfaceReader::readProperty()
-{
-    if (m_xml.name() != u"property")
-        return fail(Cause::UnsupportedElement, m_xml.name().toString());
-    InterfaceProperty property{attribute(u"name"), {}, {}, m_xml.lineNumber()};
-    if (!m_xml.readNextStartElement())
-        return fail(Cause::BadValue, property.name);
-    if (!readValue(property) || !requireEmptyElement()) // the rest of the property
-        return false;
-    m_widgets[m_open.back()].properties.push_back(std::move(property));
-    return true;
-}
-
-bool InterfaceReader::readValue(InterfaceProperty &property)
-{
-    property.kind = m_xml.name().toString();
-    if (property.kind == u"rect")
-        return readRect(property);
-    if (isTextKind(property.kind))
-        return readText(property);
-    if (property.kind != u"iconset")
-        return fail(Cause::UnsupportedProperty, property.name);
-    property.value = attribute(u"theme");
-    m_xml.skipCurrentElement(); // files to show where there is no theme
-    return true;
-}
-
-bool InterfaceReader::readText(InterfaceProperty &property)
-{
-    const std::optional<QVariant> value = valueOf(property.kind, m_xml.readElementText());
-    if (!value || m_xml.hasError()) // an element where only text may be
-        return fail(Cause::BadValue, property.name);
-    property.value = *value;
-    return true;
-}
-
-bool InterfaceReader::readRect(InterfaceProperty &property)
-{
-    constexpr std::array names{u"x", u"y", u"width", u"height"};
-    std::array<std::optional<int>, names.size()> lengths;
+    int nesting = 0;
+    for (const View *above = view.superview(); above; above = above->superview())
+        ++nesting;
+    if (nesting >= maxNesting)
+        return fail(QStringLiteral("widgets are nested deeper than %1").arg(maxNesting));
+    bool hasGeometry = false;
     while (m_xml.readNextStartElement()) {
-        size_t index = 0;
-        while (index < names.size() && m_xml.name() != QStringView(names[index]))
-            ++index;
+        if (m_xml.name() == u"property" && attribute("name") == u"geometry") {
+            readGeometry(view);
+            hasGeometry = true;
+        } else if (m_xml.name() == u"property") {
+            readProperty(view);
+        } else if (m_xml.name() == u"widget" && hasGeometry) {
+            readWidget(&view);
+        } else {
+            fail(QStringLiteral("the element %1 is not supported here").arg(m_xml.name()));
+        }
+    }
+    if (!hasGeometry)
+        fail(QStringLiteral("the widget %1 has no geometry").arg(view.identifier()));
+}
+
+void InterfaceReader::readGeometry(View &view)
+{
+    const QStringList names{
+        QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"), QStringLiteral("height")};
+    QHash<QString, int> lengths;
+    m_xml.readNextStartElement(); // rect
+    while (m_xml.readNextStartElement()) {
+        const QString name = m_xml.name().toString();
         bool isNumber = false;
         const int length = m_xml.readElementText().toInt(&isNumber);
-        if (index == names.size() || !isNumber || m_xml.hasError()
-            || std::abs(qint64(length)) > InterfaceFile::largestLength)
-            return fail(Cause::BadValue, property.name);
-        lengths[index] = length;
+        const int minLength = name == u"x" || name == u"y" ? -maxLength : 0;
+        if (isNumber && names.contains(name) && length >= minLength && length <= maxLength)
+            lengths.insert(name, length);
     }
-    for (const std::optional<int> &length : lengths) {
-        if (!length)
-            return fail(Cause::BadValue, property.name);
-    }
-    if (*lengths[2] < 0 || *lengths[3] < 0)
-        return fail(Cause::BadValue, property.name);
-    property.value = QRect(*lengths[0], *lengths[1], *lengths[2], *lengths[3]);
-    return true;
+    if (lengths.size() != names.size() || m_xml.readNextStartElement())
+        return fail(QStringLiteral("the geometry of %1 is no rectangle").arg(view.identifier()));
+    const double height = lengths[names[3]];
+    const View *const superview = view.superview();
+    view.setFrameSize({double(lengths[names[2]]), height});
+    if (superview)
+        view.setFrameOrigin(
+            {double(lengths[names[0]]), superview->frame().height() - lengths[names[1]] - height});
+}
+
+void InterfaceReader::readProperty(View &view)
+{
+    const QString name = attribute("name");
+    if (!m_xml.readNextStartElement())
+        return fail(QStringLiteral("the property %1 has no value").arg(name));
+    const bool isNumber = m_xml.name() == u"number";
+    const bool isIcon = m_xml.name() == u"iconset";
+    const QString theme = attribute("theme");
+    const QString text = m_xml.readElementText(
+        isIcon ? QXmlStreamReader::SkipChildElements : QXmlStreamReader::ErrorOnUnexpectedElement);
+    const QString value = isIcon ? theme : text;
+    bool isInteger = false;
+    const qint64 number = value.toLongLong(&isInteger);
+    const bool isFurtherNumber = isNumber && isInteger && m_file.m_outlets.contains(view.identifier());
+    const bool isSet = setProperty(view, name, value);
+    if (!isSet && isFurtherNumber)
+        m_file.m_outlets[view.identifier()].numbers.insert(name, number);
+    else if (!isSet)
+        fail(QStringLiteral("the property %1 cannot be \"%2\" here").arg(name, value));
+    if (m_xml.readNextStartElement())
+        fail(QStringLiteral("the property %1 has a second value").arg(name));
 }

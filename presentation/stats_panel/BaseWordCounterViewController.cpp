@@ -44,9 +44,9 @@ BaseWordCounterViewController::~BaseWordCounterViewController() = default;
 
 void BaseWordCounterViewController::loadView()
 {
-    const auto interface = InterfaceFile::loadOwn(m_interfaceFile);
+    const auto interface = InterfaceFile::load(m_interfaceFile);
     for (size_t index = 0; index < numberOfLabels; ++index)
-        m_outlets[index] = interface.ownOutlet<Label>(QString(outletNames.at(index)));
+        m_outlets[index] = interface.outlet<Label>(QString(outletNames.at(index)));
     const std::shared_ptr<View> &root = interface.rootView();
     const auto policy = interface.integerProperty(root->identifier(), QStringLiteral("labelPositionPolicy"));
     if (policy)

@@ -10,7 +10,7 @@
 void PanelPlace::fill(
     const InterfaceFile &file, const QString &placeName, BaseWordCounterViewController &panel)
 {
-    const auto place = file.ownOutlet<View>(placeName);
+    const auto place = file.outlet<View>(placeName);
     View *const superview = place->superview();
     if (!superview)
         qFatal("The place of a statistics panel is a view in another view.");

@@ -47,12 +47,12 @@ WatchTextFileViewController::~WatchTextFileViewController() = default;
 void WatchTextFileViewController::loadView()
 {
     const auto interface =
-        InterfaceFile::loadOwn(QStringLiteral(":/interface_files/WatchTextFileViewController.ui"));
-    m_titleLabel = interface.ownOutlet<Label>(QStringLiteral("titleForFileBeingWatchedLabel"));
-    m_stopButton = interface.ownOutlet<Button>(QStringLiteral("stopButton"));
-    m_horizontalLine = interface.ownOutlet<Box>(QStringLiteral("horizontalLine"));
-    m_closeButton = interface.ownOutlet<Button>(QStringLiteral("closeButton"));
-    m_activityIndicator = interface.ownOutlet<ProgressIndicator>(QStringLiteral("activityIndicator"));
+        InterfaceFile::load(QStringLiteral(":/interface_files/WatchTextFileViewController.ui"));
+    m_titleLabel = interface.outlet<Label>(QStringLiteral("titleForFileBeingWatchedLabel"));
+    m_stopButton = interface.outlet<Button>(QStringLiteral("stopButton"));
+    m_horizontalLine = interface.outlet<Box>(QStringLiteral("horizontalLine"));
+    m_closeButton = interface.outlet<Button>(QStringLiteral("closeButton"));
+    m_activityIndicator = interface.outlet<ProgressIndicator>(QStringLiteral("activityIndicator"));
     PanelPlace::fill(interface, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
     setView(interface.rootView());
 }

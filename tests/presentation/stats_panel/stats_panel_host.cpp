@@ -30,7 +30,7 @@ public:
     explicit PanelHost(const InterfaceFile &interface)
         : m_window(std::make_shared<QBYWindow>(QRectF(200, 150, 0, 0)))
     {
-        const auto place = interface.outlet<View>(QStringLiteral("statsPanel")).value();
+        const auto place = interface.outlet<View>(QStringLiteral("statsPanel"));
         m_panel.view()->setFrameOrigin({margin, margin});
         place->addSubview(m_panel.view());
         const auto policy =
@@ -99,12 +99,7 @@ int main(int argumentCount, char **arguments)
 {
     const QApplication application(argumentCount, arguments);
     const DesktopAppearance appearance;
-    const auto interface = InterfaceFile::load(QFile::decodeName(arguments[1]));
-    if (!interface) {
-        std::cerr << messageText(interface.error()).toStdString() << '\n';
-        return 1;
-    }
-    const PanelHost host(interface.value());
+    const PanelHost host(InterfaceFile::load(QFile::decodeName(arguments[1])));
     const WindowWidget widget(host.window());
     host.window()->orderFront();
     std::cout << widget.winId() << std::endl;

@@ -32,12 +32,7 @@ QByteArray answer(const std::string &question, const Window &window, const Windo
 int main(int argumentCount, char **arguments)
 {
     const QApplication application(argumentCount, arguments);
-    const auto file = InterfaceFile::load(QFile::decodeName(arguments[1]));
-    if (!file) {
-        std::cerr << messageText(file.error()).toStdString() << '\n';
-        return 1;
-    }
-    const std::shared_ptr<View> &root = file.value().rootView();
+    const std::shared_ptr<View> root = InterfaceFile::load(QFile::decodeName(arguments[1])).rootView();
     const auto window = std::make_shared<Window>(QRectF({20, 30}, root->frame().size()));
     window->setContentView(root);
     window->setLevel(WindowLevel::Floating);
