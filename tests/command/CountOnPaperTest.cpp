@@ -17,8 +17,7 @@ protected:
 
 TEST_F(CountOnPaperTest, AFirstCountTakesThePrintersDefaultPaperWithItsMargins)
 {
-    if (!PrintServer::isInstalled())
-        GTEST_SKIP() << "no print server here";
+    SKIP_WITHOUT_PACKAGE(PrintServer::isInstalled(), "cups, cups-daemon, cups-client");
     PrintServer server;
     server.addQueue("odd");
     server.makeDefault("odd");
@@ -29,8 +28,7 @@ TEST_F(CountOnPaperTest, AFirstCountTakesThePrintersDefaultPaperWithItsMargins)
 
 TEST_F(CountOnPaperTest, APaperThatThePrinterLacksIsReplacedByItsDefault)
 {
-    if (!PrintServer::isInstalled())
-        GTEST_SKIP() << "no print server here";
+    SKIP_WITHOUT_PACKAGE(PrintServer::isInstalled(), "cups, cups-daemon, cups-client");
     Preferences::configureUserDefaultsOnApplicationLaunch();
     Preferences::setCurrentPaperNamePreference(QStringLiteral("Tabloid"));
     PrintServer server;

@@ -28,8 +28,8 @@ protected:
         QFile file(folder + QStringLiteral("/com.quillbay.ServiceProvider.service"));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("[D-BUS Service]\nName=com.quillbay.ServiceProvider\nExec="
-            + QFile::encodeName(testProgram(QStringLiteral("service_recorder"))) + ' '
-            + QFile::encodeName(recordFile()) + ' ' + refusal + '\n');
+            + QFile::encodeName(testProgram(QStringLiteral("service_recorder"))) + " '"
+            + QFile::encodeName(recordFile()) + "' " + refusal + '\n');
         file.close();
         reloadServices();
     }

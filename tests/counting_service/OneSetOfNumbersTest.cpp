@@ -97,8 +97,7 @@ TEST_F(OneSetOfNumbers, InALocaleThatIsNotTheBuss)
 
 TEST_F(OneSetOfNumbers, OnThePaperOfAPrinter)
 {
-    if (!PrintServer::isInstalled())
-        GTEST_SKIP() << "no print server here";
+    SKIP_WITHOUT_PACKAGE(PrintServer::isInstalled(), "cups, cups-daemon, cups-client");
     PrintServer server;
     server.addQueue("odd");
     server.makeDefault("odd");

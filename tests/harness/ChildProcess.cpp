@@ -12,11 +12,28 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr uid_t nobody = 65534;
 constexpr int runLimit = 60'000; // milliseconds
 constexpr int lineLimit = 20'000;
+
+/// QProcess takes arguments as text, which they need not be.
+bool isText(const QByteArray &argument)
+{
+    return QFile::encodeName(QFile::decodeName(argument)) == argument;
+}
+
+std::vector<char *> pointersTo(QByteArrayList &strings)
+{
+    std::vector<char *> pointers;
+    for (QByteArray &string : strings)
+        pointers.push_back(string.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
 
 } // namespace
 
@@ -75,8 +92,22 @@ ChildProcess &ChildProcess::afterFork(const std::function<void()> &call)
     return *this;
 }
 
+/// Replaces the child by the program before QProcess does.
+void ChildProcess::execWithBytes(const QByteArrayList &arguments)
+{
+    QByteArrayList words = QByteArrayList{QFile::encodeName(m_program)} + arguments;
+    QByteArrayList variables;
+    for (const QString &variable : m_environment.toStringList())
+        variables.append(QFile::encodeName(variable));
+    afterFork([words, variables, argv = pointersTo(words), environment = pointersTo(variables)] {
+        ::execve(argv[0], argv.data(), environment.data());
+    });
+}
+
 void ChildProcess::start(const QByteArrayList &arguments)
 {
+    if (!std::ranges::all_of(arguments, isText))
+        execWithBytes(arguments);
     QStringList decoded;
     for (const QByteArray &argument : arguments)
         decoded.append(QFile::decodeName(argument));

@@ -57,6 +57,8 @@ public:
     [[nodiscard]] qint64 processIdentifier() const { return m_process.processId(); }
 
 private:
+    void execWithBytes(const QByteArrayList &arguments);
+
     QString m_program;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
     std::vector<std::function<void()>> m_afterFork;

@@ -7,13 +7,19 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
 void QuillbayTest::setLocale(const char *name)
 {
     for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LC_CTYPE", "LC_PAPER", "LANGUAGE"})
         ::unsetenv(variable);
     ::setenv("LANG", name, 1);
-    // A locale that is not installed leaves "C" in force, as it does in any program.
+    takeLocaleFromEnvironment();
+}
+
+void QuillbayTest::takeLocaleFromEnvironment()
+{
     if (!std::setlocale(LC_ALL, ""))
         std::setlocale(LC_ALL, "C");
 }
@@ -26,6 +32,16 @@ QString QuillbayTest::writeFile(const QString &name, const QByteArray &contents)
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
         ADD_FAILURE() << "cannot write " << path.toStdString();
     return path;
+}
+
+QByteArray QuillbayTest::writeFileOfBytes(const QByteArray &name, const QByteArray &contents)
+{
+    const std::filesystem::path path((QFile::encodeName(world().root()) + "/files/" + name).toStdString());
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream file(path, std::ios::binary);
+    if (!file.write(contents.constData(), contents.size()).flush())
+        ADD_FAILURE() << "cannot write " << path;
+    return QByteArray::fromStdString(path.string());
 }
 
 QByteArray QuillbayTest::readFile(const QString &path)
@@ -41,6 +57,11 @@ QByteArray QuillbayTest::readFile(const QString &path)
 QString corporaFolder()
 {
     return QFile::decodeName(qgetenv("QUILLBAY_CORPORA"));
+}
+
+bool packagesAreRequired()
+{
+    return qEnvironmentVariableIsSet("QUILLBAY_REQUIRE_PACKAGES");
 }
 
 void PrintTo(const QString &text, std::ostream *stream)

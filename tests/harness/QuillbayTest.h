@@ -5,6 +5,7 @@
 
 #include "tests/harness/ChildProcess.h"
 #include "tests/harness/RecordingLogSink.h"
+#include "tests/harness/Requirement.h"
 #include "tests/harness/SessionBus.h"
 #include "tests/harness/TestHome.h"
 #include "tests/harness/WaitUntil.h"
@@ -17,9 +18,14 @@ protected:
 
     /// As if the user had logged in with LANG=name: LC_ALL and every category follow it.
     static void setLocale(const char *name);
+    /// As a program does when it starts. A locale that is not installed leaves "C" in force, as it does
+    /// there.
+    static void takeLocaleFromEnvironment();
 
     /// Writes a file below the test's root folder and returns its path.
     static QString writeFile(const QString &name, const QByteArray &contents);
+    /// The same for a name that need not be text in any encoding.
+    static QByteArray writeFileOfBytes(const QByteArray &name, const QByteArray &contents);
     static QByteArray readFile(const QString &path);
 };
 

@@ -42,7 +42,7 @@ QString SessionBus::start()
             " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
             "<busconfig>\n"
             "  <type>session</type>\n"
-            "  <listen>unix:path=%1/socket</listen>\n"
+            "  <listen>%1</listen>\n"
             "  <servicedir>%2/dbus-1/services</servicedir>\n"
             "  <auth>EXTERNAL</auth>\n"
             "  <policy context=\"default\">\n"
@@ -51,7 +51,8 @@ QString SessionBus::start()
             "    <allow own=\"*\"/>\n"
             "  </policy>\n"
             "</busconfig>\n")
-                                .arg(folder, TestHome::instance().data())
+                                .arg(TestHome::busAddress(folder + QStringLiteral("/socket")),
+                                    TestHome::instance().data().toHtmlEscaped())
                                 .toUtf8());
         configuration.close();
         auto daemon = std::make_unique<QProcess>();

@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <stdexcept>
 #include <vector>
 
@@ -17,8 +18,8 @@ namespace {
 // Only these of the caller's variables reach a test, besides those of tests/README.md.
 const std::vector<QByteArray> keptVariables{"PATH", "TMPDIR", "LD_LIBRARY_PATH", "ASAN_OPTIONS",
     "LSAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS", "QUILLBAY_CORPORA", "QUILLBAY_SCREENSHOTS",
-    "QUILLBAY_SOAK_SAVES", "QUILLBAY_SOAK_SEED", "GTEST_OUTPUT", "GTEST_COLOR", "GTEST_TOTAL_SHARDS",
-    "GTEST_SHARD_INDEX"};
+    "QUILLBAY_REQUIRE_PACKAGES", "QUILLBAY_SOAK_SAVES", "QUILLBAY_SOAK_SEED", "GTEST_OUTPUT", "GTEST_COLOR",
+    "GTEST_TOTAL_SHARDS", "GTEST_SHARD_INDEX"};
 
 void makeFolder(const QString &path, mode_t mode)
 {
@@ -36,6 +37,7 @@ TestHome &TestHome::instance()
 
 TestHome::TestHome()
 {
+    ::umask(022);
     for (const QByteArray &name : keptVariables) {
         if (const char *value = std::getenv(name.constData()))
             m_firstEnvironment[name] = value;
@@ -51,7 +53,9 @@ TestHome::TestHome()
 
 TestHome::~TestHome()
 {
-    QDir(m_root).removeRecursively();
+    // QDir leaves files whose names are not UTF-8.
+    std::error_code ignored;
+    std::filesystem::remove_all(m_root.toStdString(), ignored);
 }
 
 void TestHome::makeFolders() const
@@ -85,21 +89,24 @@ void TestHome::setEnvironment() const
     set("LANG", QStringLiteral("en_US.UTF-8"));
     set("TZ", QStringLiteral("UTC"));
     // Addresses at which nobody answers: without them the libraries would look for the user's own.
-    set("DBUS_SESSION_BUS_ADDRESS", QStringLiteral("unix:path=%1/no-bus").arg(runtime()));
+    set("DBUS_SESSION_BUS_ADDRESS", busAddress(runtime() + QStringLiteral("/no-bus")));
     set("CUPS_SERVER", runtime() + QStringLiteral("/no-print-server"));
     std::setlocale(LC_ALL, "C");
 }
 
+QString TestHome::busAddress(const QString &path)
+{
+    // The D-Bus specification, "Server Addresses": most signs stand as codes.
+    return QStringLiteral("unix:path=")
+        + QString::fromLatin1(QFile::encodeName(path).toPercentEncoding("/", "~"));
+}
+
 void TestHome::reset()
 {
-    for (const QFileInfo &entry :
-        QDir(m_root).entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
-        if (entry.fileName() == QStringLiteral("bus"))
-            continue; // the session bus outlives the tests of one process
-        if (entry.isDir() && !entry.isSymLink())
-            QDir(entry.filePath()).removeRecursively();
-        else
-            QFile::remove(entry.filePath());
+    std::error_code ignored;
+    for (const auto &entry : std::filesystem::directory_iterator(m_root.toStdString())) {
+        if (entry.path().filename() != "bus") // the session bus outlives the tests of one process
+            std::filesystem::remove_all(entry.path(), ignored);
     }
     makeFolders();
     setEnvironment();

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] QString configuration() const { return home() + QStringLiteral("/.config"); }
     [[nodiscard]] QString data() const { return home() + QStringLiteral("/.local/share"); }
     [[nodiscard]] QString runtime() const { return m_root + QStringLiteral("/runtime"); }
+    /// The D-Bus address of a socket with that path.
+    [[nodiscard]] static QString busAddress(const QString &path);
 
 private:
     void makeFolders() const;

@@ -33,7 +33,7 @@ ServiceStandIn::ServiceStandIn(QString serviceName, const QByteArrayList &plan)
     write(m_folder + QStringLiteral("/plan"), plan.join('\n'));
     write(m_folder + QStringLiteral("/notes"), {});
     write(services + u'/' + serviceName + QStringLiteral(".service"),
-        QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2 %1 %3\n")
+        QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2 %1 '%3'\n")
             .arg(serviceName, testProgram(QStringLiteral("service_stand_in")), m_folder)
             .toLocal8Bit());
     m_bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),

@@ -189,8 +189,8 @@ protected:
 TEST_P(RealProgramsTest, ASaveIsAChangeAndNothingElse)
 {
     const Save &save = GetParam();
-    if (const QString missing = missingFor(QString::fromLatin1(save.program)); !missing.isEmpty())
-        GTEST_SKIP() << missing.toStdString() << " is not installed";
+    const QString missing = missingFor(QString::fromLatin1(save.program));
+    SKIP_WITHOUT_PACKAGE(missing.isEmpty(), missing.toStdString());
     if (QLatin1String(save.program) == QLatin1String("git")) {
         ASSERT_TRUE(
             run(QStringLiteral("git init -q; git config user.email a@b.c; git config user.name a; git add .;"

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <fcntl.h>
 #include <sched.h>
@@ -84,6 +85,7 @@ TEST_F(UntoldChangesTest, AFileOnAFuseFileSystemIsLookedAtEveryTwoSecondsWithOne
     const QByteArray folder = QFile::encodeName(QFileInfo(m_path).path());
     const QByteArray mountPoint = QFile::encodeName(world().root()) + "/mount";
     ASSERT_TRUE(QDir().mkdir(QFile::decodeName(mountPoint)));
+    SKIP_WITHOUT_PACKAGE(!QStandardPaths::findExecutable(QStringLiteral("bindfs")).isEmpty(), "bindfs");
     const auto argumentsFor = [&](const QByteArray &program) {
         return QByteArrayList{"--mount", "sh", "-c", mounted, "sh", folder, mountPoint, program};
     };

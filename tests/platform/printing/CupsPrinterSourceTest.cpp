@@ -13,8 +13,7 @@ class CupsPrinterSourceTest : public QuillbayTest {
 protected:
     void SetUp() override
     {
-        if (!PrintServer::isInstalled())
-            GTEST_SKIP() << "no CUPS server is installed: packages cups, cups-daemon and cups-client";
+        SKIP_WITHOUT_PACKAGE(PrintServer::isInstalled(), "cups, cups-daemon, cups-client");
     }
 
     static Result<Printer, PrinterFailure> answer()

@@ -227,8 +227,7 @@ TEST_F(PrintSettingsTest, ASilentServerHoldsAProgramUpForASecondAtMostAndNotAtIt
 
 TEST_F(PrintSettingsTest, AHungServerIsNotAnsweringUntilItWakes)
 {
-    if (!PrintServer::isInstalled())
-        GTEST_SKIP() << "no CUPS server is installed: packages cups, cups-daemon and cups-client";
+    SKIP_WITHOUT_PACKAGE(PrintServer::isInstalled(), "cups, cups-daemon, cups-client");
     PrintServer server;
     server.addQueue("odd");
     server.hang();

@@ -9,8 +9,7 @@ class DocxFromLibreOffice : public QuillbayTest {
 protected:
     void SetUp() override
     {
-        if (!LibreOffice::isInstalled())
-            GTEST_SKIP() << "LibreOffice is not installed";
+        SKIP_WITHOUT_PACKAGE(LibreOffice::isInstalled(), "libreoffice-writer or libreoffice-writer-nogui");
     }
 
     static QString read(const LibreOffice::Document &document)

@@ -8,8 +8,7 @@ class PdfFromLibreOffice : public QuillbayTest { };
 
 TEST_F(PdfFromLibreOffice, HasTheWordsOfItsTextExport)
 {
-    if (!LibreOffice::isInstalled())
-        GTEST_SKIP() << "LibreOffice is not installed";
+    SKIP_WITHOUT_PACKAGE(LibreOffice::isInstalled(), "libreoffice-writer or libreoffice-writer-nogui");
     const LibreOffice::Document document{
         .body = "<text:p>One paragraph of some words, \xC3\xA4\xC3\xB6\xC3\xBC and "
                 "\xE2\x80\x9Cquotes\xE2\x80\x9D, long "

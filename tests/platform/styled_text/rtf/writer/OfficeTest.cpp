@@ -15,8 +15,8 @@ class Office : public QuillbayTest {
 protected:
     void SetUp() override
     {
-        if (!OfficeDocuments::areConvertible())
-            GTEST_SKIP() << "no soffice here";
+        SKIP_WITHOUT_PACKAGE(
+            OfficeDocuments::areConvertible(), "libreoffice-writer or libreoffice-writer-nogui");
     }
 
     static QByteArray rtfOf(const AttributedString &text) { return writeRtf(text, 0, text.length()).value(); }
