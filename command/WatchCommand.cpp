@@ -4,6 +4,7 @@
 #include "command/CommandWords.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
+#include "platform/base/FileURL.h"
 #include "platform/selection/Selection.h"
 #include "platform/services/PasteboardWire.h"
 
@@ -57,7 +58,7 @@ QByteArray listOfFiles(const QByteArrayList &names, bool &isComplete)
             isComplete = false;
             continue;
         }
-        list += "file://" + absolutePath(name).toPercentEncoding("/") + "\r\n";
+        list += fileURLOfPath(absolutePath(name)).toEncoded() + "\r\n";
     }
     return list;
 }

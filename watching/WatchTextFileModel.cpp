@@ -2,10 +2,11 @@
 #include "watching/WatchTextFileModel.h"
 
 #include "front_end/file_types/FileTypes.h"
+#include "platform/base/FileURL.h"
+#include "platform/file_coordination/FileState.h"
 #include "preferences/QBYLogger.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QPointer>
 
 namespace {
@@ -116,7 +117,7 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
         failToLoad();
         return;
     }
-    const Result<AttributedString, LoadError> text = m_loader.load(QFile::encodeName(url.toLocalFile()));
+    const Result<AttributedString, LoadError> text = m_loader.load(pathOfFileURL(url));
     if (!text && m_coordinator && m_coordinator->triesAgain())
         return;
     if (!text) {
@@ -131,7 +132,7 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
 
 void WatchTextFileModel::_reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl &url)
 {
-    const bool exists = QFile::exists(url.toLocalFile());
+    const bool exists = fileStateAt(pathOfFileURL(url)).has_value();
     if (!exists && m_coordinator && m_coordinator->triesAgain())
         return;
     if (!exists) {
@@ -194,7 +195,7 @@ void WatchTextFileModel::presentedItemDidMoveToURL(const QUrl &newURL)
     renewAccess();
     const QPointer<WatchTextFileModel> self(this);
     if (WatchTextFileModelDelegate *const receiver = delegate())
-        receiver->currentlyWatchedTextFileWasRenamed(newURL.fileName(), *this);
+        receiver->currentlyWatchedTextFileWasRenamed(lastPathComponent(newURL), *this);
     if (!self)
         return;
     beginWatchingTextFile();

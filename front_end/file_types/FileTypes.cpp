@@ -2,35 +2,35 @@
 #include "front_end/file_types/FileTypes.h"
 
 #include "front_end/file_types/FileTypeNames.h"
+#include "platform/base/FileURL.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QMimeDatabase>
 
 #include <algorithm>
 #include <optional>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
-/// Absent for what is not there, is no local file or may not be read.
-std::optional<QFileInfo> readableFile(const QUrl &url)
+/// What the name leads to. Absent for what is not there, is no local file or may not be read.
+std::optional<mode_t> readableFile(const QUrl &url)
 {
-    if (!url.isLocalFile())
+    const QByteArray path = pathOfFileURL(url);
+    struct stat status;
+    if (path.isEmpty() || ::stat(path.constData(), &status) != 0 || ::access(path.constData(), R_OK) != 0)
         return std::nullopt;
-    // A folder's URL may end in a slash, behind which QFileInfo would see an empty name.
-    const QFileInfo file(QDir::cleanPath(url.toLocalFile()));
-    if (!file.exists() || !file.isReadable())
-        return std::nullopt;
-    return file;
+    return status.st_mode;
 }
 
 bool doesConformTo(const QUrl &url, QStringView typeName)
 {
-    const std::optional<QFileInfo> file = readableFile(url);
+    const std::optional<mode_t> file = readableFile(url);
     // A folder is a folder, and a device a device, whatever its name.
-    if (!file || !file->isFile())
+    if (!file || !S_ISREG(*file))
         return false;
-    const QList<QMimeType> types = QMimeDatabase().mimeTypesForFileName(file->fileName());
+    const QList<QMimeType> types = QMimeDatabase().mimeTypesForFileName(lastPathComponent(url));
     return std::any_of(types.begin(), types.end(),
         [name = typeName.toString()](const QMimeType &type) { return type.inherits(name); });
 }
@@ -50,8 +50,8 @@ bool QBYExtension::doesConformToRTFFileUTI(const QUrl &url)
 bool QBYExtension::doesConformToRTFDFileUTI(const QUrl &url)
 {
     // The MIME database knows folders only as folders.
-    const std::optional<QFileInfo> file = readableFile(url);
-    return file && file->isDir() && file->suffix().compare(u"rtfd", Qt::CaseInsensitive) == 0;
+    const std::optional<mode_t> file = readableFile(url);
+    return file && S_ISDIR(*file) && lastPathComponent(url).endsWith(u".rtfd", Qt::CaseInsensitive);
 }
 
 bool QBYExtension::doesConformToPlainTextFileUTI(const QUrl &url)

@@ -2,6 +2,7 @@
 #include "front_end/provider/QBYServiceProviderAppDelegate.h"
 
 #include "front_end/file_types/FileTypes.h"
+#include "platform/base/FileURL.h"
 
 #include <algorithm>
 #include <optional>
@@ -12,8 +13,8 @@ namespace {
 /// The file: URL of the path alone; absent where there is none.
 std::optional<QUrl> filePathURL(const QUrl &url)
 {
-    const QString path = url.toLocalFile();
-    return path.isEmpty() ? std::nullopt : std::optional(QUrl::fromLocalFile(path));
+    const QByteArray path = pathOfFileURL(url);
+    return path.isEmpty() ? std::nullopt : std::optional(fileURLOfPath(path));
 }
 
 bool isOfAcceptedKind(const QUrl &url)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/CoordinatedAccess.h"
 
+#include "platform/base/FileURL.h"
 #include "platform/file_coordination/FilePresentations.h"
 #include "platform/file_coordination/WriterLock.h"
 
-#include <QFile>
 #include <QScopedValueRollback>
 
 #include <utility>
@@ -17,11 +17,6 @@ constexpr std::chrono::milliseconds patienceWithMissing = ChangePolicy::grace + 
 // Whatever the obstacles are, in all.
 constexpr std::chrono::seconds longestWait{10};
 constexpr int mostReads = 3; // of a file that changes while it is read; its next change is told anyway
-
-QByteArray pathOf(const QUrl &url)
-{
-    return QFile::encodeName(url.toLocalFile());
-}
 
 bool isUnchanged(const std::optional<FileState> &before, const std::optional<FileState> &after)
 {
@@ -36,7 +31,7 @@ std::optional<CoordinationError> CoordinatedAccess::read(
     if (m_isUnderWay)
         return std::nullopt;
     const QScopedValueRollback underWay(m_isUnderWay, true);
-    const QByteArray path = pathOf(url);
+    const QByteArray path = pathOfFileURL(url);
     const Relinquishment relinquishment(path, Relinquishment::Party::Reader, m_presenter);
     if (!waitFor(relinquishment))
         return CoordinationError{CoordinationError::Cause::NotRelinquished};
@@ -89,7 +84,7 @@ std::optional<CoordinationError> CoordinatedAccess::write(
     if (m_isUnderWay)
         return std::nullopt;
     const QScopedValueRollback underWay(m_isUnderWay, true);
-    const Relinquishment relinquishment(pathOf(url), Relinquishment::Party::Writer, m_presenter);
+    const Relinquishment relinquishment(pathOfFileURL(url), Relinquishment::Party::Writer, m_presenter);
     if (!waitFor(relinquishment))
         return CoordinationError{CoordinationError::Cause::NotRelinquished};
     if (!m_isAbandoned)

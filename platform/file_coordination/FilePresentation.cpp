@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/FilePresentation.h"
 
+#include "platform/base/FileURL.h"
 #include "platform/file_coordination/FilePlaces.h"
 #include "platform/file_coordination/FilePresentations.h"
 #include "platform/file_coordination/HeldFiles.h"
@@ -38,7 +39,7 @@ FilePresentation::FilePresentation(FilePresenter &presenter, Clock &clock)
 
 void FilePresentation::begin()
 {
-    follow(QFile::encodeName(m_presenter->presentedItemURL().toLocalFile()));
+    follow(pathOfFileURL(m_presenter->presentedItemURL()));
 }
 
 void FilePresentation::end()
@@ -189,7 +190,7 @@ void FilePresentation::tellMove(const FileNews &news)
 {
     FilePresenter *const presenter = m_presenter;
     follow(news.path);
-    presenter->presentedItemDidMoveToURL(QUrl::fromLocalFile(QFile::decodeName(news.path)));
+    presenter->presentedItemDidMoveToURL(fileURLOfPath(news.path));
     if (!news.changedToo)
         return;
     // By now the presenter may have gone, or have been added anew.

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/SecurityScopedBookmark.h"
 
+#include "platform/base/FileURL.h"
+
 #include <QDataStream>
-#include <QFile>
+#include <QIODevice>
 
 namespace {
 
@@ -49,14 +51,14 @@ QString causeText(const BookmarkError &error)
 bool SecurityScopedURL::startAccessingSecurityScopedResource()
 {
     if (!m_heldFile)
-        m_heldFile = HeldFile::hold(QFile::encodeName(m_url.toLocalFile()), m_bookmarked);
+        m_heldFile = HeldFile::hold(pathOfFileURL(m_url), m_bookmarked);
     return m_heldFile != nullptr;
 }
 
 Result<QByteArray, BookmarkError> bookmarkDataOfURL(const QUrl &url)
 {
-    const QByteArray path = QFile::encodeName(url.toLocalFile());
-    if (!url.isLocalFile() || !path.startsWith('/'))
+    const QByteArray path = pathOfFileURL(url);
+    if (path.isEmpty())
         return BookmarkError{BookmarkError::Cause::NotALocalFile};
     const std::optional<FileIdentity> file = fileIdentityAt(path);
     if (!file)
@@ -78,5 +80,5 @@ Result<SecurityScopedURL, BookmarkError> URLByResolvingBookmarkData(const QByteA
         path = HeldFile::whereabouts(bookmark->file);
     if (!path)
         return BookmarkError{BookmarkError::Cause::NoSuchFile};
-    return SecurityScopedURL(QUrl::fromLocalFile(QFile::decodeName(*path)), bookmark->file);
+    return SecurityScopedURL(fileURLOfPath(*path), bookmark->file);
 }

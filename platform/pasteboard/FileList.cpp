@@ -1,6 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pasteboard/FileList.h"
 
+namespace {
+
+/// Some programs leave the bytes of a path as they are. QUrl takes text, which they need not be.
+QByteArray withCodesAboveAscii(const QByteArray &entry)
+{
+    QByteArray ascii;
+    for (const char byte : entry) {
+        if (static_cast<uchar>(byte) < 0x80)
+            ascii += byte;
+        else
+            ascii += QByteArray(1, byte).toPercentEncoding();
+    }
+    return ascii;
+}
+
+} // namespace
+
 QList<QUrl> FileList::fromUriList(const QByteArray &bytes)
 {
     QList<QUrl> urls;
@@ -11,7 +28,7 @@ QList<QUrl> FileList::fromUriList(const QByteArray &bytes)
             entry.chop(1);
         if (entry.isEmpty() || entry.startsWith('#'))
             continue;
-        const QUrl url(QString::fromUtf8(entry), QUrl::TolerantMode);
+        const QUrl url = QUrl::fromEncoded(withCodesAboveAscii(entry));
         if (url.isValid() && !url.isRelative())
             urls.append(url);
     }

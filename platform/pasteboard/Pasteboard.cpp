@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pasteboard/Pasteboard.h"
 
+#include "platform/base/FileURL.h"
 #include "platform/pasteboard/FileList.h"
 #include "platform/pasteboard/MediaType.h"
 #include "platform/styled_text/PlainTextReader.h"
@@ -78,16 +79,6 @@ QByteArray bytesOf(const Pasteboard::Forms &forms, QStringView wanted)
     return found == forms.end() ? QByteArray() : found->second;
 }
 
-/// Absent for what lies on another machine or is no file. RFC 8089: "localhost" is this machine.
-std::optional<QUrl> localFile(const QUrl &url)
-{
-    if (!url.isLocalFile() || url.path().isEmpty())
-        return std::nullopt;
-    if (!url.host().isEmpty() && url.host() != QStringLiteral("localhost"))
-        return std::nullopt;
-    return QUrl::fromLocalFile(url.path(QUrl::FullyDecoded));
-}
-
 } // namespace
 
 std::optional<AttributedString> Pasteboard::readAttributedString() const
@@ -109,8 +100,9 @@ QList<QUrl> Pasteboard::readFileURLs() const
     QList<QUrl> files;
     for (const auto &[type, readUrls] : readers) {
         for (const QUrl &url : readUrls(bytesOf(m_forms, type))) {
-            if (const std::optional<QUrl> file = localFile(url))
-                files.append(*file);
+            // Skips what lies on another machine or is no file.
+            if (const QByteArray path = pathOfFileURL(url); !path.isEmpty())
+                files.append(fileURLOfPath(path));
         }
         if (!files.isEmpty())
             break;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "presentation/word_counter/CountPayload.h"
 
+#include "platform/base/FileURL.h"
 #include "platform/files/FileContents.h"
 #include "platform/logging/LogChannel.h"
 #include "platform/styled_text/rtfd/RtfdWriter.h"
@@ -18,17 +19,6 @@ WordCounterServiceProtocol::Data sealed(const QByteArray &bytes)
     return std::make_shared<const SealedMemory>(std::move(memory).value());
 }
 
-/// The path's bytes, which need not be text in any encoding; empty where the URL names no file of this
-/// machine.
-QByteArray pathOf(const QUrl &url)
-{
-    const QString host = url.host();
-    if (!url.isLocalFile() || !(host.isEmpty() || host == u"localhost"))
-        return {};
-    const QByteArray path = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
-    return path.contains('\0') ? QByteArray() : path;
-}
-
 } // namespace
 
 WordCounterServiceProtocol::Data CountPayload::ofText(const AttributedString &text)
@@ -39,7 +29,7 @@ WordCounterServiceProtocol::Data CountPayload::ofText(const AttributedString &te
 
 WordCounterServiceProtocol::Data CountPayload::ofFile(const QUrl &url)
 {
-    const QByteArray path = pathOf(url);
+    const QByteArray path = pathOfFileURL(url);
     if (path.isEmpty())
         return nullptr;
     const auto contents = readFile(path);

@@ -150,11 +150,12 @@ TEST_F(WatchTextFileModelLifeTest, AnAccessThatCannotBeOpenedIsLoggedAndNoBookma
     EXPECT_THAT(takeLog(), ElementsAre(m_movedMessage));
 }
 
-TEST_F(WatchTextFileModelLifeTest, ABookmarkThatCannotBeResolvedIsLoggedAndNoneKept)
+TEST_F(WatchTextFileModelLifeTest, ANameThatNoFileCanHaveIsLoggedAndNoBookmarkKept)
 {
-    // The system takes the name to end where the bookmark may not.
+    // The system would take the name to end at the NUL.
     const auto model = makeModel(m_path + QChar(u'\0') + QStringLiteral("more"));
-    EXPECT_THAT(takeLog(), ElementsAre(QStringLiteral("error Error resolving bookmark: is not a bookmark")));
+    EXPECT_THAT(takeLog(),
+        ElementsAre(QStringLiteral("error Error getting bookmark data: is not a file of this machine")));
     model->presentedItemDidMoveToURL(QUrl::fromLocalFile(m_path));
     EXPECT_THAT(takeLog(), ElementsAre(m_movedMessage));
 }

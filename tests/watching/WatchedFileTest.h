@@ -3,6 +3,7 @@
 // and the model's log with its debug messages.
 #pragma once
 
+#include "platform/base/FileURL.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/watching/RecordingDelegate.h"

@@ -4,13 +4,12 @@
 
 #include "front_end/file_types/FileTypes.h"
 #include "front_end/file_types/OpenPanelExtension.h"
+#include "platform/base/FileURL.h"
 #include "platform/dispatch/MainQueue.h"
 #include "platform/logging/LogChannel.h"
 #include "platform/styled_text/loading/DocumentLoader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "watching/speech/ApplicationExtension.h"
-
-#include <QFile>
 
 namespace {
 
@@ -38,7 +37,7 @@ WatchTextFileMenuBarController::~WatchTextFileMenuBarController() = default;
 
 void WatchTextFileMenuBarController::watchWithTextFileURL(const QUrl &url)
 {
-    setTitleOfPanels(url.fileName());
+    setTitleOfPanels(lastPathComponent(url));
     readFirst(url);
     if (m_watchFileModel) {
         m_watchFileModel->setTextFileURLToWatch(url, true);
@@ -60,7 +59,7 @@ void WatchTextFileMenuBarController::readFirst(const QUrl &url)
         countDocX(url);
         return;
     }
-    const Result<AttributedString, LoadError> text = loadDocument(QFile::encodeName(url.toLocalFile()));
+    const Result<AttributedString, LoadError> text = loadDocument(pathOfFileURL(url));
     if (text)
         count(text.value());
     else

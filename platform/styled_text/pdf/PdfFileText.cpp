@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/pdf/PdfFileText.h"
 
+#include "platform/base/FileURL.h"
 #include "platform/files/FileContents.h"
 #include "platform/logging/LogChannel.h"
 #include "platform/styled_text/pdf/PdfReader.h"
-
-#include <QFile>
 
 namespace {
 
 /// Empty where the file cannot be read. Never waits, as opening a pipe by its name would.
 QByteArray contentsOf(const QUrl &url)
 {
-    if (!url.isLocalFile())
-        return {};
-    Result<QByteArray, FileError> contents = readFile(QFile::encodeName(url.toLocalFile()));
+    Result<QByteArray, FileError> contents = readFile(pathOfFileURL(url));
     return contents ? std::move(contents).value() : QByteArray();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "front_end/file_types/FileTypes.h"
 
+#include "platform/base/FileURL.h"
 #include "tests/harness/QuillbayTest.h"
 
 #include <QDir>
@@ -47,6 +48,17 @@ TEST_F(FileTypesTest, RichTextIsRichTextAndText)
 {
     EXPECT_THAT(kindsOfFile(QStringLiteral("a.rtf")), ElementsAre(m_rtf, m_text));
     EXPECT_THAT(kindsOfFile(QStringLiteral("A.RTF")), ElementsAre(m_rtf, m_text));
+}
+
+TEST_F(FileTypesTest, ANameNeedNotBeUtf8NorPlain)
+{
+    for (const char *const name :
+        {"caf\xE9", "-a", "a#b", "a?b", "a%b", "a%E9", "a\nb", "a\\b", "a b", "\xFF\xFE"}) {
+        const QByteArray path = writeFileOfBytes(QByteArray(name) + ".rtf", "x");
+        EXPECT_THAT(kindsOf(fileURLOfPath(path)), ElementsAre(m_rtf, m_text)) << name;
+        const QByteArray folder = writeFileOfBytes(QByteArray(name) + ".rtfd/TXT.rtf", "x").chopped(8);
+        EXPECT_THAT(kindsOf(fileURLOfPath(folder)), ElementsAre(m_rtfd)) << name;
+    }
 }
 
 TEST_F(FileTypesTest, AWordDocumentIsAWordDocumentAlone)

@@ -2,6 +2,7 @@
 // The service that watches files, as the delegate offers it.
 #include "front_end/provider/QBYServiceProviderAppDelegate.h"
 
+#include "platform/base/FileURL.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/connection/ServiceStandIn.h"
 #include "tests/platform/views/FakeDesktop.h"
@@ -227,4 +228,15 @@ TEST_F(WatchFileService, AHundredFilesAreFollowedByAHundredWatchers)
     service.waitForRequests(200);
     EXPECT_TRUE(waitUntil(allRest));
     EXPECT_THAT(desktop.notes, IsEmpty());
+}
+
+TEST_F(WatchFileService, AFileWhoseNameIsNotUtf8IsWatchedOnce)
+{
+    const QByteArray url = fileURLOfPath(writeFileOfBytes("caf\xE9.txt", "One two.")).toEncoded();
+    EXPECT_THAT(url.toStdString(), testing::EndsWith("/caf%E9.txt"));
+    EXPECT_EQ(watchList(url + "\r\n" + QByteArray(url).replace("%E9", "\xE9") + "\r\n"), nothingReported);
+    ASSERT_THAT(delegate.watchTextFileControllers(), SizeIs(1));
+    const auto &watcher = delegate.watchTextFileControllers().front();
+    EXPECT_EQ(watcher->urlBeingWatched().toEncoded(), url);
+    EXPECT_TRUE(watcher->watchFileModel()->isWatchingTextFile());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/SecurityScopedBookmark.h"
 
+#include "platform/base/FileURL.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/file_coordination/RecordingPresenter.h"
@@ -153,4 +154,17 @@ TEST_F(SecurityScopedBookmarkTest, DamagedDataIsNoBookmark)
     QByteArray otherSignature = data;
     otherSignature[0] = 'x';
     EXPECT_EQ(failure(otherSignature), BookmarkError::Cause::Damaged);
+}
+
+TEST_F(SecurityScopedBookmarkTest, LeadsToANameThatIsNotUtf8)
+{
+    const QUrl there = fileURLOfPath(writeFileOfBytes("caf\xE9.txt", "text"));
+    const Result<QByteArray, BookmarkError> data = bookmarkDataOfURL(there);
+    ASSERT_TRUE(data);
+    SecurityScopedURL url = resolved(data.value());
+    EXPECT_EQ(url.url(), there);
+    EXPECT_TRUE(url.startAccessingSecurityScopedResource());
+    const QByteArray moved = QFile::encodeName(m_elsewhere) + "\xE8";
+    ASSERT_EQ(::rename(pathOfFileURL(there).constData(), moved.constData()), 0);
+    EXPECT_EQ(resolved(data.value()).url(), fileURLOfPath(moved));
 }

@@ -34,6 +34,15 @@ TEST(PasteboardFiles, MayBeWrittenWithoutPercents)
         pathsIn({{uriList, "file:///my caf\xC3\xA9.txt\n"}}), QStringList(QStringLiteral("/my café.txt")));
 }
 
+TEST(PasteboardFiles, MayHaveNamesThatAreNotUtf8)
+{
+    for (const char *const list : {"file:///caf%E9.txt\r\n", "file:///caf\xE9.txt\r\n"}) {
+        const QList<QUrl> files = Pasteboard({{uriList, list}}).readFileURLs();
+        ASSERT_EQ(files.size(), 1) << list;
+        EXPECT_EQ(files.first().toEncoded(), "file:///caf%E9.txt");
+    }
+}
+
 TEST(PasteboardFiles, MayEndInANul)
 {
     EXPECT_EQ(

@@ -3,6 +3,7 @@
 #include "tests/watching/watch_controller/WatcherTest.h"
 
 #include "front_end/file_types/OpenPanelExtension.h"
+#include "platform/base/FileURL.h"
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -139,4 +140,18 @@ TEST_F(FailureTest, StoppedWhileItAsksItFinishesAgainAndThatIsAll)
     m_desktop.confirmOpenPanel({QUrl::fromLocalFile(writeFile(QStringLiteral("other.txt"), "A"))});
     EXPECT_EQ(m_registry.finished, 1);
     EXPECT_EQ(m_desktop.numberOnScreen, 0);
+}
+
+TEST_F(FailureTest, AnotherFileMayHaveANameThatIsNotUtf8)
+{
+    const Controller &watcher = watchAndLose();
+    const QUrl other = fileURLOfPath(writeFileOfBytes("caf\xE9.txt", "Some other words"));
+    m_desktop.pressAlertButton(1);
+    m_desktop.confirmOpenPanel({other});
+    EXPECT_EQ(watcher.urlBeingWatched(), other);
+    writeFileOfBytes("caf\xE9.txt", "More");
+    pass();
+    m_service->waitForRequests(2);
+    waitForCount(watcher);
+    EXPECT_TRUE(watcher.watchFileModel()->isWatchingTextFile());
 }
