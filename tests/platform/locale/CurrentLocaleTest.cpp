@@ -3,9 +3,42 @@
 
 #include "tests/harness/QuillbayTest.h"
 
+#include <QDir>
+#include <QFile>
+
 #include <clocale>
 
-class CurrentLocaleTest : public QuillbayTest { };
+namespace {
+
+class CurrentLocaleTest : public QuillbayTest {
+protected:
+    /// Changes a variable, or unsets it, and has it take effect.
+    static void change(const char *variable, const char *value)
+    {
+        if (value)
+            ::setenv(variable, value, 1);
+        else
+            ::unsetenv(variable);
+        takeLocaleFromEnvironment();
+    }
+    /// From then on that locale is the only one that is installed, besides "C".
+    static void generateLocale(const QByteArray &name)
+    {
+        const QByteArray folder = QFile::encodeName(world().root()) + "/locales";
+        ASSERT_TRUE(QDir().mkpath(QFile::decodeName(folder)));
+        const ChildProcess::Outcome outcome =
+            ChildProcess(QStringLiteral("localedef"))
+                .run({"--no-archive", "-i", name, "-f", "UTF-8", folder + '/' + name + ".UTF-8"});
+        ASSERT_EQ(outcome.exitStatus, 0) << outcome.errors.toStdString();
+        qputenv("LOCPATH", folder);
+    }
+    static bool canGenerateLocales()
+    {
+        return QFile::exists(QStringLiteral("/usr/share/i18n/locales/de_DE"));
+    }
+};
+
+} // namespace
 
 TEST_F(CurrentLocaleTest, NamesLanguageAndRegionWithoutTheCharset)
 {
@@ -31,17 +64,26 @@ TEST_F(CurrentLocaleTest, FollowsAChangeWithinTheProcess)
 {
     setLocale("en_US.UTF-8");
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("en_US"));
-    qputenv("LC_ALL", "de_DE.UTF-8");
+    change("LC_ALL", "de_DE.UTF-8");
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("de_DE"));
-    qunsetenv("LC_ALL");
+    change("LC_ALL", nullptr);
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("en_US"));
+}
+
+TEST_F(CurrentLocaleTest, WhatIsInForceComesBeforeTheEnvironment)
+{
+    SKIP_WITHOUT_PACKAGE(canGenerateLocales(), "locales");
+    generateLocale("de_DE");
+    setLocale("de_DE.UTF-8");
+    ASSERT_STREQ(std::setlocale(LC_MESSAGES, nullptr), "de_DE.UTF-8");
+    qputenv("LC_ALL", "fr_FR.UTF-8"); // and nobody has called setlocale()
+    EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("de_DE"));
 }
 
 TEST_F(CurrentLocaleTest, FollowsSetlocaleOverTheEnvironment)
 {
     setLocale("de_DE.UTF-8");
-    if (!std::setlocale(LC_ALL, "C.UTF-8"))
-        GTEST_SKIP() << "the locale C.UTF-8 is not installed";
+    ASSERT_TRUE(std::setlocale(LC_ALL, "C.UTF-8"));
     // C.UTF-8 is a C locale: as under "C" itself, the environment still speaks.
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("de_DE"));
 }
@@ -49,11 +91,11 @@ TEST_F(CurrentLocaleTest, FollowsSetlocaleOverTheEnvironment)
 TEST_F(CurrentLocaleTest, LcAllComesBeforeLcMessagesBeforeLangAndEmptyCountsAsUnset)
 {
     setLocale("en_US.UTF-8");
-    qputenv("LC_MESSAGES", "fr_FR.UTF-8");
+    change("LC_MESSAGES", "fr_FR.UTF-8");
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("fr_FR"));
-    qputenv("LC_ALL", "de_AT.UTF-8");
+    change("LC_ALL", "de_AT.UTF-8");
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("de_AT"));
-    qputenv("LC_ALL", "");
+    change("LC_ALL", "");
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("fr_FR"));
 }
 
