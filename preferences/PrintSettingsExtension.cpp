@@ -32,7 +32,8 @@ std::optional<QBYPaper> QBYExtension::paperObjectForPaperName(
 
 std::optional<QBYPaper> QBYExtension::currentPaperObject(PrintSettings &printSettings)
 {
-    std::optional<QString> name = QBYUserDefaultsController::paperNameForLineMeasuring();
+    const auto preference = QBYUserDefaultsController::readPaperNameForLineMeasuring();
+    std::optional<QString> name = preference ? preference.value() : std::nullopt;
     if (!name) {
         LogChannel::standard().error(u"Error retrieving current paper name. Defaulting to Letter.");
         name = QStringLiteral("Letter");
@@ -45,6 +46,8 @@ std::optional<QBYPaper> QBYExtension::currentPaperObject(PrintSettings &printSet
     LogChannel::standard().error(u"Error instantiating paper object...attempt to restore default.");
     if (!printer.defaultPaper || !printer.defaultPaper->ppdName)
         return std::nullopt;
-    QBYUserDefaultsController::setCurrentPaperNamePreference(*printer.defaultPaper->ppdName);
+    // A preference that could not be read may well name an available paper.
+    if (preference)
+        QBYUserDefaultsController::setCurrentPaperNamePreference(*printer.defaultPaper->ppdName);
     return paperNamed(printer.papers, *printer.defaultPaper->ppdName);
 }

@@ -22,7 +22,8 @@ std::optional<QBYPaper> paperObjectForPaperName(PrintSettings &printSettings, co
 ///
 /// If the printer lacks it, the printer's default paper becomes the preference, which is announced, and the
 /// result; absent if that has no name. While the printer is not answering nobody knows what it lacks: then
-/// nothing is stored, and the result is absent unless the built-in catalogue has the paper.
+/// nothing is stored, and the result is absent unless the built-in catalogue has the paper. Nor is anything
+/// stored where the preference cannot be read, which counts as none for this call.
 std::optional<QBYPaper> currentPaperObject(PrintSettings &printSettings);
 
 } // namespace QBYExtension

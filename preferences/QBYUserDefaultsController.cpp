@@ -157,8 +157,16 @@ void QBYUserDefaultsController::setSayWordCountOutLoudOnSaveInWatchFileMode(bool
 
 std::optional<QString> QBYUserDefaultsController::paperNameForLineMeasuring()
 {
-    const auto value = suite().objectForKey(keyOf(Preference::PaperName));
-    const QString *name = value ? std::get_if<QString>(&*value) : nullptr;
+    const auto name = readPaperNameForLineMeasuring();
+    return name ? name.value() : std::nullopt;
+}
+
+Result<std::optional<QString>, SuiteFault> QBYUserDefaultsController::readPaperNameForLineMeasuring()
+{
+    const auto value = suite().readObjectForKey(keyOf(Preference::PaperName));
+    if (!value)
+        return value.error();
+    const QString *name = value.value() ? std::get_if<QString>(&*value.value()) : nullptr;
     return name ? std::optional(*name) : std::nullopt;
 }
 

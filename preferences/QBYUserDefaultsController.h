@@ -63,6 +63,8 @@ public:
 
     /// The printing system's name of the paper on which lines are counted, such as "Letter".
     static std::optional<QString> paperNameForLineMeasuring();
+    /// The same, with a fault where nobody can tell whether there is such a name.
+    static Result<std::optional<QString>, SuiteFault> readPaperNameForLineMeasuring();
     static void setCurrentPaperNamePreference(const QString &paperName);
 
     // In inches; always finite, but not checked against any paper. The setters post nothing, deliberately.

@@ -32,19 +32,21 @@ UserDefaults::UserDefaults(const QString &suiteName, std::chrono::milliseconds p
 {
 }
 
-std::optional<DefaultsValue> UserDefaults::objectForKey(const QString &key) const
+Result<std::optional<DefaultsValue>, SuiteFault> UserDefaults::readObjectForKey(const QString &key) const
 {
     if (key.size() > maximalKeyLength)
-        return std::nullopt;
+        return std::optional<DefaultsValue>();
     const std::lock_guard guard(m_mutex);
     m_database.setPatience(patience(m_reading));
     auto value = m_database.read(key);
-    if (!value) {
-        note(m_reading, value.error());
-        return std::nullopt;
-    }
-    note(m_reading, std::nullopt);
-    return std::move(value).value();
+    note(m_reading, value ? std::nullopt : std::optional(value.error()));
+    return value;
+}
+
+std::optional<DefaultsValue> UserDefaults::objectForKey(const QString &key) const
+{
+    auto value = readObjectForKey(key);
+    return value ? std::move(value).value() : std::nullopt;
 }
 
 bool UserDefaults::boolForKey(const QString &key) const

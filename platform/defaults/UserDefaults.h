@@ -33,7 +33,10 @@ public:
     UserDefaults(const UserDefaults &) = delete;
     UserDefaults &operator=(const UserDefaults &) = delete;
 
-    /// The value as it was written; absent if the key never was, or is longer than any that can be written.
+    /// The value as it was written; absent if the key never was, or is longer than any that can be written. A
+    /// fault where nobody can tell: the key may have a value.
+    [[nodiscard]] Result<std::optional<DefaultsValue>, SuiteFault> readObjectForKey(const QString &key) const;
+    /// The same, absent also after a fault.
     [[nodiscard]] std::optional<DefaultsValue> objectForKey(const QString &key) const;
     /// False for an absent value; others as boolValue() says.
     [[nodiscard]] bool boolForKey(const QString &key) const;

@@ -3,7 +3,9 @@
 #include "platform/notifications/DistributedNotificationCenter.h"
 #include "platform/notifications/NotificationObserver.h"
 #include "preferences/QBYUserDefaultsController.h"
+#include "tests/harness/CallingLogSink.h"
 #include "tests/harness/QuillbayTest.h"
+#include "tests/preferences/UnreachableSuite.h"
 
 #include <functional>
 
@@ -12,6 +14,36 @@ using Controller = QBYUserDefaultsController;
 class PreferenceNotificationTest : public QuillbayTest {
 protected:
     void SetUp() override { SessionBus::start(); }
+
+    // The change notification and the marker, as "change" and "write", in the order in which other processes
+    // hear of them. The marker is posted when the setter's write is under way: it fails, and says so in the
+    // log.
+    static QStringList postsAroundAWriteBy(const std::function<void()> &setter)
+    {
+        const QString marker = QStringLiteral("QBYMarkerNotification");
+        const QString last = QStringLiteral("QBYLastNotification");
+        QStringList posts;
+        bool isOver = false;
+        const NotificationObserver changes(QBYPreferencesChangedNotification);
+        const NotificationObserver markers(marker);
+        const NotificationObserver ends(last);
+        const auto note = [&posts](const char *post) {
+            return [&posts, post] { posts << QString::fromLatin1(post); };
+        };
+        QObject::connect(&changes, &NotificationObserver::posted, &changes, note("change"));
+        QObject::connect(&markers, &NotificationObserver::posted, &markers, note("write"));
+        QObject::connect(&ends, &NotificationObserver::posted, &ends, [&isOver] { isOver = true; });
+        {
+            const UnreachableSuite obstacle;
+            const CallingLogSink sink(
+                [&marker](const LogRecord &) { DistributedNotificationCenter::post(marker); });
+            setter();
+        }
+        DistributedNotificationCenter::post(last);
+        EXPECT_TRUE(waitUntil([&isOver] { return isOver; }));
+        Controller::setLeftMarginForPaperSizeLineMeasuring(0); // the next failure is logged anew
+        return posts;
+    }
 
     // How many change notifications other processes hear of a piece of work. The bus keeps the order, so none
     // is on its way any more when the marker that is posted after it has come.
@@ -78,10 +110,34 @@ TEST_F(PreferenceNotificationTest, WhenTheNotificationOfAnotherProcessArrivesIts
     const NotificationObserver observer(QBYPreferencesChangedNotification);
     QObject::connect(&observer, &NotificationObserver::posted, &observer,
         [&seen] { seen.push_back(Controller::isShowLineCountPreferenceOn()); });
-    const auto outcome = ChildProcess(testProgram(QStringLiteral("preference_user"))).run({}, "hide lines\n");
-    EXPECT_EQ(outcome.exitStatus, 0);
+    ChildProcess user(testProgram(QStringLiteral("preference_user")));
+    user.start({});
+    EXPECT_EQ(user.readLine(), "ready");
+    user.writeLine("hide lines");
     EXPECT_TRUE(waitUntil([&seen] { return !seen.empty(); }));
     EXPECT_EQ(seen, std::vector<bool>{false});
+    EXPECT_EQ(user.finish().exitStatus, 0);
+}
+
+TEST_F(PreferenceNotificationTest, EverySetterWritesBeforeItPosts)
+{
+    Controller::configureUserDefaultsOnApplicationLaunch();
+    const std::vector<std::function<void()>> setters{
+        [] { Controller::setShowCharacterCountPreference(false); },
+        [] { Controller::setShowCharacterCountIncludingWhitespacePreference(false); },
+        [] { Controller::setShowSentencesCountPreference(false); },
+        [] { Controller::setShowLineCountPreference(false); },
+        [] { Controller::setShowHardLineBreakCountPreference(false); },
+        [] { Controller::setShowParagraphCountPreference(false); },
+        [] { Controller::setShowHardIndentParagraphCountPreference(false); },
+        [] { Controller::setSayWordCountOutLoudOnSaveInWatchFileMode(true); },
+        [] { Controller::setMinNumberOfSentencesForParagraphCount(2); },
+        [] { Controller::setCurrentPaperNamePreference(QStringLiteral("A4")); },
+    };
+    for (size_t i = 0; i < setters.size(); ++i)
+        EXPECT_EQ(
+            postsAroundAWriteBy(setters[i]), QStringList({QStringLiteral("write"), QStringLiteral("change")}))
+            << "setter " << i;
 }
 
 TEST_F(PreferenceNotificationTest, AChangeThatIsNotAnnouncedIsReadByOtherProcessesAllTheSame)

@@ -6,9 +6,11 @@
 #include "platform/printing/CupsPrinterSource.h"
 #include "preferences/PreferenceTable.h"
 #include "preferences/QBYUserDefaultsController.h"
+#include "tests/harness/CallingLogSink.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/printing/PrintServer.h"
 #include "tests/preferences/PaperTestPrinter.h"
+#include "tests/preferences/UnreachableSuite.h"
 
 #include <cerrno>
 
@@ -118,6 +120,34 @@ TEST_F(PrintSettingsExtensionTest, WithoutAPreferenceAndWithoutLetterTheDefaultI
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("A4"));
 }
 
+TEST_F(PrintSettingsExtensionTest, AfterAReadThatFailedNothingIsStored)
+{
+    m_print.answer(printerWith({"A4", "A5"}));
+    Controller::setCurrentPaperNamePreference(QStringLiteral("A5"));
+    UnreachableSuite obstacle;
+    {
+        // From the failed read on, the suite can be read and written.
+        const CallingLogSink sink([&obstacle](const LogRecord &) { obstacle.end(); });
+        EXPECT_EQ(currentName(), QStringLiteral("A4")) << "for this call";
+    }
+    EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("A5"));
+    EXPECT_EQ(currentName(), QStringLiteral("A5"));
+}
+
+TEST_F(PrintSettingsExtensionTest, OfTwoPapersOfOneNameTheFirstIsTheDefaultWhicheverThePrinterMeant)
+{
+    Printer printer = printerWith({"Letter", "Card", "Card"});
+    printer.papers[1].identifier = QStringLiteral("first");
+    printer.papers[2].identifier = QStringLiteral("second");
+    printer.defaultPaper = printer.papers[2];
+    m_print.answer(printer);
+    Controller::setCurrentPaperNamePreference(QStringLiteral("A5"));
+    const std::optional<QBYPaper> paper = currentPaper();
+    ASSERT_TRUE(paper);
+    EXPECT_EQ(paper->paperID(), QStringLiteral("first"));
+    EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("Card"));
+}
+
 TEST_F(PrintSettingsExtensionTest, WithoutAPrinterThePreferenceIsRepairedFromTheCatalogue)
 {
     ::setenv("PAPERSIZE", "a5", 1);
@@ -158,8 +188,7 @@ class PrintServerPreferencesTest : public QuillbayTest {
 protected:
     void SetUp() override
     {
-        if (!PrintServer::isInstalled())
-            GTEST_SKIP() << "no CUPS server is installed: packages cups, cups-daemon and cups-client";
+        SKIP_WITHOUT_PACKAGE(PrintServer::isInstalled(), "cups, cups-daemon, cups-client");
     }
 
     static std::optional<DefaultsValue> stored(Preference preference)
