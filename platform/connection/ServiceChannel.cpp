@@ -10,6 +10,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QDBusUnixFileDescriptor>
+#include <QThread>
 
 #include <algorithm>
 #include <climits>
@@ -52,7 +53,12 @@ std::shared_ptr<ServiceChannel> ServiceChannel::make(const QString &serviceName)
 {
     std::shared_ptr<ServiceChannel> channel(
         new ServiceChannel(serviceName), [](ServiceChannel *ended) { ended->deleteLater(); });
-    channel->moveToThread(ConnectionThread::shared());
+    QThread *const thread = ConnectionThread::shared();
+    channel->moveToThread(thread);
+    // A handler may own what owns the channel, and not every request is answered before the process ends.
+    connect(
+        thread, &QThread::finished, channel.get(), [&replies = channel->m_replies] { replies.close(); },
+        Qt::DirectConnection);
     return channel;
 }
 

@@ -18,13 +18,6 @@ void WordCounterViewController::openConnectionToWordCounterService()
     _connectionToWordCounterService->resume();
 }
 
-void WordCounterViewController::dropConnectionToWordCounterService()
-{
-    if (_connectionToWordCounterService)
-        _connectionToWordCounterService->invalidate();
-    _connectionToWordCounterService.reset();
-}
-
 void WordCounterViewController::asyncUpdateStatsWithAttributedString(
     const AttributedString &attributedString, Completion completion)
 {
@@ -51,32 +44,35 @@ void WordCounterViewController::asyncUpdateStats(const QString &queueLabel,
     // The queue's thread may be the last to let them go.
     const auto panel = releasedOnMainThread(shared_from_this());
     const HeldCompletion held = releasedOnMainThread(std::move(completion));
-    const std::weak_ptr acceptedOver(_connectionToWordCounterService);
-    DispatchQueue(queueLabel).async([panel, held, makeData, request, acceptedOver] {
-        MainQueue::async([panel, held, request, acceptedOver, data = makeData()] {
-            if ((*panel)->isOpen(acceptedOver)) // otherwise it was stopped meanwhile
-                (*panel)->send(request, data, held);
-        });
+    DispatchQueue(queueLabel).async([panel, held, makeData, request] {
+        MainQueue::async([panel, held, request, data = makeData()] { (*panel)->send(request, data, held); });
     });
+}
+
+// Over the connection of this moment: a request that was stopped while its data were made is sent after all
+// where another one has opened a connection since.
+void WordCounterViewController::send(CountRequest request, const Data &data, const HeldCompletion &completion)
+{
+    const std::shared_ptr<ServiceConnection> connection = _connectionToWordCounterService;
+    if (!connection)
+        return;
+    const WordCounterServiceProtocol service(connection->remoteObjectProxy());
+    // The handler owns the connection too, so that an answer arrives that the panel does not live to see.
+    (service.*request)(
+        data, [weakPanel = weak_from_this(), connection, completion](const ServiceReply &reply) {
+            MainQueue::async([panel = releasedOnMainThread(weakPanel.lock()),
+                                 sentOver = std::weak_ptr(connection), completion, reply] {
+                if (!*panel)
+                    (*completion)();
+                else if ((*panel)->isOpen(sentOver)) // otherwise it was stopped meanwhile
+                    (*panel)->showReply(reply, *completion);
+            });
+        });
 }
 
 bool WordCounterViewController::isOpen(const std::weak_ptr<ServiceConnection> &connection) const
 {
     return _connectionToWordCounterService && _connectionToWordCounterService == connection.lock();
-}
-
-void WordCounterViewController::send(CountRequest request, const Data &data, const HeldCompletion &completion)
-{
-    const WordCounterServiceProtocol service(_connectionToWordCounterService->remoteObjectProxy());
-    const std::weak_ptr sentOver(_connectionToWordCounterService);
-    (service.*request)(data, [weakPanel = weak_from_this(), sentOver, completion](const ServiceReply &reply) {
-        MainQueue::async([panel = releasedOnMainThread(weakPanel.lock()), sentOver, completion, reply] {
-            if (!*panel)
-                (*completion)();
-            else if ((*panel)->isOpen(sentOver)) // otherwise it was stopped meanwhile
-                (*panel)->showReply(reply, *completion);
-        });
-    });
 }
 
 void WordCounterViewController::showReply(const ServiceReply &reply, const Completion &completion)
@@ -100,6 +96,7 @@ void WordCounterViewController::showReply(const ServiceReply &reply, const Compl
 
 void WordCounterViewController::stopAsyncOperation()
 {
-    dropConnectionToWordCounterService();
+    if (const auto connection = std::exchange(_connectionToWordCounterService, nullptr))
+        connection->invalidate();
     setIsAsyncCountOperationInProgress(false);
 }

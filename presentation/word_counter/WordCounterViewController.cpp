@@ -12,10 +12,7 @@ WordCounterViewController::WordCounterViewController(QString interfaceFile)
     _setUpOnInit();
 }
 
-WordCounterViewController::~WordCounterViewController()
-{
-    dropConnectionToWordCounterService();
-}
+WordCounterViewController::~WordCounterViewController() = default;
 
 void WordCounterViewController::_setUpOnInit()
 {

@@ -34,7 +34,8 @@ public:
     explicit WordCounterViewController(QString interfaceFile = panelInterfaceFile());
     WordCounterViewController(const WordCounterViewController &) = delete;
     WordCounterViewController &operator=(const WordCounterViewController &) = delete;
-    /// Invalidates the connection.
+    /// Lets the connection go. A count that has been sent is still answered: its completion runs, and nothing
+    /// else happens. The connection is invalidated with the last answer.
     ~WordCounterViewController() override;
 
     /// Never null, and always the same one.
@@ -66,7 +67,8 @@ public:
     /// A file that cannot be read is sent as an absent one; the panel shows what the service says to that.
     void asyncUpdateStatsDocXFileURL(const QUrl &fileURL, Completion completion);
 
-    /// Abandons the count in progress: its counts are not shown and its completion is not called.
+    /// Abandons the count in progress: once it has been sent, its counts are not shown and its completion is
+    /// not called. One that has not been sent is not sent without a connection; the next count opens one.
     void stopAsyncOperation();
 
     /// What the visible labels show, a line each, with "-" for every bullet, below the title. Neither title
@@ -94,7 +96,6 @@ private:
 
     void _setUpOnInit();
     void openConnectionToWordCounterService();
-    void dropConnectionToWordCounterService();
     void asyncUpdateStats(const QString &queueLabel, const std::function<Data()> &makeData,
         CountRequest request, Completion completion);
     /// Whether this is still the panel's connection.
@@ -106,5 +107,5 @@ private:
 
     std::shared_ptr<WordCounterModel> m_wordCounter;
     bool m_isAsyncCountOperationInProgress = false;
-    std::shared_ptr<ServiceConnection> _connectionToWordCounterService;
+    std::shared_ptr<ServiceConnection> _connectionToWordCounterService; // shared with the pending answers
 };

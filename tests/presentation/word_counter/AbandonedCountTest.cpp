@@ -75,18 +75,34 @@ TEST_F(AbandonedCountTest, AfterAStopNoCompletionFollowsAndTheNextCountHasANewCo
     EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(requests[0].client); }));
 }
 
-TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentIsNeverSent)
+TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentIsNotSentWithoutAConnection)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     CountingPanel panel;
-    bool isCalled = false;
-    panel.controller->asyncUpdateStatsWithAttributedString(text, [&isCalled] { isCalled = true; });
+    count(panel);
+    panel.controller->stopAsyncOperation();
+    EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; })); // nothing is underway
+    EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
+    CountingPanel next;
+    count(next); // behind what would have been sent
+    waitForCompletions(1);
+    EXPECT_THAT(service->requests(), SizeIs(1));
+    EXPECT_EQ(panel.texts(), untouched);
+}
+
+TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentGoesOverTheConnectionOfTheNextOne)
+{
+    const auto service = standIn({"answer 1 2 3 4 5 6 7 8", "answer 8 7 6 5 4 3 2 1"});
+    CountingPanel panel;
+    count(panel);
     panel.controller->stopAsyncOperation();
     count(panel); // opens the next connection before the first count could be sent
-    waitForCompletions(1);
-    EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; })); // nothing is underway
-    EXPECT_THAT(service->requests(), SizeIs(1));
-    EXPECT_FALSE(isCalled);
+    waitForCompletions(2);
+    const auto requests = service->requests();
+    ASSERT_THAT(requests, SizeIs(2));
+    EXPECT_EQ(requests[0].client, requests[1].client);
+    EXPECT_EQ(panel.texts(), textsFor({8, 7, 6, 5, 4, 3, 2, 1})); // of the answer that came last
+    EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
 }
 
 TEST_F(AbandonedCountTest, AnAnswerThatIsOnItsWayToTheMainThreadIsDroppedByAStop)
@@ -129,40 +145,26 @@ TEST_F(AbandonedCountTest, ACompletionMayStopAndReleaseItsPanel)
     EXPECT_TRUE(waitUntil([&hasEnded] { return hasEnded; }));
 }
 
-TEST_F(AbandonedCountTest, ASentCountDoesNotKeepThePanelAliveAndTheServiceSeesItLeave)
+TEST_F(AbandonedCountTest, AnAnswerToAPanelThatWasReleasedRunsTheCompletionAndNothingElse)
 {
     const auto service = standIn({"hold"});
     bool hasEnded = false;
     auto panel = std::make_shared<WatchedPanel>([&hasEnded] { hasEnded = true; });
-    panel->asyncUpdateStatsWithAttributedString(text, completion());
-    service->waitForRequests(1);
-    panel.reset();
-    EXPECT_TRUE(waitUntil([&hasEnded] { return hasEnded; }));
-    const QString client = service->requests().front().client;
-    EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(client); }));
-    EXPECT_EQ(completions(), 0U);
-}
-
-// While the panel's life ends its connection is still open.
-TEST_F(AbandonedCountTest, AnAnswerThatFindsNoPanelRunsTheCompletionAndNothingElse)
-{
-    const auto service = standIn({"hold"});
-    bool hasEnded = false;
-    auto panel = std::make_shared<WatchedPanel>([&] {
-        service->release();
-        waitForCompletions(1);
-        hasEnded = true;
-    });
     const std::shared_ptr<WordCounterModel> model = panel->wordCounter();
     panel->asyncUpdateStatsWithAttributedString(text, completion());
     service->waitForRequests(1);
     panel.reset();
     EXPECT_TRUE(waitUntil([&hasEnded] { return hasEnded; }));
-    EXPECT_EQ(completions(), 1U);
+    const QString client = service->requests().front().client;
+    EXPECT_TRUE(service->isOnTheBus(client));
+    EXPECT_EQ(completions(), 0U);
+    service->release();
+    waitForCompletions(1);
     EXPECT_EQ(model->statsRepresentation(), QBYWordCounterStats());
+    EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(client); })); // with the last answer
 }
 
-TEST_F(AbandonedCountTest, ACountThatIsNotYetSentKeepsThePanelAliveAndIsSent)
+TEST_F(AbandonedCountTest, APanelThatIsReleasedBeforeItsCountIsSentLivesUntilThenAndTheCompletionRuns)
 {
     const auto service = standIn({"hold"});
     bool hasEnded = false;
@@ -171,6 +173,21 @@ TEST_F(AbandonedCountTest, ACountThatIsNotYetSentKeepsThePanelAliveAndIsSent)
     panel.reset();
     EXPECT_FALSE(hasEnded);
     EXPECT_TRUE(waitUntil([&hasEnded] { return hasEnded; }));
+    service->waitForRequests(1);
+    service->release();
+    waitForCompletions(1);
+}
+
+TEST_F(AbandonedCountTest, APanelThatIsReleasedWithoutACountLeavesTheBus)
+{
+    const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
+    auto panel = std::make_unique<CountingPanel>();
+    count(*panel);
+    waitForCompletions(1);
+    const QString client = service->requests().front().client;
+    EXPECT_TRUE(service->isOnTheBus(client));
+    panel.reset();
+    EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(client); }));
 }
 
 TEST_F(AbandonedCountTest, ThePanelAndWhatItsCompletionHoldsEndTheirLivesOnTheMainThread)
