@@ -27,9 +27,10 @@ bool ProviderApplication::start()
 bool ProviderApplication::offer(ServicesProvider &provider)
 {
     if (!m_registration) {
+        // Not quit(): that asks every window to close, and the first that does not keeps the program alive.
         const auto busIsLost = [] {
             LogChannel::standard().notice(u"The session bus is gone");
-            QCoreApplication::quit();
+            QCoreApplication::exit(0);
         };
         m_registration = std::make_unique<ServicesRegistration>(
             provider, [this](const QByteArray &token) { requestBegins(token); }, [this] { requestEnds(); },

@@ -77,7 +77,7 @@ TEST_F(ProviderLife, NoRequestIsLostWhileItLeaves)
     closeAll();
 }
 
-TEST_F(ProviderLife, EndsWithTheSessionBus)
+TEST_F(ProviderLife, EndsWithTheSessionBusWhateverWindowsAreOpen)
 {
     PrivateBus bus;
     ChildProcess program(productProgram(QStringLiteral("quillbay-service-provider")));
@@ -93,7 +93,10 @@ TEST_F(ProviderLife, EndsWithTheSessionBus)
             ServiceInterface::interfaceName(), QStringLiteral("wordCountSelectedTextService"));
     request.setArguments(
         {QVariantMap{{QStringLiteral("text/plain"), QByteArray("A text.")}}, QString(), QVariantMap()});
-    EXPECT_EQ(client.call(request).type(), QDBusMessage::ReplyMessage);
+    // A window that is asked to close may say no, and two of them do not close at once.
+    for (int window = 0; window < 2; ++window)
+        EXPECT_EQ(client.call(request).type(), QDBusMessage::ReplyMessage);
+    waitForWindows(2);
     QDBusConnection::disconnectFromBus(client.name());
     bus.end();
     EXPECT_EQ(program.finish().exitStatus, 0);
