@@ -6,6 +6,7 @@
 #include "command/SelectionCommand.h"
 #include "command/TextCommand.h"
 #include "command/WatchCommand.h"
+#include "platform/processes/PrivateMemory.h"
 
 #include <QCoreApplication>
 
@@ -58,6 +59,7 @@ constexpr Command commands[] = {
 
 int main(int argumentCount, char **arguments)
 {
+    keepMemoryPrivate();
     const std::string_view name = argumentCount > 1 ? arguments[1] : "";
     if (name == "--help" || name == "-h")
         return printed(helpText);

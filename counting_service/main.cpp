@@ -4,6 +4,7 @@
 #include "counting_service/broker/TerminationSignals.h"
 #include "counting_service/worker/CountingWorker.h"
 #include "platform/fonts/FontSources.h"
+#include "platform/processes/PrivateMemory.h"
 #include "platform/sandbox/DocumentSandbox.h"
 
 #include <QCoreApplication>
@@ -71,6 +72,7 @@ int serve(int argumentCount, char **arguments, std::chrono::milliseconds idleTim
 
 int main(int argumentCount, char **arguments)
 {
+    keepMemoryPrivate();
     const std::string_view word = argumentCount > 1 ? arguments[1] : "";
     if (word == workerArgument)
         return work();

@@ -4,6 +4,7 @@
 #include "pdf_reader/Confinement.h"
 #include "pdf_reader/PdfPages.h"
 #include "platform/connection/SealedMemory.h"
+#include "platform/processes/PrivateMemory.h"
 
 #include <unistd.h>
 
@@ -50,6 +51,7 @@ std::optional<PdfError> writePages(QByteArrayView document, qint64 length)
 // sanitizer's is not allowed in the sandbox.
 int main(int argumentCount, char **arguments)
 {
+    keepMemoryPrivate();
     const auto words = std::span<char *const>(arguments, static_cast<size_t>(argumentCount));
     const std::optional<PdfReaderOrder> order = orderFrom(words.subspan(std::min<size_t>(1, words.size())));
     if (order) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The service provider: the program behind the windows of statistics, started by the session bus.
 #include "front_end/provider/ProviderApplication.h"
+#include "platform/processes/PrivateMemory.h"
 #include "platform/views/widgets/ApplicationActivitySource.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/WidgetDesktop.h"
@@ -32,6 +33,7 @@ bool hasDisplay()
 
 int main(int argumentCount, char **arguments)
 {
+    keepMemoryPrivate();
     if (argumentCount > 1) {
         std::fputs("quillbay-service-provider: takes no arguments. The session bus starts it for the command "
                    "quillbay.\n",

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sandbox/Sandbox.h"
 
+#include "platform/processes/PrivateMemory.h"
+
 #include <QStringList>
 
 #include <csignal>
@@ -27,7 +29,7 @@ void Sandbox::endWithParent()
 
 void Sandbox::keepMemoryPrivate()
 {
-    ::prctl(PR_SET_DUMPABLE, 0);
+    ::keepMemoryPrivate();
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_CORE, &none);
 }
