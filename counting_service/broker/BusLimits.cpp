@@ -3,19 +3,18 @@
 
 #include <QLibrary>
 
-#include <sys/resource.h>
-
 #include <algorithm>
 
 namespace {
 
-/// Of an open request: in the message, which its reply keeps, in the arguments that Qt makes of it until it
-/// is looked at, and of our own.
-constexpr std::size_t descriptorsPerRequest = 3;
-/// For all else: the bus, the workers, the libraries.
-constexpr std::size_t otherDescriptors = 256;
-constexpr std::size_t roomUnderTheLibrarysLimits = 2000;
-constexpr long mostBytesOfMessages = 1L << 30;
+/// Of an open request: in its message, in the arguments that Qt makes of that, and of our own.
+constexpr rlim_t descriptorsPerRequest = 3;
+/// For all else - the bus, the workers, the print server, the libraries - where there are few, and where
+/// there are many: then also for what a message brings that is no request.
+constexpr rlim_t fewestOthers = 40;
+constexpr rlim_t mostOthers = 256;
+constexpr rlim_t maxDescriptors = 1'000'000;
+constexpr long maxBytesOfMessages = 1L << 30;
 
 rlim_t raisedDescriptorLimit()
 {
@@ -26,8 +25,18 @@ rlim_t raisedDescriptorLimit()
     return ::setrlimit(RLIMIT_NOFILE, &wanted) == 0 ? wanted.rlim_cur : limit.rlim_cur;
 }
 
+} // namespace
+
+std::size_t roomForRequests(rlim_t descriptorLimit)
+{
+    const rlim_t descriptors = std::min(descriptorLimit, maxDescriptors);
+    const rlim_t others = std::clamp(descriptors / 2, fewestOthers, mostOthers);
+    const rlim_t room = descriptors > others ? (descriptors - others) / descriptorsPerRequest : 0;
+    return std::max<rlim_t>(room, 1);
+}
+
 // Qt lends its connection, but not the library's functions.
-bool liftLimitsOfLibrary(const QDBusConnection &bus, std::size_t descriptors)
+bool limitRequestsToDescriptors(const QDBusConnection &bus)
 {
     using SetLimit = void (*)(void *connection, long limit);
     QLibrary library(QStringLiteral("dbus-1"), 3);
@@ -38,18 +47,7 @@ bool liftLimitsOfLibrary(const QDBusConnection &bus, std::size_t descriptors)
     void *connection = bus.internalPointer();
     if (!setDescriptors || !setBytes || !connection)
         return false;
-    setDescriptors(connection, static_cast<long>(descriptors));
-    setBytes(connection, mostBytesOfMessages);
+    setDescriptors(connection, static_cast<long>(roomForRequests(raisedDescriptorLimit())));
+    setBytes(connection, maxBytesOfMessages);
     return true;
-}
-
-} // namespace
-
-std::size_t roomForRequests(const QDBusConnection &bus)
-{
-    constexpr rlim_t mostDescriptors = 1'000'000;
-    const auto descriptors = static_cast<std::size_t>(
-        std::clamp<rlim_t>(raisedDescriptorLimit(), 2 * otherDescriptors, mostDescriptors));
-    const std::size_t room = (descriptors - otherDescriptors) / descriptorsPerRequest;
-    return liftLimitsOfLibrary(bus, descriptors) ? room : std::min(room, roomUnderTheLibrarysLimits);
 }

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: MIT
-// Room for many requests at a time: each of them waits with its message and its descriptors.
+// The descriptors that requests may take: each of them waits with its message and its document.
 // Thread: main.
 #pragma once
 
 #include <QDBusConnection>
 
+#include <sys/resource.h>
+
 #include <cstddef>
 
-/// Raises what limits the requests that can be held, as far as the system lets it, and returns how many may
-/// be open at a time.
+/// How many requests fit at a time where a process may have so many descriptors; 1 or more.
+std::size_t roomForRequests(rlim_t descriptorLimit);
+
+/// Raises the descriptor limit of the process as far as the system lets it, and keeps the connection from
+/// reading more requests than fit: the others wait in the bus. A process that runs out of descriptors loses
+/// what it reads and, with it, its connection. False where the connection does not take the limit.
 ///
-/// The bus's library stops reading while it has handed out 4096 descriptors or 63 MiB of messages; under Qt
-/// it never starts again, since Qt hears only on its own thread that there is room again. So these limits of
-/// the library are lifted out of reach; where they cannot be, few enough requests are held to stay below
-/// them.
-std::size_t roomForRequests(const QDBusConnection &bus);
+/// The bus's library goes on reading when a message is let go, and tells Qt so on the thread that does this.
+/// Qt takes note only on its own thread for the bus, so ServiceObject lets every message go there.
+[[nodiscard]] bool limitRequestsToDescriptors(const QDBusConnection &bus);

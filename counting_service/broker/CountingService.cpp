@@ -6,7 +6,9 @@
 
 #include <QCoreApplication>
 #include <QDBusError>
+#include <QDBusPendingCallWatcher>
 
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -39,13 +41,27 @@ Result<SealedMemory, CountFailure> documentOf(const ReceivedRequest &request)
     return std::move(memory).value();
 }
 
+void logMissingName(const QString &cause)
+{
+    countingServiceLog().error(u"The name {} is not to be had: {}",
+        {publicly(ServiceObject::serviceName()),
+            publicly(cause.isEmpty() ? QStringLiteral("another process has it") : cause)});
+}
+
+QDBusMessage callOfBus(const QString &method, const QVariantList &arguments)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"), method);
+    call.setArguments(arguments);
+    return call;
+}
+
 } // namespace
 
 CountingService::CountingService(WorkerProgram workers, std::chrono::milliseconds idleTime)
-    : m_pool(std::move(workers), WorkerPool::workersOfThisMachine())
-    , m_object([this](const ReceivedRequest &request) { receive(request); })
-    , m_bus(QDBusConnection::sessionBus())
-    , m_mostOpenRequests(roomForRequests(m_bus))
+    : m_bus(QDBusConnection::sessionBus())
+    , m_object(m_bus, [this](const ReceivedRequest &request) { receive(request); })
+    , m_pool(std::move(workers), WorkerPool::workersOfThisMachine())
 {
     m_idleTimer.setInterval(idleTime);
     m_idleTimer.setSingleShot(true);
@@ -60,26 +76,48 @@ bool CountingService::start()
         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
         SLOT(leaveAtOnce()));
     // The object comes before the name: requests may be waiting for it.
-    const bool isOnBus = m_bus.isConnected()
-        && m_bus.registerObject(ServiceObject::path(), &m_object, QDBusConnection::ExportScriptableSlots)
-        && m_bus.registerService(ServiceObject::serviceName());
-    if (!isOnBus) {
-        const QString cause = m_bus.lastError().message();
-        countingServiceLog().error(u"The name {} is not to be had: {}",
-            {publicly(ServiceObject::serviceName()),
-                publicly(cause.isEmpty() ? QStringLiteral("another process has it") : cause)});
+    if (!m_bus.isConnected() || !limitRequestsToDescriptors(m_bus) || !m_object.registerOnBus()) {
+        logMissingName(m_bus.lastError().message());
         return false;
     }
-    m_idleTimer.start();
+    askForName();
     return true;
+}
+
+// The event loop runs meanwhile: requests may come before the bus's answer, more than fit at a time, and the
+// answer is not read until some of them are done.
+void CountingService::askForName()
+{
+    constexpr uint doNotQueue = 4; // of the D-Bus specification, as the next one
+    constexpr uint isPrimaryOwner = 1;
+    whenAnswered(callOfBus(QStringLiteral("RequestName"), {ServiceObject::serviceName(), doNotQueue}),
+        [this](const QDBusMessage &answer) {
+            if (answer.type() == QDBusMessage::ReplyMessage
+                && answer.arguments().value(0).toUInt() == isPrimaryOwner) {
+                if (m_openRequests == 0)
+                    m_idleTimer.start();
+                return;
+            }
+            logMissingName(answer.errorMessage());
+            QCoreApplication::exit(1);
+        });
+}
+
+void CountingService::whenAnswered(
+    const QDBusMessage &call, const std::function<void(const QDBusMessage &)> &take)
+{
+    auto *const watcher =
+        new QDBusPendingCallWatcher(m_bus.asyncCall(call, std::numeric_limits<int>::max()), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, take] {
+        watcher->deleteLater();
+        take(watcher->reply());
+    });
 }
 
 void CountingService::receive(const ReceivedRequest &request)
 {
     ++m_openRequests;
     m_idleTimer.stop();
-    if (m_openRequests > m_mostOpenRequests)
-        return finish(request, CountFailure::TooManyRequests);
     Result<SealedMemory, CountFailure> document = documentOf(request);
     if (!document)
         return finish(request, document.error());
@@ -110,9 +148,9 @@ void CountingService::noteEndOfRequest()
 {
     if (--m_openRequests > 0)
         return;
-    if (m_isLeaving)
+    if (m_hasGivenNameAway)
         quit();
-    else
+    else if (!m_isLeaving)
         m_idleTimer.start();
 }
 
@@ -121,21 +159,25 @@ void CountingService::leave()
     if (std::exchange(m_isLeaving, true))
         return;
     m_idleTimer.stop();
-    // Behind the bus's answer to this comes no request any more, and all before it are in our queue.
-    m_bus.unregisterService(ServiceObject::serviceName());
-    QCoreApplication::sendPostedEvents();
-    if (m_openRequests == 0)
-        quit();
+    whenAnswered(callOfBus(QStringLiteral("ReleaseName"), {ServiceObject::serviceName()}),
+        [this](const QDBusMessage &) {
+            // No request comes behind the bus's answer, and all before it have been read.
+            m_object.settle();
+            m_hasGivenNameAway = true;
+            if (m_openRequests == 0)
+                quit();
+        });
 }
 
 // The bus handles the messages of one connection in their order: its answer says that it has the replies.
 void CountingService::quit()
 {
+    m_object.settle();
     const QDBusMessage ping = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus.Peer"),
         QStringLiteral("Ping"));
     m_bus.call(ping);
-    QCoreApplication::quit();
+    QCoreApplication::exit(0);
 }
 
 void CountingService::leaveAtOnce()
@@ -143,5 +185,5 @@ void CountingService::leaveAtOnce()
     countingServiceLog().notice(u"The session bus is gone");
     m_isLeaving = true;
     m_idleTimer.stop();
-    QCoreApplication::quit();
+    QCoreApplication::exit(0);
 }

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
 
 class CountingService : public QObject {
     Q_OBJECT
@@ -26,11 +27,12 @@ public:
 
     CountingService(WorkerProgram workers, std::chrono::milliseconds idleTime);
 
-    /// Goes on the bus. False, with a line in the log, where there is none or the name is somebody else's.
+    /// Asks the bus for the name. False, with a line in the log, where there is no bus. Where the name is
+    /// somebody else's, the event loop ends with exit status 1 and such a line.
     [[nodiscard]] bool start();
 
-    /// Gives the name away, answers all that were sent before, and ends the event loop. What is sent from now
-    /// on the bus gives to the next service.
+    /// Gives the name away, answers all that were sent before, and ends the event loop. What is sent once the
+    /// name is free the bus gives to the next service.
     void leave();
 
 private Q_SLOTS:
@@ -40,14 +42,16 @@ private:
     void receive(const ReceivedRequest &request);
     void finish(const ReceivedRequest &request, const ReceivedRequest::Outcome &outcome);
     void noteEndOfRequest();
+    void askForName();
+    void whenAnswered(const QDBusMessage &call, const std::function<void(const QDBusMessage &)> &take);
     void quit();
 
+    QDBusConnection m_bus;
+    ServiceObject m_object; ///< outlives the requests, which answer through it
     RulesSource m_rules;
     WorkerPool m_pool;
-    ServiceObject m_object;
-    QDBusConnection m_bus;
     QTimer m_idleTimer;
     size_t m_openRequests = 0;
-    const size_t m_mostOpenRequests;
     bool m_isLeaving = false;
+    bool m_hasGivenNameAway = false;
 };

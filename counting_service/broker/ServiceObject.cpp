@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "counting_service/broker/ServiceObject.h"
 
+#include <QCoreApplication>
+#include <QDBusConnectionInterface>
+#include <QThread>
+
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -30,11 +35,40 @@ QVariantList argumentsOf(const QBYWordCounterStats &stats)
 
 } // namespace
 
-ServiceObject::ServiceObject(Receiver receiver)
-    : m_receiver(std::move(receiver))
+ServiceObject::ServiceObject(QDBusConnection bus, Receiver receiver)
+    : m_bus(std::move(bus))
+    , m_receiver(std::move(receiver))
 {
     // Until then the bus's library does not know the type by its name.
     qRegisterMetaType<QDBusUnixFileDescriptor>("QDBusUnixFileDescriptor");
+    if (const QDBusConnectionInterface *const daemon = m_bus.interface())
+        moveToThread(daemon->thread());
+}
+
+ServiceObject::~ServiceObject()
+{
+    m_bus.unregisterObject(path());
+    QThread *const mainThread = QThread::currentThread();
+    if (thread() == mainThread)
+        return;
+    const auto comeBack = [this, mainThread] {
+        m_replies.clear();
+        moveToThread(mainThread);
+    };
+    QMetaObject::invokeMethod(this, comeBack, Qt::BlockingQueuedConnection);
+}
+
+bool ServiceObject::registerOnBus()
+{
+    return m_bus.registerObject(path(), this, QDBusConnection::ExportScriptableSlots);
+}
+
+void ServiceObject::settle()
+{
+    if (thread() != QThread::currentThread())
+        QMetaObject::invokeMethod(
+            this, [] {}, Qt::BlockingQueuedConnection);
+    QCoreApplication::sendPostedEvents(&m_onMainThread);
 }
 
 QString ServiceObject::serviceName()
@@ -67,12 +101,19 @@ void ServiceObject::receive(PayloadKind kind, const QDBusUnixFileDescriptor &pay
     setDelayedReply(true);
     if (!message().isReplyRequired())
         return; // nobody waits for the counts
-    // The message itself holds a copy of the descriptor, the prepared reply does not.
-    const QDBusMessage reply = message().createReply();
-    const QDBusConnection bus = connection();
-    m_receiver({kind, payload, length, absent, localeNameIn(options), [reply, bus](const Outcome &outcome) {
-                    QDBusMessage filled = reply;
-                    filled.setArguments(argumentsOf(outcome ? outcome.value() : QBYWordCounterStats()));
-                    bus.send(filled);
-                }});
+    const quint64 number = ++m_requests;
+    m_replies.emplace(number, message().createReply());
+    const auto answer = [this, number](const Outcome &outcome) {
+        QMetaObject::invokeMethod(this, [this, number, outcome] { reply(number, outcome); });
+    };
+    const ReceivedRequest request{kind, payload, length, absent, localeNameIn(options), answer};
+    QMetaObject::invokeMethod(
+        &m_onMainThread, [this, request] { m_receiver(request); }, Qt::QueuedConnection);
+}
+
+void ServiceObject::reply(quint64 number, const Outcome &outcome)
+{
+    auto reply = m_replies.extract(number);
+    reply.mapped().setArguments(argumentsOf(outcome ? outcome.value() : QBYWordCounterStats()));
+    m_bus.send(reply.mapped());
 }

@@ -12,8 +12,6 @@ QString causeText(CountFailure failure)
         return QStringLiteral("is not as long as its sender said");
     case CountFailure::TooLarge:
         return QStringLiteral("is longer than any that is counted");
-    case CountFailure::TooManyRequests:
-        return QStringLiteral("came while too many others were waiting");
     case CountFailure::NotReceived:
         return QStringLiteral("could not be taken over from its sender");
     case CountFailure::NoWorker:

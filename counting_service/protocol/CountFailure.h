@@ -12,7 +12,6 @@ enum class CountFailure : quint32 {
     NotSealed, ///< it could still change
     LengthDiffers, ///< it is not as long as its sender said
     TooLarge, ///< longer than anything that is counted
-    TooManyRequests, ///< more wait than there are descriptors for
     NotReceived, ///< the system failed to hand it over
     NoWorker, ///< no worker can be started
     WorkerFailed, ///< two workers ended over it

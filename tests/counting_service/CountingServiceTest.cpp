@@ -91,10 +91,21 @@ CountingServiceTest::~CountingServiceTest()
 
 void CountingServiceTest::installService(const QString &arguments) const
 {
+    writeServiceFile(productProgram(QStringLiteral("quillbay-counting-service")) + u' ' + arguments);
+}
+
+void CountingServiceTest::installServiceWithDescriptors(int limit) const
+{
+    writeServiceFile(QStringLiteral("/bin/sh -c \"ulimit -n %1; exec %2\"")
+                         .arg(limit)
+                         .arg(productProgram(QStringLiteral("quillbay-counting-service"))));
+}
+
+void CountingServiceTest::writeServiceFile(const QString &command) const
+{
     QString file =
         QString::fromUtf8(readFile(QStringLiteral(QUILLBAY_PACKAGING "/%1.service.in").arg(serviceName)));
-    file.replace(QStringLiteral("@QUILLBAY_LIBEXEC@/quillbay-counting-service"),
-        productProgram(QStringLiteral("quillbay-counting-service")) + u' ' + arguments);
+    file.replace(QStringLiteral("@QUILLBAY_LIBEXEC@/quillbay-counting-service"), command);
     const QString folder = world().data() + QStringLiteral("/dbus-1/services/");
     QDir().mkpath(folder);
     QFile installed(folder + serviceName + QStringLiteral(".service"));

@@ -44,6 +44,8 @@ protected:
 
     /// Writes the service file, from the one that is installed; arguments: further words of its Exec line.
     void installService(const QString &arguments = {}) const;
+    /// The same; the service may have no more than so many descriptors.
+    void installServiceWithDescriptors(int limit) const;
 
     [[nodiscard]] QDBusMessage message(const QByteArray &payload, const QVariantMap &options = {}) const;
     [[nodiscard]] QDBusMessage message(const QString &request, int descriptor, quint64 length,
@@ -65,4 +67,7 @@ protected:
     [[nodiscard]] static pid_t serviceOn(const QDBusConnection &bus);
 
     QDBusConnection m_bus;
+
+private:
+    void writeServiceFile(const QString &command) const;
 };
