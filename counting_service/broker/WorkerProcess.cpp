@@ -73,6 +73,11 @@ QString causeText(WorkerEnd end)
     return QStringLiteral("ended");
 }
 
+std::chrono::milliseconds WorkerProgram::countLimitFor(quint64 length) const
+{
+    return countLimit + countLimitPerMebibyte * static_cast<qint64>(length) / mebibyte;
+}
+
 std::unique_ptr<WorkerProcess> WorkerProcess::start(const WorkerProgram &program, Callbacks callbacks)
 {
     std::optional<LaunchedWorker> worker = launchWorker(program.path, program.arguments);
@@ -112,8 +117,7 @@ WorkerProcess::~WorkerProcess()
 
 bool WorkerProcess::count(PayloadKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
 {
-    const auto time =
-        m_program.countLimit + m_program.countLimitPerMebibyte * static_cast<qint64>(length) / mebibyte;
+    const std::chrono::milliseconds time = m_program.countLimitFor(length);
     limitResources(length, time);
     const WorkerRequest request{m_requests + 1, kind, length, rules};
     if (!sendPacket(m_socket.get(), encoded(request), descriptor)) {

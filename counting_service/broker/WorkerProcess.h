@@ -25,8 +25,11 @@ struct WorkerProgram {
     QByteArray path;
     QByteArrayList arguments; ///< without the program's name
     std::chrono::milliseconds startLimit = std::chrono::minutes(1); ///< from the start to the greeting
-    std::chrono::milliseconds countLimit = std::chrono::seconds(30); ///< of an empty document
-    std::chrono::milliseconds countLimitPerMebibyte = std::chrono::seconds(10); ///< for each of a document's
+    std::chrono::milliseconds countLimit = std::chrono::seconds(5); ///< of an empty document
+    std::chrono::milliseconds countLimitPerMebibyte = std::chrono::seconds(30); ///< for each of a document's
+
+    /// length: of a document, in bytes.
+    [[nodiscard]] std::chrono::milliseconds countLimitFor(quint64 length) const;
 };
 
 /// Why a worker is no more.

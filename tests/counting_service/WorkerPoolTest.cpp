@@ -179,6 +179,17 @@ TEST_F(WorkerPoolTest, TheTimeLimitGrowsWithTheDocument)
     EXPECT_FALSE(large->outcome);
 }
 
+TEST_F(WorkerPoolTest, AHungWorkerCostsAShortDocumentFiveSeconds)
+{
+    using namespace std::chrono_literals;
+    const WorkerProgram usual;
+    EXPECT_EQ(usual.countLimitFor(0), 5s);
+    EXPECT_LT(usual.countLimitFor(60), 6s);
+    EXPECT_LT(usual.countLimitFor(20'000), 6s);
+    EXPECT_EQ(usual.countLimitFor(1 << 20), 35s);
+    EXPECT_GE(usual.countLimitFor(100ULL << 20), 1000s);
+}
+
 TEST_F(WorkerPoolTest, AnAnswerNobodyAskedForEndsTheWorkerAndHarmsNobody)
 {
     const auto pool = this->pool();
