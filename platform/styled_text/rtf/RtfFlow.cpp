@@ -37,9 +37,9 @@ bool RtfAttributes::admit(const TextAttributes &attributes)
 
 QString &RtfFlow::under(const RtfFormat &format)
 {
+    insertSpaceBetweenParts();
     if (std::exchange(m_isSeparated, false) && !isEmpty() && last() != paragraphEnd)
         m_pending.append(paragraphEnd);
-    m_endsWithCell = false;
     if (!m_hasFormat || !m_format.looksLike(format)) {
         flush();
         TextAttributes attributes = m_attributes.of(format);
@@ -55,11 +55,30 @@ QString &RtfFlow::under(const RtfFormat &format)
 
 void RtfFlow::flush()
 {
+    insertSpaceBetweenParts();
     if (m_pending.isEmpty())
         return;
     m_builder.append(m_pending, m_current);
     m_lastFlushed = m_pending.back();
     m_pending.resize(0); // keeps the room
+    if (m_partsMeetAt)
+        m_partsMeetAt = 0;
+}
+
+void RtfFlow::standApart()
+{
+    insertSpaceBetweenParts();
+    m_partsMeetAt = m_pending.size();
+}
+
+void RtfFlow::insertSpaceBetweenParts()
+{
+    if (!m_partsMeetAt || *m_partsMeetAt == m_pending.size())
+        return;
+    const qsizetype at = *std::exchange(m_partsMeetAt, std::nullopt);
+    const QChar before = at > 0 ? m_pending[at - 1] : m_lastFlushed;
+    if (!before.isNull() && !before.isSpace() && !m_pending[at].isSpace())
+        m_pending.insert(at, u' ');
 }
 
 void RtfFlow::appendAttachment(const RtfFormat &format, const std::shared_ptr<const Attachment> &attachment)
@@ -74,20 +93,6 @@ void RtfFlow::appendAttachment(const RtfFormat &format, const std::shared_ptr<co
     flush();
     m_builder.append(QStringView(&attachmentCharacter, 1), attributes);
     m_lastFlushed = attachmentCharacter;
-}
-
-void RtfFlow::endCell(const RtfFormat &format)
-{
-    under(format).append(u'\t');
-    m_endsWithCell = true;
-}
-
-void RtfFlow::endRow(const RtfFormat &format)
-{
-    if (std::exchange(m_endsWithCell, false))
-        m_pending.back() = paragraphEnd;
-    else
-        under(format).append(paragraphEnd);
 }
 
 void RtfFlow::append(RtfFlow &other)

@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 /// Bounds what a document of few bytes can take of memory in attributes: a text that would need more of them
 /// has those of the text before it.
@@ -42,11 +43,11 @@ public:
     /// The place to append text of a format; valid until the next call.
     QString &under(const RtfFormat &format);
     void appendAttachment(const RtfFormat &format, const std::shared_ptr<const Attachment> &attachment);
-    /// A tab, which the end of a row takes the place of.
-    void endCell(const RtfFormat &format);
-    void endRow(const RtfFormat &format);
     /// What comes next, if anything does, stands in another paragraph.
     void separate() { m_isSeparated = true; }
+    /// Puts a space between the text so far and what comes next, unless one of them is missing or has white
+    /// space there.
+    void standApart();
 
     [[nodiscard]] bool isEmpty() const { return m_pending.isEmpty() && m_builder.length() == 0; }
     [[nodiscard]] QChar last() const { return m_pending.isEmpty() ? m_lastFlushed : m_pending.back(); }
@@ -56,6 +57,7 @@ public:
 
 private:
     void flush();
+    void insertSpaceBetweenParts();
 
     RtfAttributes &m_attributes;
     AttributedStringBuilder m_builder;
@@ -64,6 +66,6 @@ private:
     RtfFormat m_format; ///< of m_current
     bool m_hasFormat = false;
     bool m_isSeparated = false;
-    bool m_endsWithCell = false;
+    std::optional<qsizetype> m_partsMeetAt; ///< in m_pending; no text of the second part is there before
     QChar m_lastFlushed;
 };

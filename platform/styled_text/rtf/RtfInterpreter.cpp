@@ -40,6 +40,9 @@ AttributedString RtfInterpreter::textOf(RtfTokenizer tokens)
 
 void RtfInterpreter::take(const RtfToken &token)
 {
+    const bool isAtGroupStart = std::exchange(m_isAtGroupStart, token.kind == RtfToken::Kind::GroupBegin);
+    const bool isStar = token.kind == RtfToken::Kind::Symbol && token.byte == '*';
+    const bool isStarred = std::exchange(m_isStarred, isAtGroupStart && isStar);
     switch (token.kind) {
     case RtfToken::Kind::GroupBegin:
         beginGroup();
@@ -48,7 +51,7 @@ void RtfInterpreter::take(const RtfToken &token)
         endGroup();
         break;
     case RtfToken::Kind::Word:
-        takeWord(token);
+        takeWord(token, isStarred);
         break;
     case RtfToken::Kind::Symbol:
         takeSymbol(token.byte);
@@ -72,13 +75,14 @@ void RtfInterpreter::beginGroup()
 {
     finishBytes();
     m_fallback = 0;
-    m_isStarred = false;
     if (depth() >= deepestGroup) {
         ++m_deeperGroups;
         return;
     }
     m_outer.push_back(m_state);
     m_state.beginsAside = false;
+    m_state.isInFormulaRow = std::exchange(m_state.isFormulaRow, false);
+    m_state.isFormulaPart = false;
     m_state.graphic = RtfGraphics::none;
 }
 
@@ -86,7 +90,6 @@ void RtfInterpreter::endGroup()
 {
     finishBytes();
     m_fallback = 0;
-    m_isStarred = false;
     if (m_deeperGroups > 0) {
         --m_deeperGroups;
         return;
@@ -94,6 +97,8 @@ void RtfInterpreter::endGroup()
     const State left = std::exchange(m_state, std::move(m_outer.back()));
     m_outer.pop_back();
     leaveDestination(left);
+    if (left.isFormulaPart && isText())
+        flow().standApart();
 }
 
 void RtfInterpreter::leaveDestination(const State &left)
@@ -137,7 +142,6 @@ void RtfInterpreter::enter(RtfDestination destination)
 
 void RtfInterpreter::takeText(QByteArrayView bytes)
 {
-    m_isStarred = false;
     const qsizetype skipped = std::min(m_fallback, bytes.size());
     m_fallback -= skipped;
     bytes = bytes.sliced(skipped);
@@ -154,7 +158,6 @@ void RtfInterpreter::takeText(QByteArrayView bytes)
 
 void RtfInterpreter::takeByte(uchar byte)
 {
-    m_isStarred = false;
     if (m_fallback > 0) {
         --m_fallback;
         return;
@@ -173,7 +176,6 @@ void RtfInterpreter::takeSymbol(uchar symbol)
     const bool isLineEnd = symbol == '\r' || symbol == '\n';
     const bool isFallback = m_fallback > 0 && !isLineEnd && symbol != '*';
     m_fallback = isFallback ? m_fallback - 1 : 0;
-    m_isStarred = symbol == '*';
     if (isFallback)
         return;
     finishBytes();
@@ -207,10 +209,9 @@ void RtfInterpreter::takeSymbol(uchar symbol)
     }
 }
 
-void RtfInterpreter::takeWord(const RtfToken &token)
+void RtfInterpreter::takeWord(const RtfToken &token, bool isStarred)
 {
     finishBytes();
-    const bool isStarred = std::exchange(m_isStarred, false);
     if (m_state.destination == RtfDestination::Skipped)
         return;
     const RtfWord *word = rtfWord(token.bytes);

@@ -34,6 +34,9 @@ private:
         RtfDestination alternativeTo = RtfDestination::Text; ///< the destination around \upr
         bool isAside = false;
         bool beginsAside = false;
+        bool isFormulaRow = false; ///< of a matrix or an equation array; of this very group
+        bool isInFormulaRow = false; ///< right inside of such a group
+        bool isFormulaPart = false; ///< stands apart; of this very group
         qint32 fallbackLength = 1; ///< \uc
         qint32 graphic = RtfGraphics::none; ///< whose marker is to come, in this very group
         qint32 fileNumber = 0; ///< \qbyfile
@@ -49,7 +52,7 @@ private:
     void takeText(QByteArrayView bytes);
     void takeByte(uchar byte);
     void takeSymbol(uchar symbol);
-    void takeWord(const RtfToken &token);
+    void takeWord(const RtfToken &token, bool isStarred);
 
     void appendBytes(QByteArrayView bytes);
     void appendCharacters(QStringView characters);
@@ -64,6 +67,7 @@ private:
 
     void act(const RtfWord &word, std::optional<qint32> parameter);
     void actOnText(const RtfWord &word, std::optional<qint32> parameter);
+    void actOnFormula(const RtfWord &word);
     void actOnDocument(const RtfWord &word, std::optional<qint32> parameter);
     void actOnLooks(const RtfWord &word, std::optional<qint32> parameter);
     void chooseExactly(RtfAction kind, qint32 number);
@@ -92,7 +96,8 @@ private:
     QString m_name; ///< of the graphic, or the exact value, that is being read
     bool m_isNameComplete = false; ///< of the graphic
     qsizetype m_fallback = 0; ///< characters to skip behind \u
-    bool m_isStarred = false; ///< behind \*
+    bool m_isAtGroupStart = false; ///< right behind a brace
+    bool m_isStarred = false; ///< right behind \* at a group's start
 
     // The page of a font, kept until another one is asked for.
     qint32 m_fontOfPage = RtfCharacterFormat::noFont;

@@ -26,6 +26,11 @@ void RtfInterpreter::act(const RtfWord &word, std::optional<qint32> parameter)
     case RtfAction::FallbackLength:
         actOnText(word, parameter);
         break;
+    case RtfAction::FormulaRow:
+    case RtfAction::FormulaElement:
+    case RtfAction::FormulaPart:
+        actOnFormula(word);
+        break;
     case RtfAction::Destination:
         enter(static_cast<RtfDestination>(word.argument));
         break;
@@ -65,12 +70,13 @@ void RtfInterpreter::actOnText(const RtfWord &word, std::optional<qint32> parame
             flow().under(m_state.format).append(QChar(word.argument));
         break;
     case RtfAction::CellEnd:
-        if (isText())
-            flow().endCell(m_state.format);
+        // Hidden text shows no cell's end, but the cell is there.
+        if (m_state.destination == RtfDestination::Text)
+            flow().under(m_state.format).append(QChar(word.argument));
         break;
     case RtfAction::RowEnd:
-        if (isText())
-            flow().endRow(m_state.format);
+        if (m_state.destination == RtfDestination::Text)
+            flow().separate();
         break;
     case RtfAction::Unicode:
         if (parameter) {
@@ -84,6 +90,20 @@ void RtfInterpreter::actOnText(const RtfWord &word, std::optional<qint32> parame
     default:
         break;
     }
+}
+
+/// Parts of a formula that stand apart on the page stand apart in the text.
+void RtfInterpreter::actOnFormula(const RtfWord &word)
+{
+    if (word.action == RtfAction::FormulaRow) {
+        m_state.isFormulaRow = true;
+        return;
+    }
+    const bool isPart = word.action == RtfAction::FormulaPart || m_state.isInFormulaRow;
+    if (!isPart || !isText())
+        return;
+    m_state.isFormulaPart = true;
+    flow().standApart();
 }
 
 /// These words stand at the document's start, where they hold for the state of the moment too.

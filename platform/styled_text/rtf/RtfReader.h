@@ -31,12 +31,13 @@ bool looksLikeRtf(QByteArrayView bytes);
 /// there, and what follows the brace that closes the document is ignored. Takes time and memory proportional
 /// to the length.
 ///
-/// Text is what the document shows in its running text: the results of fields, the numbers and bullets of
-/// lists that are spelled out, revisions as if accepted. Footnotes, endnotes and text boxes follow the body,
-/// each in paragraphs of its own, in the order of their references. Cells are parted by tabs, and a row ends
-/// with a newline in place of the last cell's tab. Headers, footers, comments, pictures, equations, hidden
-/// text, and numbers and dates that a program would make up for the moment (page, footnote, today) are no
-/// text.
+/// Text is what the document shows in its running text: the results of fields, revisions as if accepted, the
+/// runs of formulas, with a space (U+0020) around each part of a fraction, cell of a matrix and equation of
+/// an array where there is no white space already. Footnotes, endnotes and text boxes follow the body, each
+/// in paragraphs of its own, in the order of their references. Every cell of a table ends a paragraph, an
+/// empty one too; rows and tables add nothing. Headers, footers, comments, pictures, hidden text, the numbers
+/// and bullets of lists, and numbers and dates that a program would make up for the moment (page, footnote,
+/// today) are no text.
 ///
 /// An attachment is one U+FFFC; it stands without an attachment where `attachments` has none of its name.
 Result<AttributedString, RtfError> readRtf(QByteArrayView bytes, const AttachmentSource &attachments = {});

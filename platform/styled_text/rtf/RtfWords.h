@@ -25,10 +25,14 @@ enum class RtfAction : quint8 {
     // Characters
     Character, ///< the code unit
     Break, ///< likewise, in text only
-    CellEnd,
+    CellEnd, ///< likewise
     RowEnd,
     Unicode,
     FallbackLength,
+    // Formulas
+    FormulaRow, ///< of a matrix, or an equation array
+    FormulaElement, ///< a cell where it is in a row
+    FormulaPart, ///< of a fraction
     // Groups
     Destination, ///< an RtfDestination
     UnicodeAlternative,

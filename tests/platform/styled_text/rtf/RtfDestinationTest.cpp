@@ -55,10 +55,19 @@ TEST(RtfReader, SkipsBinaryDataByItsLength)
     EXPECT_EQ(textOf("a\\bin99999999999 b"), QStringLiteral("a"));
 }
 
-TEST(RtfReader, KeepsTheTextOfLists)
+TEST(RtfReader, TakesAStarForTheMarkOfADestinationOnlyRightBehindTheBrace)
 {
-    EXPECT_EQ(textOf(R"({\listtext\pard\plain 1.\tab}one\par{\pntext\'b7\tab}two)"),
-        QStringLiteral(u"1.\tone\n\u00B7\ttwo"));
+    EXPECT_EQ(textOf(R"({\pard\plain\*\cs3 one two\par}three)"), QStringLiteral("one two\nthree"));
+    EXPECT_EQ(textOf(R"({one \*\unheardof two} three)"), QStringLiteral("one two three"));
+    EXPECT_EQ(textOf(R"({one{}\*\unheardof two})"), QStringLiteral("onetwo"));
+    EXPECT_EQ(textOf("a{\r\n\\*\r\n\\unheardof b}c"), QStringLiteral("ac"));
+}
+
+TEST(RtfReader, DropsTheNumbersAndBulletsOfLists)
+{
+    EXPECT_EQ(
+        textOf(R"({\listtext\pard\plain 1.\tab}one\par{\pntext\'b7\tab}two)"), QStringLiteral("one\ntwo"));
+    EXPECT_EQ(textOf(R"({\listtext	\uc0\u8226 	}one)"), QStringLiteral("one"));
     EXPECT_EQ(textOf(R"({\*\pn\pnlvlbody{\pntxtb (}{\pntxta )}}one)"), QStringLiteral("one"));
 }
 

@@ -57,6 +57,8 @@ const std::vector<QByteArray> &samples()
 })"
         "\xAC"
         R"(}tail}})",
+        R"({\rtf1 so {\mmath{\*\moMath{\mr x=}{\mf{\mfPr{\mtype bar}}{\mnum{\mr 3}}{\mden{\b 4}}}{\mm{\mmr{\me a}
+{\me{\msSup{\me b}{\msup 2}}}}}{\meqArr{\me c}}}{\mmathPict{\pict 00}}} on \*\b bold{\v\cell}\cell\row end\par})",
         R"({\rtf1\uc0\deftab560{\*\qbyexact{\qbyfont1 12.3;450;2;0.1;-1.5}
 {\qbyparagraph1 4;2;1.1;2.2;3.3;4.4;5.5;6.6;7.7;10:0,20.5:3}{\qbylanguage1 gsw}{\qbyfile1 \u228 .png}}
 \pard\qj\li720\fi-360\ri20\tqc\tx100\tqdec\tx50\tx75\pardeftab240\slleading40\sb60\sa80\rtlpar

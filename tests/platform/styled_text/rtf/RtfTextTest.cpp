@@ -137,21 +137,3 @@ TEST(RtfReader, KeepsTheFallbacksLengthToItsGroup)
 {
     EXPECT_EQ(textOf(R"(\uc0{\uc2\u228 xy}\u228 b)"), QStringLiteral(u"ääb"));
 }
-
-TEST(RtfReader, PartsCellsByTabsAndEndsARowInPlaceOfTheLastCell)
-{
-    EXPECT_EQ(textOf(R"(\trowd\cellx9\intbl a\cell b\cell\row \intbl c\cell d\cell\row\pard e)"),
-        QStringLiteral("a\tb\nc\td\ne"));
-    EXPECT_EQ(textOf(R"(\cell\cell\row)"), QStringLiteral("\t\n"));
-    EXPECT_EQ(textOf(R"({a\cell}{\b b\cell}{\i\row})"), QStringLiteral("a\tb\n"));
-    EXPECT_EQ(textOf(R"(a\cell b\row)"), QStringLiteral("a\tb\n"));
-    EXPECT_EQ(textOf(R"(a\cell)"), QStringLiteral("a\t"));
-}
-
-TEST(RtfReader, ReadsATableInsideACell)
-{
-    EXPECT_EQ(
-        textOf(
-            R"(a\par b\nestcell c\nestcell{\*\nesttableprops\trowd\cellx9\nestrow}{\nonesttables\par}d\cell e\cell\row)"),
-        QStringLiteral("a\nb\tc\nd\te\n"));
-}
