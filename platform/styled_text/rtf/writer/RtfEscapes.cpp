@@ -20,7 +20,8 @@ constexpr std::array<bool, 128> standsForItself = charactersThatStandForThemselv
 void appendCodeUnit(QByteArray &rtf, char16_t unit)
 {
     char word[sizeof "\\u-32768 "] = "\\u";
-    char *end = std::to_chars(word + 2, word + sizeof word, static_cast<qint16>(unit)).ptr;
+    char *const blank = word + sizeof word - 1; // at the latest
+    char *end = std::to_chars(word + 2, blank, static_cast<qint16>(unit)).ptr;
     *end++ = ' ';
     rtf.append(word, end - word);
 }
