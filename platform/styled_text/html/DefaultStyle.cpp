@@ -319,17 +319,14 @@ void applySvgStyle(HtmlStyle &style, const GumboElement &element)
     }
 }
 
-void applyMathStyle(HtmlStyle &style, const GumboElement &element)
+/// Matrices stand in the line of their formula, as in Word documents, so that they make no paragraphs.
+void applyMathStyle(HtmlStyle &style, const GumboElement &element, const HtmlStyle &parent)
 {
     const auto is = [&](const char *name) { return isElement(element, GUMBO_NAMESPACE_MATHML, name); };
+    style.isFraction = is("mfrac");
+    style.standsApart = parent.isFraction || is("mtd");
     if (is("annotation") || is("annotation-xml"))
         style.display = Display::None;
-    else if (is("mtable"))
-        style.display = Display::InlineTable;
-    else if (is("mtr"))
-        style.display = Display::TableRow;
-    else if (is("mtd"))
-        style.display = Display::TableCell;
     else if (const GumboAttribute *display = gumbo_get_attribute(&element.attributes, "display");
              is("math") && display && qstricmp(display->value, "block") == 0)
         style.display = Display::Block;
@@ -345,6 +342,6 @@ void applyDefaultStyle(HtmlStyle &style, const GumboElement &element, const Html
     case GUMBO_NAMESPACE_SVG:
         return applySvgStyle(style, element);
     case GUMBO_NAMESPACE_MATHML:
-        return applyMathStyle(style, element);
+        return applyMathStyle(style, element, parent);
     }
 }

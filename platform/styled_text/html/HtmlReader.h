@@ -5,9 +5,14 @@
 //
 // The text is what the innerText attribute of the page's root element would be by the HTML standard
 // ("rendered text collection steps") under the standard's own style sheet: lines end in U+000A, a paragraph
-// (p) is set off by an empty line, cells are followed by a tabulator and rows by a line end, white space
-// collapses, no-break spaces and soft hyphens stay. Where the standard leaves a choice, or this reader
-// differs:
+// (p) is set off by an empty line, white space collapses, no-break spaces and soft hyphens stay. Where the
+// standard leaves a choice, or this reader differs:
+//  - Every cell of a table ends a paragraph, an empty one too, in place of the tabulators and line ends of
+//    the standard; blocks at its edges are not set off. A table that ends a cell is followed by an empty
+//    paragraph. So a table has the same text as in Word documents and RTF.
+//  - The parts of a fraction and the cells of a matrix of MathML have a space (U+0020) around them where
+//  there
+//    is no white space already.
 //  - Style attributes count, for the properties that HtmlStyleAttribute.h lists; style sheets do not.
 //    text-transform, generated content (quotation marks of q, list markers, numbers) and images with their
 //    alternative texts give no text.

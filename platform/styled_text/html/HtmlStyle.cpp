@@ -208,6 +208,8 @@ HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent)
     HtmlStyle style = parent;
     style.display = Display::Inline;
     style.rendersChildren = true;
+    style.isFraction = false;
+    style.standsApart = false;
     style.leadingMargin = 0;
     style.spacing = 0;
     applyDefaultStyle(style, element, parent);

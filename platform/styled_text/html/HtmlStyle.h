@@ -16,6 +16,8 @@ struct HtmlStyle {
     bool rendersChildren = true;
     /// Only options and their groups have boxes there.
     bool isSelection = false;
+    bool isFraction = false; ///< of a formula
+    bool standsApart = false; ///< from its neighbours in the formula
     bool isVisible = true;
     WhiteSpace whiteSpace = WhiteSpace::Collapse;
 

@@ -40,9 +40,6 @@ private:
         bool isParagraph = false; ///< a p element, whatever its display
         bool isClosedDetails = false;
         size_t box = 0; ///< the frame of this element's box, or of the nearest one around
-        size_t rows = 0; ///< the frame that counts the rows which are children of this box
-        bool awaitsCell = false; ///< a tabulator if another cell follows
-        bool awaitsRow = false; ///< a line end if another row follows
     };
 
     void visit(const GumboNode &node)
@@ -93,11 +90,10 @@ private:
         const size_t parentBox = m_frames.back().box;
         const Display display = frame.style.display;
         frame.box = display == Display::Contents || display == Display::Inline ? parentBox : m_frames.size();
-        frame.rows = display == Display::TableRowGroup ? m_frames[parentBox].rows : frame.box;
         m_frames.push_back(std::move(frame));
         if (display == Display::Contents)
             return;
-        beginBox(parentBox);
+        beginBox();
         if (element.tag == GUMBO_TAG_BR && m_frames.back().style.isVisible)
             m_text.appendLineBreak(attributes(m_frames.size() - 1));
     }
@@ -114,34 +110,43 @@ private:
         return false;
     }
 
-    void beginBox(size_t parentBox)
+    void beginBox()
     {
         const HtmlStyle &style = m_frames.back().style;
-        switch (style.display) {
-        case Display::TableCell:
-            separate(m_frames[parentBox].awaitsCell, u'\t', parentBox);
-            break;
-        case Display::TableRow:
-            separate(m_frames[m_frames[parentBox].rows].awaitsRow, u'\n', parentBox);
-            break;
-        case Display::InlineBlock:
-        case Display::InlineFlex:
-        case Display::InlineTable:
+        if (isBoxInLine(style.display))
             m_text.placeBox();
-            break;
-        default:
-            break;
-        }
         if (style.display != Display::Inline)
             m_text.startLine();
         requireLineBreaks();
+        if (style.display == Display::TableCell && style.isVisible)
+            m_text.beginCell();
+        standApart();
     }
 
-    void separate(bool &isAwaited, QChar separator, size_t parentBox)
+    void endBox()
     {
-        if (isAwaited)
-            m_text.appendSeparator(separator, attributes(parentBox));
-        isAwaited = m_frames.back().style.isVisible;
+        const HtmlStyle &style = m_frames.back().style;
+        standApart();
+        if (style.display != Display::Inline)
+            m_text.startLine();
+        if (isBoxInLine(style.display))
+            m_text.placeBox();
+        requireLineBreaks();
+        if (style.display == Display::TableCell && style.isVisible)
+            m_text.endCell(attributes(m_frames.size() - 1));
+    }
+
+    static bool isBoxInLine(Display display)
+    {
+        return display == Display::InlineBlock || display == Display::InlineFlex
+            || display == Display::InlineTable;
+    }
+
+    void standApart()
+    {
+        const HtmlStyle &style = m_frames.back().style;
+        if (style.standsApart && style.isVisible)
+            m_text.standApart(attributes(m_frames.size() - 1));
     }
 
     void requireLineBreaks()
@@ -153,21 +158,14 @@ private:
         if (frame.isParagraph)
             m_text.requireLineBreaks(2);
         else if (display == Display::Block || display == Display::Flex || display == Display::Table
-            || display == Display::TableCaption)
+            || display == Display::TableCaption || display == Display::TableRow)
             m_text.requireLineBreaks(1);
     }
 
     void leave()
     {
-        const Display display = m_frames.back().style.display;
-        if (display != Display::Contents) {
-            if (display != Display::Inline)
-                m_text.startLine();
-            if (display == Display::InlineBlock || display == Display::InlineFlex
-                || display == Display::InlineTable)
-                m_text.placeBox();
-            requireLineBreaks();
-        }
+        if (m_frames.back().style.display != Display::Contents)
+            endBox();
         m_frames.pop_back();
     }
 

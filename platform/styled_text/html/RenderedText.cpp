@@ -74,12 +74,6 @@ void RenderedText::appendLineBreak(const SharedAttributes &attributes)
     emitText(u"\n", attributes);
 }
 
-void RenderedText::appendSeparator(QChar separator, const SharedAttributes &attributes)
-{
-    startLine();
-    emitText(QStringView(&separator, 1), attributes);
-}
-
 void RenderedText::startLine()
 {
     m_pendingSpace.reset();
@@ -94,30 +88,63 @@ void RenderedText::placeBox()
 
 void RenderedText::requireLineBreaks(int count)
 {
-    m_requiredLineBreaks = std::max(m_requiredLineBreaks, count);
+    if (!m_isAtCellStart)
+        m_requiredLineBreaks = std::max(m_requiredLineBreaks, count);
+}
+
+void RenderedText::beginCell()
+{
+    requireLineBreaks(1);
+    m_cellLineEnds = lineEndCount();
+    m_requiredLineBreaks = 0;
+    m_isAtCellStart = true;
+    m_isAtCellEdge = true;
+}
+
+void RenderedText::endCell(const SharedAttributes &attributes)
+{
+    m_requiredLineBreaks = 0;
+    if (m_isAtCellEdge || m_last != u'\n') {
+        ++m_cellLineEnds;
+        m_cellAttributes = attributes;
+    }
+    m_isAtCellStart = false;
+    m_isAtCellEdge = true;
 }
 
 void RenderedText::emitText(QStringView text, const SharedAttributes &attributes)
 {
-    if (m_requiredLineBreaks > 0)
-        emitRequiredLineBreaks(attributes);
+    const qsizetype lineEnds = lineEndCount();
+    m_requiredLineBreaks = 0;
+    m_cellLineEnds = 0;
+    m_isAtCellStart = false;
+    m_isAtCellEdge = false;
+    if (lineEnds > 0)
+        emitLineEnds(lineEnds, attributes);
     if (m_runAttributes != attributes || m_run.size() > longestPendingRun) {
         flush();
         m_runAttributes = attributes;
     }
     m_run.append(text);
+    m_last = text.back();
+}
+
+qsizetype RenderedText::lineEndCount() const
+{
+    const int alreadyThere = m_isAtCellEdge ? 1 : 0;
+    return m_cellLineEnds + (hasText() ? std::max(m_requiredLineBreaks - alreadyThere, 0) : 0);
 }
 
 /// The first line end belongs to the paragraph that it ends; those of empty paragraphs to what follows them.
-void RenderedText::emitRequiredLineBreaks(const SharedAttributes &attributes)
+void RenderedText::emitLineEnds(qsizetype count, const SharedAttributes &attributes)
 {
-    const int count = std::exchange(m_requiredLineBreaks, 0);
-    if (!m_runAttributes)
-        return;
-    const SharedAttributes before = m_runAttributes;
-    emitText(u"\n", before);
-    if (count > 1)
-        emitText(QString(count - 1, u'\n'), attributes);
+    if (hasText()) {
+        const SharedAttributes before = m_runAttributes;
+        emitText(u"\n", before);
+        --count;
+    }
+    if (count > 0)
+        emitText(QString(count, u'\n'), attributes);
 }
 
 void RenderedText::flush()
@@ -129,6 +156,9 @@ void RenderedText::flush()
 
 AttributedString RenderedText::build()
 {
+    // No text of a page ends with the end of its last line, but empty cells have lines.
+    if (m_cellLineEnds > 1)
+        emitLineEnds(std::exchange(m_cellLineEnds, 0) - 1, m_cellAttributes);
     flush();
     AttributedString text = m_builder.build();
     *this = {};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RenderedText puts the text of a page together as it comes out of its boxes: collapses white space across
-// elements (CSS Text, "white space processing") and turns required line breaks into line ends (HTML standard,
-// "rendered text collection steps"). Which boxes there are, HtmlText knows.
+// elements (CSS Text, "white space processing"), turns required line breaks into line ends (HTML standard,
+// "rendered text collection steps") and makes paragraphs of cells. Which boxes there are, HtmlText knows.
 // Thread: one.
 #pragma once
 
@@ -18,8 +18,6 @@ public:
     void append(QStringView text, WhiteSpace whiteSpace, const SharedAttributes &attributes);
     /// A forced line break.
     void appendLineBreak(const SharedAttributes &attributes);
-    /// What the standard puts between cells and between rows.
-    void appendSeparator(QChar separator, const SharedAttributes &attributes);
 
     /// At the start and end of a block container: collapsible space at either side vanishes.
     void startLine();
@@ -28,6 +26,14 @@ public:
     /// At the start and end of a block: so many line ends, or more where another one asks for them, stand
     /// here if there is text on both sides.
     void requireLineBreaks(int count);
+    /// At the edges of a part of a formula: a space if there is text on both sides on the line.
+    void standApart(const SharedAttributes &attributes) { append(u" ", WhiteSpace::Collapse, attributes); }
+
+    /// At the start and end of a table's cell: what is in it, even if that is nothing, ends with one line end
+    /// if anything stands behind it. Behind a table in the cell there is another paragraph, as in Word
+    /// documents.
+    void beginCell();
+    void endCell(const SharedAttributes &attributes);
 
     /// Hands the text over and starts again with an empty one.
     [[nodiscard]] AttributedString build();
@@ -36,7 +42,10 @@ private:
     void appendCollapsing(QStringView text, bool keepsLineEnds, const SharedAttributes &attributes);
     void appendPendingSpace();
     void emitText(QStringView text, const SharedAttributes &attributes);
-    void emitRequiredLineBreaks(const SharedAttributes &attributes);
+    [[nodiscard]] bool hasText() const { return m_runAttributes != nullptr; }
+    /// Between the text so far and what follows.
+    [[nodiscard]] qsizetype lineEndCount() const;
+    void emitLineEnds(qsizetype count, const SharedAttributes &attributes);
     void flush();
 
     AttributedStringBuilder m_builder;
@@ -45,5 +54,10 @@ private:
     QString m_collapsed; ///< room for a piece of text while it is worked on
     SharedAttributes m_pendingSpace; ///< attributes of a collapsible space that may turn out to end its line
     int m_requiredLineBreaks = 0;
+    qsizetype m_cellLineEnds = 0; ///< of cells, for which no text has followed yet
+    SharedAttributes m_cellAttributes; ///< of the last of them
+    bool m_isAtCellStart = false; ///< no text in the cell yet
+    bool m_isAtCellEdge = false; ///< no text since the start or the end of a cell
+    QChar m_last; ///< of the text
     bool m_isAtLineStart = true;
 };

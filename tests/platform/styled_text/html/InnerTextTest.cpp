@@ -1,29 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What text a page has: the rendered text collection steps of the HTML standard, subject by subject.
-#include "platform/styled_text/html/HtmlReader.h"
-
-#include "tests/harness/QuillbayTest.h"
-
-namespace {
-
-QString textOf(const QByteArray &page)
-{
-    const Result<AttributedString, HtmlError> read = readHtml(page, {.charset = "utf-8"});
-    return read ? read.value().string() : causeText(read.error());
-}
-
-struct Case {
-    const char *page;
-    const char16_t *text;
-};
-
-void expectTexts(std::initializer_list<Case> cases)
-{
-    for (const Case &pageAndText : cases)
-        EXPECT_EQ(textOf(pageAndText.page), QString::fromUtf16(pageAndText.text)) << pageAndText.page;
-}
-
-} // namespace
+#include "tests/platform/styled_text/html/PageText.h"
 
 TEST(InnerText, APageWithoutTextHasNone)
 {
@@ -203,69 +180,6 @@ TEST(InnerText, ATextAreaKeepsItsWhiteSpaceAndNoTags)
     });
 }
 
-TEST(InnerText, CellsAreSeparatedByTabulatorsAndRowsByLineEnds)
-{
-    expectTexts({
-        {"<table><tr><td>a<td>b</table>", u"a\tb"},
-        {"<table><tr><td>a</td> <td>b</td></tr> <tr><th>c</th><td>d</td></tr></table>", u"a\tb\nc\td"},
-        {"<table><tr><td>a<td><td></table>", u"a\t\t"},
-        {"<table><tr><td><tr><td>a</table>", u"\na"},
-        {"a<table><td>b</table>c", u"a\nb\nc"},
-        {"<table><td> a <td> b </table>", u"a\tb"},
-        {"<table><td>a<br>b<td>c</table>", u"a\nb\tc"},
-        {"<table><td><p>a<td>b</table>", u"a\n\n\tb"},
-        {"<table><td>a<table><td>b<td>c</table><td>d</table>", u"a\nb\tc\n\td"},
-    });
-}
-
-TEST(InnerText, RowsAreCountedAcrossTheGroupsOfATable)
-{
-    expectTexts({
-        {"<table><thead><tr><td>a<tbody><tr><td>b<tr><td>c<tfoot><tr><td>d</table>", u"a\nb\nc\nd"},
-        {"<table><tfoot><tr><td>a<tbody><tr><td>b</table>", u"a\nb"},
-        {"<table><tr><td>a</table><table><tr><td>b</table>", u"a\nb"},
-    });
-}
-
-TEST(InnerText, ACaptionStandsOnALineOfItsOwn)
-{
-    expectTexts({
-        {"<table><caption>a</caption><tr><td>b</table>", u"a\nb"},
-        {"<table><tr><td>a<caption>b</caption></table>", u"a\nb"},
-    });
-}
-
-TEST(InnerText, HiddenCellsAndRowsSeparateNothing)
-{
-    expectTexts({
-        {"<table><tr><td>a<td hidden>b</table>", u"a"},
-        {"<table><tr><td>a<td style='visibility:hidden'>b<td>c</table>", u"a\tc"},
-        {"<table><tr><td>a<tr hidden><td>b<tr><td>c</table>", u"a\nc"},
-        {"<table><colgroup><col></colgroup><tr><td>a</table>", u"a"},
-    });
-}
-
-TEST(InnerText, WhiteSpaceBetweenCellsIsNone)
-{
-    expectTexts({{"<table style='white-space:pre'> <tr> <td>a</td> <td>b</td> </tr> </table>", u"a\tb"}});
-}
-
-TEST(InnerText, TablesCanBeMadeOfAnyElement)
-{
-    expectTexts({
-        {"<div style='display:table'><p style='display:contents'><b style='display:table-cell'>a</b> "
-         "<b style='display:table-cell'>b</b></p></div>",
-            u"a\tb"},
-        {"<div style='display:table'><div style='display:table-row-group'><i style='display:table-row'>a</i>"
-         "</div><i style='display:table-row'>b</i></div>",
-            u"a\nb"},
-        {"x<div style='display:inline-table'><i style='display:table-row'>a</i><i style='display:table-row'>b"
-         "</i></div>y",
-            u"xa\nby"},
-        {"<table><tr><td style='display:block'>a</td><td style='display:block'>b</td></tr></table>", u"a\nb"},
-    });
-}
-
 TEST(InnerText, ElementsThatAreNeverShownHaveNoText)
 {
     expectTexts({
@@ -375,14 +289,6 @@ TEST(InnerText, DrawingsHaveTheTextOfTheirTextElements)
         {"<svg><defs><text>a</text></defs><style>b</style></svg>", u""},
         {"<svg><text>a</text><text>b</text></svg>", u"a\nb"},
         {"<svg><foreignObject><p>a</p>b</foreignObject></svg>", u"a\n\nb"},
-    });
-}
-
-TEST(InnerText, FormulasAreText)
-{
-    expectTexts({
-        {"<math><mi>x</mi><mo>=</mo><mn>1</mn></math>", u"x=1"},
-        {"<math><semantics><mi>x</mi><annotation encoding=TeX>x_1</annotation></semantics></math>", u"x"},
     });
 }
 
