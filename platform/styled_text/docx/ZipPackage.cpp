@@ -3,7 +3,9 @@
 
 #include <zip.h>
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace {
 
@@ -21,16 +23,24 @@ bool isCompoundFile(QByteArrayView bytes)
 }
 
 /// Whether a compound file has a stream of the name that an encrypted package has (MS-OFFCRYPTO 2.3.4.4). The
-/// names of streams are in UTF-16 and stand in a directory anywhere in the file.
+/// entries of its directory may be anywhere in the file, at multiples of their length. They begin with the
+/// stream's name, in UTF-16 with a NUL behind it; their case says nothing (MS-CFB 2.6.4).
 bool hasEncryptedPackage(QByteArrayView bytes)
 {
-    constexpr char16_t name[] = u"EncryptedPackage";
-    QByteArray needle;
-    for (const char16_t unit : name) {
-        needle.append(static_cast<char>(unit));
-        needle.append('\0');
+    constexpr qsizetype entryLength = 128;
+    constexpr std::string_view name("encryptedpackage\0", 17);
+    constexpr auto nameLength = static_cast<qsizetype>(2 * name.size());
+    for (qsizetype entry = 0; entry + nameLength <= bytes.size(); entry += entryLength) {
+        qsizetype place = entry;
+        const bool isName = std::ranges::all_of(name, [&](char letter) {
+            const char low = bytes[place++];
+            const char lower = low >= 'A' && low <= 'Z' ? static_cast<char>(low - 'A' + 'a') : low;
+            return lower == letter && bytes[place++] == '\0';
+        });
+        if (isName)
+            return true;
     }
-    return bytes.contains(needle);
+    return false;
 }
 
 DocxError causeOf(int zipError)

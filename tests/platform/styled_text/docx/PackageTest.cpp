@@ -167,7 +167,22 @@ TEST(DocxPackage, ThatIsEncryptedSaysSo)
     compound.append(reinterpret_cast<const char *>(name), sizeof name);
     EXPECT_EQ(readDocx(compound).error(), DocxError::Encrypted);
     EXPECT_TRUE(looksLikeDocx(compound));
+    for (const char16_t *otherCase : {u"ENCRYPTEDPACKAGE", u"encryptedPackage"}) {
+        compound.replace(1024, sizeof name, reinterpret_cast<const char *>(otherCase), sizeof name);
+        EXPECT_EQ(readDocx(compound).error(), DocxError::Encrypted);
+    }
     EXPECT_EQ(causeText(DocxError::Encrypted), QStringLiteral("is encrypted; save it without a password"));
+}
+
+TEST(DocxPackage, OfBefore2007IsNotEncryptedForAWordInItsText)
+{
+    QByteArray compound("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
+    compound.resize(1024, '\0');
+    const char16_t text[] = u"An EncryptedPackage";
+    const char16_t name[] = u"EncryptedPackageOfMine";
+    compound.append(reinterpret_cast<const char *>(text), sizeof text).resize(2048, '\0');
+    compound.append(reinterpret_cast<const char *>(name), sizeof name);
+    EXPECT_EQ(readDocx(compound).error(), DocxError::OldWordDocument);
 }
 
 TEST(DocxPackage, WithAnEncryptedPartSaysSo)
