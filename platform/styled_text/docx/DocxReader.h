@@ -9,14 +9,16 @@
 //    The paragraphs of a table's cells and of nested tables are paragraphs like any other.
 //  - A line break is U+2028, a page break U+000C, a column break U+000C too, a tabulator U+0009, a no-break
 //    hyphen U+2011, a soft hyphen U+00AD. Symbols of the font Symbol are the characters that they depict;
-//    those of other symbol fonts stay in the private use area, where the document puts them.
+//    those of other symbol fonts are in the private use area, as Word has them.
 //  - Of a field stands its result, of ruby its base, of a content control its content, of a formula the
-//    characters of its runs.
+//    characters of its runs, with a space (U+0020) around each part of a fraction, cell of a matrix and
+//    equation of an array, where there is no white space already.
 //  - A text box stands once, behind the paragraph that anchors it. Of alternatives, the first one whose
 //    namespaces are understood counts.
 //  - Deleted and hidden text is no text, nor are headers, footers, comments, alternative texts of pictures,
 //    charts and diagrams, the numbers of lists and notes. A paragraph whose mark is deleted, hidden or in the
-//    instruction of a field goes on in the next one.
+//    instruction of a field goes on in the next one, and so does a drop cap, which Word stores as a paragraph
+//    of its own.
 //  - Chunks in other formats stand in their place: Word documents, web pages and archives of them, RTF and
 //    plain text.
 //

@@ -88,6 +88,11 @@ void ParagraphProperties::take(const XmlElement &element)
     case "ilvl"_tag:
         listLevel = integerOf(element.value());
         break;
+    case "framePr"_tag: {
+        const QByteArrayView dropCap = element.attribute("dropCap"_tag).value_or("none");
+        isDropCap = dropCap == "drop" || dropCap == "margin";
+        break;
+    }
     default:
         break;
     }
@@ -163,6 +168,7 @@ void ParagraphProperties::overlay(const ParagraphProperties &other)
         setTab(tab);
     overlayValue(list, other.list);
     overlayValue(listLevel, other.listLevel);
+    overlayValue(isDropCap, other.isDropCap);
     if (!other.style.isEmpty())
         style = other.style;
 }

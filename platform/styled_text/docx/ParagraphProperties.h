@@ -30,6 +30,7 @@ struct ParagraphProperties {
     std::vector<Tab> tabs; ///< ascending by position, one at each
     std::optional<int> list; ///< 0: none
     std::optional<int> listLevel;
+    std::optional<bool> isDropCap; ///< the enlarged first letters of the paragraph that follows
     QByteArray style; ///< the identifier of a paragraph style
 
     /// Takes in one element from within w:pPr, but for w:rPr; others than Word's are left alone.

@@ -3,6 +3,11 @@
 
 void ParagraphText::append(QStringView text, const RunFormat &format)
 {
+    if (text.isEmpty())
+        return;
+    if (m_isSeparated && !m_text.isEmpty() && !m_text.back().isSpace() && !text.front().isSpace())
+        appendPiece(u" ", format.ascii());
+    m_isSeparated = false;
     while (!text.isEmpty()) {
         const RunFormat::Stretch stretch = format.stretchAt(text);
         appendPiece(text.first(stretch.length), *stretch.format);

@@ -14,6 +14,9 @@
 class ParagraphText {
 public:
     void append(QStringView text, const RunFormat &format);
+    /// Puts a space between the text so far and the text that follows, unless one of them is missing or has
+    /// white space there.
+    void separate() { m_isSeparated = true; }
     [[nodiscard]] bool isEmpty() const { return m_text.isEmpty(); }
 
     void appendTo(AttributedStringBuilder &builder, const ParagraphStyle &style) const;
@@ -27,4 +30,5 @@ private:
 
     QString m_text;
     std::vector<Piece> m_pieces; // neighbours differ
+    bool m_isSeparated = false;
 };

@@ -39,8 +39,15 @@ void StoryAssembler::endParagraph(bool goesOn)
     Story &story = m_stories.back();
     story.isParagraphOpen = false;
     const RunProperties &mark = story.paragraph->mark;
-    if (!goesOn && !mark.isRemoved && !formatOf(mark).isHidden())
+    if (!goesOn && !mark.isRemoved && !isDropCap() && !formatOf(mark).isHidden())
         finishParagraph();
+}
+
+bool StoryAssembler::isDropCap()
+{
+    const ParagraphProperties &direct = paragraph().properties;
+    const ParagraphProperties &style = m_styles.styleSheet.style(Kind::Paragraph, direct.style).paragraph;
+    return direct.isDropCap.value_or(style.isDropCap.value_or(false));
 }
 
 void StoryAssembler::finishPending(bool evenIfEmpty)

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] RunProperties &markProperties() { return paragraph().mark; }
     [[nodiscard]] RunFormat formatOf(const RunProperties &direct);
     void append(QStringView text, const RunFormat &format) { paragraph().text.append(text, format); }
+    /// Keeps what follows apart from the text so far.
+    void separate() { paragraph().text.separate(); }
 
     struct Table {
         QByteArray style;
@@ -79,6 +81,7 @@ private:
     [[nodiscard]] const StyleProperties &tableStyle();
     [[nodiscard]] const CharacterCascade &base();
     [[nodiscard]] ParagraphStyle paragraphStyle(double pointSize);
+    [[nodiscard]] bool isDropCap();
     void finishParagraph();
     void finishPending(bool evenIfEmpty = false);
     void emitText(const AttributedString &text);

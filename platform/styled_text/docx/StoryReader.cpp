@@ -110,6 +110,9 @@ void StoryReader::endElement(XmlName name)
     } else if (mode() == Mode::Content && name.space == XmlSpace::Word && m_assembler.isInStory()) {
         // What stands within a text or within properties has not begun as a block.
         endBlock(name.tag);
+    } else if (mode() == Mode::Content && name.space == XmlSpace::Math && m_assembler.isInStory()) {
+        if (m_formulaParts.endElement(name.tag, m_depth) && m_assembler.isInParagraph())
+            m_assembler.separate();
     }
     if (!m_states.empty() && state().depth == m_depth)
         endStory();
@@ -143,9 +146,13 @@ void StoryReader::startContent(const XmlElement &element)
         startWordContent(element);
         return;
     }
-    if (element.name().space != XmlSpace::Math || !m_assembler.isInStory())
-        return;
-    switch (element.tag()) {
+    if (element.name().space == XmlSpace::Math && m_assembler.isInStory())
+        startMath(element.tag());
+}
+
+void StoryReader::startMath(XmlTag tag)
+{
+    switch (tag) {
     case "r"_tag:
         state().run = {};
         break;
@@ -157,6 +164,8 @@ void StoryReader::startContent(const XmlElement &element)
         leaveOut();
         break;
     default:
+        if (m_formulaParts.startElement(tag, m_depth) && m_assembler.isInParagraph())
+            m_assembler.separate();
         break;
     }
 }
@@ -424,7 +433,8 @@ void StoryReader::appendSymbol(const XmlElement &element)
     if (!code || *code <= 0 || *code > 0xFFFF || QChar::isSurrogate(static_cast<char32_t>(*code)))
         return;
     const QString font = fontNameOf(element.attribute("font"_tag).value_or(""));
-    const QString symbol = withDepictedSymbols(QString(QChar(static_cast<char16_t>(*code))), font);
+    const QChar character = symbolCharacter(static_cast<char16_t>(*code), font);
+    const QString symbol = withDepictedSymbols(QString(character), font);
     if (!shows())
         return;
     RunProperties direct = state().run.direct;

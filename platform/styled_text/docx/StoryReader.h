@@ -4,6 +4,7 @@
 // DocxReader.
 #pragma once
 
+#include "platform/styled_text/docx/FormulaParts.h"
 #include "platform/styled_text/docx/StoryAssembler.h"
 #include "platform/styled_text/docx/XmlReader.h"
 
@@ -83,6 +84,7 @@ private:
     void leaveOut() { m_leftOutDepth = m_depth; }
 
     void startContent(const XmlElement &element);
+    void startMath(XmlTag tag);
     void startWordContent(const XmlElement &element);
     void startInline(const XmlElement &element);
     void startBlock(const XmlElement &element);
@@ -113,6 +115,7 @@ private:
     std::vector<Scope> m_scopes; // innermost last
     std::vector<SpaceScope> m_spaceScopes; // innermost last
     std::vector<StoryState> m_states; // innermost last
+    FormulaParts m_formulaParts;
     QByteArray m_text; // of the text element that is open
     const NoteReferences *m_wantedNotes = nullptr;
     QByteArray m_note; // the one that is open

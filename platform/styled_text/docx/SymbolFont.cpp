@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/docx/SymbolFont.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -35,6 +36,10 @@ char16_t depicted(char16_t unit)
     return unit;
 }
 
+// As documents name them, in lower case.
+constexpr std::array symbolFonts{u"symbol", u"wingdings", u"wingdings 2", u"wingdings 3", u"webdings",
+    u"zapfdingbats", u"zapf dingbats", u"itc zapf dingbats", u"monotype sorts", u"marlett", u"mt extra"};
+
 } // namespace
 
 QString withDepictedSymbols(const QString &text, const QString &font)
@@ -45,4 +50,16 @@ QString withDepictedSymbols(const QString &text, const QString &font)
     for (QChar &unit : result)
         unit = depicted(unit.unicode());
     return result;
+}
+
+QChar symbolCharacter(char16_t code, const QString &font)
+{
+    constexpr char16_t firstCode = 0x20;
+    constexpr char16_t lastCode = 0xFF;
+    constexpr char16_t privateUse = 0xF000;
+    const bool isSymbol = code >= firstCode && code <= lastCode
+        && std::ranges::any_of(symbolFonts, [&font](const char16_t *name) {
+               return font.compare(QStringView(name), Qt::CaseInsensitive) == 0;
+           });
+    return QChar(isSymbol ? static_cast<char16_t>(privateUse + code) : code);
 }

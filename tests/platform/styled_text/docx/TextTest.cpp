@@ -1,6 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/styled_text/docx/DocxTest.h"
 
+namespace {
+
+QByteArray mathRun(const QByteArray &text)
+{
+    return "<m:r><m:t>" + text + "</m:t></m:r>";
+}
+
+QByteArray fraction(const QByteArray &numerator, const QByteArray &denominator)
+{
+    return "<m:f><m:fPr><m:type m:val='bar'/></m:fPr><m:num>" + numerator + "</m:num><m:den>" + denominator
+        + "</m:den></m:f>";
+}
+
+QByteArray formula(const QByteArray &content)
+{
+    return "<m:oMath>" + content + "</m:oMath>";
+}
+
+} // namespace
+
 TEST(DocxText, EndsEveryParagraphWithALineFeed)
 {
     EXPECT_EQ(textOfBody(textParagraph("one") + textParagraph("two")), QStringLiteral("one\ntwo\n"));
@@ -52,6 +72,24 @@ TEST(DocxText, GivesSymbolsTheCharactersTheyDepict)
         QStringLiteral("\u2022\u2264\n"));
 }
 
+TEST(DocxText, ReadsCodesOfSymbolFontsWithAndWithoutTheOffsetOfThePrivateUseArea)
+{
+    EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:font='Symbol' w:char='61'/></w:r>"
+                                   "<w:r><w:sym w:font='Symbol' w:char='00A3'/></w:r>"
+                                   "<w:r><w:sym w:font='Wingdings' w:char='FC'/></w:r>"
+                                   "<w:r><w:sym w:font='wingdings 2' w:char='0050'/></w:r>"
+                                   "<w:r><w:sym w:font='Webdings' w:char='0061'/></w:r>")),
+        QStringLiteral("\u03B1\u2264\uF0FC\uF050\uF061\n"));
+}
+
+TEST(DocxText, TakesCodesOfOtherFontsAndOtherCodesOfSymbolFontsForCharacters)
+{
+    EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:font='Arial' w:char='00E9'/></w:r>"
+                                   "<w:r><w:sym w:char='0041'/></w:r>"
+                                   "<w:r><w:sym w:font='Wingdings' w:char='2713'/></w:r>")),
+        QStringLiteral("\u00E9A\u2713\n"));
+}
+
 TEST(DocxText, LeavesOutSymbolsThatAreNoCharacters)
 {
     EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:char='D800'/><w:sym w:char='0'/><w:sym w:char='12345'/>"
@@ -89,6 +127,42 @@ TEST(DocxText, TakesTheBaseOfRubyOnly)
         QStringLiteral("base\n"));
 }
 
+TEST(DocxText, JoinsADropCapWithTheParagraphThatFollows)
+{
+    const QByteArray dropCap = "<w:framePr w:dropCap='drop' w:lines='3' w:wrap='around'/>";
+    EXPECT_EQ(textOfBody(paragraph(run("D"), dropCap) + textParagraph("rop caps.") + textParagraph("Next")),
+        QStringLiteral("Drop caps.\nNext\n"));
+    EXPECT_EQ(textOfBody(paragraph(run("M"), "<w:framePr w:dropCap='margin'/>") + textParagraph("argin")),
+        QStringLiteral("Margin\n"));
+    EXPECT_EQ(textOfBody(paragraph(run("F"), "<w:framePr w:dropCap='none'/>") + textParagraph("rame")),
+        QStringLiteral("F\nrame\n"));
+    EXPECT_EQ(textOfBody(paragraph(run("F"), "<w:framePr w:w='200'/>") + textParagraph("rame")),
+        QStringLiteral("F\nrame\n"));
+}
+
+TEST(DocxText, JoinsADropCapThatAStyleMakes)
+{
+    const QByteArray style = "<w:style w:type='paragraph' w:styleId='C'><w:pPr><w:framePr w:dropCap='drop'/>"
+                             "</w:pPr></w:style>";
+    const QByteArray styled = "<w:pStyle w:val='C'/>";
+    EXPECT_EQ(textOf({.body = paragraph(run("D"), styled) + textParagraph("rop"), .styles = style}),
+        QStringLiteral("Drop\n"));
+    EXPECT_EQ(
+        textOf({.body = paragraph(run("D"), styled + "<w:framePr w:dropCap='none'/>") + textParagraph("rop"),
+            .styles = style}),
+        QStringLiteral("D\nrop\n"));
+}
+
+TEST(DocxText, KeepsADropCapThatNothingFollows)
+{
+    const QByteArray dropCap = paragraph(run("D"), "<w:framePr w:dropCap='drop'/>");
+    EXPECT_EQ(textOfBody(dropCap), QStringLiteral("D\n"));
+    EXPECT_EQ(textOfBody("<w:tbl><w:tr>" + cell(dropCap) + cell(textParagraph("x")) + "</w:tr></w:tbl>"),
+        QStringLiteral("D\nx\n"));
+    EXPECT_EQ(textOfBody(dropCap + "<w:tbl><w:tr>" + cell(textParagraph("x")) + "</w:tr></w:tbl>"),
+        QStringLiteral("D\nx\n"));
+}
+
 TEST(DocxText, TakesTheCharactersOfFormulas)
 {
     EXPECT_EQ(
@@ -96,6 +170,29 @@ TEST(DocxText, TakesTheCharactersOfFormulas)
                              "</m:r></m:e><m:sup><m:r><w:rPr><w:i/></w:rPr><m:t>2</m:t></m:r></m:sup>"
                              "</m:sSup></m:oMath></m:oMathPara>")),
         QStringLiteral("r2\n"));
+}
+
+TEST(DocxText, KeepsThePartsOfAFractionApart)
+{
+    EXPECT_EQ(textOfBody(paragraph(formula(fraction(mathRun("3"), mathRun("4"))))), QStringLiteral("3 4\n"));
+    EXPECT_EQ(textOfBody(paragraph(
+                  run("so ") + formula(mathRun("2") + fraction(mathRun("3"), mathRun("4"))) + run("on. "))),
+        QStringLiteral("so 2 3 4 on. \n"));
+    EXPECT_EQ(textOfBody(paragraph(
+                  formula(fraction(fraction(mathRun("1"), mathRun("2")), mathRun("x") + mathRun("y"))))),
+        QStringLiteral("1 2 xy\n"));
+    EXPECT_EQ(textOfBody(paragraph(formula(fraction({}, {}))) + textParagraph("a")), QStringLiteral("\na\n"));
+}
+
+TEST(DocxText, KeepsTheCellsOfAMatrixAndTheLinesOfAnEquationArrayApart)
+{
+    const QByteArray matrix = "<m:m><m:mPr/><m:mr><m:e>" + mathRun("a") + "</m:e><m:e>" + mathRun("b")
+        + "</m:e></m:mr><m:mr><m:e>" + mathRun("c") + "</m:e><m:e>" + mathRun("d") + "</m:e></m:mr></m:m>";
+    EXPECT_EQ(textOfBody(paragraph(formula(mathRun("A") + "<m:d><m:e>" + matrix + "</m:e></m:d>"))),
+        QStringLiteral("A a b c d\n"));
+    EXPECT_EQ(textOfBody(paragraph(formula("<m:eqArr><m:e>" + mathRun("x") + "</m:e><m:e><m:sSup><m:e>"
+                  + mathRun("y") + "</m:e><m:sup>" + mathRun("2") + "</m:sup></m:sSup></m:e></m:eqArr>"))),
+        QStringLiteral("x y2\n"));
 }
 
 TEST(DocxText, HasNoNumbersOfListsNorCommentsNorPictures)
