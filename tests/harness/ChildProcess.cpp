@@ -99,9 +99,10 @@ void ChildProcess::execWithBytes(const QByteArrayList &arguments)
     QByteArrayList variables;
     for (const QString &variable : m_environment.toStringList())
         variables.append(QFile::encodeName(variable));
-    afterFork([words, variables, argv = pointersTo(words), environment = pointersTo(variables)] {
-        ::execve(argv[0], argv.data(), environment.data());
-    });
+    // Before the call shares the bytes: a pointer into shared ones would be one into a copy.
+    const std::vector<char *> argv = pointersTo(words);
+    const std::vector<char *> environment = pointersTo(variables);
+    afterFork([words, variables, argv, environment] { ::execve(argv[0], argv.data(), environment.data()); });
 }
 
 void ChildProcess::start(const QByteArrayList &arguments)
