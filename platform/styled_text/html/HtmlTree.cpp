@@ -2,6 +2,7 @@
 #include "platform/styled_text/html/HtmlTree.h"
 
 #include "platform/styled_text/html/ParserMemory.h"
+#include "platform/styled_text/html/TreeDepth.h"
 
 #include <csetjmp>
 
@@ -24,7 +25,10 @@ void *allocate(void *userData, size_t size)
 
 void release(void *userData, void *block)
 {
-    static_cast<ParserRun *>(userData)->memory->release(block);
+    auto *run = static_cast<ParserRun *>(userData);
+    run->memory->release(block);
+    if (run->memory->refusal())
+        std::longjmp(run->end, 1); // likewise
 }
 
 /// Null where the memory refused.
@@ -51,6 +55,8 @@ Result<HtmlTree, HtmlError> HtmlTree::parse(QByteArrayView page)
     const GumboNode *document = parsedDocument(page.isEmpty() ? QByteArrayView(" ") : page, &run);
     if (!document)
         return memory->refusal().value_or(HtmlError::NotEnoughMemory);
+    if (isTooDeep(*document))
+        return HtmlError::TooDeep;
     return HtmlTree(std::move(memory), document);
 }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/html/ParserMemory.h"
 
+#include "platform/styled_text/html/TreeDepth.h"
+
+#include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <new>
@@ -8,9 +11,6 @@
 using namespace std::chrono_literals;
 
 namespace {
-
-/// Elements inside each other. The parser looks through the open ones at every tag and at every character.
-constexpr int deepestNesting = 1000;
 
 /// Bytes of memory that a tree takes at most: a base, and so many for every byte of the page. Empty
 /// paragraphs without end tags, the dearest there is in honest pages, take about 90.
@@ -24,10 +24,18 @@ constexpr std::chrono::nanoseconds timeBase = 1s;
 constexpr std::chrono::nanoseconds timePerByte = 1us;
 constexpr int callsPerLookAtClock = 64;
 
+/// Bytes of the stack. The parser takes about 100 for each level of a tree that it releases, few otherwise.
+constexpr qptrdiff maxStackUse = 512L * 1024;
+
 /// Before every block stands its size. Nothing of the parser's needs a wider alignment than that.
 constexpr size_t headerSize = sizeof(size_t);
 constexpr size_t blockAlignment = alignof(size_t);
 static_assert(alignof(GumboNode) <= blockAlignment && alignof(GumboAttribute) <= blockAlignment);
+
+qptrdiff stackPosition()
+{
+    return reinterpret_cast<qptrdiff>(__builtin_frame_address(0));
+}
 
 std::chrono::nanoseconds processorTime()
 {
@@ -38,16 +46,6 @@ std::chrono::nanoseconds processorTime()
 
 } // namespace
 
-bool ParserMemory::Source::holdsNode(const void *address) const
-{
-    const auto *at = static_cast<const std::byte *>(address);
-    const auto after = m_chunks.upper_bound(at);
-    if (after == m_chunks.begin() || reinterpret_cast<uintptr_t>(at) % alignof(GumboNode) != 0)
-        return false;
-    const auto &[start, size] = *std::prev(after);
-    return size >= sizeof(GumboNode) && at <= start + size - sizeof(GumboNode);
-}
-
 void *ParserMemory::Source::do_allocate(size_t size, size_t alignment)
 {
     if (size > m_limit - m_taken) {
@@ -55,19 +53,12 @@ void *ParserMemory::Source::do_allocate(size_t size, size_t alignment)
         throw std::bad_alloc();
     }
     void *chunk = std::pmr::new_delete_resource()->allocate(size, alignment);
-    try {
-        m_chunks.emplace(static_cast<const std::byte *>(chunk), size);
-    } catch (const std::bad_alloc &) {
-        std::pmr::new_delete_resource()->deallocate(chunk, size, alignment);
-        throw;
-    }
     m_taken += size;
     return chunk;
 }
 
 void ParserMemory::Source::do_deallocate(void *block, size_t size, size_t alignment)
 {
-    m_chunks.erase(static_cast<const std::byte *>(block));
     m_taken -= size;
     std::pmr::new_delete_resource()->deallocate(block, size, alignment);
 }
@@ -75,7 +66,8 @@ void ParserMemory::Source::do_deallocate(void *block, size_t size, size_t alignm
 ParserMemory::ParserMemory(qsizetype pageLength)
     : m_source(memoryBase + memoryPerByte * static_cast<size_t>(pageLength))
     , m_pool(&m_source)
-    , m_nodesBeforeMeasuring(deepestNesting)
+    , m_nodeCountToMeasureAt(maxElementDepth)
+    , m_stackStart(stackPosition())
     , m_deadline(processorTime() + timeBase + timePerByte * pageLength)
     , m_callsBeforeClock(callsPerLookAtClock)
 {
@@ -84,16 +76,16 @@ ParserMemory::ParserMemory(qsizetype pageLength)
 void *ParserMemory::allocate(size_t size)
 {
     const bool isNode = size == sizeof(GumboNode);
-    if (isNode && isTooDeep()) {
-        m_refusal = HtmlError::TooDeep;
-        return nullptr;
-    }
-    if (hasNoTimeLeft()) {
-        m_refusal = HtmlError::TooIntricate;
-        return nullptr;
-    }
     void *block = nullptr;
     try {
+        if (isStackUsedUp() || (isNode && isTreeTooDeep())) {
+            m_refusal = HtmlError::TooDeep;
+            return nullptr;
+        }
+        if (hasNoTimeLeft()) {
+            m_refusal = HtmlError::TooIntricate;
+            return nullptr;
+        }
         block = m_pool.allocate(headerSize + size, blockAlignment);
     } catch (const std::bad_alloc &) {
         m_refusal = m_source.hasReachedLimit() ? HtmlError::TooIntricate : HtmlError::NotEnoughMemory;
@@ -101,42 +93,39 @@ void *ParserMemory::allocate(size_t size)
     }
     std::memcpy(block, &size, sizeof size);
     void *content = static_cast<std::byte *>(block) + headerSize;
-    if (isNode) {
-        std::memset(content, 0, size); // read before the parser has written all of it
-        m_latestNode = static_cast<const GumboNode *>(content);
-    }
+    // The parser makes the document's node before it reads the page, so that the first block of the size is
+    // it.
+    if (isNode && !m_document)
+        m_document = static_cast<const GumboNode *>(content);
     return content;
 }
 
 void ParserMemory::release(void *block)
 {
+    if (isStackUsedUp())
+        m_refusal = HtmlError::TooDeep;
     if (!block)
         return;
-    if (block == m_latestNode)
-        m_latestNode = nullptr;
     void *start = static_cast<std::byte *>(block) - headerSize;
     size_t size = 0;
     std::memcpy(&size, start, sizeof size);
     m_pool.deallocate(start, headerSize + size, blockAlignment);
 }
 
-/// No element is more than one level deeper than the one before, so that the depth need only be measured
-/// where it might have reached the limit since it was measured last. Comments tell nothing of the depth:
-/// behind the end tag of the body they are children of the root.
-bool ParserMemory::isTooDeep()
+/// The whole tree is measured whenever it may have doubled, which takes time proportional to its size in all.
+/// What grows deep in between is found by the last measurement, of the finished tree, or by its use of the
+/// stack.
+bool ParserMemory::isTreeTooDeep()
 {
-    if (m_nodesBeforeMeasuring > 0) {
-        --m_nodesBeforeMeasuring;
+    if (++m_nodeCount < m_nodeCountToMeasureAt)
         return false;
-    }
-    if (!m_latestNode || !m_latestNode->parent || m_latestNode->type == GUMBO_NODE_COMMENT)
-        return false; // measure the next one
-    int depth = 0;
-    for (const GumboNode *node = m_latestNode; depth <= deepestNesting && m_source.holdsNode(node);
-         node = node->parent)
-        ++depth;
-    m_nodesBeforeMeasuring = deepestNesting - depth;
-    return depth > deepestNesting;
+    m_nodeCountToMeasureAt = m_nodeCount * 2;
+    return isTooDeep(*m_document);
+}
+
+bool ParserMemory::isStackUsedUp() const
+{
+    return std::abs(m_stackStart - stackPosition()) > maxStackUse;
 }
 
 bool ParserMemory::hasNoTimeLeft()

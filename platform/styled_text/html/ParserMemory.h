@@ -10,20 +10,21 @@
 
 #include <chrono>
 #include <cstddef>
-#include <map>
 #include <memory_resource>
 #include <optional>
 
 /// Nothing is given back to the system before the end, where all is at once: gumbo_destroy_output would
-/// descend into the tree recursively.
+/// descend into the tree recursively. The parser does so itself where a frameset replaces a body, and so its
+/// stack is watched too.
 class ParserMemory {
 public:
-    /// pageLength: bytes of the page to be parsed, which all limits but that of the depth are in proportion
-    /// to.
+    /// To be made where the parser runs, since the use of the stack is counted from there. pageLength: bytes
+    /// of the page to be parsed, which all limits but that of the depth are in proportion to.
     explicit ParserMemory(qsizetype pageLength);
 
     /// Null where a limit is reached or the memory is short; refusal() then says which.
     void *allocate(size_t size);
+    /// May make a refusal, on which the run must end.
     void release(void *block);
 
     [[nodiscard]] std::optional<HtmlError> refusal() const { return m_refusal; }
@@ -37,8 +38,6 @@ private:
         {
         }
         [[nodiscard]] bool hasReachedLimit() const { return m_hasReachedLimit; }
-        /// Whether a node may be read there.
-        [[nodiscard]] bool holdsNode(const void *address) const;
 
     private:
         void *do_allocate(size_t size, size_t alignment) override;
@@ -51,18 +50,20 @@ private:
         const size_t m_limit;
         size_t m_taken = 0;
         bool m_hasReachedLimit = false;
-        std::map<const std::byte *, size_t> m_chunks;
     };
 
-    [[nodiscard]] bool isTooDeep();
+    [[nodiscard]] bool isTreeTooDeep();
+    [[nodiscard]] bool isStackUsedUp() const;
     [[nodiscard]] bool hasNoTimeLeft();
 
     Source m_source;
     std::pmr::unsynchronized_pool_resource m_pool;
     std::optional<HtmlError> m_refusal;
 
-    const GumboNode *m_latestNode = nullptr; ///< or some string of the same size
-    int m_nodesBeforeMeasuring;
+    const GumboNode *m_document = nullptr; ///< the root of the tree, once there is one
+    size_t m_nodeCount = 0; ///< blocks of the size of a node; strings of the same size count too
+    size_t m_nodeCountToMeasureAt;
+    const qptrdiff m_stackStart; ///< an address
 
     std::chrono::nanoseconds m_deadline; ///< on the clock of the thread's processor time
     int m_callsBeforeClock;

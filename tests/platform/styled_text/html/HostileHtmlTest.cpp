@@ -130,6 +130,39 @@ TEST(HostileHtml, CommentsThatLieElsewhereHideNoDepth)
     }
 }
 
+TEST(HostileHtml, AttributesOfTheSizeOfANodeHideNoDepth)
+{
+    for (int length = 120; length <= 130; ++length) {
+        const QByteArray tag = "<span x='" + QByteArray(length, 'a') + "'>";
+        EXPECT_TRUE(readHtml(tag.repeated(900))) << length;
+        const auto read = readHtml(tag.repeated(20'000));
+        ASSERT_FALSE(read) << length;
+        EXPECT_EQ(read.error(), HtmlError::TooDeep) << length;
+    }
+}
+
+TEST(HostileHtml, DepthIsFoundWhereverItIs)
+{
+    const QByteArray deep = QByteArray("<span>").repeated(1'200);
+    for (const QByteArray &page :
+        {QByteArray("<p>x</p>").repeated(50'000) + deep, deep + QByteArray("<br>").repeated(50'000),
+            "<table>" + deep, "<ul><li>x</ul>" + deep + "</body><!-- -->", "<svg>" + deep}) {
+        const auto read = readHtml(page);
+        ASSERT_FALSE(read) << page.left(10).constData();
+        EXPECT_EQ(read.error(), HtmlError::TooDeep) << page.left(10).constData();
+    }
+}
+
+TEST(HostileHtml, ADeepBodyThatAFramesetReplacesIsRefusedBeforeTheStackEnds)
+{
+    // The parser releases the body by recursion, however deep it is.
+    const QByteArray wide = QByteArray("<p></p>").repeated(140'000);
+    const auto read = readHtml(wide + QByteArray("<span>").repeated(100'000) + "<frameset></frameset>");
+    ASSERT_FALSE(read);
+    EXPECT_EQ(read.error(), HtmlError::TooDeep);
+    EXPECT_TRUE(readHtml(QByteArray("<span>").repeated(990) + "<frameset></frameset>"));
+}
+
 TEST(HostileHtml, ManyElementsBesideEachOtherAreNotDeep)
 {
     for (const char *piece : {"<p>x", "<li>x", "<div>x</div>", "<table><tr><td>x</table>", "<a>x",
