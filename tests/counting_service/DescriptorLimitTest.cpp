@@ -5,12 +5,17 @@
 #include "tests/platform/notifications/PrivateBus.h"
 
 #include <csignal>
+#include <memory>
 
 namespace {
 
 class DescriptorLimitTest : public CountingServiceTest, public ::testing::WithParamInterface<int> {
 protected:
-    DescriptorLimitTest() { installServiceWithDescriptors(GetParam()); }
+    DescriptorLimitTest()
+    {
+        installServiceWithDescriptors(GetParam());
+        m_privateBus = std::make_unique<PrivateBus>();
+    }
     ~DescriptorLimitTest() override
     {
         for (const QDBusConnection &client : m_clients)
@@ -24,8 +29,8 @@ protected:
         const QDBusMessage request = message(flatRtfd(QStringLiteral("One two three four five.")));
         std::vector<QDBusPendingCall> calls;
         for (int i = 0; i < clients; ++i) {
-            m_clients.push_back(QDBusConnection::connectToBus(
-                QString::fromUtf8(m_privateBus.address()), QStringLiteral("crowd-%1").arg(m_clients.size())));
+            m_clients.push_back(QDBusConnection::connectToBus(QString::fromUtf8(m_privateBus->address()),
+                QStringLiteral("crowd-%1").arg(m_clients.size())));
             for (int k = 0; k < 50; ++k)
                 calls.push_back(m_clients.back().asyncCall(request, patience));
         }
@@ -39,7 +44,7 @@ protected:
         }));
     }
 
-    PrivateBus m_privateBus; // with the limits of a user's session
+    std::unique_ptr<PrivateBus> m_privateBus; // with the limits of a user's session
     std::vector<QDBusConnection> m_clients;
 };
 INSTANTIATE_TEST_SUITE_P(With, DescriptorLimitTest, ::testing::Values(64, 1024),
@@ -53,7 +58,7 @@ TEST_P(DescriptorLimitTest, AThousandRequestsThatStartTheServiceAreAllCountedAnd
     EXPECT_EQ(countedOf(calls), 1000U);
     const pid_t process = serviceOn(m_clients.front());
     ASSERT_NE(process, 0);
-    m_privateBus.end();
+    m_privateBus->end();
     EXPECT_TRUE(waitUntil([process] { return !isRunning(process); }));
 }
 
