@@ -4,7 +4,14 @@
 #include "platform/locale/CurrentLocale.h"
 #include "platform/printing/PrintSettings.h"
 #include "preferences/QBYUserDefaultsController.h"
+#include "preferences/page_preview/PageSizeForMeasuringPreviewViewController.h"
 #include "text_statistics/MeasuringSurface.h"
+
+std::optional<double> columnWidthOf(const PageRules &page)
+{
+    return PageSizeForMeasuringPreviewViewController::columnWidth(
+        page.paperSize, page.leftMargin, page.rightMargin);
+}
 
 TextRules currentTextRules()
 {

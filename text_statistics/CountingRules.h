@@ -28,7 +28,13 @@ struct PageRules {
     double leftMargin = 0;
     double rightMargin = 0;
     double scale = 1; ///< the surface's backing scale factor, by which the margins are divided already
+    /// The width of the column that is in force where the margins leave none. Absent: that of the surface's
+    /// own count before.
+    std::optional<double> columnBefore{};
 };
+
+/// The width of the column between the margins, in points; absent where they leave none.
+std::optional<double> columnWidthOf(const PageRules &page);
 
 struct CountingRules {
     TextRules text;

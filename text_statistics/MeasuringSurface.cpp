@@ -53,6 +53,10 @@ void MeasuringSurface::setPage(const PageRules &page)
     if (!isExactlyEqual(m_window.frame().size(), page.paperSize))
         m_window.setFrame(frame, true, false);
     m_preview.view()->setFrame(frame);
+    if (page.columnBefore) {
+        TextView &textView = *m_preview.previewTextView();
+        textView.setFrameSize({*page.columnBefore, textView.frame().height()});
+    }
     m_preview.setPreviewContentFrameSize(page.paperSize, page.leftMargin, page.rightMargin);
 }
 

@@ -30,8 +30,8 @@ public:
 
     /// The line fragments of the text in the column between the page's margins. A line end makes a line of
     /// its own; the empty line behind a final one does not count. Margins that leave no width leave the
-    /// column of the call before in force, which is none at first: then every grapheme has a line. The text
-    /// stays in the text view until the next call.
+    /// column of the call before in force, which is none at first: then every grapheme has a line. Where the
+    /// page names the column before, that is the one. The text stays in the text view until the next call.
     quint64 numberOfLines(
         const AttributedString &text, const PageRules &page, const LayoutEngine::Progress &progress = {});
 

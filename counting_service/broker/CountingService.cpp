@@ -129,6 +129,8 @@ void CountingService::receive(const ReceivedRequest &request)
         RulesSnapshot rules = snapshot.rules;
         if (kept.localeName)
             rules.localeName = *kept.localeName;
+        m_columnInForce = columnWidthOf(rules.page).value_or(m_columnInForce);
+        rules.page.columnBefore = m_columnInForce;
         m_pool.add({kept.kind, std::move(*memory), rules,
             [this, kept](const CountJob::Outcome &outcome) { finish(kept, outcome); }});
     });

@@ -51,6 +51,7 @@ private:
     RulesSource m_rules;
     WorkerPool m_pool;
     QTimer m_idleTimer;
+    double m_columnInForce = 0; ///< points; of the request before, whichever worker counts it
     size_t m_openRequests = 0;
     bool m_isLeaving = false;
     bool m_hasGivenNameAway = false;

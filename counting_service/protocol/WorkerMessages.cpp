@@ -73,14 +73,17 @@ QDataStream &operator<<(QDataStream &stream, const RulesSnapshot &rules)
 {
     return stream << rules.localeName << rules.minimumSentencesOfParagraph
                   << rules.sentencesNeedTerminalPunctuation << rules.page.paperSize << rules.page.leftMargin
-                  << rules.page.rightMargin << rules.page.scale;
+                  << rules.page.rightMargin << rules.page.scale << rules.page.columnBefore.value_or(0);
 }
 
 QDataStream &operator>>(QDataStream &stream, RulesSnapshot &rules)
 {
-    return stream >> rules.localeName >> rules.minimumSentencesOfParagraph
-        >> rules.sentencesNeedTerminalPunctuation >> rules.page.paperSize >> rules.page.leftMargin
-        >> rules.page.rightMargin >> rules.page.scale;
+    double columnBefore = 0;
+    stream >> rules.localeName >> rules.minimumSentencesOfParagraph >> rules.sentencesNeedTerminalPunctuation
+        >> rules.page.paperSize >> rules.page.leftMargin >> rules.page.rightMargin >> rules.page.scale
+        >> columnBefore;
+    rules.page.columnBefore = columnBefore;
+    return stream;
 }
 
 bool isKnown(quint32 kind)

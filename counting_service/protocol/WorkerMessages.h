@@ -38,7 +38,9 @@ struct RulesSnapshot {
     QByteArray localeName; ///< as in LANG, or as ICU names locales
     qint64 minimumSentencesOfParagraph = 0;
     bool sentencesNeedTerminalPunctuation = false;
-    PageRules page; ///< its paper's name does not travel: no count rests on it
+    /// Its paper's name does not travel: no count rests on it. The column before always does, as 0 where
+    /// there is none: that of the service, not of the worker.
+    PageRules page;
 };
 
 struct WorkerRequest {

@@ -70,16 +70,24 @@ void PageSizeForMeasuringPreviewViewController::loadView()
     scrollToTop(*m_mainScrollView);
 }
 
+std::optional<double> PageSizeForMeasuringPreviewViewController::columnWidth(
+    const QSizeF &size, double leftInset, double rightInset)
+{
+    if (!(leftInset + rightInset < size.width()))
+        return std::nullopt;
+    return size.width() - leftInset - rightInset;
+}
+
 void PageSizeForMeasuringPreviewViewController::setPreviewContentFrameSize(
     const QSizeF &size, double leftInset, double rightInset)
 {
-    const double columnWidth = size.width() - leftInset - rightInset;
-    if (!(leftInset + rightInset < size.width()))
+    const std::optional<double> width = columnWidth(size, leftInset, rightInset);
+    if (!width)
         return;
     if (!m_mainScrollView || !m_wrapperView || !m_previewTextView)
         loadView();
     m_wrapperView->setFrameSize(size);
-    m_previewTextView->setFrame({leftInset, 0, columnWidth, m_previewTextView->frame().height()});
+    m_previewTextView->setFrame({leftInset, 0, *width, m_previewTextView->frame().height()});
     m_mainScrollView->magnifyToFitRect(m_wrapperView->frame());
     scrollToTop(*m_mainScrollView);
 }

@@ -13,6 +13,8 @@
 
 #include <QPointer>
 
+#include <optional>
+
 /// The scroll view is the controller's view, the page its document, and the text view lies on the page.
 class PageSizeForMeasuringPreviewViewController : public ViewController {
 public:
@@ -29,6 +31,9 @@ public:
     /// Makes those of the three views that are missing, puts the text view on top of the page and scrolls to
     /// the page's top.
     void loadView() override;
+
+    /// Points; absent where the insets leave the column no width.
+    static std::optional<double> columnWidth(const QSizeF &size, double leftInset, double rightInset);
 
     /// Points. Makes the page that large, sets the column between the insets, and shrinks the page to fit;
     /// the column keeps its height. Insets that leave the column no width change nothing at all.

@@ -53,6 +53,7 @@ TEST(CountMemory, TakesNoCountUnderOtherRulesForIt)
         nameWith([](WorkerRequest &changed) { changed.rules.sentencesNeedTerminalPunctuation ^= true; }),
         name);
     EXPECT_NE(nameWith([](WorkerRequest &changed) { changed.rules.page.scale += 1; }), name);
+    EXPECT_NE(nameWith([](WorkerRequest &changed) { changed.rules.page.columnBefore = 400; }), name);
 }
 
 TEST(CountMemory, ForgetsWhatHasNotComeForTheLongestTime)

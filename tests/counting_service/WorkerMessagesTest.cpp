@@ -37,6 +37,7 @@ WorkerRequest sampleRequest()
     request.rules.page.leftMargin = -1.0 / 3;
     request.rules.page.rightMargin = 1e300;
     request.rules.page.scale = 2;
+    request.rules.page.columnBefore = 451.5;
     return request;
 }
 
@@ -76,6 +77,7 @@ TEST(WorkerMessages, ARequestArrivesAsItWasSent)
     EXPECT_EQ(arrived->rules.page.leftMargin, sent.rules.page.leftMargin);
     EXPECT_EQ(arrived->rules.page.rightMargin, sent.rules.page.rightMargin);
     EXPECT_EQ(arrived->rules.page.scale, sent.rules.page.scale);
+    EXPECT_EQ(arrived->rules.page.columnBefore, sent.rules.page.columnBefore);
     expectOnlyWhole(message, decodedRequest);
 }
 
