@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "command/CommandWords.h"
 
+#include "command/FileNames.h"
+
 #include <getopt.h>
 
 #include <cstdio>
@@ -21,11 +23,13 @@ std::optional<CommandWords> CommandWords::parse(
     options.push_back({});
 
     CommandWords parsed;
+    opterr = 0;
     optind = 0; // begin anew, should the process have parsed other words before
     int index = 0;
     for (int word;
          (word = getopt_long(wordCount + 1, argumentVector.data(), "h", options.data(), &index)) != -1;) {
-        if (word == '?') { // getopt_long() has said what is wrong
+        if (word == '?') {
+            reportWrongOption(word, argumentVector.data());
             tellWrongUsage(command, nullptr);
             return std::nullopt;
         }
@@ -34,6 +38,17 @@ std::optional<CommandWords> CommandWords::parse(
     for (int i = optind; i <= wordCount; ++i)
         parsed.operands.append(argumentVector[static_cast<size_t>(i)]);
     return parsed;
+}
+
+void reportWrongOption(int result, char *const *words)
+{
+    // Of several letters behind one dash, optind does not tell which.
+    const bool isLetter = optopt > 0 && optopt < 0x80;
+    const QByteArray word =
+        isLetter ? '-' + QByteArray(1, static_cast<char>(optopt)) : QByteArray(words[optind - 1]);
+    std::fprintf(stderr, "quillbay: %s '%s'\n",
+        result == ':' ? "an argument is missing behind option" : "cannot understand option",
+        printableName(word).constData());
 }
 
 int tellWrongUsage(const char *command, const char *message)

@@ -22,6 +22,11 @@ struct CommandWords {
         const char *command, const QByteArrayList &known, int wordCount, char **words);
 };
 
+/// Prints to standard error what getopt_long(), told to be silent, has found wrong with a word: it prints
+/// words as they are, and they may hold what controls a terminal. result: its result, ':' where an argument
+/// is missing.
+void reportWrongOption(int result, char *const *words);
+
 /// Tells on standard error what is wrong, unless message is null, and where to find help; gives
 /// wrongUsageStatus.
 int tellWrongUsage(const char *command, const char *message);

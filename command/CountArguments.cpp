@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "command/CountArguments.h"
 
+#include "command/CommandWords.h"
+
 #include <getopt.h>
 
 #include <cstdio>
@@ -54,7 +56,9 @@ where FILE is - or where no file is named at all.
   -h, --help         show this and leave
 
 The table counts together what is in several files; the other two forms have
-no such row. Names with control characters show them escaped.
+no such row. Control characters of names are escaped: as \x1b in the table, as
+\u001b in JSON; with --tsv as \t, \n, \r or byte by byte as \x1b, like bytes that
+are no UTF-8, and a backslash as \\.
 
 Exit status: 0 if all files were counted, 1 if any was not, 2 for wrong usage.
 )";
@@ -75,8 +79,10 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
         arguments.form = form;
         return !isOther;
     };
+    opterr = 0;
     optind = 0; // begin anew, should the process have parsed other words before
-    for (int word; (word = getopt_long(argumentCount, argumentVector.data(), "h", options, nullptr)) != -1;) {
+    for (int word;
+         (word = getopt_long(argumentCount, argumentVector.data(), ":h", options, nullptr)) != -1;) {
         switch (word) {
         case Help:
             arguments.wantsHelp = true;
@@ -98,7 +104,8 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
             arguments.wantsService = true;
             break;
         default:
-            return wrongUsage(nullptr); // getopt_long() has said what is wrong
+            reportWrongOption(word, argumentVector.data());
+            return wrongUsage(nullptr);
         }
     }
     for (int i = optind; i < argumentCount; ++i)

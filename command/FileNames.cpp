@@ -5,33 +5,100 @@
 #include <QJsonDocument>
 #include <QString>
 
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+bool controlsTerminal(QChar unit)
+{
+    switch (unit.category()) {
+    case QChar::Other_Control:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        break;
+    }
+    return (unit >= QChar(0x202A) && unit <= QChar(0x202E))
+        || (unit >= QChar(0x2066) && unit <= QChar(0x2069));
+}
+
+QString hexadecimal(uint number, int digits)
+{
+    return QStringLiteral("%1").arg(number, digits, 16, QLatin1Char('0'));
+}
+
+/// The bytes of the first character; of one that is no UTF-8, the first byte, and false.
+std::pair<QByteArray, bool> firstCharacter(QByteArrayView bytes)
+{
+    const auto lead = static_cast<uchar>(bytes[0]);
+    const qsizetype length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    const QByteArray character = bytes.first(std::min(length, bytes.size())).toByteArray();
+    if (QByteArrayView(character).isValidUtf8())
+        return {character, true};
+    return {character.first(1), false};
+}
+
+QByteArray escapedBytes(const QByteArray &bytes)
+{
+    QByteArray escaped;
+    for (const char byte : bytes)
+        escaped += "\\x" + hexadecimal(static_cast<uchar>(byte), 2).toLatin1();
+    return escaped;
+}
+
+} // namespace
+
 QByteArray printableName(const QByteArray &name)
 {
     QString printable;
     for (const QChar unit : QString::fromUtf8(name)) {
-        if (unit.category() == QChar::Other_Control)
-            printable += QStringLiteral("\\x%1").arg(unit.unicode(), 2, 16, QLatin1Char('0'));
-        else
+        if (!controlsTerminal(unit))
             printable += unit;
+        else if (unit.unicode() < 0x100)
+            printable += QStringLiteral("\\x") + hexadecimal(unit.unicode(), 2);
+        else
+            printable += QStringLiteral("\\u") + hexadecimal(unit.unicode(), 4);
     }
     return printable.toUtf8();
 }
 
 QByteArray tsvName(const QByteArray &name)
 {
-    return QString::fromUtf8(name)
-        .replace(u'\\', QStringLiteral("\\\\"))
-        .replace(u'\t', QStringLiteral("\\t"))
-        .replace(u'\n', QStringLiteral("\\n"))
-        .replace(u'\r', QStringLiteral("\\r"))
-        .toUtf8();
+    QByteArray escaped;
+    for (qsizetype at = 0; at < name.size();) {
+        const auto [character, isUtf8] = firstCharacter(QByteArrayView(name).sliced(at));
+        at += character.size();
+        if (character == "\\")
+            escaped += "\\\\";
+        else if (character == "\t")
+            escaped += "\\t";
+        else if (character == "\n")
+            escaped += "\\n";
+        else if (character == "\r")
+            escaped += "\\r";
+        else if (!isUtf8 || controlsTerminal(QString::fromUtf8(character).front()))
+            escaped += escapedBytes(character);
+        else
+            escaped += character;
+    }
+    return escaped;
 }
 
 QByteArray jsonName(const QByteArray &name)
 {
     const QByteArray array =
         QJsonDocument(QJsonArray{QString::fromUtf8(name)}).toJson(QJsonDocument::Compact);
-    return array.sliced(1, array.size() - 2);
+    // JSON itself escapes no more than the control characters below U+0020.
+    QString escaped;
+    for (const QChar unit : QString::fromUtf8(array.sliced(1, array.size() - 2))) {
+        if (controlsTerminal(unit))
+            escaped += QStringLiteral("\\u") + hexadecimal(unit.unicode(), 4);
+        else
+            escaped += unit;
+    }
+    return escaped.toUtf8();
 }
 
 QByteArrayList namesInList(const QByteArray &list)

@@ -17,5 +17,6 @@ void tellDocumentFailure(const QByteArray &name, const QString &cause)
 {
     // What was printed so far comes first where both streams end in one place.
     std::fflush(stdout);
-    std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(), cause.toUtf8().constData());
+    std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(),
+        printableName(cause.toUtf8()).constData());
 }

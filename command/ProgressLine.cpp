@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <system_error>
 
 using namespace std::chrono_literals;
 
@@ -34,8 +35,12 @@ qsizetype terminalWidth()
 ProgressLine::ProgressLine(qsizetype fileCount)
     : m_fileCount(fileCount)
 {
-    if (::isatty(STDERR_FILENO))
+    if (!::isatty(STDERR_FILENO))
+        return;
+    try {
         m_thread = std::thread([this] { drawUntilStopped(); });
+    } catch (const std::system_error &) { // the system has no thread left: nobody sees the progress
+    }
 }
 
 ProgressLine::~ProgressLine()

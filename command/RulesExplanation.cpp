@@ -21,11 +21,11 @@ QByteArray rulesExplanation(const CountingRules &rules, const QByteArrayList &fo
 {
     const PageRules &page = rules.page;
     const double columnWidth = page.paperSize.width() - page.leftMargin - page.rightMargin;
-    QByteArray text = line("Locale", rules.text.localeIdentifier().toUtf8())
+    QByteArray text = line("Locale", printableName(rules.text.localeIdentifier().toUtf8()))
         + line("Sentences end in punctuation", rules.text.sentencesNeedTerminalPunctuation ? "yes" : "no")
         + line(
             "Sentences of a paragraph, at least", QByteArray::number(rules.text.minimumSentencesOfParagraph))
-        + line("Paper", page.paperName ? page.paperName->toUtf8() : "of the print settings")
+        + line("Paper", page.paperName ? printableName(page.paperName->toUtf8()) : "of the print settings")
         + line("Paper width", points(page.paperSize.width()))
         + line("Paper height", points(page.paperSize.height())) + line("Left margin", points(page.leftMargin))
         + line("Right margin", points(page.rightMargin))

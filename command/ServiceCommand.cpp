@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/ServiceCommand.h"
 
+#include "command/FileNames.h"
 #include "platform/services/ServiceInterface.h"
 #include "platform/services/ServiceRequestSender.h"
 #include "platform/user_notifications/UserNotification.h"
@@ -47,7 +48,7 @@ int sendServiceRequest(const QString &message, const Pasteboard &pasteboard, Fai
 
 int tellFailure(const QString &cause, FailureReport report)
 {
-    std::fprintf(stderr, "quillbay: %s\n", cause.toUtf8().constData());
+    std::fprintf(stderr, "quillbay: %s\n", printableName(cause.toUtf8()).constData());
     if (report == FailureReport::StandardErrorAndNotification)
         showUserNotification(QStringLiteral("Quillbay"), asSentence(cause));
     return 1;

@@ -3,6 +3,7 @@
 #include "command/CommandWords.h"
 #include "command/CountArguments.h"
 #include "command/CountCommand.h"
+#include "command/FileNames.h"
 #include "command/SelectionCommand.h"
 #include "command/TextCommand.h"
 #include "command/WatchCommand.h"
@@ -78,7 +79,7 @@ int main(int argumentCount, char **arguments)
     if (name.empty())
         std::fputs("quillbay: no command given\n", stderr);
     else
-        std::fprintf(stderr, "quillbay: no command '%s'\n", arguments[1]);
+        std::fprintf(stderr, "quillbay: no command '%s'\n", printableName(arguments[1]).constData());
     std::fputs("Try 'quillbay --help' for more.\n", stderr);
     return wrongUsageStatus;
 }

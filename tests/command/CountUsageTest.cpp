@@ -38,6 +38,23 @@ TEST_F(CountUsageTest, WrongUsageEndsWithTwoAndAHintOnStandardError)
     }
 }
 
+TEST_F(CountUsageTest, NoWordControlsTheTerminal)
+{
+    const QByteArray name = file("a\x1B[2J\xC2\x9B\r", "One.");
+    const std::vector<QByteArrayList> cases{{"no\x1B[2J\xC2\x9B"}, {"count", "--no\x1B[2J\xC2\x9B"},
+        {"count", "-\x1B"}, {"text", "--no\x1B[2J\xC2\x9B"}, {"count", "/no/such\x1B[2J\xC2\x9B\r"},
+        {"count", name}, {"count", "--tsv", name}, {"count", "--json", name}};
+    for (const QByteArrayList &words : cases) {
+        const ChildProcess::Outcome outcome = quillbay(words);
+        for (const QByteArray &stream : {outcome.output, outcome.errors}) {
+            EXPECT_FALSE(stream.contains('\x1B')) << stream.constData();
+            EXPECT_FALSE(stream.contains('\r')) << stream.constData();
+            EXPECT_FALSE(stream.contains("\xC2\x9B")) << stream.constData();
+        }
+        EXPECT_FALSE(outcome.output.isEmpty() && outcome.errors.isEmpty());
+    }
+}
+
 TEST_F(CountUsageTest, OptionsMayFollowFilesAndTwoDashesEndThem)
 {
     const QByteArray name = file("--json", "One.");
