@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -30,20 +31,29 @@ void DispatchQueue::async(std::function<void()> block)
         if (std::exchange(m_work->isRunning, true))
             return;
     }
-    std::thread(run, m_work).detach();
+    try {
+        std::thread(run, m_work).detach();
+    } catch (const std::system_error &) {
+        drain(*m_work); // the system has no thread left: late is better than never
+    }
 }
 
 void DispatchQueue::run(const std::shared_ptr<Work> &work)
 {
     pthread_setname_np(pthread_self(), work->threadName.constData());
-    std::unique_lock lock(work->mutex);
-    while (!work->blocks.empty()) {
-        auto block = std::move(work->blocks.front());
-        work->blocks.pop_front();
+    drain(*work);
+}
+
+void DispatchQueue::drain(Work &work)
+{
+    std::unique_lock lock(work.mutex);
+    while (!work.blocks.empty()) {
+        auto block = std::move(work.blocks.front());
+        work.blocks.pop_front();
         lock.unlock();
         block();
         block = nullptr;
         lock.lock();
     }
-    work->isRunning = false;
+    work.isRunning = false;
 }

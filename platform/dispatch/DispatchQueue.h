@@ -15,12 +15,13 @@ public:
     /// label: the name of the thread; debuggers show its first 15 bytes.
     explicit DispatchQueue(const QString &label);
 
-    /// Returns at once.
+    /// Returns at once; runs the block itself where the system gives no thread.
     void async(std::function<void()> block);
 
 private:
     struct Work;
     static void run(const std::shared_ptr<Work> &work);
+    static void drain(Work &work);
 
     std::shared_ptr<Work> m_work;
 };

@@ -7,6 +7,7 @@
 #include <unicode/utext.h>
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -29,6 +30,8 @@ std::unique_ptr<icu::BreakIterator> makeRules(BreakKind kind)
         rules.reset(icu::BreakIterator::createLineInstance(root, status));
         break;
     }
+    if (status == U_MEMORY_ALLOCATION_ERROR)
+        throw std::bad_alloc();
     if (U_FAILURE(status))
         qFatal("ICU has no segmentation rules: %s", u_errorName(status)); // a broken installation of ICU
     return rules;
@@ -67,9 +70,8 @@ void BreakIterator::setText(QStringView text)
     UErrorCode status = U_ZERO_ERROR;
     utext_openUChars(&m_implementation->text, text.utf16(), std::min(text.size(), longestText), &status);
     m_implementation->rules->setText(&m_implementation->text, status);
-    // Only a lack of memory gets here.
     if (U_FAILURE(status))
-        qFatal("ICU cannot take a text: %s", u_errorName(status));
+        throw std::bad_alloc(); // nothing else can fail
 }
 
 qsizetype BreakIterator::next()

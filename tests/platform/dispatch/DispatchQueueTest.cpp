@@ -10,6 +10,8 @@
 #include <vector>
 
 #include <pthread.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 namespace {
 
@@ -100,4 +102,20 @@ TEST(DispatchQueue, ABlockEndsItsLifeBeforeTheNextBegins)
     queue.async([held = std::move(held)] {});
     queue.async([&] { isGone.set_value(watched.expired()); });
     EXPECT_TRUE(isGone.get_future().get());
+}
+
+TEST(DispatchQueue, WithoutAThreadToStartABlockRunsAtOnce)
+{
+    const auto runWithoutThreads = [] {
+        // Root may start as many as it likes.
+        if (::getuid() == 0 && ::setuid(65534) != 0)
+            ::_exit(2);
+        const rlimit none{0, 0};
+        ::setrlimit(RLIMIT_NPROC, &none);
+        bool hasRun = false;
+        DispatchQueue queue(QStringLiteral("none"));
+        queue.async([&hasRun] { hasRun = true; });
+        ::_exit(hasRun ? 0 : 1);
+    };
+    EXPECT_EXIT(runWithoutThreads(), ::testing::ExitedWithCode(0), "");
 }
