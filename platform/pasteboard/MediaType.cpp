@@ -1,26 +1,50 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pasteboard/MediaType.h"
 
-#include <QStringList>
+#include <algorithm>
 
 namespace {
 
-QByteArray unquoted(const QString &value)
+/// The position behind the parameter, whose quotes may hold semicolons.
+qsizetype endOfParameter(QStringView text)
 {
-    const bool isQuoted = value.size() >= 2 && value.startsWith(u'"') && value.endsWith(u'"');
-    return (isQuoted ? value.mid(1, value.size() - 2) : value).toLatin1();
+    bool isQuoted = false;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (text[at] == u'"')
+            isQuoted = !isQuoted;
+        else if (isQuoted && text[at] == u'\\')
+            ++at;
+        else if (!isQuoted && text[at] == u';')
+            return at;
+    }
+    return text.size();
+}
+
+/// Single quotes are none by RFC 2045, but are met.
+QByteArray unquoted(QStringView value)
+{
+    for (const QChar quote : {u'"', u'\''}) {
+        if (value.size() >= 2 && value.startsWith(quote) && value.endsWith(quote))
+            return value.mid(1, value.size() - 2).toString().remove(u'\\').trimmed().toLatin1();
+    }
+    return value.toLatin1();
 }
 
 } // namespace
 
 MediaType MediaType::parse(const QString &text)
 {
-    const QStringList parts = text.toLower().split(u';');
-    MediaType type{parts.first().trimmed(), {}};
-    for (const QString &part : parts.mid(1)) {
-        const QString parameter = part.trimmed();
-        if (parameter.startsWith(u"charset="))
-            type.charset = unquoted(parameter.mid(8).trimmed());
+    const QString lowerCase = text.toLower();
+    QStringView rest = lowerCase;
+    const qsizetype nameEnd = std::min(endOfParameter(rest), rest.size());
+    MediaType type{rest.first(nameEnd).trimmed().toString(), {}};
+    for (rest = rest.sliced(nameEnd); !rest.isEmpty() && type.charset.isEmpty();) {
+        rest = rest.sliced(1);
+        const QStringView parameter = rest.first(endOfParameter(rest));
+        rest = rest.sliced(parameter.size());
+        const qsizetype equals = parameter.indexOf(u'=');
+        if (equals >= 0 && parameter.first(equals).trimmed() == u"charset")
+            type.charset = unquoted(parameter.sliced(equals + 1).trimmed());
     }
     return type;
 }

@@ -8,6 +8,7 @@
 #include "platform/styled_text/html/HtmlReader.h"
 #include "platform/styled_text/rtf/RtfReader.h"
 #include "platform/styled_text/rtfd/RtfdReader.h"
+#include "platform/text_encoding/EncodingLabels.h"
 
 #include <algorithm>
 #include <array>
@@ -55,15 +56,15 @@ bool isOf(const Kind &kind, const MediaType &type)
         [&](QStringView name) { return !name.isEmpty() && type.name == name; });
 }
 
-/// Of the forms that are of the kind, one that says its charset comes first: what a form without one means
-/// depends on who made it.
+/// Of the forms that are of the kind, one that says its charset comes first: what a form means that says
+/// none, or one that nobody knows, depends on who made it.
 std::optional<AttributedString> read(const Kind &kind, const Pasteboard::Forms &forms)
 {
     std::optional<AttributedString> text;
-    for (const bool wantsCharset : {true, false}) {
+    for (const bool isCharsetKnown : {true, false}) {
         for (const auto &[name, bytes] : forms) {
             const MediaType type = MediaType::parse(name);
-            if (!isOf(kind, type) || type.charset.isEmpty() == wantsCharset)
+            if (!isOf(kind, type) || (encodingOfLabel(type.charset) != nullptr) != isCharsetKnown)
                 continue;
             if (text = kind.read(bytes, type.charset); text)
                 return text;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/PlainTextReader.h"
 
-#include "platform/styled_text/EncodedText.h"
-#include "platform/styled_text/MimeCharset.h"
-#include "platform/styled_text/TextEncoding.h"
+#include "platform/text_encoding/DeclaredEncoding.h"
+#include "platform/text_encoding/EncodedText.h"
+#include "platform/text_encoding/TextEncoding.h"
 
 #include <new>
 
@@ -30,9 +30,7 @@ Result<PlainText, TextError> readPlainText(QByteArrayView bytes, const QByteArra
     if (bytes.size() > longestInput)
         return TextError::TooLong;
     try {
-        TextEncoding encoding = detectTextEncoding(bytes);
-        if (const char *const named = encodingOfMimeCharset(charset); named && encoding.markLength == 0)
-            encoding.name = named;
+        const TextEncoding encoding = encodingOfPlainText(bytes, charset);
         return PlainText{decodedText(bytes.sliced(encoding.markLength), encoding.name), encoding.name};
     } catch (const std::bad_alloc &) {
         return TextError::NotEnoughMemory;

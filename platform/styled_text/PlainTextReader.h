@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // PlainTextReader turns the bytes of a plain text, in whatever encoding, into text. Which encoding it is,
-// TextEncoding.h finds out.
+// platform/text_encoding finds out.
 // Thread: any.
 #pragma once
 
@@ -27,5 +27,6 @@ QString causeText(TextError error);
 /// U+FFFD, and the last line need not end.
 Result<PlainText, TextError> readPlainText(QByteArrayView bytes);
 /// The same where the charset parameter of a MIME type says the encoding. A byte order mark is believed over
-/// it, and a charset that is empty or unknown says nothing.
+/// it, and a charset that is empty or not listed (EncodingLabels.h) says nothing, nor does UTF-8 that the
+/// bytes contradict.
 Result<PlainText, TextError> readPlainText(QByteArrayView bytes, const QByteArray &charset);

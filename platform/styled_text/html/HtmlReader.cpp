@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/html/HtmlReader.h"
 
-#include "platform/styled_text/EncodedText.h"
 #include "platform/styled_text/html/HtmlText.h"
 #include "platform/styled_text/html/HtmlTree.h"
-#include "platform/styled_text/html/PageEncoding.h"
+#include "platform/text_encoding/DeclaredEncoding.h"
+#include "platform/text_encoding/EncodedText.h"
 
 #include <cstring>
 #include <new>

@@ -55,5 +55,6 @@ bool looksLikeHtml(QByteArrayView bytes);
 
 /// Every sequence of bytes is a page. Its encoding is that of its byte order mark, else the one the options
 /// name, else the one a meta element in its first 1024 bytes names, else that of its XML declaration, else
-/// the one that TextEncoding.h finds out. Encodings go by the labels of the Encoding Standard.
+/// the one that TextEncoding.h finds out. Encodings go by the labels of the Encoding Standard. UTF-8 that is
+/// named falsely does not count.
 Result<AttributedString, HtmlError> readHtml(QByteArrayView bytes, const HtmlOptions &options = {});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/styled_text/html/HtmlStyleAttribute.h"
 
-#include "platform/styled_text/html/AsciiBytes.h"
+#include "platform/text_encoding/AsciiBytes.h"
 
 #include <QByteArray>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/styled_text/html/AsciiBytes.h"
 #include "platform/styled_text/html/HtmlReader.h"
+#include "platform/text_encoding/AsciiBytes.h"
 
 #include <algorithm>
 

@@ -30,13 +30,18 @@ void RtfDecoder::fill(Page &known, const RtfCodePage *page)
         return;
     }
     known.singleBytes = std::make_unique<std::array<char16_t, 256>>();
+    QString character;
     for (size_t value = 0; value < known.singleBytes->size(); ++value) {
         const auto byte = static_cast<char>(value);
         char16_t &unit = (*known.singleBytes).at(value);
+        character.clear();
+        if (value >= 0x80)
+            converter->append({&byte, 1}, character);
         if (value < 0x80)
             unit = static_cast<char16_t>(value);
-        else if (converter->convert({&byte, 1}, &unit) != 1)
-            unit = QChar::ReplacementCharacter;
+        else
+            unit =
+                character.size() == 1 ? character.front().unicode() : char16_t{QChar::ReplacementCharacter};
     }
 }
 
@@ -76,10 +81,6 @@ void RtfDecoder::finish(QString &target)
 {
     if (m_pending.isEmpty())
         return;
-    const qsizetype length = target.size();
-    // No encoding makes more code units than it has bytes.
-    target.resize(length + m_pending.size());
-    auto *const from = reinterpret_cast<char16_t *>(target.data()) + length;
-    target.truncate(length + m_pendingConverter->convert(m_pending, from));
+    m_pendingConverter->append(m_pending, target);
     m_pending.clear();
 }

@@ -4,8 +4,8 @@
 // Thread: one.  Owner: the reading of one document.
 #pragma once
 
-#include "platform/styled_text/EncodingConverter.h"
 #include "platform/styled_text/rtf/RtfCodePage.h"
+#include "platform/text_encoding/EncodingConverter.h"
 
 #include <QByteArray>
 #include <QByteArrayView>

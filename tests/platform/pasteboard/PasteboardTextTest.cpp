@@ -76,6 +76,44 @@ TEST(PasteboardText, IsDecodedAsItsCharsetSays)
     EXPECT_EQ(read("text/html;charset=windows-1251", "<p>\xE4\xE0"), QStringLiteral("да"));
 }
 
+TEST(PasteboardText, TheCharsetMayBeWrittenInAnyWay)
+{
+    for (const char *type : {"text/plain;charset=KOI8-R", "TEXT/PLAIN;CHARSET=koi8-r",
+             "text/plain; charset='koi8-r'", "text/plain ; Charset = \"KOI8-R\" ; x=y",
+             "text/plain;x=\"a;charset=utf-16\";charset=koi8-r", "text/plain;charset=\" koi8_r \"",
+             "text/plain;charset=koi", "text/plain;charset=\"koi8\\-r\"", "text/plain;;charset=koi8-r"})
+        EXPECT_EQ(textIn({{QString::fromLatin1(type), "\xC4\xC1"}}), QStringLiteral("да")) << type;
+}
+
+// ICU knows them, and makes more code units of some than they have bytes.
+TEST(PasteboardText, ACharsetThatIsNotListedIsNoReasonToFail)
+{
+    for (const char *charset :
+        {"BOCU-1", "SCSU", "UTF-7", "CESU-8", "IMAP-mailbox-name", "x11-compound-text", "ISCII,version=0",
+            "LMBCS-1", "ibm-930", "UTF-16,version=1", "utf-8\n", "\"", "'", "\\", "%s%n"}) {
+        const QString type = QStringLiteral("text/plain;charset=") + QString::fromLatin1(charset);
+        EXPECT_EQ(textIn({{type, QByteArray("words ").repeated(17)}}), QStringLiteral("words ").repeated(17))
+            << charset;
+        QByteArray bytes;
+        for (int i = 0; i < 102; ++i)
+            bytes.append(static_cast<char>(0xFF - i));
+        EXPECT_TRUE(Pasteboard({{type, bytes}}).readAttributedString()) << charset;
+    }
+}
+
+TEST(PasteboardText, PrefersAFormWhoseCharsetIsKnown)
+{
+    EXPECT_EQ(textIn({{QStringLiteral("text/plain;charset=bocu-1"), "?"},
+                  {QStringLiteral("text/plain;charset=utf-8"), "é"}}),
+        QStringLiteral("é"));
+}
+
+TEST(PasteboardText, Utf8ThatIsNamedFalselyDoesNotCount)
+{
+    EXPECT_EQ(textIn({{QStringLiteral("text/plain;charset=utf-8"), "\xCF\xF0\xE8\xE2\xE5\xF2"}}),
+        QStringLiteral("Привет"));
+}
+
 TEST(PasteboardText, BelievesAByteOrderMarkOverTheCharset)
 {
     EXPECT_EQ(textIn({{QStringLiteral("text/plain;charset=iso-8859-1"), "\xEF\xBB\xBF\xC3\xA9"}}),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // In which encoding a page is, and that it looks like one.
-#include "platform/styled_text/html/EncodingLabels.h"
 #include "platform/styled_text/html/HtmlReader.h"
+#include "platform/text_encoding/EncodingLabels.h"
 
 #include "tests/harness/QuillbayTest.h"
 
@@ -141,7 +141,7 @@ TEST(HtmlCharset, WithoutANameTheBytesTell)
 
 TEST(HtmlCharset, WhatTheEncodingHasNoMeaningForIsReplaced)
 {
-    EXPECT_EQ(textOf("<meta charset=utf-8>a\xFF\xC3(b"), QStringLiteral(u"a\uFFFD\uFFFD(b"));
+    EXPECT_EQ(textOf("<meta charset=utf-8>été \xFF\xC3(b à"), QStringLiteral(u"été \uFFFD\uFFFD(b à"));
     EXPECT_EQ(textOf("\xFE\xFF" + QByteArray("\0a\xD8\0\0b", 6)), QStringLiteral(u"a\uFFFDb"));
 }
 
@@ -163,6 +163,18 @@ TEST(HtmlCharset, EveryLabelStandsForAnEncodingThatIsThere)
     EXPECT_EQ(encodingOfLabel("utf-7"), nullptr);
     EXPECT_EQ(encodingOfLabel(""), nullptr);
     EXPECT_EQ(encodingOfLabel(" "), nullptr);
+}
+
+TEST(HtmlCharset, Utf8ThatIsNamedFalselyDoesNotCount)
+{
+    const QByteArray meta = "<meta charset=utf-8>";
+    EXPECT_EQ(textOf(meta + encoded(cyrillic, "windows-1251")), cyrillic);
+    EXPECT_EQ(textOf(meta + encoded(accented, "windows-1252")), accented);
+    EXPECT_EQ(textOf(meta + encoded(japanese, "Shift_JIS")), japanese);
+    EXPECT_EQ(textOf("<p>" + encoded(cyrillic, "KOI8-R"), "utf-8"), cyrillic);
+    EXPECT_EQ(
+        textOf("<?xml version='1.0' encoding='utf-8'?><p>" + encoded(cyrillic, "windows-1251")), cyrillic);
+    EXPECT_EQ(textOf("<meta charset=koi8-r>" + encoded(cyrillic, "KOI8-R"), "utf-8"), cyrillic);
 }
 
 TEST(HtmlCharset, LabelsThatBrowsersReadAsALargerEncodingAreReadAsThat)

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// Feeds the reader of plain text with any bytes. The first line, if it begins with "charset ", is the charset
+// of their MIME type.
+#include "platform/styled_text/PlainTextReader.h"
+
+#include <cstdint>
+
+namespace {
+
+void require(bool holds)
+{
+    if (!holds)
+        __builtin_trap();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    QByteArrayView bytes(data, static_cast<qsizetype>(size));
+    QByteArray charset;
+    constexpr QByteArrayView word = "charset ";
+    if (bytes.startsWith(word)) {
+        const qsizetype end = bytes.indexOf('\n');
+        const QByteArrayView line = bytes.first(end < 0 ? bytes.size() : end);
+        charset = line.sliced(word.size()).toByteArray();
+        bytes = bytes.sliced(line.size());
+    }
+    const Result<PlainText, TextError> read = readPlainText(bytes, charset);
+    require(read.hasValue());
+    require(!read.value().encoding.isEmpty());
+    require(read.value().text.isValidUtf16());
+    require(read.value().text.size() <= bytes.size() * 2);
+    require(readPlainText(bytes, charset).value().encoding == read.value().encoding);
+    return 0;
+}

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_encoding/TextEncoding.h"
+
+#include "platform/text_encoding/AsciiBytes.h"
+#include "platform/text_encoding/LegacyEncoding.h"
+#include "platform/text_encoding/UnmarkedUnicode.h"
+
+#include <unicode/utf8.h>
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+#include <string_view>
+
+namespace {
+
+/// Bytes from the first one above 127 on that are looked at before all others.
+constexpr qsizetype sampleSize = 65'536;
+
+constexpr char escape = '\x1B';
+
+/// The position of the first byte above 127, or the length where there is none.
+qsizetype firstAbove127(QByteArrayView bytes)
+{
+    // Eight at a time: most texts are ASCII to their end, or nearly.
+    constexpr quint64 topBits = 0x8080'8080'8080'8080;
+    qsizetype at = 0;
+    for (quint64 eight; at + 8 <= bytes.size(); at += 8) {
+        std::memcpy(&eight, bytes.data() + at, 8);
+        if (eight & topBits)
+            break;
+    }
+    return std::find_if(bytes.begin() + at, bytes.end(), isAbove127) - bytes.begin();
+}
+
+/// The encoding of the ISO-2022 kind that an escape sequence belongs to, if it switches to a character set of
+/// two bytes. The other sequences do not tell: terminals know some of them too.
+/// sequence: what follows upon the escape character.
+const char *iso2022EncodingOf(QByteArrayView sequence)
+{
+    struct Designation {
+        std::string_view sequence;
+        const char *name;
+    };
+    static constexpr Designation designations[] = {
+        {"$@", "ISO-2022-JP-2"},
+        {"$B", "ISO-2022-JP-2"},
+        {"$(D", "ISO-2022-JP-2"},
+        {"$)C", "ISO-2022-KR"},
+        {"$)A", "ISO-2022-CN-EXT"},
+        {"$)E", "ISO-2022-CN-EXT"},
+        {"$)G", "ISO-2022-CN-EXT"},
+    };
+    for (const Designation &designation : designations) {
+        if (sequence.startsWith(designation.sequence))
+            return designation.name;
+    }
+    return nullptr;
+}
+
+std::optional<TextEncoding> iso2022Encoding(QByteArrayView sevenBitText)
+{
+    for (qsizetype at = sevenBitText.indexOf(escape); at >= 0; at = sevenBitText.indexOf(escape, at + 1)) {
+        if (const char *name = iso2022EncodingOf(sevenBitText.sliced(at + 1)))
+            return TextEncoding{name};
+    }
+    return std::nullopt;
+}
+
+struct Utf8Census {
+    qsizetype wellFormed = 0; ///< sequences of two bytes or more
+    qsizetype broken = 0;
+};
+
+Utf8Census utf8Census(QByteArrayView bytes)
+{
+    const auto *data = reinterpret_cast<const uint8_t *>(bytes.data());
+    const qsizetype length = bytes.size();
+    Utf8Census census;
+    for (qsizetype at = 0; at < length;) {
+        if (data[at] < 0x80) {
+            ++at;
+            continue;
+        }
+        UChar32 character;
+        U8_NEXT(data, at, length, character);
+        if (character >= 0)
+            ++census.wellFormed;
+        else if (at < length)
+            ++census.broken;
+    }
+    return census;
+}
+
+/// text: begins with a byte above 127.
+bool isUtf8(QByteArrayView text)
+{
+    Utf8Census census = utf8Census(text.first(std::min(text.size(), sampleSize)));
+    // A sample without fault is enough; one with faults may be the only bad place of a long text.
+    if (census.broken > 0)
+        census = utf8Census(text);
+    return census.wellFormed > census.broken;
+}
+
+} // namespace
+
+std::optional<TextEncoding> markedEncoding(QByteArrayView bytes)
+{
+    using namespace std::string_view_literals;
+    struct Mark {
+        std::string_view bytes;
+        const char *name;
+    };
+    static constexpr Mark marks[] = {
+        {"\xEF\xBB\xBF"sv, "UTF-8"},
+        {"\xFF\xFE\0\0"sv, "UTF-32LE"},
+        {"\0\0\xFE\xFF"sv, "UTF-32BE"},
+        {"\xFF\xFE"sv, "UTF-16LE"},
+        {"\xFE\xFF"sv, "UTF-16BE"},
+    };
+    for (const Mark &mark : marks) {
+        if (bytes.startsWith(mark.bytes))
+            return TextEncoding{mark.name, static_cast<qsizetype>(mark.bytes.size())};
+    }
+    return std::nullopt;
+}
+
+bool mayBeUtf8(QByteArrayView bytes)
+{
+    const qsizetype above127 = firstAbove127(bytes);
+    return above127 == bytes.size() || isUtf8(bytes.sliced(above127));
+}
+
+TextEncoding detectTextEncoding(QByteArrayView bytes, const char *declared)
+{
+    if (const auto encoding = markedEncoding(bytes))
+        return *encoding;
+    if (const char *name = unmarkedUnicodeEncoding(bytes))
+        return {name};
+    const qsizetype above127 = firstAbove127(bytes);
+    if (above127 == bytes.size())
+        return iso2022Encoding(bytes).value_or(TextEncoding{"UTF-8"});
+    if (isUtf8(bytes.sliced(above127)))
+        return {"UTF-8"};
+    if (declared && std::string_view(declared) != "UTF-8")
+        return {declared};
+    return {likeliestLegacyEncoding(bytes, above127)};
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// What a plain text of markup says of its encoding.
+#include "platform/styled_text/PlainTextReader.h"
+
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/styled_text/SampleTexts.h"
+
+using namespace SampleTexts;
+
+namespace {
+
+// Two letters, of which the bytes tell nothing.
+const QString greeting = QStringLiteral("да");
+
+QString textOf(const QByteArray &bytes)
+{
+    return readPlainText(bytes).value().text;
+}
+
+} // namespace
+
+TEST(DeclaredEncoding, IsThatOfAnXmlDeclaration)
+{
+    for (const char *encoding : {"KOI8-R", "windows-1251", "IBM866", "ISO-8859-5"}) {
+        const QString text =
+            QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?>\n<feed><title>%2</title></feed>\n")
+                .arg(QString::fromLatin1(encoding), greeting);
+        EXPECT_EQ(textOf(encoded(text, encoding)), text);
+    }
+}
+
+TEST(DeclaredEncoding, IsThatOfAMetaElement)
+{
+    for (const char *start : {"<!DOCTYPE html>\n", "<?php echo 1; ?>\n", "<!-- template -->", "\n <head>"}) {
+        const QString text = QString::fromLatin1(start)
+            + QStringLiteral("<meta http-equiv=content-type content='text/html; charset=koi8-r'>") + greeting;
+        EXPECT_EQ(textOf(encoded(text, "KOI8-R")), text);
+    }
+}
+
+TEST(DeclaredEncoding, DoesNotCountInATextThatOnlySpeaksOfIt)
+{
+    const QString text =
+        QStringLiteral("Ein <meta charset=koi8-r> gehört über jede ältere russische Seite, schön früh.\n");
+    EXPECT_EQ(textOf(encoded(text, "windows-1252")), text);
+}
+
+TEST(DeclaredEncoding, DoesNotCountAgainstUtf8)
+{
+    const QString text =
+        QStringLiteral("<?xml version='1.0' encoding='iso-8859-1'?><a>") + russian + QStringLiteral("</a>");
+    EXPECT_EQ(textOf(text.toUtf8()), text);
+}
+
+TEST(DeclaredEncoding, Utf8ThatIsDeclaredFalselyDoesNotCount)
+{
+    const QString text =
+        QStringLiteral("<?xml version='1.0' encoding='utf-8'?><a>") + russian + QStringLiteral("</a>");
+    EXPECT_EQ(textOf(encoded(text, "windows-1251")), text);
+}
+
+TEST(DeclaredEncoding, ACharsetOfTheTransferOutweighsIt)
+{
+    const QString text = QStringLiteral("<?xml version='1.0' encoding='windows-1251'?><a>") + greeting;
+    EXPECT_EQ(readPlainText(encoded(text, "KOI8-R"), "koi8-r").value().text, text);
+}
