@@ -9,6 +9,6 @@ enum class FileEvent {
     Replaced, ///< a file has been moved onto the name: whole, as far as its writer is concerned
     Created, ///< a file has come under the name, perhaps still without its contents
     Gone, ///< the name has gone
-    FolderMoved, ///< a folder on the way to the file is no longer where it was
+    FolderMoved, ///< on the way to the file a folder has moved, or a symbolic link has changed
     Unknown, ///< events have been lost; there may have been any
 };

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int mostLinks = 40; // as many symbolic links as the system follows (path_resolution(7))
+constexpr int maxLinks = 40; // as many symbolic links as the system follows (path_resolution(7))
 
 // Nothing is watched that programs do to the attributes alone: they do it after saving, and it changes no
 // text.
@@ -26,12 +26,7 @@ QByteArray folderOf(const QByteArray &path)
     return slash <= 0 ? QByteArray("/") : path.first(slash);
 }
 
-QByteArray nameOf(const QByteArray &path)
-{
-    return path.sliced(path.lastIndexOf('/') + 1);
-}
-
-/// What the symbolic link says, made absolute; absent where it is none.
+/// What the symbolic link says; absent where it is none.
 std::optional<QByteArray> targetOfLink(const QByteArray &path)
 {
     QByteArray target(PATH_MAX, Qt::Uninitialized);
@@ -39,8 +34,62 @@ std::optional<QByteArray> targetOfLink(const QByteArray &path)
     if (length <= 0)
         return std::nullopt;
     target.truncate(length);
-    return target.startsWith('/') ? target : folderOf(path) + '/' + target;
+    return target;
 }
+
+bool exists(const QByteArray &path)
+{
+    struct stat status;
+    return ::lstat(path.constData(), &status) == 0;
+}
+
+/// A path as it is walked, name by name, as the system does (path_resolution(7)).
+class Way {
+public:
+    explicit Way(const QByteArray &path)
+        : m_names(path.split('/'))
+    {
+    }
+
+    /// Goes on to the next name; false at the end.
+    bool next()
+    {
+        m_folder = m_path;
+        while (!m_names.isEmpty()) {
+            const QByteArray name = m_names.takeFirst();
+            if (name == "..") {
+                m_folder = folderOf(m_folder);
+            } else if (!name.isEmpty() && name != ".") {
+                m_name = name;
+                m_path = m_folder.endsWith('/') ? m_folder + name : m_folder + '/' + name;
+                return true;
+            }
+        }
+        return false;
+    }
+    /// Goes on at the target of the link that it has come to.
+    void follow(const QByteArray &target)
+    {
+        m_path = target.startsWith('/') ? QByteArray("/") : m_folder;
+        m_names = target.split('/') + m_names;
+    }
+
+    [[nodiscard]] const QByteArray &folder() const { return m_folder; } ///< without symbolic links
+    [[nodiscard]] const QByteArray &name() const { return m_name; }
+    [[nodiscard]] const QByteArray &path() const { return m_path; } ///< of the name in the folder
+    /// Whether no further name follows.
+    [[nodiscard]] bool isAtEnd() const
+    {
+        return std::all_of(m_names.begin(), m_names.end(),
+            [](const QByteArray &name) { return name.isEmpty() || name == "."; });
+    }
+
+private:
+    QByteArrayList m_names; // still to come
+    QByteArray m_path{"/"};
+    QByteArray m_folder{"/"};
+    QByteArray m_name;
+};
 
 std::optional<FileEvent> meaningForDocument(quint32 mask)
 {
@@ -82,7 +131,7 @@ std::optional<int> FileWatches::watch(const QByteArray &path)
         return m_systemError;
     Places places;
     // Names first: a file that comes while the rest is set up is told of.
-    std::optional<int> error = watchNames(path, places);
+    std::optional<int> error = watchWay(path, places);
     if (const std::optional<int> documentError = watchDocument(path, places); !error)
         error = documentError;
     for (const auto &[watch, place] : m_places) {
@@ -93,34 +142,33 @@ std::optional<int> FileWatches::watch(const QByteArray &path)
     return error;
 }
 
-std::optional<int> FileWatches::watchNames(const QByteArray &path, Places &places)
+std::optional<int> FileWatches::watchWay(const QByteArray &path, Places &places)
 {
-    QByteArray link = path;
-    for (int links = 0; links <= mostLinks; ++links) {
-        const QByteArray folder = folderOf(link);
-        if (const std::optional<int> error = add(folder, nameMask, places, {false, {nameOf(link)}}))
+    int links = 0;
+    for (Way way(path); links <= maxLinks && way.next();) {
+        if (way.folder().size() > 1)
+            add(way.folder(), folderMask, places, {});
+        // The name of a folder need not be watched: the folder itself is.
+        if (!way.isAtEnd() && !targetOfLink(way.path()) && exists(way.path()))
+            continue;
+        const QByteArrayList name{way.name()};
+        const Place place = way.isAtEnd() ? Place{false, name, {}} : Place{false, {}, name};
+        if (const std::optional<int> error = add(way.folder(), nameMask, places, place))
             return error;
-        watchFoldersAbove(folder, places);
-        const std::optional<QByteArray> target = targetOfLink(link);
-        if (!target)
-            return std::nullopt;
-        link = *target;
+        if (const std::optional<QByteArray> target = targetOfLink(way.path())) {
+            way.follow(*target);
+            ++links;
+        }
     }
     return std::nullopt;
 }
 
 std::optional<int> FileWatches::watchDocument(const QByteArray &path, Places &places)
 {
-    const std::optional<int> error = add(path, documentMask, places, {true, {}});
+    const std::optional<int> error =
+        add(path, documentMask, places, {.isDocument = true, .names = {}, .wayNames = {}});
     // Its name is watched, so that its coming will be told.
     return error == ENOENT ? std::nullopt : error;
-}
-
-void FileWatches::watchFoldersAbove(const QByteArray &folder, Places &places)
-{
-    // One that this user may not read is left out: this user cannot have moved it either.
-    for (QByteArray above = folderOf(folder); above.size() > 1; above = folderOf(above))
-        add(above, folderMask, places, {});
 }
 
 std::optional<int> FileWatches::add(const QByteArray &path, quint32 mask, Places &places, const Place &place)
@@ -132,6 +180,7 @@ std::optional<int> FileWatches::add(const QByteArray &path, quint32 mask, Places
     Place &known = places[watch];
     known.isDocument = known.isDocument || place.isDocument;
     known.names += place.names;
+    known.wayNames += place.wayNames;
     return std::nullopt;
 }
 
@@ -166,7 +215,8 @@ std::optional<FileEvent> FileWatches::meaning(const inotify_event &event, const 
         return meaningForDocument(event.mask);
     if (event.mask & (IN_MOVE_SELF | IN_DELETE_SELF | IN_UNMOUNT | IN_IGNORED))
         return FileEvent::FolderMoved;
-    return place.names.contains(QByteArray::fromRawData(name, qsizetype(std::strlen(name))))
-        ? meaningForName(event.mask)
-        : std::nullopt;
+    const auto named = QByteArray::fromRawData(name, qsizetype(std::strlen(name)));
+    if (place.names.contains(named))
+        return meaningForName(event.mask);
+    return place.wayNames.contains(named) ? std::optional(FileEvent::FolderMoved) : std::nullopt;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// FileWatches is the system's watch (inotify) on one file, on the names that lead to it and on the folders
-// above; what its events amount to, ChangePolicy decides. Thread: main.  Owner: FilePresentation.
+// FileWatches is the system's watch (inotify) on one file, on the symbolic links that lead to it and on the
+// folders of the way; what its events amount to, ChangePolicy decides. Thread: main.  Owner:
+// FilePresentation.
 #pragma once
 
 #include "platform/base/OwnedDescriptor.h"
@@ -19,7 +20,8 @@ class FileWatches {
 public:
     FileWatches();
 
-    /// Watches what is at the path now, the path's name and, behind symbolic links, the names they lead to.
+    /// Watches what is at the path now, the path's name, the folders that it goes through, and the names of
+    /// all symbolic links among them. Where the way ends early, the name that is missing is watched.
     /// To be called again once another file or another folder has come there; events are not lost by that.
     /// Absent, or the errno for which changes may go untold: ENOSPC and EMFILE where the limits of inotify
     /// are used up, EACCES for a folder that this user may not read. path: absolute.
@@ -34,13 +36,13 @@ public:
 private:
     struct Place {
         bool isDocument = false; // itself; else a folder
-        QByteArrayList names; // that matter in this folder
+        QByteArrayList names; // in this folder, under which the document is known
+        QByteArrayList wayNames; // in this folder, of links among the folders of the way
     };
     using Places = std::map<int, Place>; // by watch descriptor
 
-    std::optional<int> watchNames(const QByteArray &path, Places &places);
+    std::optional<int> watchWay(const QByteArray &path, Places &places);
     std::optional<int> watchDocument(const QByteArray &path, Places &places);
-    void watchFoldersAbove(const QByteArray &folder, Places &places);
     std::optional<int> add(const QByteArray &path, quint32 mask, Places &places, const Place &place);
     [[nodiscard]] std::optional<FileEvent> meaning(const inotify_event &event, const char *name) const;
 

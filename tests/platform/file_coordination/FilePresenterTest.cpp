@@ -239,6 +239,68 @@ TEST_F(FilePresenterTest, WhatASymbolicLinkLeadsToIsFollowedThroughItsSaves)
     EXPECT_THAT(news(), ElementsAre(m_deleted));
 }
 
+TEST_F(FilePresenterTest, ALinkAmongTheFoldersThatLeadsElsewhereIsAChange)
+{
+    const QString other = writeFile(QStringLiteral("other/folder/f.txt"), "other");
+    ASSERT_TRUE(QFile::link(at(QStringLiteral("above")), at(QStringLiteral("second"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral("./second/../second"), at(QStringLiteral("first"))));
+    RecordingPresenter presenter(in(QStringLiteral("first/folder")));
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    const auto news = [&] {
+        allNews();
+        return presenter.takeNews();
+    };
+    ASSERT_TRUE(QFile::remove(at(QStringLiteral("second"))));
+    ASSERT_TRUE(QFile::link(at(QStringLiteral("other")), at(QStringLiteral("second"))));
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    EXPECT_EQ(presenter.contents(), QByteArray("other"));
+    write(other, "later");
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    write(m_path, "no longer watched");
+    EXPECT_THAT(news(), IsEmpty());
+    ASSERT_TRUE(QFile::link(at(QStringLiteral("above")), at(QStringLiteral("new"))));
+    rename(at(QStringLiteral("new")), at(QStringLiteral("first")));
+    EXPECT_THAT(news(), ElementsAre(m_changed));
+    EXPECT_EQ(presenter.contents(), QByteArray("no longer watched"));
+}
+
+TEST_F(FilePresenterTest, ALinkAmongTheFoldersThatIsMadeAgainAsItWasIsNoNews)
+{
+    ASSERT_TRUE(QFile::link(at(QStringLiteral("above")), at(QStringLiteral("link"))));
+    RecordingPresenter presenter(in(QStringLiteral("link/folder")));
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    ASSERT_TRUE(QFile::remove(at(QStringLiteral("link"))));
+    settle(300ms);
+    ASSERT_TRUE(QFile::link(QStringLiteral("above"), at(QStringLiteral("link"))));
+    allNews();
+    EXPECT_THAT(presenter.news(), IsEmpty());
+}
+
+TEST_F(FilePresenterTest, LinksThatLeadInACircleAreNoNews)
+{
+    ASSERT_TRUE(QFile::link(QStringLiteral("b"), at(QStringLiteral("a"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral("a"), at(QStringLiteral("b"))));
+    RecordingPresenter presenter(in(QStringLiteral("a")));
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    allNews();
+    EXPECT_THAT(presenter.takeNews(), IsEmpty());
+    ASSERT_TRUE(QFile::remove(at(QStringLiteral("b"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral("above/folder"), at(QStringLiteral("b"))));
+    allNews();
+    EXPECT_THAT(presenter.takeNews(), ElementsAre(m_changed));
+}
+
+TEST_F(FilePresenterTest, AFileWhoseFolderIsMadeLaterIsAChangeOnceItComes)
+{
+    const QString path = in(QStringLiteral("later/folder"));
+    RecordingPresenter presenter(path);
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    allNews();
+    writeFile(QStringLiteral("later/folder/f.txt"), "here");
+    allNews();
+    EXPECT_THAT(presenter.takeNews(), ElementsAre(m_changed));
+}
+
 TEST_F(FilePresenterTest, ARenamedFileHasMovedAndIsFollowed)
 {
     const QString there = in(QStringLiteral("above/folder"), QStringLiteral("g.txt"));
