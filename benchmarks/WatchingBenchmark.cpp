@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The watched document with the real clock: how long after the end of a save its text is told, and how much
 // processor time a poll takes that finds what the last one found.
+#include "platform/file_coordination/ChangePolicy.h"
 #include "platform/styled_text/loading/DocumentLoader.h"
 #include "watching/WatchTextFileModel.h"
 
@@ -12,12 +13,14 @@
 #include <QTimer>
 
 #include <ctime>
+#include <sys/file.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -119,6 +122,80 @@ void measureSaves(const Mode &mode, const char *sizeName, qsizetype size, const 
     std::fflush(stdout);
 }
 
+/// A watched document whose writer keeps it locked, as word processors do for as long as they show it.
+struct LockedDocument {
+    explicit LockedDocument(const QString &path)
+        : writer(path)
+        , model(QUrl::fromLocalFile(path), &told, activity)
+    {
+        if (!writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
+            || ::flock(writer.handle(), LOCK_EX) != 0)
+            std::exit(1);
+        model.beginWatchingTextFile();
+    }
+    void save() { writer.write("and another line\n"); }
+
+    QFile writer;
+    ApplicationActivity activity{true};
+    LastText told;
+    WatchTextFileModel model;
+};
+
+/// The free one loses its name for 100 ms, while the changes of the locked ones are told.
+std::vector<double> timesOfSavesBeside(
+    const std::vector<std::unique_ptr<LockedDocument>> &locked, const QString &path)
+{
+    constexpr int rounds = 20;
+    constexpr std::chrono::milliseconds removal = ChangePolicy::quiet - std::chrono::milliseconds(10);
+    write(path, contentsOf(10'000, 0));
+    ApplicationActivity activity(true);
+    LastText told;
+    WatchTextFileModel model(QUrl::fromLocalFile(path), &told, activity);
+    model.beginWatchingTextFile();
+    std::vector<double> times;
+    for (int save = 1; save <= rounds; ++save) {
+        const QByteArray contents = contentsOf(10'000, save);
+        QElapsedTimer timer;
+        QEventLoop loop;
+        QTimer::singleShot(removal, &loop, [&] {
+            QFile::remove(path);
+            model._nsTimerForceRead(); // a poll in the midst of the save
+        });
+        QTimer::singleShot(removal + std::chrono::milliseconds(100), &loop, [&] {
+            write(path, contents);
+            timer.start();
+        });
+        told.whenTold = [&] {
+            if (!told.text.string().startsWith(QString::fromLatin1(contents.first(10))))
+                return;
+            times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+            loop.quit();
+        };
+        for (const auto &document : locked)
+            document->save();
+        loop.exec();
+        told.whenTold = nullptr;
+        QTimer::singleShot(pauseBetweenSaves, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    return times;
+}
+
+void measureSavesBesideLocked(int count, const QTemporaryDir &folder)
+{
+    std::vector<std::unique_ptr<LockedDocument>> locked;
+    for (int i = 0; i < count; ++i) {
+        const QString path = folder.filePath(QStringLiteral("locked%1.txt").arg(i));
+        write(path, contentsOf(10'000, i));
+        locked.push_back(std::make_unique<LockedDocument>(path));
+    }
+    std::vector<double> times = timesOfSavesBeside(locked, folder.filePath(QStringLiteral("free.txt")));
+    std::sort(times.begin(), times.end());
+    std::printf("save to text beside %d locked documents: median %7.2f ms, longest %7.2f ms\n", count,
+        times[times.size() / 2], times.back());
+    std::fflush(stdout);
+}
+
 double processorMilliseconds()
 {
     timespec time{};
@@ -157,6 +234,8 @@ int main(int argumentCount, char **arguments)
     const QCoreApplication application(argumentCount, arguments);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("f.txt"));
+    for (const int locked : {0, 6})
+        measureSavesBesideLocked(locked, folder);
     measurePolls("text of 1 MB", path, contentsOf(1'000'000, 0));
     measurePolls("RTF of 1 MB", folder.filePath(QStringLiteral("f.rtf")),
         "{\\rtf1 " + contentsOf(1'000'000, 0).replace("\n", "\\par\n").replace("ferry", "{\\b ferry}") + '}');

@@ -50,17 +50,25 @@ ChangePolicy::Verdict ChangePolicy::look(const FileSighting &seen, Clock::Time n
         m_changedSince = now;
     // An empty file is most often one whose contents are about to come.
     const bool isWhole = m_isFinished && seen.state->size > 0;
-    const Clock::Time settled = std::min(m_lastActivity + quiet, *m_changedSince + patience);
+    const Clock::Time settled = std::min(m_lastActivity + quiet, *m_changedSince + maxDelay);
     if (!isWhole && now < settled)
         return {std::nullopt, settled};
     if (m_lastTold && now < *m_lastTold + burst)
         return {std::nullopt, *m_lastTold + burst};
+    const Clock::Time outwaited = std::min(m_lastActivity + lockTimeout, *m_changedSince + maxLockDelay);
+    if (now < outwaited && seen.isLocked && seen.isLocked())
+        return {std::nullopt, outwaited};
     m_known = seen.state;
     m_isWritten = false;
     m_isFinished = false;
     m_changedSince.reset();
     m_lastTold = now;
     return {FileNews{FileNews::Kind::Changed, {}}, std::nullopt};
+}
+
+bool ChangePolicy::isQuiet(Clock::Time now) const
+{
+    return !m_changedSince && now >= m_lastActivity + lockTimeout;
 }
 
 ChangePolicy::Verdict ChangePolicy::lookAtNothing(const FileSighting &seen, Clock::Time now)

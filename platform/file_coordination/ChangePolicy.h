@@ -8,6 +8,7 @@
 #include "platform/file_coordination/FileEvent.h"
 #include "platform/file_coordination/FileState.h"
 
+#include <functional>
 #include <optional>
 
 /// What a look at the path of a file has found.
@@ -16,6 +17,8 @@ struct FileSighting {
     /// Where nothing is at the path: where the file last seen there is now; absent: deleted or thrown away.
     std::optional<QByteArray> whereabouts;
     std::optional<FileState> stateThere;
+    /// Whether a writer has locked the file; asked only before a change is told. Empty: not locked.
+    std::function<bool()> isLocked;
 };
 
 struct FileNews {
@@ -37,7 +40,12 @@ public:
     /// The least time between the news of two changes: those of a burst become one.
     static constexpr Clock::Time burst{100};
     /// When a change is told although its writer never pauses.
-    static constexpr Clock::Time patience{2000};
+    static constexpr Clock::Time maxDelay{2000};
+    /// How long the writer of a locked file must have been quiet. Some programs keep their lock for as long
+    /// as they show the document, so a lock only delays a change.
+    static constexpr Clock::Time lockTimeout{300};
+    /// When a change is told although the writer that has locked the file never pauses.
+    static constexpr Clock::Time maxLockDelay{10'000};
 
     struct Verdict {
         std::optional<FileNews> news;
@@ -52,6 +60,9 @@ public:
     /// To be asked after events and at the time that the last verdict named. After a move or a deletion
     /// there is nothing more to be asked.
     Verdict look(const FileSighting &seen, Clock::Time now);
+    /// Whether nothing has happened to the file for as long as lockTimeout, and all that happened before is
+    /// told.
+    [[nodiscard]] bool isQuiet(Clock::Time now) const;
 
 private:
     Verdict lookAtNothing(const FileSighting &seen, Clock::Time now);

@@ -34,16 +34,18 @@ private:
         std::optional<Clock::Time> failingSince;
         bool isWaitedFor = false; ///< the name was missing, and stayed so
         bool isToBeRepeated = false;
+        bool isLeftToWriter = false; ///< no document could be made of a locked file
     };
     enum class Obstacle { None, Missing, Empty, Lock };
 
     std::optional<CoordinationError> readInTurn(
         const QUrl &url, const QByteArray &path, const FileCoordinator::Accessor &accessor);
     Obstacle waitForTurn(const QByteArray &path);
-    [[nodiscard]] Obstacle obstacleAt(const QByteArray &path) const;
-    static std::chrono::milliseconds patienceWith(Obstacle obstacle);
+    [[nodiscard]] Obstacle obstacleAt(const QByteArray &path, const std::optional<FileState> &state) const;
+    [[nodiscard]] bool isToEndUnread(Obstacle obstacle) const;
+    static std::chrono::milliseconds timeoutFor(Obstacle obstacle);
     bool waitFor(const Relinquishment &relinquishment);
-    std::optional<CoordinationError> refuseForLock();
+    [[nodiscard]] std::shared_ptr<FilePresentation> presentation() const;
 
     const FilePresenter *m_presenter; // perhaps gone; only to tell it from others
     Clock &m_clock;

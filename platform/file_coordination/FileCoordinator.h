@@ -16,8 +16,8 @@ class FileCoordinator {
 public:
     using Accessor = std::function<void(const QUrl &newURL)>;
 
-    /// How long an access waits at most for a writer's lock or for a presenter that keeps the file.
-    static constexpr std::chrono::milliseconds patience{2000};
+    /// How long an access waits at most for a presenter that keeps the file.
+    static constexpr std::chrono::milliseconds timeout{2000};
 
     /// From now on the presenter is told of what happens to its file.
     static void addFilePresenter(FilePresenter *presenter, Clock &clock = systemClock());
@@ -33,14 +33,17 @@ public:
     // Both call the accessor, or report why not, before they return, and serve the main thread's events while
     // they wait; called from such an event, or from the accessor, they leave it to the access under way.
 
-    /// Waits for a lock of a writer, and a moment for a file that is missing or has just been emptied, as
-    /// happens while programs save. The accessor is called again where the file has changed while it read. A
-    /// lock that outlasts the wait is reported; once it has gone, the presenter is told of a change.
+    /// Waits a moment for a file that is missing or has just been emptied, as happens while programs save.
+    /// The accessor is called again where the file has changed while it read. The writer of a locked file
+    /// must have been quiet for a moment: that is waited for too, ten seconds at most, but not on behalf of a
+    /// presenter. Its read is left out, and it is told of a change at that time.
     [[nodiscard]] std::optional<CoordinationError> coordinateReadingItemAtURL(
         const QUrl &url, const Accessor &byAccessor);
 
     /// For the accessor of a read that could make no document of it: whether it will be called again a moment
-    /// later, as the file may be half saved. Not where there is no file, nor after half a second of that.
+    /// later, as the file may be half saved. Not where there is no file, nor after half a second of that. A
+    /// file that is locked is read at a change that is told once it is unlocked; meanwhile the read is
+    /// reported as an error.
     [[nodiscard]] bool triesAgain();
 
     /// Does not wait for locks: the writer takes its own.

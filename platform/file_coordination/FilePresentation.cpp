@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -74,6 +75,19 @@ void FilePresentation::tellExpectedChange()
     look();
 }
 
+bool FilePresentation::mayBeReadWhileLocked()
+{
+    if (std::exchange(m_isChangeToBeRead, false))
+        return true;
+    look();
+    const Clock::Time now = m_clock.now();
+    if (m_hasEnded || m_policy.isQuiet(now))
+        return true;
+    m_policy.note(FileEvent::Replaced, now);
+    m_lookTimer->start(std::chrono::milliseconds(0));
+    return false;
+}
+
 void FilePresentation::lend()
 {
     ++m_lentTo;
@@ -128,6 +142,7 @@ FileSighting FilePresentation::sight()
 {
     FileSighting seen;
     seen.state = fileStateAt(m_path);
+    seen.isLocked = [this] { return isLockedByWriter(m_path); };
     if (seen.state)
         return seen;
     // The file is still where it was: it is a symbolic link, and what it led to has gone.
@@ -173,7 +188,9 @@ void FilePresentation::tell(const FileNews &news)
     switch (news.kind) {
     case FileNews::Kind::Changed:
         m_expectationTimer->stop();
+        m_isChangeToBeRead = true;
         m_presenter->presentedItemDidChange();
+        m_isChangeToBeRead = false;
         break;
     case FileNews::Kind::Moved:
         tellMove(news);

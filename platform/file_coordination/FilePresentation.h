@@ -39,6 +39,10 @@ public:
     /// for as often as in pollInterval.
     void tellChangeOnceUnlocked();
 
+    /// For a reader that finds the file locked: whether its writer has been quiet for long enough. If not, a
+    /// change is told once it has, or has unlocked the file.
+    bool mayBeReadWhileLocked();
+
     // While it is lent, news wait.
     void lend();
     void takeBack();
@@ -69,5 +73,6 @@ private:
     std::unique_ptr<ClockTimer> m_expectationTimer;
     bool m_isPolling = false;
     bool m_isFolderMissing = false; // so that not everything is watched
+    bool m_isChangeToBeRead = false; // it has just been told
     int m_lentTo = 0; // how many
 };

@@ -244,10 +244,28 @@ TEST_F(WatchTextFileModelTest, AMissingURLIsAFailure)
     EXPECT_THAT(takeLog(), ElementsAre(QStringLiteral("error URL went nil!!!!")));
 }
 
-TEST_F(WatchTextFileModelTest, ALockedDocumentIsAnErrorAndWatchingGoesOn)
+TEST_F(WatchTextFileModelTest, ADocumentThatItsWriterKeepsLockedIsReadOnceItIsQuiet)
 {
     const auto model = watch(m_path);
     QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    writer.write("after!");
+    model->_nsTimerForceRead();
+    EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
+    pass(300ms);
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text after!")));
+    model->_nsTimerForceRead();
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text after!")));
+    EXPECT_EQ(m_clock.paused(), 0ms);
+    EXPECT_THAT(takeLog(), IsEmpty());
+}
+
+TEST_F(WatchTextFileModelTest, ALockedDocumentThatCannotBeLoadedIsAnErrorAndWatchingGoesOn)
+{
+    const auto model = watch(m_path);
+    model->setTextFileURLToWatch(QUrl::fromLocalFile(m_docx), true); // read as an ordinary one, and torn
+    QFile writer(m_docx);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
     ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
     model->forceRead(nullptr);
@@ -256,7 +274,7 @@ TEST_F(WatchTextFileModelTest, ALockedDocumentIsAnErrorAndWatchingGoesOn)
     EXPECT_TRUE(model->isWatchingTextFile());
     writer.close();
     pass(2s);
-    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text before")));
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("failed")));
 }
 
 TEST_F(WatchTextFileModelTest, WhatIsLentIsNotReadUntilItComesBack)

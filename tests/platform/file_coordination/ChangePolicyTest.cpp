@@ -74,6 +74,31 @@ TEST_F(ChangePolicyTest, WaitsUntilAnUnfinishedWriteHasBeenQuiet)
     EXPECT_EQ(kindOf(m_policy.look(sighting(7, 14), 250ms)), FileNews::Kind::Changed);
 }
 
+TEST_F(ChangePolicyTest, ALockDelaysAChangeUntilItsWriterHasBeenQuiet)
+{
+    FileSighting locked = sighting(8, 10);
+    locked.isLocked = [] { return true; };
+    m_policy.note(FileEvent::Replaced, 0ms);
+    EXPECT_EQ(m_policy.look(locked, 0ms).lookAgain, 300ms);
+    m_policy.note(FileEvent::Closed, 200ms);
+    EXPECT_EQ(m_policy.look(locked, 300ms).lookAgain, 500ms);
+    EXPECT_FALSE(m_policy.isQuiet(500ms));
+    EXPECT_EQ(kindOf(m_policy.look(locked, 500ms)), FileNews::Kind::Changed);
+    EXPECT_TRUE(m_policy.isQuiet(500ms));
+}
+
+TEST_F(ChangePolicyTest, AsksForALockOnlyBeforeItTells)
+{
+    FileSighting seen = sighting(7, 12);
+    int asked = 0;
+    seen.isLocked = [&] { return ++asked == 0; };
+    m_policy.note(FileEvent::Written, 0ms);
+    m_policy.look(seen, 0ms);
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(kindOf(m_policy.look(seen, 150ms)), FileNews::Kind::Changed);
+    EXPECT_EQ(asked, 1);
+}
+
 TEST_F(ChangePolicyTest, AWriteAfterTheClosingIsUnfinishedAgain)
 {
     m_policy.note(FileEvent::Written, 0ms);

@@ -19,9 +19,12 @@ class FileCoordinatorTest : public QuillbayTest {
 protected:
     FileCoordinatorTest() { FileCoordinator::addFilePresenter(&m_presenter, m_clock); }
 
-    std::optional<CoordinationError> read()
+    std::optional<CoordinationError> read() { return readBy(m_coordinator); }
+    /// By a coordinator without a presenter, which waits itself.
+    std::optional<CoordinationError> readWaiting() { return readBy(m_waiting); }
+    std::optional<CoordinationError> readBy(const std::unique_ptr<FileCoordinator> &coordinator)
     {
-        return m_coordinator->coordinateReadingItemAtURL(m_url, [this](const QUrl &url) {
+        return coordinator->coordinateReadingItemAtURL(m_url, [this](const QUrl &url) {
             ++m_reads;
             m_contents = readFile(url.toLocalFile());
             if (m_whileReading)
@@ -52,6 +55,7 @@ protected:
     FakeClock m_clock;
     RecordingPresenter m_presenter{m_path};
     std::unique_ptr<FileCoordinator> m_coordinator = std::make_unique<FileCoordinator>(&m_presenter, m_clock);
+    std::unique_ptr<FileCoordinator> m_waiting = std::make_unique<FileCoordinator>(nullptr, m_clock);
     int m_reads = 0;
     QByteArray m_contents;
     std::function<void()> m_whileReading;
@@ -72,14 +76,15 @@ TEST_F(FileCoordinatorTest, WaitsForTheEndOfAnExclusiveLock)
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
     ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
-    const auto release = after(1500ms, [&] {
-        writer.write("after!");
+    const auto write = after(200ms, [&] { writer.write("after"); });
+    const auto release = after(400ms, [&] {
+        writer.write("!");
         writer.close();
     });
-    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(readWaiting(), m_granted);
     EXPECT_EQ(m_contents, QByteArray("after!"));
-    EXPECT_GE(m_clock.paused(), 1500ms);
-    EXPECT_LT(m_clock.paused(), 1600ms);
+    EXPECT_GE(m_clock.paused(), 400ms);
+    EXPECT_LT(m_clock.paused(), 500ms);
 }
 
 TEST_F(FileCoordinatorTest, WaitsForTheWriteLockOfAnOpenFile)
@@ -90,12 +95,13 @@ TEST_F(FileCoordinatorTest, WaitsForTheWriteLockOfAnOpenFile)
     lock.l_type = F_WRLCK;
     lock.l_len = 1;
     ASSERT_EQ(::fcntl(writer.handle(), F_OFD_SETLK, &lock), 0);
-    const auto release = after(500ms, [&] { writer.close(); });
-    EXPECT_EQ(read(), m_granted);
-    EXPECT_GE(m_clock.paused(), 500ms);
+    const auto release = after(200ms, [&] { writer.close(); });
+    EXPECT_EQ(readWaiting(), m_granted);
+    EXPECT_GE(m_clock.paused(), 200ms);
+    EXPECT_LT(m_clock.paused(), 300ms);
 }
 
-TEST_F(FileCoordinatorTest, RefusesAfterTwoSecondsOfAnotherProcesssWriteLock)
+TEST_F(FileCoordinatorTest, ReadsAQuietFileThatAnotherProcessKeepsLocked)
 {
     ChildProcess writer(QStringLiteral("/usr/bin/python3"));
     writer.start({"-c",
@@ -106,10 +112,57 @@ TEST_F(FileCoordinatorTest, RefusesAfterTwoSecondsOfAnotherProcesssWriteLock)
         "sys.stdin.readline()\n",
         QFile::encodeName(m_path)});
     ASSERT_EQ(writer.readLine(), QByteArray("locked"));
-    EXPECT_EQ(read(), m_locked);
+    EXPECT_EQ(readWaiting(), m_granted);
+    EXPECT_EQ(m_reads, 1);
+    EXPECT_GE(m_clock.paused(), 300ms);
+    EXPECT_LT(m_clock.paused(), 400ms);
+    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(m_reads, 2);
+    EXPECT_LT(m_clock.paused(), 400ms) << "a presenter knows that it has been quiet";
+}
+
+TEST_F(FileCoordinatorTest, DoesNotWaitForeverForAWriterThatNeverPausesUnderItsLock)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    const auto write = m_clock.makeTimer([&] { writer.write("more "); });
+    write->repeat(100ms);
+    EXPECT_EQ(readWaiting(), m_granted);
+    EXPECT_EQ(m_reads, 1);
+    EXPECT_GE(m_clock.paused(), 10s);
+    EXPECT_LT(m_clock.paused(), 11s);
+}
+
+TEST_F(FileCoordinatorTest, LeavesTheReadForAPresenterToAChangeOnceTheWriterIsQuiet)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    writer.write("after!");
+    EXPECT_EQ(read(), m_granted);
     EXPECT_EQ(m_reads, 0);
-    EXPECT_GE(m_clock.paused(), 2000ms);
-    EXPECT_LT(m_clock.paused(), 2100ms);
+    EXPECT_EQ(m_clock.paused(), 0ms) << "other files would wait with it";
+    m_presenter.whenTold = [this] { EXPECT_EQ(read(), m_granted); };
+    settle(299ms);
+    EXPECT_EQ(m_reads, 0);
+    settle(1ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(QStringLiteral("changed")));
+    EXPECT_EQ(m_reads, 1);
+    EXPECT_EQ(m_contents, QByteArray("after!"));
+}
+
+TEST_F(FileCoordinatorTest, ReadsAtAChangeThoughTheWriterNeverPausesUnderItsLock)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    m_presenter.whenTold = [this] { EXPECT_EQ(read(), m_granted); };
+    for (int i = 0; i < 110 && m_reads == 0; ++i) {
+        writer.write("piece ");
+        settle(100ms);
+    }
+    EXPECT_EQ(m_reads, 1);
 }
 
 TEST_F(FileCoordinatorTest, DoesNotWaitForLocksOfReaders)
@@ -136,18 +189,20 @@ TEST_F(FileCoordinatorTest, HoldsNoLockWhileItReads)
     EXPECT_EQ(read(), m_granted);
 }
 
-TEST_F(FileCoordinatorTest, ARefusedReaderIsToldOfAChangeOnceTheLockHasGone)
+TEST_F(FileCoordinatorTest, ALockedFileThatMakesNoDocumentIsReportedAndReadOnceItIsUnlocked)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
     ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
-    ASSERT_EQ(read(), m_locked);
+    m_whileReading = [this] { EXPECT_TRUE(m_coordinator->triesAgain()); };
+    EXPECT_EQ(read(), m_locked);
+    EXPECT_EQ(m_clock.paused(), 500ms);
     settle(10s);
     EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
-    EXPECT_EQ(read(), m_locked);
     ::flock(writer.handle(), LOCK_UN);
     settle(2s);
     EXPECT_THAT(m_presenter.takeNews(), ElementsAre(QStringLiteral("changed")));
+    m_whileReading = nullptr;
     EXPECT_EQ(read(), m_granted);
     settle(10s);
     EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
@@ -161,7 +216,7 @@ TEST_F(FileCoordinatorTest, ServesTheEventLoopWhileItWaits)
     bool isServed = false;
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [&] { isServed = true; }, Qt::QueuedConnection);
-    ASSERT_EQ(read(), m_locked);
+    ASSERT_EQ(readWaiting(), m_granted);
     EXPECT_TRUE(isServed);
 }
 
@@ -170,12 +225,12 @@ TEST_F(FileCoordinatorTest, AReadDuringAReadIsLeftToTheFirst)
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
     ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
-    const auto nested = after(100ms, [&] { EXPECT_EQ(read(), m_granted); });
+    const auto nested = after(100ms, [&] { EXPECT_EQ(readWaiting(), m_granted); });
     const auto release = after(200ms, [&] {
         EXPECT_EQ(m_reads, 0);
         writer.close();
     });
-    EXPECT_EQ(read(), m_granted);
+    EXPECT_EQ(readWaiting(), m_granted);
     EXPECT_EQ(m_reads, 1);
 }
 
@@ -184,8 +239,8 @@ TEST_F(FileCoordinatorTest, ACoordinatorThatGoesWhileItWaitsReadsNothingAndRepor
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
     ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
-    const auto end = after(100ms, [&] { m_coordinator.reset(); });
-    EXPECT_EQ(read(), m_granted);
+    const auto end = after(100ms, [&] { m_waiting.reset(); });
+    EXPECT_EQ(readWaiting(), m_granted);
     EXPECT_EQ(m_reads, 0);
     EXPECT_LT(m_clock.paused(), 200ms);
 }

@@ -12,6 +12,7 @@
 #include <QSaveFile>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -299,6 +300,53 @@ TEST_F(FilePresenterTest, AFileWhoseFolderIsMadeLaterIsAChangeOnceItComes)
     writeFile(QStringLiteral("later/folder/f.txt"), "here");
     allNews();
     EXPECT_THAT(presenter.takeNews(), ElementsAre(m_changed));
+}
+
+TEST_F(FilePresenterTest, AFolderIsFollowedUnderItsNameWithASlash)
+{
+    const QString text = writeFile(QStringLiteral("a.rtfd/TXT.rtf"), "{\\rtf1 before}");
+    RecordingPresenter presenter(at(QStringLiteral("a.rtfd/")));
+    FileCoordinator::addFilePresenter(&presenter, m_clock);
+    write(text, "{\\rtf1 after}");
+    allNews();
+    EXPECT_THAT(presenter.takeNews(), ElementsAre(m_changed));
+    rename(at(QStringLiteral("a.rtfd")), at(QStringLiteral("b.rtfd")));
+    allNews();
+    EXPECT_THAT(presenter.takeNews(), ElementsAre(movedTo(at(QStringLiteral("b.rtfd")))));
+}
+
+TEST_F(FilePresenterTest, AChangeOfALockedFileIsToldOnceItsWriterIsQuiet)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    for (int i = 0; i < 3; ++i) {
+        writer.write("piece ");
+        settle(299ms);
+        EXPECT_THAT(m_presenter.news(), IsEmpty());
+    }
+    settle(1ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed));
+    EXPECT_THAT(allNews(), IsEmpty());
+    writer.write("piece ");
+    settle(1ms);
+    writer.close();
+    settle(0ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed)) << "at once after the end of the lock";
+}
+
+TEST_F(FilePresenterTest, AWriterThatNeverPausesUnderItsLockIsWaitedForTenSeconds)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    const Clock::Time start = m_clock.now();
+    while (m_presenter.news().isEmpty() && m_clock.now() - start < 20s) {
+        writer.write("piece ");
+        settle(100ms);
+    }
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed));
+    EXPECT_EQ(m_clock.now() - start, 10s);
 }
 
 TEST_F(FilePresenterTest, ARenamedFileHasMovedAndIsFollowed)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/file_coordination/SaveModes.h"
 
+#include "platform/base/OwnedDescriptor.h"
+
 #include <QFile>
 #include <QSaveFile>
 
@@ -118,6 +120,21 @@ bool throughAnotherName(const QString &path, const QByteArray &contents, const P
     return write(other, contents, pause) && QFile::remove(other);
 }
 
+/// The lock is kept, as word processors do for as long as they show the document, until the next save in this
+/// mode; POSIX drops it also when the program closes the file in any other.
+bool renamedOverAndLocked(const QString &path, const QByteArray &contents, const Pause &pause)
+{
+    static OwnedDescriptor kept;
+    if (!renamedOver(path, contents, pause))
+        return false;
+    pause();
+    kept = OwnedDescriptor(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC));
+    struct flock lock { };
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    return ::fcntl(kept.get(), F_SETLK, &lock) == 0;
+}
+
 struct Mode {
     const char *name;
     bool (*save)(const QString &path, const QByteArray &contents, const Pause &pause);
@@ -128,6 +145,7 @@ constexpr Mode modes[] = {
     {"over-the-old-contents", overTheOldContents},
     {"truncated-first", truncatedFirst},
     {"renamed-over", renamedOver},
+    {"renamed-over-and-locked", renamedOverAndLocked},
     {"old-renamed-away", oldRenamedAway},
     {"old-renamed-away-new-renamed-in", oldRenamedAwayNewRenamedIn},
     {"deleted-and-created", deletedAndCreated},
