@@ -35,7 +35,10 @@ std::optional<CoordinationError> CoordinatedAccess::read(
     const Relinquishment relinquishment(path, Relinquishment::Party::Reader, m_presenter);
     if (!waitFor(relinquishment))
         return CoordinationError{CoordinationError::Cause::NotRelinquished};
-    return readInTurn(url, path, accessor);
+    const std::optional<CoordinationError> error = readInTurn(url, path, accessor);
+    if (const auto followed = presentation())
+        followed->lookAfterReading();
+    return error;
 }
 
 std::optional<CoordinationError> CoordinatedAccess::readInTurn(

@@ -88,6 +88,12 @@ bool FilePresentation::mayBeReadWhileLocked()
     return false;
 }
 
+void FilePresentation::lookAfterReading()
+{
+    if (m_isPolling && !m_hasEnded)
+        m_lookTimer->start(std::chrono::milliseconds(0));
+}
+
 void FilePresentation::lend()
 {
     ++m_lentTo;

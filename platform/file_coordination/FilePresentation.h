@@ -32,6 +32,9 @@ public:
 
     /// Looks without waiting for an event; may tell.
     void look();
+    /// To be called after the presenter has read the file. Where the system does not tell of changes, the
+    /// file is looked at from the event loop: another file may have come to its name, and be renamed next.
+    void lookAfterReading();
 
     /// Tells a change from the event loop, whether one is seen or not.
     void tellChange();

@@ -45,36 +45,57 @@ protected:
     const QString m_path = writeFile(QStringLiteral("f.txt"), "before");
 };
 
-class UsedUpLimitTest : public UntoldChangesTest, public ::testing::WithParamInterface<const char *> { };
+class UsedUpLimitTest : public UntoldChangesTest, public ::testing::WithParamInterface<const char *> {
+protected:
+    void SetUp() override
+    {
+        const auto useUpLimit = [limit = GetParam()] { useUp(limit); };
+        if (ChildProcess(QStringLiteral("/bin/true")).afterFork(useUpLimit).run({}).exitStatus != 0)
+            GTEST_SKIP() << "no user namespaces here";
+        m_presenter.afterFork(useUpLimit).start({QFile::encodeName(m_path)});
+        ASSERT_EQ(newsAfter("0"), QByteArray("."));
+    }
+
+    QByteArray newsAfter(const char *command)
+    {
+        m_presenter.writeLine(command);
+        return m_presenter.readLine();
+    }
+    void replaceFile() const
+    {
+        writeFile(QStringLiteral("f.new"), "replaced");
+        ASSERT_EQ(::rename(QFile::encodeName(world().root() + QStringLiteral("/files/f.new")).constData(),
+                      QFile::encodeName(m_path).constData()),
+            0);
+    }
+
+    ChildProcess m_presenter{testProgram(QStringLiteral("presenter"))};
+};
 
 TEST_P(UsedUpLimitTest, ThePresenterLooksEveryTwoSecondsAndLogsOneLine)
 {
-    const auto useUpLimit = [limit = GetParam()] { useUp(limit); };
-    if (ChildProcess(QStringLiteral("/bin/true")).afterFork(useUpLimit).run({}).exitStatus != 0)
-        GTEST_SKIP() << "no user namespaces here";
-    ChildProcess presenter(testProgram(QStringLiteral("presenter")));
-    presenter.afterFork(useUpLimit).start({QFile::encodeName(m_path)});
-    const auto newsAfter = [&](const char *milliseconds) {
-        presenter.writeLine(milliseconds);
-        return presenter.readLine();
-    };
-    ASSERT_EQ(newsAfter("0"), QByteArray("."));
     writeFile(QStringLiteral("f.txt"), "in place");
     EXPECT_EQ(newsAfter("1999"), QByteArray("."));
     EXPECT_EQ(newsAfter("151"), QByteArray("changed."));
-    writeFile(QStringLiteral("f.new"), "replaced");
-    ASSERT_EQ(::rename(QFile::encodeName(world().root() + QStringLiteral("/files/f.new")).constData(),
-                  QFile::encodeName(m_path).constData()),
-        0);
+    replaceFile();
     EXPECT_EQ(newsAfter("2150"), QByteArray("changed."));
     EXPECT_EQ(newsAfter("10000"), QByteArray("."));
     ASSERT_TRUE(QFile::rename(m_path, m_path + u'2'));
     EXPECT_EQ(newsAfter("2500"), "moved to " + QFile::encodeName(m_path) + "2.");
     ASSERT_TRUE(QFile::remove(m_path + u'2'));
     EXPECT_EQ(newsAfter("2500"), QByteArray("deleted."));
-    const ChildProcess::Outcome outcome = presenter.finish();
+    const ChildProcess::Outcome outcome = m_presenter.finish();
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors.count('\n'), 2) << outcome.errors.toStdString(); // before and after the move
+}
+
+TEST_P(UsedUpLimitTest, AFileThatIsReplacedReadAndRenamedBetweenTwoLooksHasMoved)
+{
+    replaceFile();
+    EXPECT_EQ(newsAfter("read"), QByteArray("."));
+    EXPECT_EQ(newsAfter("0"), QByteArray("."));
+    ASSERT_TRUE(QFile::rename(m_path, m_path + u'2'));
+    EXPECT_EQ(newsAfter("2500"), "moved to " + QFile::encodeName(m_path) + "2,changed.");
 }
 
 INSTANTIATE_TEST_SUITE_P(Inotify, UsedUpLimitTest,

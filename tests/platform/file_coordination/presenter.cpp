@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// presenter FILE: presents the file under a fake clock. For each line of standard input, a number of
-// milliseconds, it moves the clock on and prints the news of that time, separated by commas and ended by a
-// point.
+// presenter FILE: presents the file under a fake clock. For each line of standard input it prints the news
+// since the last one, separated by commas and ended by a point: for "read" after it has read the file with a
+// coordinator, for a number of milliseconds after it has moved the clock on.
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/file_coordination/RecordingPresenter.h"
 
@@ -14,11 +14,15 @@ int main(int argumentCount, char **arguments)
     FakeClock clock;
     RecordingPresenter presenter(application.arguments().value(1));
     FileCoordinator::addFilePresenter(&presenter, clock);
+    FileCoordinator coordinator(&presenter, clock);
     QTextStream input(stdin);
     QTextStream output(stdout);
     for (QString line = input.readLine(); !line.isNull(); line = input.readLine()) {
         QCoreApplication::processEvents();
-        clock.advance(std::chrono::milliseconds(line.toInt()));
+        if (line == QStringLiteral("read"))
+            (void)coordinator.coordinateReadingItemAtURL(presenter.presentedItemURL(), [](const QUrl &) {});
+        else
+            clock.advance(std::chrono::milliseconds(line.toInt()));
         output << presenter.takeNews().join(u',') << '.' << Qt::endl;
     }
     return 0;
