@@ -19,6 +19,12 @@ void FileCoordinator::removeFilePresenter(const FilePresenter *presenter)
     FilePresentations::instance().remove(presenter);
 }
 
+void FileCoordinator::tellChangeAgain(const FilePresenter *presenter)
+{
+    if (const auto presentation = FilePresentations::instance().of(presenter))
+        presentation->tellChange();
+}
+
 FileCoordinator::FileCoordinator(const FilePresenter *filePresenter, Clock &clock)
     : m_access(std::make_shared<CoordinatedAccess>(filePresenter, clock))
 {

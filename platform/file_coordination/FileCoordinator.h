@@ -24,6 +24,10 @@ public:
     /// Nothing is told any more, not even what has happened already. Harmless for one that is not there.
     static void removeFilePresenter(const FilePresenter *presenter);
 
+    /// Tells the presenter of a change once more, from the event loop: it could make nothing of the last one.
+    /// Nothing for one that is not there.
+    static void tellChangeAgain(const FilePresenter *presenter);
+
     /// filePresenter: the presenter on whose behalf the file is accessed; it is not asked to give it up.
     explicit FileCoordinator(const FilePresenter *filePresenter = nullptr, Clock &clock = systemClock());
     FileCoordinator(const FileCoordinator &) = delete;

@@ -56,7 +56,8 @@ void FilePresentation::end()
 
 void FilePresentation::tellChange()
 {
-    m_expectationTimer->start(std::chrono::milliseconds(0));
+    m_policy.note(FileEvent::Replaced, m_clock.now());
+    m_lookTimer->start(std::chrono::milliseconds(0));
 }
 
 void FilePresentation::tellChangeOnceUnlocked()
@@ -67,12 +68,10 @@ void FilePresentation::tellChangeOnceUnlocked()
 
 void FilePresentation::tellExpectedChange()
 {
-    if (isLockedByWriter(m_path)) {
+    if (isLockedByWriter(m_path))
         tellChangeOnceUnlocked();
-        return;
-    }
-    m_policy.note(FileEvent::Replaced, m_clock.now());
-    look();
+    else
+        tellChange();
 }
 
 bool FilePresentation::mayBeReadWhileLocked()
@@ -80,11 +79,9 @@ bool FilePresentation::mayBeReadWhileLocked()
     if (std::exchange(m_isChangeToBeRead, false))
         return true;
     look();
-    const Clock::Time now = m_clock.now();
-    if (m_hasEnded || m_policy.isQuiet(now))
+    if (m_hasEnded || m_policy.isQuiet(m_clock.now()))
         return true;
-    m_policy.note(FileEvent::Replaced, now);
-    m_lookTimer->start(std::chrono::milliseconds(0));
+    tellChange();
     return false;
 }
 

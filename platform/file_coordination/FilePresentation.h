@@ -36,10 +36,11 @@ public:
     /// file is looked at from the event loop: another file may have come to its name, and be renamed next.
     void lookAfterReading();
 
-    /// Tells a change from the event loop, whether one is seen or not.
+    /// Tells a change from the event loop, whether one is seen or not; of a locked file once its writer is
+    /// quiet.
     void tellChange();
-    /// The same once no writer holds a lock on the file. Nothing tells of the end of a lock, so it is looked
-    /// for as often as in pollInterval.
+    /// The same only once no writer holds a lock on the file. Nothing tells of the end of a lock, so it is
+    /// looked for as often as in pollInterval.
     void tellChangeOnceUnlocked();
 
     /// For a reader that finds the file locked: whether its writer has been quiet for long enough. If not, a

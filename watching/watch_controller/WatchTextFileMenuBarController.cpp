@@ -11,6 +11,8 @@
 #include "preferences/QBYUserDefaultsController.h"
 #include "watching/speech/ApplicationExtension.h"
 
+#include <utility>
+
 namespace {
 
 // Buttons of the alert, in their order.
@@ -38,6 +40,7 @@ WatchTextFileMenuBarController::~WatchTextFileMenuBarController() = default;
 void WatchTextFileMenuBarController::watchWithTextFileURL(const QUrl &url)
 {
     setTitleOfPanels(lastPathComponent(url));
+    m_isChangeUncounted = false;
     readFirst(url);
     if (m_watchFileModel) {
         m_watchFileModel->setTextFileURLToWatch(url, true);
@@ -75,8 +78,10 @@ void WatchTextFileMenuBarController::count(const AttributedString &attributedStr
 
 void WatchTextFileMenuBarController::countDocX(const QUrl &url)
 {
-    m_watchTextFileViewControllerForPopover->wordCounterViewController()->asyncUpdateStatsDocXFileURL(
-        url, whenCounted());
+    WordCounterViewController &statistics =
+        *m_watchTextFileViewControllerForPopover->wordCounterViewController();
+    m_isChangeUncounted = statistics.isAsyncCountOperationInProgress();
+    statistics.asyncUpdateStatsDocXFileURL(url, whenCounted());
 }
 
 WordCounterViewController::Completion WatchTextFileMenuBarController::whenCounted()
@@ -97,6 +102,15 @@ void WatchTextFileMenuBarController::countDidComplete()
         m_contentViewControllerForDetachableWindow->wordCounterViewController()
             ->updateInterfaceWithPrepopulatedStats(stats);
     sayWordCountIfPreferred(stats.numberOfWords);
+}
+
+/// The panel drops what it is given while it counts, and a Word document is not polled: so the file
+/// coordination tells the last change again.
+void WatchTextFileMenuBarController::countingStateDidChange()
+{
+    const auto &statistics = *m_watchTextFileViewControllerForPopover->wordCounterViewController();
+    if (!statistics.isAsyncCountOperationInProgress() && std::exchange(m_isChangeUncounted, false))
+        FileCoordinator::tellChangeAgain(m_watchFileModel.get());
 }
 
 void WatchTextFileMenuBarController::sayWordCountIfPreferred(quint64 wordCount)
@@ -129,6 +143,7 @@ void WatchTextFileMenuBarController::currentlyWatchedTextFileWasRenamed(
 void WatchTextFileMenuBarController::currentlyWatchedTextFileDidFailToLoadAttribedText(
     WatchTextFileModel &watchModel)
 {
+    m_isChangeUncounted = false;
     watchModel.stopWatchingTextFile();
     closeViews();
     m_surroundings.desktop.beep();

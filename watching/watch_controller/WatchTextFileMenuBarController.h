@@ -94,6 +94,7 @@ private:
     void makeWindow(const QRectF &contentRect, const std::shared_ptr<WatchTextFileViewController> &panel);
     void serve(Window &window, const std::shared_ptr<WatchTextFileViewController> &panel);
     void showPopoverLater();
+    void setCountingPanel(const std::shared_ptr<WatchTextFileViewController> &panel);
     void setTitleOfPanels(const QString &title);
 
     void readFirst(const QUrl &url);
@@ -101,6 +102,7 @@ private:
     void countDocX(const QUrl &url);
     [[nodiscard]] WordCounterViewController::Completion whenCounted();
     void countDidComplete();
+    void countingStateDidChange();
     void sayWordCountIfPreferred(quint64 wordCount);
 
     void askWhatToDo();
@@ -120,4 +122,5 @@ private:
     std::unique_ptr<WatchTextFileModel> m_watchFileModel;
     std::unique_ptr<ClockTimer> m_firstShowing; // of the pop-over
     quint64 m_lastCalledOutWordCount = 0;
+    bool m_isChangeUncounted = false; // of a Word document: the panel was counting
 };

@@ -49,7 +49,7 @@ void WatchTextFileMenuBarController::setUpWithMenuItem()
     const auto panel = std::make_shared<WatchTextFileViewController>(true);
     panel->setDelegate(this);
     panel->view();
-    m_watchTextFileViewControllerForPopover = panel;
+    setCountingPanel(panel);
     m_popover->setContentViewController(panel);
     m_popover->setDelegate(this);
     serve(*m_popover->window(), panel);
@@ -73,8 +73,17 @@ void WatchTextFileMenuBarController::setUpWithoutMenuItem()
     m_contentViewControllerForDetachableWindow = panel;
     setShortStyle(panel);
     makeWindow({{0, 0}, panel->view()->frame().size()}, panel);
-    m_watchTextFileViewControllerForPopover = panel;
+    setCountingPanel(panel);
     m_detachableWindowForPopover->setLevel(WindowLevel::Floating);
+}
+
+void WatchTextFileMenuBarController::setCountingPanel(
+    const std::shared_ptr<WatchTextFileViewController> &panel)
+{
+    m_watchTextFileViewControllerForPopover = panel;
+    connect(panel->wordCounterViewController().get(),
+        &WordCounterViewController::isAsyncCountOperationInProgressChanged, this,
+        &WatchTextFileMenuBarController::countingStateDidChange);
 }
 
 void WatchTextFileMenuBarController::makeWindow(

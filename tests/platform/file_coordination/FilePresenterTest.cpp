@@ -335,6 +335,25 @@ TEST_F(FilePresenterTest, AChangeOfALockedFileIsToldOnceItsWriterIsQuiet)
     EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed)) << "at once after the end of the lock";
 }
 
+TEST_F(FilePresenterTest, AChangeIsToldAgainToAPresenterThatAsksForIt)
+{
+    QFile writer(m_path);
+    ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
+    FileCoordinator::tellChangeAgain(&m_presenter);
+    EXPECT_THAT(m_presenter.news(), IsEmpty()) << "from the event loop";
+    settle(0ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed));
+    ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
+    FileCoordinator::tellChangeAgain(&m_presenter);
+    settle(299ms);
+    EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
+    settle(1ms);
+    EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed)) << "though the lock is kept";
+    const RecordingPresenter another(m_path);
+    FileCoordinator::tellChangeAgain(&another);
+    EXPECT_THAT(allNews(), IsEmpty());
+}
+
 TEST_F(FilePresenterTest, AWriterThatNeverPausesUnderItsLockIsWaitedForTenSeconds)
 {
     QFile writer(m_path);

@@ -7,6 +7,7 @@
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
+using namespace std::chrono_literals;
 
 using WatchingTest = WatcherTest;
 
@@ -78,6 +79,48 @@ TEST_F(WatchingTest, AWordDocumentIsHandedToTheServiceAsItIs)
     };
     EXPECT_EQ(requests[0].hash, hashOf(bytes));
     EXPECT_EQ(requests[1].hash, hashOf(bytes + bytes));
+}
+
+TEST_F(WatchingTest, ASaveOfAWordDocumentDuringACountIsToldAgainOnceThePanelIsFree)
+{
+    serve({"hold", "hold", "answer 9 0 0 0 0 0 0 0"});
+    const QString path = writeFile(QStringLiteral("novel.docx"), "PK 1");
+    Controller &watcher = makeWindowForm();
+    watcher.watchWithTextFileURL(QUrl::fromLocalFile(path));
+    for (size_t held = 1; held <= 2; ++held) {
+        m_service->waitForRequests(held);
+        for (const char *contents : {"PK again", "PK and again"}) {
+            writeFile(QStringLiteral("novel.docx"), contents);
+            pass();
+        }
+        EXPECT_THAT(m_service->requests(), SizeIs(held)) << "the saves were dropped";
+        m_service->release();
+        waitForCount(watcher);
+        EXPECT_THAT(m_service->requests(), SizeIs(held)) << "nothing was queued";
+        pass();
+    }
+    m_service->waitForRequests(3);
+    waitForCount(watcher);
+    EXPECT_EQ(wordsOf(*watcher.watchTextFileViewControllerForPopover()), QStringLiteral("•Words: 9"));
+    pass(10s);
+    EXPECT_THAT(m_service->requests(), SizeIs(3));
+    EXPECT_EQ(m_clock.runningTimers(), 0) << "nothing is polled";
+}
+
+TEST_F(WatchingTest, ASaveThatWasDroppedIsNotToldOfAnotherDocument)
+{
+    serve({"hold", "answer 9 0 0 0 0 0 0 0"});
+    Controller &watcher = makeWindowForm();
+    watcher.watchWithTextFileURL(QUrl::fromLocalFile(writeFile(QStringLiteral("novel.docx"), "PK")));
+    m_service->waitForRequests(1);
+    writeFile(QStringLiteral("novel.docx"), "PK again");
+    pass();
+    watcher.watchWithTextFileURL(QUrl::fromLocalFile(m_path));
+    m_service->release();
+    waitForCount(watcher);
+    pass();
+    EXPECT_THAT(m_service->requests(), SizeIs(1));
+    EXPECT_FALSE(statisticsOf(watcher).isAsyncCountOperationInProgress());
 }
 
 TEST_F(WatchingTest, AFirstReadThatFailsIsLoggedAndTheDocumentFollowedAllTheSame)
