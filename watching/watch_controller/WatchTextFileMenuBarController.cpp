@@ -37,8 +37,9 @@ WatchTextFileMenuBarController::WatchTextFileMenuBarController(const WatchSurrou
 
 WatchTextFileMenuBarController::~WatchTextFileMenuBarController() = default;
 
-void WatchTextFileMenuBarController::watchWithTextFileURL(const QUrl &url)
+void WatchTextFileMenuBarController::watchWithTextFileURL(const QUrl &textFileURL)
 {
+    const QUrl url = textFileURL.adjusted(QUrl::StripTrailingSlash); // of a folder
     setTitleOfPanels(lastPathComponent(url));
     m_isChangeUncounted = false;
     readFirst(url);
@@ -171,7 +172,8 @@ void WatchTextFileMenuBarController::chooseAnotherFile()
             }
             // Nothing is read and the title stays: the next change or poll brings the counts.
             if (self->m_watchFileModel)
-                self->m_watchFileModel->setTextFileURLToWatch(urls->first(), true);
+                self->m_watchFileModel->setTextFileURLToWatch(
+                    urls->first().adjusted(QUrl::StripTrailingSlash), true);
             self->statusBarButtonAction();
         });
 }

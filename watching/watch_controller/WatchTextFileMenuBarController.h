@@ -58,7 +58,7 @@ public:
 
     /// Reads and counts the document, and begins to follow it. A first read that fails is logged; the
     /// document is followed all the same.
-    void watchWithTextFileURL(const QUrl &url);
+    void watchWithTextFileURL(const QUrl &textFileURL);
     /// Empty without a model.
     [[nodiscard]] QUrl urlBeingWatched() const;
     /// Shows the window in the middle of the screen, also one that is shown elsewhere already.

@@ -148,6 +148,13 @@ TEST_F(WatchFileService, AFileNamedTwiceInOneRequestHasOneWatcher)
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
 }
 
+TEST_F(WatchFileService, AFolderIsTheSameWithASlashAtItsEnd)
+{
+    const QString folder = writeFile(QStringLiteral("novel.rtfd/TXT.rtf"), "{\\rtf1 one}").chopped(8);
+    EXPECT_EQ(watch({folder + u'/', folder, folder + u'/'}), nothingReported);
+    EXPECT_THAT(watchedFiles(), ElementsAre(folder));
+}
+
 TEST_F(WatchFileService, AFileIsTheSameWhateverTheSpellingOfItsURL)
 {
     const QString path = writeFile(QStringLiteral("one & two ü.txt"), "One");

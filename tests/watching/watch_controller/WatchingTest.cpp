@@ -123,6 +123,16 @@ TEST_F(WatchingTest, ASaveThatWasDroppedIsNotToldOfAnotherDocument)
     EXPECT_FALSE(statisticsOf(watcher).isAsyncCountOperationInProgress());
 }
 
+TEST_F(WatchingTest, AFolderWithASlashAtItsEndIsTheFolder)
+{
+    serve({"answer 1 0 0 0 0 0 0 0"});
+    const QString text = writeFile(QStringLiteral("novel.rtfd/TXT.rtf"), "{\\rtf1 one}");
+    Controller &watcher = watch(text.chopped(7)); // up to the slash
+    EXPECT_EQ(titleOf(*watcher.watchTextFileViewControllerForPopover()), QStringLiteral("novel.rtfd"));
+    EXPECT_EQ(watcher.detachableWindowForPopover()->title(), QStringLiteral("novel.rtfd"));
+    EXPECT_EQ(watcher.urlBeingWatched(), QUrl::fromLocalFile(text.chopped(8)));
+}
+
 TEST_F(WatchingTest, AFirstReadThatFailsIsLoggedAndTheDocumentFollowedAllTheSame)
 {
     serve({"answer 4 0 0 0 0 0 0 0"});
