@@ -39,15 +39,15 @@ public:
 
     /// Waits a moment for a file that is missing or has just been emptied, as happens while programs save.
     /// The accessor is called again where the file has changed while it read. The writer of a locked file
-    /// must have been quiet for a moment: that is waited for too, ten seconds at most, but not on behalf of a
-    /// presenter. Its read is left out, and it is told of a change at that time.
+    /// must have been quiet for ChangePolicy::lockTimeout. A coordinator without a presenter waits for that,
+    /// ten seconds at most. For a presenter nothing is read or reported; it is told of a change at that time.
     [[nodiscard]] std::optional<CoordinationError> coordinateReadingItemAtURL(
         const QUrl &url, const Accessor &byAccessor);
 
     /// For the accessor of a read that could make no document of it: whether it will be called again a moment
-    /// later, as the file may be half saved. Not where there is no file, nor after half a second of that. A
-    /// file that is locked is read at a change that is told once it is unlocked; meanwhile the read is
-    /// reported as an error.
+    /// later, as the file may be half saved. Not where there is no file, nor after half a second of that. If
+    /// the file is locked then, also true: the read ends with an error, and a change is told once the file is
+    /// unlocked.
     [[nodiscard]] bool triesAgain();
 
     /// Does not wait for locks: the writer takes its own.

@@ -4,6 +4,7 @@
 each way, and prints what FOLLOWER, the path of document_follower, told of it. Exit status 1 where a save was not told,
 or something else was. Needs Xvfb, openbox, xdotool, libreoffice-writer and python3-uno."""
 import contextlib
+import os
 import pathlib
 import queue
 import random
@@ -18,7 +19,7 @@ import uno
 from com.sun.star.beans import PropertyValue
 
 FILTERS = {"docx": "MS Word 2007 XML", "rtf": "Rich Text Format", "txt": "Text"}
-PIPE = "quillbay-follow-libreoffice"
+PIPE = f"quillbay-follow-libreoffice-{os.getpid()}"
 MAX_DELAY = 10  # seconds from the request to save until the text must have been told
 # Neither questions nor tips.
 SETTINGS = """<?xml version="1.0" encoding="UTF-8"?>

@@ -101,32 +101,49 @@ TEST_P(UsedUpLimitTest, AFileThatIsReplacedReadAndRenamedBetweenTwoLooksHasMoved
 INSTANTIATE_TEST_SUITE_P(Inotify, UsedUpLimitTest,
     ::testing::Values("/proc/sys/user/max_inotify_instances", "/proc/sys/user/max_inotify_watches"));
 
-TEST_F(UntoldChangesTest, AFileOnAFuseFileSystemIsLookedAtEveryTwoSecondsWithOneLineInTheLog)
+/// The presenter has the document under a FUSE mount of its folder.
+class MountedFileTest : public UntoldChangesTest {
+protected:
+    void SetUp() override
+    {
+        const QByteArray folder = QFile::encodeName(QFileInfo(m_path).path());
+        const QByteArray mountPoint = QFile::encodeName(world().root()) + "/mount";
+        ASSERT_TRUE(QDir().mkdir(QFile::decodeName(mountPoint)));
+        SKIP_WITHOUT_PACKAGE(!QStandardPaths::findExecutable(QStringLiteral("bindfs")).isEmpty(), "bindfs");
+        const auto argumentsFor = [&](const QByteArray &program) {
+            return QByteArrayList{"--mount", "sh", "-c", mounted, "sh", folder, mountPoint, program};
+        };
+        if (ChildProcess(QStringLiteral("unshare")).run(argumentsFor("true")).exitStatus != 0)
+            GTEST_SKIP() << "no FUSE here";
+        m_presenter.start(argumentsFor(QFile::encodeName(testProgram(QStringLiteral("presenter")))));
+        ASSERT_EQ(newsAfter("0"), QByteArray("."));
+    }
+
+    QByteArray newsAfter(const char *milliseconds)
+    {
+        m_presenter.writeLine(milliseconds);
+        return m_presenter.readLine();
+    }
+
+    ChildProcess m_presenter{QStringLiteral("unshare")};
+};
+
+TEST_F(MountedFileTest, IsLookedAtEveryTwoSecondsWithOneLineInTheLog)
 {
-    const QByteArray folder = QFile::encodeName(QFileInfo(m_path).path());
-    const QByteArray mountPoint = QFile::encodeName(world().root()) + "/mount";
-    ASSERT_TRUE(QDir().mkdir(QFile::decodeName(mountPoint)));
-    SKIP_WITHOUT_PACKAGE(!QStandardPaths::findExecutable(QStringLiteral("bindfs")).isEmpty(), "bindfs");
-    const auto argumentsFor = [&](const QByteArray &program) {
-        return QByteArrayList{"--mount", "sh", "-c", mounted, "sh", folder, mountPoint, program};
-    };
-    if (ChildProcess(QStringLiteral("unshare")).run(argumentsFor("true")).exitStatus != 0)
-        GTEST_SKIP() << "no FUSE here";
-    ChildProcess presenter(QStringLiteral("unshare"));
-    presenter.start(argumentsFor(QFile::encodeName(testProgram(QStringLiteral("presenter")))));
-    const auto newsAfter = [&](const char *milliseconds) {
-        presenter.writeLine(milliseconds);
-        return presenter.readLine();
-    };
-    ASSERT_EQ(newsAfter("0"), QByteArray("."));
     writeFile(QStringLiteral("f.txt"), "behind the back of the mounted file system");
     EXPECT_EQ(newsAfter("1999"), QByteArray("."));
     EXPECT_EQ(newsAfter("151"), QByteArray("changed."));
     ASSERT_TRUE(QFile::remove(m_path));
     EXPECT_EQ(newsAfter("2500"), QByteArray("deleted."));
-    const ChildProcess::Outcome outcome = presenter.finish();
+    const ChildProcess::Outcome outcome = m_presenter.finish();
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.toStdString();
+}
+
+TEST_F(MountedFileTest, IsDeletedWhereItIsRenamedBehindTheMount)
+{
+    ASSERT_TRUE(QFile::rename(m_path, m_path + u'2'));
+    EXPECT_EQ(newsAfter("2500"), QByteArray("deleted."));
 }
 
 TEST_F(UntoldChangesTest, FilesMadeUpByTheSystemAreLookedAt)
