@@ -19,10 +19,10 @@ class FileCoordinatorTest : public QuillbayTest {
 protected:
     FileCoordinatorTest() { FileCoordinator::addFilePresenter(&m_presenter, m_clock); }
 
-    std::optional<CoordinationError> read() { return readBy(m_coordinator); }
+    std::optional<CoordinationError> read() { return readWith(m_coordinator); }
     /// By a coordinator without a presenter, which waits itself.
-    std::optional<CoordinationError> readWaiting() { return readBy(m_waiting); }
-    std::optional<CoordinationError> readBy(const std::unique_ptr<FileCoordinator> &coordinator)
+    std::optional<CoordinationError> readWaiting() { return readWith(m_waiting); }
+    std::optional<CoordinationError> readWith(const std::unique_ptr<FileCoordinator> &coordinator)
     {
         return coordinator->coordinateReadingItemAtURL(m_url, [this](const QUrl &url) {
             ++m_reads;
