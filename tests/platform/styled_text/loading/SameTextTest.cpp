@@ -100,3 +100,21 @@ TEST(SameText, OfAList)
         .text = QStringLiteral("one item\nanother"),
     });
 }
+
+TEST(SameText, OfAFormula)
+{
+    const auto wordRun = [](const QByteArray &text) { return "<m:r><m:t>" + text + "</m:t></m:r>"; };
+    const auto wordElement = [&](const QByteArray &text) { return "<m:e>" + wordRun(text) + "</m:e>"; };
+    expectSameTexts({
+        .rtf = R"(let {\mmath{\*\moMath{\mr x=}{\mf{\mfPr{\mtype bar}}{\mnum{\mr 3}}{\mden{\mr 4}}})"
+               R"({\mm{\mmr{\me{\mr a}}{\me{\mr b}}}{\mmr{\me{\mr c}}{\me{\mr d}}}}}} be\par)",
+        .wordBody = "<w:p><w:r><w:t xml:space='preserve'>let </w:t></w:r><m:oMath>" + wordRun("x=")
+            + "<m:f><m:num>" + wordRun("3") + "</m:num><m:den>" + wordRun("4") + "</m:den></m:f><m:m><m:mr>"
+            + wordElement("a") + wordElement("b") + "</m:mr><m:mr>" + wordElement("c") + wordElement("d")
+            + "</m:mr></m:m></m:oMath><w:r><w:t xml:space='preserve'> be</w:t></w:r></w:p>",
+        .htmlBody =
+            "let <math><mi>x</mi><mo>=</mo><mfrac><mn>3</mn><mn>4</mn></mfrac><mtable><mtr><mtd>a</mtd>"
+            "<mtd>b</mtd></mtr><mtr><mtd>c</mtd><mtd>d</mtd></mtr></mtable></math> be",
+        .text = QStringLiteral("let x= 3 4 a b c d be"),
+    });
+}
