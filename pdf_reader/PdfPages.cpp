@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "pdf_reader/PdfPages.h"
 
+#include "pdf_reader/RaisedDigits.h"
+
 #include <QBuffer>
 #include <QPdfDocument>
-#include <QPdfSelection>
+
+#include <algorithm>
 
 namespace {
 
@@ -13,6 +16,30 @@ constexpr qsizetype signatureReach = 1024; // bytes; what readers of PDF look th
 /// Stands where a hyphen divides a word at the end of a line (PDFium's own mark, no character).
 constexpr char16_t dividingHyphen = 0xFFFE;
 constexpr char16_t softHyphen = 0x00AD;
+constexpr QStringView lineEnd(u"\r\n"); // as Qt Pdf ends lines
+
+bool isWhiteSpace(char byte)
+{
+    return byte == ' ' || byte == '\n' || byte == '\r' || byte == '\t' || byte == '\f' || byte == '\0';
+}
+
+/// Whether a file has a tree of pages and there are none in it. Qt Pdf opens no such file. Object streams,
+/// which are compressed, are not looked into.
+bool isWithoutPages(QByteArrayView bytes)
+{
+    constexpr QByteArrayView children("/Kids");
+    bool hasTree = false;
+    for (qsizetype at = bytes.indexOf(children); at >= 0; at = bytes.indexOf(children, at + 1)) {
+        const auto array = std::find_if_not(bytes.begin() + at + children.size(), bytes.end(), isWhiteSpace);
+        if (array == bytes.end() || *array != '[')
+            return false;
+        const auto first = std::find_if_not(array + 1, bytes.end(), isWhiteSpace);
+        if (first == bytes.end() || *first != ']')
+            return false;
+        hasTree = true;
+    }
+    return hasTree;
+}
 
 PdfError causeOf(QPdfDocument::Error error, QByteArrayView bytes)
 {
@@ -20,7 +47,9 @@ PdfError causeOf(QPdfDocument::Error error, QByteArrayView bytes)
         || error == QPdfDocument::Error::UnsupportedSecurityScheme)
         return PdfError::Encrypted;
     const QByteArrayView start = bytes.first(std::min(bytes.size(), signatureReach));
-    return start.contains(signature) ? PdfError::Damaged : PdfError::NotPdf;
+    if (!start.contains(signature))
+        return PdfError::NotPdf;
+    return isWithoutPages(bytes) ? PdfError::NoPages : PdfError::Damaged;
 }
 
 } // namespace
@@ -37,10 +66,14 @@ std::optional<PdfError> forEachPdfPage(QByteArrayView bytes, const TakePage &tak
         return causeOf(document.error(), bytes);
     const int pageCount = document.pageCount();
     if (pageCount == 0)
-        return PdfError::Damaged;
+        return PdfError::NoPages;
+    RaisedDigits pages(document);
     for (int page = 0; page < pageCount; ++page) {
-        QString text = document.getAllText(page).text();
-        if (!take(text.replace(QChar(dividingHyphen), QChar(softHyphen))))
+        QString text = pages.textOfPage(page);
+        text.replace(QChar(dividingHyphen), QChar(softHyphen));
+        if (!text.isEmpty() && !text.endsWith(u'\n'))
+            text.append(lineEnd); // which Qt Pdf leaves out behind the last line
+        if (!take(text))
             break;
     }
     return std::nullopt;

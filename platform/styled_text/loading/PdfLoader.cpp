@@ -4,6 +4,7 @@
 #include "platform/files/FileContents.h"
 #include "platform/styled_text/loading/DocumentKind.h"
 #include "platform/styled_text/pdf/PdfReader.h"
+#include "platform/styled_text/pdf/UnmappedText.h"
 
 namespace {
 
@@ -16,6 +17,8 @@ LoadResult loadedPdf(QByteArrayView bytes)
         return LoadError(text.error());
     if (QStringView(text.value().string()).trimmed().isEmpty())
         return LoadError(PdfError::NoText);
+    if (isUnmapped(text.value().string()))
+        return LoadError(PdfError::UnmappedText);
     return std::move(text).value();
 }
 

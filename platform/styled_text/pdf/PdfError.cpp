@@ -10,6 +10,11 @@ QString causeText(PdfError error)
         return QStringLiteral("is encrypted; save it without a password");
     case PdfError::Damaged:
         return QStringLiteral("is a damaged PDF file; make it anew with the program that wrote it");
+    case PdfError::NoPages:
+        return QStringLiteral("is a PDF file without pages; print the document again");
+    case PdfError::UnmappedText:
+        return QStringLiteral("has unreadable text, in fonts without a map to characters; run it through "
+                              "text recognition first");
     case PdfError::NoText:
         return QStringLiteral("has no text on its pages; run scans through text recognition first");
     case PdfError::TooIntricate:

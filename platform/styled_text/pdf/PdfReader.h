@@ -29,8 +29,9 @@ struct PdfLimits {
 /// as seen from there, whether it is there or not.
 QByteArray pdfReaderProgram();
 
-/// The text of every page, first to last, with nothing between them and without attributes; lines end as Qt
-/// Pdf ends them, in CR LF. A hyphen at the end of a line that divides a word is U+00AD and the line goes on.
-/// Pages without text give none; a file of such pages is an empty text, not an error. Waits for the program.
+/// The text of every page, first to last, with nothing between them and without attributes. Every line ends
+/// in CR LF, the last one of a page too. A hyphen at the end of a line that divides a word is U+00AD and the
+/// line goes on. Pages without text give none; a file of such pages is an empty text, not an error. Waits for
+/// the program.
 Result<AttributedString, PdfError> readPdf(
     QByteArrayView bytes, const PdfLimits &limits = {}, const QByteArray &program = pdfReaderProgram());

@@ -33,7 +33,7 @@ const PdfWriter file{{"one two", "three"}};
 
 TEST_F(PdfLoader, APdfFileIsReadUnderAnyName)
 {
-    const AttributedString text(QStringLiteral("one twothree"));
+    const AttributedString text(QStringLiteral("one two\r\nthree\r\n"));
     EXPECT_EQ(loadDocumentOrPdf(written("paper.pdf", file.bytes())).value(), text);
     EXPECT_EQ(loadDocumentOrPdf(written("paper", file.bytes())).value(), text);
 }
@@ -42,7 +42,7 @@ TEST_F(PdfLoader, AnOpenDescriptorIsReadFromItsPosition)
 {
     const int descriptor = ::open(written("paper", "x" + file.bytes()).constData(), O_RDONLY | O_CLOEXEC);
     ASSERT_EQ(::lseek(descriptor, 1, SEEK_SET), 1);
-    EXPECT_EQ(loadDocumentOrPdf(descriptor).value().string(), QStringLiteral("one twothree"));
+    EXPECT_EQ(loadDocumentOrPdf(descriptor).value().string(), QStringLiteral("one two\r\nthree\r\n"));
     ::close(descriptor);
 }
 
@@ -62,6 +62,23 @@ TEST_F(PdfLoader, AFileWithoutTextIsNoEmptyDocument)
 {
     EXPECT_EQ(errorOf(loadDocumentOrPdf(written("scan.pdf", PdfWriter{{"", ""}}.bytes()))), PdfError::NoText);
     EXPECT_EQ(errorOf(loadDocumentOrPdf(written("blank.pdf", PdfWriter{{" "}}.bytes()))), PdfError::NoText);
+}
+
+TEST_F(PdfLoader, AFileWhoseFontsHaveNoMapToCharactersIsNoDocumentOfTheirGlyphs)
+{
+    const PdfWriter unmapped{
+        .pages = {R"(BT /F1 12 Tf 72 720 Td (\001\002\003\004 \005\006\007!"\004 \001#$) Tj ET)"},
+        .arePagesDrawn = true};
+    const auto error = loadDocumentOrPdf(written("unmapped.pdf", unmapped.bytes()));
+    EXPECT_EQ(errorOf(error), PdfError::UnmappedText);
+    EXPECT_TRUE(causeText(error.error()).startsWith(QStringLiteral("has unreadable text")));
+}
+
+TEST_F(PdfLoader, AFileWithoutPagesIsNotDamaged)
+{
+    const auto error = loadDocumentOrPdf(written("empty.pdf", PdfWriter{}.bytes()));
+    EXPECT_EQ(errorOf(error), PdfError::NoPages);
+    EXPECT_FALSE(causeText(error.error()).contains(QStringLiteral("damaged")));
 }
 
 TEST_F(PdfLoader, AFileThatCannotBeReadSaysWhy)

@@ -36,7 +36,7 @@ TEST_F(PdfFileText, IsThatOfItsPagesWithNothingBetweenThem)
     const auto text =
         attributedStringFromPDFFileURL(written(PdfWriter{{"one\ntwo", "three", "four"}}.bytes()));
     ASSERT_TRUE(text.has_value());
-    EXPECT_EQ(*text, AttributedString(QStringLiteral("one\r\ntwothreefour")));
+    EXPECT_EQ(*text, AttributedString(QStringLiteral("one\r\ntwo\r\nthree\r\nfour\r\n")));
     EXPECT_TRUE(log.messages().isEmpty());
 }
 
@@ -53,7 +53,7 @@ TEST_F(PdfFileText, HasItsPagesInOrderHoweverManyThereAre)
     QString expected;
     for (int page = 0; page < 10'000; ++page) {
         book.pages.append("page " + QByteArray::number(page) + ".");
-        expected += QStringLiteral("page %1.").arg(page);
+        expected += QStringLiteral("page %1.\r\n").arg(page);
     }
     const auto text = attributedStringFromPDFFileURL(written(book.bytes()));
     ASSERT_TRUE(text.has_value());
@@ -95,11 +95,12 @@ TEST_F(PdfFileText, OfADamagedFileIsWhatIsLeftOrAbsent)
     const QByteArray whole = PdfWriter{{"some text"}}.bytes();
     for (qsizetype length = 0; length < whole.size(); length += 7) {
         const auto text = attributedStringFromPDFFileURL(written(whole.first(length)));
-        EXPECT_TRUE(!text || QStringLiteral("some text").startsWith(text->string())) << length;
+        EXPECT_TRUE(!text || QStringLiteral("some text\r\n").startsWith(text->string())) << length;
     }
     QByteArray withoutTable = whole;
     withoutTable.replace("xref", "xxxx");
-    EXPECT_EQ(attributedStringFromPDFFileURL(written(withoutTable))->string(), QStringLiteral("some text"));
+    EXPECT_EQ(
+        attributedStringFromPDFFileURL(written(withoutTable))->string(), QStringLiteral("some text\r\n"));
 }
 
 TEST_F(PdfFileText, NeedsNoApplicationAndNoScreen)
@@ -108,5 +109,5 @@ TEST_F(PdfFileText, NeedsNoApplicationAndNoScreen)
     const QString path = writeFile(QStringLiteral("file.pdf"), PdfWriter{{"no screen"}}.bytes());
     const ChildProcess::Outcome outcome = program.run({QFile::encodeName(path)});
     EXPECT_EQ(outcome.exitStatus, 0);
-    EXPECT_EQ(outcome.output, "no screen");
+    EXPECT_EQ(outcome.output, "no screen\r\n");
 }

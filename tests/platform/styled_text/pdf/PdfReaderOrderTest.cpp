@@ -38,8 +38,9 @@ TEST(PdfReaderOrder, IsNoneWithOtherArguments)
 TEST(PdfReaderOrder, EveryErrorHasAnExitStatusOfItsOwn)
 {
     EXPECT_EQ(errorOfExitStatus(exitStatusFor(std::nullopt)), std::nullopt);
-    for (const PdfError error : {PdfError::NotPdf, PdfError::Encrypted, PdfError::Damaged, PdfError::NoText,
-             PdfError::TooIntricate, PdfError::NotReadHere, PdfError::NoReader, PdfError::NotEnoughMemory})
+    for (const PdfError error : {PdfError::NotPdf, PdfError::Encrypted, PdfError::Damaged, PdfError::NoPages,
+             PdfError::NoText, PdfError::UnmappedText, PdfError::TooIntricate, PdfError::NotReadHere,
+             PdfError::NoReader, PdfError::NotEnoughMemory})
         EXPECT_EQ(errorOfExitStatus(exitStatusFor(error)), error) << static_cast<int>(error);
 }
 

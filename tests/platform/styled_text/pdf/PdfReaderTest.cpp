@@ -24,6 +24,12 @@ QString textOf(const PdfWriter &file)
     return text ? text.value().string() : causeText(text.error());
 }
 
+/// Of a page that these operators draw.
+QString textOfDrawing(const QByteArray &operators)
+{
+    return textOf({.pages = {operators}, .arePagesDrawn = true});
+}
+
 PdfError errorOf(const QByteArray &bytes, const PdfLimits &limits = {})
 {
     const Result<AttributedString, PdfError> text = readPdf(bytes, limits);
@@ -50,19 +56,35 @@ std::vector<int> openDescriptors()
 
 TEST(PdfReader, ReadsCompressedPages)
 {
-    EXPECT_EQ(textOf({.pages = {"one", "two"}, .isCompressed = true}), QStringLiteral("onetwo"));
+    EXPECT_EQ(textOf({.pages = {"one", "two"}, .isCompressed = true}), QStringLiteral("one\r\ntwo\r\n"));
+}
+
+TEST(PdfReader, EndsTheLastLineOfEveryPageThatHasText)
+{
+    EXPECT_EQ(textOf({{"first", "", "of third\nend", "1", "2"}}),
+        QStringLiteral("first\r\nof third\r\nend\r\n1\r\n2\r\n"));
+    EXPECT_EQ(textOf({{"", ""}}), QString());
+}
+
+TEST(PdfReader, KeepsWordsApartThatATabulatorDivides)
+{
+    EXPECT_EQ(textOfDrawing("BT /F1 12 Tf 72 720 Td (one\\ttwo) Tj ET"), QStringLiteral("one\ttwo\r\n"));
+    EXPECT_EQ(textOfDrawing("BT /F1 12 Tf 72 720 Td (one) Tj 36 0 Td (two) Tj 200 0 Td (three) Tj ET"),
+        QStringLiteral("one two three\r\n"));
+    EXPECT_EQ(
+        textOfDrawing("BT /F1 12 Tf 72 720 Td [(one) -2000 (two)] TJ ET"), QStringLiteral("one two\r\n"));
 }
 
 TEST(PdfReader, JoinsAWordThatAHyphenDividesAtTheEndOfALine)
 {
     EXPECT_EQ(textOf({{"a hyphen-\nated word - and\nmore"}}),
-        QStringLiteral("a hyphen\u00ADated word - and\r\nmore"));
+        QStringLiteral("a hyphen\u00ADated word - and\r\nmore\r\n"));
 }
 
 TEST(PdfReader, ReadsWhatIsEncryptedWithoutAPasswordToOpenIt)
 {
     EXPECT_EQ(textOf({.pages = {"open to all"}, .encryption = Encryption::WithEmptyPassword}),
-        QStringLiteral("open to all"));
+        QStringLiteral("open to all\r\n"));
 }
 
 TEST(PdfReader, NamesTheCauseOfAFailure)
@@ -71,15 +93,16 @@ TEST(PdfReader, NamesTheCauseOfAFailure)
     EXPECT_EQ(errorOf("Some words."), PdfError::NotPdf);
     EXPECT_EQ(errorOf("%PDF-1.4\n"), PdfError::Damaged);
     EXPECT_EQ(errorOf(PdfWriter{{"text"}}.bytes().first(100)), PdfError::Damaged);
-    EXPECT_EQ(errorOf(PdfWriter{}.bytes()), PdfError::Damaged);
+    EXPECT_EQ(errorOf(PdfWriter{}.bytes()), PdfError::NoPages);
+    EXPECT_EQ(errorOf(PdfWriter{}.bytes().replace("[]", "[ \n]")), PdfError::NoPages);
     EXPECT_EQ(errorOf(PdfWriter{.pages = {"text"}, .encryption = Encryption::WithPassword}.bytes()),
         PdfError::Encrypted);
 }
 
 TEST(PdfReader, TellsCausesInOneLineWithARemedy)
 {
-    for (const PdfError error : {PdfError::Encrypted, PdfError::Damaged, PdfError::NoText,
-             PdfError::TooIntricate, PdfError::NotReadHere, PdfError::NoReader}) {
+    for (const PdfError error : {PdfError::Encrypted, PdfError::Damaged, PdfError::NoPages, PdfError::NoText,
+             PdfError::UnmappedText, PdfError::TooIntricate, PdfError::NotReadHere, PdfError::NoReader}) {
         EXPECT_TRUE(causeText(error).contains(u';')) << qPrintable(causeText(error));
         EXPECT_FALSE(causeText(error).contains(u'\n'));
     }
@@ -105,8 +128,8 @@ TEST(PdfReader, EndsWithACauseWhereAFileTakesTooMuchTime)
 TEST(PdfReader, EndsWithACauseWhereTheTextIsTooLong)
 {
     const QByteArray file = PdfWriter{{"0123456789", "0123456789"}}.bytes();
-    EXPECT_EQ(errorOf(file, {.length = 19}), PdfError::TooIntricate);
-    EXPECT_EQ(readPdf(file, {.length = 20}).value().length(), 20);
+    EXPECT_EQ(errorOf(file, {.length = 23}), PdfError::TooIntricate);
+    EXPECT_EQ(readPdf(file, {.length = 24}).value().length(), 24);
 }
 
 TEST(PdfReader, BelievesNoNumberOfPages)
@@ -114,8 +137,8 @@ TEST(PdfReader, BelievesNoNumberOfPages)
     for (const int claimed : {0, 1, 3, 1'000'000, 2'000'000'000}) {
         const Result<AttributedString, PdfError> text =
             readPdf(PdfWriter{.pages = {"one", "two"}, .claimedPages = claimed}.bytes());
-        EXPECT_TRUE(text ? QStringLiteral("onetwo").startsWith(text.value().string())
-                         : text.error() == PdfError::Damaged)
+        EXPECT_TRUE(text ? QStringLiteral("one\r\ntwo\r\n").startsWith(text.value().string())
+                         : text.error() == PdfError::Damaged || text.error() == PdfError::NoPages)
             << claimed;
     }
 }
@@ -157,7 +180,7 @@ TEST(PdfReader, ReadsInAProgramWhoseStandardStreamsAreClosed)
         ::dup2(kept[static_cast<size_t>(stream)], stream);
         ::close(kept[static_cast<size_t>(stream)]);
     }
-    EXPECT_EQ(text, QStringLiteral("no streams"));
+    EXPECT_EQ(text, QStringLiteral("no streams\r\n"));
 }
 
 TEST(PdfReader, ReadsOnSeveralThreadsAtOnce)
@@ -167,7 +190,7 @@ TEST(PdfReader, ReadsOnSeveralThreadsAtOnce)
     for (int thread = 0; thread < 4; ++thread)
         threads.emplace_back([&read] {
             for (int round = 0; round < 10; ++round)
-                read += textOf({{"some words"}}) == QStringLiteral("some words") ? 1 : 0;
+                read += textOf({{"some words"}}) == QStringLiteral("some words\r\n") ? 1 : 0;
         });
     for (std::thread &thread : threads)
         thread.join();

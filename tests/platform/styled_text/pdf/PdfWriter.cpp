@@ -114,7 +114,7 @@ QByteArray PdfWriter::bytes() const
         "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>", encrypter.dictionary()};
     for (const QByteArray &page : pages) {
         objects.append(pageDescription(objects.size() + 2));
-        QByteArray stream = drawingOf(page);
+        QByteArray stream = arePagesDrawn ? page : drawingOf(page);
         if (isCompressed)
             stream = qCompress(stream).sliced(4); // without the length that qCompress() puts in front
         if (isEncrypted)

@@ -13,6 +13,8 @@ struct PdfWriter {
     QByteArrayList pages; ///< ASCII without parentheses and backslashes; lines end in LF
     Encryption encryption = Encryption::None;
     bool isCompressed = false;
+    bool arePagesDrawn =
+        false; ///< pages are the operators that draw them, with the font F1, in place of text
     int claimedPages = -1; ///< what the file says of their number, where it is a lie
 
     [[nodiscard]] QByteArray bytes() const;

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "pdf_reader/RaisedDigits.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr QStringView lineEnd(u"\r\n");
+constexpr size_t mostObjects = 1'000; // of a page: each is looked at for each of its lines
+
+// In heights of a raised digit.
+constexpr double widestOverlap = 0.4;
+constexpr double widestGapBefore = 0.5;
+constexpr double widestGapBehind = 2.5; // a word space and more
+constexpr double wordSpace = 0.35;
+constexpr double leastRise = 0.15;
+constexpr double greatestRise = 0.8; // of its foot above the head of its neighbour
+
+bool isDigit(QChar unit)
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
+/// Whether the lower edge of one is above that of the other, but by less than a line. Upwards is negative.
+bool isRaisedAbove(const QRectF &digit, const QRectF &neighbour)
+{
+    const double height = digit.height();
+    return digit.bottom() < neighbour.bottom() - leastRise * height
+        && digit.bottom() > neighbour.top() - greatestRise * height;
+}
+
+bool isGapWithin(double gap, double height, double widest)
+{
+    return gap > -widestOverlap * height && gap < widest * height;
+}
+
+struct LineEnds {
+    std::vector<qsizetype> places; // of those with a digit before or behind them
+    QString digits; // each once
+};
+
+LineEnds lineEndsAtDigits(const QString &text)
+{
+    LineEnds result;
+    const auto take = [&result](QChar unit) {
+        if (!isDigit(unit))
+            return false;
+        if (!result.digits.contains(unit))
+            result.digits.append(unit);
+        return true;
+    };
+    for (qsizetype end = text.indexOf(lineEnd); end >= 0; end = text.indexOf(lineEnd, end + lineEnd.size())) {
+        const bool isBehindDigit = end > 0 && take(text[end - 1]);
+        const qsizetype next = end + lineEnd.size();
+        const bool isBeforeDigit = next < text.size() && take(text[next]);
+        if (isBehindDigit || isBeforeDigit)
+            result.places.push_back(end);
+    }
+    return result;
+}
+
+} // namespace
+
+std::vector<RaisedDigits::Raised> RaisedDigits::raisedObjects(const QList<QPolygonF> &bounds)
+{
+    std::vector<Raised> result;
+    for (qsizetype i = 1; i < bounds.size() && result.size() < mostObjects; ++i) {
+        const QRectF before = bounds[i - 1].boundingRect();
+        const QRectF place = bounds[i].boundingRect();
+        const double height = place.height();
+        if (!isGapWithin(place.left() - before.right(), height, widestGapBefore)
+            || !isRaisedAbove(place, before))
+            continue;
+        Raised raised{place};
+        if (i + 1 < bounds.size()) {
+            const QRectF behind = bounds[i + 1].boundingRect();
+            const double gap = behind.left() - place.right();
+            raised.isFollowed = isGapWithin(gap, height, widestGapBehind) && isRaisedAbove(place, behind);
+            raised.hasSpaceBehind = gap > wordSpace * height;
+        }
+        result.push_back(raised);
+    }
+    return result;
+}
+
+RaisedDigits::DigitPlaces RaisedDigits::placesOfDigits(const QString &text, const QString &digits, int page)
+{
+    DigitPlaces places;
+    for (const QChar digit : digits) {
+        if (m_searchesLeft-- <= 0)
+            break;
+        m_search.setSearchString(QString(digit));
+        const QList<QPdfLink> results = m_search.resultsOnPage(page);
+        if (results.size() != text.count(digit))
+            continue; // there is no telling which of them is which
+        qsizetype index = -1;
+        for (const QPdfLink &result : results) {
+            index = text.indexOf(digit, index + 1);
+            places.insert(index, result.rectangles().value(0));
+        }
+    }
+    return places;
+}
+
+QString RaisedDigits::textOfPage(int page)
+{
+    const QPdfSelection selection = m_document.getAllText(page);
+    const QString text = selection.text();
+    const LineEnds ends = lineEndsAtDigits(text);
+    if (ends.places.empty())
+        return text;
+    const std::vector<Raised> objects = raisedObjects(selection.bounds());
+    if (objects.empty())
+        return text;
+    const DigitPlaces places = placesOfDigits(text, ends.digits, page);
+    const auto raisedAt = [&](qsizetype index) -> const Raised * {
+        const auto digit = places.constFind(index);
+        const auto object = std::ranges::find_if(objects, [&](const Raised &raised) {
+            return digit != places.cend() && raised.place.contains(digit->center());
+        });
+        return object == objects.end() ? nullptr : &*object;
+    };
+    QString result;
+    qsizetype copied = 0;
+    for (const qsizetype end : ends.places) {
+        const qsizetype next = end + lineEnd.size();
+        const Raised *behind = raisedAt(next);
+        const Raised *before = raisedAt(end - 1);
+        if (!behind && !(before && before->isFollowed))
+            continue;
+        result += QStringView(text).sliced(copied, end - copied);
+        copied = next;
+        if (!behind && before->hasSpaceBehind && next < text.size() && !text[next].isSpace())
+            result += u' ';
+    }
+    result += QStringView(text).sliced(copied);
+    return result;
+}
