@@ -41,6 +41,8 @@ endif()
 function(quillbay_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
     add_library(${name} STATIC ${arg_SOURCES})
+    # Most of the time goes into Qt's headers: the release build reads them once for many files.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLBAY_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 16)
     target_link_libraries(${name} PUBLIC quillbay_options ${arg_LINKS})
 endfunction()
 
@@ -62,6 +64,9 @@ function(quillbay_test name)
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
     target_link_libraries(${name} PRIVATE quillbay_options test_harness GTest::gmock ${arg_LINKS})
+    # Tests are compiled for speed of compiling; what they test is optimised.
+    target_compile_options(${name} PRIVATE -O0)
+    target_precompile_headers(${name} REUSE_FROM test_precompiled)
     if(arg_HELPERS)
         add_dependencies(${name} ${arg_HELPERS})
     endif()

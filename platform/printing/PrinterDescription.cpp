@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qsizetype mostPapers = 1000;
+constexpr qsizetype maxChoices = 1000;
 
 // *Keyword Option/Translation: "value"
 struct Statement {
@@ -91,10 +91,10 @@ PrinterDescription printerDescription(QByteArrayView file)
             continue;
         if (statement->keyword == "*DefaultPageSize" && statement->value != "Unknown")
             description.defaultPaperName = QString::fromUtf8(statement->value);
-        if (statement->option.isEmpty() || measuresOfChoices.size() >= 3 * mostPapers)
+        if (statement->option.isEmpty() || measuresOfChoices.size() >= 3 * maxChoices)
             continue;
         const QByteArray option = statement->option.toByteArray();
-        if (statement->keyword == "*PageSize" && choices.size() < mostPapers)
+        if (statement->keyword == "*PageSize" && choices.size() < maxChoices)
             choices.append(option);
         else if (statement->keyword == "*PaperDimension")
             measuresOfChoices[option].dimension = numbersIn(statement->value, 2);

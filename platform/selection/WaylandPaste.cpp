@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int patience = 2'000; // milliseconds
+constexpr int pasteTimeout = 2'000; // milliseconds
 
 QString program()
 {
@@ -18,7 +18,7 @@ QString program()
 void end(QProcess &process)
 {
     process.kill();
-    process.waitForFinished(patience);
+    process.waitForFinished(pasteTimeout);
 }
 
 } // namespace
@@ -61,11 +61,11 @@ Result<QByteArray, SelectionSource::Failure> WaylandPaste::run(const QStringList
     process.setStandardErrorFile(QProcess::nullDevice());
     process.setStandardInputFile(QProcess::nullDevice());
     process.start(m_program, m_selection + words);
-    if (!process.waitForStarted(patience))
+    if (!process.waitForStarted(pasteTimeout))
         return Failure::Refused;
     QByteArray bytes;
     for (bool hasMore = true; hasMore;) {
-        hasMore = process.waitForReadyRead(patience);
+        hasMore = process.waitForReadyRead(pasteTimeout);
         const QByteArray piece = process.readAllStandardOutput();
         if (static_cast<quint64>(piece.size()) > m_left) {
             end(process);

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype sampleSize = 16'384;
+constexpr qsizetype maxSampleSize = 16'384;
 
 /// Bytes of ASCII on either side of a stretch.
 constexpr qsizetype context = 48;
@@ -24,11 +24,11 @@ QByteArray stretchesAround127(QByteArrayView bytes, qsizetype above127)
 {
     QByteArray sample;
     qsizetype done = 0;
-    for (qsizetype at = above127; at < bytes.size() && sample.size() < sampleSize;) {
+    for (qsizetype at = above127; at < bytes.size() && sample.size() < maxSampleSize;) {
         qsizetype start = at;
         while (start > done && at - start < context && !endsStretch(bytes[start - 1]))
             --start;
-        const qsizetype longest = std::min(bytes.size(), start + sampleSize - sample.size());
+        const qsizetype longest = std::min(bytes.size(), start + maxSampleSize - sample.size());
         qsizetype end = at;
         for (qsizetype last = at; end < longest && end - last <= context && !endsStretch(bytes[end]); ++end) {
             if (isAbove127(bytes[end]))

@@ -9,7 +9,7 @@
 namespace {
 
 /// A multiple of four bytes, so that it cuts no code unit.
-constexpr qsizetype sampleSize = 65'536;
+constexpr qsizetype unmarkedSampleSize = 65'536;
 
 enum class ByteOrder { Little, Big };
 
@@ -105,7 +105,7 @@ bool isEastAsianUtf16(const Utf16Census &census)
 
 const char *unmarkedUnicodeEncoding(QByteArrayView bytes)
 {
-    const QByteArrayView sample = bytes.first(std::min(bytes.size(), sampleSize));
+    const QByteArrayView sample = bytes.first(std::min(bytes.size(), unmarkedSampleSize));
     if (!isRichInControlBytes(sample))
         return nullptr;
 

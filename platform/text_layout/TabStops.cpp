@@ -11,7 +11,7 @@ constexpr double leastInterval = 0.1; // keeps the number of stops in any column
 constexpr double largestInterval = 1e6;
 
 // A position this close to a stop is at it: sums of advances are not exact.
-constexpr double tolerance = 1e-6;
+constexpr double tabTolerance = 1e-6;
 
 double usable(double interval)
 {
@@ -28,7 +28,7 @@ TabStops::TabStops(const ParagraphStyle &style)
 
 TabStop TabStops::nextBehind(double position) const
 {
-    const double least = position + tolerance;
+    const double least = position + tabTolerance;
     const auto named = std::upper_bound(m_stops.begin(), m_stops.end(), least,
         [](double wanted, const TabStop &stop) { return wanted < stop.position; });
     if (named != m_stops.end() && std::isfinite(named->position))

@@ -18,5 +18,13 @@ inline constexpr double halves = 2;
 std::optional<int> integerOf(std::optional<QByteArrayView> value);
 std::optional<int> hexadecimalOf(std::optional<QByteArrayView> value);
 
+/// Gives value what other has, where it has anything.
+template <typename Value>
+void overlayValue(std::optional<Value> &value, const std::optional<Value> &other)
+{
+    if (other)
+        value = other;
+}
+
 /// An element without the attribute means true.
 bool truthOf(std::optional<QByteArrayView> value);

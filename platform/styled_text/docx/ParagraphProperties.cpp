@@ -44,13 +44,6 @@ TextAlignment textAlignmentOf(std::optional<Alignment> alignment, bool isRightTo
     return TextAlignment::Justified;
 }
 
-template <typename Value>
-void overlayValue(std::optional<Value> &value, const std::optional<Value> &other)
-{
-    if (other)
-        value = other;
-}
-
 void takeEither(std::optional<double> &value, const XmlElement &element, XmlTag transitional, XmlTag strict)
 {
     overlayValue(value, pointsOf(element.attribute(transitional), twentieths));

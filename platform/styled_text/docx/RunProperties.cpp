@@ -49,13 +49,6 @@ VerticalAlignment verticalAlignmentOf(const XmlElement &element)
     return value == "subscript" ? VerticalAlignment::Subscript : VerticalAlignment::Baseline;
 }
 
-template <typename Value>
-void overlayValue(std::optional<Value> &value, const std::optional<Value> &other)
-{
-    if (other)
-        value = other;
-}
-
 template <typename Text>
 void overlayText(Text &value, const Text &other)
 {

@@ -7,7 +7,7 @@
 namespace {
 
 /// Of a language's tag or a file's name: code units.
-constexpr qsizetype longestName = 1024;
+constexpr qsizetype maxValueLength = 1024;
 
 constexpr int lightest = 1;
 constexpr int heaviest = 1000;
@@ -117,11 +117,11 @@ void RtfExactValues::add(RtfAction kind, qint32 number, QStringView value)
         }
         break;
     case RtfAction::ExactLanguage:
-        if (value.size() <= longestName)
+        if (value.size() <= maxValueLength)
             m_languages.insert(number, value.toString());
         break;
     case RtfAction::ExactFile:
-        if (value.size() <= longestName)
+        if (value.size() <= maxValueLength)
             m_fileNames.insert(number, value.toString());
         break;
     default:

@@ -7,7 +7,6 @@ namespace {
 
 constexpr int regularWeight = 400;
 constexpr int boldWeight = 700;
-constexpr double twipsPerPoint = 20;
 constexpr double halfPointsPerPoint = 2;
 constexpr double quarterPointsPerPoint = 4;
 constexpr double thousandthsPerPoint = 1000;

@@ -14,6 +14,8 @@
 /// Of a paragraph; further ones are passed over. Word processors stop at 64.
 inline constexpr size_t mostTabStops = 256;
 
+inline constexpr double twipsPerPoint = 20;
+
 struct RtfCharacterFormat {
     static constexpr qint32 noFont = -1;
 

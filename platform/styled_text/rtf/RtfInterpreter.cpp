@@ -10,7 +10,7 @@ namespace {
 constexpr size_t deepestGroup = 10'000;
 
 /// Of an attachment's name, or a value in the table of exact ones: code units; the rest is cut off.
-constexpr qsizetype longestName = 16'384;
+constexpr qsizetype maxDestinationName = 16'384;
 
 /// In the group of an attachment, this byte stands for it: the sign for "not" in Windows-1252.
 constexpr uchar attachmentMarker = 0xAC;
@@ -259,7 +259,7 @@ QString *RtfInterpreter::target()
         return &flow().under(m_state.format);
     const bool isName = m_state.destination == RtfDestination::GraphicName
         || m_state.destination == RtfDestination::ExactValue;
-    return isName && !m_isNameComplete && m_name.size() <= longestName ? &m_name : nullptr;
+    return isName && !m_isNameComplete && m_name.size() <= maxDestinationName ? &m_name : nullptr;
 }
 
 void RtfInterpreter::appendBytes(QByteArrayView bytes)

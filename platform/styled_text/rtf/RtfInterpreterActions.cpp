@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr double twipsPerPoint = 20;
-
 /// Of a Windows number; those above say how the language is sorted.
 constexpr qint32 languageBits = 0xFFFF;
 
