@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class QBYServiceProviderAppDelegate final : public QBYServiceProviderShowStatsWindowControllerDelegate,
@@ -33,10 +34,18 @@ public:
     {
         return m_statWindowControllerForSelectedText;
     }
+    void setStatWindowControllerForSelectedText(StatWindowControllers controllers)
+    {
+        m_statWindowControllerForSelectedText = std::move(controllers);
+    }
     /// One a watched file, in the order in which they were made.
     [[nodiscard]] const WatchTextFileControllers &watchTextFileControllers() const
     {
         return m_watchTextFileControllers;
+    }
+    void setWatchTextFileControllers(WatchTextFileControllers controllers)
+    {
+        m_watchTextFileControllers = std::move(controllers);
     }
 
     /// From here on services are offered.

@@ -104,6 +104,27 @@ TEST_F(AppDelegate, LetsAWindowGoWhenItIsClosed)
     EXPECT_TRUE(life.expired());
 }
 
+TEST_F(AppDelegate, TakesOtherRegistriesAndLetsGoWhatTheOldOnesHeld)
+{
+    count("one");
+    count("two");
+    const auto two = delegate.statWindowControllerForSelectedText().back();
+    const std::weak_ptr<QBYServiceProviderShowStatsWindowController> one =
+        delegate.statWindowControllerForSelectedText().front();
+    delegate.setStatWindowControllerForSelectedText({two});
+    EXPECT_THAT(delegate.statWindowControllerForSelectedText(), testing::ElementsAre(two));
+    EXPECT_TRUE(one.expired());
+    two->closeButtonAction(nullptr);
+    EXPECT_THAT(delegate.statWindowControllerForSelectedText(), IsEmpty());
+
+    const auto watcher = WatchTextFileMenuBarController::initWithoutMenuItem({desktop, activity});
+    delegate.setWatchTextFileControllers({watcher});
+    EXPECT_THAT(delegate.watchTextFileControllers(), testing::ElementsAre(watcher));
+    EXPECT_TRUE(delegate.isInUse());
+    delegate.watchTextFileMenuBarControllerDidFinish(*watcher);
+    EXPECT_FALSE(delegate.isInUse());
+}
+
 TEST_F(AppDelegate, EndsTheApplicationWithItsLastWindow)
 {
     EXPECT_TRUE(QBYServiceProviderAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
