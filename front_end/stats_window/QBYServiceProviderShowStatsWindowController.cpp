@@ -7,6 +7,8 @@
 #include "presentation/common_views/WindowExtension.h"
 #include "presentation/stats_panel/PanelPlace.h"
 
+#include <QScopedValueRollback>
+
 namespace {
 
 constexpr int fadeTime = 250; // milliseconds
@@ -123,6 +125,8 @@ void QBYServiceProviderShowStatsWindowController::closeButtonAction(QObject * /*
 
 void QBYServiceProviderShowStatsWindowController::wordCounterViewControllerDidRelayoutLabels()
 {
+    if (m_isWideningPanel)
+        return;
     m_wordCounterViewController->adjustViewHeightToFitVisibleLabels();
     double width = window()->frame().width();
     // The last one decides, not the widest.
@@ -134,27 +138,37 @@ void QBYServiceProviderShowStatsWindowController::wordCounterViewControllerDidRe
     QBYExtension::setFrameSize(*window(), {width, height}, true);
 }
 
+// Moving or resizing the panel has its labels placed again, which may resize the window in between: every
+// step reads the frames as the steps before it left them.
 void QBYServiceProviderShowStatsWindowController::windowContentViewFrameDidChange()
 {
-    const double width = window()->frame().width();
-    const double height = window()->frame().height();
-    const std::shared_ptr<View> panel = panelView();
-    // The panel is as wide as the window, so that its labels are in the middle.
-    if (panel)
-        panel->setFrameSize({width, panel->frame().height()});
-
-    setOrigin(panel, {0, 0});
-    setOrigin(activityIndicator(), {5, height - frameOf(activityIndicator()).height() - 4});
+    const auto windowSize = [this] { return window()->frame().size(); };
+    const auto titleX = [this] {
+        const QRectF indicator = frameOf(activityIndicator());
+        return indicator.x() + indicator.width();
+    };
+    widenPanel();
+    setOrigin(panelView(), {0, 0});
+    setOrigin(activityIndicator(), {5, windowSize().height() - frameOf(activityIndicator()).height() - 4});
     setOrigin(closeButton(),
         {frameOf(window()->contentView()).width() - frameOf(closeButton()).width(),
-            frameOf(panel).height() + 2});
-    const QRectF indicator = frameOf(activityIndicator());
-    const double titleX = indicator.x() + indicator.width();
+            frameOf(panelView()).height() + 2});
     const double titleHeight = frameOf(titleLabel()).height();
-    setFrame(
-        titleLabel(), {titleX, height - titleHeight - 3, frameOf(closeButton()).x() - titleX, titleHeight});
+    setFrame(titleLabel(),
+        {titleX(), windowSize().height() - titleHeight - 3, frameOf(closeButton()).x() - titleX(),
+            titleHeight});
+    const QRectF panel = frameOf(panelView());
     setFrame(lineSeparator(),
-        {0, frameOf(panel).y() + frameOf(panel).height() + 1, width, frameOf(lineSeparator()).height()});
+        {0, panel.y() + panel.height() + 1, windowSize().width(), frameOf(lineSeparator()).height()});
+}
+
+/// The panel is as wide as the window, so that its labels are in the middle. The window has been fitted to
+/// them already.
+void QBYServiceProviderShowStatsWindowController::widenPanel()
+{
+    const QScopedValueRollback guard(m_isWideningPanel, true);
+    if (const std::shared_ptr<View> panel = panelView())
+        panel->setFrameSize({window()->frame().width(), panel->frame().height()});
 }
 
 std::shared_ptr<View> QBYServiceProviderShowStatsWindowController::panelView() const

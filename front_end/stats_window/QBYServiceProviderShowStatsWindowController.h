@@ -76,6 +76,8 @@ public:
     /// tells the delegate. sender: ignored.
     void closeButtonAction(QObject *sender);
 
+    /// Fits the window to the labels. Of several visible labels that are at least as wide as the window, the
+    /// last one gives the width.
     void wordCounterViewControllerDidRelayoutLabels() override;
     /// Places the title row and the panel.
     void windowContentViewFrameDidChange();
@@ -85,6 +87,7 @@ private:
 
     void setUpForDesktop();
     void showStatistics();
+    void widenPanel();
     [[nodiscard]] std::shared_ptr<View> panelView() const;
 
     const AttributedString m_attributedStringToCount;
@@ -96,4 +99,5 @@ private:
     std::weak_ptr<Button> m_closeButton;
     std::weak_ptr<Box> m_lineSeparator;
     std::unique_ptr<WindowOnScreen> m_windowOnScreen;
+    bool m_isWideningPanel = false;
 };

@@ -153,13 +153,15 @@ TEST_F(StatsWindow, GrowsByTenBeyondALabelThatFillsIt)
 TEST_F(StatsWindow, TakesItsWidthFromTheLastLabelThatFillsItNotFromTheWidest)
 {
     load();
-    const double before = size().width();
-    label(1)->setFrameSize({before + 200, 17});
-    label(5)->setFrameSize({before + 20, 17});
-    // Once only: the next placement would see that the earlier label is wider still.
-    panel().setLayoutDelegate(nullptr);
-    controller->wordCounterViewControllerDidRelayoutLabels();
-    EXPECT_EQ(size().width(), before + 30);
+    panel().repositionLabels();
+    ASSERT_EQ(size().width(), 240);
+    label(1)->setFrameSize({440, 17});
+    label(5)->setFrameSize({260, 17});
+    panel().repositionLabels();
+    EXPECT_EQ(size().width(), 270);
+    EXPECT_EQ(panel().view()->frame().width(), 270) << "as wide as the window";
+    EXPECT_EQ(controller->lineSeparator()->frame().width(), 270);
+    EXPECT_EQ(label(5)->frame().x(), 5) << "in the middle of it";
 }
 
 TEST_F(StatsWindow, IgnoresTheWidthOfHiddenLabels)
@@ -200,6 +202,28 @@ TEST_F(StatsWindow, PlacesItsTitleRowToThePoint)
     EXPECT_EQ(controller->closeButton()->frame(), QRectF(301 - 27, 170.5 + 2, 27, 24));
     EXPECT_EQ(controller->titleLabel()->frame(), QRectF(21, 215.5 - 21 - 3, 274 - 21, 21));
     EXPECT_EQ(controller->lineSeparator()->frame(), QRectF(0, 170.5 + 1, 301, 2));
+}
+
+TEST_F(StatsWindow, EachStepOfTheLayoutReadsTheFramesAsTheStepsBeforeHaveLeftThem)
+{
+    load();
+    panel().repositionLabels();
+    // Whoever follows the panel's place makes the window larger in the middle of the layout.
+    QObject::connect(panel().view().get(), &View::frameDidChange, controller.get(), [this] {
+        if (panel().view()->frame().topLeft() == QPointF(0, 0) && size().width() < 500)
+            controller->window()->setFrame({0, 0, 500, 400}, true, false);
+    });
+    panel().view()->setFrameOrigin({9, 9});
+    controller->windowContentViewFrameDidChange();
+    ASSERT_EQ(size().width(), 500);
+    EXPECT_EQ(controller->lineSeparator()->frame().width(), 500);
+    EXPECT_EQ(controller->closeButton()->frame().x(), 500 - controller->closeButton()->frame().width());
+    const double height = size().height();
+    const QRectF title = controller->titleLabel()->frame();
+    const QRectF indicator = controller->activityIndicator()->frame();
+    EXPECT_EQ(indicator.y(), height - indicator.height() - 4);
+    EXPECT_EQ(title.y(), height - title.height() - 3);
+    EXPECT_EQ(title.x() + title.width(), controller->closeButton()->frame().x());
 }
 
 TEST_F(StatsWindow, CountsMissingControlsAsZero)
