@@ -19,8 +19,10 @@ class Window;
 struct Alert {
     QString messageText;
     QString informativeText;
-    /// At least one; the first is the usual answer. Escape is the last one.
+    /// At least one; the first is the default answer. Escape is the last one.
     QStringList buttons;
+    /// Of the window; empty: the name of the program.
+    QString windowTitle = {};
 };
 
 /// Keeps a window on the screen as long as it lives: shown whenever the window is visible.
@@ -60,8 +62,8 @@ public:
 
     /// Returns at once. The completion is called once, later, unless the program ends before.
     virtual void runAlert(const Alert &alert, AlertCompletion completion) = 0;
-    /// Tells the user of something that went wrong; there is nothing to answer. Returns at once. What the
-    /// user still has before him is not told again.
+    /// Reports to the user that something went wrong; there is nothing to answer. Returns at once. Each text
+    /// is reported once in the life of the program.
     virtual void presentError(const QString &text) = 0;
     /// Shows the desktop's own file chooser beside the other windows; returns at once. The completion is
     /// called once, later, unless the program ends before.

@@ -18,7 +18,8 @@ inline QString speechLaunchPath()
 }
 
 // Both return at once; the command is neither waited for nor followed, so that phrases may overlap. False
-// where nothing is spoken. A command that cannot be started is presented to the user on the desktop.
+// where nothing is spoken. A command that cannot be started is presented to the user on the desktop, once for
+// each cause.
 
 /// Speaks "COUNT words", the count in words of the language that the user had at the first call; "words" for
 /// one too. A count of 0 is never spoken.

@@ -18,14 +18,15 @@ namespace {
 // Buttons of the alert, in their order.
 constexpr int closeButton = 0;
 
-Alert failureAlert()
+Alert failureAlert(const QUrl &document)
 {
     return {.messageText = QStringLiteral("Failed to load text."),
         .informativeText = QStringLiteral(
             "Quillbay was unable to update the stats of the text file currently being watched. "
             "This usually means the file was either renamed or deleted. You can choose another "
             "text file to watch or cancel."),
-        .buttons = {QStringLiteral("Close"), QStringLiteral("Choose another file.")}};
+        .buttons = {QStringLiteral("Close"), QStringLiteral("Choose another file.")},
+        .windowTitle = document.adjusted(QUrl::StripTrailingSlash).fileName()};
 }
 
 } // namespace
@@ -154,7 +155,7 @@ void WatchTextFileMenuBarController::currentlyWatchedTextFileDidFailToLoadAttrib
 
 void WatchTextFileMenuBarController::askWhatToDo()
 {
-    m_surroundings.desktop.runAlert(failureAlert(), [self = shared_from_this()](int button) {
+    m_surroundings.desktop.runAlert(failureAlert(urlBeingWatched()), [self = shared_from_this()](int button) {
         if (button == closeButton)
             self->watchTextFileViewControllerRequestedStop(nullptr);
         else

@@ -2,6 +2,7 @@
 #include "platform/views/widgets/TrayStatusBar.h"
 
 #include "platform/views/widgets/PixelGeometry.h"
+#include "platform/views/widgets/PlainText.h"
 #include "platform/views/widgets/SymbolIcon.h"
 
 #include <QGuiApplication>
@@ -21,7 +22,7 @@ public:
         QSystemTrayIcon *const icon = m_icon;
         const auto update = [shown, icon] {
             icon->setIcon(SymbolIcon::named(shown->imageName()));
-            icon->setToolTip(shown->toolTip());
+            icon->setToolTip(plainToolTip(shown->toolTip()));
         };
         QObject::connect(shown, &StatusItem::faceDidChange, icon, update);
         QObject::connect(icon, &QSystemTrayIcon::activated, shown,

@@ -6,6 +6,7 @@
 #include "platform/views/Label.h"
 #include "platform/views/ProgressIndicator.h"
 #include "platform/views/widgets/PaintedWidget.h"
+#include "platform/views/widgets/PlainText.h"
 #include "platform/views/widgets/SpinnerWidget.h"
 #include "platform/views/widgets/SymbolIcon.h"
 
@@ -114,7 +115,8 @@ QWidget *makeViewWidget(View &view, QWidget *parent)
     widget->setObjectName(view.identifier());
     const auto update = [widget, &view] {
         widget->setAccessibleName(view.accessibleName());
-        widget->setToolTip(view.toolTip());
+        widget->setToolTip(plainToolTip(view.toolTip()));
+        widget->setAccessibleDescription(view.toolTip());
     };
     follow(view, widget, update, &View::descriptionDidChange);
     QObject::connect(&view, &View::displayNeeded, widget, qOverload<>(&QWidget::update));

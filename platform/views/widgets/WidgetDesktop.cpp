@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/WidgetDesktop.h"
 
+#include "platform/logging/LogChannel.h"
 #include "platform/views/widgets/FileFilter.h"
 #include "platform/views/widgets/PixelGeometry.h"
+#include "platform/views/widgets/PlainText.h"
 #include "platform/views/widgets/WindowActivation.h"
 #include "platform/views/widgets/WindowWidget.h"
 
@@ -10,6 +12,7 @@
 #include <QCursor>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -56,14 +59,22 @@ double distance(const QPoint &point, const QRect &rect)
     return double(right) * right + double(down) * down;
 }
 
-std::unique_ptr<QMessageBox> messageBox(QMessageBox::Icon icon, const QString &text)
+std::unique_ptr<QMessageBox> messageBox(
+    QMessageBox::Icon icon, const QString &text, const QString &windowTitle)
 {
-    auto box = std::make_unique<QMessageBox>(icon, QGuiApplication::applicationDisplayName(), text);
+    auto box = std::make_unique<QMessageBox>(icon, plainWindowTitle(windowTitle), text);
     box->setTextFormat(Qt::PlainText);
     box->setWindowModality(Qt::ApplicationModal);
     // The windows that the box speaks of float.
     box->setWindowFlag(Qt::WindowStaysOnTopHint);
     return box;
+}
+
+/// QMessageBox::setTextFormat() leaves out the label of the informative text.
+void showAsPlainText(const QMessageBox &box)
+{
+    for (QLabel *const label : box.findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
 }
 
 } // namespace
@@ -109,8 +120,10 @@ void WidgetDesktop::beep()
 
 void WidgetDesktop::runAlert(const Alert &alert, AlertCompletion completion)
 {
-    std::unique_ptr<QMessageBox> box = messageBox(QMessageBox::Warning, alert.messageText);
+    std::unique_ptr<QMessageBox> box = messageBox(QMessageBox::Warning, alert.messageText,
+        alert.windowTitle.isEmpty() ? QGuiApplication::applicationDisplayName() : alert.windowTitle);
     box->setInformativeText(alert.informativeText);
+    showAsPlainText(*box);
     QList<QAbstractButton *> buttons;
     for (const QString &title : alert.buttons) {
         // The rejecting role would let the desktop's style move the button.
@@ -127,13 +140,12 @@ void WidgetDesktop::runAlert(const Alert &alert, AlertCompletion completion)
 
 void WidgetDesktop::presentError(const QString &text)
 {
-    const bool isShownAlready = std::ranges::any_of(m_dialogs, [&](const std::unique_ptr<QDialog> &dialog) {
-        const auto *const box = qobject_cast<const QMessageBox *>(dialog.get());
-        return box && box->icon() == QMessageBox::Critical && box->text() == text;
-    });
-    if (isShownAlready)
+    LogChannel::standard().error(u"{}", {publicly(text)});
+    if (m_reportedErrors.contains(text))
         return;
-    std::unique_ptr<QMessageBox> box = messageBox(QMessageBox::Critical, text);
+    m_reportedErrors.insert(text);
+    std::unique_ptr<QMessageBox> box =
+        messageBox(QMessageBox::Critical, text, QGuiApplication::applicationDisplayName());
     box->addButton(QMessageBox::Ok);
     show(std::move(box), [](QDialog &, int) {});
 }

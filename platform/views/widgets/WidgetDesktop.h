@@ -6,6 +6,7 @@
 #include "platform/views/Desktop.h"
 
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
 #include <vector>
@@ -35,5 +36,6 @@ private:
     void forget(const QDialog &dialog);
 
     std::vector<std::unique_ptr<QDialog>> m_dialogs;
+    QSet<QString> m_reportedErrors;
     std::function<void()> m_askingEnded;
 };

@@ -3,6 +3,7 @@
 
 #include "platform/views/widgets/LabelTextMeasurer.h"
 #include "platform/views/widgets/PixelGeometry.h"
+#include "platform/views/widgets/PlainText.h"
 #include "platform/views/widgets/WindowActivation.h"
 
 #include <QApplication>
@@ -84,7 +85,7 @@ void WindowWidget::followWindow()
     connect(window, &Window::levelDidChange, this, &WindowWidget::applyStyle);
     connect(window, &Window::orderedFront, this, &WindowWidget::bringToFront);
     connect(window, &Window::orderedOut, this, &WindowWidget::hide);
-    const auto applyTitle = [this] { setWindowTitle(m_window->title()); };
+    const auto applyTitle = [this] { setWindowTitle(plainWindowTitle(m_window->title())); };
     connect(window, &Window::titleDidChange, this, applyTitle);
     applyTitle();
     const auto applyCopy = [this] { m_copyShortcut->setEnabled(m_window->canCopy()); };

@@ -28,7 +28,12 @@ public:
         notes.append(QStringLiteral("alert: ") + alert.messageText);
         m_alerts.push_back({alert, std::move(completion)});
     }
-    void presentError(const QString &text) override { notes.append(QStringLiteral("error: ") + text); }
+    void presentError(const QString &text) override
+    {
+        const QString note = QStringLiteral("error: ") + text;
+        if (!notes.contains(note))
+            notes.append(note);
+    }
     void beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion completion) override
     {
         notes.append(QStringLiteral("open panel"));

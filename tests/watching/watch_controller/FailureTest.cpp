@@ -35,9 +35,35 @@ TEST_F(FailureTest, BeepsAndAsksWithTheWindowClosed)
             "to watch or cancel."));
     EXPECT_THAT(m_desktop.alert().buttons,
         ElementsAre(QStringLiteral("Close"), QStringLiteral("Choose another file.")));
+    EXPECT_EQ(m_desktop.alert().windowTitle, QStringLiteral("novel.txt"));
     EXPECT_FALSE(watcher.detachableWindowForPopover()->isVisible());
     EXPECT_FALSE(watcher.watchFileModel()->isWatchingTextFile());
     EXPECT_EQ(m_registry.finished, 0);
+}
+
+TEST_F(FailureTest, TheAlertNamesTheFileAsItIsCalledNow)
+{
+    const Controller &watcher = watch(m_path);
+    const QString renamed = pathOf(QStringLiteral("<b>book.txt"));
+    ASSERT_TRUE(QFile::rename(m_path, renamed));
+    EXPECT_TRUE(waitUntil([&] {
+        pass(std::chrono::milliseconds(100));
+        return watcher.urlBeingWatched() == QUrl::fromLocalFile(renamed);
+    }));
+    QFile::remove(renamed);
+    waitForAlert();
+    EXPECT_EQ(m_desktop.alert().windowTitle, QStringLiteral("<b>book.txt"));
+}
+
+TEST_F(FailureTest, TheAlertNamesAFolderToo)
+{
+    const QString package = pathOf(QStringLiteral("notes.rtfd"));
+    writeFile(QStringLiteral("notes.rtfd/TXT.rtf"), "{\\rtf1 Notes}");
+    Controller &watcher = makeWindowForm();
+    watcher.watchWithTextFileURL(QUrl::fromLocalFile(package + u'/'));
+    ASSERT_TRUE(QDir(package).removeRecursively());
+    waitForAlert();
+    EXPECT_EQ(m_desktop.alert().windowTitle, QStringLiteral("notes.rtfd"));
 }
 
 TEST_F(FailureTest, TheAlertComesOnlyAfterTheModelsMessageHasReturned)

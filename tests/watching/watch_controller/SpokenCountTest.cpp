@@ -92,10 +92,10 @@ TEST_F(SpokenCountTest, TheCountOfAWordDocumentIsSpokenToo)
     EXPECT_THAT(spoken(1), ElementsAre(QStringLiteral("1:seven words")));
 }
 
-TEST_F(SpokenCountTest, ACommandThatCannotBeStartedIsPresentedAndTheCountsStay)
+TEST_F(SpokenCountTest, ACommandThatCannotBeStartedIsPresentedOnceAndTheCountsStay)
 {
     m_surroundings.speechLaunchPath = QStringLiteral("/nonexistent/say");
-    serve({"answer 7 0 0 0 0 0 0 0"});
+    serve({"answer 7 0 0 0 0 0 0 0", "answer 8 0 0 0 0 0 0 0"});
     Controller &watcher = watch(m_path);
     ASSERT_EQ(m_desktop.notes.size(), 1);
     EXPECT_TRUE(
@@ -103,4 +103,7 @@ TEST_F(SpokenCountTest, ACommandThatCannotBeStartedIsPresentedAndTheCountsStay)
         << m_desktop.notes.front().toStdString();
     EXPECT_EQ(wordsOf(*watcher.watchTextFileViewControllerForPopover()), QStringLiteral("•Words: 7"));
     EXPECT_EQ(watcher.lastCalledOutWordCount(), 7U);
+    save(watcher);
+    EXPECT_EQ(watcher.lastCalledOutWordCount(), 8U);
+    EXPECT_EQ(m_desktop.notes.size(), 1) << "it is reported once, not at each save";
 }
