@@ -13,4 +13,8 @@ inline constexpr QStringView text = u"text/plain";
 inline constexpr QStringView wordDocument =
     u"application/vnd.openxmlformats-officedocument.wordprocessingml.document";
 
+/// The suffix of a folder of rich text with attachments, in any case: the MIME database knows folders only as
+/// folders.
+inline constexpr QStringView richTextPackageSuffix = u"rtfd";
+
 } // namespace FileTypeNames

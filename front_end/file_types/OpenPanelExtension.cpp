@@ -14,6 +14,7 @@ OpenPanel QBYExtension::openPanelForTextFilesAllowMultipleSelection(bool allowMu
     for (const QStringView type :
         {FileTypeNames::folder, FileTypeNames::richText, FileTypeNames::text, FileTypeNames::wordDocument})
         panel.allowedFileTypes << type.toString();
+    panel.packageSuffixes.append(FileTypeNames::richTextPackageSuffix.toString());
     panel.allowsMultipleSelection = allowMultipleSelection;
     return panel;
 }

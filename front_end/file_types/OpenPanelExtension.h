@@ -10,10 +10,8 @@ namespace QBYExtension {
 /// For one document.
 OpenPanel openPanelForTextFiles();
 
-/// Offers rich text with attachments, rich text, text and Word documents, in this order. Rich text with
-/// attachments is a folder, and a chooser of files enters a folder instead of choosing it: its type is named
-/// for choosers that can do both. In all others the user chooses the RTF in the folder, TXT.rtf, which has
-/// the whole text.
+/// Offers rich text with attachments, rich text, text and Word documents, in this order. A folder of rich
+/// text with attachments is chosen as one document, not entered.
 OpenPanel openPanelForTextFilesAllowMultipleSelection(bool allowMultipleSelection);
 
 } // namespace QBYExtension

@@ -16,5 +16,8 @@ struct OpenPanel {
 
     /// MIME types, the usual kind first; files of derived types are offered too. Empty for all files.
     QStringList allowedFileTypes;
+    /// Folders whose names end in one of these suffixes (without the dot, in any case) are documents: they
+    /// are chosen, not entered.
+    QStringList packageSuffixes = {};
     bool allowsMultipleSelection = false;
 };

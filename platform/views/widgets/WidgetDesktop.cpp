@@ -2,7 +2,7 @@
 #include "platform/views/widgets/WidgetDesktop.h"
 
 #include "platform/logging/LogChannel.h"
-#include "platform/views/widgets/FileFilter.h"
+#include "platform/views/widgets/DocumentChooser.h"
 #include "platform/views/widgets/PixelGeometry.h"
 #include "platform/views/widgets/PlainText.h"
 #include "platform/views/widgets/WindowActivation.h"
@@ -10,8 +10,6 @@
 
 #include <QApplication>
 #include <QCursor>
-#include <QDir>
-#include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -152,17 +150,11 @@ void WidgetDesktop::presentError(const QString &text)
 
 void WidgetDesktop::beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion completion)
 {
-    auto chooser = std::make_unique<QFileDialog>();
-    chooser->setFileMode(
-        panel.allowsMultipleSelection ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
-    chooser->setDirectory(QDir::home()); // a program that the bus starts is nowhere in particular
-    if (!panel.allowedFileTypes.isEmpty())
-        chooser->setNameFilter(fileFilterOf(panel.allowedFileTypes));
-    chooser->setOption(QFileDialog::HideNameFilterDetails);
+    auto chooser = std::make_unique<DocumentChooser>(panel);
     chooser->setWindowFlag(Qt::WindowStaysOnTopHint);
     chooser->setWindowModality(Qt::NonModal);
     show(std::move(chooser), [completion = std::move(completion)](QDialog &dialog, int result) {
-        const QList<QUrl> urls = static_cast<QFileDialog &>(dialog).selectedUrls();
+        const QList<QUrl> urls = static_cast<DocumentChooser &>(dialog).chosenUrls();
         const bool isChosen = result == QDialog::Accepted && !urls.isEmpty();
         completion(isChosen ? std::optional(urls) : std::nullopt);
     });

@@ -36,6 +36,11 @@ TEST_F(OpenPanelTest, OffersTheFourKindsInTheirOrder)
         QBYExtension::openPanelForTextFiles().allowedFileTypes);
 }
 
+TEST_F(OpenPanelTest, AFolderOfRichTextIsChosenAsOneDocument)
+{
+    EXPECT_THAT(QBYExtension::openPanelForTextFiles().packageSuffixes, ElementsAre(QStringLiteral("rtfd")));
+}
+
 TEST_F(OpenPanelTest, TheMimeDatabaseKnowsEveryTypeByThatName)
 {
     for (const QString &type : QBYExtension::openPanelForTextFiles().allowedFileTypes)

@@ -51,7 +51,8 @@ protected:
     }
     void beginOpenPanel(bool allowsMultipleSelection = false)
     {
-        desktop.beginOpenPanel({{QStringLiteral("text/plain")}, allowsMultipleSelection},
+        desktop.beginOpenPanel({.allowedFileTypes = {QStringLiteral("text/plain")},
+                                   .allowsMultipleSelection = allowsMultipleSelection},
             [this](const std::optional<QList<QUrl>> &urls) { chosen.push_back(urls); });
     }
 
