@@ -10,10 +10,24 @@
 #include <QIcon>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
+// The exit statuses, besides 0 when nothing is left to show.
+constexpr int notServing = 1; // no display, or the services cannot be offered
 constexpr int wrongUsage = 2;
+constexpr int lostDisplay = 3;
+
+bool isRunning = false;
+
+/// Qt calls exit() in the middle of the event loop when the X server dies. Uses _Exit(): the destructors of
+/// static objects would run beside threads that still work, and some of those objects are destroyed already.
+void exitWithoutDisplay()
+{
+    if (isRunning)
+        std::_Exit(lostDisplay); // Qt has said why
+}
 
 /// Only X11 (Xwayland, too) lets windows choose their place and stay above others on every desktop. What the
 /// user says himself holds.
@@ -44,7 +58,7 @@ int main(int argumentCount, char **arguments)
         std::fputs("quillbay-service-provider: there is no display to show windows on (DISPLAY and "
                    "WAYLAND_DISPLAY are not set)\n",
             stderr);
-        return 1;
+        return notServing;
     }
     choosePlatform();
     QApplication application(argumentCount, arguments);
@@ -57,5 +71,11 @@ int main(int argumentCount, char **arguments)
     ApplicationActivity activity(false);
     const ApplicationActivitySource activitySource(activity);
     ProviderApplication provider({.desktop = desktop, .applicationActivity = activity});
-    return provider.start() ? QApplication::exec() : 1;
+    if (!provider.start())
+        return notServing;
+    std::atexit(exitWithoutDisplay);
+    isRunning = true;
+    const int status = QApplication::exec();
+    isRunning = false;
+    return status;
 }

@@ -4,24 +4,27 @@
 #include <QCoreApplication>
 #include <QThread>
 
-#include <memory>
 #include <mutex>
+#include <utility>
 
 namespace {
 
 std::mutex mutex;
-std::unique_ptr<QThread> thread;
+// Not owned by a static object: a process that exits without its QCoreApplication ending, as Qt does when the
+// X server dies, would destroy it while it runs, and Qt aborts then.
+QThread *thread = nullptr;
 
 // Qt's own thread for the bus ends after the application object, so ours never talks to one that is gone.
 void stop()
 {
-    std::unique_ptr<QThread> stopped;
+    QThread *stopped = nullptr;
     {
         const std::lock_guard guard(mutex);
-        stopped = std::move(thread);
+        stopped = std::exchange(thread, nullptr);
     }
     stopped->quit();
     stopped->wait(); // without the mutex: a handler may still make connections
+    delete stopped;
 }
 
 } // namespace
@@ -30,10 +33,10 @@ QThread *ConnectionThread::shared()
 {
     const std::lock_guard guard(mutex);
     if (!thread) {
-        thread = std::make_unique<QThread>();
+        thread = new QThread;
         thread->setObjectName(QStringLiteral("connections"));
         thread->start();
         qAddPostRoutine(stop);
     }
-    return thread.get();
+    return thread;
 }

@@ -77,29 +77,50 @@ TEST_F(ProviderLife, NoRequestIsLostWhileItLeaves)
     closeAll();
 }
 
+/// A provider on a bus and a display of its own, with two windows open.
+class ProviderOfItsOwn {
+public:
+    explicit ProviderOfItsOwn(const QByteArray &display)
+    {
+        program.withVariable("DBUS_SESSION_BUS_ADDRESS", bus.address());
+        program.withVariable("DISPLAY", display);
+        program.start({});
+        QDBusConnection client = QDBusConnection::connectToBus(
+            QString::fromLatin1(bus.address()), QStringLiteral("client-of-its-own"));
+        EXPECT_TRUE(waitUntil(
+            [&] { return client.interface()->isServiceRegistered(ServiceInterface::busName()).value(); }));
+        QDBusMessage request =
+            QDBusMessage::createMethodCall(ServiceInterface::busName(), ServiceInterface::objectPath(),
+                ServiceInterface::interfaceName(), QStringLiteral("wordCountSelectedTextService"));
+        request.setArguments(
+            {QVariantMap{{QStringLiteral("text/plain"), QByteArray("A text.")}}, QString(), QVariantMap()});
+        for (int window = 0; window < 2; ++window)
+            EXPECT_EQ(client.call(request).type(), QDBusMessage::ReplyMessage);
+        QDBusConnection::disconnectFromBus(client.name());
+    }
+
+    PrivateBus bus;
+    ChildProcess program{productProgram(QStringLiteral("quillbay-service-provider"))};
+};
+
 TEST_F(ProviderLife, EndsWithTheSessionBusWhateverWindowsAreOpen)
 {
-    PrivateBus bus;
-    ChildProcess program(productProgram(QStringLiteral("quillbay-service-provider")));
-    program.withVariable("DBUS_SESSION_BUS_ADDRESS", bus.address());
-    program.withVariable("DISPLAY", TestDisplay::start().toLatin1());
-    program.start({});
-    QDBusConnection client =
-        QDBusConnection::connectToBus(QString::fromLatin1(bus.address()), QStringLiteral("bus-that-ends"));
-    EXPECT_TRUE(waitUntil(
-        [&] { return client.interface()->isServiceRegistered(ServiceInterface::busName()).value(); }));
-    QDBusMessage request =
-        QDBusMessage::createMethodCall(ServiceInterface::busName(), ServiceInterface::objectPath(),
-            ServiceInterface::interfaceName(), QStringLiteral("wordCountSelectedTextService"));
-    request.setArguments(
-        {QVariantMap{{QStringLiteral("text/plain"), QByteArray("A text.")}}, QString(), QVariantMap()});
     // A window that is asked to close may say no, and two of them do not close at once.
-    for (int window = 0; window < 2; ++window)
-        EXPECT_EQ(client.call(request).type(), QDBusMessage::ReplyMessage);
+    ProviderOfItsOwn provider(TestDisplay::start().toLatin1());
     waitForWindows(2);
-    QDBusConnection::disconnectFromBus(client.name());
-    bus.end();
-    EXPECT_EQ(program.finish().exitStatus, 0);
+    provider.bus.end();
+    EXPECT_EQ(provider.program.finish().exitStatus, 0);
+}
+
+TEST_F(ProviderLife, ExitsWithAStatusOfItsOwnWhenTheXServerDies)
+{
+    ChildProcess server(QStringLiteral("Xvfb"));
+    server.start({"-displayfd", "1", "-nolisten", "tcp", "-noreset"});
+    ProviderOfItsOwn provider(':' + server.readLine());
+    server.kill();
+    const ChildProcess::Outcome outcome = provider.program.finish();
+    EXPECT_EQ(outcome.exitStatus, 3) << outcome.errors.toStdString();
+    EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("The X11 connection broke"));
 }
 
 TEST(ProviderUsage, TakesNoArguments)
