@@ -2,6 +2,7 @@
 #include "platform/views/widgets/WidgetDesktop.h"
 
 #include "platform/logging/LogChannel.h"
+#include "platform/views/widgets/AnswerGuard.h"
 #include "platform/views/widgets/DocumentChooser.h"
 #include "platform/views/widgets/PixelGeometry.h"
 #include "platform/views/widgets/PlainText.h"
@@ -77,7 +78,10 @@ void showAsPlainText(const QMessageBox &box)
 
 } // namespace
 
-WidgetDesktop::WidgetDesktop() = default;
+WidgetDesktop::WidgetDesktop(Clock &clock)
+    : m_clock(clock)
+{
+}
 
 WidgetDesktop::~WidgetDesktop()
 {
@@ -130,7 +134,7 @@ void WidgetDesktop::runAlert(const Alert &alert, AlertCompletion completion)
     }
     box->setDefaultButton(static_cast<QPushButton *>(buttons.first()));
     box->setEscapeButton(buttons.last());
-    show(std::move(box), [buttons, completion = std::move(completion)](QDialog &dialog, int) {
+    showAlert(std::move(box), [buttons, completion = std::move(completion)](QDialog &dialog, int) {
         QAbstractButton *const pressed = static_cast<QMessageBox &>(dialog).clickedButton();
         completion(static_cast<int>(std::max<qsizetype>(buttons.indexOf(pressed), 0)));
     });
@@ -145,7 +149,7 @@ void WidgetDesktop::presentError(const QString &text)
     std::unique_ptr<QMessageBox> box =
         messageBox(QMessageBox::Critical, text, QGuiApplication::applicationDisplayName());
     box->addButton(QMessageBox::Ok);
-    show(std::move(box), [](QDialog &, int) {});
+    showAlert(std::move(box), [](QDialog &, int) {});
 }
 
 void WidgetDesktop::beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion completion)
@@ -153,15 +157,24 @@ void WidgetDesktop::beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion
     auto chooser = std::make_unique<DocumentChooser>(panel);
     chooser->setWindowFlag(Qt::WindowStaysOnTopHint);
     chooser->setWindowModality(Qt::NonModal);
-    show(std::move(chooser), [completion = std::move(completion)](QDialog &dialog, int result) {
+    QDialog &shown = *chooser;
+    keep(std::move(chooser), [completion = std::move(completion)](QDialog &dialog, int result) {
         const QList<QUrl> urls = static_cast<DocumentChooser &>(dialog).chosenUrls();
         const bool isChosen = result == QDialog::Accepted && !urls.isEmpty();
         completion(isChosen ? std::optional(urls) : std::nullopt);
     });
+    WindowActivation::showAndActivate(shown);
 }
 
-void WidgetDesktop::show(
-    std::unique_ptr<QDialog> dialog, std::function<void(QDialog &dialog, int result)> finish)
+void WidgetDesktop::showAlert(std::unique_ptr<QDialog> dialog, Finish finish)
+{
+    QDialog &shown = *dialog;
+    keep(std::move(dialog), std::move(finish));
+    new AnswerGuard(shown, m_clock); // belongs to the dialog
+    WindowActivation::showForAttention(shown);
+}
+
+void WidgetDesktop::keep(std::unique_ptr<QDialog> dialog, Finish finish)
 {
     QDialog *const shown = dialog.get();
     m_dialogs.push_back(std::move(dialog));
@@ -172,7 +185,6 @@ void WidgetDesktop::show(
         if (m_dialogs.empty() && m_askingEnded)
             m_askingEnded();
     });
-    WindowActivation::showAndActivate(*shown);
 }
 
 void WidgetDesktop::forget(const QDialog &dialog)

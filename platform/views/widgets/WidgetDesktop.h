@@ -3,6 +3,7 @@
 // chooser of the desktop. Thread: main.  Owner: main() of a program with windows, behind its QApplication.
 #pragma once
 
+#include "platform/file_coordination/Clock.h"
 #include "platform/views/Desktop.h"
 
 #include <QPointer>
@@ -15,7 +16,8 @@ class QDialog;
 
 class WidgetDesktop final : public Desktop {
 public:
-    WidgetDesktop();
+    /// clock: outlives the desktop.
+    explicit WidgetDesktop(Clock &clock = systemClock());
     /// The dialogs that are still open are closed; their completions are not called.
     ~WidgetDesktop() override;
 
@@ -31,10 +33,14 @@ public:
     void setAskingEndedHandler(std::function<void()> handler) override { m_askingEnded = std::move(handler); }
 
 private:
+    using Finish = std::function<void(QDialog &dialog, int result)>;
     /// finish: runs when the user is done with the dialog; result: as of QDialog::finished().
-    void show(std::unique_ptr<QDialog> dialog, std::function<void(QDialog &dialog, int result)> finish);
+    void keep(std::unique_ptr<QDialog> dialog, Finish finish);
+    /// For what the user has not asked for: leaves the keyboard alone.
+    void showAlert(std::unique_ptr<QDialog> dialog, Finish finish);
     void forget(const QDialog &dialog);
 
+    Clock &m_clock;
     std::vector<std::unique_ptr<QDialog>> m_dialogs;
     QSet<QString> m_reportedErrors;
     std::function<void()> m_askingEnded;

@@ -3,12 +3,18 @@
 
 #include "platform/views/widgets/X11Focus.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
+#include <chrono>
 #include <utility>
 
 namespace {
+
+// By then the window manager has decided which window has the keyboard.
+constexpr std::chrono::seconds untilManaged{1};
 
 QByteArray &nextToken()
 {
@@ -21,6 +27,26 @@ QByteArray &nextToken()
 void WindowActivation::setToken(const QByteArray &token)
 {
     nextToken() = token;
+}
+
+void WindowActivation::showForAttention(QWidget &window)
+{
+    window.setAttribute(Qt::WA_ShowWithoutActivating); // on X11 a user time of 0, which asks for no focus
+    window.winId(); // makes the native window
+    QWindow *const native = window.windowHandle();
+    // A modal dialog of Qt asks for the keyboard by itself, and some window managers give it to every new
+    // window that takes it at all.
+    native->setFlag(Qt::WindowDoesNotAcceptFocus);
+    window.show();
+    window.raise();
+    QTimer::singleShot(untilManaged, native, [native, &window] {
+        native->setFlag(Qt::WindowDoesNotAcceptFocus, false);
+        const auto *const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+        if (x11)
+            X11Focus(x11->connection(), static_cast<quint32>(window.winId())).demandAttention();
+        else
+            QApplication::alert(&window);
+    });
 }
 
 void WindowActivation::showAndActivate(QWidget &window)

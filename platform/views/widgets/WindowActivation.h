@@ -18,4 +18,8 @@ void setToken(const QByteArray &token);
 /// request of this moment where there is no token.
 void showAndActivate(QWidget &window);
 
+/// Shows a window that the user has not asked for above the others of its level. The keyboard stays where it
+/// is; the window demands attention as the desktop does that, by a flashing entry in a bar for instance.
+void showForAttention(QWidget &window);
+
 } // namespace WindowActivation

@@ -69,13 +69,28 @@ void X11Focus::request(const QByteArray &token) const
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, atom("_NET_WM_USER_TIME"),
         XCB_ATOM_CARDINAL, 32, 1, &*time);
     constexpr quint32 fromApplication = 1;
+    sendToWindowManager("_NET_ACTIVE_WINDOW", fromApplication, *time, 0, 0);
+}
+
+void X11Focus::demandAttention() const
+{
+    constexpr quint32 add = 1;
+    constexpr quint32 fromApplication = 1;
+    sendToWindowManager("_NET_WM_STATE", add, atom("_NET_WM_STATE_DEMANDS_ATTENTION"), 0, fromApplication);
+}
+
+void X11Focus::sendToWindowManager(
+    const char *type, quint32 first, quint32 second, quint32 third, quint32 fourth) const
+{
     xcb_client_message_event_t message = {};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
     message.window = m_window;
-    message.type = atom("_NET_ACTIVE_WINDOW");
-    message.data.data32[0] = fromApplication;
-    message.data.data32[1] = *time;
+    message.type = atom(type);
+    message.data.data32[0] = first;
+    message.data.data32[1] = second;
+    message.data.data32[2] = third;
+    message.data.data32[3] = fourth;
     xcb_send_event(m_connection, 0, rootOf(m_connection),
         XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
         reinterpret_cast<const char *>(&message));

@@ -20,8 +20,12 @@ public:
     void announce(const QByteArray &token) const;
     /// Once it is shown: the focus, at the time in the token, or now.
     void request(const QByteArray &token) const;
+    /// Once it is shown: the user's attention, without the focus.
+    void demandAttention() const;
 
 private:
+    void sendToWindowManager(
+        const char *type, quint32 first, quint32 second, quint32 third, quint32 fourth) const;
     [[nodiscard]] quint32 atom(const char *name) const;
 
     xcb_connection_t *m_connection;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/WidgetDesktop.h"
 
+#include "platform/views/widgets/AnswerGuard.h"
+#include "tests/platform/file_coordination/FakeClock.h"
+#include "tests/platform/views/widgets/OtherProgram.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 
 #include <QFileDialog>
@@ -30,10 +33,43 @@ Dialog *waitForDialog()
     Dialog *dialog = nullptr;
     EXPECT_TRUE(waitUntil([&] {
         dialog = shownDialog<Dialog>();
-        return dialog && dialog->isActiveWindow();
+        return dialog && dialog->windowHandle()->isExposed();
     }));
     return dialog;
 }
+
+/// Has the window manager give the dialog the keyboard, as a click on its title bar does.
+void activate(const QDialog &dialog)
+{
+    EXPECT_TRUE(waitUntil([&] {
+        if (!dialog.isActiveWindow())
+            TestDisplay::xdotool({QStringLiteral("windowactivate"), QString::number(dialog.winId())});
+        return dialog.isActiveWindow();
+    }));
+}
+
+void press(const char *key)
+{
+    TestDisplay::xdotool({QStringLiteral("key"), QString::fromLatin1(key)});
+}
+
+/// Counts the keys that come to the program, before anything else sees them.
+class KeyCounter : public QObject {
+public:
+    explicit KeyCounter(int &keys)
+        : m_keys(keys)
+    {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        m_keys += event->type() == QEvent::KeyPress && watched->isWindowType();
+        return false;
+    }
+
+private:
+    int &m_keys;
+};
 
 class WidgetDesktopTest : public QuillbayTest {
 protected:
@@ -56,7 +92,8 @@ protected:
             [this](const std::optional<QList<QUrl>> &urls) { chosen.push_back(urls); });
     }
 
-    WidgetDesktop desktop;
+    FakeClock clock;
+    WidgetDesktop desktop{clock};
     int endings = 0;
     std::vector<int> pressed;
     std::vector<std::optional<QList<QUrl>>> chosen;
@@ -89,7 +126,8 @@ TEST_F(WidgetDesktopTest, AlertsTellWhichButtonWasPressed)
     const std::vector<std::pair<const char *, int>> keys{{"Return", 0}, {"Escape", 1}, {"Tab", 1}};
     for (const auto &[key, button] : keys) {
         runAlert();
-        waitForDialog<QMessageBox>();
+        clock.advance(AnswerGuard::guardedTime);
+        activate(*waitForDialog<QMessageBox>());
         QStringList presses{QStringLiteral("key"), QString::fromLatin1(key)};
         if (qstrcmp(key, "Tab") == 0)
             presses.append(QStringLiteral("Return"));
@@ -100,6 +138,59 @@ TEST_F(WidgetDesktopTest, AlertsTellWhichButtonWasPressed)
     }
     EXPECT_FALSE(desktop.isAskingUser());
     EXPECT_EQ(endings, 3);
+}
+
+TEST_F(WidgetDesktopTest, AnAlertTakesNoKeyboardAndDemandsAttention)
+{
+    const OtherProgram editor;
+    editor.activate();
+    EXPECT_TRUE(waitUntil([] { return !QGuiApplication::focusWindow(); }));
+    runAlert();
+    const QMessageBox &box = *waitForDialog<QMessageBox>();
+    const auto property = [&](const char *name) {
+        return TestDisplay::outputOf(QStringLiteral("xprop"),
+            {QStringLiteral("-id"), QString::number(box.winId()), QString::fromLatin1(name)});
+    };
+    EXPECT_TRUE(waitUntil([&] {
+        return property("_NET_WM_STATE").contains("_NET_WM_STATE_DEMANDS_ATTENTION");
+    })) << property("_NET_WM_STATE").toStdString();
+    EXPECT_THAT(property("_NET_WM_USER_TIME").toStdString(), testing::HasSubstr("= 0"));
+    EXPECT_FALSE(box.isActiveWindow());
+    EXPECT_FALSE(QGuiApplication::focusWindow());
+}
+
+TEST_F(WidgetDesktopTest, NoKeyAnswersAnAlertInItsFirstSecond)
+{
+    runAlert();
+    QMessageBox &box = *waitForDialog<QMessageBox>();
+    activate(box);
+    int keys = 0;
+    KeyCounter counter(keys);
+    clock.advance(AnswerGuard::guardedTime - std::chrono::milliseconds(1));
+    for (const char *const key : {"Return", "space", "Escape", "Tab", "x"})
+        press(key);
+    EXPECT_TRUE(waitUntil([&] { return keys == 5; }));
+    EXPECT_THAT(pressed, IsEmpty());
+    EXPECT_TRUE(box.isVisible());
+    clock.advance(std::chrono::milliseconds(1));
+    press("Return");
+    EXPECT_TRUE(waitUntil([&] { return !pressed.empty(); }));
+    EXPECT_THAT(pressed, ElementsAre(0)) << "the focus is where it was";
+}
+
+TEST_F(WidgetDesktopTest, AClickAnswersAnAlertAtOnce)
+{
+    runAlert();
+    const QMessageBox &box = *waitForDialog<QMessageBox>();
+    const auto *const button = box.findChildren<QPushButton *>().at(1);
+    EXPECT_TRUE(waitUntil([&] {
+        const QPoint place = button->mapToGlobal(button->rect().center());
+        if (pressed.empty())
+            TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(place.x()),
+                QString::number(place.y()), QStringLiteral("click"), QStringLiteral("1")});
+        return !pressed.empty();
+    }));
+    EXPECT_THAT(pressed, ElementsAre(1));
 }
 
 TEST_F(WidgetDesktopTest, AnAnswerMayAskTheNextQuestion)
@@ -157,6 +248,7 @@ TEST_F(WidgetDesktopTest, TheFileChooserGivesWhatTheUserChooses)
     const QString path = writeFile(QStringLiteral("a text.txt"), "text");
     beginOpenPanel();
     QFileDialog *const chooser = waitForDialog<QFileDialog>();
+    EXPECT_TRUE(waitUntil([&] { return chooser->isActiveWindow(); })) << "the user has asked for it";
     EXPECT_EQ(chooser->fileMode(), QFileDialog::ExistingFile);
     EXPECT_NE(chooser->windowModality(), Qt::ApplicationModal);
     EXPECT_TRUE(desktop.isAskingUser());
@@ -171,7 +263,8 @@ TEST_F(WidgetDesktopTest, TheFileChooserGivesWhatTheUserChooses)
 TEST_F(WidgetDesktopTest, TheFileChooserGivesNothingWhereTheUserCancels)
 {
     beginOpenPanel();
-    waitForDialog<QFileDialog>();
+    const QFileDialog &chooser = *waitForDialog<QFileDialog>();
+    EXPECT_TRUE(waitUntil([&] { return chooser.isActiveWindow(); }));
     TestDisplay::xdotool({QStringLiteral("key"), QStringLiteral("Escape")});
     EXPECT_TRUE(waitUntil([&] { return !chosen.empty(); }));
     EXPECT_THAT(chosen, ElementsAre(std::nullopt));
