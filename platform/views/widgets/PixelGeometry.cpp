@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/PixelGeometry.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 #include <algorithm>
 #include <cmath>
 
@@ -30,6 +33,11 @@ QRect pixelRectInWindow(const QRectF &rect, int windowHeight)
     const int bottom = roundedToPixel(rect.y());
     const int top = roundedToPixel(rect.y() + rect.height());
     return {left, windowHeight - top, right - left, top - bottom};
+}
+
+QRect primaryScreenRect()
+{
+    return QGuiApplication::primaryScreen()->geometry();
 }
 
 QRect pixelRectOnScreen(const QRectF &frame, const QRect &primaryScreen)

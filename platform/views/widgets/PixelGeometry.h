@@ -16,6 +16,9 @@ int roundedToPixel(double points);
 /// own: rectangles that touch still do.
 QRect pixelRectInWindow(const QRectF &rect, int windowHeight);
 
+/// In Qt's coordinates.
+QRect primaryScreenRect();
+
 /// Where a window with that frame lies on the screen: its bottom left corner and its size are rounded.
 /// primaryScreen: its rectangle in Qt's coordinates.
 QRect pixelRectOnScreen(const QRectF &frame, const QRect &primaryScreen);

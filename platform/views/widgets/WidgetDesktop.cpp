@@ -39,11 +39,6 @@ private:
     QPointer<WindowWidget> m_widget; // ends with the application at the latest
 };
 
-QRect primaryScreenRect()
-{
-    return QGuiApplication::primaryScreen()->geometry();
-}
-
 /// The pixel that the point lies in; the frame of a single point.
 QPoint pixelAt(const QPointF &point)
 {

@@ -4,6 +4,7 @@
 #include "platform/views/widgets/LabelTextMeasurer.h"
 #include "platform/views/widgets/PixelGeometry.h"
 #include "platform/views/widgets/PlainText.h"
+#include "platform/views/widgets/PointerState.h"
 #include "platform/views/widgets/WindowActivation.h"
 
 #include <QApplication>
@@ -19,11 +20,13 @@
 #include <QWindow>
 
 #include <chrono>
+#include <utility>
 
 namespace {
 
-// After a change by the program, the display may still report former places and sizes for a while.
+// After the program has placed a window, the display may still report former places and sizes for a while.
 constexpr std::chrono::milliseconds settlingTime{300};
+constexpr std::chrono::milliseconds lookForRelease{50};
 
 constexpr float edgeOpacity = 0.25F;
 
@@ -46,11 +49,6 @@ Qt::WindowFlags flagsOf(const Window &window)
     return flags;
 }
 
-QRect primaryScreenRect()
-{
-    return QGuiApplication::primaryScreen()->geometry();
-}
-
 } // namespace
 
 WindowWidget::WindowWidget(std::shared_ptr<Window> window)
@@ -61,6 +59,8 @@ WindowWidget::WindowWidget(std::shared_ptr<Window> window)
     m_settling.setSingleShot(true);
     m_settling.setInterval(settlingTime);
     connect(&m_settling, &QTimer::timeout, this, &WindowWidget::takeOverGeometry);
+    m_waitingForRelease.setInterval(lookForRelease);
+    connect(&m_waitingForRelease, &QTimer::timeout, this, &WindowWidget::applyFrameOnceReleased);
     const auto performClose = [this] { m_window->performClose(); };
     for (const QKeySequence &key : {QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)})
         connect(new QShortcut(key, this), &QShortcut::activated, m_window.get(), performClose);
@@ -145,7 +145,18 @@ void WindowWidget::applyFrame()
 {
     if (m_takingOver)
         return;
+    const bool isPlaced = m_window->frame().topLeft() != m_knownOrigin;
+    if (!isPlaced && isVisible() && PointerState::isPressed()) {
+        // The window manager may be moving the window. A new size in the middle of that would set it back to
+        // where the drag began, or move its lower edge.
+        m_wasReleased = false;
+        m_waitingForRelease.start();
+        return;
+    }
+    m_waitingForRelease.stop();
+    m_knownOrigin = m_window->frame().topLeft();
     const QRect pixels = pixelRectOnScreen(m_window->frame(), primaryScreenRect());
+    m_ownPlaces += {geometry().topLeft(), pixels.topLeft()};
     m_settling.start();
     // Place and size change in one step, so that the window does not jump; only then the size is fixed again.
     setMinimumSize(size().boundedTo(pixels.size()));
@@ -154,12 +165,36 @@ void WindowWidget::applyFrame()
     applySizeLimits();
 }
 
+/// The drag has ended when no button is down and the window manager has let go of the pointer; the place that
+/// it reports last is known one look later.
+void WindowWidget::applyFrameOnceReleased()
+{
+    const bool isReleased =
+        !PointerState::isPressed() && !PointerState::isGrabbed(static_cast<quint32>(winId()));
+    if (!std::exchange(m_wasReleased, isReleased) || !isReleased)
+        return;
+    m_waitingForRelease.stop();
+    takeOverGeometry();
+    applyFrame();
+}
+
 void WindowWidget::takeOverGeometry()
 {
-    if (m_settling.isActive() || !isVisible() || isMinimized())
+    if (!isVisible() || isMinimized() || !windowHandle())
+        return;
+    // While the display may still report the places that the program gave the window, any other place is one
+    // to which the user has moved it.
+    if (!m_settling.isActive())
+        m_ownPlaces.clear();
+    else if (m_ownPlaces.contains(windowHandle()->geometry().topLeft()))
         return;
     const QScopedValueRollback guard(m_takingOver, true);
-    m_window->setFrame(frameOnScreen(geometry(), primaryScreenRect(), m_window->frame()), false, false);
+    // Place and size reach the widget one after the other, its native window at once.
+    QRectF frame = frameOnScreen(windowHandle()->geometry(), primaryScreenRect(), m_window->frame());
+    if (!(m_window->styleMask() & Window::resizable))
+        frame.setSize(m_window->frame().size());
+    m_knownOrigin = frame.topLeft();
+    m_window->setFrame(frame, false, false);
 }
 
 void WindowWidget::takeOverScreen()

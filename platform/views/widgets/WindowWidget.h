@@ -56,6 +56,7 @@ private:
     void bindContent();
     void applyStyle();
     void applyFrame();
+    void applyFrameOnceReleased();
     void applySizeLimits();
     void takeOverGeometry();
     void takeOverScreen();
@@ -67,6 +68,10 @@ private:
     std::unique_ptr<ViewBinding> m_content;
     QShortcut *m_copyShortcut;
     QTimer m_settling;
+    QList<QPoint> m_ownPlaces; // in pixels; where the program has had the window since it began to settle
+    QTimer m_waitingForRelease; // while the window may be in the user's hand
+    bool m_wasReleased = false; // at the last look
+    QPointF m_knownOrigin; // of the frame, as the display was told or has told
     bool m_takingOver = false;
     std::optional<QPoint> m_pressedAt;
     QMetaObject::Connection m_primaryScreen;

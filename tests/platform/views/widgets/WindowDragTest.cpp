@@ -3,6 +3,8 @@
 #include "platform/views/Label.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 
+#include <QCursor>
+
 namespace {
 
 /// Presses the first button at the pointer and draws the window by 120 points to the right and 40 up, as far
@@ -61,4 +63,54 @@ TEST(WindowDrag, AButtonIsNoBackground)
     drag(shown, 60, 60);
     shown.window().setFrame({100, 200, 301, 150}, false, false);
     EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(100, 200, 301, 150); }));
+}
+
+TEST(WindowDrag, AWindowThatTheUserMovesRightAfterAChangeKeepsItsPlaceAtTheNext)
+{
+    ShownWindow shown({100, 200, 300, 150});
+    shown.show();
+    const auto resize = [&](double height) {
+        shown.window().setFrame({shown.window().frame().topLeft(), QSizeF(300, height)}, true, false);
+    };
+    EXPECT_TRUE(waitUntil([&] {
+        resize(170);
+        TestDisplay::xdotool(
+            {QStringLiteral("windowmove"), shown.identifier(), QStringLiteral("500"), QStringLiteral("50")});
+        return waitUntil([&] { return shown.widget().windowHandle()->x() == 500; });
+    }));
+    resize(180);
+    EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay().height() == 180; }));
+    EXPECT_EQ(shown.frameOnDisplay(), QRectF(500, 800 - 50 - 170, 300, 180)) << shown.describe();
+    EXPECT_EQ(shown.window().frame(), QRectF(500, 800 - 50 - 170, 300, 180));
+}
+
+TEST(WindowDrag, AWindowThatChangesInTheMiddleOfADragEndsWhereTheUserDropsIt)
+{
+    for (const double height : {400.0, 60.0}) {
+        ShownWindow shown({100, 200, 300, 150});
+        shown.window().setMovableByBackground(true);
+        shown.show();
+        TestDisplay::xdotool(
+            shown.pointerTo(20, 20) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
+        const auto draw = [&] {
+            const double before = shown.frameOnDisplay().x(); // a program may not hear of it until the end
+            EXPECT_TRUE(waitUntil([&] {
+                TestDisplay::xdotool({QStringLiteral("mousemove_relative"), QStringLiteral("--"),
+                    QStringLiteral("10"), QStringLiteral("-4")});
+                return shown.frameOnDisplay().x() > before + 80;
+            }));
+        };
+        draw();
+        shown.window().setFrame({shown.window().frame().topLeft(), QSizeF(300, height)}, true, false);
+        draw();
+        TestDisplay::xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
+        EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay().height() == height; }));
+        EXPECT_TRUE(waitUntil([&] { return shown.window().frame() == shown.frameOnDisplay(); }))
+            << shown.describe();
+        // The pointer is where it was in the window, but for the way that makes a press a drag.
+        const QPoint pointer = QCursor::pos();
+        const QRectF frame = shown.window().frame();
+        EXPECT_NEAR(pointer.x() - frame.x(), 20, 40) << height;
+        EXPECT_NEAR(800 - pointer.y() - frame.y(), 20, 40) << height;
+    }
 }
