@@ -66,14 +66,20 @@ void X11Focus::request(const QByteArray &token) const
         time = timeOfDisplay();
     if (!time)
         return;
-    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, atom("_NET_WM_USER_TIME"),
-        XCB_ATOM_CARDINAL, 32, 1, &*time);
+    setUserTime(*time);
     constexpr quint32 fromApplication = 1;
     sendToWindowManager("_NET_ACTIVE_WINDOW", fromApplication, *time, 0, 0);
 }
 
+void X11Focus::setUserTime(quint32 time) const
+{
+    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, atom("_NET_WM_USER_TIME"),
+        XCB_ATOM_CARDINAL, 32, 1, &time);
+}
+
 void X11Focus::demandAttention() const
 {
+    setUserTime(0); // Qt has set it to the present when it mapped a modal window
     constexpr quint32 add = 1;
     constexpr quint32 fromApplication = 1;
     sendToWindowManager("_NET_WM_STATE", add, atom("_NET_WM_STATE_DEMANDS_ATTENTION"), 0, fromApplication);

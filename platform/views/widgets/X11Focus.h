@@ -24,6 +24,7 @@ public:
     void demandAttention() const;
 
 private:
+    void setUserTime(quint32 time) const;
     void sendToWindowManager(
         const char *type, quint32 first, quint32 second, quint32 third, quint32 fourth) const;
     [[nodiscard]] quint32 atom(const char *name) const;
