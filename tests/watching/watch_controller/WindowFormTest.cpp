@@ -131,6 +131,7 @@ TEST_F(WindowFormTest, StopDuringACountEndsTheWatcherToo)
     const QString client = m_service->requests().front().client;
     watcher.watchTextFileViewControllerForPopover()->stopButton()->performClick();
     EXPECT_THAT(m_registry.watchers, IsEmpty());
+    m_service->release();
     EXPECT_TRUE(waitUntil([&] { return !m_service->isOnTheBus(client); }));
 }
 
