@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr char helpText[] = R"(Usage: quillbay selection [--clipboard]
+constexpr char selectionHelp[] = R"(Usage: quillbay selection [--clipboard]
 
 Opens a small window with the counts of the text that is selected in whatever
 application. Made for a shortcut of the keyboard: what goes wrong is told in a
@@ -44,7 +44,7 @@ int runSelectionCommand(int wordCount, char **words)
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printed(helpText);
+        return printed(selectionHelp);
     if (!wanted->operands.isEmpty())
         return tellWrongUsage("selection", "it takes no file; 'quillbay text FILE' does");
     return openWindow(

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr char helpText[] = R"(Usage: quillbay text [FILE]
+constexpr char textHelp[] = R"(Usage: quillbay text [FILE]
 
 Opens a small window with the counts of FILE, or of standard input where FILE is
 - or not named. Reads what 'quillbay count' reads: plain text of any encoding,
@@ -52,7 +52,7 @@ int runTextCommand(int wordCount, char **words)
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printed(helpText);
+        return printed(textHelp);
     if (wanted->operands.size() > 1)
         return tellWrongUsage("text", "one file at a time");
     const QByteArray name = wanted->operands.isEmpty() ? standardInputName : wanted->operands.first();

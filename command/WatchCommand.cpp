@@ -18,7 +18,7 @@ namespace {
 
 constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
 
-constexpr char helpText[] = R"(Usage: quillbay watch FILE…
+constexpr char watchHelp[] = R"(Usage: quillbay watch FILE…
        quillbay watch --clipboard
 
 Opens a small window for each FILE, whose counts follow every save, or brings
@@ -93,7 +93,7 @@ int runWatchCommand(int wordCount, char **words)
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printed(helpText);
+        return printed(watchHelp);
     const bool fromClipboard = wanted->switches.contains("clipboard");
     if (wanted->operands.isEmpty() != fromClipboard)
         return tellWrongUsage(

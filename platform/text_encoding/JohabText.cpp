@@ -46,7 +46,7 @@ char16_t loneLetter(int initial, int vowel, int final)
     return 0;
 }
 
-char16_t syllable(int code)
+char16_t syllableOfCode(int code)
 {
     const int initial = code >> 10 & 31;
     const int vowel = code >> 5 & 31;
@@ -86,7 +86,8 @@ QString textOfJohab(QByteArrayView bytes)
             continue;
         }
         const auto second = at + 1 < bytes.size() ? static_cast<uchar>(bytes[at + 1]) : uchar{0};
-        char16_t unit = first <= 0xD3 ? syllable(first << 8 | second) : signOrHanja(first, second, eucKr);
+        char16_t unit =
+            first <= 0xD3 ? syllableOfCode(first << 8 | second) : signOrHanja(first, second, eucKr);
         if (unit == 0)
             unit = QChar::ReplacementCharacter;
         else

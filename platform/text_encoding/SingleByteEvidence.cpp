@@ -33,7 +33,7 @@ constexpr double digitAfterLetter = -1.5;
 constexpr double markWithoutLetter = -4;
 constexpr double wordOfLanguage = 1; ///< one of its frequent words is in the text
 constexpr int mostWords = 5;
-constexpr double asciiLetter = -0.1; ///< that one stands among letters of another script
+constexpr double asciiLetterAmongForeign = -0.1; ///< that one stands among letters of another script
 
 enum class Kind { Space, Digit, Sign, Opening, Closing, Dash, Lower, Capital, Letter, Mark, Undefined };
 
@@ -309,8 +309,8 @@ std::vector<EncodingEvidence> singleByteEvidence(QByteArrayView sample)
         const bool isLatin = family.script == QChar::Script_Latin;
         for (const Alphabet &alphabet : family.alphabets) {
             const LetterLikelihood letter(alphabet, family.script);
-            const double ofAscii =
-                isLatin ? likelihoodOfWords(words, alphabet) : census.smallAsciiLetters * asciiLetter;
+            const double ofAscii = isLatin ? likelihoodOfWords(words, alphabet)
+                                           : census.smallAsciiLetters * asciiLetterAmongForeign;
             for (size_t i = 0; i < family.encodings.size(); ++i) {
                 const EncodingFamily::Member &member = family.encodings[i];
                 const double ofBytes = likelihoodOfBytes(census, codePageOf(member.encoding), letter);
