@@ -6,7 +6,7 @@
 namespace {
 
 constexpr QStringView lineEnd(u"\r\n");
-constexpr size_t mostObjects = 1'000; // of a page: each is looked at for each of its lines
+constexpr size_t maxObjects = 1'000; // of a page: each is looked at for each of its lines
 
 // In heights of a raised digit.
 constexpr double widestOverlap = 0.4;
@@ -64,7 +64,7 @@ LineEnds lineEndsAtDigits(const QString &text)
 std::vector<RaisedDigits::Raised> RaisedDigits::raisedObjects(const QList<QPolygonF> &bounds)
 {
     std::vector<Raised> result;
-    for (qsizetype i = 1; i < bounds.size() && result.size() < mostObjects; ++i) {
+    for (qsizetype i = 1; i < bounds.size() && result.size() < maxObjects; ++i) {
         const QRectF before = bounds[i - 1].boundingRect();
         const QRectF place = bounds[i].boundingRect();
         const double height = place.height();

@@ -11,8 +11,8 @@ namespace {
 constexpr rlim_t descriptorsPerRequest = 3;
 /// For all else - the bus, the workers, the print server, the libraries - where there are few, and where
 /// there are many: then also for what a message brings that is no request.
-constexpr rlim_t fewestOthers = 40;
-constexpr rlim_t mostOthers = 256;
+constexpr rlim_t minOthers = 40;
+constexpr rlim_t maxOthers = 256;
 constexpr rlim_t maxDescriptors = 1'000'000;
 constexpr long maxBytesOfMessages = 1L << 30;
 
@@ -30,7 +30,7 @@ rlim_t raisedDescriptorLimit()
 std::size_t roomForRequests(rlim_t descriptorLimit)
 {
     const rlim_t descriptors = std::min(descriptorLimit, maxDescriptors);
-    const rlim_t others = std::clamp(descriptors / 2, fewestOthers, mostOthers);
+    const rlim_t others = std::clamp(descriptors / 2, minOthers, maxOthers);
     const rlim_t room = descriptors > others ? (descriptors - others) / descriptorsPerRequest : 0;
     return std::max<rlim_t>(room, 1);
 }

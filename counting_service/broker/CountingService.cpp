@@ -43,7 +43,7 @@ Result<SealedMemory, CountFailure> documentOf(const ReceivedRequest &request)
 
 void logMissingName(const QString &cause)
 {
-    countingServiceLog().error(u"The name {} is not to be had: {}",
+    countingServiceLog().error(u"The bus name {} cannot be acquired: {}",
         {publicly(ServiceObject::serviceName()),
             publicly(cause.isEmpty() ? QStringLiteral("another process has it") : cause)});
 }

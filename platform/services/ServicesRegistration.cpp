@@ -38,7 +38,7 @@ bool ServicesRegistration::start()
         && bus.registerService(ServiceInterface::busName());
     if (!isOnBus) {
         const QString cause = bus.lastError().message();
-        LogChannel::standard().error(u"The name {} is not to be had: {}",
+        LogChannel::standard().error(u"The bus name {} cannot be acquired: {}",
             {publicly(ServiceInterface::busName()),
                 publicly(cause.isEmpty() ? QStringLiteral("another process has it") : cause)});
     }

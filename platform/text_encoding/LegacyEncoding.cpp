@@ -16,7 +16,7 @@ namespace {
 
 // Natural logarithms, as the evidence is.
 constexpr double bonusOfGuess = 0.5; ///< for each byte above 127, of which six are enough for any trust
-constexpr qsizetype mostBonuses = 6;
+constexpr qsizetype maxBonuses = 6;
 constexpr double bonusOfLocale = 2;
 
 bool isNamed(const EncodingEvidence &evidence, const char *encoding)
@@ -34,7 +34,7 @@ const char *likeliestLegacyEncoding(QByteArrayView bytes, qsizetype above127)
         evidence.push_back(each);
 
     const char *const guess = statisticalGuess(sample);
-    const qsizetype trust = std::min<qsizetype>(std::ranges::count_if(sample, isAbove127), mostBonuses);
+    const qsizetype trust = std::min<qsizetype>(std::ranges::count_if(sample, isAbove127), maxBonuses);
     const std::string locale = currentLocaleIdentifier().toStdString();
     const std::string_view language = std::string_view(locale).substr(0, locale.find('_'));
     for (EncodingEvidence &each : evidence) {

@@ -32,7 +32,7 @@ constexpr double signInWord = -3;
 constexpr double digitAfterLetter = -1.5;
 constexpr double markWithoutLetter = -4;
 constexpr double wordOfLanguage = 1; ///< one of its frequent words is in the text
-constexpr int mostWords = 5;
+constexpr int maxWords = 5;
 constexpr double asciiLetterAmongForeign = -0.1; ///< that one stands among letters of another script
 
 enum class Kind { Space, Digit, Sign, Opening, Closing, Dash, Lower, Capital, Letter, Mark, Undefined };
@@ -153,7 +153,7 @@ double likelihoodOfWords(const QSet<QByteArray> &words, const Alphabet &alphabet
         QByteArray::fromRawData(alphabet.words.data(), static_cast<qsizetype>(alphabet.words.size()))
             .split(' '))
         known += words.contains(word);
-    return wordOfLanguage * std::min(known, mostWords);
+    return wordOfLanguage * std::min(known, maxWords);
 }
 
 /// How often each byte above 127 stands in a sample, and each pair with one of them.

@@ -79,7 +79,7 @@ protected:
             QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST")})
             .contains(window.toLatin1());
     }
-    /// Presses the key until the alert is gone: it takes none in its first second.
+    /// Presses the key until the alert is closed: it takes none in its first second.
     static void answer(const QString &alert, const char *key)
     {
         activate(alert);
