@@ -216,11 +216,14 @@ TEST_F(AbandonedCountTest, ThePanelAndWhatItsCompletionHoldsEndTheirLivesOnTheMa
 TEST_F(AbandonedCountTest, WithoutABusThePanelStaysBusyAndTheLogHasOneLine)
 {
     CountingPanel panel;
+    const long owners = panel.controller.use_count();
     count(panel);
     EXPECT_TRUE(waitUntil([this] { return !m_log.messages().isEmpty(); }));
     EXPECT_TRUE(panel.controller->isAsyncCountOperationInProgress());
     EXPECT_THAT(m_log.messages(LogLevel::Error), SizeIs(1));
     EXPECT_EQ(completions(), 0U);
+    // Until it is sent, the request owns the panel; before that it would go over the next connection.
+    EXPECT_TRUE(waitUntil([&] { return panel.controller.use_count() == owners; }));
     panel.controller->stopAsyncOperation();
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     count(panel);
