@@ -189,10 +189,11 @@ TEST_F(WidgetDesktopTest, AClickAnswersAnAlertAtOnce)
     const QMessageBox &box = *waitForDialog<QMessageBox>();
     const auto *const button = box.findChildren<QPushButton *>().at(1);
     EXPECT_TRUE(waitUntil([&] {
+        if (!pressed.empty())
+            return true; // the button is no more
         const QPoint place = button->mapToGlobal(button->rect().center());
-        if (pressed.empty())
-            TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(place.x()),
-                QString::number(place.y()), QStringLiteral("click"), QStringLiteral("1")});
+        TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(place.x()),
+            QString::number(place.y()), QStringLiteral("click"), QStringLiteral("1")});
         return !pressed.empty();
     }));
     EXPECT_THAT(pressed, ElementsAre(1));
