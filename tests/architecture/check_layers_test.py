@@ -48,7 +48,7 @@ class CheckLayers(unittest.TestCase):
 
     def test_allowed_includes_pass(self):
         self.assert_fine({
-            "low/a.h": "#include <sqlite3.h>\n#include <vector>\n",
+            "low/a.h": "#include <sqlite3.h>\n#include <other/x.h>\n#include <vector>\n",
             "low/deeper/b.h": '#include "low/a.h"\n',
             "high/c.cpp": '#include "high/c.h"\n#include "low/deeper/b.h"\n',
             "tests/d.cpp": '#include "high/c.h"\n#include <sqlite3.h>\n',
@@ -68,6 +68,26 @@ class CheckLayers(unittest.TestCase):
 
     def test_an_include_that_is_not_named_from_the_root_is_found(self):
         self.assert_found({"low/a.h": '#include "b.h"\n'}, '"b.h" is not named from the root')
+
+    def test_an_edge_that_nothing_uses_is_found(self):
+        self.assert_found({"high/c.cpp": "", "low/a.h": ""}, "high may include low, and nothing does")
+
+    def test_a_foreign_header_that_nothing_uses_is_found(self):
+        self.assert_found({"low/a.h": ""}, "nothing in low includes <sqlite3.h")
+
+    def test_a_link_that_no_include_uses_is_found(self):
+        self.assert_found({
+            "low/CMakeLists.txt": "quillbay_library(low_things SOURCES a.cpp)\n",
+            "high/CMakeLists.txt": "quillbay_library(high_things SOURCES c.cpp\n    LINKS low_things Qt6::Core)\n",
+            "high/c.cpp": "",
+        }, "high links low and includes nothing of it")
+
+    def test_an_include_that_is_not_linked_is_found(self):
+        self.assert_found({
+            "low/CMakeLists.txt": "quillbay_library(low_things SOURCES a.cpp)\n",
+            "high/CMakeLists.txt": "quillbay_library(high_things SOURCES c.cpp LINKS Qt6::Core)\n",
+            "high/c.cpp": '#include "low/a.h"\n',
+        }, "high includes low and does not link it")
 
     def test_a_tree_without_code_is_no_success(self):
         self.assert_found({}, "no source file was found")
