@@ -49,7 +49,9 @@ TEST_F(FileNamesOnScreen, AFileWhoseNameIsNotUtf8IsWatchedFromTheClipboard)
         productProgram(QStringLiteral("quillbay")), {QStringLiteral("watch"), QStringLiteral("--clipboard")});
     EXPECT_TRUE(waitUntil([&] { return command.state() == QProcess::NotRunning; }));
     EXPECT_EQ(command.exitCode(), 0) << command.readAllStandardError().toStdString();
-    waitForWindowsOf(1, QStringLiteral("caf\uFFFD.txt"));
+    // The tool that finds windows knows the character only in a locale of UTF-8.
+    const QString window = waitForWindowsOf(1, QStringLiteral("caf")).value(0);
+    EXPECT_TRUE(titleOf(window).startsWith(QStringLiteral("caf\uFFFD.txt"))) << titleOf(window).toStdString();
 }
 
 TEST_F(FileNamesOnScreen, SignsOfUrlsAndOptionsAreNamesToo)
