@@ -88,7 +88,7 @@ bool CountingService::start()
 // answer is not read until some of them are done.
 void CountingService::askForName()
 {
-    constexpr uint doNotQueue = 4; // of the D-Bus specification, as the next one
+    constexpr uint doNotQueue = 4; // a flag and an answer of the bus, as D-Bus numbers them
     constexpr uint isPrimaryOwner = 1;
     whenAnswered(callOfBus(QStringLiteral("RequestName"), {ServiceObject::serviceName(), doNotQueue}),
         [this](const QDBusMessage &answer) {
@@ -184,7 +184,7 @@ void CountingService::quit()
 
 void CountingService::leaveAtOnce()
 {
-    countingServiceLog().notice(u"The session bus is gone");
+    countingServiceLog().notice(u"The session bus was lost");
     m_isLeaving = true;
     m_idleTimer.stop();
     QCoreApplication::exit(0);

@@ -29,7 +29,7 @@ bool ProviderApplication::offer(ServicesProvider &provider)
     if (!m_registration) {
         // Not quit(): that asks every window to close, and the first that does not keeps the program alive.
         const auto busIsLost = [] {
-            LogChannel::standard().notice(u"The session bus is gone");
+            LogChannel::standard().notice(u"The session bus was lost");
             QCoreApplication::exit(0);
         };
         m_registration = std::make_unique<ServicesRegistration>(

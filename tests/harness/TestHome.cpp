@@ -96,7 +96,7 @@ void TestHome::setEnvironment() const
 
 QString TestHome::busAddress(const QString &path)
 {
-    // The D-Bus specification, "Server Addresses": most signs stand as codes.
+    // A D-Bus address holds most characters percent-encoded.
     return QStringLiteral("unix:path=")
         + QString::fromLatin1(QFile::encodeName(path).toPercentEncoding("/", "~"));
 }

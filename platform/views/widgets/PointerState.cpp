@@ -1,34 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/PointerState.h"
 
-#include <QGuiApplication>
-
-#include <xcb/xcb.h>
-
-#include <cstdlib>
-#include <memory>
-
-namespace {
-
-template <typename Reply>
-using Received = std::unique_ptr<Reply, decltype([](Reply *reply) { std::free(reply); })>;
-
-/// Null elsewhere than on X11.
-xcb_connection_t *display()
-{
-    const auto *const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
-}
-
-} // namespace
+#include "platform/views/widgets/X11Display.h"
 
 bool PointerState::isPressed()
 {
-    xcb_connection_t *const connection = display();
+    xcb_connection_t *const connection = X11Display::connection();
     if (!connection)
         return false;
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-    const Received<xcb_query_pointer_reply_t> reply(
+    const xcb_window_t root = X11Display::root(connection);
+    const X11Reply<xcb_query_pointer_reply_t> reply(
         xcb_query_pointer_reply(connection, xcb_query_pointer(connection, root), nullptr));
     constexpr int buttons = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
     return reply && (reply->mask & buttons) != 0;
@@ -36,10 +17,10 @@ bool PointerState::isPressed()
 
 bool PointerState::isGrabbed(quint32 window)
 {
-    xcb_connection_t *const connection = display();
+    xcb_connection_t *const connection = X11Display::connection();
     if (!connection)
         return false;
-    const Received<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(connection,
+    const X11Reply<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(connection,
         xcb_grab_pointer(connection, 1, window, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE,
             XCB_NONE, XCB_CURRENT_TIME),
         nullptr));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/WindowActivation.h"
 
+#include "platform/views/widgets/X11Display.h"
 #include "platform/views/widgets/X11Focus.h"
 
 #include <QApplication>
@@ -41,9 +42,8 @@ void WindowActivation::showForAttention(QWidget &window)
     window.raise();
     QTimer::singleShot(untilManaged, native, [native, &window] {
         native->setFlag(Qt::WindowDoesNotAcceptFocus, false);
-        const auto *const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-        if (x11)
-            X11Focus(x11->connection(), static_cast<quint32>(window.winId())).demandAttention();
+        if (xcb_connection_t *const connection = X11Display::connection())
+            X11Focus(connection, static_cast<quint32>(window.winId())).demandAttention();
         else
             QApplication::alert(&window);
     });
@@ -52,9 +52,8 @@ void WindowActivation::showForAttention(QWidget &window)
 void WindowActivation::showAndActivate(QWidget &window)
 {
     const QByteArray token = std::exchange(nextToken(), {});
-    const auto *const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11) {
-        const X11Focus focus(x11->connection(), static_cast<quint32>(window.winId()));
+    if (xcb_connection_t *const connection = X11Display::connection()) {
+        const X11Focus focus(connection, static_cast<quint32>(window.winId()));
         focus.announce(token);
         window.show();
         window.raise();

@@ -1,22 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/X11Focus.h"
 
-#include <xcb/xcb.h>
+#include "platform/views/widgets/X11Display.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <optional>
 
 namespace {
-
-template <typename Reply>
-using Received = std::unique_ptr<Reply, decltype([](Reply *reply) { std::free(reply); })>;
-
-xcb_window_t rootOf(xcb_connection_t *connection)
-{
-    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-}
 
 /// A startup notification's identifier ends in "_TIME" and the time of the user's action.
 std::optional<quint32> timeIn(const QByteArray &token)
@@ -37,12 +28,12 @@ std::optional<quint32> timeOfDisplay()
         return std::nullopt;
     const xcb_window_t window = xcb_generate_id(connection.get());
     constexpr quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_create_window(connection.get(), 0, window, rootOf(connection.get()), 0, 0, 1, 1, 0,
+    xcb_create_window(connection.get(), 0, window, X11Display::root(connection.get()), 0, 0, 1, 1, 0,
         XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
     xcb_change_property(
         connection.get(), XCB_PROP_MODE_APPEND, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, nullptr);
     xcb_flush(connection.get());
-    while (const Received<xcb_generic_event_t> event{xcb_wait_for_event(connection.get())}) {
+    while (const X11Reply<xcb_generic_event_t> event{xcb_wait_for_event(connection.get())}) {
         if ((event->response_type & 0x7F) == XCB_PROPERTY_NOTIFY)
             return reinterpret_cast<const xcb_property_notify_event_t *>(event.get())->time;
     }
@@ -97,7 +88,7 @@ void X11Focus::sendToWindowManager(
     message.data.data32[1] = second;
     message.data.data32[2] = third;
     message.data.data32[3] = fourth;
-    xcb_send_event(m_connection, 0, rootOf(m_connection),
+    xcb_send_event(m_connection, 0, X11Display::root(m_connection),
         XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
         reinterpret_cast<const char *>(&message));
     xcb_flush(m_connection);
@@ -107,6 +98,6 @@ quint32 X11Focus::atom(const char *name) const
 {
     const xcb_intern_atom_cookie_t cookie =
         xcb_intern_atom(m_connection, 0, static_cast<quint16>(std::strlen(name)), name);
-    const Received<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr));
+    const X11Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr));
     return reply ? reply->atom : static_cast<quint32>(XCB_ATOM_NONE);
 }
