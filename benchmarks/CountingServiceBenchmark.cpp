@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The real counting service on a private bus: how long its first answer takes and every later one, what
 // memory it holds, and what becomes of requests while broker and workers are killed at random.
-#include "platform/connection/SealedMemory.h"
-#include "platform/styled_text/rtfd/RtfdWriter.h"
+#include "documents/rtfd/RtfdWriter.h"
+#include "platform/system/SealedMemory.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -30,7 +30,7 @@
 namespace {
 
 const QString serviceName = QStringLiteral("Brisklane.QBYServiceProviderXPC");
-constexpr int patience = 3'600'000; // milliseconds
+constexpr int timeout = 3'600'000; // milliseconds
 
 QByteArray contentsOf(const QString &path)
 {
@@ -78,7 +78,7 @@ public:
                 QStringLiteral("countWordsForAttributedStringRTFDData"));
         message.setArguments({QVariant::fromValue(QDBusUnixFileDescriptor(document.descriptor())),
             static_cast<quint64>(document.size()), false, QVariantMap()});
-        return m_connection.asyncCall(message, patience);
+        return m_connection.asyncCall(message, timeout);
     }
 
     /// The answer; empty for an error.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Reading generated Word documents whose main part is so many bytes long: bytes a second of that part, and
 // the greatest resident size of the process while it reads.
-#include "platform/styled_text/docx/DocxReader.h"
-#include "tests/platform/styled_text/docx/PackageWriter.h"
+#include "documents/docx/DocxReader.h"
+#include "tests/documents/docx/PackageWriter.h"
 
 #include <benchmark/benchmark.h>
 

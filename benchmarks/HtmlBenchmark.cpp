@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Time to read a web page by its kind and size: bytes a second must not fall as pages of one kind grow.
-#include "platform/styled_text/html/HtmlReader.h"
+#include "documents/html/HtmlReader.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Reading RTF by kind of document: bytes a second must not fall as documents of one kind grow.
-#include "platform/styled_text/rtf/RtfReader.h"
+#include "documents/rtf/RtfReader.h"
 
 #include <benchmark/benchmark.h>
 

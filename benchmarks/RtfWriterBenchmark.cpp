@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RTF and flat RTFD of texts of 20 million code units, written and read: bytes of RTF a second.
-#include "platform/styled_text/rtfd/RtfdReader.h"
-#include "platform/styled_text/rtfd/RtfdWriter.h"
+#include "documents/rtfd/RtfdReader.h"
+#include "documents/rtfd/RtfdWriter.h"
 
 #include <benchmark/benchmark.h>
 

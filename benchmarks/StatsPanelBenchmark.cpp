@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How long the statistics panel takes to place its eight labels, in views without a screen.
-#include "presentation/stats_panel/BaseWordCounterViewController.h"
+#include "presentation/BaseWordCounterViewController.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

@@ -6,7 +6,7 @@
 //     export XDG_DATA_DIRS=build/release/share:/usr/share
 //     xvfb-run dbus-run-session -- build/release/bin/watcher_benchmark [SAVES [SECONDS]]
 #include "platform/views/widgets/WidgetDesktop.h"
-#include "watching/watch_controller/WatchTextFileMenuBarController.h"
+#include "watching/windows/WatchTextFileMenuBarController.h"
 
 #include <QApplication>
 #include <QDBusConnection>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The watched document with the real clock: how long after the end of a save its text is told, and how much
 // processor time a poll takes that finds what the last one found.
+#include "documents/loading/DocumentLoader.h"
 #include "platform/file_coordination/ChangePolicy.h"
-#include "platform/styled_text/loading/DocumentLoader.h"
 #include "watching/WatchTextFileModel.h"
 
 #include <QCoreApplication>

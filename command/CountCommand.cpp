@@ -4,8 +4,8 @@
 #include "command/FileNames.h"
 #include "command/NamedDocument.h"
 #include "command/RulesExplanation.h"
+#include "documents/loading/DocumentKind.h"
 #include "platform/files/FileContents.h"
-#include "platform/styled_text/loading/DocumentKind.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/MeasuringSurface.h"
 

@@ -8,7 +8,7 @@
 #include "command/CountReport.h"
 #include "command/ProgressLine.h"
 #include "command/ServiceCounter.h"
-#include "platform/base/Result.h"
+#include "platform/system/Result.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <QByteArrayList>

@@ -2,7 +2,7 @@
 #include "command/NamedDocument.h"
 
 #include "command/FileNames.h"
-#include "platform/styled_text/loading/PdfLoader.h"
+#include "documents/loading/PdfLoader.h"
 
 #include <unistd.h>
 

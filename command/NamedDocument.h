@@ -2,7 +2,7 @@
 // The documents that the words of a command name: files, and standard input as "-". Thread: any.
 #pragma once
 
-#include "platform/styled_text/loading/DocumentLoader.h"
+#include "documents/loading/DocumentLoader.h"
 
 #include <QByteArray>
 

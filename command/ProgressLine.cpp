@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto patience = 1s;
+constexpr auto timeout = 1s;
 constexpr auto interval = 200ms;
 
 void writeToStandardError(const QByteArray &text)
@@ -81,7 +81,7 @@ void ProgressLine::drawUntilStopped()
 {
     std::unique_lock lock(m_mutex);
     const auto isStopped = [this] { return m_isStopped; };
-    if (m_stop.wait_for(lock, patience, isStopped))
+    if (m_stop.wait_for(lock, timeout, isStopped))
         return;
     do {
         draw();

@@ -3,7 +3,7 @@
 
 #include "command/CommandWords.h"
 #include "command/ServiceCommand.h"
-#include "platform/selection/Selection.h"
+#include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
 
 namespace {

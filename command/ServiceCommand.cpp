@@ -4,7 +4,7 @@
 #include "command/FileNames.h"
 #include "platform/services/ServiceInterface.h"
 #include "platform/services/ServiceRequestSender.h"
-#include "platform/user_notifications/UserNotification.h"
+#include "platform/session_bus/UserNotification.h"
 #include "preferences/QBYUserDefaultsController.h"
 
 #include <cstdio>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/ServiceCounter.h"
 
-#include "platform/styled_text/rtfd/RtfdWriter.h"
+#include "documents/rtfd/RtfdWriter.h"
 
 #include <future>
 #include <memory>

@@ -3,10 +3,10 @@
 // the answers. Thread: one, not that of the connections.  Owner: the count command.
 #pragma once
 
-#include "platform/base/Result.h"
-#include "platform/connection/ServiceConnection.h"
+#include "platform/session_bus/ServiceConnection.h"
 #include "platform/styled_text/AttributedString.h"
-#include "presentation/word_counter/WordCounterServiceProtocol.h"
+#include "platform/system/Result.h"
+#include "presentation/WordCounterServiceProtocol.h"
 #include "text_statistics/QBYWordCounterStats.h"
 
 #include <QByteArrayView>

@@ -4,7 +4,7 @@
 #include "command/CommandWords.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
-#include "platform/styled_text/rtfd/RtfdWriter.h"
+#include "documents/rtfd/RtfdWriter.h"
 
 #include <new>
 

@@ -4,9 +4,9 @@
 #include "command/CommandWords.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
-#include "platform/base/FileURL.h"
-#include "platform/selection/Selection.h"
+#include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
+#include "platform/system/FileURL.h"
 
 #include <cerrno>
 #include <cstring>

@@ -7,7 +7,7 @@
 #include "command/SelectionCommand.h"
 #include "command/TextCommand.h"
 #include "command/WatchCommand.h"
-#include "platform/processes/PrivateMemory.h"
+#include "platform/system/PrivateMemory.h"
 
 #include <QCoreApplication>
 

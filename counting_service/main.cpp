@@ -3,9 +3,9 @@
 #include "counting_service/broker/CountingService.h"
 #include "counting_service/broker/TerminationSignals.h"
 #include "counting_service/worker/CountingWorker.h"
-#include "platform/fonts/FontSources.h"
-#include "platform/processes/PrivateMemory.h"
 #include "platform/sandbox/DocumentSandbox.h"
+#include "platform/sandbox/FontSources.h"
+#include "platform/system/PrivateMemory.h"
 
 #include <QCoreApplication>
 

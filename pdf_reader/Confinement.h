@@ -3,8 +3,8 @@
 // Thread: main, before there is another.
 #pragma once
 
+#include "documents/pdf/PdfReaderOrder.h"
 #include "platform/sandbox/Sandbox.h"
-#include "platform/styled_text/pdf/PdfReaderOrder.h"
 
 /// Puts them in force, for good. The system ends the process when a limit of time is reached.
 SandboxReport confine(const PdfReaderOrder &order);

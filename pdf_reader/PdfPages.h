@@ -4,7 +4,7 @@
 // Thread: any; Qt Pdf works on one document at a time.  Owner: main.
 #pragma once
 
-#include "platform/styled_text/pdf/PdfError.h"
+#include "documents/pdf/PdfError.h"
 
 #include <QByteArrayView>
 #include <QString>

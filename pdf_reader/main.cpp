@@ -3,8 +3,8 @@
 // it. It writes the text of the file to standard output; PdfReaderOrder tells what it is given.
 #include "pdf_reader/Confinement.h"
 #include "pdf_reader/PdfPages.h"
-#include "platform/connection/SealedMemory.h"
-#include "platform/processes/PrivateMemory.h"
+#include "platform/system/PrivateMemory.h"
+#include "platform/system/SealedMemory.h"
 
 #include <unistd.h>
 

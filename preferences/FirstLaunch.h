@@ -3,9 +3,9 @@
 // Thread: main, as the print settings are.
 #pragma once
 
-#include "platform/base/Result.h"
 #include "platform/defaults/UserDefaults.h"
 #include "platform/printing/Paper.h"
+#include "platform/system/Result.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/QBYUserDefaultsController.h"
 
-#include "platform/notifications/DistributedNotificationCenter.h"
+#include "platform/session_bus/DistributedNotificationCenter.h"
 #include "preferences/FirstLaunch.h"
 #include "preferences/PreferenceTable.h"
 

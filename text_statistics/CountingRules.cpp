@@ -4,8 +4,8 @@
 #include "platform/locale/CurrentLocale.h"
 #include "platform/printing/PrintSettings.h"
 #include "preferences/QBYUserDefaultsController.h"
-#include "preferences/page_preview/PageSizeForMeasuringPreviewViewController.h"
 #include "text_statistics/MeasuringSurface.h"
+#include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
 
 std::optional<double> columnWidthOf(const PageRules &page)
 {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/MeasuringSurface.h"
 
+#include "common_views/ViewExtension.h"
 #include "platform/logging/LogChannel.h"
 #include "platform/printing/PrintSettings.h"
 #include "platform/text_layout/LayoutEngine.h"
 #include "preferences/PrintSettingsExtension.h"
 #include "preferences/QBYUserDefaultsController.h"
-#include "presentation/common_views/ViewExtension.h"
 
 MeasuringSurface &MeasuringSurface::shared()
 {

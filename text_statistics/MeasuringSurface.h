@@ -5,8 +5,8 @@
 #pragma once
 
 #include "platform/views/Window.h"
-#include "preferences/page_preview/PageSizeForMeasuringPreviewViewController.h"
 #include "text_statistics/CountingRules.h"
+#include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 #include "text_statistics/WordCounterModel.h"
 
 #include "text_statistics/MeasuringSurface.h"
-#include "text_statistics/display_strings/WordCounterStatStringFormatter.h"
+#include "text_statistics/WordCounterStatStringFormatter.h"
 
 void WordCounterModel::setAttributedStringToCount(
     const std::optional<AttributedString> &attributedStringToCount)

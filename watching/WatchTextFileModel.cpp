@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "watching/WatchTextFileModel.h"
 
-#include "front_end/file_types/FileTypes.h"
-#include "platform/base/FileURL.h"
 #include "platform/file_coordination/FileState.h"
+#include "platform/system/FileURL.h"
 #include "preferences/QBYLogger.h"
+#include "watching/FileTypes.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -3,10 +3,10 @@
 // Thread: main.  Owner: the controller of the watch panel, to which it refers weakly.
 #pragma once
 
-#include "platform/application/ApplicationActivity.h"
+#include "documents/loading/RepeatedLoader.h"
 #include "platform/file_coordination/FileCoordinator.h"
 #include "platform/file_coordination/SecurityScopedBookmark.h"
-#include "platform/styled_text/loading/RepeatedLoader.h"
+#include "platform/views/ApplicationActivity.h"
 #include "watching/WatchTextFileModelDelegate.h"
 
 #include <QObject>

@@ -3,8 +3,8 @@
 // Thread: main, from inside the model's messages; it may stop or destroy the model.  Owner: anyone.
 #pragma once
 
-#include "platform/base/WeakDelegate.h"
 #include "platform/styled_text/AttributedString.h"
+#include "platform/system/WeakDelegate.h"
 
 #include <QUrl>
 

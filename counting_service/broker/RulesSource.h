@@ -6,7 +6,7 @@
 #pragma once
 
 #include "counting_service/protocol/WorkerMessages.h"
-#include "platform/fonts/FontSources.h"
+#include "platform/sandbox/FontSources.h"
 
 #include <QObject>
 #include <QThread>

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "counting_service/broker/WorkerProcess.h"
-#include "platform/connection/SealedMemory.h"
+#include "platform/system/SealedMemory.h"
 
 #include <QObject>
 

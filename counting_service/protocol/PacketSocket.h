@@ -3,8 +3,8 @@
 // Thread: any, one at a time for each socket.
 #pragma once
 
-#include "platform/base/OwnedDescriptor.h"
-#include "platform/base/Result.h"
+#include "platform/system/OwnedDescriptor.h"
+#include "platform/system/Result.h"
 
 #include <QByteArray>
 

@@ -5,8 +5,8 @@
 #pragma once
 
 #include "counting_service/protocol/CountFailure.h"
-#include "platform/base/Result.h"
 #include "platform/sandbox/Sandbox.h"
+#include "platform/system/Result.h"
 #include "text_statistics/CountingRules.h"
 #include "text_statistics/QBYWordCounterStats.h"
 

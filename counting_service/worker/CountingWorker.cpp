@@ -3,8 +3,8 @@
 
 #include "counting_service/protocol/PacketSocket.h"
 #include "counting_service/worker/DocumentReading.h"
-#include "platform/connection/SealedMemory.h"
 #include "platform/locale/CurrentLocale.h"
+#include "platform/system/SealedMemory.h"
 
 #include <cstdlib>
 #include <new>

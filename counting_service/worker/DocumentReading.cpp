@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "counting_service/worker/DocumentReading.h"
 
-#include "platform/styled_text/docx/DocxReader.h"
-#include "platform/styled_text/rtfd/RtfdReader.h"
+#include "documents/docx/DocxReader.h"
+#include "documents/rtfd/RtfdReader.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 
 #include "counting_service/protocol/CountFailure.h"
 #include "counting_service/protocol/WorkerMessages.h"
-#include "platform/base/Result.h"
 #include "platform/styled_text/AttributedString.h"
+#include "platform/system/Result.h"
 
 #include <QByteArrayView>
 

@@ -2,9 +2,9 @@
 // Any bytes as a Word document: reading ends and the text is sound. What begins as an archive is read as it
 // is; all else is the contents of the parts of a sound package, parted by NUL bytes: body, styles, numbering,
 // footnotes, a chunk. Those are mutated element by element, and byte by byte now and then.
+#include "documents/docx/DocxReader.h"
 #include "fuzz/docx/XmlMutator.h"
-#include "platform/styled_text/docx/DocxReader.h"
-#include "tests/platform/styled_text/docx/PackageWriter.h"
+#include "tests/documents/docx/PackageWriter.h"
 
 #include <QByteArrayList>
 

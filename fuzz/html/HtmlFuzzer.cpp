@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Feeds the reader of web pages with any bytes. The first line, if it begins with "charset ", is the charset
 // that the transfer names.
-#include "platform/styled_text/html/HtmlReader.h"
-#include "platform/styled_text/html/HtmlStyleAttribute.h"
+#include "documents/html/HtmlReader.h"
+#include "documents/html/HtmlStyleAttribute.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Feeds the reader of plain text with any bytes. The first line, if it begins with "charset ", is the charset
 // of their MIME type.
-#include "platform/styled_text/PlainTextReader.h"
+#include "documents/PlainTextReader.h"
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as an RTF document: reading ends, the text is sound, and every attachment in it was found.
-#include "platform/styled_text/rtf/RtfReader.h"
+#include "documents/rtf/RtfReader.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Flat RTFDs of any bytes: none breaks the reader, and the text of one, written and read again, stays equal.
-#include "platform/styled_text/rtfd/RtfdReader.h"
-#include "platform/styled_text/rtfd/RtfdWriter.h"
+#include "documents/rtfd/RtfdReader.h"
+#include "documents/rtfd/RtfdWriter.h"
 
 #include <cstdlib>
 

@@ -94,11 +94,11 @@ void SuiteDatabase::close()
     sqlite3_close(std::exchange(m_database, nullptr)); // takes back a transaction that is still open
 }
 
-void SuiteDatabase::setPatience(std::chrono::milliseconds patience)
+void SuiteDatabase::setTimeout(std::chrono::milliseconds timeout)
 {
-    m_patience = patience;
+    m_timeout = timeout;
     if (m_database)
-        sqlite3_busy_timeout(m_database, static_cast<int>(patience.count()));
+        sqlite3_busy_timeout(m_database, static_cast<int>(timeout.count()));
 }
 
 SuiteFault SuiteDatabase::faultOf(int code) const
@@ -179,7 +179,7 @@ SuiteDatabase::Failure SuiteDatabase::openFile(Purpose purpose)
     const int code = sqlite3_open_v2(m_path.constData(), &m_database, flags, nullptr);
     if (code != SQLITE_OK)
         return faultOf(code);
-    setPatience(m_patience);
+    setTimeout(m_timeout);
     struct stat status { };
     int moved = 0;
     const bool exists = ::stat(m_path.constData(), &status) == 0;

@@ -3,8 +3,8 @@
 // to do about it is left to UserDefaults. Thread: one at a time.  Owner: UserDefaults.
 #pragma once
 
-#include "platform/base/Result.h"
 #include "platform/defaults/DefaultsValue.h"
+#include "platform/system/Result.h"
 
 #include <QByteArray>
 #include <QString>
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] const QByteArray &path() const { return m_path; }
 
     /// How long the accesses to come wait for other processes.
-    void setPatience(std::chrono::milliseconds patience);
+    void setTimeout(std::chrono::milliseconds timeout);
 
     /// Absent where there is no file, or no such key in it. Never makes a file.
     Result<std::optional<DefaultsValue>, SuiteFault> read(const QString &key);
@@ -73,7 +73,7 @@ private:
     [[nodiscard]] SuiteFault faultOf(int code) const;
 
     QByteArray m_path;
-    std::chrono::milliseconds m_patience{0};
+    std::chrono::milliseconds m_timeout{0};
     sqlite3 *m_database = nullptr;
     dev_t m_device = 0; // of the open file
     ino_t m_inode = 0;

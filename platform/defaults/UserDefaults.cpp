@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds patienceAfterWaitingInVain(20);
+constexpr std::chrono::milliseconds timeoutAfterFirst(20);
 
 QByteArray folderOfSuites()
 {
@@ -24,10 +24,10 @@ QByteArray folderOfSuites()
 
 } // namespace
 
-UserDefaults::UserDefaults(const QString &suiteName, std::chrono::milliseconds patience)
+UserDefaults::UserDefaults(const QString &suiteName, std::chrono::milliseconds timeout)
     : m_suiteName(suiteName)
     , m_folder(folderOfSuites())
-    , m_patience(patience)
+    , m_timeout(timeout)
     , m_database(m_folder + '/' + QFile::encodeName(suiteName) + ".sqlite3")
 {
 }
@@ -37,7 +37,7 @@ Result<std::optional<DefaultsValue>, SuiteFault> UserDefaults::readObjectForKey(
     if (key.size() > maximalKeyLength)
         return std::optional<DefaultsValue>();
     const std::lock_guard guard(m_mutex);
-    m_database.setPatience(patience(m_reading));
+    m_database.setTimeout(timeout(m_reading));
     auto value = m_database.read(key);
     note(m_reading, value ? std::nullopt : std::optional(value.error()));
     return value;
@@ -107,12 +107,12 @@ std::optional<SuiteFault> UserDefaults::writeUnderLock(
 {
     if (const int error = makeFolder(m_folder))
         return SuiteFault{SuiteFault::Kind::Other, qt_error_string(error)};
-    const FolderLock lock(m_folder, patience(m_writing));
+    const FolderLock lock(m_folder, timeout(m_writing));
     if (lock.error() == EWOULDBLOCK)
         return SuiteFault{SuiteFault::Kind::Busy, QStringLiteral("another process keeps it locked")};
     if (lock.error() != 0)
         return SuiteFault{SuiteFault::Kind::Other, qt_error_string(lock.error())};
-    m_database.setPatience(patience(m_writing));
+    m_database.setTimeout(timeout(m_writing));
     auto fault = m_database.write(entries, guard);
     if (!fault || fault->kind != SuiteFault::Kind::Broken)
         return fault;
@@ -163,7 +163,7 @@ void UserDefaults::note(Episode &episode, const std::optional<SuiteFault> &fault
     episode.waitedInVain = fault && fault->kind == SuiteFault::Kind::Busy;
 }
 
-std::chrono::milliseconds UserDefaults::patience(const Episode &episode) const
+std::chrono::milliseconds UserDefaults::timeout(const Episode &episode) const
 {
-    return episode.waitedInVain ? std::min(m_patience, patienceAfterWaitingInVain) : m_patience;
+    return episode.waitedInVain ? std::min(m_timeout, timeoutAfterFirst) : m_timeout;
 }

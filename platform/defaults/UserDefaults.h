@@ -25,11 +25,11 @@ class UserDefaults {
 public:
     static constexpr qsizetype maximalKeyLength = 256; ///< UTF-16 code units
     static constexpr qsizetype maximalTextLength = 65'536; ///< UTF-16 code units
-    static constexpr std::chrono::milliseconds defaultPatience{5000};
+    static constexpr std::chrono::milliseconds defaultTimeout{5000};
 
-    /// suiteName: not empty, usable as a file name. patience: how long an access waits while other processes
+    /// suiteName: not empty, usable as a file name. timeout: how long an access waits while other processes
     /// keep the suite locked; once it has run out, the accesses after it hardly wait until one has succeeded.
-    explicit UserDefaults(const QString &suiteName, std::chrono::milliseconds patience = defaultPatience);
+    explicit UserDefaults(const QString &suiteName, std::chrono::milliseconds timeout = defaultTimeout);
     UserDefaults(const UserDefaults &) = delete;
     UserDefaults &operator=(const UserDefaults &) = delete;
 
@@ -70,11 +70,11 @@ private:
     std::optional<SuiteFault> putBrokenFileAside(const SuiteFault &fault);
     [[nodiscard]] bool isAcceptable(const DefaultsEntry &entry) const;
     void note(Episode &episode, const std::optional<SuiteFault> &fault) const;
-    [[nodiscard]] std::chrono::milliseconds patience(const Episode &episode) const;
+    [[nodiscard]] std::chrono::milliseconds timeout(const Episode &episode) const;
 
     const QString m_suiteName;
     const QByteArray m_folder;
-    const std::chrono::milliseconds m_patience;
+    const std::chrono::milliseconds m_timeout;
 
     mutable std::mutex m_mutex; // guards all below
     mutable SuiteDatabase m_database;

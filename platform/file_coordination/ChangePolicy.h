@@ -4,9 +4,9 @@
 // told to. Thread: any; a value.
 #pragma once
 
-#include "platform/file_coordination/Clock.h"
 #include "platform/file_coordination/FileEvent.h"
 #include "platform/file_coordination/FileState.h"
+#include "platform/system/Clock.h"
 
 #include <functional>
 #include <optional>

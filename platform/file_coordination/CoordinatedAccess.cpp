@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/CoordinatedAccess.h"
 
-#include "platform/base/FileURL.h"
 #include "platform/file_coordination/FilePresentations.h"
 #include "platform/file_coordination/WriterLock.h"
+#include "platform/system/FileURL.h"
 
 #include <QScopedValueRollback>
 

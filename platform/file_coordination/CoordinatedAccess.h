@@ -4,10 +4,10 @@
 // coordinator may not outlive.
 #pragma once
 
-#include "platform/file_coordination/Clock.h"
 #include "platform/file_coordination/FileCoordinator.h"
 #include "platform/file_coordination/FileState.h"
 #include "platform/file_coordination/Relinquishment.h"
+#include "platform/system/Clock.h"
 
 class CoordinatedAccess {
 public:

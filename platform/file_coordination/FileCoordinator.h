@@ -5,8 +5,8 @@
 // access.
 #pragma once
 
-#include "platform/file_coordination/Clock.h"
 #include "platform/file_coordination/FilePresenter.h"
+#include "platform/system/Clock.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/FilePresentation.h"
 
-#include "platform/base/FileURL.h"
 #include "platform/file_coordination/FilePlaces.h"
 #include "platform/file_coordination/FilePresentations.h"
 #include "platform/file_coordination/HeldFiles.h"
 #include "platform/file_coordination/WriterLock.h"
 #include "platform/logging/LogChannel.h"
+#include "platform/system/FileURL.h"
 
 #include <QFile>
 

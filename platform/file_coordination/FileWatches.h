@@ -4,8 +4,8 @@
 // FilePresentation.
 #pragma once
 
-#include "platform/base/OwnedDescriptor.h"
 #include "platform/file_coordination/FileEvent.h"
+#include "platform/system/OwnedDescriptor.h"
 
 #include <QByteArray>
 #include <QByteArrayList>

@@ -4,7 +4,7 @@
 // other file, and a removable disk cannot be unmounted. Thread: any.
 #pragma once
 
-#include "platform/base/OwnedDescriptor.h"
+#include "platform/system/OwnedDescriptor.h"
 
 #include <QByteArray>
 

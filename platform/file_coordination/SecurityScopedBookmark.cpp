@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/SecurityScopedBookmark.h"
 
-#include "platform/base/FileURL.h"
+#include "platform/system/FileURL.h"
 
 #include <QDataStream>
 #include <QIODevice>

@@ -4,8 +4,8 @@
 // grant: it makes no file readable that was not. Thread: main.
 #pragma once
 
-#include "platform/base/Result.h"
 #include "platform/file_coordination/HeldFiles.h"
+#include "platform/system/Result.h"
 
 #include <QUrl>
 

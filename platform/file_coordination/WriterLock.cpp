@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/WriterLock.h"
 
-#include "platform/base/OwnedDescriptor.h"
+#include "platform/system/OwnedDescriptor.h"
 
 #include <cerrno>
 #include <fcntl.h>

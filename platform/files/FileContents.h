@@ -3,8 +3,8 @@
 // Thread: any.
 #pragma once
 
-#include "platform/base/Result.h"
 #include "platform/files/FileError.h"
+#include "platform/system/Result.h"
 
 #include <QByteArray>
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Pasteboard is what the user has selected or copied: one content in all the forms that its owner offers.
-// Thread: any; a value. Who gets it from the display or over the bus: platform/selection, platform/services.
+// Thread: any; a value. Selection.h reads one from the display, platform/services from the bus.
 #pragma once
-
-#include "platform/styled_text/AttributedString.h"
 
 #include <QByteArray>
 #include <QList>
@@ -11,7 +9,6 @@
 #include <QUrl>
 
 #include <map>
-#include <optional>
 
 class Pasteboard {
 public:
@@ -35,9 +32,6 @@ public:
 
     [[nodiscard]] const Forms &forms() const { return m_forms; }
 
-    /// The richest form that can be read as styled text: flat RTFD, then RTF, HTML, plain text; absent where
-    /// there is none. A form that turns out to be damaged leaves it to the next one.
-    [[nodiscard]] std::optional<AttributedString> readAttributedString() const;
     /// The local files among the URLs, in their order, each as often as it is there; empty where there are
     /// none. Relative and remote URLs are no files.
     [[nodiscard]] QList<QUrl> readFileURLs() const;

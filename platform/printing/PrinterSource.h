@@ -3,8 +3,8 @@
 // default printer, now or in a while or never. Thread: ask() runs on a thread of its own, one at a time.
 #pragma once
 
-#include "platform/base/Result.h"
 #include "platform/printing/Paper.h"
+#include "platform/system/Result.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/services/PasteboardWire.h"
 
-#include "platform/connection/SealedMemory.h"
+#include "platform/system/SealedMemory.h"
 
 #include <QDBusUnixFileDescriptor>
 

@@ -14,7 +14,7 @@ namespace {
 
 using Environment = QMap<QString, QString>;
 
-constexpr int patience = 60'000; // milliseconds
+constexpr int timeout = 60'000; // milliseconds
 
 // What a program needs to find the user's display and to speak his language.
 constexpr std::array exportedVariables{"DISPLAY", "XAUTHORITY", "WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP",
@@ -55,7 +55,7 @@ bool exportSessionEnvironment()
         [](const auto &variable) { return !qEnvironmentVariableIsSet(variable.key().toLatin1()); });
     QDBusMessage call = callOfBus(QStringLiteral("UpdateActivationEnvironment"));
     call.setArguments({QVariant::fromValue(environment)});
-    return bus.call(call, QDBus::Block, patience).type() == QDBusMessage::ReplyMessage;
+    return bus.call(call, QDBus::Block, timeout).type() == QDBusMessage::ReplyMessage;
 }
 
 std::optional<ServiceFailure> sendServiceMessage(
@@ -68,7 +68,7 @@ std::optional<ServiceFailure> sendServiceMessage(
     QDBusMessage call = QDBusMessage::createMethodCall(ServiceInterface::busName(),
         ServiceInterface::objectPath(), ServiceInterface::interfaceName(), message);
     call.setArguments({PasteboardWire::toMessage(pasteboard), QString(), options});
-    const QDBusMessage reply = bus.call(call, QDBus::Block, patience);
+    const QDBusMessage reply = bus.call(call, QDBus::Block, timeout);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return std::nullopt;
     const bool isRefusal = reply.errorName() == ServiceInterface::failureName();

@@ -5,7 +5,7 @@
 // Thread: main.  Owner: whoever loads the file; shares the ownership of its views.
 #pragma once
 
-#include "platform/base/Result.h"
+#include "platform/system/Result.h"
 #include "platform/views/View.h"
 
 #include <QHash>

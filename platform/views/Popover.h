@@ -4,7 +4,7 @@
 // its content.
 #pragma once
 
-#include "platform/base/WeakDelegate.h"
+#include "platform/system/WeakDelegate.h"
 #include "platform/views/Desktop.h"
 #include "platform/views/ViewController.h"
 #include "platform/views/Window.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Word documents and PDF files on the command line.
 #include "tests/command/CommandTest.h"
-#include "tests/platform/styled_text/docx/PackageWriter.h"
-#include "tests/platform/styled_text/pdf/PdfWriter.h"
+#include "tests/documents/docx/PackageWriter.h"
+#include "tests/documents/pdf/PdfWriter.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/command/ServiceCommandTest.h"
-#include "tests/platform/selection/SelectionOwner.h"
+#include "tests/platform/pasteboard/SelectionOwner.h"
 
 #include <QCryptographicHash>
 

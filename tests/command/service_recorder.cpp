@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // service_recorder FILE [REFUSAL]: the provider of the services as the session bus starts it. Appends what it
 // is asked to FILE, as a JSON object on a line, says REFUSAL if there is one, and leaves.
+#include "documents/loading/PasteboardText.h"
 #include "platform/services/ServicesRegistration.h"
 #include "preferences/QBYUserDefaultsController.h"
 
@@ -43,7 +44,7 @@ private:
         const QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
         for (const QString &name : variables.keys())
             environment[name] = variables.value(name);
-        const auto text = pasteboard.readAttributedString();
+        const auto text = readAttributedString(pasteboard);
         const QJsonObject request{
             {QStringLiteral("message"), QString::fromLatin1(message)},
             {QStringLiteral("token"), QString::fromUtf8(m_token)},

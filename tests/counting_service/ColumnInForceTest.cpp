@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Margins that leave no width leave the column of the count before in force: of the whole service, whichever
 // worker counts, and whatever it remembers.
-#include "platform/styled_text/rtfd/RtfdReader.h"
+#include "documents/rtfd/RtfdReader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/counting_service/CountingServiceTest.h"
-#include "tests/platform/styled_text/SampleTexts.h"
+#include "tests/documents/SampleTexts.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <QFile>

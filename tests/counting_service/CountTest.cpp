@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What the counting service counts.
-#include "platform/styled_text/docx/DocxReader.h"
-#include "platform/styled_text/rtfd/RtfdReader.h"
+#include "documents/docx/DocxReader.h"
+#include "documents/rtfd/RtfdReader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/counting_service/CountingServiceTest.h"
-#include "tests/platform/styled_text/SampleTexts.h"
-#include "tests/platform/styled_text/docx/PackageWriter.h"
+#include "tests/documents/SampleTexts.h"
+#include "tests/documents/docx/PackageWriter.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <QDBusUnixFileDescriptor>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/counting_service/CountingServiceTest.h"
 
-#include "platform/styled_text/rtfd/RtfdWriter.h"
+#include "documents/rtfd/RtfdWriter.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusUnixFileDescriptor>
@@ -15,7 +15,7 @@
 namespace {
 
 const QString serviceName = QStringLiteral("Brisklane.QBYServiceProviderXPC");
-constexpr int patience = 300'000; // milliseconds
+constexpr int timeout = 300'000; // milliseconds
 
 QString newConnectionName()
 {
@@ -138,7 +138,7 @@ QDBusMessage CountingServiceTest::message(
 
 QDBusPendingCall CountingServiceTest::send(const QDBusMessage &message) const
 {
-    return m_bus.asyncCall(message, patience);
+    return m_bus.asyncCall(message, timeout);
 }
 
 std::optional<QBYWordCounterStats> CountingServiceTest::statsOf(QDBusPendingCall call)

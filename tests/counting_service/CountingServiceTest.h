@@ -3,8 +3,8 @@
 // program would: the bus starts it by its service file.
 #pragma once
 
-#include "platform/connection/SealedMemory.h"
 #include "platform/styled_text/AttributedString.h"
+#include "platform/system/SealedMemory.h"
 #include "tests/harness/QuillbayTest.h"
 #include "text_statistics/QBYWordCounterStats.h"
 

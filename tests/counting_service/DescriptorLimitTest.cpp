@@ -2,7 +2,7 @@
 // A service that may have few descriptors, and more requests at a time than fit.
 #include "counting_service/broker/BusLimits.h"
 #include "tests/counting_service/CountingServiceTest.h"
-#include "tests/platform/notifications/PrivateBus.h"
+#include "tests/harness/PrivateBus.h"
 
 #include <csignal>
 #include <memory>

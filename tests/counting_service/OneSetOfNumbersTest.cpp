@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Whoever counts a document, in whatever process, gets the same eight numbers.
-#include "platform/styled_text/loading/PdfLoader.h"
-#include "presentation/word_counter/WordCounterViewController.h"
+#include "documents/loading/PdfLoader.h"
+#include "presentation/WordCounterViewController.h"
 #include "tests/counting_service/CountingServiceTest.h"
+#include "tests/documents/SampleTexts.h"
+#include "tests/documents/docx/PackageWriter.h"
+#include "tests/documents/pdf/PdfWriter.h"
 #include "tests/platform/printing/PrintServer.h"
-#include "tests/platform/styled_text/SampleTexts.h"
-#include "tests/platform/styled_text/docx/PackageWriter.h"
-#include "tests/platform/styled_text/pdf/PdfWriter.h"
 
 #include <QDir>
 #include <QFile>

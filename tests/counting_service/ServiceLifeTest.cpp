@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // How the counting service comes and goes, and what becomes of requests meanwhile.
 #include "tests/counting_service/CountingServiceTest.h"
-#include "tests/platform/notifications/PrivateBus.h"
-#include "tests/platform/styled_text/SampleTexts.h"
+#include "tests/documents/SampleTexts.h"
+#include "tests/harness/PrivateBus.h"
 
 #include <QCoreApplication>
 #include <QDBusServiceWatcher>

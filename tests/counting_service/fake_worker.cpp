@@ -8,7 +8,7 @@
 #include "counting_service/protocol/PacketSocket.h"
 #include "counting_service/protocol/WorkerMessages.h"
 #include "counting_service/worker/CountingWorker.h"
-#include "platform/connection/SealedMemory.h"
+#include "platform/system/SealedMemory.h"
 
 #include <csignal>
 #include <fcntl.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What "cmake --install" gives: whether it is complete, and whether it works as it lies there.
+#include "tests/documents/pdf/PdfWriter.h"
 #include "tests/harness/Display.h"
 #include "tests/harness/QuillbayTest.h"
-#include "tests/platform/selection/SelectionOwner.h"
-#include "tests/platform/styled_text/pdf/PdfWriter.h"
+#include "tests/platform/pasteboard/SelectionOwner.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/PrintSettingsExtension.h"
 
-#include "platform/notifications/NotificationObserver.h"
 #include "platform/printing/BuiltInPapers.h"
 #include "platform/printing/CupsPrinterSource.h"
+#include "platform/session_bus/NotificationObserver.h"
 #include "preferences/PreferenceTable.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/CallingLogSink.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/harness/QuillbayTest.h"
-#include "text_statistics/display_strings/TrimTrailingNumbersOffDecimal.h"
-#include "text_statistics/display_strings/WordCounterStatStringFormatter.h"
+#include "text_statistics/TrimTrailingNumbersOffDecimal.h"
+#include "text_statistics/WordCounterStatStringFormatter.h"
 
 using Formatter = WordCounterStatStringFormatter;
 

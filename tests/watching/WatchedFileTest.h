@@ -3,7 +3,7 @@
 // and the model's log with its debug messages.
 #pragma once
 
-#include "platform/base/FileURL.h"
+#include "platform/system/FileURL.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/watching/RecordingDelegate.h"

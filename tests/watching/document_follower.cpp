@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // document_follower FILE: watches the document and prints a line for each thing that the model tells: "text
 // WORD" with the last word of the document, "failed" or "renamed to NAME". Runs until it is killed.
-#include "platform/styled_text/loading/DocumentLoader.h"
+#include "documents/loading/DocumentLoader.h"
 #include "watching/WatchTextFileModel.h"
 
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 // Thread: main.  Owner: the dialog.
 #pragma once
 
-#include "platform/file_coordination/Clock.h"
+#include "platform/system/Clock.h"
 
 #include <QObject>
 

@@ -4,7 +4,7 @@
 // Thread: main.  Owner: main() of a program with windows; made once QGuiApplication is there.
 #pragma once
 
-#include "platform/application/ApplicationActivity.h"
+#include "platform/views/ApplicationActivity.h"
 
 #include <QObject>
 

@@ -3,7 +3,7 @@
 // chooser of the desktop. Thread: main.  Owner: main() of a program with windows, behind its QApplication.
 #pragma once
 
-#include "platform/file_coordination/Clock.h"
+#include "platform/system/Clock.h"
 #include "platform/views/Desktop.h"
 
 #include <QPointer>

@@ -3,7 +3,7 @@
 // Thread: main.  Owner: the test; it must outlive its timers.
 #pragma once
 
-#include "platform/file_coordination/Clock.h"
+#include "platform/system/Clock.h"
 
 #include <list>
 #include <optional>

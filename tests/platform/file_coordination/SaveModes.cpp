@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/file_coordination/SaveModes.h"
 
-#include "platform/base/OwnedDescriptor.h"
+#include "platform/system/OwnedDescriptor.h"
 
 #include <QFile>
 #include <QSaveFile>

@@ -4,8 +4,8 @@
 // needs. Prints what the sandbox is made of, and for each word what came of it: "done", or the name of the
 // error.
 #include "pdf_reader/Confinement.h"
-#include "platform/fonts/FontSources.h"
 #include "platform/sandbox/DocumentSandbox.h"
+#include "platform/sandbox/FontSources.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <fcntl.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What a plain text of markup says of its encoding.
-#include "platform/styled_text/PlainTextReader.h"
+#include "documents/PlainTextReader.h"
 
+#include "tests/documents/SampleTexts.h"
 #include "tests/harness/QuillbayTest.h"
-#include "tests/platform/styled_text/SampleTexts.h"
 
 using namespace SampleTexts;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/text_encoding/EncodingCorpus.h"
 
-#include "tests/platform/styled_text/SampleTexts.h"
+#include "tests/documents/SampleTexts.h"
 
 #include <QStringList>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/styled_text/PlainTextReader.h"
+#include "documents/PlainTextReader.h"
 
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/text_encoding/EncodingCorpus.h"

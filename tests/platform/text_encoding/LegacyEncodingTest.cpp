@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "platform/styled_text/PlainTextReader.h"
+#include "documents/PlainTextReader.h"
 #include "platform/text_encoding/EncodedText.h"
 
+#include "tests/documents/SampleTexts.h"
 #include "tests/harness/QuillbayTest.h"
-#include "tests/platform/styled_text/SampleTexts.h"
 
 using namespace SampleTexts;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_encoding/UnmarkedUnicode.h"
 
+#include "tests/documents/SampleTexts.h"
 #include "tests/harness/QuillbayTest.h"
-#include "tests/platform/styled_text/SampleTexts.h"
 
 using namespace SampleTexts;
 

@@ -4,9 +4,9 @@
 #include "platform/views/Button.h"
 #include "platform/views/Label.h"
 #include "platform/views/ProgressIndicator.h"
+#include "tests/harness/FakePortal.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/harness/Screenshot.h"
-#include "tests/platform/views/widgets/FakePortal.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 
 #include <QPalette>

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "documents/PlainTextReader.h"
+
+#include "platform/text_encoding/DeclaredEncoding.h"
+#include "platform/text_encoding/EncodedText.h"
+#include "platform/text_encoding/TextEncoding.h"
+
+#include <new>
+
+namespace {
+
+/// Bytes, of which there are never fewer than code units.
+constexpr qsizetype longestInput = INT32_MAX - 1;
+
+} // namespace
+
+QString causeText(TextError error)
+{
+    return error == TextError::TooLong ? QStringLiteral("is larger than 2 GiB")
+                                       : QStringLiteral("not enough memory");
+}
+
+Result<PlainText, TextError> readPlainText(QByteArrayView bytes)
+{
+    return readPlainText(bytes, {});
+}
+
+Result<PlainText, TextError> readPlainText(QByteArrayView bytes, const QByteArray &charset)
+{
+    if (bytes.size() > longestInput)
+        return TextError::TooLong;
+    try {
+        const TextEncoding encoding = encodingOfPlainText(bytes, charset);
+        return PlainText{decodedText(bytes.sliced(encoding.markLength), encoding.name), encoding.name};
+    } catch (const std::bad_alloc &) {
+        return TextError::NotEnoughMemory;
+    }
+}

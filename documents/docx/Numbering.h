@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// Numbering knows how the levels of a document's lists indent their paragraphs. The numbers themselves are no
+// text.
+// Thread: any.
+#pragma once
+
+#include "documents/docx/ParagraphProperties.h"
+#include "documents/docx/ZipPackage.h"
+#include "platform/system/Result.h"
+
+#include <QHash>
+
+class Numbering {
+public:
+    static Result<Numbering, DocxError> read(const ZipPackage &package, const QByteArray &partName);
+
+    /// Null where the list or the level says nothing.
+    [[nodiscard]] const ParagraphProperties *levelOf(int list, int level) const;
+
+private:
+    friend class NumberingReader;
+    using Level = QPair<int, int>; // list and level
+
+    QHash<Level, ParagraphProperties> m_definitions; // by abstract list
+    QHash<Level, ParagraphProperties> m_overrides; // by list
+    QHash<int, int> m_abstractLists; // by list
+    QHash<int, QByteArray> m_namedLists; // abstract list to the list style that defines it
+    QHash<QByteArray, int> m_listOfStyle; // list style to the abstract list with its levels
+};

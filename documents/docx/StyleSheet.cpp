@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "documents/docx/StyleSheet.h"
+
+#include "documents/docx/Measures.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr size_t deepestInheritance = 50;
+
+constexpr std::array<const char *, tablePartCount> tablePartNames{"band1Vert", "band2Vert", "band1Horz",
+    "band2Horz", "firstRow", "lastRow", "firstCol", "lastCol", "neCell", "nwCell", "seCell", "swCell"};
+
+std::optional<TablePart> tablePartOf(QByteArrayView name)
+{
+    for (size_t i = 0; i < tablePartNames.size(); ++i)
+        if (name == tablePartNames[i])
+            return static_cast<TablePart>(i);
+    return std::nullopt;
+}
+
+} // namespace
+
+void StyleProperties::overlay(const StyleProperties &other)
+{
+    paragraph.overlay(other.paragraph);
+    run.overlay(other.run);
+}
+
+class StyleSheetReader final : public XmlHandler {
+public:
+    StyleSheetReader(StyleSheet &styles, const Theme &theme)
+        : m_styles(styles)
+        , m_theme(theme)
+    {
+    }
+
+    void startElement(const XmlElement &element) override
+    {
+        ++m_depth;
+        if (!element.isWord() || m_leftOutDepth > 0)
+            return;
+        switch (element.tag()) {
+        case "docDefaults"_tag:
+            m_target = &m_styles.m_defaults;
+            break;
+        case "style"_tag:
+            startStyle(element);
+            break;
+        case "basedOn"_tag:
+            m_style.basedOn = element.value().value_or("").toByteArray();
+            break;
+        case "tblStylePr"_tag:
+            if (const auto part = tablePartOf(element.attribute("type"_tag).value_or("")))
+                m_target = &m_style.parts[*part];
+            else
+                leaveOut();
+            break;
+        case "rPrChange"_tag:
+        case "pPrChange"_tag:
+        case "tblPr"_tag:
+        case "trPr"_tag:
+        case "tcPr"_tag:
+            leaveOut();
+            break;
+        case "pPr"_tag:
+            m_isInParagraph = true;
+            break;
+        case "rPr"_tag:
+            m_isInRun = true;
+            break;
+        default:
+            takeProperty(element);
+            break;
+        }
+    }
+
+    void endElement(XmlName name) override
+    {
+        if (m_leftOutDepth == m_depth)
+            m_leftOutDepth = 0;
+        else if (m_leftOutDepth == 0 && name.space == XmlSpace::Word)
+            end(name.tag);
+        --m_depth;
+    }
+
+private:
+    void leaveOut() { m_leftOutDepth = m_depth; }
+
+    void startStyle(const XmlElement &element)
+    {
+        const QByteArrayView type = element.attribute("type"_tag).value_or("paragraph");
+        if (type == "numbering") {
+            leaveOut();
+            return;
+        }
+        m_style = {};
+        if (type == "character")
+            m_style.kind = StyleSheet::Kind::Character;
+        else if (type == "table")
+            m_style.kind = StyleSheet::Kind::Table;
+        m_identifier = element.attribute("styleId"_tag).value_or("").toByteArray();
+        m_target = &m_style.own;
+        if (const auto isDefault = element.attribute("default"_tag); isDefault && truthOf(isDefault))
+            m_styles.m_defaultStyles.insert(static_cast<int>(m_style.kind), m_identifier);
+    }
+
+    void takeProperty(const XmlElement &element)
+    {
+        if (!m_target)
+            return;
+        if (m_isInRun)
+            m_target->run.take(element, m_theme);
+        else if (m_isInParagraph)
+            m_target->paragraph.take(element);
+    }
+
+    void end(XmlTag tag)
+    {
+        switch (tag) {
+        case "docDefaults"_tag:
+            m_target = nullptr;
+            break;
+        case "style"_tag:
+            m_target = nullptr;
+            if (!m_styles.m_styles.contains(m_identifier))
+                m_styles.m_styles.insert(m_identifier, m_style);
+            break;
+        case "tblStylePr"_tag:
+            m_target = &m_style.own;
+            break;
+        case "pPr"_tag:
+            m_isInParagraph = false;
+            break;
+        case "rPr"_tag:
+            m_isInRun = false;
+            break;
+        default:
+            break;
+        }
+    }
+
+    StyleSheet &m_styles;
+    const Theme &m_theme;
+    int m_depth = 0;
+    int m_leftOutDepth = 0;
+    bool m_isInParagraph = false;
+    bool m_isInRun = false;
+    QByteArray m_identifier;
+    StyleSheet::Style m_style;
+    StyleProperties *m_target = nullptr;
+};
+
+Result<StyleSheet, DocxError> StyleSheet::read(
+    const ZipPackage &package, const QByteArray &partName, const Theme &theme, const Numbering &numbering)
+{
+    StyleSheet styles;
+    StyleSheetReader reader(styles, theme);
+    if (const std::optional<DocxError> failure = readXmlPart(package, partName, reader))
+        return *failure;
+    styles.applyLists(numbering);
+    return styles;
+}
+
+/// A style that belongs to a list is indented as the list says, where it does not say so itself.
+void StyleSheet::applyLists(const Numbering &numbering)
+{
+    for (Style &style : m_styles) {
+        const ParagraphProperties own = style.own.paragraph;
+        const ParagraphProperties *level =
+            own.list ? numbering.levelOf(*own.list, own.listLevel.value_or(0)) : nullptr;
+        if (level) {
+            style.own.paragraph = *level;
+            style.own.paragraph.overlay(own);
+        }
+    }
+}
+
+QByteArray StyleSheet::knownIdentifier(Kind kind, const QByteArray &identifier) const
+{
+    const auto found = m_styles.constFind(identifier);
+    const bool isKnown = found != m_styles.cend() && found->kind == kind;
+    return isKnown ? identifier : m_defaultStyles.value(static_cast<int>(kind));
+}
+
+StyleProperties StyleSheet::resolved(Kind kind, const QByteArray &identifier, TableParts parts) const
+{
+    std::vector<const Style *> chain; // the style, then what it is based on
+    auto found = m_styles.constFind(identifier);
+    while (found != m_styles.cend() && found->kind == kind && chain.size() < deepestInheritance) {
+        chain.push_back(&*found);
+        found = m_styles.constFind(found->basedOn);
+    }
+    StyleProperties properties;
+    for (auto style = chain.rbegin(); style != chain.rend(); ++style)
+        properties.overlay((*style)->own);
+    for (int part = 0; part < tablePartCount; ++part) {
+        if (!(parts & (1U << part)))
+            continue;
+        for (auto style = chain.rbegin(); style != chain.rend(); ++style) {
+            const auto ofPart = (*style)->parts.find(static_cast<TablePart>(part));
+            if (ofPart != (*style)->parts.end())
+                properties.overlay(ofPart->second);
+        }
+    }
+    return properties;
+}
+
+const StyleProperties &StyleSheet::remembered(const Key &key) const
+{
+    const auto known = m_resolved.find(key);
+    if (known != m_resolved.end())
+        return known->second;
+    return m_resolved.emplace(key, resolved(key.kind, key.identifier, key.parts)).first->second;
+}
+
+const StyleProperties &StyleSheet::style(Kind kind, const QByteArray &identifier) const
+{
+    return remembered({kind, 0, knownIdentifier(kind, identifier)});
+}
+
+const StyleProperties &StyleSheet::tableStyle(const QByteArray &identifier, TableParts parts) const
+{
+    return remembered({Kind::Table, parts, knownIdentifier(Kind::Table, identifier)});
+}

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "documents/docx/ZipPackage.h"
+
+#include <zip.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace {
+
+constexpr qint64 mostParts = 20'000;
+constexpr qsizetype pieceLength = 65'536;
+// DEFLATE reaches 1:1032 on a single repeated byte. Texts that repeat themselves reach 1:200; small parts are
+// left alone, since they do no harm.
+constexpr qint64 greatestRatio = 400;
+constexpr qint64 harmlessLength = 33'554'432;
+
+/// The beginning of every compound file: documents of Word 97 to 2003, and encrypted packages.
+bool isCompoundFile(QByteArrayView bytes)
+{
+    return bytes.startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
+}
+
+/// Whether a compound file has a stream of the name that an encrypted package has (MS-OFFCRYPTO 2.3.4.4). The
+/// entries of its directory may be anywhere in the file, at multiples of their length. They begin with the
+/// stream's name, in UTF-16 with a NUL behind it; their case says nothing (MS-CFB 2.6.4).
+bool hasEncryptedPackage(QByteArrayView bytes)
+{
+    constexpr qsizetype entryLength = 128;
+    constexpr std::string_view name("encryptedpackage\0", 17);
+    constexpr auto nameLength = static_cast<qsizetype>(2 * name.size());
+    for (qsizetype entry = 0; entry + nameLength <= bytes.size(); entry += entryLength) {
+        qsizetype place = entry;
+        const bool isName = std::ranges::all_of(name, [&](char letter) {
+            const char low = bytes[place++];
+            const char lower = low >= 'A' && low <= 'Z' ? static_cast<char>(low - 'A' + 'a') : low;
+            return lower == letter && bytes[place++] == '\0';
+        });
+        if (isName)
+            return true;
+    }
+    return false;
+}
+
+DocxError causeOf(int zipError)
+{
+    switch (zipError) {
+    case ZIP_ER_NOPASSWD:
+    case ZIP_ER_WRONGPASSWD:
+    case ZIP_ER_ENCRNOTSUPP:
+        return DocxError::Encrypted;
+    case ZIP_ER_MEMORY:
+        return DocxError::NotEnoughMemory;
+    default:
+        return DocxError::Damaged;
+    }
+}
+
+struct CloseFile {
+    void operator()(zip_file_t *file) const { zip_fclose(file); }
+};
+
+QByteArray comparable(const QByteArray &name)
+{
+    QByteArray lower = name.toLower();
+    lower.replace('\\', '/');
+    return lower.startsWith('/') ? lower.sliced(1) : lower;
+}
+
+} // namespace
+
+void ZipPackage::Discard::operator()(zip *archive) const
+{
+    zip_discard(archive);
+}
+
+Result<ZipPackage, DocxError> ZipPackage::open(QByteArrayView bytes, ReadAllowance &allowance)
+{
+    if (isCompoundFile(bytes))
+        return hasEncryptedPackage(bytes) ? DocxError::Encrypted : DocxError::OldWordDocument;
+    if (!bytes.startsWith("PK"))
+        return DocxError::NotWordDocument;
+    zip_error_t error;
+    zip_error_init(&error);
+    zip_source_t *source =
+        zip_source_buffer_create(bytes.data(), static_cast<zip_uint64_t>(bytes.size()), 0, &error);
+    Archive archive(source ? zip_open_from_source(source, ZIP_RDONLY, &error) : nullptr);
+    const int cause = zip_error_code_zip(&error);
+    zip_error_fini(&error);
+    if (!archive) {
+        if (source)
+            zip_source_free(source);
+        return causeOf(cause);
+    }
+    ZipPackage package(std::move(archive), allowance);
+    if (const std::optional<DocxError> failure = package.listParts())
+        return *failure;
+    return package;
+}
+
+std::optional<DocxError> ZipPackage::listParts()
+{
+    const zip_int64_t count = zip_get_num_entries(m_archive.get(), 0);
+    if (count > mostParts)
+        return DocxError::TooLarge;
+    for (zip_int64_t i = 0; i < count; ++i) {
+        const auto place = static_cast<quint64>(i);
+        const QByteArray name = comparable(zip_get_name(m_archive.get(), place, ZIP_FL_ENC_RAW));
+        if (name.isEmpty() || name.endsWith('/'))
+            continue;
+        // Which of two parts of one name is meant, nobody can know (OPC forbids it).
+        if (m_parts.contains(name))
+            return DocxError::Damaged;
+        m_parts.insert(name, place);
+    }
+    return std::nullopt;
+}
+
+bool ZipPackage::contains(const QByteArray &name) const
+{
+    return m_parts.contains(comparable(name));
+}
+
+std::optional<DocxError> ZipPackage::read(const QByteArray &name, const Take &take) const
+{
+    const auto part = m_parts.constFind(comparable(name));
+    zip_stat_t description;
+    if (part == m_parts.cend() || zip_stat_index(m_archive.get(), *part, 0, &description) != 0)
+        return DocxError::Damaged;
+    const std::unique_ptr<zip_file_t, CloseFile> file(zip_fopen_index(m_archive.get(), *part, 0));
+    if (!file)
+        return causeOf(zip_error_code_zip(zip_get_error(m_archive.get())));
+
+    std::array<char, pieceLength> piece;
+    const auto compressed = static_cast<qint64>(description.comp_size);
+    for (qint64 total = 0;;) {
+        const zip_int64_t length = zip_fread(file.get(), piece.data(), piece.size());
+        if (length < 0)
+            return causeOf(zip_error_code_zip(zip_file_get_error(file.get())));
+        if (length == 0)
+            return std::nullopt;
+        total += length;
+        m_allowance->bytes -= length;
+        if (m_allowance->bytes < 0 || (total > harmlessLength && total / greatestRatio > compressed))
+            return DocxError::TooLarge;
+        if (!take(QByteArrayView(piece.data(), static_cast<qsizetype>(length))))
+            return std::nullopt;
+    }
+}
+
+Result<QByteArray, DocxError> ZipPackage::contents(const QByteArray &name) const
+{
+    QByteArray bytes;
+    const std::optional<DocxError> failure = read(name, [&bytes](QByteArrayView piece) {
+        bytes.append(piece);
+        return true;
+    });
+    if (failure)
+        return *failure;
+    return bytes;
+}

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include "documents/html/HtmlText.h"
+
+#include "documents/html/HtmlStyle.h"
+#include "documents/html/RenderedText.h"
+
+#include <vector>
+
+namespace {
+
+class Walk {
+public:
+    explicit Walk(const GumboNode &document)
+    {
+        Frame root;
+        root.children = &document.v.document.children;
+        root.style = rootStyle();
+        m_frames.push_back(std::move(root));
+    }
+
+    AttributedString text()
+    {
+        while (!m_frames.empty()) {
+            Frame &frame = m_frames.back();
+            if (frame.next < frame.children->length)
+                visit(*static_cast<const GumboNode *>(frame.children->data[frame.next++]));
+            else
+                leave();
+        }
+        return m_text.build();
+    }
+
+private:
+    /// An element between its start and its end.
+    struct Frame {
+        const GumboVector *children = nullptr;
+        unsigned int next = 0; ///< child
+        HtmlStyle style;
+        SharedAttributes attributes; ///< of its text; null until there is any
+        bool isParagraph = false; ///< a p element, whatever its display
+        bool isClosedDetails = false;
+        size_t box = 0; ///< the frame of this element's box, or of the nearest one around
+    };
+
+    void visit(const GumboNode &node)
+    {
+        // The parser follows a standard in which isindex was a form with words; it is nothing any more.
+        if (node.parse_flags & GUMBO_INSERTION_FROM_ISINDEX)
+            return;
+        switch (node.type) {
+        case GUMBO_NODE_ELEMENT:
+            return enter(node.v.element);
+        case GUMBO_NODE_TEXT:
+        case GUMBO_NODE_CDATA:
+        case GUMBO_NODE_WHITESPACE:
+            return addText(node);
+        default:
+            return;
+        }
+    }
+
+    void addText(const GumboNode &node)
+    {
+        const HtmlStyle &style = m_frames.back().style;
+        if (!style.isVisible || !style.rendersText || m_frames.back().isClosedDetails)
+            return;
+        if (node.type == GUMBO_NODE_WHITESPACE && isBetweenCells(m_frames[m_frames.back().box].style.display))
+            return;
+        m_text.append(QString::fromUtf8(node.v.text.text), style.whiteSpace, attributes(m_frames.size() - 1));
+    }
+
+    static bool isBetweenCells(Display display)
+    {
+        return display == Display::Table || display == Display::InlineTable
+            || display == Display::TableRowGroup || display == Display::TableRow;
+    }
+
+    void enter(const GumboElement &element)
+    {
+        Frame frame;
+        frame.children = &element.children;
+        frame.style = styleOf(element, m_frames.back().style);
+        if (frame.style.display == Display::None || isHiddenByDetails(element))
+            return;
+        if (!frame.style.rendersChildren)
+            frame.next = element.children.length;
+        frame.isParagraph = element.tag == GUMBO_TAG_P && element.tag_namespace == GUMBO_NAMESPACE_HTML;
+        frame.isClosedDetails =
+            element.tag == GUMBO_TAG_DETAILS && !gumbo_get_attribute(&element.attributes, "open");
+        const size_t parentBox = m_frames.back().box;
+        const Display display = frame.style.display;
+        frame.box = display == Display::Contents || display == Display::Inline ? parentBox : m_frames.size();
+        m_frames.push_back(std::move(frame));
+        if (display == Display::Contents)
+            return;
+        beginBox();
+        if (element.tag == GUMBO_TAG_BR && m_frames.back().style.isVisible)
+            m_text.appendLineBreak(attributes(m_frames.size() - 1));
+    }
+
+    /// Of a details element that is not open, the first summary shows.
+    bool isHiddenByDetails(const GumboElement &element)
+    {
+        Frame &parent = m_frames.back();
+        if (!parent.isClosedDetails)
+            return false;
+        if (element.tag != GUMBO_TAG_SUMMARY)
+            return true;
+        parent.next = parent.children->length;
+        return false;
+    }
+
+    void beginBox()
+    {
+        const HtmlStyle &style = m_frames.back().style;
+        if (isBoxInLine(style.display))
+            m_text.placeBox();
+        if (style.display != Display::Inline)
+            m_text.startLine();
+        requireLineBreaks();
+        if (style.display == Display::TableCell && style.isVisible)
+            m_text.beginCell();
+        standApart();
+    }
+
+    void endBox()
+    {
+        const HtmlStyle &style = m_frames.back().style;
+        standApart();
+        if (style.display != Display::Inline)
+            m_text.startLine();
+        if (isBoxInLine(style.display))
+            m_text.placeBox();
+        requireLineBreaks();
+        if (style.display == Display::TableCell && style.isVisible)
+            m_text.endCell(attributes(m_frames.size() - 1));
+    }
+
+    static bool isBoxInLine(Display display)
+    {
+        return display == Display::InlineBlock || display == Display::InlineFlex
+            || display == Display::InlineTable;
+    }
+
+    void standApart()
+    {
+        const HtmlStyle &style = m_frames.back().style;
+        if (style.standsApart && style.isVisible)
+            m_text.standApart(attributes(m_frames.size() - 1));
+    }
+
+    void requireLineBreaks()
+    {
+        const Frame &frame = m_frames.back();
+        if (!frame.style.isVisible)
+            return;
+        const Display display = frame.style.display;
+        if (frame.isParagraph)
+            m_text.requireLineBreaks(2);
+        else if (display == Display::Block || display == Display::Flex || display == Display::Table
+            || display == Display::TableCaption || display == Display::TableRow)
+            m_text.requireLineBreaks(1);
+    }
+
+    void leave()
+    {
+        if (m_frames.back().style.display != Display::Contents)
+            endBox();
+        m_frames.pop_back();
+    }
+
+    const SharedAttributes &attributes(size_t index)
+    {
+        Frame &frame = m_frames[index];
+        if (!frame.attributes)
+            frame.attributes = std::make_shared<const TextAttributes>(
+                TextAttributes{frame.style.font, frame.style.paragraph, frame.style.language, nullptr});
+        return frame.attributes;
+    }
+
+    std::vector<Frame> m_frames;
+    RenderedText m_text;
+};
+
+} // namespace
+
+AttributedString textOfPage(const GumboNode &document)
+{
+    return Walk(document).text();
+}

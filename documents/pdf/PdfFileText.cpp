@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "documents/pdf/PdfFileText.h"
+
+#include "documents/pdf/PdfReader.h"
+#include "platform/files/FileContents.h"
+#include "platform/logging/LogChannel.h"
+#include "platform/system/FileURL.h"
+
+namespace {
+
+/// Empty where the file cannot be read. Never waits, as opening a pipe by its name would.
+QByteArray contentsOf(const QUrl &url)
+{
+    Result<QByteArray, FileError> contents = readFile(pathOfFileURL(url));
+    return contents ? std::move(contents).value() : QByteArray();
+}
+
+} // namespace
+
+std::optional<AttributedString> QBYExtension::attributedStringFromPDFFileURL(const QUrl &url)
+{
+    Result<AttributedString, PdfError> text = readPdf(contentsOf(url));
+    if (text)
+        return std::move(text).value();
+    LogChannel::standard().error(u"No pages in the pdf");
+    return std::nullopt;
+}

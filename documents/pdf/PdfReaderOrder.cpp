@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "documents/pdf/PdfReaderOrder.h"
+
+#include <array>
+#include <charconv>
+#include <string_view>
+
+namespace {
+
+constexpr int success = 0;
+constexpr int firstError = 10; // the values of PdfError, and so much more
+constexpr int lastError = firstError + static_cast<int>(PdfError::NotEnoughMemory);
+constexpr int linkerFailure = 127; // the dynamic linker's, where a library is missing
+
+constexpr size_t numberCount = 4;
+
+std::optional<qint64> numberFrom(std::string_view word)
+{
+    qint64 number = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    if (error != std::errc() || end != word.data() + word.size() || number < 1)
+        return std::nullopt;
+    return number;
+}
+
+} // namespace
+
+QByteArrayList argumentsOf(const PdfReaderOrder &order)
+{
+    return {QByteArray::number(qint64(order.processorTime.count())),
+        QByteArray::number(qint64(order.realTime.count())), QByteArray::number(order.memory),
+        QByteArray::number(order.length)};
+}
+
+std::optional<PdfReaderOrder> orderFrom(std::span<char *const> arguments)
+{
+    std::array<qint64, numberCount> numbers{};
+    if (arguments.size() != numberCount)
+        return std::nullopt;
+    for (size_t i = 0; i < numberCount; ++i) {
+        const std::optional<qint64> number = numberFrom(arguments[i]);
+        if (!number)
+            return std::nullopt;
+        numbers[i] = *number;
+    }
+    return PdfReaderOrder{.processorTime = std::chrono::seconds(numbers[0]),
+        .realTime = std::chrono::seconds(numbers[1]),
+        .memory = numbers[2],
+        .length = numbers[3]};
+}
+
+int exitStatusFor(std::optional<PdfError> error)
+{
+    return error ? firstError + static_cast<int>(*error) : success;
+}
+
+std::optional<PdfError> errorOfExitStatus(int status)
+{
+    if (status == success)
+        return std::nullopt;
+    if (status == linkerFailure || status == wrongUsageStatus)
+        return PdfError::NoReader;
+    const bool isError = status >= firstError && status <= lastError;
+    return isError ? static_cast<PdfError>(status - firstError) : PdfError::Damaged;
+}

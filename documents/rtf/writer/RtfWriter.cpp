@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include "documents/rtf/writer/RtfWriter.h"
+
+#include "documents/rtf/writer/ExactValues.h"
+#include "documents/rtf/writer/FontWords.h"
+#include "documents/rtf/writer/ParagraphWords.h"
+#include "documents/rtf/writer/RtfEscapes.h"
+
+#include <algorithm>
+#include <new>
+#include <vector>
+
+namespace {
+
+constexpr qsizetype largestRtf = INT32_MAX - 1; // bytes
+/// Between two looks at the length, which bounds how far an RTF grows beyond the largest: no code unit takes
+/// more bytes than the braces of an attachment with the longest of names.
+constexpr qsizetype pieceLength = 65'536; // code units
+
+class RtfDocument {
+public:
+    RtfDocument(const AttributedString &text, qsizetype start, qsizetype length, const AttachmentNames &names)
+        : m_text(text)
+        , m_start(std::clamp<qsizetype>(start, 0, text.length()))
+        , m_end(m_start + std::clamp<qsizetype>(length, 0, text.length() - m_start))
+        , m_names(names)
+        , m_styles(text.distinctAttributes().size())
+    {
+    }
+
+    Result<QByteArray, RtfWriteError> written();
+
+private:
+    /// A distinct set of attributes, said in RTF.
+    struct Style {
+        bool isKnown = false;
+        bool isAttachmentKnown = false;
+        qsizetype paragraph = 0; ///< into m_words, as is the next
+        qsizetype character = 0;
+        QByteArray attachment; ///< the words for each U+FFFC, empty where it stands for nothing stored
+    };
+    static constexpr qsizetype noWords = -1;
+
+    [[nodiscard]] qsizetype firstRun() const { return m_text.runIndexAt(m_start); }
+    [[nodiscard]] QStringView textOf(const AttributedString::Run &run) const;
+    /// Calls with every run that the range touches.
+    template <typename Call>
+    void forEachRun(Call call) const;
+
+    void collectStyle(const AttributedString::Run &run);
+    void collectAttachment(Style &style, const Attachment &attachment);
+    qsizetype wordsIndex(const QByteArray &words);
+
+    void writeHeader();
+    void writeRun(const AttributedString::Run &run);
+    void writeWords(const Style &style);
+    void writePiece(QStringView piece, const QByteArray &attachment);
+
+    const AttributedString &m_text;
+    const qsizetype m_start;
+    const qsizetype m_end;
+    const AttachmentNames &m_names;
+
+    ExactValues m_exactValues;
+    FontWords m_fontWords{m_exactValues};
+    std::vector<Style> m_styles; ///< as distinctAttributes()
+    std::vector<QByteArray> m_words;
+    QHash<QByteArray, qsizetype> m_wordsIndices;
+
+    QByteArray m_rtf;
+    qsizetype m_paragraph = noWords; ///< in force at the end of the RTF, as is the next
+    qsizetype m_character = noWords;
+    bool m_isTooLong = false;
+};
+
+QStringView RtfDocument::textOf(const AttributedString::Run &run) const
+{
+    const qsizetype from = std::max(run.start, m_start);
+    const qsizetype to = std::min(run.start + run.length, m_end);
+    return QStringView(m_text.string()).sliced(from, to - from);
+}
+
+template <typename Call>
+void RtfDocument::forEachRun(Call call) const
+{
+    if (m_start == m_end)
+        return;
+    for (qsizetype i = firstRun(); i < m_text.runCount() && m_text.run(i).start < m_end; ++i)
+        call(m_text.run(i));
+}
+
+qsizetype RtfDocument::wordsIndex(const QByteArray &words)
+{
+    const auto found = m_wordsIndices.constFind(words);
+    if (found != m_wordsIndices.cend())
+        return *found;
+    const auto index = static_cast<qsizetype>(m_words.size());
+    m_words.push_back(words);
+    m_wordsIndices.insert(words, index);
+    return index;
+}
+
+void RtfDocument::collectAttachment(Style &style, const Attachment &attachment)
+{
+    style.isAttachmentKnown = true;
+    const std::optional<QString> name = m_names ? m_names(attachment) : std::nullopt;
+    if (!name)
+        return;
+    style.attachment = "{{\\NeXTGraphic ";
+    appendRtfName(style.attachment, *name);
+    style.attachment += " \\width0 \\height0";
+    if (*name != attachment.fileName)
+        style.attachment += m_exactValues.fileWord(attachment.fileName);
+    style.attachment += R"(}\'ac})";
+}
+
+void RtfDocument::collectStyle(const AttributedString::Run &run)
+{
+    Style &style = m_styles[run.attributesIndex];
+    const TextAttributes &attributes = m_text.distinctAttributes()[run.attributesIndex];
+    if (!style.isKnown) {
+        style.isKnown = true;
+        style.paragraph = wordsIndex(paragraphWords(attributes.paragraphStyle, m_exactValues));
+        style.character = wordsIndex(m_fontWords.wordsFor(attributes.font, attributes.language));
+    }
+    if (attributes.attachment && !style.isAttachmentKnown && textOf(run).contains(attachmentCharacter))
+        collectAttachment(style, *attributes.attachment);
+}
+
+void RtfDocument::writeHeader()
+{
+    const QByteArray fonts = m_fontWords.table();
+    const QByteArray exactValues = m_exactValues.table();
+    // As much as plain ASCII takes, so that it is never copied.
+    constexpr qsizetype roomForRest = 1024;
+    m_rtf.reserve(m_end - m_start + fonts.size() + exactValues.size() + roomForRest);
+    m_rtf += R"({\rtf1\ansi\ansicpg1252\uc0)" + defaultTabWord() + '\n' + fonts + exactValues;
+}
+
+void RtfDocument::writeWords(const Style &style)
+{
+    if (style.paragraph == m_paragraph && style.character == m_character)
+        return;
+    if (style.paragraph != m_paragraph)
+        m_rtf += m_words[static_cast<size_t>(style.paragraph)];
+    if (style.character != m_character)
+        m_rtf += m_words[static_cast<size_t>(style.character)];
+    m_rtf += ' ';
+    m_paragraph = style.paragraph;
+    m_character = style.character;
+}
+
+void RtfDocument::writePiece(QStringView piece, const QByteArray &attachment)
+{
+    if (attachment.isEmpty()) {
+        appendRtfText(m_rtf, piece);
+        return;
+    }
+    for (qsizetype at = 0; at < piece.size();) {
+        const qsizetype found = piece.indexOf(attachmentCharacter, at);
+        const qsizetype next = found < 0 ? piece.size() : found;
+        appendRtfText(m_rtf, piece.sliced(at, next - at));
+        if (found >= 0)
+            m_rtf += attachment;
+        at = next + 1;
+    }
+}
+
+void RtfDocument::writeRun(const AttributedString::Run &run)
+{
+    const Style &style = m_styles[run.attributesIndex];
+    const QStringView text = textOf(run);
+    writeWords(style);
+    for (qsizetype at = 0; at < text.size() && !m_isTooLong; at += pieceLength) {
+        writePiece(text.sliced(at, std::min(pieceLength, text.size() - at)), style.attachment);
+        m_isTooLong = m_rtf.size() > largestRtf;
+    }
+}
+
+Result<QByteArray, RtfWriteError> RtfDocument::written()
+{
+    forEachRun([this](const AttributedString::Run &run) { collectStyle(run); });
+    writeHeader();
+    forEachRun([this](const AttributedString::Run &run) { writeRun(run); });
+    m_rtf += '}';
+    if (m_isTooLong || m_rtf.size() > largestRtf)
+        return RtfWriteError::TooLong;
+    return std::move(m_rtf);
+}
+
+} // namespace
+
+QString causeText(RtfWriteError error)
+{
+    return error == RtfWriteError::TooLong ? QStringLiteral("is larger than 2 GiB")
+                                           : QStringLiteral("not enough memory");
+}
+
+Result<QByteArray, RtfWriteError> writeRtf(
+    const AttributedString &text, qsizetype start, qsizetype length, const AttachmentNames &storedNameOf)
+{
+    try {
+        return RtfDocument(text, start, length, storedNameOf).written();
+    } catch (const std::bad_alloc &) {
+        return RtfWriteError::NotEnoughMemory;
+    }
+}

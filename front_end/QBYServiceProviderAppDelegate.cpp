@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "front_end/QBYServiceProviderAppDelegate.h"
+#include "documents/loading/PasteboardText.h"
+
+#include "platform/system/FileURL.h"
+#include "watching/FileTypes.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace {
+
+/// The file: URL of the path alone; absent where there is none.
+std::optional<QUrl> filePathURL(const QUrl &url)
+{
+    const QByteArray path = pathOfFileURL(url);
+    return path.isEmpty() ? std::nullopt : std::optional(fileURLOfPath(path));
+}
+
+bool isOfAcceptedKind(const QUrl &url)
+{
+    return QBYExtension::doesConformToRTFFileUTI(url) || QBYExtension::doesConformToRTFDFileUTI(url)
+        || QBYExtension::doesConformToPlainTextFileUTI(url) || QBYExtension::doesConformToDocXFileUTI(url);
+}
+
+QList<QUrl> acceptedFiles(const QList<QUrl> &urls)
+{
+    QList<QUrl> accepted;
+    for (const QUrl &url : urls) {
+        const std::optional<QUrl> file = filePathURL(url);
+        if (file && isOfAcceptedKind(*file))
+            accepted.append(*file);
+    }
+    return accepted;
+}
+
+void store(QString *error, const QString &message)
+{
+    if (error)
+        *error = message;
+}
+
+} // namespace
+
+QBYServiceProviderAppDelegate::QBYServiceProviderAppDelegate(const WatchSurroundings &surroundings,
+    std::function<void(ServicesProvider &provider)> setServicesProvider)
+    : m_surroundings(surroundings)
+    , m_setServicesProvider(std::move(setServicesProvider))
+{
+}
+
+QBYServiceProviderAppDelegate::~QBYServiceProviderAppDelegate() = default;
+
+void QBYServiceProviderAppDelegate::applicationDidFinishLaunching()
+{
+    m_setServicesProvider(*this);
+}
+
+void QBYServiceProviderAppDelegate::wordCountSelectedTextService(
+    const Pasteboard &pasteboard, const QString & /*userData*/, QString *error)
+{
+    const std::optional<AttributedString> text = readAttributedString(pasteboard);
+    if (!text) {
+        store(error, QStringLiteral("Quillbay failed to read retrieve text.")); // as users know it
+        return;
+    }
+    const auto controller =
+        std::make_shared<QBYServiceProviderShowStatsWindowController>(*text, m_surroundings.desktop);
+    m_statWindowControllerForSelectedText.push_back(controller);
+    controller->setDelegate(this);
+    controller->showWindow(nullptr);
+}
+
+void QBYServiceProviderAppDelegate::watchTheTextFileService(
+    const Pasteboard &pasteboard, const QString & /*userData*/, QString *error)
+{
+    const QList<QUrl> urls = pasteboard.readFileURLs();
+    if (urls.isEmpty()) {
+        store(error, QStringLiteral("Quillbay failed to retrieve file urls."));
+        return;
+    }
+    const QList<QUrl> accepted = acceptedFiles(urls);
+    if (accepted.isEmpty()) {
+        store(error, QStringLiteral("Quillbay failed to validate file urls."));
+        return;
+    }
+    for (const QUrl &url : accepted)
+        watch(url);
+}
+
+void QBYServiceProviderAppDelegate::watch(const QUrl &url)
+{
+    if (const auto existing = _existingWatchTextFileControllerForURL(url)) {
+        existing->showWindow();
+        return;
+    }
+    const auto controller = WatchTextFileMenuBarController::initWithoutMenuItem(m_surroundings);
+    controller->setDelegate(this);
+    controller->watchWithTextFileURL(url);
+    m_watchTextFileControllers.push_back(controller);
+    controller->showWindow();
+    controller->setShowsCloseButton(false);
+}
+
+std::shared_ptr<WatchTextFileMenuBarController>
+QBYServiceProviderAppDelegate::_existingWatchTextFileControllerForURL(const QUrl &url) const
+{
+    const std::optional<QUrl> file = filePathURL(url);
+    const auto found = std::ranges::find_if(m_watchTextFileControllers,
+        [&](const auto &controller) { return file && controller->urlBeingWatched() == *file; });
+    return found == m_watchTextFileControllers.end() ? nullptr : *found;
+}
+
+void QBYServiceProviderAppDelegate::serviceProviderShowStatsWindowControllerDidClose(
+    QBYServiceProviderShowStatsWindowController &controller)
+{
+    std::erase_if(
+        m_statWindowControllerForSelectedText, [&](const auto &known) { return known.get() == &controller; });
+    tellThatSomethingEnded();
+}
+
+void QBYServiceProviderAppDelegate::watchTextFileMenuBarControllerDidFinish(
+    WatchTextFileMenuBarController &controller)
+{
+    std::erase_if(m_watchTextFileControllers, [&](const auto &known) { return known.get() == &controller; });
+    tellThatSomethingEnded();
+}
+
+void QBYServiceProviderAppDelegate::tellThatSomethingEnded()
+{
+    if (m_somethingEnded)
+        m_somethingEnded();
+}

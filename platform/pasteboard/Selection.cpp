@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pasteboard/Selection.h"
+
+#include "platform/pasteboard/SelectionTargets.h"
+#include "platform/pasteboard/SelectionTransfer.h"
+#include "platform/pasteboard/WaylandPaste.h"
+
+#include <new>
+
+namespace {
+
+using Cause = SelectionFailure::Cause;
+using Source = SelectionSource;
+
+class Display {
+public:
+    Display() = default;
+    Display(const Display &) = delete;
+    Display &operator=(const Display &) = delete;
+    ~Display() { xcb_disconnect(m_connection); }
+
+    [[nodiscard]] xcb_connection_t *connection() const { return m_connection; }
+    [[nodiscard]] bool isThere() const { return xcb_connection_has_error(m_connection) == 0; }
+
+private:
+    xcb_connection_t *m_connection = xcb_connect(nullptr, nullptr);
+};
+
+Cause causeOf(Source::Failure failure)
+{
+    switch (failure) {
+    case Source::Failure::Refused:
+        return Cause::Refused;
+    case Source::Failure::TooLarge:
+        return Cause::TooLarge;
+    case Source::Failure::NoAnswer:
+        break;
+    }
+    return Cause::NoAnswer;
+}
+
+class Reading {
+public:
+    Reading(SelectionContent content, Source &source)
+        : m_content(content)
+        , m_source(source)
+    {
+    }
+
+    Result<Pasteboard, Cause> run()
+    {
+        const Result<QByteArrayList, Source::Failure> offered = m_source.targets();
+        if (!offered && offered.error() != Source::Failure::Refused)
+            return causeOf(offered.error());
+        const auto groups =
+            SelectionTargets::wanted(m_content, offered ? std::optional(offered.value()) : std::nullopt);
+        for (const QByteArrayList &targets : groups) {
+            if (const std::optional<Cause> cause = takeFirst(targets))
+                return *cause;
+        }
+        if (!m_forms.empty())
+            return Pasteboard(std::move(m_forms));
+        if (m_hasEmptyForm)
+            return Cause::NothingSelected;
+        return offered ? Cause::OtherContent : Cause::Refused;
+    }
+
+private:
+    /// A form that the owner refuses after all, or that is empty, leaves it to the next one.
+    std::optional<Cause> takeFirst(const QByteArrayList &targets)
+    {
+        for (const QByteArray &target : targets) {
+            Result<Source::Content, Source::Failure> content = m_source.convert(target);
+            if (!content && content.error() != Source::Failure::Refused)
+                return causeOf(content.error());
+            if (content && add(target, std::move(content).value()))
+                break;
+        }
+        return std::nullopt;
+    }
+
+    bool add(const QByteArray &target, Source::Content content)
+    {
+        std::optional<SelectionTargets::Form> form =
+            SelectionTargets::form(target, content.type, std::move(content.bytes));
+        if (!form)
+            return false;
+        m_hasEmptyForm |= form->bytes.isEmpty();
+        if (form->bytes.isEmpty())
+            return false;
+        m_forms.emplace(std::move(form->type), std::move(form->bytes));
+        return true;
+    }
+
+    const SelectionContent m_content;
+    Source &m_source;
+    Pasteboard::Forms m_forms;
+    bool m_hasEmptyForm = false;
+};
+
+Result<Pasteboard, Cause> readFromXDisplay(SelectionName name, SelectionContent content, quint64 largest)
+{
+    const Display display;
+    if (!display.isThere())
+        return Cause::NoDisplay;
+    SelectionTransfer transfer(
+        display.connection(), name == SelectionName::Primary ? "PRIMARY" : "CLIPBOARD", largest);
+    if (!transfer.hasOwner())
+        return qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? Cause::NothingShown : Cause::NothingSelected;
+    return Reading(content, transfer).run();
+}
+
+Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, quint64 largest)
+{
+    Result<Pasteboard, Cause> pasteboard = readFromXDisplay(name, content, largest);
+    const bool mayBeElsewhere = !pasteboard
+        && (pasteboard.error() == Cause::NoDisplay || pasteboard.error() == Cause::NothingShown
+            || pasteboard.error() == Cause::Refused);
+    WaylandPaste paste(name, largest);
+    if (!mayBeElsewhere || !paste.isAvailable())
+        return pasteboard;
+    return paste.hasOwner() ? Reading(content, paste).run() : Cause::NothingSelected;
+}
+
+} // namespace
+
+Result<Pasteboard, SelectionFailure> readSelection(
+    SelectionName name, SelectionContent content, quint64 largest)
+{
+    Result<Pasteboard, Cause> pasteboard = Cause::NotEnoughMemory;
+    // A selection is as large as its owner likes.
+    try {
+        pasteboard = read(name, content, largest);
+    } catch (const std::bad_alloc &) {
+    }
+    if (!pasteboard)
+        return SelectionFailure{pasteboard.error(), name, content};
+    return std::move(pasteboard).value();
+}
+
+QString causeText(const SelectionFailure &failure)
+{
+    const bool isClipboard = failure.name == SelectionName::Clipboard;
+    const QString what = isClipboard ? QStringLiteral("the clipboard") : QStringLiteral("the selection");
+    switch (failure.cause) {
+    case Cause::NoDisplay:
+        return QStringLiteral("there is no display to take %1 from; 'quillbay text' takes a text from a pipe")
+            .arg(what);
+    case Cause::NothingSelected:
+        return isClipboard ? QStringLiteral("the clipboard is empty") : QStringLiteral("nothing is selected");
+    case Cause::NothingShown:
+        return QStringLiteral("%1, or the desktop does not show it to X11 programs; "
+                              "it would if wl-paste (package wl-clipboard) were installed")
+            .arg(isClipboard ? QStringLiteral("the clipboard is empty")
+                             : QStringLiteral("nothing is selected"));
+    case Cause::OtherContent:
+        return QStringLiteral("%1 holds no %2")
+            .arg(what,
+                failure.content == SelectionContent::Text ? QStringLiteral("text") : QStringLiteral("files"));
+    case Cause::Refused:
+        return QStringLiteral("the application that has %1 does not hand it over").arg(what);
+    case Cause::NoAnswer:
+        return QStringLiteral("the application that has %1 does not answer").arg(what);
+    case Cause::TooLarge:
+        return QStringLiteral("%1 is too large").arg(what);
+    case Cause::NotEnoughMemory:
+        break;
+    }
+    return QStringLiteral("not enough memory for %1").arg(what);
+}

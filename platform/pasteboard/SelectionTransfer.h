@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// SelectionTransfer asks the owner of a selection on the X display for it, large contents in pieces (ICCCM
+// 2.7.2, INCR). Thread: one.  Owner: readSelection(). Used inside this folder only.
+#pragma once
+
+#include "platform/pasteboard/SelectionSource.h"
+
+#include <xcb/xcb.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+class QDeadlineTimer;
+
+class SelectionTransfer final : public SelectionSource {
+public:
+    /// connection: outlives this. largest: bytes of all contents together.
+    SelectionTransfer(xcb_connection_t *connection, const char *selection, quint64 largest);
+    ~SelectionTransfer() override;
+
+    [[nodiscard]] bool hasOwner() override;
+    Result<QByteArrayList, Failure> targets() override;
+    Result<Content, Failure> convert(const QByteArray &target) override;
+
+private:
+    using Event = std::unique_ptr<xcb_generic_event_t, decltype(&std::free)>;
+    using IsWanted = std::function<bool(const xcb_generic_event_t &event)>;
+
+    [[nodiscard]] xcb_atom_t atom(const QByteArray &name) const;
+    [[nodiscard]] QByteArrayList namesOf(const QByteArray &atoms) const;
+    Event waitFor(const IsWanted &isWanted) const;
+    Event nextEvent(const QDeadlineTimer &deadline) const;
+    Result<Content, Failure> takeProperty();
+    Result<Content, Failure> takePieces();
+
+    xcb_connection_t *const m_connection;
+    const xcb_window_t m_window;
+    const xcb_atom_t m_selection;
+    const xcb_atom_t m_property;
+    quint64 m_left; // of the bytes that may come
+};

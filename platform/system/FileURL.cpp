@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/FileURL.h"
+
+namespace {
+
+bool isOnThisMachine(const QUrl &url)
+{
+    const QString host = url.host();
+    return url.isLocalFile() && (host.isEmpty() || host == QStringLiteral("localhost"));
+}
+
+} // namespace
+
+QByteArray pathOfFileURL(const QUrl &url)
+{
+    if (!isOnThisMachine(url))
+        return {};
+    QByteArray path = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+    if (!path.startsWith('/') || path.contains('\0'))
+        return {};
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    return path;
+}
+
+QUrl fileURLOfPath(const QByteArray &path)
+{
+    if (path.isEmpty())
+        return {};
+    // QUrl tells these from their codes, and leaves them as they are where it makes URLs itself.
+    constexpr const char *plain = "/!$&'()*+,;=:@[]";
+    return QUrl::fromEncoded("file://" + path.toPercentEncoding(plain));
+}
+
+QString lastPathComponent(const QUrl &url)
+{
+    const QByteArray path = pathOfFileURL(url);
+    return QString::fromUtf8(path.size() > 1 ? path.sliced(path.lastIndexOf('/') + 1) : path);
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// What the labels of WordCounterViewController show, for other programs.
+#include "presentation/WordCounterViewController.h"
+
+#include "documents/html/HtmlReader.h"
+
+QString WordCounterViewController::htmlRepresentationWithTitle(
+    const std::optional<QString> &title, bool fullHTMLDocument) const
+{
+    const auto lineBreak = QStringLiteral("</br>");
+    QString html;
+    if (title)
+        html += QStringLiteral("<strong>") + *title + QStringLiteral("</strong>") + lineBreak;
+    const Labels &labels = visibleTextfieldsForLayout();
+    for (size_t i = 0; i < labels.size(); ++i) {
+        QString text = labels[i]->stringValue();
+        if (text.isEmpty())
+            continue;
+        html += text.replace(u'\u2022', u'-');
+        if (i + 1 != labels.size())
+            html += lineBreak;
+    }
+    if (!fullHTMLDocument)
+        return html;
+    return QStringLiteral("<!DOCTYPE html><html><head><title></title></head><body>") + html
+        + QStringLiteral("</body></html>");
+}
+
+std::optional<AttributedString> WordCounterViewController::attributedStringRepresentationWithTitle(
+    const std::optional<QString> &title) const
+{
+    const QString html = htmlRepresentationWithTitle(title, true);
+    if (!html.isValidUtf16())
+        return std::nullopt;
+    auto text = readHtml(html.toUtf8(), {.charset = "utf-8"});
+    if (!text)
+        return std::nullopt;
+    return std::move(text).value();
+}
+
+MimeContent WordCounterViewController::statisticsToCopy() const
+{
+    if (m_wordCounter->wordCountFormattedString().isNull())
+        return {}; // not counted yet
+    MimeContent content{
+        {QStringLiteral("text/html"), htmlRepresentationWithTitle(std::nullopt, true).toUtf8()}};
+    if (const auto text = attributedStringRepresentationWithTitle(std::nullopt))
+        content.emplace(QStringLiteral("text/plain"), text->string().toUtf8());
+    return content;
+}
+
+void WordCounterViewController::serve(Window &window)
+{
+    window.setCopyProvider([weakPanel = weak_from_this()] {
+        const auto panel = weakPanel.lock();
+        return panel ? panel->statisticsToCopy() : MimeContent();
+    });
+    connect(&window, &Window::textMetricsDidChange, this, &WordCounterViewController::fitLabels);
+}

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "presentation/WordCounterServiceProtocol.h"
+
+#include "platform/locale/CurrentLocale.h"
+
+QString WordCounterServiceProtocol::serviceName()
+{
+    return QStringLiteral("Brisklane.QBYServiceProviderXPC");
+}
+
+RemoteObjectInterface WordCounterServiceProtocol::interface()
+{
+    return {.objectPath = QStringLiteral("/Brisklane/QBYServiceProviderXPC"),
+        .name = QStringLiteral("com.quillbay.WordCounterServiceProtocol")};
+}
+
+void WordCounterServiceProtocol::countWordsForAttributedStringRTFDData(Data data, Results withResults) const
+{
+    send(QStringLiteral("countWordsForAttributedStringRTFDData"), std::move(data), std::move(withResults));
+}
+
+void WordCounterServiceProtocol::countWordsForDocX(Data data, Results withResults) const
+{
+    send(QStringLiteral("countWordsForDocX"), std::move(data), std::move(withResults));
+}
+
+void WordCounterServiceProtocol::send(const QString &method, Data data, Results withResults) const
+{
+    m_proxy.send({.method = method,
+                     .payload = std::move(data),
+                     .options = {{QStringLiteral("locale"), currentLocaleIdentifier()}}},
+        std::move(withResults));
+}

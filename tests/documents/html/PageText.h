@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// What the tests of the texts of pages have in common.
+#pragma once
+
+#include "documents/html/HtmlReader.h"
+#include "tests/harness/QuillbayTest.h"
+
+struct PageCase {
+    const char *page;
+    const char16_t *text;
+};
+
+inline void expectTexts(std::initializer_list<PageCase> cases)
+{
+    for (const PageCase &pageAndText : cases) {
+        const Result<AttributedString, HtmlError> read = readHtml(pageAndText.page, {.charset = "utf-8"});
+        EXPECT_EQ(
+            read ? read.value().string() : causeText(read.error()), QString::fromUtf16(pageAndText.text))
+            << pageAndText.page;
+    }
+}

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "documents/pdf/PdfReader.h"
+
+#include "tests/documents/pdf/PdfWriter.h"
+#include "tests/harness/QuillbayTest.h"
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <random>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using Encryption = PdfWriter::Encryption;
+
+QString textOf(const PdfWriter &file)
+{
+    const Result<AttributedString, PdfError> text = readPdf(file.bytes());
+    return text ? text.value().string() : causeText(text.error());
+}
+
+/// Of a page that these operators draw.
+QString textOfDrawing(const QByteArray &operators)
+{
+    return textOf({.pages = {operators}, .arePagesDrawn = true});
+}
+
+PdfError errorOf(const QByteArray &bytes, const PdfLimits &limits = {})
+{
+    const Result<AttributedString, PdfError> text = readPdf(bytes, limits);
+    EXPECT_FALSE(text.hasValue());
+    return text ? PdfError::NotReadHere : text.error();
+}
+
+/// A page of so many short texts, each of which Qt Pdf keeps as an object of its own.
+PdfWriter pageOfTexts(qsizetype count)
+{
+    return {.pages = {QByteArray("a\n").repeated(count)}, .isCompressed = true};
+}
+
+std::vector<int> openDescriptors()
+{
+    std::vector<int> open;
+    for (int descriptor = 0; descriptor < 1'000; ++descriptor)
+        if (::fcntl(descriptor, F_GETFD) >= 0)
+            open.push_back(descriptor);
+    return open;
+}
+
+} // namespace
+
+TEST(PdfReader, ReadsCompressedPages)
+{
+    EXPECT_EQ(textOf({.pages = {"one", "two"}, .isCompressed = true}), QStringLiteral("one\r\ntwo\r\n"));
+}
+
+TEST(PdfReader, EndsTheLastLineOfEveryPageThatHasText)
+{
+    EXPECT_EQ(textOf({{"first", "", "of third\nend", "1", "2"}}),
+        QStringLiteral("first\r\nof third\r\nend\r\n1\r\n2\r\n"));
+    EXPECT_EQ(textOf({{"", ""}}), QString());
+}
+
+TEST(PdfReader, KeepsWordsApartThatATabulatorDivides)
+{
+    EXPECT_EQ(textOfDrawing("BT /F1 12 Tf 72 720 Td (one\\ttwo) Tj ET"), QStringLiteral("one\ttwo\r\n"));
+    EXPECT_EQ(textOfDrawing("BT /F1 12 Tf 72 720 Td (one) Tj 36 0 Td (two) Tj 200 0 Td (three) Tj ET"),
+        QStringLiteral("one two three\r\n"));
+    EXPECT_EQ(
+        textOfDrawing("BT /F1 12 Tf 72 720 Td [(one) -2000 (two)] TJ ET"), QStringLiteral("one two\r\n"));
+}
+
+TEST(PdfReader, JoinsAWordThatAHyphenDividesAtTheEndOfALine)
+{
+    EXPECT_EQ(textOf({{"a hyphen-\nated word - and\nmore"}}),
+        QStringLiteral("a hyphen\u00ADated word - and\r\nmore\r\n"));
+}
+
+TEST(PdfReader, ReadsWhatIsEncryptedWithoutAPasswordToOpenIt)
+{
+    EXPECT_EQ(textOf({.pages = {"open to all"}, .encryption = Encryption::WithEmptyPassword}),
+        QStringLiteral("open to all\r\n"));
+}
+
+TEST(PdfReader, NamesTheCauseOfAFailure)
+{
+    EXPECT_EQ(errorOf({}), PdfError::NotPdf);
+    EXPECT_EQ(errorOf("Some words."), PdfError::NotPdf);
+    EXPECT_EQ(errorOf("%PDF-1.4\n"), PdfError::Damaged);
+    EXPECT_EQ(errorOf(PdfWriter{{"text"}}.bytes().first(100)), PdfError::Damaged);
+    EXPECT_EQ(errorOf(PdfWriter{}.bytes()), PdfError::NoPages);
+    EXPECT_EQ(errorOf(PdfWriter{}.bytes().replace("[]", "[ \n]")), PdfError::NoPages);
+    EXPECT_EQ(errorOf(PdfWriter{.pages = {"text"}, .encryption = Encryption::WithPassword}.bytes()),
+        PdfError::Encrypted);
+}
+
+TEST(PdfReader, TellsCausesInOneLineWithARemedy)
+{
+    for (const PdfError error : {PdfError::Encrypted, PdfError::Damaged, PdfError::NoPages, PdfError::NoText,
+             PdfError::UnmappedText, PdfError::TooIntricate, PdfError::NotReadHere, PdfError::NoReader}) {
+        EXPECT_TRUE(causeText(error).contains(u';')) << qPrintable(causeText(error));
+        EXPECT_FALSE(causeText(error).contains(u'\n'));
+    }
+}
+
+TEST(PdfReader, EndsWithACauseWhereAFileTakesTooMuchMemory)
+{
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "a sanitized program cannot run under a limit of its memory";
+#endif
+    const QByteArray bomb = pageOfTexts(2'000'000).bytes();
+    EXPECT_LT(bomb.size(), 100'000);
+    EXPECT_EQ(errorOf(bomb, {.memory = 100'000'000}), PdfError::TooIntricate);
+}
+
+TEST(PdfReader, EndsWithACauseWhereAFileTakesTooMuchTime)
+{
+    PdfWriter file = pageOfTexts(200'000);
+    file.pages = QByteArrayList(20, file.pages.first());
+    EXPECT_EQ(errorOf(file.bytes(), {.time = std::chrono::seconds(1)}), PdfError::TooIntricate);
+}
+
+TEST(PdfReader, EndsWithACauseWhereTheTextIsTooLong)
+{
+    const QByteArray file = PdfWriter{{"0123456789", "0123456789"}}.bytes();
+    EXPECT_EQ(errorOf(file, {.length = 23}), PdfError::TooIntricate);
+    EXPECT_EQ(readPdf(file, {.length = 24}).value().length(), 24);
+}
+
+TEST(PdfReader, BelievesNoNumberOfPages)
+{
+    for (const int claimed : {0, 1, 3, 1'000'000, 2'000'000'000}) {
+        const Result<AttributedString, PdfError> text =
+            readPdf(PdfWriter{.pages = {"one", "two"}, .claimedPages = claimed}.bytes());
+        EXPECT_TRUE(text ? QStringLiteral("one\r\ntwo\r\n").startsWith(text.value().string())
+                         : text.error() == PdfError::Damaged || text.error() == PdfError::NoPages)
+            << claimed;
+    }
+}
+
+TEST(PdfReader, SurvivesChangedBytes)
+{
+    const QByteArray sound = PdfWriter{.pages = {"some text", "and more"}, .isCompressed = true}.bytes();
+    std::mt19937 random(11);
+    for (int round = 0; round < 200; ++round) {
+        QByteArray changed = sound;
+        for (int change = 0; change < 3; ++change)
+            changed[static_cast<qsizetype>(random() % static_cast<size_t>(sound.size()))] =
+                static_cast<char>(random());
+        const Result<AttributedString, PdfError> text = readPdf(changed);
+        EXPECT_TRUE(text || text.error() != PdfError::NotEnoughMemory);
+    }
+}
+
+TEST(PdfReader, LeavesNoDescriptorAndNoProcessBehind)
+{
+    const std::vector<int> before = openDescriptors();
+    EXPECT_TRUE(readPdf(PdfWriter{{"text"}}.bytes()).hasValue());
+    EXPECT_FALSE(readPdf("%PDF-1.4\n").hasValue());
+    EXPECT_EQ(openDescriptors(), before);
+    rusage usage{};
+    ::getrusage(RUSAGE_CHILDREN, &usage);
+    EXPECT_GT(usage.ru_maxrss, 0) << "nothing was read in another process";
+}
+
+TEST(PdfReader, ReadsInAProgramWhoseStandardStreamsAreClosed)
+{
+    std::array<int, 3> kept{};
+    for (int stream = 0; stream < 3; ++stream) {
+        kept[static_cast<size_t>(stream)] = ::fcntl(stream, F_DUPFD_CLOEXEC, 10);
+        ::close(stream);
+    }
+    const QString text = textOf({{"no streams"}});
+    for (int stream = 0; stream < 3; ++stream) {
+        ::dup2(kept[static_cast<size_t>(stream)], stream);
+        ::close(kept[static_cast<size_t>(stream)]);
+    }
+    EXPECT_EQ(text, QStringLiteral("no streams\r\n"));
+}
+
+TEST(PdfReader, ReadsOnSeveralThreadsAtOnce)
+{
+    std::atomic<int> read = 0;
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 4; ++thread)
+        threads.emplace_back([&read] {
+            for (int round = 0; round < 10; ++round)
+                read += textOf({{"some words"}}) == QStringLiteral("some words\r\n") ? 1 : 0;
+        });
+    for (std::thread &thread : threads)
+        thread.join();
+    EXPECT_EQ(read, 40);
+}

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "front_end/QBYServiceProviderAppDelegate.h"
+
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/session_bus/ServiceStandIn.h"
+#include "tests/platform/views/FakeDesktop.h"
+#include "tests/presentation/StatsPanel.h"
+
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+namespace {
+
+const QString nothingReported = QStringLiteral("as before");
+
+class AppDelegate : public QuillbayTest {
+protected:
+    AppDelegate() { preferOnly(everyStatistic); }
+
+    /// The error that the service reports.
+    QString count(const Pasteboard &pasteboard)
+    {
+        QString error = nothingReported;
+        delegate.wordCountSelectedTextService(pasteboard, QString(), &error);
+        return error;
+    }
+    QString count(const char *text) { return count(Pasteboard({{QStringLiteral("text/plain"), text}})); }
+
+    ServiceStandIn service{WordCounterServiceProtocol::serviceName(), {"answer 1 2 3 4 5 6 7 8"}};
+    FakeDesktop desktop;
+    ApplicationActivity activity{true};
+    std::vector<ServicesProvider *> registered;
+    QBYServiceProviderAppDelegate delegate{
+        {desktop, activity}, [this](ServicesProvider &provider) { registered.push_back(&provider); }};
+};
+
+} // namespace
+
+TEST_F(AppDelegate, OffersTheServicesWhenLaunchingHasFinished)
+{
+    EXPECT_THAT(registered, IsEmpty());
+    delegate.applicationDidFinishLaunching();
+    EXPECT_THAT(registered, testing::ElementsAre(&delegate));
+}
+
+TEST_F(AppDelegate, OpensAWindowForTheSelectedText)
+{
+    EXPECT_EQ(count("A text."), nothingReported);
+    ASSERT_THAT(delegate.statWindowControllerForSelectedText(), SizeIs(1));
+    const auto &controller = delegate.statWindowControllerForSelectedText().front();
+    EXPECT_EQ(controller->attributedStringToCount().string(), QStringLiteral("A text."));
+    EXPECT_EQ(controller->delegate(), &delegate);
+    EXPECT_TRUE(controller->window()->isVisible());
+}
+
+TEST_F(AppDelegate, OpensAWindowForAnEmptyText)
+{
+    EXPECT_EQ(count(""), nothingReported);
+    EXPECT_THAT(delegate.statWindowControllerForSelectedText(), SizeIs(1));
+}
+
+TEST_F(AppDelegate, ReportsAPasteboardWithoutText)
+{
+    EXPECT_EQ(count(Pasteboard()), QStringLiteral("Quillbay failed to read retrieve text."));
+    EXPECT_EQ(count(Pasteboard({{QStringLiteral("image/png"), "\x89PNG"}})),
+        QStringLiteral("Quillbay failed to read retrieve text."));
+    EXPECT_THAT(delegate.statWindowControllerForSelectedText(), IsEmpty());
+    EXPECT_EQ(desktop.numberOnScreen, 0);
+}
+
+TEST_F(AppDelegate, DropsTheReportWhereNobodyTakesIt)
+{
+    delegate.wordCountSelectedTextService(Pasteboard(), QString(), nullptr);
+    EXPECT_FALSE(delegate.isInUse());
+}
+
+TEST_F(AppDelegate, KeepsTheWindowsInTheOrderOfTheRequestsUntilEachIsClosed)
+{
+    count("one");
+    count("two");
+    count("two");
+    const auto controllers = delegate.statWindowControllerForSelectedText();
+    ASSERT_THAT(controllers, SizeIs(3));
+    EXPECT_EQ(controllers[0]->attributedStringToCount().string(), QStringLiteral("one"));
+    int endings = 0;
+    delegate.setSomethingEndedHandler([&] { ++endings; });
+    controllers[1]->closeButtonAction(nullptr);
+    EXPECT_THAT(
+        delegate.statWindowControllerForSelectedText(), testing::ElementsAre(controllers[0], controllers[2]));
+    EXPECT_EQ(endings, 1);
+    EXPECT_TRUE(controllers[0]->window()->isVisible());
+    EXPECT_TRUE(delegate.isInUse());
+    controllers[0]->closeButtonAction(nullptr);
+    controllers[2]->closeButtonAction(nullptr);
+    EXPECT_FALSE(delegate.isInUse());
+}
+
+TEST_F(AppDelegate, LetsAWindowGoWhenItIsClosed)
+{
+    count("text");
+    const std::weak_ptr<QBYServiceProviderShowStatsWindowController> life =
+        delegate.statWindowControllerForSelectedText().front();
+    life.lock()->window()->performClose();
+    EXPECT_TRUE(life.expired());
+}
+
+TEST_F(AppDelegate, TakesOtherRegistriesAndLetsGoWhatTheOldOnesHeld)
+{
+    count("one");
+    count("two");
+    const auto two = delegate.statWindowControllerForSelectedText().back();
+    const std::weak_ptr<QBYServiceProviderShowStatsWindowController> one =
+        delegate.statWindowControllerForSelectedText().front();
+    delegate.setStatWindowControllerForSelectedText({two});
+    EXPECT_THAT(delegate.statWindowControllerForSelectedText(), testing::ElementsAre(two));
+    EXPECT_TRUE(one.expired());
+    two->closeButtonAction(nullptr);
+    EXPECT_THAT(delegate.statWindowControllerForSelectedText(), IsEmpty());
+
+    const auto watcher = WatchTextFileMenuBarController::initWithoutMenuItem({desktop, activity});
+    delegate.setWatchTextFileControllers({watcher});
+    EXPECT_THAT(delegate.watchTextFileControllers(), testing::ElementsAre(watcher));
+    EXPECT_TRUE(delegate.isInUse());
+    delegate.watchTextFileMenuBarControllerDidFinish(*watcher);
+    EXPECT_FALSE(delegate.isInUse());
+}
+
+TEST_F(AppDelegate, EndsTheApplicationWithItsLastWindow)
+{
+    EXPECT_TRUE(QBYServiceProviderAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+}

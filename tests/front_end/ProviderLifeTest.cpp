@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+// How long the service provider stays.
+#include "platform/services/ServiceInterface.h"
+#include "tests/front_end/ProviderTest.h"
+#include "tests/harness/PrivateBus.h"
+#include "tests/presentation/StatsPanel.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+
+namespace {
+
+class ProviderLife : public ProviderTest {
+protected:
+    ProviderLife() { preferOnly(everyStatistic); }
+
+    /// The provider has handled all that has happened so far.
+    void settle() const
+    {
+        const QDBusMessage ping =
+            QDBusMessage::createMethodCall(ServiceInterface::busName(), ServiceInterface::objectPath(),
+                QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+        EXPECT_EQ(m_bus.call(ping).type(), QDBusMessage::ReplyMessage);
+    }
+
+    static void closeAll()
+    {
+        EXPECT_TRUE(waitUntil([&] {
+            const QStringList open = windows();
+            if (!open.isEmpty())
+                click(open.last(), rectOf(open.last()).width() - 12, 16);
+            return open.isEmpty();
+        }));
+    }
+};
+
+} // namespace
+
+TEST_F(ProviderLife, LastsUntilTheFirstRequest)
+{
+    startProvider();
+    const pid_t process = provider();
+    for (int i = 0; i < 5; ++i)
+        settle();
+    EXPECT_EQ(count(QStringLiteral("A text.")), QString());
+    EXPECT_EQ(provider(), process);
+}
+
+TEST_F(ProviderLife, EndsWithARequestThatLeavesNothingBehind)
+{
+    startProvider();
+    const pid_t process = provider();
+    EXPECT_EQ(ask(QStringLiteral("wordCountSelectedTextService"), Pasteboard()),
+        QStringLiteral("Quillbay failed to read retrieve text."));
+    waitForEnd(process);
+}
+
+TEST_F(ProviderLife, GoesOnWithAWindowWhenALaterRequestIsRefused)
+{
+    EXPECT_EQ(count(QStringLiteral("A text.")), QString());
+    const pid_t process = provider();
+    EXPECT_NE(ask(QStringLiteral("wordCountSelectedTextService"), Pasteboard()), QString());
+    settle();
+    EXPECT_EQ(provider(), process);
+    waitForWindows(1);
+}
+
+TEST_F(ProviderLife, NoRequestIsLostWhileItLeaves)
+{
+    // Each finds a provider that has just been left without anything to do.
+    for (int i = 0; i < 30; ++i) {
+        EXPECT_EQ(ask(QStringLiteral("wordCountSelectedTextService"), Pasteboard()),
+            QStringLiteral("Quillbay failed to read retrieve text."));
+    }
+    EXPECT_EQ(count(QStringLiteral("A text.")), QString());
+    waitForWindows(1);
+    closeAll();
+}
+
+/// A provider on a bus and a display of its own, with two windows open.
+class ProviderOfItsOwn {
+public:
+    explicit ProviderOfItsOwn(const QByteArray &display)
+    {
+        program.withVariable("DBUS_SESSION_BUS_ADDRESS", bus.address());
+        program.withVariable("DISPLAY", display);
+        program.start({});
+        QDBusConnection client = QDBusConnection::connectToBus(
+            QString::fromLatin1(bus.address()), QStringLiteral("client-of-its-own"));
+        EXPECT_TRUE(waitUntil(
+            [&] { return client.interface()->isServiceRegistered(ServiceInterface::busName()).value(); }));
+        QDBusMessage request =
+            QDBusMessage::createMethodCall(ServiceInterface::busName(), ServiceInterface::objectPath(),
+                ServiceInterface::interfaceName(), QStringLiteral("wordCountSelectedTextService"));
+        request.setArguments(
+            {QVariantMap{{QStringLiteral("text/plain"), QByteArray("A text.")}}, QString(), QVariantMap()});
+        for (int window = 0; window < 2; ++window)
+            EXPECT_EQ(client.call(request).type(), QDBusMessage::ReplyMessage);
+        QDBusConnection::disconnectFromBus(client.name());
+    }
+
+    PrivateBus bus;
+    ChildProcess program{productProgram(QStringLiteral("quillbay-service-provider"))};
+};
+
+TEST_F(ProviderLife, EndsWithTheSessionBusWhateverWindowsAreOpen)
+{
+    // A window that is asked to close may say no, and two of them do not close at once.
+    ProviderOfItsOwn provider(TestDisplay::start().toLatin1());
+    waitForWindows(2);
+    provider.bus.end();
+    EXPECT_EQ(provider.program.finish().exitStatus, 0);
+}
+
+TEST_F(ProviderLife, ExitsWithAStatusOfItsOwnWhenTheXServerDies)
+{
+    ChildProcess server(QStringLiteral("Xvfb"));
+    server.start({"-displayfd", "1", "-nolisten", "tcp", "-noreset"});
+    ProviderOfItsOwn provider(':' + server.readLine());
+    server.kill();
+    const ChildProcess::Outcome outcome = provider.program.finish();
+    EXPECT_EQ(outcome.exitStatus, 3) << outcome.errors.toStdString();
+    EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("The X11 connection broke"));
+}
+
+TEST(ProviderUsage, TakesNoArguments)
+{
+    const auto outcome =
+        ChildProcess(productProgram(QStringLiteral("quillbay-service-provider"))).run({"--help"});
+    EXPECT_EQ(outcome.exitStatus, 2);
+    EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("takes no arguments"));
+}
+
+TEST(ProviderUsage, SaysThatThereIsNoDisplay)
+{
+    const auto outcome = ChildProcess(productProgram(QStringLiteral("quillbay-service-provider")))
+                             .withoutVariable("DISPLAY")
+                             .withoutVariable("WAYLAND_DISPLAY")
+                             .withoutVariable("QT_QPA_PLATFORM")
+                             .run({});
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("no display"));
+}

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// What the tests of connections share: a service's name and interface, requests, and the log.
+#pragma once
+
+#include "platform/session_bus/ServiceConnection.h"
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/session_bus/RecordedReplies.h"
+#include "tests/platform/session_bus/ServiceStandIn.h"
+
+#include <QDir>
+
+inline const QString standInName = QStringLiteral("com.quillbay.test.Service");
+inline const ServiceReply counts = {1, 2, 3, 4, 5, 6, 7, 8};
+
+class ConnectionTest : public QuillbayTest {
+protected:
+    static std::unique_ptr<ServiceConnection> resumedConnection()
+    {
+        auto connection = std::make_unique<ServiceConnection>(standInName);
+        connection->setRemoteObjectInterface(
+            {QStringLiteral("/com/quillbay/test"), QStringLiteral("com.quillbay.test.Counting")});
+        connection->resume();
+        return connection;
+    }
+
+    static ServiceRequest request(const QByteArray &payload = "text")
+    {
+        auto memory = SealedMemory::copyOf(payload);
+        EXPECT_TRUE(memory);
+        return {.method = QStringLiteral("count"),
+            .payload = std::make_shared<const SealedMemory>(std::move(memory).value()),
+            .options = {}};
+    }
+
+    void send(const ServiceConnection &connection, const QByteArray &payload = "text")
+    {
+        connection.remoteObjectProxy().send(request(payload), m_replies.handler());
+    }
+
+    void waitForLogLines(qsizetype count)
+    {
+        EXPECT_TRUE(waitUntil([this, count] { return m_log.messages().size() >= count; }));
+    }
+
+    /// How many descriptors this process has open.
+    static qsizetype openDescriptors()
+    {
+        return QDir(QStringLiteral("/proc/self/fd"))
+            .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+            .size();
+    }
+
+    RecordingLogSink m_log; // outlives the connections of a test
+    RecordedReplies m_replies;
+};

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "platform/session_bus/PendingReplies.h"
+
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <memory>
+#include <vector>
+
+namespace {
+
+class CountsItsOwnCalls {
+public:
+    [[nodiscard]] ServiceReplyHandler handler()
+    {
+        return [this](const ServiceReply &reply) {
+            ++calls;
+            last = reply;
+        };
+    }
+
+    int calls = 0;
+    ServiceReply last = {};
+};
+
+} // namespace
+
+TEST(PendingReplies, AReplyReachesTheHandlerOfItsRequestOnce)
+{
+    CountsItsOwnCalls first;
+    CountsItsOwnCalls second;
+    PendingReplies pending;
+    const auto one = pending.add(first.handler());
+    const auto two = pending.add(second.handler());
+    pending.deliver(two, {2});
+    pending.deliver(one, {1});
+    pending.deliver(one, {3});
+    pending.deliver(two, {3});
+    EXPECT_EQ(first.calls, 1);
+    EXPECT_EQ(first.last, ServiceReply{1});
+    EXPECT_EQ(second.calls, 1);
+    EXPECT_EQ(second.last, ServiceReply{2});
+}
+
+TEST(PendingReplies, ADroppedHandlerIsNotCalled)
+{
+    CountsItsOwnCalls handler;
+    PendingReplies pending;
+    const auto identifier = pending.add(handler.handler());
+    pending.drop(identifier);
+    pending.drop(identifier);
+    pending.deliver(identifier, {});
+    EXPECT_EQ(handler.calls, 0);
+}
+
+TEST(PendingReplies, NothingIsDeliveredOnceClosed)
+{
+    CountsItsOwnCalls handler;
+    PendingReplies pending;
+    const auto before = pending.add(handler.handler());
+    pending.close();
+    const auto after = pending.add(handler.handler());
+    pending.deliver(before, {});
+    pending.deliver(after, {});
+    EXPECT_EQ(handler.calls, 0);
+}
+
+TEST(PendingReplies, HandlersAreLetGoWhenTheyAreCalledDroppedClosedOrTooLate)
+{
+    PendingReplies pending;
+    const auto held = std::make_shared<int>();
+    const auto handler = [&held] { return [held](const ServiceReply &) {}; };
+    pending.deliver(pending.add(handler()), {});
+    EXPECT_EQ(held.use_count(), 1);
+    pending.drop(pending.add(handler()));
+    EXPECT_EQ(held.use_count(), 1);
+    pending.add(handler());
+    EXPECT_EQ(held.use_count(), 2);
+    pending.close();
+    EXPECT_EQ(held.use_count(), 1);
+    pending.add(handler());
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+// A handler may hold the last reference to what closes the connection when it ends.
+TEST(PendingReplies, AHandlerMayCloseWhileItRunsAndWhileItEnds)
+{
+    PendingReplies pending;
+    const std::shared_ptr<void> closer(nullptr, [&pending](void *) { pending.close(); });
+    CountsItsOwnCalls other;
+    const auto never = pending.add(other.handler());
+    auto identifier = pending.add([closer, &pending](const ServiceReply &) { pending.close(); });
+    pending.deliver(identifier, {});
+    pending.deliver(never, {});
+    EXPECT_EQ(other.calls, 0);
+}
+
+TEST(PendingReplies, EndingHandlersMayAddAndDropOthers)
+{
+    PendingReplies pending;
+    const auto adder = [&pending] {
+        const std::shared_ptr<void> held(
+            nullptr, [&pending](void *) { pending.drop(pending.add([](const ServiceReply &) {})); });
+        return [held](const ServiceReply &) {};
+    };
+    pending.deliver(pending.add(adder()), {});
+    pending.drop(pending.add(adder()));
+    pending.add(adder());
+    pending.close();
+    pending.add(adder());
+}
+
+// Closes after every possible number of deliveries, while the next one is underway.
+TEST(PendingReplies, ClosingRacesWithDeliveryAndWins)
+{
+    constexpr int replies = 8;
+    for (int round = 0; round < 1000; ++round) {
+        PendingReplies pending;
+        std::atomic<int> started = 0;
+        int ended = 0; // not atomic: what close() promises keeps these two from being used at once
+        bool isOver = false;
+        std::vector<PendingReplies::Identifier> identifiers;
+        for (int i = 0; i < replies; ++i) {
+            identifiers.push_back(pending.add([&](const ServiceReply &) {
+                EXPECT_FALSE(isOver);
+                ++started;
+                started.notify_one();
+                ++ended;
+            }));
+        }
+        std::thread deliverer([&] {
+            for (const auto identifier : identifiers)
+                pending.deliver(identifier, {});
+        });
+        for (int seen = 0; seen < round % replies; seen = started)
+            started.wait(seen);
+        pending.close();
+        isOver = true;
+        ASSERT_GE(ended, round % replies);
+        ASSERT_EQ(ended, started);
+        deliverer.join();
+        ASSERT_EQ(ended, started);
+    }
+}
+
+TEST(PendingReplies, RequestsMayBeAddedOnManyThreads)
+{
+    PendingReplies pending;
+    std::atomic<int> calls = 0;
+    std::vector<std::thread> threads;
+    std::vector<std::vector<PendingReplies::Identifier>> identifiers(4);
+    for (auto &added : identifiers) {
+        threads.emplace_back([&pending, &calls, &added] {
+            for (int i = 0; i < 500; ++i)
+                added.push_back(pending.add([&calls](const ServiceReply &) { ++calls; }));
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    for (const auto &added : identifiers) {
+        for (const auto identifier : added)
+            pending.deliver(identifier, {});
+    }
+    EXPECT_EQ(calls, 2000);
+}

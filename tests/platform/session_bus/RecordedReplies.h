@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// RecordedReplies notes down the replies that its handlers are given, and on which threads.
+// Thread: any.  Owner: the test; outlives its handlers.
+#pragma once
+
+#include "platform/session_bus/ServiceRequest.h"
+#include "tests/harness/WaitUntil.h"
+
+#include <gtest/gtest.h>
+
+#include <mutex>
+#include <thread>
+#include <vector>
+
+class RecordedReplies {
+public:
+    [[nodiscard]] ServiceReplyHandler handler()
+    {
+        return [this](const ServiceReply &reply) {
+            const std::lock_guard guard(m_mutex);
+            m_replies.push_back(reply);
+            m_threads.push_back(std::this_thread::get_id());
+        };
+    }
+
+    [[nodiscard]] std::vector<ServiceReply> replies() const
+    {
+        const std::lock_guard guard(m_mutex);
+        return m_replies;
+    }
+    [[nodiscard]] std::vector<std::thread::id> threads() const
+    {
+        const std::lock_guard guard(m_mutex);
+        return m_threads;
+    }
+    [[nodiscard]] size_t count() const { return replies().size(); }
+
+    void waitFor(size_t count) const
+    {
+        EXPECT_TRUE(waitUntil([this, count] { return this->count() >= count; })) << "replies: " << count;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::vector<ServiceReply> m_replies;
+    std::vector<std::thread::id> m_threads;
+};

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// A second process at the notifications.
+//   notifier post NAME        posts and ends at once
+//   notifier observe NAME     prints "ready", then "posted" for each notification
+//   notifier talk             posts the name in each line that it reads and says "done"; hears "echo"
+//   notifier without-application NAME
+#include "platform/session_bus/DistributedNotificationCenter.h"
+#include "platform/session_bus/NotificationObserver.h"
+
+#include <QCoreApplication>
+
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+int main(int argumentCount, char **arguments)
+{
+    const std::string_view verb(argumentCount > 1 ? arguments[1] : "");
+    const QString name = QString::fromLatin1(argumentCount > 2 ? arguments[2] : "");
+    if (verb == "without-application") {
+        DistributedNotificationCenter::post(name);
+        return 0;
+    }
+    QCoreApplication application(argumentCount, arguments);
+    if (verb == "post") {
+        DistributedNotificationCenter::post(name);
+        std::_Exit(0); // nothing is left to destructors
+    }
+    if (verb == "observe") {
+        const NotificationObserver observer(name);
+        QObject::connect(
+            &observer, &NotificationObserver::posted, &observer, [] { std::cout << "posted" << std::endl; });
+        std::cout << "ready" << std::endl;
+        return QCoreApplication::exec();
+    }
+    const NotificationObserver observer(QStringLiteral("echo"));
+    std::cout << "ready" << std::endl;
+    for (std::string line; std::getline(std::cin, line);) {
+        DistributedNotificationCenter::post(QString::fromStdString(line));
+        std::cout << "done" << std::endl;
+    }
+    return 0;
+}

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+// Saves at moments chosen at random, with the real counting service, whose processes die at random: what the
+// label shows in the end is what the file says. QUILLBAY_SOAK_SAVES says how many saves (40),
+// QUILLBAY_SOAK_SEED which.
+#include "tests/counting_service/CountingServiceTest.h"
+#include "tests/platform/file_coordination/FakeClock.h"
+#include "tests/platform/views/FakeDesktop.h"
+#include "tests/presentation/StatsPanel.h"
+#include "watching/windows/WatchTextFileMenuBarController.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QSaveFile>
+
+#include <csignal>
+#include <random>
+
+namespace {
+
+class CountSoak : public CountingServiceTest {
+protected:
+    CountSoak()
+    {
+        preferOnly(everyStatistic);
+        m_watcher->watchWithTextFileURL(QUrl::fromLocalFile(m_path));
+        m_activity.setActive(false); // it polls from here on
+    }
+
+    int chosen(int least, int most) { return std::uniform_int_distribution(least, most)(m_random); }
+
+    /// Serves events for a while of up to so many milliseconds.
+    void dally(int most)
+    {
+        for (QDeadlineTimer end(chosen(0, most)); !end.hasExpired();)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1);
+        if (chosen(0, 1))
+            m_clock.advance(std::chrono::milliseconds(chosen(0, 400)));
+    }
+
+    void save()
+    {
+        m_words = chosen(0, 9) ? chosen(0, 500) : chosen(5'000, 20'000);
+        const QByteArray text = QByteArray("word ").repeated(m_words);
+        if (chosen(0, 1)) {
+            QSaveFile file(m_path);
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(text);
+            ASSERT_TRUE(file.commit());
+        } else {
+            QFile file(m_path);
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(text);
+        }
+    }
+
+    void killSomebody()
+    {
+        const pid_t broker = service();
+        if (!broker)
+            return;
+        const std::vector<SeenProcess> workers = childrenOf(broker);
+        const bool isWorker = !workers.empty() && chosen(0, 1);
+        const pid_t victim = isWorker
+            ? workers.at(static_cast<size_t>(chosen(0, static_cast<int>(workers.size()) - 1))).identifier
+            : broker;
+        ++(isWorker ? m_killedWorkers : m_killedBrokers);
+        ::kill(victim, SIGKILL);
+    }
+
+    [[nodiscard]] bool isCounting() const { return statistics().isAsyncCountOperationInProgress(); }
+    [[nodiscard]] WordCounterViewController &statistics() const
+    {
+        return *m_watcher->watchTextFileViewControllerForPopover()->wordCounterViewController();
+    }
+
+    /// One to three saves and perhaps one death, at moments chosen at random; the last save and one poll
+    /// later the label shows the file.
+    int round()
+    {
+        const int saves = chosen(1, 3);
+        const int deathBehind = chosen(0, 2) ? -1 : chosen(0, saves - 1);
+        for (int i = 0; i < saves; ++i) {
+            dally(12);
+            save();
+            if (i == deathBehind) {
+                m_clock.advance(std::chrono::milliseconds(200));
+                dally(8);
+                killSomebody();
+            }
+        }
+        EXPECT_TRUE(waitUntil([this] { return !isCounting(); }));
+        m_clock.advance(WatchTextFileModel::pollInterval);
+        EXPECT_TRUE(waitUntil([this] { return !isCounting(); }));
+        EXPECT_EQ(
+            statistics().wordCountTextField()->stringValue(), QStringLiteral("•Words: %1").arg(m_words));
+        return saves;
+    }
+
+    const unsigned m_seed = qEnvironmentVariableIsSet("QUILLBAY_SOAK_SEED")
+        ? qEnvironmentVariableIntValue("QUILLBAY_SOAK_SEED")
+        : std::random_device()();
+    std::mt19937 m_random{m_seed};
+    const QString m_path = writeFile(QStringLiteral("novel.txt"), "One two three.");
+    int m_words = 0;
+    int m_killedBrokers = 0;
+    int m_killedWorkers = 0;
+    FakeDesktop m_desktop;
+    FakeClock m_clock;
+    ApplicationActivity m_activity{true};
+    std::shared_ptr<WatchTextFileMenuBarController> m_watcher =
+        WatchTextFileMenuBarController::initWithoutMenuItem({m_desktop, m_activity, nullptr, m_clock});
+};
+
+} // namespace
+
+TEST_F(CountSoak, TheLabelIsTheFileAfterTheLastSaveAndOnePoll)
+{
+    const int wanted = std::max(qEnvironmentVariableIntValue("QUILLBAY_SOAK_SAVES"), 40);
+    int saves = 0;
+    while (saves < wanted && !HasFailure())
+        saves += round();
+    EXPECT_TRUE(m_desktop.notes.isEmpty()) << m_desktop.notes.join(u' ').toStdString();
+    EXPECT_GT(m_killedBrokers + m_killedWorkers, 0);
+    std::printf("seed %u: %d saves, %d brokers and %d workers killed\n", m_seed, saves, m_killedBrokers,
+        m_killedWorkers);
+}

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// WatchPanelTest is the fixture of the tests of the watch panel: the panel of the program, its presenter, and
+// labels of known sizes; nothing is on a screen.
+#pragma once
+
+#include "platform/views/Popover.h"
+#include "platform/views/Window.h"
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/views/FakeDesktop.h"
+#include "tests/presentation/StatsPanel.h"
+#include "watching/windows/WatchTextFileViewController.h"
+
+/// Notes down what the panel says: "close", "stop", "spins", "rests", "asked for the pop-over".
+class RecordingPresenter : public WatchTextFileViewControllerDelegate {
+public:
+    void watchTextFileViewControllerRequestedClose(WatchTextFileViewController &panel) override
+    {
+        note("close", &panel);
+    }
+    void watchTextFileViewControllerRequestedStop(WatchTextFileViewController *panel) override
+    {
+        note("stop", panel);
+    }
+    Popover *popoverFromPresenterForAutoResizeOrNil(WatchTextFileViewController &panel) override
+    {
+        note("asked for the pop-over", &panel);
+        return popover;
+    }
+    void didChangeActivityIndicatorAnimationState(
+        WatchTextFileViewController &panel, bool isAnimating) override
+    {
+        note(isAnimating ? "spins" : "rests", &panel);
+    }
+
+    std::vector<std::string> calls;
+    Popover *popover = nullptr;
+    WatchTextFileViewController *expectedPanel = nullptr;
+    std::function<void()> whenCalled;
+
+private:
+    void note(const char *call, const WatchTextFileViewController *panel)
+    {
+        EXPECT_EQ(panel, expectedPanel) << call;
+        calls.emplace_back(call);
+        if (whenCalled)
+            whenCalled();
+    }
+};
+
+class WatchPanelTest : public QuillbayTest {
+protected:
+    using Labels = BaseWordCounterViewController::Labels;
+
+    explicit WatchPanelTest(bool autoSyncActivityIndicator = true)
+    {
+        preferOnly(everyStatistic);
+        makePanel(autoSyncActivityIndicator);
+    }
+
+    void makePanel(bool autoSyncActivityIndicator)
+    {
+        m_panel = std::make_shared<WatchTextFileViewController>(autoSyncActivityIndicator);
+        m_panel->setDelegate(&m_presenter);
+        m_presenter.expectedPanel = m_panel.get();
+    }
+
+    /// Puts the panel's view into a window of its size, at (100, 200).
+    void putIntoWindow()
+    {
+        m_window = std::make_shared<Window>(QRectF({100, 200}, view().frame().size()));
+        m_window->setContentView(m_panel->view());
+    }
+
+    View &view() const { return *m_panel->view(); }
+    [[nodiscard]] View &statistics() const { return *m_panel->wordCounterViewController()->view(); }
+    [[nodiscard]] const Labels &labels() const
+    {
+        return m_panel->wordCounterViewController()->allTextfieldsForLayout();
+    }
+    /// The eight labels, in canonical order.
+    void setLabelWidths(const std::array<double, 8> &widths) const
+    {
+        for (size_t i = 0; i < widths.size(); ++i)
+            labels().at(i)->setFrameSize({widths.at(i), 17});
+    }
+
+    RecordingPresenter m_presenter;
+    FakeDesktop m_desktop;
+    std::shared_ptr<WatchTextFileViewController> m_panel;
+    std::shared_ptr<Window> m_window;
+};

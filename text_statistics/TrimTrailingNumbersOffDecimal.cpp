@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#include "text_statistics/TrimTrailingNumbersOffDecimal.h"
+
+#include "platform/locale/DecimalText.h"
+
+QString TrimTrailingNumbersOffDecimal::trimTrailingNumbersOffFloatingPointNumber(double number)
+{
+    constexpr int mostFractionDigits = 3;
+    const QString text = decimalText(number, mostFractionDigits);
+    return text.contains(u'.') ? text : text + QStringLiteral(".0");
+}

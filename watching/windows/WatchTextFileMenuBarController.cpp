@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+// A watcher and its document. How it looks is in WatcherViews.cpp.
+#include "watching/windows/WatchTextFileMenuBarController.h"
+
+#include "documents/loading/DocumentLoader.h"
+#include "platform/logging/LogChannel.h"
+#include "platform/system/FileURL.h"
+#include "platform/system/MainQueue.h"
+#include "preferences/QBYUserDefaultsController.h"
+#include "speech/ApplicationExtension.h"
+#include "watching/FileTypes.h"
+#include "watching/OpenPanelExtension.h"
+
+#include <utility>
+
+namespace {
+
+// Buttons of the alert, in their order.
+constexpr int closeButton = 0;
+
+Alert failureAlert(const QUrl &document)
+{
+    return {.messageText = QStringLiteral("Failed to load text."),
+        .informativeText = QStringLiteral(
+            "Quillbay was unable to update the stats of the text file currently being watched. "
+            "This usually means the file was either renamed or deleted. You can choose another "
+            "text file to watch or cancel."),
+        .buttons = {QStringLiteral("Close"), QStringLiteral("Choose another file.")},
+        .windowTitle = document.adjusted(QUrl::StripTrailingSlash).fileName()};
+}
+
+} // namespace
+
+WatchTextFileMenuBarController::WatchTextFileMenuBarController(const WatchSurroundings &surroundings)
+    : m_surroundings(surroundings)
+{
+}
+
+WatchTextFileMenuBarController::~WatchTextFileMenuBarController() = default;
+
+void WatchTextFileMenuBarController::watchWithTextFileURL(const QUrl &textFileURL)
+{
+    const QUrl url = textFileURL.adjusted(QUrl::StripTrailingSlash); // of a folder
+    setTitleOfPanels(lastPathComponent(url));
+    m_isChangeUncounted = false;
+    readFirst(url);
+    if (m_watchFileModel) {
+        m_watchFileModel->setTextFileURLToWatch(url, true);
+        return;
+    }
+    m_watchFileModel = std::make_unique<WatchTextFileModel>(
+        url, this, m_surroundings.applicationActivity, m_surroundings.clock);
+    m_watchFileModel->beginWatchingTextFile();
+}
+
+QUrl WatchTextFileMenuBarController::urlBeingWatched() const
+{
+    return m_watchFileModel ? m_watchFileModel->presentedItemURL() : QUrl();
+}
+
+void WatchTextFileMenuBarController::readFirst(const QUrl &url)
+{
+    if (QBYExtension::doesConformToDocXFileUTI(url)) {
+        countDocX(url);
+        return;
+    }
+    const Result<AttributedString, LoadError> text = loadDocument(pathOfFileURL(url));
+    if (text)
+        count(text.value());
+    else
+        LogChannel::standard().error(
+            u"Error loading attributed string {}", {publicly(causeText(text.error()))});
+}
+
+void WatchTextFileMenuBarController::count(const AttributedString &attributedString)
+{
+    m_watchTextFileViewControllerForPopover->wordCounterViewController()
+        ->asyncUpdateStatsWithAttributedString(attributedString, whenCounted());
+}
+
+void WatchTextFileMenuBarController::countDocX(const QUrl &url)
+{
+    WordCounterViewController &statistics =
+        *m_watchTextFileViewControllerForPopover->wordCounterViewController();
+    m_isChangeUncounted = statistics.isAsyncCountOperationInProgress();
+    statistics.asyncUpdateStatsDocXFileURL(url, whenCounted());
+}
+
+WordCounterViewController::Completion WatchTextFileMenuBarController::whenCounted()
+{
+    return [weakSelf = weak_from_this()] {
+        if (const auto self = weakSelf.lock())
+            self->countDidComplete();
+    };
+}
+
+void WatchTextFileMenuBarController::countDidComplete()
+{
+    const QBYWordCounterStats stats = m_watchTextFileViewControllerForPopover->wordCounterViewController()
+                                          ->wordCounter()
+                                          ->statsRepresentation();
+    // In the window form it is the same panel, which does no harm.
+    if (m_contentViewControllerForDetachableWindow)
+        m_contentViewControllerForDetachableWindow->wordCounterViewController()
+            ->updateInterfaceWithPrepopulatedStats(stats);
+    sayWordCountIfPreferred(stats.numberOfWords);
+}
+
+/// The panel drops what it is given while it counts, and a Word document is not polled: so the file
+/// coordination tells the last change again.
+void WatchTextFileMenuBarController::countingStateDidChange()
+{
+    const auto &statistics = *m_watchTextFileViewControllerForPopover->wordCounterViewController();
+    if (!statistics.isAsyncCountOperationInProgress() && std::exchange(m_isChangeUncounted, false))
+        FileCoordinator::tellChangeAgain(m_watchFileModel.get());
+}
+
+void WatchTextFileMenuBarController::sayWordCountIfPreferred(quint64 wordCount)
+{
+    if (!QBYUserDefaultsController::shouldSayWordCountOutloudOnSaveInWatchFileMode()
+        || wordCount == m_lastCalledOutWordCount)
+        return;
+    m_lastCalledOutWordCount = wordCount;
+    QBYExtension::sayWordCountOutloud(wordCount, m_surroundings.desktop, m_surroundings.speechLaunchPath);
+}
+
+void WatchTextFileMenuBarController::currentlyWatchedTextFileDidUpdateWithAttributedString(
+    const AttributedString &attributedString, WatchTextFileModel & /*watchModel*/)
+{
+    count(attributedString);
+}
+
+void WatchTextFileMenuBarController::currentlyWatchedDocXFileDidUpdateWithDocxData(
+    const QUrl &docxData, WatchTextFileModel & /*watchModel*/)
+{
+    countDocX(docxData);
+}
+
+void WatchTextFileMenuBarController::currentlyWatchedTextFileWasRenamed(
+    const QString &newName, WatchTextFileModel & /*watchModel*/)
+{
+    setTitleOfPanels(newName);
+}
+
+void WatchTextFileMenuBarController::currentlyWatchedTextFileDidFailToLoadAttribedText(
+    WatchTextFileModel &watchModel)
+{
+    m_isChangeUncounted = false;
+    watchModel.stopWatchingTextFile();
+    closeViews();
+    m_surroundings.desktop.beep();
+    // Later, so that the model's call returns first.
+    MainQueue::async([self = shared_from_this()] { self->askWhatToDo(); });
+}
+
+void WatchTextFileMenuBarController::askWhatToDo()
+{
+    m_surroundings.desktop.runAlert(failureAlert(urlBeingWatched()), [self = shared_from_this()](int button) {
+        if (button == closeButton)
+            self->watchTextFileViewControllerRequestedStop(nullptr);
+        else
+            self->chooseAnotherFile();
+    });
+}
+
+void WatchTextFileMenuBarController::chooseAnotherFile()
+{
+    m_surroundings.desktop.beginOpenPanel(QBYExtension::openPanelForTextFiles(),
+        [self = shared_from_this()](const std::optional<QList<QUrl>> &urls) {
+            if (!urls || urls->isEmpty()) {
+                self->watchTextFileViewControllerRequestedStop(nullptr);
+                return;
+            }
+            // Nothing is read and the title stays: the next change or poll brings the counts.
+            if (self->m_watchFileModel)
+                self->m_watchFileModel->setTextFileURLToWatch(
+                    urls->first().adjusted(QUrl::StripTrailingSlash), true);
+            self->statusBarButtonAction();
+        });
+}
+
+void WatchTextFileMenuBarController::watchTextFileViewControllerRequestedStop(
+    WatchTextFileViewController * /*panel*/)
+{
+    const auto self = shared_from_this(); // the delegate lets go of it
+    if (m_watchFileModel)
+        m_watchFileModel->stopWatchingTextFile();
+    m_watchFileModel.reset();
+    closeViews();
+    m_statusItemInBar.reset();
+    if (WatchTextFileMenuBarControllerDelegate *const receiver = m_delegate.get())
+        receiver->watchTextFileMenuBarControllerDidFinish(*this);
+}
