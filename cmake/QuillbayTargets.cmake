@@ -65,6 +65,7 @@ function(quillbay_test name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
     target_link_libraries(${name} PRIVATE quillbay_options test_harness GTest::gmock ${arg_LINKS})
     # Tests are compiled for speed of compiling; what they test is optimised.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLBAY_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 6)
     target_compile_options(${name} PRIVATE -O0)
     target_precompile_headers(${name} REUSE_FROM test_precompiled)
     if(arg_HELPERS)

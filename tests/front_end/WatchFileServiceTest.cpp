@@ -16,7 +16,7 @@ using ::testing::SizeIs;
 
 namespace {
 
-const QString nothingReported = QStringLiteral("as before");
+const QString noWatchError = QStringLiteral("as before");
 const QString noFiles = QStringLiteral("Quillbay failed to retrieve file urls.");
 const QString noneAccepted = QStringLiteral("Quillbay failed to validate file urls.");
 
@@ -27,7 +27,7 @@ protected:
     /// The error that the service reports.
     QString ask(const Pasteboard &pasteboard)
     {
-        QString error = nothingReported;
+        QString error = noWatchError;
         delegate.watchTheTextFileService(pasteboard, QString(), &error);
         return error;
     }
@@ -68,7 +68,7 @@ protected:
 
 TEST_F(WatchFileService, OpensAWindowForEachFileInTheirOrder)
 {
-    EXPECT_EQ(watch({novel, letter}), nothingReported);
+    EXPECT_EQ(watch({novel, letter}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
     for (const auto &watcher : delegate.watchTextFileControllers()) {
         EXPECT_TRUE(windowOf(*watcher).isVisible());
@@ -87,7 +87,7 @@ TEST_F(WatchFileService, AcceptsTheFourKinds)
     ASSERT_TRUE(QDir().mkpath(package));
     writeFile(QStringLiteral("notes.rtfd/TXT.rtf"), "{\\rtf1 Notes}");
     const QString page = writeFile(QStringLiteral("page.html"), "<p>Page");
-    EXPECT_EQ(watch({letter, package, novel, page, word}), nothingReported);
+    EXPECT_EQ(watch({letter, package, novel, page, word}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(letter, package, novel, page, word));
 }
 
@@ -112,10 +112,10 @@ TEST_F(WatchFileService, WithoutAnAcceptedFileNothingIsValidated)
 
 TEST_F(WatchFileService, WhatIsNotAcceptedIsPassedOverInSilence)
 {
-    EXPECT_EQ(watch({image, novel, world().root()}), nothingReported);
+    EXPECT_EQ(watch({image, novel, world().root()}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(novel));
-    EXPECT_EQ(watchList("https://example.com/a.txt\r\n" + QUrl::fromLocalFile(letter).toEncoded()),
-        nothingReported);
+    EXPECT_EQ(
+        watchList("https://example.com/a.txt\r\n" + QUrl::fromLocalFile(letter).toEncoded()), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
 }
 
@@ -136,7 +136,7 @@ TEST_F(WatchFileService, AFileThatIsWatchedHasItsWindowBroughtForward)
     window.close();
     int shown = 0;
     QObject::connect(&window, &Window::orderedFront, &window, [&] { ++shown; });
-    EXPECT_EQ(watch({novel}), nothingReported);
+    EXPECT_EQ(watch({novel}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
     EXPECT_EQ(shown, 1);
     EXPECT_TRUE(window.isVisible());
@@ -144,14 +144,14 @@ TEST_F(WatchFileService, AFileThatIsWatchedHasItsWindowBroughtForward)
 
 TEST_F(WatchFileService, AFileNamedTwiceInOneRequestHasOneWatcher)
 {
-    EXPECT_EQ(watch({novel, letter, novel}), nothingReported);
+    EXPECT_EQ(watch({novel, letter, novel}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
 }
 
 TEST_F(WatchFileService, AFolderIsTheSameWithASlashAtItsEnd)
 {
     const QString folder = writeFile(QStringLiteral("novel.rtfd/TXT.rtf"), "{\\rtf1 one}").chopped(8);
-    EXPECT_EQ(watch({folder + u'/', folder, folder + u'/'}), nothingReported);
+    EXPECT_EQ(watch({folder + u'/', folder, folder + u'/'}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(folder));
 }
 
@@ -161,9 +161,8 @@ TEST_F(WatchFileService, AFileIsTheSameWhateverTheSpellingOfItsURL)
     watch({path});
     const QByteArray folder = QUrl::fromLocalFile(path).toEncoded().chopped(
         static_cast<qsizetype>(qstrlen("one%20&%20two%20%C3%BC.txt")));
-    EXPECT_EQ(watchList(folder + "one%20%26%20two%20%c3%bc.txt"), nothingReported);
-    EXPECT_EQ(
-        watchList("file://localhost" + folder.mid(7) + "%6Fne%20&%20two%20%C3%BC.txt"), nothingReported);
+    EXPECT_EQ(watchList(folder + "one%20%26%20two%20%c3%bc.txt"), noWatchError);
+    EXPECT_EQ(watchList("file://localhost" + folder.mid(7) + "%6Fne%20&%20two%20%C3%BC.txt"), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(path));
 }
 
@@ -172,7 +171,7 @@ TEST_F(WatchFileService, AFileReachedByAnotherPathHasASecondWatcher)
     const QString link = world().root() + QStringLiteral("/files/link.txt");
     ASSERT_TRUE(QFile::link(novel, link));
     const QString detour = world().root() + QStringLiteral("/files/../files/novel.txt");
-    EXPECT_EQ(watch({novel, link, detour}), nothingReported);
+    EXPECT_EQ(watch({novel, link, detour}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, link, detour));
 }
 
@@ -180,10 +179,10 @@ TEST_F(WatchFileService, ReadsTheListsOfFileManagers)
 {
     EXPECT_EQ(ask(Pasteboard({{QStringLiteral("x-special/gnome-copied-files"),
                   "copy\n" + QUrl::fromLocalFile(novel).toEncoded()}})),
-        nothingReported);
+        noWatchError);
     EXPECT_EQ(ask(Pasteboard(
                   {{QStringLiteral("application/x-kde4-urilist"), QUrl::fromLocalFile(letter).toEncoded()}})),
-        nothingReported);
+        noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
 }
 
@@ -197,7 +196,7 @@ TEST_F(WatchFileService, AFinishedWatcherLeavesAndItsFileGetsAFreshOne)
     EXPECT_TRUE(first.expired());
     EXPECT_EQ(endings, 1);
     EXPECT_THAT(watchedFiles(), ElementsAre(letter));
-    EXPECT_EQ(watch({novel}), nothingReported);
+    EXPECT_EQ(watch({novel}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(letter, novel));
 }
 
@@ -207,7 +206,7 @@ TEST_F(WatchFileService, FollowsARenamedFileUnderItsNewName)
     const QString book = world().root() + QStringLiteral("/files/book.txt");
     ASSERT_TRUE(QFile::rename(novel, book));
     EXPECT_TRUE(waitUntil([&] { return watchedFiles() == QStringList{book}; }));
-    EXPECT_EQ(watch({book}), nothingReported);
+    EXPECT_EQ(watch({book}), noWatchError);
     EXPECT_THAT(delegate.watchTextFileControllers(), SizeIs(1));
 }
 
@@ -216,7 +215,7 @@ TEST_F(WatchFileService, AHundredFilesAreFollowedByAHundredWatchers)
     QStringList paths;
     for (int i = 0; i < 100; ++i)
         paths.append(writeFile(QStringLiteral("chapter%1.txt").arg(i), "Once"));
-    EXPECT_EQ(watch(paths), nothingReported);
+    EXPECT_EQ(watch(paths), noWatchError);
     ASSERT_EQ(watchedFiles(), paths);
     service.waitForRequests(100);
     const auto allRest = [this] {
@@ -241,7 +240,7 @@ TEST_F(WatchFileService, AFileWhoseNameIsNotUtf8IsWatchedOnce)
 {
     const QByteArray url = fileURLOfPath(writeFileOfBytes("caf\xE9.txt", "One two.")).toEncoded();
     EXPECT_THAT(url.toStdString(), testing::EndsWith("/caf%E9.txt"));
-    EXPECT_EQ(watchList(url + "\r\n" + QByteArray(url).replace("%E9", "\xE9") + "\r\n"), nothingReported);
+    EXPECT_EQ(watchList(url + "\r\n" + QByteArray(url).replace("%E9", "\xE9") + "\r\n"), noWatchError);
     ASSERT_THAT(delegate.watchTextFileControllers(), SizeIs(1));
     const auto &watcher = delegate.watchTextFileControllers().front();
     EXPECT_EQ(watcher->urlBeingWatched().toEncoded(), url);

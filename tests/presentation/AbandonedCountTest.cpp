@@ -13,7 +13,6 @@ using ::testing::SizeIs;
 
 namespace {
 
-const QStringList untouched(8, QString());
 const std::thread::id mainThread = std::this_thread::get_id();
 
 // Tells where and when it ends.

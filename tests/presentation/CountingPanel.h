@@ -11,6 +11,9 @@
 
 #include <memory>
 
+/// The texts of a panel that nothing was counted for.
+inline const QStringList untouched(8, QString());
+
 /// In the short style, as the hosts of panels set it. All eight labels are visible unless the test prefers
 /// otherwise before it makes the panel.
 class CountingPanel {

@@ -10,7 +10,6 @@ using ::testing::IsEmpty;
 
 namespace {
 
-const QStringList untouched(8, QString());
 const QStringList zeros = textsFor({0, 0, 0, 0, 0, 0, 0, 0});
 
 // Two words in one sentence, in one line.

@@ -36,7 +36,7 @@ public:
         quint64 count = 0;
         segmenter.forEachSentence(text, [&](QStringView sentence) {
             const bool ends =
-                !m_rules.sentencesNeedTerminalPunctuation || endsWithTerminalPunctuationMark(sentence);
+                !m_rules.sentencesNeedTerminalPunctuation || ::endsWithTerminalPunctuationMark(sentence);
             count += ends && words(sentence) > 0 ? 1 : 0;
             return true;
         });
@@ -123,6 +123,6 @@ TEST(TextCounterOracle, ParagraphsAddUpToTheCountOfTheWholeText)
         ASSERT_EQ(counts.sentences, counter.numberOfSentences(text, rules));
         ASSERT_EQ(counts.paragraphs, counter.numberOfParagraphs(text, rules));
         ASSERT_EQ(counts.paragraphsIndented, counter.numberOfParagraphsIndented(text, rules));
-        ASSERT_EQ(counts.hardLineBreaks, numberOfHardLineBreaks(text));
+        ASSERT_EQ(counts.hardLineBreaks, ::numberOfHardLineBreaks(text));
     }
 }

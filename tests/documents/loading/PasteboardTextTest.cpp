@@ -14,7 +14,7 @@ QByteArray flatRtfdOf(const QString &text)
     return bytes ? bytes.value() : QByteArray();
 }
 
-const QByteArray rtf = R"({\rtf1\ansi rich})";
+const QByteArray richText = R"({\rtf1\ansi rich})";
 const QByteArray html = "<p>page</p>";
 const QByteArray plain = "plain";
 
@@ -30,7 +30,7 @@ QString textIn(const Pasteboard::Forms &forms)
 TEST(PasteboardText, IsThatOfTheRichestForm)
 {
     Pasteboard::Forms forms{{QStringLiteral("application/x-flat-rtfd"), flatRtfdOf(QStringLiteral("flat"))},
-        {QStringLiteral("text/rtf"), rtf}, {QStringLiteral("text/html"), html},
+        {QStringLiteral("text/rtf"), richText}, {QStringLiteral("text/html"), html},
         {QStringLiteral("text/plain"), plain}};
     for (const auto &[type, text] :
         {std::pair("application/x-flat-rtfd", "flat"), std::pair("text/rtf", "rich"),
@@ -45,7 +45,7 @@ TEST(PasteboardText, IsReadUnderEveryNameOfRtf)
 {
     for (const char *const type :
         {"text/rtf", "application/rtf", "text/richtext", "TEXT/RTF", "text/rtf; x=y"})
-        EXPECT_EQ(textIn({{QString::fromLatin1(type), rtf}}), QStringLiteral("rich")) << type;
+        EXPECT_EQ(textIn({{QString::fromLatin1(type), richText}}), QStringLiteral("rich")) << type;
 }
 
 TEST(PasteboardText, KeepsTheStyleOfRichForms)

@@ -11,7 +11,7 @@
 
 namespace {
 
-const QByteArray rtf = "{\\rtf1\\ansi a{{\\NeXTGraphic one.png \\width20 \\height20}\\'ac}b}";
+const QByteArray rtfWithPicture = "{\\rtf1\\ansi a{{\\NeXTGraphic one.png \\width20 \\height20}\\'ac}b}";
 
 class RtfdPackage : public QuillbayTest {
 protected:
@@ -55,10 +55,10 @@ protected:
 TEST_F(RtfdPackage, IsAFolderWithTxtRtf)
 {
     EXPECT_FALSE(isRtfdPackage(package()));
-    put("other.rtf", rtf);
+    put("other.rtf", rtfWithPicture);
     EXPECT_FALSE(isRtfdPackage(package()));
     EXPECT_EQ(causeFor(package()), QStringLiteral("is an RTFD without TXT.rtf"));
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     EXPECT_TRUE(isRtfdPackage(package()));
     EXPECT_TRUE(isRtfdPackage(package() + '/'));
     EXPECT_FALSE(isRtfdPackage(inPackage("TXT.rtf")));
@@ -68,7 +68,7 @@ TEST_F(RtfdPackage, IsAFolderWithTxtRtf)
 
 TEST_F(RtfdPackage, ItsAttachmentsLieBesideTheText)
 {
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     put("one.png", "first");
     put("two.png", "second");
     ASSERT_TRUE(attachment());
@@ -77,7 +77,7 @@ TEST_F(RtfdPackage, ItsAttachmentsLieBesideTheText)
 
 TEST_F(RtfdPackage, ItsNamesAreUtf8)
 {
-    put("TXT.rtf", QByteArray(rtf).replace("one.png", "\\uc0\\u228 .png"));
+    put("TXT.rtf", QByteArray(rtfWithPicture).replace("one.png", "\\uc0\\u228 .png"));
     put("\u00E4.png", "first");
     ASSERT_TRUE(attachment());
     EXPECT_EQ(*attachment(), (Attachment{QStringLiteral("\u00E4.png"), "first"}));
@@ -85,13 +85,13 @@ TEST_F(RtfdPackage, ItsNamesAreUtf8)
 
 TEST_F(RtfdPackage, AMissingAttachmentLeavesItsCharacter)
 {
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     EXPECT_EQ(attachment(), nullptr);
 }
 
 TEST_F(RtfdPackage, AnAttachmentThatIsAFolderHasNoContents)
 {
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     put("one.png/inner", "contents");
     ASSERT_TRUE(attachment());
     EXPECT_EQ(*attachment(), (Attachment{QStringLiteral("one.png"), {}}));
@@ -99,7 +99,7 @@ TEST_F(RtfdPackage, AnAttachmentThatIsAFolderHasNoContents)
 
 TEST_F(RtfdPackage, AnAttachmentThatIsNoRegularFileCountsAsMissing)
 {
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     ASSERT_EQ(::mkfifo(inPackage("one.png").constData(), 0600), 0);
     EXPECT_EQ(attachment(), nullptr);
 }
@@ -110,10 +110,10 @@ TEST_F(RtfdPackage, NothingOutsideTheFolderIsOpened)
     put("inside/x", "x");
     for (const QByteArray &name : {QByteArray("../secret"), QByteArray("inside/../../secret"), secret,
              QByteArray("inside/x"), QByteArray(".."), QByteArray("."), QByteArray("TXT.rtf")}) {
-        put("TXT.rtf", QByteArray(rtf).replace("one.png", name));
+        put("TXT.rtf", QByteArray(rtfWithPicture).replace("one.png", name));
         EXPECT_EQ(attachment(), nullptr) << name.constData();
     }
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     link(secret, "one.png");
     EXPECT_EQ(attachment(), nullptr);
     ASSERT_EQ(::unlink(inPackage("one.png").constData()), 0);
@@ -123,14 +123,14 @@ TEST_F(RtfdPackage, NothingOutsideTheFolderIsOpened)
 
 TEST_F(RtfdPackage, AFolderWhoseNameGoesOnIsAnotherFolder)
 {
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     link(outside("letter.rtfd-other/secret", "secret"), "one.png");
     EXPECT_EQ(attachment(), nullptr);
 }
 
 TEST_F(RtfdPackage, ALinkWithinTheFolderLeadsToItsFile)
 {
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     put("two.png", "second");
     link("two.png", "one.png");
     ASSERT_TRUE(attachment());
@@ -139,7 +139,7 @@ TEST_F(RtfdPackage, ALinkWithinTheFolderLeadsToItsFile)
 
 TEST_F(RtfdPackage, ALinkLeadsToThePackage)
 {
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     put("one.png", "first");
     const QByteArray path = QFile::encodeName(world().root()) + "/link.rtfd";
     ASSERT_EQ(::symlink(package().constData(), path.constData()), 0);
@@ -149,7 +149,7 @@ TEST_F(RtfdPackage, ALinkLeadsToThePackage)
 
 TEST_F(RtfdPackage, ATextOutsideTheFolderIsNoText)
 {
-    link(outside("other.rtf", rtf), "TXT.rtf");
+    link(outside("other.rtf", rtfWithPicture), "TXT.rtf");
     EXPECT_EQ(causeFor(package()), QStringLiteral("is an RTFD without TXT.rtf"));
 }
 
@@ -170,12 +170,12 @@ TEST_F(RtfdPackage, WhyAPathLeadsToNoPackageIsNamed)
     EXPECT_EQ(causeFor(package()), QStringLiteral("no such file"));
     EXPECT_EQ(causeFor({}), QStringLiteral("no such file"));
     EXPECT_EQ(causeFor(package() + QByteArray("\0x", 2)), QStringLiteral("no such file"));
-    EXPECT_EQ(causeFor(outside("file", rtf)), QStringLiteral("is not an RTFD"));
+    EXPECT_EQ(causeFor(outside("file", rtfWithPicture)), QStringLiteral("is not an RTFD"));
 }
 
 TEST_F(RtfdPackage, ItIsNoLargerThanADocumentMayBe)
 {
-    put("TXT.rtf", rtf);
+    put("TXT.rtf", rtfWithPicture);
     put("one.png", {});
     // Takes no room on the disk, and is never read.
     ASSERT_EQ(::truncate(inPackage("one.png").constData(), INT32_MAX - rtf.size()), 0);

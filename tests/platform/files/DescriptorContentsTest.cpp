@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr qint64 mebibyte = 1'048'576;
+constexpr qint64 oneMebibyte = 1'048'576;
 
 class DescriptorContents : public QuillbayTest {
 protected:
@@ -82,20 +82,20 @@ pid_t currentThread()
 TEST_F(DescriptorContents, AFileThatGrowsIsReadAsFarAsItWasLongAtFirst)
 {
     const int descriptor = ::open(written("log", {}).constData(), O_RDWR | O_CLOEXEC);
-    ASSERT_EQ(::ftruncate(descriptor, mebibyte), 0);
+    ASSERT_EQ(::ftruncate(descriptor, oneMebibyte), 0);
     // The position is the reader's too: the end of the file is always out of the reader's reach.
     std::atomic<bool> started = false;
     std::atomic<bool> stop = false;
     std::thread writer([&] {
         while (!stop) {
             const off_t position = ::lseek(descriptor, 0, SEEK_CUR);
-            EXPECT_EQ(::ftruncate(descriptor, position + mebibyte), 0);
+            EXPECT_EQ(::ftruncate(descriptor, position + oneMebibyte), 0);
             started = true;
         }
     });
     while (!started)
         std::this_thread::yield();
-    EXPECT_EQ(readDescriptor(descriptor).value().size(), mebibyte);
+    EXPECT_EQ(readDescriptor(descriptor).value().size(), oneMebibyte);
     stop = true;
     writer.join();
     ::close(descriptor);
@@ -148,9 +148,9 @@ TEST_F(DescriptorContents, AnEndlessInputIsRefusedAtTheLimit)
 {
     const int descriptor = ::open("/dev/zero", O_RDONLY | O_CLOEXEC);
     FileLimits limits;
-    limits.largestSize = 10 * mebibyte;
+    limits.largestSize = 10 * oneMebibyte;
     EXPECT_EQ(causeFor(descriptor, limits), QStringLiteral("is larger than 2 GiB"));
-    limits.memory = 3 * mebibyte;
+    limits.memory = 3 * oneMebibyte;
     EXPECT_EQ(causeFor(descriptor, limits), QStringLiteral("not enough memory"));
     ::close(descriptor);
 }

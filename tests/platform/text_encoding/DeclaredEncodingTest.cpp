@@ -12,7 +12,7 @@ namespace {
 // Two letters, of which the bytes tell nothing.
 const QString greeting = QStringLiteral("да");
 
-QString textOf(const QByteArray &bytes)
+QString decodedText(const QByteArray &bytes)
 {
     return readPlainText(bytes).value().text;
 }
@@ -25,7 +25,7 @@ TEST(DeclaredEncoding, IsThatOfAnXmlDeclaration)
         const QString text =
             QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?>\n<feed><title>%2</title></feed>\n")
                 .arg(QString::fromLatin1(encoding), greeting);
-        EXPECT_EQ(textOf(encoded(text, encoding)), text);
+        EXPECT_EQ(decodedText(encoded(text, encoding)), text);
     }
 }
 
@@ -34,7 +34,7 @@ TEST(DeclaredEncoding, IsThatOfAMetaElement)
     for (const char *start : {"<!DOCTYPE html>\n", "<?php echo 1; ?>\n", "<!-- template -->", "\n <head>"}) {
         const QString text = QString::fromLatin1(start)
             + QStringLiteral("<meta http-equiv=content-type content='text/html; charset=koi8-r'>") + greeting;
-        EXPECT_EQ(textOf(encoded(text, "KOI8-R")), text);
+        EXPECT_EQ(decodedText(encoded(text, "KOI8-R")), text);
     }
 }
 
@@ -42,21 +42,21 @@ TEST(DeclaredEncoding, DoesNotCountInATextThatOnlySpeaksOfIt)
 {
     const QString text =
         QStringLiteral("Ein <meta charset=koi8-r> gehört über jede ältere russische Seite, schön früh.\n");
-    EXPECT_EQ(textOf(encoded(text, "windows-1252")), text);
+    EXPECT_EQ(decodedText(encoded(text, "windows-1252")), text);
 }
 
 TEST(DeclaredEncoding, DoesNotCountAgainstUtf8)
 {
     const QString text =
         QStringLiteral("<?xml version='1.0' encoding='iso-8859-1'?><a>") + russian + QStringLiteral("</a>");
-    EXPECT_EQ(textOf(text.toUtf8()), text);
+    EXPECT_EQ(decodedText(text.toUtf8()), text);
 }
 
 TEST(DeclaredEncoding, Utf8ThatIsDeclaredFalselyDoesNotCount)
 {
     const QString text =
         QStringLiteral("<?xml version='1.0' encoding='utf-8'?><a>") + russian + QStringLiteral("</a>");
-    EXPECT_EQ(textOf(encoded(text, "windows-1251")), text);
+    EXPECT_EQ(decodedText(encoded(text, "windows-1251")), text);
 }
 
 TEST(DeclaredEncoding, ACharsetOfTheTransferOutweighsIt)

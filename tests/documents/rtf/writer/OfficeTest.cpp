@@ -26,7 +26,7 @@ protected:
     }
 };
 
-FontAttributes serif(double size)
+FontAttributes dejaVuSerif(double size)
 {
     FontAttributes font;
     font.family = QStringLiteral("DejaVu Serif");
@@ -34,7 +34,7 @@ FontAttributes serif(double size)
     return font;
 }
 
-TextAttributes withFont(const FontAttributes &font)
+TextAttributes fontOnly(const FontAttributes &font)
 {
     TextAttributes attributes;
     attributes.font = font;
@@ -43,7 +43,7 @@ TextAttributes withFont(const FontAttributes &font)
 
 TextAttributes withStyle(const ParagraphStyle &style)
 {
-    TextAttributes attributes = withFont(serif(12));
+    TextAttributes attributes = fontOnly(dejaVuSerif(12));
     attributes.paragraphStyle = style;
     return attributes;
 }
@@ -76,7 +76,7 @@ TEST_F(Office, ReadsTheText)
         QStringLiteral("Gr\u00FC\u00DFe \u4E2D\u6587 \u05D0\u05D1 \U0001F600\n\n\\{a\\} 100%;\tb\nlast");
     AttributedStringBuilder builder;
     // Also with exact values, which it does not know.
-    builder.append(QStringView(text).first(10), withFont(serif(12.3)));
+    builder.append(QStringView(text).first(10), fontOnly(dejaVuSerif(12.3)));
     builder.append(QStringView(text).sliced(10), {});
     const QByteArray plain =
         OfficeDocuments::converted(rtfOf(builder.build()), "rtf", "txt:Text (encoded):UTF8");
@@ -88,19 +88,19 @@ TEST_F(Office, ReadsTheText)
 
 TEST_F(Office, ReadsFonts)
 {
-    FontAttributes odd = serif(12.3);
+    FontAttributes odd = dejaVuSerif(12.3);
     odd.weight = 650;
     odd.slant = FontSlant::Oblique;
-    FontAttributes bold = serif(14);
+    FontAttributes bold = dejaVuSerif(14);
     bold.weight = 700;
-    FontAttributes italic = serif(9.5);
+    FontAttributes italic = dejaVuSerif(9.5);
     italic.slant = FontSlant::Italic;
     italic.family = QStringLiteral("M\u00FCller Sans");
     AttributedStringBuilder builder;
-    builder.append(u"plain ", withFont(serif(16)));
-    builder.append(u"bold ", withFont(bold));
-    builder.append(u"italic ", withFont(italic));
-    builder.append(u"odd", withFont(odd));
+    builder.append(u"plain ", fontOnly(dejaVuSerif(16)));
+    builder.append(u"bold ", fontOnly(bold));
+    builder.append(u"italic ", fontOnly(italic));
+    builder.append(u"odd", fontOnly(odd));
     const FlatOdf document(OfficeDocuments::converted(rtfOf(builder.build()), "rtf", "fodt"));
     struct Expected {
         const char *piece;
