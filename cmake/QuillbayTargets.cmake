@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What every target of the project has in common, and the three kinds of target there are.
+# What all targets of the project have in common, and the functions that define them.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -41,7 +41,7 @@ endif()
 function(quillbay_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
     add_library(${name} STATIC ${arg_SOURCES})
-    # Most of the time goes into Qt's headers: the release build reads them once for many files.
+    # Most of the compile time goes into Qt's headers; a unity build reads them once for many files.
     set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLBAY_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 16)
     target_link_libraries(${name} PUBLIC quillbay_options ${arg_LINKS})
 endfunction()
@@ -55,7 +55,7 @@ endfunction()
 
 # quillbay_test(NAME SOURCES file… [LINKS target…] [HELPERS target…] [TIMEOUT seconds]): a GoogleTest
 # binary on the project's harness; every TEST is a CTest test of its own. HELPERS are programs that the
-# tests start; they lie in the same folder as the test binary.
+# tests start from the folder of the test binary.
 function(quillbay_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LINKS;HELPERS")
     if(NOT arg_TIMEOUT)
@@ -64,7 +64,7 @@ function(quillbay_test name)
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
     target_link_libraries(${name} PRIVATE quillbay_options test_harness GTest::gmock ${arg_LINKS})
-    # Tests are compiled for speed of compiling; what they test is optimised.
+    # Tests are compiled without optimisation, which is faster; the code under test is optimised.
     set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLBAY_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 6)
     target_compile_options(${name} PRIVATE -O0)
     target_precompile_headers(${name} REUSE_FROM test_precompiled)
@@ -83,8 +83,8 @@ function(quillbay_test_helper name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
 endfunction()
 
-# quillbay_fuzzer(NAME SOURCES file… [LINKS target…]): a libFuzzer program in build/<preset>/fuzz; its seeds lie
-# in fuzz/seeds/NAME.
+# quillbay_fuzzer(NAME SOURCES file… [LINKS target…]): a libFuzzer program in build/<preset>/fuzz with its seeds in
+# fuzz/seeds/NAME.
 function(quillbay_fuzzer name)
     quillbay_program(${name} ${ARGN})
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
