@@ -16,7 +16,7 @@ void readPage(benchmark::State &state, const QByteArray &piece)
     const QByteArray page =
         "<!DOCTYPE html><meta charset=utf-8>" + piece.repeated(state.range(0) / piece.size());
     for ([[maybe_unused]] auto _ : state) {
-        const Result<AttributedString, HtmlError> read = readHtml(page);
+        const Result<AttributedString, DocumentError> read = readHtml(page);
         if (!read)
             state.SkipWithError("the page cannot be read");
     }

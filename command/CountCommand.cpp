@@ -4,7 +4,7 @@
 #include "command/FileNames.h"
 #include "command/NamedDocument.h"
 #include "command/RulesExplanation.h"
-#include "documents/loading/DocumentKind.h"
+#include "documents/loading/KindDetection.h"
 #include "platform/files/FileContents.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/MeasuringSurface.h"
@@ -138,7 +138,7 @@ std::optional<QBYWordCounterStats> CountCommand::count(const QByteArray &name, P
 
 Result<QBYWordCounterStats, QString> CountCommand::countHere(const QByteArray &name, ProgressLine &progress)
 {
-    const Result<AttributedString, LoadError> text = loadNamedDocument(name);
+    const Result<AttributedString, DocumentError> text = loadNamedDocument(name);
     if (!text)
         return causeText(text.error());
     progress.startCounting(text.value().length());
@@ -153,7 +153,7 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
     if (!m_service)
         m_service.emplace();
     // A Word document is read here too, so that one which cannot be counted says why.
-    const Result<AttributedString, LoadError> text = loadNamedDocument(name);
+    const Result<AttributedString, DocumentError> text = loadNamedDocument(name);
     if (!text)
         return causeText(text.error());
     progress.startCounting(text.value().length());

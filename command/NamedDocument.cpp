@@ -8,7 +8,7 @@
 
 #include <cstdio>
 
-Result<AttributedString, LoadError> loadNamedDocument(const QByteArray &name)
+Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name)
 {
     return name == standardInputName ? loadDocumentOrPdf(STDIN_FILENO) : loadDocumentOrPdf(name);
 }

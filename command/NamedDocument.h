@@ -9,7 +9,7 @@
 inline constexpr char standardInputName[] = "-";
 
 /// Standard input is read to its end.
-Result<AttributedString, LoadError> loadNamedDocument(const QByteArray &name);
+Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name);
 
 /// Tells on standard error why a document was not taken, behind its name.
 void tellDocumentFailure(const QByteArray &name, const QString &cause);

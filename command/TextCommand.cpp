@@ -24,10 +24,10 @@ Exit status: 0 once the window is there, 1 if there is none, 2 for wrong usage.
 /// As every window takes it, attributes and attachments included.
 Result<Pasteboard, QString> pasteboardOf(const QByteArray &name)
 {
-    const Result<AttributedString, LoadError> text = loadNamedDocument(name);
+    const Result<AttributedString, DocumentError> text = loadNamedDocument(name);
     if (!text)
         return causeText(text.error());
-    Result<QByteArray, RtfWriteError> data = RTFDFromRange(text.value(), 0, text.value().length());
+    Result<QByteArray, DocumentError> data = RTFDFromRange(text.value(), 0, text.value().length());
     if (!data)
         return causeText(data.error());
     return Pasteboard({{QString::fromUtf16(Pasteboard::flatRtfdType), std::move(data).value()}});

@@ -14,25 +14,19 @@ constexpr qsizetype longestInput = INT32_MAX - 1;
 
 } // namespace
 
-QString causeText(TextError error)
-{
-    return error == TextError::TooLong ? QStringLiteral("is larger than 2 GiB")
-                                       : QStringLiteral("not enough memory");
-}
-
-Result<PlainText, TextError> readPlainText(QByteArrayView bytes)
+Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes)
 {
     return readPlainText(bytes, {});
 }
 
-Result<PlainText, TextError> readPlainText(QByteArrayView bytes, const QByteArray &charset)
+Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes, const QByteArray &charset)
 {
     if (bytes.size() > longestInput)
-        return TextError::TooLong;
+        return DocumentError(DocumentError::Cause::TooLong, DocumentKind::PlainText);
     try {
         const TextEncoding encoding = encodingOfPlainText(bytes, charset);
         return PlainText{decodedText(bytes.sliced(encoding.markLength), encoding.name), encoding.name};
     } catch (const std::bad_alloc &) {
-        return TextError::NotEnoughMemory;
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::PlainText);
     }
 }

@@ -4,6 +4,7 @@
 // Thread: any.
 #pragma once
 
+#include "documents/DocumentError.h"
 #include "platform/system/Result.h"
 
 #include <QByteArray>
@@ -15,18 +16,10 @@ struct PlainText {
     QByteArray encoding; ///< "UTF-8", "UTF-16LE", "Shift_JIS", "windows-1252" …
 };
 
-enum class TextError {
-    TooLong, ///< positions in a text are 32 bits wide
-    NotEnoughMemory,
-};
-
-/// The cause in English, on one line, to stand behind a file's name: "is larger than 2 GiB".
-QString causeText(TextError error);
-
 /// Every sequence of bytes is a text: NUL bytes are NUL characters, what its encoding has no meaning for is
 /// U+FFFD, and the last line need not end.
-Result<PlainText, TextError> readPlainText(QByteArrayView bytes);
+Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes);
 /// The same where the charset parameter of a MIME type says the encoding. A byte order mark is believed over
 /// it, and a charset that is empty or not listed (EncodingLabels.h) says nothing, nor does UTF-8 that the
 /// bytes contradict.
-Result<PlainText, TextError> readPlainText(QByteArrayView bytes, const QByteArray &charset);
+Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes, const QByteArray &charset);

@@ -41,32 +41,32 @@ bool isWithoutPages(QByteArrayView bytes)
     return hasTree;
 }
 
-PdfError causeOf(QPdfDocument::Error error, QByteArrayView bytes)
+DocumentError::Cause causeOf(QPdfDocument::Error error, QByteArrayView bytes)
 {
     if (error == QPdfDocument::Error::IncorrectPassword
         || error == QPdfDocument::Error::UnsupportedSecurityScheme)
-        return PdfError::Encrypted;
+        return DocumentError::Cause::Encrypted;
     const QByteArrayView start = bytes.first(std::min(bytes.size(), signatureReach));
     if (!start.contains(signature))
-        return PdfError::NotPdf;
-    return isWithoutPages(bytes) ? PdfError::NoPages : PdfError::Damaged;
+        return DocumentError::Cause::WrongKind;
+    return isWithoutPages(bytes) ? DocumentError::Cause::NoPages : DocumentError::Cause::Damaged;
 }
 
 } // namespace
 
-std::optional<PdfError> forEachPdfPage(QByteArrayView bytes, const TakePage &take)
+std::optional<DocumentError::Cause> forEachPdfPage(QByteArrayView bytes, const TakePage &take)
 {
     QByteArray contents = QByteArray::fromRawData(bytes.data(), bytes.size());
     QBuffer file(&contents);
     if (contents.isEmpty() || !file.open(QIODevice::ReadOnly))
-        return PdfError::NotPdf;
+        return DocumentError::Cause::WrongKind;
     QPdfDocument document;
     document.load(&file);
     if (document.status() != QPdfDocument::Status::Ready)
         return causeOf(document.error(), bytes);
     const int pageCount = document.pageCount();
     if (pageCount == 0)
-        return PdfError::NoPages;
+        return DocumentError::Cause::NoPages;
     RaisedDigits pages(document);
     for (int page = 0; page < pageCount; ++page) {
         QString text = pages.textOfPage(page);

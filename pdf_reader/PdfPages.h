@@ -4,7 +4,7 @@
 // Thread: any; Qt Pdf works on one document at a time.  Owner: main.
 #pragma once
 
-#include "documents/pdf/PdfError.h"
+#include "documents/DocumentError.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -15,4 +15,4 @@
 /// Hands over the text of each page in order until take() returns false. What went wrong is returned, before
 /// there was any page.
 using TakePage = std::function<bool(const QString &text)>;
-std::optional<PdfError> forEachPdfPage(QByteArrayView bytes, const TakePage &take);
+std::optional<DocumentError::Cause> forEachPdfPage(QByteArrayView bytes, const TakePage &take);

@@ -27,7 +27,7 @@ bool writeWhole(QByteArrayView bytes)
     return true;
 }
 
-std::optional<PdfError> writePages(QByteArrayView document, qint64 length)
+std::optional<DocumentError::Cause> writePages(QByteArrayView document, qint64 length)
 {
     bool isTooLong = false;
     const auto take = [&](const QString &text) {
@@ -38,10 +38,10 @@ std::optional<PdfError> writePages(QByteArrayView document, qint64 length)
         return !isTooLong && writeWhole(QByteArrayView(units, size));
     };
     try {
-        const std::optional<PdfError> error = forEachPdfPage(document, take);
-        return isTooLong ? PdfError::TooIntricate : error;
+        const std::optional<DocumentError::Cause> error = forEachPdfPage(document, take);
+        return isTooLong ? DocumentError::Cause::TooComplex : error;
     } catch (const std::bad_alloc &) {
-        return PdfError::TooIntricate;
+        return DocumentError::Cause::TooComplex;
     }
 }
 

@@ -117,7 +117,7 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
         failToLoad();
         return;
     }
-    const Result<AttributedString, LoadError> text = m_loader.load(pathOfFileURL(url));
+    const Result<AttributedString, DocumentError> text = m_loader.load(pathOfFileURL(url));
     if (!text && m_coordinator && m_coordinator->triesAgain())
         return;
     if (!text) {

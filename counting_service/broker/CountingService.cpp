@@ -19,21 +19,21 @@ CountFailure failureOf(const SealedMemoryError &error)
     using Cause = SealedMemoryError::Cause;
     switch (error.cause) {
     case Cause::NotSealed:
-        return CountFailure::NotSealed;
+        return CountFailure::Cause::NotSealed;
     case Cause::LengthDiffers:
-        return CountFailure::LengthDiffers;
+        return CountFailure::Cause::LengthDiffers;
     case Cause::SystemError:
         break;
     }
-    return CountFailure::NotReceived;
+    return CountFailure::Cause::NotReceived;
 }
 
 Result<SealedMemory, CountFailure> documentOf(const ReceivedRequest &request)
 {
     if (request.isAbsent)
-        return CountFailure::Absent;
+        return CountFailure(CountFailure::Cause::DocumentMissing);
     if (request.length > CountingService::largestDocument)
-        return CountFailure::TooLarge;
+        return CountFailure(CountFailure::Cause::TooLarge);
     SealedMemory::MadeMemory memory =
         SealedMemory::received(request.payload.fileDescriptor(), request.length);
     if (!memory)
@@ -139,7 +139,7 @@ void CountingService::receive(const ReceivedRequest &request)
 void CountingService::finish(const ReceivedRequest &request, const ReceivedRequest::Outcome &outcome)
 {
     if (!outcome) {
-        countingServiceLog().notice(u"A document of {} bytes has no counts: it {}",
+        countingServiceLog().notice(u"Could not count a document ({} bytes): {}",
             {request.length, publicly(causeText(outcome.error()))});
     }
     request.answer(outcome);

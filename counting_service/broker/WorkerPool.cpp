@@ -157,7 +157,7 @@ void WorkerPool::noteFailedStart()
     countingServiceLog().error(u"No worker stays alive until it has counted something");
     const auto given = std::exchange(m_queue, {});
     for (const std::unique_ptr<CountJob> &job : given)
-        job->answer(CountFailure::NoWorker);
+        job->answer(CountFailure(CountFailure::Cause::NoWorker));
 }
 
 void WorkerPool::welcome(const SandboxReport &sandbox)
@@ -203,5 +203,5 @@ void WorkerPool::tryAgain(std::unique_ptr<CountJob> job, WorkerEnd end)
     if (job->failures < mostFailures && job->interruptions < mostInterruptions)
         m_queue.push_front(std::move(job));
     else
-        job->answer(CountFailure::WorkerFailed);
+        job->answer(CountFailure(CountFailure::Cause::WorkerFailed));
 }

@@ -181,7 +181,7 @@ void WorkerProcess::take(const QByteArray &message)
     const std::optional<WorkerReply> reply = decodedReply(message);
     if (m_state != State::Busy || !reply || reply->number != m_requests)
         return end(WorkerEnd::SpokeNonsense);
-    if (!reply->counts && reply->counts.error() == CountFailure::NotEnoughMemory)
+    if (!reply->counts && reply->counts.error().isOutOfMemory())
         return end(WorkerEnd::OutOfMemory);
     m_timer.stop();
     m_state = State::Idle;

@@ -86,6 +86,57 @@ QDataStream &operator>>(QDataStream &stream, RulesSnapshot &rules)
     return stream;
 }
 
+template <typename Enum>
+bool isIn(quint32 number, Enum last)
+{
+    return number >= 1 && number <= static_cast<quint32>(last);
+}
+
+/// A failure as it travels; all 0 where there is none. The errors of files do not travel: a worker opens
+/// none.
+struct FailureNumbers {
+    quint32 cause = 0;
+    quint32 documentCause = 0;
+    quint32 documentKind = 0;
+
+    static FailureNumbers of(const CountFailure &failure)
+    {
+        FailureNumbers numbers{.cause = static_cast<quint32>(failure.cause)};
+        if (failure.document) {
+            numbers.documentCause = static_cast<quint32>(failure.document->cause);
+            numbers.documentKind = static_cast<quint32>(failure.document->kind);
+        }
+        return numbers;
+    }
+
+    /// Absent for numbers without a name.
+    [[nodiscard]] std::optional<CountFailure> failure() const
+    {
+        if (!isIn(cause, CountFailure::lastCause))
+            return std::nullopt;
+        const auto known = static_cast<CountFailure::Cause>(cause);
+        if (known != CountFailure::Cause::DocumentUnreadable)
+            return documentCause == 0 && documentKind == 0 ? std::optional(CountFailure(known))
+                                                           : std::nullopt;
+        if (!isIn(documentCause, DocumentError::lastCause) || !isIn(documentKind, lastDocumentKind))
+            return std::nullopt;
+        return CountFailure(DocumentError(
+            static_cast<DocumentError::Cause>(documentCause), static_cast<DocumentKind>(documentKind)));
+    }
+
+    bool operator==(const FailureNumbers &) const = default;
+};
+
+QDataStream &operator<<(QDataStream &stream, const FailureNumbers &numbers)
+{
+    return stream << numbers.cause << numbers.documentCause << numbers.documentKind;
+}
+
+QDataStream &operator>>(QDataStream &stream, FailureNumbers &numbers)
+{
+    return stream >> numbers.cause >> numbers.documentCause >> numbers.documentKind;
+}
+
 bool isKnown(quint32 kind)
 {
     return kind == static_cast<quint32>(PayloadKind::FlatRtfd)
@@ -113,9 +164,9 @@ QByteArray encoded(const WorkerGreeting &greeting)
 QByteArray encoded(const WorkerReply &reply)
 {
     Writer writer(Type::Reply);
-    const quint32 failure = reply.counts ? 0 : static_cast<quint32>(reply.counts.error());
     const QBYWordCounterStats stats = reply.counts ? reply.counts.value() : QBYWordCounterStats();
-    writer.stream() << reply.number << failure;
+    writer.stream() << reply.number;
+    writer.stream() << (reply.counts ? FailureNumbers() : FailureNumbers::of(reply.counts.error()));
     transfer([&](quint64 count) { writer.stream() << count; }, stats);
     return writer.bytes();
 }
@@ -149,13 +200,14 @@ std::optional<WorkerReply> decodedReply(const QByteArray &message)
 {
     Reader reader(message, Type::Reply);
     quint64 number = 0;
-    quint32 failure = 0;
+    FailureNumbers failure;
     QBYWordCounterStats stats;
     reader.stream() >> number >> failure;
     transfer([&](quint64 &count) { reader.stream() >> count; }, stats);
-    if (!reader.isWhole() || failure > static_cast<quint32>(lastCountFailure))
+    if (!reader.isWhole())
         return std::nullopt;
-    if (failure != 0)
-        return WorkerReply{number, static_cast<CountFailure>(failure)};
-    return WorkerReply{number, stats};
+    if (failure == FailureNumbers())
+        return WorkerReply{number, stats};
+    const std::optional<CountFailure> known = failure.failure();
+    return known ? std::optional(WorkerReply{number, *known}) : std::nullopt;
 }

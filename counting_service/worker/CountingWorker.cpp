@@ -55,7 +55,7 @@ int CountingWorker::run(const SandboxReport &sandbox)
         if (!sendPacket(socket, encoded(reply)))
             return 1;
         // Memory in pieces might fail the next document, too.
-        if (!reply.counts && reply.counts.error() == CountFailure::NotEnoughMemory)
+        if (!reply.counts && reply.counts.error().isOutOfMemory())
             return 1;
     }
 }
@@ -71,7 +71,8 @@ WorkerReply CountingWorker::replyTo(const WorkerRequest &request, int descriptor
     try {
         return {request.number, count(request, descriptor)};
     } catch (const std::bad_alloc &) {
-        return {request.number, CountFailure::NotEnoughMemory};
+        return {request.number,
+            CountFailure(DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::PlainText))};
     }
 }
 
@@ -79,13 +80,13 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
 {
     const SealedMemory::MadeMemory memory = SealedMemory::received(descriptor, request.length);
     if (!memory)
-        return CountFailure::NotReceived;
+        return CountFailure(CountFailure::Cause::NotReceived);
     const QByteArray name = CountMemory::nameOf(request, memory.value().bytes());
     if (const std::optional<QBYWordCounterStats> known = m_memory.countsOf(name))
         return *known;
-    const Result<AttributedString, CountFailure> text = readDocument(request.kind, memory.value().bytes());
+    const Result<AttributedString, DocumentError> text = readDocument(request.kind, memory.value().bytes());
     if (!text)
-        return text.error();
+        return CountFailure(text.error());
     m_rules = rulesFrom(request.rules);
     m_model.setAttributedStringToCount(text.value());
     // The counts of a record stand in another order than those of a reply; the model has the latter.

@@ -8,40 +8,35 @@
 
 namespace {
 
-using Chunk = Result<AttributedString, DocxError>;
+using Chunk = Result<AttributedString, DocumentError::Cause>;
 
-DocxError causeOf(HtmlError error)
+/// A chunk fails its document by causes that a document has.
+Chunk chunkFrom(Result<AttributedString, DocumentError> text)
 {
-    if (error == HtmlError::NotEnoughMemory)
-        return DocxError::NotEnoughMemory;
-    return error == HtmlError::TooLong ? DocxError::TooLarge : DocxError::TooIntricate;
-}
-
-DocxError causeOf(RtfError error)
-{
-    return error == RtfError::NotEnoughMemory ? DocxError::NotEnoughMemory : DocxError::TooLarge;
-}
-
-template <typename Error>
-Chunk withCause(Result<AttributedString, Error> text)
-{
-    if (!text)
-        return causeOf(text.error());
-    return std::move(text).value();
+    if (text)
+        return std::move(text).value();
+    switch (text.error().cause) {
+    case DocumentError::Cause::NotEnoughMemory:
+        return DocumentError::Cause::NotEnoughMemory;
+    case DocumentError::Cause::TooLong:
+        return DocumentError::Cause::TooLarge;
+    default:
+        return DocumentError::Cause::TooComplex;
+    }
 }
 
 Chunk plainChunk(QByteArrayView bytes)
 {
-    const Result<PlainText, TextError> text = readPlainText(bytes);
+    const Result<PlainText, DocumentError> text = readPlainText(bytes);
     if (!text)
-        return text.error() == TextError::NotEnoughMemory ? DocxError::NotEnoughMemory : DocxError::TooLarge;
+        return chunkFrom(text.error());
     return AttributedString(text.value().text);
 }
 
 Chunk nestedDocument(QByteArrayView bytes, ReadAllowance &allowance)
 {
     if (allowance.nestedDocuments == 0)
-        return DocxError::TooIntricate;
+        return DocumentError::Cause::TooComplex;
     --allowance.nestedDocuments;
     Chunk chunk = readPackageDocument(bytes, allowance);
     ++allowance.nestedDocuments;
@@ -52,8 +47,8 @@ Chunk nestedDocument(QByteArrayView bytes, ReadAllowance &allowance)
 Chunk webArchive(QByteArrayView bytes)
 {
     const std::optional<WebArchivePage> page = pageOfWebArchive(bytes);
-    return page ? withCause(readHtml(page->contents, {.charset = page->charset}))
-                : DocxError::UnreadableChunk;
+    return page ? chunkFrom(readHtml(page->contents, {.charset = page->charset}))
+                : DocumentError::Cause::UnsupportedPart;
 }
 
 /// What a chunk begins with tells more than its type, which producers choose carelessly.
@@ -62,14 +57,14 @@ Chunk chunkOfType(const QByteArray &type, QByteArrayView bytes, ReadAllowance &a
     if (bytes.startsWith("PK\x03\x04"))
         return nestedDocument(bytes, allowance);
     if (looksLikeRtf(bytes))
-        return withCause(readRtf(bytes));
+        return chunkFrom(readRtf(bytes));
     if (type == "message/rfc822" || type == "multipart/related" || looksLikeWebArchive(bytes))
         return webArchive(bytes);
     if (type == "text/html" || type == "application/xhtml+xml" || looksLikeHtml(bytes))
-        return withCause(readHtml(bytes));
+        return chunkFrom(readHtml(bytes));
     if (type == "text/plain")
         return plainChunk(bytes);
-    return DocxError::UnreadableChunk;
+    return DocumentError::Cause::UnsupportedPart;
 }
 
 } // namespace
@@ -81,8 +76,8 @@ Chunk readAlternativeChunk(
     if (!part)
         return AttributedString();
     if (--document.package.allowance().chunks < 0)
-        return DocxError::TooIntricate;
-    const Result<QByteArray, DocxError> bytes = document.package.contents(*part);
+        return DocumentError::Cause::TooComplex;
+    const Result<QByteArray, DocumentError::Cause> bytes = document.package.contents(*part);
     if (!bytes)
         return bytes.error();
     Chunk chunk = chunkOfType(document.types.typeOf(*part), bytes.value(), document.package.allowance());

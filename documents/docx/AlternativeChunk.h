@@ -7,5 +7,5 @@
 
 /// The text of the chunk that a relationship leads to, read by what kind of part it is; it ends with a line
 /// end. One outside of the package has no text. relationships: those of the part that the chunk stands in.
-Result<AttributedString, DocxError> readAlternativeChunk(
+Result<AttributedString, DocumentError::Cause> readAlternativeChunk(
     const PackageDocument &document, const Relationships &relationships, const QByteArray &identifier);

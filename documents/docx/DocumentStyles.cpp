@@ -38,7 +38,7 @@ std::optional<QByteArray> presentPart(
 
 /// Puts what was read in its place; a failure is returned.
 template <typename Value>
-std::optional<DocxError> put(Value &place, Result<Value, DocxError> value)
+std::optional<DocumentError::Cause> put(Value &place, Result<Value, DocumentError::Cause> value)
 {
     if (!value)
         return value.error();
@@ -48,11 +48,11 @@ std::optional<DocxError> put(Value &place, Result<Value, DocxError> value)
 
 } // namespace
 
-Result<DocumentStyles, DocxError> DocumentStyles::read(
+Result<DocumentStyles, DocumentError::Cause> DocumentStyles::read(
     const ZipPackage &package, const Relationships &ofMainPart)
 {
     DocumentStyles styles;
-    std::optional<DocxError> failure;
+    std::optional<DocumentError::Cause> failure;
     if (const auto part = presentPart(package, ofMainPart, "theme"))
         failure = put(styles.theme, Theme::read(package, *part));
     const auto numbering = presentPart(package, ofMainPart, "numbering");

@@ -16,5 +16,6 @@ struct DocumentStyles {
     double defaultTabInterval = 36; ///< points
 
     /// Parts that the main part does not name, or that are not there, say nothing.
-    static Result<DocumentStyles, DocxError> read(const ZipPackage &package, const Relationships &ofMainPart);
+    static Result<DocumentStyles, DocumentError::Cause> read(
+        const ZipPackage &package, const Relationships &ofMainPart);
 };

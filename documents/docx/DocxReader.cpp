@@ -9,17 +9,19 @@
 #include "platform/styled_text/Notes.h"
 
 #include <new>
+#include <utility>
 
 namespace {
 
 /// The notes of one part, in the order of their references. A reference without a note has no text.
-std::optional<DocxError> appendNotes(AttributedStringBuilder &text, const PackageDocument &document,
-    const char *type, const NoteReferences &references, StoryNotes &notes)
+std::optional<DocumentError::Cause> appendNotes(AttributedStringBuilder &text,
+    const PackageDocument &document, const char *type, const NoteReferences &references, StoryNotes &notes)
 {
     const std::optional<QByteArray> part = document.relationships.partByType(type);
     if (references.inOrder().empty() || !part || !document.package.contains(*part))
         return std::nullopt;
-    const Result<Relationships, DocxError> relationships = Relationships::read(document.package, *part);
+    const Result<Relationships, DocumentError::Cause> relationships =
+        Relationships::read(document.package, *part);
     if (!relationships)
         return relationships.error();
     StoryReader reader(document.styles, notes, [&](const QByteArray &identifier) {
@@ -27,7 +29,7 @@ std::optional<DocxError> appendNotes(AttributedStringBuilder &text, const Packag
     });
     const NoteReferences wanted = references; // notes in notes come too late
     reader.wantNotes(&wanted);
-    if (const std::optional<DocxError> failure = readXmlPart(document.package, *part, reader))
+    if (const std::optional<DocumentError::Cause> failure = readXmlPart(document.package, *part, reader))
         return failure;
     if (reader.error())
         return reader.error();
@@ -36,13 +38,14 @@ std::optional<DocxError> appendNotes(AttributedStringBuilder &text, const Packag
     return std::nullopt;
 }
 
-Result<AttributedString, DocxError> textOf(const PackageDocument &document)
+Result<AttributedString, DocumentError::Cause> textOf(const PackageDocument &document)
 {
     StoryNotes notes;
     StoryReader reader(document.styles, notes, [&document](const QByteArray &identifier) {
         return readAlternativeChunk(document, document.relationships, identifier);
     });
-    if (const std::optional<DocxError> failure = readXmlPart(document.package, document.mainPart, reader))
+    if (const std::optional<DocumentError::Cause> failure =
+            readXmlPart(document.package, document.mainPart, reader))
         return *failure;
     if (reader.error())
         return *reader.error();
@@ -51,7 +54,8 @@ Result<AttributedString, DocxError> textOf(const PackageDocument &document)
         return body;
     AttributedStringBuilder text;
     text.append(body);
-    std::optional<DocxError> failure = appendNotes(text, document, "footnotes", notes.footnotes, notes);
+    std::optional<DocumentError::Cause> failure =
+        appendNotes(text, document, "footnotes", notes.footnotes, notes);
     if (!failure)
         failure = appendNotes(text, document, "endnotes", notes.endnotes, notes);
     if (failure)
@@ -61,72 +65,52 @@ Result<AttributedString, DocxError> textOf(const PackageDocument &document)
 
 } // namespace
 
-QString causeText(DocxError error)
-{
-    switch (error) {
-    case DocxError::NotWordDocument:
-        return QStringLiteral("is not a Word document");
-    case DocxError::OldWordDocument:
-        return QStringLiteral("is in a format of before 2007; save it as .docx or RTF");
-    case DocxError::Encrypted:
-        return QStringLiteral("is encrypted; save it without a password");
-    case DocxError::Damaged:
-        return QStringLiteral("is a damaged Word document; open it in a word processor and save it anew");
-    case DocxError::TooLarge:
-        return QStringLiteral("has more in it than any Word document; divide it");
-    case DocxError::TooIntricate:
-        return QStringLiteral("is more intricate than any Word document; save it anew with a word processor");
-    case DocxError::UnreadableChunk:
-        return QStringLiteral(
-            "has a part in a format that cannot be read; save it anew with a word processor");
-    case DocxError::NotEnoughMemory:
-        break;
-    }
-    return QStringLiteral("not enough memory");
-}
-
 bool looksLikeDocx(QByteArrayView bytes)
 {
     try {
         ReadAllowance allowance;
-        const Result<ZipPackage, DocxError> package = ZipPackage::open(bytes, allowance);
+        const Result<ZipPackage, DocumentError::Cause> package = ZipPackage::open(bytes, allowance);
         if (!package)
-            return package.error() == DocxError::Encrypted;
-        const Result<ContentTypes, DocxError> types = ContentTypes::read(package.value());
+            return package.error() == DocumentError::Cause::Encrypted;
+        const Result<ContentTypes, DocumentError::Cause> types = ContentTypes::read(package.value());
         return types && mainPartOf(package.value(), types.value());
     } catch (const std::bad_alloc &) {
         return false;
     }
 }
 
-Result<AttributedString, DocxError> readPackageDocument(QByteArrayView bytes, ReadAllowance &allowance)
+Result<AttributedString, DocumentError::Cause> readPackageDocument(
+    QByteArrayView bytes, ReadAllowance &allowance)
 {
-    const Result<ZipPackage, DocxError> package = ZipPackage::open(bytes, allowance);
+    const Result<ZipPackage, DocumentError::Cause> package = ZipPackage::open(bytes, allowance);
     if (!package)
         return package.error();
-    const Result<ContentTypes, DocxError> types = ContentTypes::read(package.value());
+    const Result<ContentTypes, DocumentError::Cause> types = ContentTypes::read(package.value());
     if (!types)
         return types.error();
-    const Result<QByteArray, DocxError> mainPart = mainPartOf(package.value(), types.value());
+    const Result<QByteArray, DocumentError::Cause> mainPart = mainPartOf(package.value(), types.value());
     if (!mainPart)
         return mainPart.error();
-    const Result<Relationships, DocxError> relationships =
+    const Result<Relationships, DocumentError::Cause> relationships =
         Relationships::read(package.value(), mainPart.value());
     if (!relationships)
         return relationships.error();
-    const Result<DocumentStyles, DocxError> styles =
+    const Result<DocumentStyles, DocumentError::Cause> styles =
         DocumentStyles::read(package.value(), relationships.value());
     if (!styles)
         return styles.error();
     return textOf({package.value(), types.value(), mainPart.value(), relationships.value(), styles.value()});
 }
 
-Result<AttributedString, DocxError> readDocx(QByteArrayView bytes)
+Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes)
 {
     try {
         ReadAllowance allowance;
-        return readPackageDocument(bytes, allowance);
+        Result<AttributedString, DocumentError::Cause> text = readPackageDocument(bytes, allowance);
+        if (text)
+            return std::move(text).value();
+        return DocumentError(text.error(), DocumentKind::WordDocument);
     } catch (const std::bad_alloc &) {
-        return DocxError::NotEnoughMemory;
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::WordDocument);
     }
 }

@@ -27,29 +27,16 @@
 // script.
 #pragma once
 
+#include "documents/DocumentError.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
 #include <QByteArrayView>
 #include <QString>
 
-enum class DocxError {
-    NotWordDocument, ///< no package, or one of another kind
-    OldWordDocument, ///< of Word 97 to 2003, which is no package
-    Encrypted, ///< as a whole or in a part that is needed
-    Damaged, ///< the archive is broken, a part that is needed is missing or is no well-formed XML
-    TooLarge, ///< more parts, or more bytes in them, than any document has
-    TooIntricate, ///< deeper or more varied XML than any document has
-    UnreadableChunk, ///< a part of it is in another format, which nothing here reads
-    NotEnoughMemory,
-};
-
-/// The cause in English, on one line, to stand behind a file's name: "is encrypted".
-QString causeText(DocxError error);
-
 /// Whether the bytes are a package whose main part is a Word document, or an encrypted package of some kind.
 /// Reads no more than the list of parts and the relationships of the package.
 bool looksLikeDocx(QByteArrayView bytes);
 
 /// Takes time proportional to the uncompressed parts that it reads, and memory proportional to the text.
-Result<AttributedString, DocxError> readDocx(QByteArrayView bytes);
+Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes);

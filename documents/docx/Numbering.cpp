@@ -80,11 +80,11 @@ private:
     ParagraphProperties m_properties;
 };
 
-Result<Numbering, DocxError> Numbering::read(const ZipPackage &package, const QByteArray &partName)
+Result<Numbering, DocumentError::Cause> Numbering::read(const ZipPackage &package, const QByteArray &partName)
 {
     Numbering numbering;
     NumberingReader reader(numbering);
-    if (const std::optional<DocxError> failure = readXmlPart(package, partName, reader))
+    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, partName, reader))
         return *failure;
     return numbering;
 }

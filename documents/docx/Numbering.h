@@ -12,7 +12,8 @@
 
 class Numbering {
 public:
-    static Result<Numbering, DocxError> read(const ZipPackage &package, const QByteArray &partName);
+    static Result<Numbering, DocumentError::Cause> read(
+        const ZipPackage &package, const QByteArray &partName);
 
     /// Null where the list or the level says nothing.
     [[nodiscard]] const ParagraphProperties *levelOf(int list, int level) const;

@@ -17,4 +17,5 @@ struct PackageDocument {
 };
 
 /// readDocx() of a document that may be within another one. Throws std::bad_alloc.
-Result<AttributedString, DocxError> readPackageDocument(QByteArrayView bytes, ReadAllowance &allowance);
+Result<AttributedString, DocumentError::Cause> readPackageDocument(
+    QByteArrayView bytes, ReadAllowance &allowance);

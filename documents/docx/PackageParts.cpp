@@ -96,14 +96,15 @@ private:
     const QByteArray m_source;
 };
 
-Result<Relationships, DocxError> Relationships::read(const ZipPackage &package, const QByteArray &source)
+Result<Relationships, DocumentError::Cause> Relationships::read(
+    const ZipPackage &package, const QByteArray &source)
 {
     Relationships relationships;
     const QByteArray part = relationshipsPartOf(source);
     if (!package.contains(part))
         return relationships;
     RelationshipsReader reader(relationships, source);
-    if (const std::optional<DocxError> failure = readXmlPart(package, part, reader))
+    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, part, reader))
         return *failure;
     return relationships;
 }
@@ -143,14 +144,14 @@ private:
     ContentTypes &m_types;
 };
 
-Result<ContentTypes, DocxError> ContentTypes::read(const ZipPackage &package)
+Result<ContentTypes, DocumentError::Cause> ContentTypes::read(const ZipPackage &package)
 {
     const QByteArray part("[Content_Types].xml");
     if (!package.contains(part))
-        return DocxError::NotWordDocument;
+        return DocumentError::Cause::WrongKind;
     ContentTypes types;
     ContentTypesReader reader(types);
-    if (const std::optional<DocxError> failure = readXmlPart(package, part, reader))
+    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, part, reader))
         return *failure;
     return types;
 }
@@ -164,13 +165,13 @@ QByteArray ContentTypes::typeOf(const QByteArray &partName) const
     return m_byExtension.value(name.sliced(name.lastIndexOf('.') + 1));
 }
 
-Result<QByteArray, DocxError> mainPartOf(const ZipPackage &package, const ContentTypes &types)
+Result<QByteArray, DocumentError::Cause> mainPartOf(const ZipPackage &package, const ContentTypes &types)
 {
-    const Result<Relationships, DocxError> relationships = Relationships::read(package, {});
+    const Result<Relationships, DocumentError::Cause> relationships = Relationships::read(package, {});
     if (!relationships)
         return relationships.error();
     const std::optional<QByteArray> part = relationships.value().partByType("officeDocument");
     if (!part || !isWordDocument(types.typeOf(*part)))
-        return DocxError::NotWordDocument;
+        return DocumentError::Cause::WrongKind;
     return *part;
 }

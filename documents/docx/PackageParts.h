@@ -16,7 +16,8 @@
 class Relationships {
 public:
     /// source: the name of the part; empty for the package. A part without relationships has none.
-    static Result<Relationships, DocxError> read(const ZipPackage &package, const QByteArray &source);
+    static Result<Relationships, DocumentError::Cause> read(
+        const ZipPackage &package, const QByteArray &source);
 
     /// The name of the part that a relationship leads to, whether it is there or not. Absent for an unknown
     /// identifier and for a target outside of the package.
@@ -34,7 +35,7 @@ private:
 /// The MIME types of the parts.
 class ContentTypes {
 public:
-    static Result<ContentTypes, DocxError> read(const ZipPackage &package);
+    static Result<ContentTypes, DocumentError::Cause> read(const ZipPackage &package);
 
     /// Lower case, without parameters; empty where the package does not say.
     [[nodiscard]] QByteArray typeOf(const QByteArray &partName) const;
@@ -46,4 +47,4 @@ private:
 };
 
 /// The name of the main part of a Word document; NotWordDocument where the package is of another kind.
-Result<QByteArray, DocxError> mainPartOf(const ZipPackage &package, const ContentTypes &types);
+Result<QByteArray, DocumentError::Cause> mainPartOf(const ZipPackage &package, const ContentTypes &types);

@@ -467,7 +467,7 @@ void StoryReader::insertChunk(const XmlElement &element)
     const auto identifier = element.attribute(XmlName{XmlSpace::Relationships, "id"_tag});
     if (!identifier || m_error || state().fieldsWithoutResult > 0)
         return;
-    Result<AttributedString, DocxError> chunk = m_readChunk(identifier->toByteArray());
+    Result<AttributedString, DocumentError::Cause> chunk = m_readChunk(identifier->toByteArray());
     if (chunk)
         m_assembler.insert(chunk.value());
     else

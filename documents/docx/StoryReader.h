@@ -35,7 +35,8 @@ struct StoryNotes {
 class StoryReader final : public XmlHandler {
 public:
     /// The text of a chunk in another format, by the identifier of its relationship.
-    using ReadChunk = std::function<Result<AttributedString, DocxError>(const QByteArray &identifier)>;
+    using ReadChunk =
+        std::function<Result<AttributedString, DocumentError::Cause>(const QByteArray &identifier)>;
 
     /// notes: is told of the references in the text.
     StoryReader(const DocumentStyles &styles, StoryNotes &notes, ReadChunk readChunk);
@@ -53,7 +54,7 @@ public:
         return m_noteTexts.value(identifier);
     }
     /// What went wrong with a chunk.
-    [[nodiscard]] std::optional<DocxError> error() const { return m_error; }
+    [[nodiscard]] std::optional<DocumentError::Cause> error() const { return m_error; }
 
 private:
     enum class Mode { Content, Text, ParagraphProperties, MarkProperties, RunProperties, Table, Row, Cell };
@@ -120,5 +121,5 @@ private:
     const NoteReferences *m_wantedNotes = nullptr;
     QByteArray m_note; // the one that is open
     QHash<QByteArray, AttributedString> m_noteTexts;
-    std::optional<DocxError> m_error;
+    std::optional<DocumentError::Cause> m_error;
 };

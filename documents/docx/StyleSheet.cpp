@@ -153,12 +153,12 @@ private:
     StyleProperties *m_target = nullptr;
 };
 
-Result<StyleSheet, DocxError> StyleSheet::read(
+Result<StyleSheet, DocumentError::Cause> StyleSheet::read(
     const ZipPackage &package, const QByteArray &partName, const Theme &theme, const Numbering &numbering)
 {
     StyleSheet styles;
     StyleSheetReader reader(styles, theme);
-    if (const std::optional<DocxError> failure = readXmlPart(package, partName, reader))
+    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, partName, reader))
         return *failure;
     styles.applyLists(numbering);
     return styles;

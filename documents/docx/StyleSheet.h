@@ -44,8 +44,8 @@ class StyleSheet {
 public:
     enum class Kind { Paragraph, Character, Table };
 
-    static Result<StyleSheet, DocxError> read(const ZipPackage &package, const QByteArray &partName,
-        const Theme &theme, const Numbering &numbering);
+    static Result<StyleSheet, DocumentError::Cause> read(const ZipPackage &package,
+        const QByteArray &partName, const Theme &theme, const Numbering &numbering);
 
     [[nodiscard]] const StyleProperties &defaults() const { return m_defaults; }
 

@@ -62,11 +62,11 @@ private:
     QByteArray m_group;
 };
 
-Result<Theme, DocxError> Theme::read(const ZipPackage &package, const QByteArray &partName)
+Result<Theme, DocumentError::Cause> Theme::read(const ZipPackage &package, const QByteArray &partName)
 {
     Theme theme;
     ThemeReader reader(theme);
-    if (const std::optional<DocxError> failure = readXmlPart(package, partName, reader))
+    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, partName, reader))
         return *failure;
     return theme;
 }

@@ -12,7 +12,7 @@
 
 class Theme {
 public:
-    static Result<Theme, DocxError> read(const ZipPackage &package, const QByteArray &partName);
+    static Result<Theme, DocumentError::Cause> read(const ZipPackage &package, const QByteArray &partName);
 
     /// name: as the attributes of rFonts name it: "minorHAnsi", "majorBidi". Empty where the theme has none.
     [[nodiscard]] QString font(QByteArrayView name) const { return m_fonts.value(name.toByteArray()); }

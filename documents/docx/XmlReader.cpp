@@ -41,7 +41,7 @@ public:
     }
 
     [[nodiscard]] bool take(QByteArrayView piece);
-    [[nodiscard]] std::optional<DocxError> finish();
+    [[nodiscard]] std::optional<DocumentError::Cause> finish();
 
 private:
     static void XMLCALL onStart(void *self, const XML_Char *name, const XML_Char **attributes)
@@ -62,7 +62,7 @@ private:
     }
     static void XMLCALL onDoctype(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int)
     {
-        static_cast<ParserDriver *>(self)->stop(DocxError::Damaged);
+        static_cast<ParserDriver *>(self)->stop(DocumentError::Cause::Damaged);
     }
 
     /// The parser is C and knows no exceptions.
@@ -74,13 +74,13 @@ private:
         try {
             call(*this);
         } catch (const std::bad_alloc &) {
-            stop(DocxError::NotEnoughMemory);
+            stop(DocumentError::Cause::NotEnoughMemory);
         }
     }
 
     void start(const char *name, const char *const *attributes);
     void end(const char *name);
-    void stop(DocxError error);
+    void stop(DocumentError::Cause error);
     [[nodiscard]] bool feed(bool isLast);
 
     std::unique_ptr<XML_ParserStruct, FreeParser> m_parser;
@@ -93,10 +93,10 @@ private:
     int m_depth = 0;
     int m_leftOutDepth = 0; // of the outermost element that is left out; 0: none
     std::vector<bool> m_isSeen; // by depth, of open elements
-    std::optional<DocxError> m_error;
+    std::optional<DocumentError::Cause> m_error;
 };
 
-void ParserDriver::stop(DocxError error)
+void ParserDriver::stop(DocumentError::Cause error)
 {
     m_error = error;
     XML_StopParser(m_parser.get(), XML_FALSE);
@@ -106,7 +106,7 @@ void ParserDriver::start(const char *name, const char *const *attributes)
 {
     ++m_depth;
     if (m_depth > greatestDepth || m_namespaces.hasTooManyNames()) {
-        stop(DocxError::TooIntricate);
+        stop(DocumentError::Cause::TooComplex);
         return;
     }
     m_namespaces.enter(m_depth, attributes);
@@ -147,8 +147,9 @@ bool ParserDriver::feed(bool isLast)
         static_cast<int>(m_pending.size()), isLast ? XML_TRUE : XML_FALSE);
     if (status != XML_STATUS_OK) {
         if (!m_error)
-            m_error = XML_GetErrorCode(m_parser.get()) == XML_ERROR_NO_MEMORY ? DocxError::NotEnoughMemory
-                                                                              : DocxError::Damaged;
+            m_error = XML_GetErrorCode(m_parser.get()) == XML_ERROR_NO_MEMORY
+                ? DocumentError::Cause::NotEnoughMemory
+                : DocumentError::Cause::Damaged;
         return false;
     }
     m_fed += m_pending.size();
@@ -157,12 +158,12 @@ bool ParserDriver::feed(bool isLast)
     // again keeps the sum proportional to its length.
     const auto left = static_cast<qsizetype>(m_fed - XML_GetCurrentByteIndex(m_parser.get()));
     if (left > longestToken)
-        m_error = DocxError::TooIntricate;
+        m_error = DocumentError::Cause::TooComplex;
     m_feedLength = std::max(shortestFeed, left);
     return !m_error;
 }
 
-std::optional<DocxError> ParserDriver::finish()
+std::optional<DocumentError::Cause> ParserDriver::finish()
 {
     if (!m_error)
         (void)feed(true);
@@ -179,11 +180,11 @@ std::optional<QByteArrayView> XmlElement::attribute(XmlName name) const
     return std::nullopt;
 }
 
-std::optional<DocxError> readXmlPart(
+std::optional<DocumentError::Cause> readXmlPart(
     const ZipPackage &package, const QByteArray &partName, XmlHandler &handler)
 {
     ParserDriver driver(handler);
-    const std::optional<DocxError> failure =
+    const std::optional<DocumentError::Cause> failure =
         package.read(partName, [&driver](QByteArrayView piece) { return driver.take(piece); });
     if (failure)
         return failure;

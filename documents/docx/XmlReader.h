@@ -58,5 +58,5 @@ public:
 /// Hands every element of a part to the handler that is left after MarkupCompatibility, in the order of the
 /// document. A document type declaration is Damaged, since a package must have none. What the handler got
 /// before a failure is worthless.
-[[nodiscard]] std::optional<DocxError> readXmlPart(
+[[nodiscard]] std::optional<DocumentError::Cause> readXmlPart(
     const ZipPackage &package, const QByteArray &partName, XmlHandler &handler);

@@ -43,17 +43,17 @@ bool hasEncryptedPackage(QByteArrayView bytes)
     return false;
 }
 
-DocxError causeOf(int zipError)
+DocumentError::Cause causeOf(int zipError)
 {
     switch (zipError) {
     case ZIP_ER_NOPASSWD:
     case ZIP_ER_WRONGPASSWD:
     case ZIP_ER_ENCRNOTSUPP:
-        return DocxError::Encrypted;
+        return DocumentError::Cause::Encrypted;
     case ZIP_ER_MEMORY:
-        return DocxError::NotEnoughMemory;
+        return DocumentError::Cause::NotEnoughMemory;
     default:
-        return DocxError::Damaged;
+        return DocumentError::Cause::Damaged;
     }
 }
 
@@ -75,12 +75,12 @@ void ZipPackage::Discard::operator()(zip *archive) const
     zip_discard(archive);
 }
 
-Result<ZipPackage, DocxError> ZipPackage::open(QByteArrayView bytes, ReadAllowance &allowance)
+Result<ZipPackage, DocumentError::Cause> ZipPackage::open(QByteArrayView bytes, ReadAllowance &allowance)
 {
     if (isCompoundFile(bytes))
-        return hasEncryptedPackage(bytes) ? DocxError::Encrypted : DocxError::OldWordDocument;
+        return hasEncryptedPackage(bytes) ? DocumentError::Cause::Encrypted : DocumentError::Cause::OldFormat;
     if (!bytes.startsWith("PK"))
-        return DocxError::NotWordDocument;
+        return DocumentError::Cause::WrongKind;
     zip_error_t error;
     zip_error_init(&error);
     zip_source_t *source =
@@ -94,16 +94,16 @@ Result<ZipPackage, DocxError> ZipPackage::open(QByteArrayView bytes, ReadAllowan
         return causeOf(cause);
     }
     ZipPackage package(std::move(archive), allowance);
-    if (const std::optional<DocxError> failure = package.listParts())
+    if (const std::optional<DocumentError::Cause> failure = package.listParts())
         return *failure;
     return package;
 }
 
-std::optional<DocxError> ZipPackage::listParts()
+std::optional<DocumentError::Cause> ZipPackage::listParts()
 {
     const zip_int64_t count = zip_get_num_entries(m_archive.get(), 0);
     if (count > mostParts)
-        return DocxError::TooLarge;
+        return DocumentError::Cause::TooLarge;
     for (zip_int64_t i = 0; i < count; ++i) {
         const auto place = static_cast<quint64>(i);
         const QByteArray name = comparable(zip_get_name(m_archive.get(), place, ZIP_FL_ENC_RAW));
@@ -111,7 +111,7 @@ std::optional<DocxError> ZipPackage::listParts()
             continue;
         // Which of two parts of one name is meant, nobody can know (OPC forbids it).
         if (m_parts.contains(name))
-            return DocxError::Damaged;
+            return DocumentError::Cause::Damaged;
         m_parts.insert(name, place);
     }
     return std::nullopt;
@@ -122,12 +122,12 @@ bool ZipPackage::contains(const QByteArray &name) const
     return m_parts.contains(comparable(name));
 }
 
-std::optional<DocxError> ZipPackage::read(const QByteArray &name, const Take &take) const
+std::optional<DocumentError::Cause> ZipPackage::read(const QByteArray &name, const Take &take) const
 {
     const auto part = m_parts.constFind(comparable(name));
     zip_stat_t description;
     if (part == m_parts.cend() || zip_stat_index(m_archive.get(), *part, 0, &description) != 0)
-        return DocxError::Damaged;
+        return DocumentError::Cause::Damaged;
     const std::unique_ptr<zip_file_t, CloseFile> file(zip_fopen_index(m_archive.get(), *part, 0));
     if (!file)
         return causeOf(zip_error_code_zip(zip_get_error(m_archive.get())));
@@ -143,16 +143,16 @@ std::optional<DocxError> ZipPackage::read(const QByteArray &name, const Take &ta
         total += length;
         m_allowance->bytes -= length;
         if (m_allowance->bytes < 0 || (total > harmlessLength && total / greatestRatio > compressed))
-            return DocxError::TooLarge;
+            return DocumentError::Cause::TooLarge;
         if (!take(QByteArrayView(piece.data(), static_cast<qsizetype>(length))))
             return std::nullopt;
     }
 }
 
-Result<QByteArray, DocxError> ZipPackage::contents(const QByteArray &name) const
+Result<QByteArray, DocumentError::Cause> ZipPackage::contents(const QByteArray &name) const
 {
     QByteArray bytes;
-    const std::optional<DocxError> failure = read(name, [&bytes](QByteArrayView piece) {
+    const std::optional<DocumentError::Cause> failure = read(name, [&bytes](QByteArrayView piece) {
         bytes.append(piece);
         return true;
     });

@@ -26,7 +26,7 @@ struct ReadAllowance {
 class ZipPackage {
 public:
     /// Encrypted and old documents, which are no archives, are told apart by their beginnings.
-    static Result<ZipPackage, DocxError> open(QByteArrayView bytes, ReadAllowance &allowance);
+    static Result<ZipPackage, DocumentError::Cause> open(QByteArrayView bytes, ReadAllowance &allowance);
 
     /// Part names are those of OPC without the leading slash, of any case: "word/document.xml".
     [[nodiscard]] bool contains(const QByteArray &name) const;
@@ -34,9 +34,9 @@ public:
     /// Hands a part over piece by piece, none longer than 64 KiB, until take() returns false. Absent where
     /// the part was read to its end or to where take() stopped; a missing part is Damaged.
     using Take = std::function<bool(QByteArrayView piece)>;
-    [[nodiscard]] std::optional<DocxError> read(const QByteArray &name, const Take &take) const;
+    [[nodiscard]] std::optional<DocumentError::Cause> read(const QByteArray &name, const Take &take) const;
 
-    [[nodiscard]] Result<QByteArray, DocxError> contents(const QByteArray &name) const;
+    [[nodiscard]] Result<QByteArray, DocumentError::Cause> contents(const QByteArray &name) const;
 
     [[nodiscard]] ReadAllowance &allowance() const { return *m_allowance; }
 
@@ -51,7 +51,7 @@ private:
         , m_allowance(&allowance)
     {
     }
-    [[nodiscard]] std::optional<DocxError> listParts();
+    [[nodiscard]] std::optional<DocumentError::Cause> listParts();
 
     Archive m_archive;
     QHash<QByteArray, quint64> m_parts; // lower-case names to places in the archive

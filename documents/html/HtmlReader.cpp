@@ -14,35 +14,20 @@ namespace {
 /// Bytes, of which the text never has fewer than code units.
 constexpr qsizetype longestInput = INT32_MAX - 1;
 
-Result<AttributedString, HtmlError> readUtf8(QByteArrayView page)
+Result<AttributedString, DocumentError> readUtf8(QByteArrayView page)
 {
-    const Result<HtmlTree, HtmlError> tree = HtmlTree::parse(page);
+    const Result<HtmlTree, DocumentError::Cause> tree = HtmlTree::parse(page);
     if (!tree)
-        return tree.error();
+        return DocumentError(tree.error(), DocumentKind::Html);
     return textOfPage(tree.value().document());
 }
 
 } // namespace
 
-QString causeText(HtmlError error)
-{
-    switch (error) {
-    case HtmlError::TooLong:
-        return QStringLiteral("is larger than 2 GiB");
-    case HtmlError::TooDeep:
-        return QStringLiteral("has more than 1000 elements inside each other");
-    case HtmlError::TooIntricate:
-        return QStringLiteral("has elements too intricate to be read");
-    case HtmlError::NotEnoughMemory:
-        break;
-    }
-    return QStringLiteral("not enough memory");
-}
-
-Result<AttributedString, HtmlError> readHtml(QByteArrayView bytes, const HtmlOptions &options)
+Result<AttributedString, DocumentError> readHtml(QByteArrayView bytes, const HtmlOptions &options)
 {
     if (bytes.size() > longestInput)
-        return HtmlError::TooLong;
+        return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Html);
     try {
         const TextEncoding encoding = encodingOfPage(bytes, options.charset);
         const QByteArrayView page = bytes.sliced(encoding.markLength);
@@ -50,6 +35,6 @@ Result<AttributedString, HtmlError> readHtml(QByteArrayView bytes, const HtmlOpt
             return readUtf8(page);
         return readUtf8(decodedText(page, encoding.name).toUtf8());
     } catch (const std::bad_alloc &) {
-        return HtmlError::NotEnoughMemory;
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Html);
     }
 }

@@ -28,6 +28,7 @@
 // spacing of their paragraphs; those of p are the empty lines; other vertical margins are left out.
 #pragma once
 
+#include "documents/DocumentError.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
@@ -38,16 +39,6 @@ struct HtmlOptions {
     QByteArray charset; ///< as a MIME type or a transfer's header names it; empty or unknown for none
 };
 
-enum class HtmlError {
-    TooLong, ///< positions in a text are 32 bits wide
-    TooDeep, ///< more than 1000 elements inside each other
-    TooIntricate, ///< the parser needs time or memory out of all proportion to the page's length
-    NotEnoughMemory,
-};
-
-/// The cause in English, on one line, to stand behind a file's name: "is larger than 2 GiB".
-QString causeText(HtmlError error);
-
 /// Whether the bytes begin with a doctype of HTML or with an html tag, behind white space, a byte order mark,
 /// comments and an XML declaration; in UTF-8 (or whatever has ASCII in it) or UTF-16. Looks at a bounded
 /// length.
@@ -57,4 +48,4 @@ bool looksLikeHtml(QByteArrayView bytes);
 /// name, else the one a meta element in its first 1024 bytes names, else that of its XML declaration, else
 /// the one that TextEncoding.h finds out. Encodings go by the labels of the Encoding Standard. UTF-8 that is
 /// named falsely does not count.
-Result<AttributedString, HtmlError> readHtml(QByteArrayView bytes, const HtmlOptions &options = {});
+Result<AttributedString, DocumentError> readHtml(QByteArrayView bytes, const HtmlOptions &options = {});

@@ -48,15 +48,15 @@ const GumboNode *parsedDocument(QByteArrayView page, ParserRun *run)
 
 } // namespace
 
-Result<HtmlTree, HtmlError> HtmlTree::parse(QByteArrayView page)
+Result<HtmlTree, DocumentError::Cause> HtmlTree::parse(QByteArrayView page)
 {
     auto memory = std::make_unique<ParserMemory>(page.size());
     ParserRun run{memory.get(), {}};
     const GumboNode *document = parsedDocument(page.isEmpty() ? QByteArrayView(" ") : page, &run);
     if (!document)
-        return memory->refusal().value_or(HtmlError::NotEnoughMemory);
+        return memory->refusal().value_or(DocumentError::Cause::NotEnoughMemory);
     if (isTooDeep(*document))
-        return HtmlError::TooDeep;
+        return DocumentError::Cause::TooDeep;
     return HtmlTree(std::move(memory), document);
 }
 

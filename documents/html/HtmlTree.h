@@ -14,7 +14,7 @@ class ParserMemory;
 class HtmlTree {
 public:
     /// page: UTF-8; must outlive the tree. Throws std::bad_alloc where the memory is short at the very start.
-    static Result<HtmlTree, HtmlError> parse(QByteArrayView page);
+    static Result<HtmlTree, DocumentError::Cause> parse(QByteArrayView page);
 
     HtmlTree(HtmlTree &&) noexcept;
     HtmlTree &operator=(HtmlTree &&) noexcept;

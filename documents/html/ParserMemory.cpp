@@ -79,16 +79,17 @@ void *ParserMemory::allocate(size_t size)
     void *block = nullptr;
     try {
         if (isStackUsedUp() || (isNode && isTreeTooDeep())) {
-            m_refusal = HtmlError::TooDeep;
+            m_refusal = DocumentError::Cause::TooDeep;
             return nullptr;
         }
         if (hasNoTimeLeft()) {
-            m_refusal = HtmlError::TooIntricate;
+            m_refusal = DocumentError::Cause::TooComplex;
             return nullptr;
         }
         block = m_pool.allocate(headerSize + size, blockAlignment);
     } catch (const std::bad_alloc &) {
-        m_refusal = m_source.hasReachedLimit() ? HtmlError::TooIntricate : HtmlError::NotEnoughMemory;
+        m_refusal = m_source.hasReachedLimit() ? DocumentError::Cause::TooComplex
+                                               : DocumentError::Cause::NotEnoughMemory;
         return nullptr;
     }
     std::memcpy(block, &size, sizeof size);
@@ -103,7 +104,7 @@ void *ParserMemory::allocate(size_t size)
 void ParserMemory::release(void *block)
 {
     if (isStackUsedUp())
-        m_refusal = HtmlError::TooDeep;
+        m_refusal = DocumentError::Cause::TooDeep;
     if (!block)
         return;
     void *start = static_cast<std::byte *>(block) - headerSize;

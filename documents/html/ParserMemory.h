@@ -27,7 +27,7 @@ public:
     /// May make a refusal, on which the run must end.
     void release(void *block);
 
-    [[nodiscard]] std::optional<HtmlError> refusal() const { return m_refusal; }
+    [[nodiscard]] std::optional<DocumentError::Cause> refusal() const { return m_refusal; }
 
 private:
     /// What the pool takes from the system, up to a limit.
@@ -58,7 +58,7 @@ private:
 
     Source m_source;
     std::pmr::unsynchronized_pool_resource m_pool;
-    std::optional<HtmlError> m_refusal;
+    std::optional<DocumentError::Cause> m_refusal;
 
     const GumboNode *m_document = nullptr; ///< the root of the tree, once there is one
     size_t m_nodeCount = 0; ///< blocks of the size of a node; strings of the same size count too

@@ -1,33 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "documents/loading/DocumentLoader.h"
 
-#include "documents/loading/DocumentKind.h"
+#include "documents/PlainTextReader.h"
+#include "documents/docx/DocxReader.h"
+#include "documents/html/HtmlReader.h"
+#include "documents/loading/KindDetection.h"
+#include "documents/rtf/RtfReader.h"
+#include "documents/rtfd/RtfdReader.h"
 #include "platform/files/FileContents.h"
 
 #include <new>
 
 namespace {
 
-using LoadResult = Result<AttributedString, LoadError>;
-
-/// What a reader of one kind gave, with its cause of failure as one of many.
-template <typename Error>
-LoadResult loaded(Result<AttributedString, Error> document)
-{
-    if (!document)
-        return LoadError(document.error());
-    return std::move(document).value();
-}
+using LoadResult = Result<AttributedString, DocumentError>;
 
 LoadResult loadedPlainText(QByteArrayView bytes)
 {
-    const Result<PlainText, TextError> plainText = readPlainText(bytes);
+    const Result<PlainText, DocumentError> plainText = readPlainText(bytes);
     if (!plainText)
-        return LoadError(plainText.error());
+        return plainText.error();
     try {
         return AttributedString(plainText.value().text);
     } catch (const std::bad_alloc &) {
-        return LoadError(TextError::NotEnoughMemory);
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::PlainText);
     }
 }
 
@@ -35,15 +31,15 @@ LoadResult loadedBytes(const QByteArray &path, QByteArrayView bytes)
 {
     switch (kindOfDocument(path, bytes)) {
     case DocumentKind::Rtf:
-        return loaded(readRtf(bytes));
-    case DocumentKind::FlatRtfd:
-        return loaded(readFlatRtfd(bytes));
+        return readRtf(bytes);
+    case DocumentKind::Rtfd:
+        return readFlatRtfd(bytes);
     case DocumentKind::Html:
-        return loaded(readHtml(bytes));
+        return readHtml(bytes);
     case DocumentKind::WordDocument:
-        return loaded(readDocx(bytes));
+        return readDocx(bytes);
     case DocumentKind::Pdf:
-        return LoadError(PdfError::NotReadHere);
+        return DocumentError(DocumentError::Cause::PdfNotSupported, DocumentKind::Pdf);
     case DocumentKind::PlainText:
         break;
     }
@@ -53,21 +49,16 @@ LoadResult loadedBytes(const QByteArray &path, QByteArrayView bytes)
 LoadResult loadedContents(const QByteArray &path, const Result<QByteArray, FileError> &contents)
 {
     if (!contents)
-        return LoadError(contents.error());
+        return DocumentError(contents.error());
     return loadedBytes(path, contents.value());
 }
 
 } // namespace
 
-QString causeText(const LoadError &error)
-{
-    return std::visit([](const auto &cause) { return causeText(cause); }, error);
-}
-
 LoadResult loadDocument(const QByteArray &path, const DocumentOptions &)
 {
     if (isRtfdPackage(path))
-        return loaded(readRtfdPackage(path));
+        return readRtfdPackage(path);
     return loadedContents(path, readFile(path));
 }
 

@@ -24,7 +24,7 @@ std::optional<AttributedString> textOf(Result<AttributedString, Error> result)
 
 std::optional<AttributedString> readPlain(const QByteArray &bytes, const QByteArray &charset)
 {
-    const Result<PlainText, TextError> text = readPlainText(bytes, charset);
+    const Result<PlainText, DocumentError> text = readPlainText(bytes, charset);
     return text ? std::optional(AttributedString(text.value().text)) : std::nullopt;
 }
 

@@ -1,31 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "documents/loading/PdfLoader.h"
 
-#include "documents/loading/DocumentKind.h"
+#include "documents/loading/KindDetection.h"
 #include "documents/pdf/PdfReader.h"
 #include "documents/pdf/UnmappedText.h"
+#include "documents/rtfd/RtfdReader.h"
 #include "platform/files/FileContents.h"
 
 namespace {
 
-using LoadResult = Result<AttributedString, LoadError>;
+using LoadResult = Result<AttributedString, DocumentError>;
 
 LoadResult loadedPdf(QByteArrayView bytes)
 {
-    Result<AttributedString, PdfError> text = readPdf(bytes);
+    Result<AttributedString, DocumentError> text = readPdf(bytes);
     if (!text)
-        return LoadError(text.error());
+        return text.error();
     if (QStringView(text.value().string()).trimmed().isEmpty())
-        return LoadError(PdfError::NoText);
+        return DocumentError(DocumentError::Cause::NoText, DocumentKind::Pdf);
     if (isUnmapped(text.value().string()))
-        return LoadError(PdfError::UnmappedText);
+        return DocumentError(DocumentError::Cause::UnmappedText, DocumentKind::Pdf);
     return std::move(text).value();
 }
 
 LoadResult loadedContents(const QByteArray &path, const Result<QByteArray, FileError> &contents)
 {
     if (!contents)
-        return LoadError(contents.error());
+        return DocumentError(contents.error());
     if (kindOfDocument(path, contents.value()) == DocumentKind::Pdf)
         return loadedPdf(contents.value());
     return documentFromBytes(path, contents.value());

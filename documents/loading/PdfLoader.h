@@ -7,7 +7,7 @@
 
 #include "documents/loading/DocumentLoader.h"
 
-/// As loadDocument(); a PDF file without text on any page is PdfError::NoText, so that a scan is not taken
-/// for an empty document.
-Result<AttributedString, LoadError> loadDocumentOrPdf(const QByteArray &path);
-Result<AttributedString, LoadError> loadDocumentOrPdf(int descriptor);
+/// As loadDocument(); a PDF file without text on any page is DocumentError::Cause::NoText, so that a scan is
+/// not taken for an empty document.
+Result<AttributedString, DocumentError> loadDocumentOrPdf(const QByteArray &path);
+Result<AttributedString, DocumentError> loadDocumentOrPdf(int descriptor);

@@ -2,9 +2,10 @@
 #include "documents/loading/RepeatedLoader.h"
 
 #include "documents/loading/PackageBytes.h"
+#include "documents/rtfd/RtfdReader.h"
 #include "platform/files/FileContents.h"
 
-using LoadResult = Result<AttributedString, LoadError>;
+using LoadResult = Result<AttributedString, DocumentError>;
 
 LoadResult RepeatedLoader::load(const QByteArray &path)
 {
@@ -15,7 +16,7 @@ LoadResult RepeatedLoader::loadFile(const QByteArray &path)
 {
     const Result<QByteArray, FileError> contents = readFile(path);
     if (!contents)
-        return LoadError(contents.error());
+        return DocumentError(contents.error());
     const QByteArray &bytes = contents.value();
     if (bytes.size() > m_mostKept) {
         forget();

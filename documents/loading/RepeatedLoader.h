@@ -22,13 +22,13 @@ public:
     }
 
     /// path: bytes in any encoding.
-    Result<AttributedString, LoadError> load(const QByteArray &path);
+    Result<AttributedString, DocumentError> load(const QByteArray &path);
     /// Frees the text.
     void forget();
 
 private:
-    Result<AttributedString, LoadError> loadFile(const QByteArray &path);
-    Result<AttributedString, LoadError> loadPackage(const QByteArray &path);
+    Result<AttributedString, DocumentError> loadFile(const QByteArray &path);
+    Result<AttributedString, DocumentError> loadPackage(const QByteArray &path);
     [[nodiscard]] bool remembers(const QByteArray &path, const QByteArray &bytes) const;
     void remember(const QByteArray &path, const QByteArray &bytes, const AttributedString &text);
 

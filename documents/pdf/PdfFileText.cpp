@@ -19,7 +19,7 @@ QByteArray contentsOf(const QUrl &url)
 
 std::optional<AttributedString> QBYExtension::attributedStringFromPDFFileURL(const QUrl &url)
 {
-    Result<AttributedString, PdfError> text = readPdf(contentsOf(url));
+    Result<AttributedString, DocumentError> text = readPdf(contentsOf(url));
     if (text)
         return std::move(text).value();
     LogChannel::standard().error(u"No pages in the pdf");

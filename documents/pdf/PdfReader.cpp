@@ -34,20 +34,20 @@ QByteArray pdfReaderProgram()
     return QFile::encodeName(QFileInfo(folder + name).isExecutable() ? folder + name : installed);
 }
 
-Result<AttributedString, PdfError> readPdf(
+Result<AttributedString, DocumentError> readPdf(
     QByteArrayView bytes, const PdfLimits &limits, const QByteArray &program)
 {
     if (bytes.isEmpty())
-        return PdfError::NotPdf;
+        return DocumentError(DocumentError::Cause::WrongKind, DocumentKind::Pdf);
     try {
-        auto process = PdfReaderProcess::started(program, bytes, orderFor(bytes.size(), limits));
+        auto process = PdfReaderProcess::start(program, bytes, orderFor(bytes.size(), limits));
         if (!process)
-            return process.error();
-        Result<QString, PdfError> text = std::move(process).value().text();
+            return DocumentError(process.error(), DocumentKind::Pdf);
+        Result<QString, DocumentError::Cause> text = std::move(process).value().readText();
         if (!text)
-            return text.error();
+            return DocumentError(text.error(), DocumentKind::Pdf);
         return AttributedString(std::move(text).value());
     } catch (const std::bad_alloc &) {
-        return PdfError::NotEnoughMemory;
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Pdf);
     }
 }

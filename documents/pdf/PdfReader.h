@@ -9,7 +9,7 @@
 // fonts, and nobody else has Qt Pdf in it.
 #pragma once
 
-#include "documents/pdf/PdfError.h"
+#include "documents/DocumentError.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
@@ -33,5 +33,5 @@ QByteArray pdfReaderProgram();
 /// in CR LF, the last one of a page too. A hyphen at the end of a line that divides a word is U+00AD and the
 /// line goes on. Pages without text give none; a file of such pages is an empty text, not an error. Waits for
 /// the program.
-Result<AttributedString, PdfError> readPdf(
+Result<AttributedString, DocumentError> readPdf(
     QByteArrayView bytes, const PdfLimits &limits = {}, const QByteArray &program = pdfReaderProgram());

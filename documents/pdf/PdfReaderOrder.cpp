@@ -8,8 +8,8 @@
 namespace {
 
 constexpr int success = 0;
-constexpr int firstError = 10; // the values of PdfError, and so much more
-constexpr int lastError = firstError + static_cast<int>(PdfError::NotEnoughMemory);
+constexpr int causeBase = 10; // statuses below are those of runtimes and shells
+constexpr int lastError = causeBase + static_cast<int>(DocumentError::lastCause);
 constexpr int linkerFailure = 127; // the dynamic linker's, where a library is missing
 
 constexpr size_t numberCount = 4;
@@ -49,17 +49,17 @@ std::optional<PdfReaderOrder> orderFrom(std::span<char *const> arguments)
         .length = numbers[3]};
 }
 
-int exitStatusFor(std::optional<PdfError> error)
+int exitStatusFor(std::optional<DocumentError::Cause> error)
 {
-    return error ? firstError + static_cast<int>(*error) : success;
+    return error ? causeBase + static_cast<int>(*error) : success;
 }
 
-std::optional<PdfError> errorOfExitStatus(int status)
+std::optional<DocumentError::Cause> errorOfExitStatus(int status)
 {
     if (status == success)
         return std::nullopt;
     if (status == linkerFailure || status == wrongUsageStatus)
-        return PdfError::NoReader;
-    const bool isError = status >= firstError && status <= lastError;
-    return isError ? static_cast<PdfError>(status - firstError) : PdfError::Damaged;
+        return DocumentError::Cause::NoPdfReader;
+    const bool isError = status > causeBase && status <= lastError;
+    return isError ? static_cast<DocumentError::Cause>(status - causeBase) : DocumentError::Cause::Damaged;
 }

@@ -5,7 +5,7 @@
 // Thread: any; values.
 #pragma once
 
-#include "documents/pdf/PdfError.h"
+#include "documents/DocumentError.h"
 
 #include <QByteArrayList>
 
@@ -30,6 +30,6 @@ std::optional<PdfReaderOrder> orderFrom(std::span<char *const> arguments);
 constexpr int wrongUsageStatus = 2;
 
 /// 0 where there is no error.
-int exitStatusFor(std::optional<PdfError> error);
+int exitStatusFor(std::optional<DocumentError::Cause> error);
 /// The error that an exit status tells; one that the program does not give is a crash's, by its file.
-std::optional<PdfError> errorOfExitStatus(int status);
+std::optional<DocumentError::Cause> errorOfExitStatus(int status);

@@ -29,37 +29,37 @@ OwnedDescriptor raised(int descriptor)
     return OwnedDescriptor(::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }
 
-PdfError errorOfSpawn(int number)
+DocumentError::Cause errorOfSpawn(int number)
 {
     const bool isShortage = number == ENOMEM || number == EAGAIN || number == EMFILE || number == ENFILE;
-    return isShortage ? PdfError::NotEnoughMemory : PdfError::NoReader;
+    return isShortage ? DocumentError::Cause::NotEnoughMemory : DocumentError::Cause::NoPdfReader;
 }
 
-std::optional<PdfError> failureOf(int status)
+std::optional<DocumentError::Cause> failureOf(int status)
 {
     if (WIFEXITED(status))
         return errorOfExitStatus(WEXITSTATUS(status));
     // Where memory runs out, Qt Pdf ends its process on purpose, in one of several ways.
     const int signal = WTERMSIG(status);
-    return signal == SIGSEGV || signal == SIGBUS || signal == SIGFPE ? PdfError::Damaged
-                                                                     : PdfError::TooIntricate;
+    return signal == SIGSEGV || signal == SIGBUS || signal == SIGFPE ? DocumentError::Cause::Damaged
+                                                                     : DocumentError::Cause::TooComplex;
 }
 
 } // namespace
 
-Result<PdfReaderProcess, PdfError> PdfReaderProcess::started(
+Result<PdfReaderProcess, DocumentError::Cause> PdfReaderProcess::start(
     const QByteArray &program, QByteArrayView bytes, const PdfReaderOrder &order)
 {
     const auto memory = SealedMemory::copyOf(bytes);
     std::array<int, 2> ends{-1, -1};
     if (!memory || ::pipe2(ends.data(), O_CLOEXEC) != 0)
-        return PdfError::NotEnoughMemory;
+        return DocumentError::Cause::NotEnoughMemory;
     OwnedDescriptor reading(ends[0]);
     const OwnedDescriptor writing(ends[1]);
     const OwnedDescriptor input = raised(memory.value().descriptor());
     const OwnedDescriptor output = raised(writing.get());
     if (!input || !output)
-        return PdfError::NotEnoughMemory;
+        return DocumentError::Cause::NotEnoughMemory;
     ChildFiles files;
     files.duplicate(input.get(), STDIN_FILENO).duplicate(output.get(), STDOUT_FILENO);
     // What Qt Pdf might print belongs nowhere, a sanitizer's report does.
@@ -97,15 +97,15 @@ PdfReaderProcess::~PdfReaderProcess()
         end(true);
 }
 
-Result<QString, PdfError> PdfReaderProcess::text()
+Result<QString, DocumentError::Cause> PdfReaderProcess::readText()
 {
     QString text;
     const bool isWhole = readToEnd(text) && isReadyInTime(m_processFile.get());
-    const std::optional<PdfError> failure = failureOf(end(!isWhole));
+    const std::optional<DocumentError::Cause> failure = failureOf(end(!isWhole));
     if (failure)
         return *failure;
     if (!isWhole)
-        return PdfError::TooIntricate;
+        return DocumentError::Cause::TooComplex;
     return text;
 }
 

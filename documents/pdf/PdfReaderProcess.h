@@ -16,7 +16,7 @@
 class PdfReaderProcess {
 public:
     /// Starts it on a copy of the bytes.
-    static Result<PdfReaderProcess, PdfError> started(
+    static Result<PdfReaderProcess, DocumentError::Cause> start(
         const QByteArray &program, QByteArrayView bytes, const PdfReaderOrder &order);
 
     PdfReaderProcess(PdfReaderProcess &&other) noexcept;
@@ -26,7 +26,7 @@ public:
 
     /// Waits for the whole text and the end of the program. One that does not end in the real time of its
     /// order, or writes more than it may, is killed.
-    Result<QString, PdfError> text();
+    Result<QString, DocumentError::Cause> readText();
 
 private:
     using Clock = std::chrono::steady_clock;

@@ -22,33 +22,20 @@ QByteArrayView withoutLead(QByteArrayView bytes)
 
 } // namespace
 
-QString causeText(RtfError error)
-{
-    switch (error) {
-    case RtfError::NotRtf:
-        return QStringLiteral("is not RTF");
-    case RtfError::TooLong:
-        return QStringLiteral("is larger than 2 GiB");
-    case RtfError::NotEnoughMemory:
-        break;
-    }
-    return QStringLiteral("not enough memory");
-}
-
 bool looksLikeRtf(QByteArrayView bytes)
 {
     return withoutLead(bytes).startsWith("{\\rtf");
 }
 
-Result<AttributedString, RtfError> readRtf(QByteArrayView bytes, const AttachmentSource &attachments)
+Result<AttributedString, DocumentError> readRtf(QByteArrayView bytes, const AttachmentSource &attachments)
 {
     if (!looksLikeRtf(bytes))
-        return RtfError::NotRtf;
+        return DocumentError(DocumentError::Cause::WrongKind, DocumentKind::Rtf);
     if (bytes.size() > longestInput)
-        return RtfError::TooLong;
+        return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtf);
     try {
         return RtfInterpreter(attachments).textOf(RtfTokenizer(withoutLead(bytes)));
     } catch (const std::bad_alloc &) {
-        return RtfError::NotEnoughMemory;
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtf);
     }
 }

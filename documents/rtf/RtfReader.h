@@ -4,6 +4,7 @@
 // any.
 #pragma once
 
+#include "documents/DocumentError.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
@@ -13,15 +14,6 @@
 
 /// The attachment of a stored name, null where there is none. Asked once for each name in a document.
 using AttachmentSource = std::function<std::shared_ptr<const Attachment>(const QString &storedName)>;
-
-enum class RtfError {
-    NotRtf, ///< looksLikeRtf() is false
-    TooLong, ///< positions in a text are 32 bits wide
-    NotEnoughMemory,
-};
-
-/// The cause in English, on one line, to stand behind a file's name: "is larger than 2 GiB".
-QString causeText(RtfError error);
 
 /// Whether "{\rtf" is at the start, or behind nothing but a byte order mark of UTF-8, spaces, tabs and line
 /// ends, which editors and mail programs have put there.
@@ -40,4 +32,5 @@ bool looksLikeRtf(QByteArrayView bytes);
 /// today) are no text.
 ///
 /// An attachment is one U+FFFC; it stands without an attachment where `attachments` has none of its name.
-Result<AttributedString, RtfError> readRtf(QByteArrayView bytes, const AttachmentSource &attachments = {});
+Result<AttributedString, DocumentError> readRtf(
+    QByteArrayView bytes, const AttachmentSource &attachments = {});

@@ -15,22 +15,15 @@ bool isFileName(const QByteArray &name)
         && !name.contains('/') && !name.contains('\0');
 }
 
-RtfdError errorFor(RtfError error)
+DocumentError errorFor(DocumentError::Cause causeOfRtf)
 {
-    switch (error) {
-    case RtfError::NotRtf:
-        return {RtfdError::Cause::TextNotRtf};
-    case RtfError::TooLong:
-        return {RtfdError::Cause::TooLong};
-    case RtfError::NotEnoughMemory:
-        break;
-    }
-    return {RtfdError::Cause::NotEnoughMemory};
+    const bool isNotRtf = causeOfRtf == DocumentError::Cause::WrongKind;
+    return {isNotRtf ? DocumentError::Cause::TextNotRtf : causeOfRtf, DocumentKind::Rtfd};
 }
 
 } // namespace
 
-Result<AttributedString, RtfdError> readRtfWithFiles(QByteArrayView rtf, const FileSource &contentsOf)
+Result<AttributedString, DocumentError> readRtfWithFiles(QByteArrayView rtf, const FileSource &contentsOf)
 {
     const auto attachmentOf = [&](const QString &storedName) -> std::shared_ptr<const Attachment> {
         const QByteArray name = storedName.toUtf8();
@@ -38,8 +31,8 @@ Result<AttributedString, RtfdError> readRtfWithFiles(QByteArrayView rtf, const F
         return contents ? std::make_shared<const Attachment>(Attachment{storedName, *std::move(contents)})
                         : nullptr;
     };
-    Result<AttributedString, RtfError> text = readRtf(rtf, attachmentOf);
+    Result<AttributedString, DocumentError> text = readRtf(rtf, attachmentOf);
     if (!text)
-        return errorFor(text.error());
+        return errorFor(text.error().cause);
     return std::move(text).value();
 }

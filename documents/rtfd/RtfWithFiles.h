@@ -13,4 +13,4 @@
 /// name: UTF-8.
 using FileSource = std::function<std::optional<QByteArray>(const QByteArray &name)>;
 
-Result<AttributedString, RtfdError> readRtfWithFiles(QByteArrayView rtf, const FileSource &contentsOf);
+Result<AttributedString, DocumentError> readRtfWithFiles(QByteArrayView rtf, const FileSource &contentsOf);

@@ -68,13 +68,15 @@ private:
     qint64 m_rest = largestFileSize;
 };
 
-Result<AttributedString, RtfdError> textOf(PackageFolder &folder)
+Result<AttributedString, DocumentError> textOf(PackageFolder &folder)
 {
     const Contents rtf = folder.contents(FlatFormat::textName);
     if (!rtf) {
         if (rtf.error().cause == FileError::Cause::NoSuchFile)
-            return RtfdError{RtfdError::Cause::NoText};
-        return RtfdError{RtfdError::Cause::TextUnreadable, rtf.error()};
+            return DocumentError(DocumentError::Cause::TextMissing, DocumentKind::Rtfd);
+        DocumentError error(DocumentError::Cause::TextUnreadable, DocumentKind::Rtfd);
+        error.file = rtf.error();
+        return error;
     }
     return readRtfWithFiles(rtf.value(), [&](const QByteArray &name) -> std::optional<QByteArray> {
         Contents contents = folder.contents(name);
@@ -94,17 +96,17 @@ bool isRtfdPackage(const QByteArray &path)
     return isFolder(path) && ::lstat((path + '/' + FlatFormat::textName).constData(), &status) == 0;
 }
 
-Result<AttributedString, RtfdError> readRtfdPackage(const QByteArray &path)
+Result<AttributedString, DocumentError> readRtfdPackage(const QByteArray &path)
 {
     try {
         const Contents real = realPath(path);
         if (!real)
-            return RtfdError{RtfdError::Cause::Unreadable, real.error()};
+            return DocumentError(real.error());
         if (!isFolder(real.value()))
-            return RtfdError{RtfdError::Cause::NotRtfd};
+            return DocumentError(DocumentError::Cause::WrongKind, DocumentKind::Rtfd);
         PackageFolder folder(real.value());
         return textOf(folder);
     } catch (const std::bad_alloc &) {
-        return RtfdError{RtfdError::Cause::NotEnoughMemory};
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtfd);
     }
 }

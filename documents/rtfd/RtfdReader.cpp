@@ -9,15 +9,15 @@
 
 namespace {
 
-Result<AttributedString, RtfdError> textOf(const FlatFolder &folder)
+Result<AttributedString, DocumentError> textOf(const FlatFolder &folder)
 {
     const FlatFolder::Entry text = folder.entry(FlatFormat::textName);
     switch (text.kind) {
     case FlatFolder::Kind::Missing:
     case FlatFolder::Kind::Other:
-        return RtfdError{RtfdError::Cause::NoText};
+        return DocumentError(DocumentError::Cause::TextMissing, DocumentKind::Rtfd);
     case FlatFolder::Kind::Damaged:
-        return RtfdError{RtfdError::Cause::Damaged};
+        return DocumentError(DocumentError::Cause::Damaged, DocumentKind::Rtfd);
     case FlatFolder::Kind::File:
         break;
     }
@@ -31,43 +31,19 @@ Result<AttributedString, RtfdError> textOf(const FlatFolder &folder)
 
 } // namespace
 
-QString causeText(const RtfdError &error)
-{
-    switch (error.cause) {
-    case RtfdError::Cause::NotRtfd:
-        return QStringLiteral("is not an RTFD");
-    case RtfdError::Cause::Damaged:
-        return QStringLiteral("is a damaged RTFD");
-    case RtfdError::Cause::NoText:
-        return QStringLiteral("is an RTFD without TXT.rtf");
-    case RtfdError::Cause::TextNotRtf:
-        return QStringLiteral("is an RTFD whose TXT.rtf is not RTF");
-    case RtfdError::Cause::Unreadable:
-        return error.file ? causeText(*error.file) : QStringLiteral("cannot be read");
-    case RtfdError::Cause::TextUnreadable:
-        return QStringLiteral("TXT.rtf in it: ")
-            + (error.file ? causeText(*error.file) : QStringLiteral("cannot be read"));
-    case RtfdError::Cause::TooLong:
-        return QStringLiteral("is larger than 2 GiB");
-    case RtfdError::Cause::NotEnoughMemory:
-        break;
-    }
-    return QStringLiteral("not enough memory");
-}
-
 bool looksLikeFlatRtfd(QByteArrayView bytes)
 {
     return FlatFolder::hasMagic(bytes);
 }
 
-Result<AttributedString, RtfdError> readFlatRtfd(QByteArrayView bytes)
+Result<AttributedString, DocumentError> readFlatRtfd(QByteArrayView bytes)
 {
     if (!FlatFolder::hasMagic(bytes))
-        return RtfdError{RtfdError::Cause::NotRtfd};
+        return DocumentError(DocumentError::Cause::WrongKind, DocumentKind::Rtfd);
     try {
         const std::optional<FlatFolder> folder = FlatFolder::parsed(bytes);
-        return folder ? textOf(*folder) : RtfdError{RtfdError::Cause::Damaged};
+        return folder ? textOf(*folder) : DocumentError(DocumentError::Cause::Damaged, DocumentKind::Rtfd);
     } catch (const std::bad_alloc &) {
-        return RtfdError{RtfdError::Cause::NotEnoughMemory};
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtfd);
     }
 }

@@ -4,37 +4,12 @@
 // Thread: any.
 #pragma once
 
-#include "platform/files/FileError.h"
+#include "documents/DocumentError.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QString>
-
-#include <optional>
-
-/// Why an RTFD gave no text.
-struct RtfdError {
-    enum class Cause {
-        NotRtfd, ///< does not begin as a flat RTFD does, or is no folder
-        Damaged, ///< its lengths do not fit each other
-        NoText, ///< has no file TXT.rtf
-        TextNotRtf, ///< TXT.rtf is none
-        Unreadable, ///< the folder cannot be entered; file tells why
-        TextUnreadable, ///< TXT.rtf of a package cannot be read; file tells why
-        TooLong, ///< positions in a text are 32 bits wide
-        NotEnoughMemory,
-    };
-
-    Cause cause;
-    std::optional<FileError> file = std::nullopt; ///< of Unreadable and TextUnreadable
-
-    bool operator==(const RtfdError &) const = default;
-};
-
-/// The cause in English, on one line, to stand behind the document's name: "is a damaged RTFD".
-QString causeText(const RtfdError &error);
 
 /// Whether the bytes begin as every flat RTFD does.
 bool looksLikeFlatRtfd(QByteArrayView bytes);
@@ -42,7 +17,7 @@ bool looksLikeFlatRtfd(QByteArrayView bytes);
 /// The text of a flat RTFD with its attachments. One that is a folder has no contents; U+FFFC stands without
 /// an attachment for one that is missing or whose name no file can have. Takes time and memory proportional
 /// to the length.
-Result<AttributedString, RtfdError> readFlatRtfd(QByteArrayView bytes);
+Result<AttributedString, DocumentError> readFlatRtfd(QByteArrayView bytes);
 
 /// Whether a path leads to a folder that has something by the name of TXT.rtf.
 /// path: as the system holds it, bytes in any encoding.
@@ -51,4 +26,4 @@ bool isRtfdPackage(const QByteArray &path);
 /// The text of a package, its attachments as above. Opens TXT.rtf and the attachments that it names, and only
 /// where they are regular files within the folder: a symbolic link that leads out of it counts as missing,
 /// and so does what would make the package larger than a document may be.
-Result<AttributedString, RtfdError> readRtfdPackage(const QByteArray &path);
+Result<AttributedString, DocumentError> readRtfdPackage(const QByteArray &path);

@@ -51,13 +51,13 @@ QByteArray attributesOf(const std::vector<Entry> &entries)
     return attributes;
 }
 
-Result<QByteArray, RtfWriteError> flatFolder(const std::vector<Entry> &entries)
+Result<QByteArray, DocumentError> flatFolder(const std::vector<Entry> &entries)
 {
     qint64 size = 4 * wordSize; // with the magic, which is as long as a word
     for (const Entry &entry : entries)
         size += wordSize + entry.name.size() + wordSize + blockSizeOf(entry);
     if (size > largestRtfd)
-        return RtfWriteError::TooLong;
+        return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtfd);
 
     QByteArray bytes(FlatFormat::magic);
     bytes.reserve(size);
@@ -76,10 +76,10 @@ Result<QByteArray, RtfWriteError> flatFolder(const std::vector<Entry> &entries)
     return bytes;
 }
 
-Result<QByteArray, RtfWriteError> flatRtfd(const AttributedString &text, qsizetype start, qsizetype length)
+Result<QByteArray, DocumentError> flatRtfd(const AttributedString &text, qsizetype start, qsizetype length)
 {
     StoredFiles files;
-    const Result<QByteArray, RtfWriteError> rtf = writeRtf(
+    const Result<QByteArray, DocumentError> rtf = writeRtf(
         text, start, length, [&](const Attachment &attachment) { return files.nameFor(attachment); });
     if (!rtf)
         return rtf.error();
@@ -92,12 +92,12 @@ Result<QByteArray, RtfWriteError> flatRtfd(const AttributedString &text, qsizety
 
 } // namespace
 
-Result<QByteArray, RtfWriteError> RTFDFromRange(const AttributedString &text, qsizetype start,
+Result<QByteArray, DocumentError> RTFDFromRange(const AttributedString &text, qsizetype start,
     qsizetype length, const QVariantMap & /*documentAttributes*/)
 {
     try {
         return flatRtfd(text, start, length);
     } catch (const std::bad_alloc &) {
-        return RtfWriteError::NotEnoughMemory;
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtfd);
     }
 }

@@ -14,5 +14,5 @@
 /// but for attachments on other characters than U+FFFC, which are left out. Copies of an attachment are
 /// stored once. Fails as RtfWriter does, TooLong also for a whole that reaches 2 GiB. start, length: UTF-16
 /// code units, 0 or more. documentAttributes: none is known so far; others are left unheeded.
-Result<QByteArray, RtfWriteError> RTFDFromRange(const AttributedString &text, qsizetype start,
+Result<QByteArray, DocumentError> RTFDFromRange(const AttributedString &text, qsizetype start,
     qsizetype length, const QVariantMap &documentAttributes = {});

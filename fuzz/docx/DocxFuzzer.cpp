@@ -73,7 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const bool isArchive = bytes.startsWith("PK");
     const QByteArray package = isArchive ? bytes : packageOf(bytes);
     const bool isKnown = looksLikeDocx(package);
-    if (const Result<AttributedString, DocxError> text = readDocx(package)) {
+    if (const Result<AttributedString, DocumentError> text = readDocx(package)) {
         require(isKnown);
         requireSound(text.value());
     }

@@ -40,9 +40,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static_cast<void>(looksLikeHtml(page));
     static_cast<void>(parseStyleAttribute(page));
 
-    const Result<AttributedString, HtmlError> read = readHtml(page, options);
+    const Result<AttributedString, DocumentError> read = readHtml(page, options);
     if (!read) {
-        require(read.error() == HtmlError::TooDeep || read.error() == HtmlError::TooIntricate);
+        require(read.error().cause == DocumentError::Cause::TooDeep
+            || read.error().cause == DocumentError::Cause::TooComplex);
         return 0;
     }
     const AttributedString &text = read.value();

@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         charset = line.sliced(word.size()).toByteArray();
         bytes = bytes.sliced(line.size());
     }
-    const Result<PlainText, TextError> read = readPlainText(bytes, charset);
+    const Result<PlainText, DocumentError> read = readPlainText(bytes, charset);
     require(read.hasValue());
     require(!read.value().encoding.isEmpty());
     require(read.value().text.isValidUtf16());

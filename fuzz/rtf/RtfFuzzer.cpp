@@ -38,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             return nullptr;
         return std::make_shared<const Attachment>(Attachment{name, {}});
     };
-    const Result<AttributedString, RtfError> result = readRtf(bytes, source);
+    const Result<AttributedString, DocumentError> result = readRtf(bytes, source);
     require(result.hasValue() == looksLikeRtf(bytes));
     if (result) {
         require(result.value().length() <= bytes.size());

@@ -8,11 +8,11 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArrayView bytes(data, static_cast<qsizetype>(size));
-    const Result<AttributedString, RtfdError> text = readFlatRtfd(bytes);
+    const Result<AttributedString, DocumentError> text = readFlatRtfd(bytes);
     if (!text)
         return 0;
-    const Result<QByteArray, RtfWriteError> written = RTFDFromRange(text.value(), 0, text.value().length());
-    const Result<AttributedString, RtfdError> again = readFlatRtfd(written.value());
+    const Result<QByteArray, DocumentError> written = RTFDFromRange(text.value(), 0, text.value().length());
+    const Result<AttributedString, DocumentError> again = readFlatRtfd(written.value());
     if (!(again.value() == text.value()))
         std::abort();
     return 0;

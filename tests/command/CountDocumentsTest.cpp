@@ -78,9 +78,9 @@ TEST_F(CountDocumentsTest, APdfFileThatCannotBeCountedSaysWhyAndWhatToDo)
                       PdfWriter{.pages = {"a"}, .encryption = PdfWriter::Encryption::WithPassword}.bytes()),
         "is encrypted; save it without a password");
     expectFailure(file("cut.pdf", PdfWriter{{"a"}}.bytes().first(100)),
-        "is a damaged PDF file; make it anew with the program that wrote it");
+        "is a damaged PDF file; create it again with the program that wrote it");
     expectFailure(file("scan.pdf", PdfWriter{{"", ""}}.bytes()),
-        "has no text on its pages; run scans through text recognition first");
+        "has no text on its pages; run text recognition on it first");
     expectFailure(file("words.pdf", "Some words."), "is not a PDF file");
 }
 
@@ -88,10 +88,10 @@ TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedSaysWhyAndWhatToDo)
 {
     QByteArray old("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     old.resize(1024, '\0');
-    expectFailure(file("old.docx", old), "is in a format of before 2007; save it as .docx or RTF");
-    expectFailure(file("old.doc", old), "is in a format of before 2007; save it as .docx or RTF");
+    expectFailure(file("old.docx", old), "is in a Word format older than 2007; save it as .docx or RTF");
+    expectFailure(file("old.doc", old), "is in a Word format older than 2007; save it as .docx or RTF");
     expectFailure(file("cut.docx", wordDocument().chopped(30)),
-        "is a damaged Word document; open it in a word processor and save it anew");
+        "is a damaged Word document; open it in a word processor and save it again");
     expectFailure(file("words.docx", "Some words."), "is not a Word document");
 }
 

@@ -22,7 +22,7 @@ protected:
     /// What the model counts in this process, under the preferences and with the fonts of the test.
     static QBYWordCounterStats countInProcess(const QByteArray &payload, const QString &locale)
     {
-        const Result<AttributedString, RtfdError> text = readFlatRtfd(payload);
+        const Result<AttributedString, DocumentError> text = readFlatRtfd(payload);
         if (!text) {
             ADD_FAILURE() << causeText(text.error()).toStdString();
             return {};

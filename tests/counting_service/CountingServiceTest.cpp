@@ -40,7 +40,7 @@ std::optional<SeenProcess> look(pid_t process)
 
 QByteArray flatRtfd(const AttributedString &text)
 {
-    const Result<QByteArray, RtfWriteError> bytes = RTFDFromRange(text, 0, text.length());
+    const Result<QByteArray, DocumentError> bytes = RTFDFromRange(text, 0, text.length());
     EXPECT_TRUE(bytes.hasValue());
     return bytes ? bytes.value() : QByteArray();
 }

@@ -96,17 +96,29 @@ TEST(WorkerMessages, AReplyArrivesAsItWasSent)
     EXPECT_EQ(counted->number, 9U);
     EXPECT_EQ(counted->counts.value(), eight);
     expectOnlyWhole(message, decodedReply);
-    const std::optional<WorkerReply> failed =
-        decodedReply(encoded(WorkerReply{10, CountFailure::DamagedRtfd}));
+    const std::optional<WorkerReply> failed = decodedReply(encoded(
+        WorkerReply{10, CountFailure(DocumentError(DocumentError::Cause::Damaged, DocumentKind::Rtfd))}));
     ASSERT_TRUE(failed && !failed->counts);
-    EXPECT_EQ(failed->counts.error(), CountFailure::DamagedRtfd);
+    EXPECT_EQ(failed->counts.error(),
+        CountFailure(DocumentError(DocumentError::Cause::Damaged, DocumentKind::Rtfd)));
 }
 
 TEST(WorkerMessages, AFailureWithoutANameIsNoReply)
 {
-    const auto beyond = static_cast<CountFailure>(static_cast<quint32>(lastCountFailure) + 1);
-    EXPECT_TRUE(decodedReply(encoded(WorkerReply{1, lastCountFailure})));
-    EXPECT_FALSE(decodedReply(encoded(WorkerReply{1, beyond})));
+    const auto isReply = [](const CountFailure &failure) {
+        return decodedReply(encoded(WorkerReply{1, failure})).has_value();
+    };
+    const auto beyond = static_cast<CountFailure::Cause>(static_cast<quint32>(CountFailure::lastCause) + 1);
+    EXPECT_TRUE(isReply(CountFailure::Cause::WorkerFailed));
+    EXPECT_FALSE(isReply(beyond));
+    EXPECT_FALSE(isReply(CountFailure::Cause::DocumentUnreadable)) << "does not say why";
+
+    const auto causeBeyond =
+        static_cast<DocumentError::Cause>(static_cast<quint32>(DocumentError::lastCause) + 1);
+    const auto kindBeyond = static_cast<DocumentKind>(static_cast<quint32>(lastDocumentKind) + 1);
+    EXPECT_TRUE(isReply(DocumentError(DocumentError::lastCause, lastDocumentKind)));
+    EXPECT_FALSE(isReply(DocumentError(causeBeyond, lastDocumentKind)));
+    EXPECT_FALSE(isReply(DocumentError(DocumentError::lastCause, kindBeyond)));
 }
 
 TEST(WorkerMessages, AGreetingSaysWhatTheSandboxIsMadeOf)
@@ -122,9 +134,13 @@ TEST(WorkerMessages, AGreetingSaysWhatTheSandboxIsMadeOf)
 TEST(WorkerMessages, EveryFailureHasItsOwnWords)
 {
     std::set<QString> texts;
-    for (quint32 failure = 1; failure <= static_cast<quint32>(lastCountFailure); ++failure)
-        texts.insert(causeText(static_cast<CountFailure>(failure)));
-    EXPECT_EQ(texts.size(), static_cast<size_t>(lastCountFailure));
+    for (quint32 cause = 1; cause <= static_cast<quint32>(CountFailure::lastCause); ++cause)
+        texts.insert(causeText(static_cast<CountFailure::Cause>(cause)));
+    for (quint32 cause = 1; cause <= static_cast<quint32>(DocumentError::lastCause); ++cause)
+        texts.insert(causeText(CountFailure(
+            DocumentError(static_cast<DocumentError::Cause>(cause), DocumentKind::WordDocument))));
+    EXPECT_EQ(texts.size(),
+        static_cast<size_t>(CountFailure::lastCause) + static_cast<size_t>(DocumentError::lastCause));
 }
 
 TEST(PacketSocket, APacketArrivesWithItsDescriptor)

@@ -135,7 +135,7 @@ TEST_F(WorkerPoolTest, GivesADocumentUpOverWhichTwoWorkersFail)
 {
     for (const char *misdeed : misdeeds) {
         const auto pool = this->pool();
-        EXPECT_EQ(failureOf(add(*pool, misdeed)), CountFailure::WorkerFailed) << misdeed;
+        EXPECT_EQ(failureOf(add(*pool, misdeed)), CountFailure::Cause::WorkerFailed) << misdeed;
         EXPECT_EQ(statsOf(add(*pool, "count")).numberOfWords, 5U) << misdeed;
     }
 }
@@ -155,7 +155,7 @@ TEST_F(WorkerPoolTest, LosesNoOtherDocumentWhenAWorkerFails)
     for (const auto &answer : good)
         EXPECT_GT(statsOf(answer).numberOfWords, 0U);
     for (const auto &answer : bad)
-        EXPECT_EQ(failureOf(answer), CountFailure::WorkerFailed);
+        EXPECT_EQ(failureOf(answer), CountFailure::Cause::WorkerFailed);
 }
 
 TEST_F(WorkerPoolTest, EndsAWorkerThatTakesTooLong)
@@ -163,7 +163,7 @@ TEST_F(WorkerPoolTest, EndsAWorkerThatTakesTooLong)
     WorkerProgram impatient = program();
     impatient.countLimit = std::chrono::milliseconds(200);
     const auto pool = this->pool(impatient);
-    EXPECT_EQ(failureOf(add(*pool, "hang")), CountFailure::WorkerFailed);
+    EXPECT_EQ(failureOf(add(*pool, "hang")), CountFailure::Cause::WorkerFailed);
     EXPECT_EQ(statsOf(add(*pool, once("hang"))).numberOfLines, 1U);
 }
 
@@ -242,7 +242,7 @@ TEST_F(WorkerPoolTest, ADocumentMayOutliveSeveralWorkersThatAreKilled)
         if (kills < WorkerPool::mostInterruptions)
             EXPECT_EQ(statsOf(answer).numberOfWords, static_cast<quint64>(document.size()));
         else
-            EXPECT_EQ(failureOf(answer), CountFailure::WorkerFailed);
+            EXPECT_EQ(failureOf(answer), CountFailure::Cause::WorkerFailed);
         QFile::remove(file);
     }
 }
@@ -253,8 +253,8 @@ TEST_F(WorkerPoolTest, GivesUpWhereNoWorkerStarts)
     missing.path = "/no/such/program";
     for (const WorkerProgram &worker : {program("leave"), program("nonsense"), missing}) {
         const auto pool = this->pool(worker);
-        EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::NoWorker);
-        EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::NoWorker);
+        EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::Cause::NoWorker);
+        EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::Cause::NoWorker);
     }
 }
 
@@ -263,7 +263,7 @@ TEST_F(WorkerPoolTest, EndsAWorkerThatDoesNotGetReady)
     WorkerProgram silent = program("hang");
     silent.startLimit = std::chrono::milliseconds(20);
     const auto pool = this->pool(silent);
-    EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::NoWorker);
+    EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::Cause::NoWorker);
 }
 
 TEST_F(WorkerPoolTest, WorkersOfOldFontsCountNothingMore)
@@ -308,7 +308,7 @@ TEST_F(WorkerPoolTest, AWorkerIsEndedThatTakesMoreMemoryThanADocumentNeeds)
     GTEST_SKIP() << "the sanitizers need the memory themselves";
 #endif
     const auto pool = this->pool();
-    EXPECT_EQ(failureOf(add(*pool, "eat")), CountFailure::WorkerFailed);
+    EXPECT_EQ(failureOf(add(*pool, "eat")), CountFailure::Cause::WorkerFailed);
     EXPECT_EQ(statsOf(add(*pool, "count")).numberOfWords, 5U);
 }
 

@@ -22,6 +22,8 @@
 namespace {
 
 constexpr int broker = CountingWorker::socket;
+const CountFailure outOfMemory =
+    DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::PlainText);
 quint64 requests = 0;
 
 void send(const QByteArray &message, int descriptor = -1)
@@ -51,7 +53,7 @@ void eatMemory()
     constexpr size_t bite = 64 * 1024 * 1024;
     while (char *memory = static_cast<char *>(std::malloc(bite)))
         std::memset(memory, 1, 1);
-    send(encoded(WorkerReply{requests, CountFailure::NotEnoughMemory}));
+    send(encoded(WorkerReply{requests, outOfMemory}));
 }
 
 void obey(QByteArrayList words, const WorkerRequest &request)
@@ -81,7 +83,7 @@ void obey(QByteArrayList words, const WorkerRequest &request)
     else if (word == "other")
         send(countOf(request, request.number + 1));
     else if (word == "memory")
-        send(encoded(WorkerReply{request.number, CountFailure::NotEnoughMemory}));
+        send(encoded(WorkerReply{request.number, outOfMemory}));
     else if (word == "eat")
         eatMemory();
     else if (word == "hung-up") {

@@ -192,7 +192,7 @@ TEST(PlainTextReader, AnyBytesAreAText)
         for (char &byte : bytes)
             byte =
                 round % 2 ? static_cast<char>(random()) : meaningful[static_cast<qsizetype>(random() % 36)];
-        const Result<PlainText, TextError> read = readPlainText(bytes);
+        const Result<PlainText, DocumentError> read = readPlainText(bytes);
         ASSERT_TRUE(read);
         ASSERT_TRUE(read.value().text.isValidUtf16()) << bytes.toHex().constData();
         ASSERT_LE(read.value().text.size(), bytes.size()) << bytes.toHex().constData();
@@ -213,10 +213,10 @@ TEST(PlainTextReader, MoreBytesThanPositionsHave32BitsForAreTooLong)
     constexpr size_t length = INT32_MAX;
     void *memory = ::mmap(nullptr, length, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     ASSERT_NE(memory, MAP_FAILED);
-    const Result<PlainText, TextError> read =
+    const Result<PlainText, DocumentError> read =
         readPlainText(QByteArrayView(static_cast<const char *>(memory), static_cast<qsizetype>(length)));
     ASSERT_FALSE(read);
-    EXPECT_EQ(read.error(), TextError::TooLong);
+    EXPECT_EQ(read.error().cause, DocumentError::Cause::TooLong);
     EXPECT_EQ(causeText(read.error()), QStringLiteral("is larger than 2 GiB"));
     ::munmap(memory, length);
 }

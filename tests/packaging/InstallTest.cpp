@@ -161,8 +161,8 @@ TEST_F(Install, CountsAPdfFile)
     EXPECT_EQ(without.exitStatus, 1);
     EXPECT_EQ(without.errors,
         "quillbay: " + file
-            + ": needs the program quillbay-pdf-reader, which is missing or does not start; install Quillbay "
-              "anew\n");
+            + ": needs the program quillbay-pdf-reader, which is missing or does not start; "
+              "reinstall Quillbay\n");
 }
 
 TEST_F(Install, HasQtPdfInOneProgramAlone)

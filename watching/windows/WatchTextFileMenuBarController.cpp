@@ -64,7 +64,7 @@ void WatchTextFileMenuBarController::readFirst(const QUrl &url)
         countDocX(url);
         return;
     }
-    const Result<AttributedString, LoadError> text = loadDocument(pathOfFileURL(url));
+    const Result<AttributedString, DocumentError> text = loadDocument(pathOfFileURL(url));
     if (text)
         count(text.value());
     else

@@ -28,7 +28,7 @@ public:
     {
     }
 
-    Result<QByteArray, RtfWriteError> written();
+    Result<QByteArray, DocumentError> written();
 
 private:
     /// A distinct set of attributes, said in RTF.
@@ -177,31 +177,25 @@ void RtfDocument::writeRun(const AttributedString::Run &run)
     }
 }
 
-Result<QByteArray, RtfWriteError> RtfDocument::written()
+Result<QByteArray, DocumentError> RtfDocument::written()
 {
     forEachRun([this](const AttributedString::Run &run) { collectStyle(run); });
     writeHeader();
     forEachRun([this](const AttributedString::Run &run) { writeRun(run); });
     m_rtf += '}';
     if (m_isTooLong || m_rtf.size() > largestRtf)
-        return RtfWriteError::TooLong;
+        return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtf);
     return std::move(m_rtf);
 }
 
 } // namespace
 
-QString causeText(RtfWriteError error)
-{
-    return error == RtfWriteError::TooLong ? QStringLiteral("is larger than 2 GiB")
-                                           : QStringLiteral("not enough memory");
-}
-
-Result<QByteArray, RtfWriteError> writeRtf(
+Result<QByteArray, DocumentError> writeRtf(
     const AttributedString &text, qsizetype start, qsizetype length, const AttachmentNames &storedNameOf)
 {
     try {
         return RtfDocument(text, start, length, storedNameOf).written();
     } catch (const std::bad_alloc &) {
-        return RtfWriteError::NotEnoughMemory;
+        return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtf);
     }
 }

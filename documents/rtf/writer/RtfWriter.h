@@ -4,6 +4,7 @@
 // Thread: any.
 #pragma once
 
+#include "documents/DocumentError.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
@@ -11,14 +12,6 @@
 
 #include <functional>
 #include <optional>
-
-enum class RtfWriteError {
-    TooLong, ///< would be of 2 GiB or more
-    NotEnoughMemory,
-};
-
-/// The cause in English, on one line: "is larger than 2 GiB".
-QString causeText(RtfWriteError error);
 
 /// The name under which the file of an attachment lies beside the RTF: not empty, without white space at its
 /// ends; absent where it is stored nowhere. Asked once at most for each distinct set of attributes, in the
@@ -28,6 +21,6 @@ using AttachmentNames = std::function<std::optional<QString>(const Attachment &a
 /// The RTF of a range that is cut to what the text has of it; RtfReader makes an equal text of it, within the
 /// bounds that docs/rtf.md names. Attachments on other characters than U+FFFC, and those that are stored
 /// nowhere, are left out. Takes time proportional to the length and to the distinct attributes.
-/// start, length: UTF-16 code units, 0 or more.
-Result<QByteArray, RtfWriteError> writeRtf(const AttributedString &text, qsizetype start, qsizetype length,
+/// start, length: UTF-16 code units, 0 or more. Fails as TooLong or NotEnoughMemory.
+Result<QByteArray, DocumentError> writeRtf(const AttributedString &text, qsizetype start, qsizetype length,
     const AttachmentNames &storedNameOf = {});

@@ -3,6 +3,8 @@
 
 namespace {
 
+using Cause = DocumentError::Cause;
+
 QByteArray shape(const QByteArray &text)
 {
     return "<w:drawing><wp:anchor><a:graphic><a:graphicData><wps:wsp><wps:txbx><w:txbxContent>"
@@ -137,7 +139,7 @@ TEST(DocxChunks, OfArchivesOfWebPagesAreThePage)
                       + QByteArray("<p>page").toBase64()),
         QStringLiteral("before\npage\nafter\n"));
     EXPECT_EQ(
-        readDocx(withChunk("message/rfc822", start + picture).bytes()).error(), DocxError::UnreadableChunk);
+        readDocx(withChunk("message/rfc822", start + picture).bytes()).error().cause, Cause::UnsupportedPart);
 }
 
 TEST(DocxChunks, OfWebArchivesWithinEachOtherAreReadToABoundedDepth)
@@ -152,13 +154,14 @@ TEST(DocxChunks, OfWebArchivesWithinEachOtherAreReadToABoundedDepth)
         wrap(level);
     EXPECT_EQ(textWithChunk("message/rfc822", archive), QStringLiteral("before\ncore\nafter\n"));
     wrap(4);
-    EXPECT_EQ(readDocx(withChunk("message/rfc822", archive).bytes()).error(), DocxError::UnreadableChunk);
+    EXPECT_EQ(readDocx(withChunk("message/rfc822", archive).bytes()).error().cause, Cause::UnsupportedPart);
 }
 
 TEST(DocxChunks, OfAnUnknownKindAreAnErrorAndNoSilentLoss)
 {
-    EXPECT_EQ(readDocx(withChunk("application/x-unknown", "?").bytes()).error(), DocxError::UnreadableChunk);
-    EXPECT_EQ(readDocx(withChunk("application/rtf", "no RTF").bytes()).error(), DocxError::UnreadableChunk);
+    EXPECT_EQ(
+        readDocx(withChunk("application/x-unknown", "?").bytes()).error().cause, Cause::UnsupportedPart);
+    EXPECT_EQ(readDocx(withChunk("application/rtf", "no RTF").bytes()).error().cause, Cause::UnsupportedPart);
 }
 
 TEST(DocxChunks, OutsideOfThePackageAreNotFollowed)
@@ -177,7 +180,7 @@ TEST(DocxChunks, AreReadWithinEachOtherToABoundedDepth)
         document = wrapped().bytes();
     EXPECT_EQ(textOf(wrapped()), QStringLiteral("core\n"));
     document = wrapped().bytes();
-    EXPECT_EQ(readDocx(wrapped().bytes()).error(), DocxError::TooIntricate);
+    EXPECT_EQ(readDocx(wrapped().bytes()).error().cause, Cause::TooComplex);
 }
 
 TEST(DocxChunks, AreReadUpToABoundedNumber)
@@ -186,5 +189,5 @@ TEST(DocxChunks, AreReadUpToABoundedNumber)
     document.body = QByteArray("<w:altChunk r:id='rId7'/>").repeated(5'000);
     EXPECT_EQ(textOf(document).size(), 10'000);
     document.body += "<w:altChunk r:id='rId7'/>";
-    EXPECT_EQ(readDocx(document.bytes()).error(), DocxError::TooIntricate);
+    EXPECT_EQ(readDocx(document.bytes()).error().cause, Cause::TooComplex);
 }

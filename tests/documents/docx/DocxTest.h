@@ -9,7 +9,7 @@
 /// The text of a document that must be readable.
 inline QString textOf(const WordPackage &document)
 {
-    const Result<AttributedString, DocxError> text = readDocx(document.bytes());
+    const Result<AttributedString, DocumentError> text = readDocx(document.bytes());
     EXPECT_TRUE(text.hasValue()) << (text ? "" : qPrintable(causeText(text.error())));
     return text ? text.value().string() : QStringLiteral("(unreadable)");
 }

@@ -15,7 +15,7 @@ protected:
     static QString read(const LibreOffice::Document &document)
     {
         const QByteArray bytes = LibreOffice::converted(document, QStringLiteral("docx"), world().root());
-        const Result<AttributedString, DocxError> text = readDocx(bytes);
+        const Result<AttributedString, DocumentError> text = readDocx(bytes);
         return text ? text.value().string() : causeText(text.error());
     }
 

@@ -5,6 +5,8 @@
 
 namespace {
 
+using Cause = DocumentError::Cause;
+
 const QByteArray relationshipsStart(
     "<Relationships xmlns='http://schemas.openxmlformats.org/package/2006/relationships'>");
 const QByteArray officeDocument(
@@ -27,7 +29,7 @@ QByteArray packageWithMainPart(const QByteArray &name, const QByteArray &target,
 
 QString read(const QByteArray &bytes)
 {
-    const Result<AttributedString, DocxError> text = readDocx(bytes);
+    const Result<AttributedString, DocumentError> text = readDocx(bytes);
     return text ? text.value().string() : causeText(text.error());
 }
 
@@ -41,7 +43,7 @@ TEST(DocxPackage, IsKnownByItsMainPart)
     WordPackage sheet = hello;
     sheet.mainType = "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml";
     EXPECT_FALSE(looksLikeDocx(sheet.bytes()));
-    EXPECT_EQ(readDocx(sheet.bytes()).error(), DocxError::NotWordDocument);
+    EXPECT_EQ(readDocx(sheet.bytes()).error().cause, Cause::WrongKind);
     ZipWriter zip;
     zip.add({"word/document.xml", hello.mainPart()});
     EXPECT_FALSE(looksLikeDocx(zip.archive()));
@@ -68,7 +70,7 @@ TEST(DocxPackage, MayBeStrict)
     WordPackage document{.body = paragraph(run("strict", "<w:sz w:val='14pt'/>"), "<w:ind w:start='1cm'/>")};
     document.wordNamespace = "http://purl.oclc.org/ooxml/wordprocessingml/main";
     document.relationshipsNamespace = "http://purl.oclc.org/ooxml/officeDocument/relationships";
-    const Result<AttributedString, DocxError> text = readDocx(document.bytes());
+    const Result<AttributedString, DocumentError> text = readDocx(document.bytes());
     ASSERT_EQ(text.value().string(), QStringLiteral("strict\n"));
     EXPECT_EQ(text.value().attributesAt(0).font->pointSize, 14);
     EXPECT_NEAR(text.value().attributesAt(0).paragraphStyle.headIndent, 28.35, 0.01);
@@ -113,8 +115,8 @@ TEST(DocxPackage, HasItsMainPartWhereTheRelationshipLeads)
         read(packageWithMainPart("Word/Document.XML", "word/document.xml", main)), QStringLiteral("hello\n"));
     EXPECT_EQ(read(packageWithMainPart("word\\document.xml", "word/document.xml", main)),
         QStringLiteral("hello\n"));
-    EXPECT_EQ(
-        read(packageWithMainPart("other.xml", "word/document.xml", main)), causeText(DocxError::Damaged));
+    EXPECT_EQ(read(packageWithMainPart("other.xml", "word/document.xml", main)),
+        causeText({Cause::Damaged, DocumentKind::WordDocument}));
 }
 
 TEST(DocxPackage, HasItsStylesWhereTheRelationshipLeads)
@@ -161,17 +163,18 @@ TEST(DocxPackage, ThatIsEncryptedSaysSo)
 {
     QByteArray compound("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     compound.resize(1024, '\0');
-    EXPECT_EQ(readDocx(compound).error(), DocxError::OldWordDocument);
+    EXPECT_EQ(readDocx(compound).error().cause, Cause::OldFormat);
     EXPECT_FALSE(looksLikeDocx(compound));
     const char16_t name[] = u"EncryptedPackage";
     compound.append(reinterpret_cast<const char *>(name), sizeof name);
-    EXPECT_EQ(readDocx(compound).error(), DocxError::Encrypted);
+    EXPECT_EQ(readDocx(compound).error().cause, Cause::Encrypted);
     EXPECT_TRUE(looksLikeDocx(compound));
     for (const char16_t *otherCase : {u"ENCRYPTEDPACKAGE", u"encryptedPackage"}) {
         compound.replace(1024, sizeof name, reinterpret_cast<const char *>(otherCase), sizeof name);
-        EXPECT_EQ(readDocx(compound).error(), DocxError::Encrypted);
+        EXPECT_EQ(readDocx(compound).error().cause, Cause::Encrypted);
     }
-    EXPECT_EQ(causeText(DocxError::Encrypted), QStringLiteral("is encrypted; save it without a password"));
+    EXPECT_EQ(causeText({Cause::Encrypted, DocumentKind::WordDocument}),
+        QStringLiteral("is encrypted; save it without a password"));
 }
 
 TEST(DocxPackage, OfBefore2007IsNotEncryptedForAWordInItsText)
@@ -182,7 +185,7 @@ TEST(DocxPackage, OfBefore2007IsNotEncryptedForAWordInItsText)
     const char16_t name[] = u"EncryptedPackageOfMine";
     compound.append(reinterpret_cast<const char *>(text), sizeof text).resize(2048, '\0');
     compound.append(reinterpret_cast<const char *>(name), sizeof name);
-    EXPECT_EQ(readDocx(compound).error(), DocxError::OldWordDocument);
+    EXPECT_EQ(readDocx(compound).error().cause, Cause::OldFormat);
 }
 
 TEST(DocxPackage, WithAnEncryptedPartSaysSo)
@@ -190,12 +193,12 @@ TEST(DocxPackage, WithAnEncryptedPartSaysSo)
     ZipWriter zip;
     for (const char *name : {"[Content_Types].xml", "_rels/.rels", "word/document.xml"})
         zip.add({.name = name, .contents = "0123456789ABCDEF", .isEncrypted = true});
-    EXPECT_EQ(readDocx(zip.archive()).error(), DocxError::Encrypted);
+    EXPECT_EQ(readDocx(zip.archive()).error().cause, Cause::Encrypted);
 }
 
 TEST(DocxPackage, ThatIsNoneSaysSo)
 {
-    EXPECT_EQ(readDocx({}).error(), DocxError::NotWordDocument);
-    EXPECT_EQ(readDocx("{\\rtf1 text}").error(), DocxError::NotWordDocument);
-    EXPECT_EQ(readDocx("PK\x03\x04").error(), DocxError::Damaged);
+    EXPECT_EQ(readDocx({}).error().cause, Cause::WrongKind);
+    EXPECT_EQ(readDocx("{\\rtf1 text}").error().cause, Cause::WrongKind);
+    EXPECT_EQ(readDocx("PK\x03\x04").error().cause, Cause::Damaged);
 }

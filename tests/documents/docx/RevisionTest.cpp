@@ -81,7 +81,7 @@ TEST(DocxRevisions, DropDeletedRowsAndCells)
 
 TEST(DocxRevisions, GiveAJoinedParagraphTheStyleOfTheMarkThatIsLeft)
 {
-    const Result<AttributedString, DocxError> text =
+    const Result<AttributedString, DocumentError> text =
         readDocx(WordPackage{.body = paragraph(run("one "), "<w:jc w:val='center'/>" + deletedMark)
                 + paragraph(run("two"), "<w:jc w:val='right'/>")}
                      .bytes());
@@ -91,7 +91,7 @@ TEST(DocxRevisions, GiveAJoinedParagraphTheStyleOfTheMarkThatIsLeft)
 
 TEST(DocxRevisions, LeaveTheFormerPropertiesOfChangesAside)
 {
-    const Result<AttributedString, DocxError> text = readDocx(
+    const Result<AttributedString, DocumentError> text = readDocx(
         WordPackage{.body = paragraph("<w:r><w:rPr><w:sz w:val='40'/><w:rPrChange w:id='1'><w:rPr><w:vanish/>"
                                       "<w:sz w:val='20'/></w:rPr></w:rPrChange></w:rPr><w:t>a</w:t></w:r>",
                         "<w:jc w:val='center'/><w:pPrChange w:id='2'><w:pPr><w:jc w:val='right'/></w:pPr>"

@@ -13,7 +13,7 @@ struct PageCase {
 inline void expectTexts(std::initializer_list<PageCase> cases)
 {
     for (const PageCase &pageAndText : cases) {
-        const Result<AttributedString, HtmlError> read = readHtml(pageAndText.page, {.charset = "utf-8"});
+        const Result<AttributedString, DocumentError> read = readHtml(pageAndText.page, {.charset = "utf-8"});
         EXPECT_EQ(
             read ? read.value().string() : causeText(read.error()), QString::fromUtf16(pageAndText.text))
             << pageAndText.page;

@@ -24,7 +24,7 @@ TEST(ParserMemory, IsBoundedByTheLengthOfThePage)
     const size_t base = megabytesOf(ofNoPage);
     EXPECT_GE(base, 60U);
     EXPECT_LE(base, 64U);
-    EXPECT_EQ(ofNoPage.refusal(), HtmlError::TooIntricate);
+    EXPECT_EQ(ofNoPage.refusal(), DocumentError::Cause::TooComplex);
 
     ParserMemory ofMegabyte(megabyte);
     const size_t more = megabytesOf(ofMegabyte);

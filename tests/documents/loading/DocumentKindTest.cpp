@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/loading/DocumentKind.h"
+#include "documents/loading/KindDetection.h"
 
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/documents/pdf/PdfWriter.h"
@@ -35,7 +35,7 @@ TEST(DocumentKind, BytesThatBeginAsRichTextAreThatUnderAnyName)
 {
     for (const char *name : {"", "notes.rtf", "notes.txt", "notes.html", "notes.doc", "notes.docx"}) {
         EXPECT_EQ(kindOfDocument(name, rtf), DocumentKind::Rtf) << name;
-        EXPECT_EQ(kindOfDocument(name, flatRtfd()), DocumentKind::FlatRtfd) << name;
+        EXPECT_EQ(kindOfDocument(name, flatRtfd()), DocumentKind::Rtfd) << name;
     }
 }
 

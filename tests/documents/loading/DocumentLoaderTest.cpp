@@ -14,6 +14,8 @@
 
 namespace {
 
+using Cause = DocumentError::Cause;
+
 constexpr qint64 mebibyte = 1'048'576;
 
 class DocumentLoader : public QuillbayTest {
@@ -61,7 +63,7 @@ TEST_F(DocumentLoader, AFileThatCannotBeReadSaysWhy)
 {
     EXPECT_EQ(causeText(loadDocument(QByteArray("/missing")).error()), QStringLiteral("no such file"));
     const auto error = loadDocument(QByteArray("/")).error();
-    EXPECT_EQ(std::get<FileError>(error), FileError{FileError::Cause::Folder});
+    EXPECT_EQ(error.file, FileError{FileError::Cause::Folder});
 }
 
 TEST_F(DocumentLoader, RtfIsReadWithItsStyles)
@@ -107,16 +109,16 @@ TEST_F(DocumentLoader, AWordDocumentIsRead)
 TEST_F(DocumentLoader, ANameOfAWordDocumentWithOtherBytesFailsWithTheCause)
 {
     const auto error = loadDocument(written("report.docx", "Some words.")).error();
-    EXPECT_EQ(std::get<DocxError>(error), DocxError::NotWordDocument);
-    EXPECT_EQ(causeText(error), causeText(DocxError::NotWordDocument));
+    EXPECT_EQ(error, DocumentError(Cause::WrongKind, DocumentKind::WordDocument));
+    EXPECT_EQ(causeText(error), QStringLiteral("is not a Word document"));
 }
 
 TEST_F(DocumentLoader, AFailureOfAReaderComesWithItsCause)
 {
     const QByteArray damaged = QByteArray("rtfd\0\0\0\0\3\0\0\0\xff\xff\xff\xff", 16);
     const auto error = documentFromBytes(damaged).error();
-    EXPECT_EQ(std::get<RtfdError>(error).cause, RtfdError::Cause::Damaged);
-    EXPECT_EQ(causeText(error), causeText(std::get<RtfdError>(error)));
+    EXPECT_EQ(error, DocumentError(Cause::Damaged, DocumentKind::Rtfd));
+    EXPECT_EQ(causeText(error), QStringLiteral("is a damaged RTFD; save it again"));
 }
 
 TEST_F(DocumentLoader, AProcessThatHasMemoryForTheBytesOnlySaysSo)

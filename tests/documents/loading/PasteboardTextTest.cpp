@@ -9,7 +9,7 @@ namespace {
 QByteArray flatRtfdOf(const QString &text)
 {
     const AttributedString styled(text);
-    const Result<QByteArray, RtfWriteError> bytes = RTFDFromRange(styled, 0, styled.length());
+    const Result<QByteArray, DocumentError> bytes = RTFDFromRange(styled, 0, styled.length());
     EXPECT_TRUE(bytes.hasValue());
     return bytes ? bytes.value() : QByteArray();
 }

@@ -12,6 +12,8 @@
 
 namespace {
 
+using Cause = DocumentError::Cause;
+
 class PdfLoader : public QuillbayTest {
 protected:
     static QByteArray written(const char *name, const QByteArray &contents)
@@ -19,11 +21,10 @@ protected:
         return QFile::encodeName(writeFile(QString::fromLatin1(name), contents));
     }
 
-    static PdfError errorOf(const Result<AttributedString, LoadError> &text)
+    static Cause causeOf(const Result<AttributedString, DocumentError> &text)
     {
-        const PdfError *error = text ? nullptr : std::get_if<PdfError>(&text.error());
-        EXPECT_NE(error, nullptr);
-        return error ? *error : PdfError::NotEnoughMemory;
+        EXPECT_FALSE(text);
+        return text ? Cause::NotEnoughMemory : text.error().cause;
     }
 };
 
@@ -60,8 +61,8 @@ TEST_F(PdfLoader, EveryOtherDocumentIsReadAsEver)
 
 TEST_F(PdfLoader, AFileWithoutTextIsNoEmptyDocument)
 {
-    EXPECT_EQ(errorOf(loadDocumentOrPdf(written("scan.pdf", PdfWriter{{"", ""}}.bytes()))), PdfError::NoText);
-    EXPECT_EQ(errorOf(loadDocumentOrPdf(written("blank.pdf", PdfWriter{{" "}}.bytes()))), PdfError::NoText);
+    EXPECT_EQ(causeOf(loadDocumentOrPdf(written("scan.pdf", PdfWriter{{"", ""}}.bytes()))), Cause::NoText);
+    EXPECT_EQ(causeOf(loadDocumentOrPdf(written("blank.pdf", PdfWriter{{" "}}.bytes()))), Cause::NoText);
 }
 
 TEST_F(PdfLoader, AFileWhoseFontsHaveNoMapToCharactersIsNoDocumentOfTheirGlyphs)
@@ -70,30 +71,30 @@ TEST_F(PdfLoader, AFileWhoseFontsHaveNoMapToCharactersIsNoDocumentOfTheirGlyphs)
         .pages = {R"(BT /F1 12 Tf 72 720 Td (\001\002\003\004 \005\006\007!"\004 \001#$) Tj ET)"},
         .arePagesDrawn = true};
     const auto error = loadDocumentOrPdf(written("unmapped.pdf", unmapped.bytes()));
-    EXPECT_EQ(errorOf(error), PdfError::UnmappedText);
+    EXPECT_EQ(causeOf(error), Cause::UnmappedText);
     EXPECT_TRUE(causeText(error.error()).startsWith(QStringLiteral("has unreadable text")));
 }
 
 TEST_F(PdfLoader, AFileWithoutPagesIsNotDamaged)
 {
     const auto error = loadDocumentOrPdf(written("empty.pdf", PdfWriter{}.bytes()));
-    EXPECT_EQ(errorOf(error), PdfError::NoPages);
+    EXPECT_EQ(causeOf(error), Cause::NoPages);
     EXPECT_FALSE(causeText(error.error()).contains(QStringLiteral("damaged")));
 }
 
 TEST_F(PdfLoader, AFileThatCannotBeReadSaysWhy)
 {
-    EXPECT_EQ(errorOf(loadDocumentOrPdf(written("words.pdf", "Some words."))), PdfError::NotPdf);
-    EXPECT_EQ(errorOf(loadDocumentOrPdf(written("cut.pdf", file.bytes().first(100)))), PdfError::Damaged);
+    EXPECT_EQ(causeOf(loadDocumentOrPdf(written("words.pdf", "Some words."))), Cause::WrongKind);
+    EXPECT_EQ(causeOf(loadDocumentOrPdf(written("cut.pdf", file.bytes().first(100)))), Cause::Damaged);
     const PdfWriter locked{.pages = {"text"}, .encryption = PdfWriter::Encryption::WithPassword};
     const auto error = loadDocumentOrPdf(written("locked.pdf", locked.bytes()));
-    EXPECT_EQ(errorOf(error), PdfError::Encrypted);
+    EXPECT_EQ(causeOf(error), Cause::Encrypted);
     EXPECT_EQ(causeText(error.error()), QStringLiteral("is encrypted; save it without a password"));
 }
 
 TEST_F(PdfLoader, TheLoaderOfLongLivedProgramsReadsNoPdf)
 {
-    EXPECT_EQ(errorOf(loadDocument(written("paper.pdf", file.bytes()))), PdfError::NotReadHere);
-    EXPECT_EQ(errorOf(loadDocument(written("notes.txt", file.bytes()))), PdfError::NotReadHere);
-    EXPECT_EQ(errorOf(documentFromBytes(file.bytes())), PdfError::NotReadHere);
+    EXPECT_EQ(causeOf(loadDocument(written("paper.pdf", file.bytes()))), Cause::PdfNotSupported);
+    EXPECT_EQ(causeOf(loadDocument(written("notes.txt", file.bytes()))), Cause::PdfNotSupported);
+    EXPECT_EQ(causeOf(documentFromBytes(file.bytes())), Cause::PdfNotSupported);
 }

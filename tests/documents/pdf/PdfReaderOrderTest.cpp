@@ -7,6 +7,8 @@
 
 namespace {
 
+using Cause = DocumentError::Cause;
+
 std::optional<PdfReaderOrder> orderFromWords(QByteArrayList words)
 {
     std::vector<char *> arguments;
@@ -38,16 +40,16 @@ TEST(PdfReaderOrder, IsNoneWithOtherArguments)
 TEST(PdfReaderOrder, EveryErrorHasAnExitStatusOfItsOwn)
 {
     EXPECT_EQ(errorOfExitStatus(exitStatusFor(std::nullopt)), std::nullopt);
-    for (const PdfError error : {PdfError::NotPdf, PdfError::Encrypted, PdfError::Damaged, PdfError::NoPages,
-             PdfError::NoText, PdfError::UnmappedText, PdfError::TooIntricate, PdfError::NotReadHere,
-             PdfError::NoReader, PdfError::NotEnoughMemory})
-        EXPECT_EQ(errorOfExitStatus(exitStatusFor(error)), error) << static_cast<int>(error);
+    for (quint32 number = 1; number <= static_cast<quint32>(DocumentError::lastCause); ++number) {
+        const auto error = static_cast<DocumentError::Cause>(number);
+        EXPECT_EQ(errorOfExitStatus(exitStatusFor(error)), error) << number;
+    }
 }
 
 TEST(PdfReaderOrder, AnotherExitStatusIsACrashOrTellsThatTheProgramDidNotStart)
 {
-    EXPECT_EQ(errorOfExitStatus(127), PdfError::NoReader);
-    EXPECT_EQ(errorOfExitStatus(wrongUsageStatus), PdfError::NoReader);
+    EXPECT_EQ(errorOfExitStatus(127), Cause::NoPdfReader);
+    EXPECT_EQ(errorOfExitStatus(wrongUsageStatus), Cause::NoPdfReader);
     for (const int status : {1, 3, 9, 30, 255})
-        EXPECT_EQ(errorOfExitStatus(status), PdfError::Damaged) << status;
+        EXPECT_EQ(errorOfExitStatus(status), Cause::Damaged) << status;
 }

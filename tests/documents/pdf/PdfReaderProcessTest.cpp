@@ -17,9 +17,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
+using Cause = DocumentError::Cause;
+
 class PdfReaderProcess : public QuillbayTest {
 protected:
-    using Text = Result<AttributedString, PdfError>;
+    using Text = Result<AttributedString, DocumentError>;
 
     /// A file that takes seconds.
     static QByteArray longFile()
@@ -37,10 +39,10 @@ protected:
         return path;
     }
 
-    static std::optional<PdfError> errorWith(const QByteArray &program, const PdfLimits &limits = {})
+    static std::optional<Cause> causeWith(const QByteArray &program, const PdfLimits &limits = {})
     {
         const Text text = readPdf(PdfWriter{{"some text"}}.bytes(), limits, program);
-        return text ? std::nullopt : std::optional(text.error());
+        return text ? std::nullopt : std::optional(text.error().cause);
     }
 
     /// What the system tells of a process that may end meanwhile; then it is empty.
@@ -116,7 +118,7 @@ TEST_F(PdfReaderProcess, KilledInTheMiddleGivesNoHalfText)
     ASSERT_EQ(::kill(reader, SIGKILL), 0);
     const Text text = reading.get();
     ASSERT_FALSE(text.hasValue());
-    EXPECT_EQ(text.error(), PdfError::TooIntricate);
+    EXPECT_EQ(text.error().cause, Cause::TooComplex);
 }
 
 TEST_F(PdfReaderProcess, EndsWithTheProgramThatStartedIt)
@@ -142,19 +144,19 @@ TEST_F(PdfReaderProcess, ThatHangsIsKilled)
     ASSERT_EQ(::kill(reader, SIGSTOP), 0);
     const Text text = reading.get();
     ASSERT_FALSE(text.hasValue());
-    EXPECT_EQ(text.error(), PdfError::TooIntricate);
+    EXPECT_EQ(text.error().cause, Cause::TooComplex);
     EXPECT_EQ(::kill(reader, 0), -1);
 }
 
 TEST_F(PdfReaderProcess, ThatHangsBehindItsTextIsKilled)
 {
     const QByteArray program = script("printf 'h\\0'; exec sleep 1000 >&-");
-    EXPECT_EQ(errorWith(program, {.time = 1s, .timeout = 1}), PdfError::TooIntricate);
+    EXPECT_EQ(causeWith(program, {.time = 1s, .timeout = 1}), Cause::TooComplex);
 }
 
 TEST_F(PdfReaderProcess, ThatWritesWithoutEndIsKilled)
 {
-    EXPECT_EQ(errorWith(script("exec cat /dev/zero"), {.length = 100'000}), PdfError::TooIntricate);
+    EXPECT_EQ(causeWith(script("exec cat /dev/zero"), {.length = 100'000}), Cause::TooComplex);
 }
 
 TEST_F(PdfReaderProcess, ThatCannotBeStartedHasACause)
@@ -162,10 +164,10 @@ TEST_F(PdfReaderProcess, ThatCannotBeStartedHasACause)
     const QByteArray unexecutable = QFile::encodeName(writeFile(QStringLiteral("not-executable"), "nothing"));
     for (const QByteArray &program :
         {QByteArray("/missing/quillbay-pdf-reader"), unexecutable, script("exit 127")})
-        EXPECT_EQ(errorWith(program), PdfError::NoReader) << program.constData();
-    EXPECT_EQ(causeText(PdfError::NoReader),
-        QStringLiteral("needs the program quillbay-pdf-reader, which is missing or does not start; install "
-                       "Quillbay anew"));
+        EXPECT_EQ(causeWith(program), Cause::NoPdfReader) << program.constData();
+    EXPECT_EQ(causeText({Cause::NoPdfReader, DocumentKind::Pdf}),
+        QStringLiteral("needs the program quillbay-pdf-reader, which is missing or does not start; "
+                       "reinstall Quillbay"));
 }
 
 TEST_F(PdfReaderProcess, HasNothingOpenButItsStandardStreams)
@@ -174,7 +176,7 @@ TEST_F(PdfReaderProcess, HasNothingOpenButItsStandardStreams)
     // ls itself opens the folder that it lists: one more.
     const QByteArray program = script("ls /proc/self/fd >'" + QFile::encodeName(open.fileName()) + '\'');
     const int other = ::dup(STDERR_FILENO); // not close-on-exec
-    EXPECT_EQ(errorWith(program), std::nullopt);
+    EXPECT_EQ(causeWith(program), std::nullopt);
     ::close(other);
     EXPECT_EQ(readFile(open.fileName()), "0\n1\n2\n3\n");
 }

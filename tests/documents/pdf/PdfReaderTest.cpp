@@ -16,11 +16,13 @@
 
 namespace {
 
+using Cause = DocumentError::Cause;
+
 using Encryption = PdfWriter::Encryption;
 
 QString textOf(const PdfWriter &file)
 {
-    const Result<AttributedString, PdfError> text = readPdf(file.bytes());
+    const Result<AttributedString, DocumentError> text = readPdf(file.bytes());
     return text ? text.value().string() : causeText(text.error());
 }
 
@@ -30,11 +32,11 @@ QString textOfDrawing(const QByteArray &operators)
     return textOf({.pages = {operators}, .arePagesDrawn = true});
 }
 
-PdfError errorOf(const QByteArray &bytes, const PdfLimits &limits = {})
+Cause causeFor(const QByteArray &bytes, const PdfLimits &limits = {})
 {
-    const Result<AttributedString, PdfError> text = readPdf(bytes, limits);
+    const Result<AttributedString, DocumentError> text = readPdf(bytes, limits);
     EXPECT_FALSE(text.hasValue());
-    return text ? PdfError::NotReadHere : text.error();
+    return text ? Cause::PdfNotSupported : text.error().cause;
 }
 
 /// A page of so many short texts, each of which Qt Pdf keeps as an object of its own.
@@ -89,22 +91,23 @@ TEST(PdfReader, ReadsWhatIsEncryptedWithoutAPasswordToOpenIt)
 
 TEST(PdfReader, NamesTheCauseOfAFailure)
 {
-    EXPECT_EQ(errorOf({}), PdfError::NotPdf);
-    EXPECT_EQ(errorOf("Some words."), PdfError::NotPdf);
-    EXPECT_EQ(errorOf("%PDF-1.4\n"), PdfError::Damaged);
-    EXPECT_EQ(errorOf(PdfWriter{{"text"}}.bytes().first(100)), PdfError::Damaged);
-    EXPECT_EQ(errorOf(PdfWriter{}.bytes()), PdfError::NoPages);
-    EXPECT_EQ(errorOf(PdfWriter{}.bytes().replace("[]", "[ \n]")), PdfError::NoPages);
-    EXPECT_EQ(errorOf(PdfWriter{.pages = {"text"}, .encryption = Encryption::WithPassword}.bytes()),
-        PdfError::Encrypted);
+    EXPECT_EQ(causeFor({}), Cause::WrongKind);
+    EXPECT_EQ(causeFor("Some words."), Cause::WrongKind);
+    EXPECT_EQ(causeFor("%PDF-1.4\n"), Cause::Damaged);
+    EXPECT_EQ(causeFor(PdfWriter{{"text"}}.bytes().first(100)), Cause::Damaged);
+    EXPECT_EQ(causeFor(PdfWriter{}.bytes()), Cause::NoPages);
+    EXPECT_EQ(causeFor(PdfWriter{}.bytes().replace("[]", "[ \n]")), Cause::NoPages);
+    EXPECT_EQ(causeFor(PdfWriter{.pages = {"text"}, .encryption = Encryption::WithPassword}.bytes()),
+        Cause::Encrypted);
 }
 
 TEST(PdfReader, TellsCausesInOneLineWithARemedy)
 {
-    for (const PdfError error : {PdfError::Encrypted, PdfError::Damaged, PdfError::NoPages, PdfError::NoText,
-             PdfError::UnmappedText, PdfError::TooIntricate, PdfError::NotReadHere, PdfError::NoReader}) {
-        EXPECT_TRUE(causeText(error).contains(u';')) << qPrintable(causeText(error));
-        EXPECT_FALSE(causeText(error).contains(u'\n'));
+    for (const Cause cause : {Cause::Encrypted, Cause::Damaged, Cause::NoPages, Cause::NoText,
+             Cause::UnmappedText, Cause::TooComplex, Cause::PdfNotSupported, Cause::NoPdfReader}) {
+        const QString text = causeText({cause, DocumentKind::Pdf});
+        EXPECT_TRUE(text.contains(u';')) << qPrintable(text);
+        EXPECT_FALSE(text.contains(u'\n'));
     }
 }
 
@@ -115,30 +118,30 @@ TEST(PdfReader, EndsWithACauseWhereAFileTakesTooMuchMemory)
 #endif
     const QByteArray bomb = pageOfTexts(2'000'000).bytes();
     EXPECT_LT(bomb.size(), 100'000);
-    EXPECT_EQ(errorOf(bomb, {.memory = 100'000'000}), PdfError::TooIntricate);
+    EXPECT_EQ(causeFor(bomb, {.memory = 100'000'000}), Cause::TooComplex);
 }
 
 TEST(PdfReader, EndsWithACauseWhereAFileTakesTooMuchTime)
 {
     PdfWriter file = pageOfTexts(200'000);
     file.pages = QByteArrayList(20, file.pages.first());
-    EXPECT_EQ(errorOf(file.bytes(), {.time = std::chrono::seconds(1)}), PdfError::TooIntricate);
+    EXPECT_EQ(causeFor(file.bytes(), {.time = std::chrono::seconds(1)}), Cause::TooComplex);
 }
 
 TEST(PdfReader, EndsWithACauseWhereTheTextIsTooLong)
 {
     const QByteArray file = PdfWriter{{"0123456789", "0123456789"}}.bytes();
-    EXPECT_EQ(errorOf(file, {.length = 23}), PdfError::TooIntricate);
+    EXPECT_EQ(causeFor(file, {.length = 23}), Cause::TooComplex);
     EXPECT_EQ(readPdf(file, {.length = 24}).value().length(), 24);
 }
 
 TEST(PdfReader, BelievesNoNumberOfPages)
 {
     for (const int claimed : {0, 1, 3, 1'000'000, 2'000'000'000}) {
-        const Result<AttributedString, PdfError> text =
+        const Result<AttributedString, DocumentError> text =
             readPdf(PdfWriter{.pages = {"one", "two"}, .claimedPages = claimed}.bytes());
         EXPECT_TRUE(text ? QStringLiteral("one\r\ntwo\r\n").startsWith(text.value().string())
-                         : text.error() == PdfError::Damaged || text.error() == PdfError::NoPages)
+                         : text.error().cause == Cause::Damaged || text.error().cause == Cause::NoPages)
             << claimed;
     }
 }
@@ -152,8 +155,8 @@ TEST(PdfReader, SurvivesChangedBytes)
         for (int change = 0; change < 3; ++change)
             changed[static_cast<qsizetype>(random() % static_cast<size_t>(sound.size()))] =
                 static_cast<char>(random());
-        const Result<AttributedString, PdfError> text = readPdf(changed);
-        EXPECT_TRUE(text || text.error() != PdfError::NotEnoughMemory);
+        const Result<AttributedString, DocumentError> text = readPdf(changed);
+        EXPECT_TRUE(text || text.error().cause != Cause::NotEnoughMemory);
     }
 }
 

@@ -12,6 +12,8 @@ using namespace RtfDocuments;
 
 namespace {
 
+using Cause = DocumentError::Cause;
+
 AttachmentSource anyAttachment()
 {
     return [](const QString &name) { return std::make_shared<const Attachment>(Attachment{name, {}}); };
@@ -19,11 +21,11 @@ AttachmentSource anyAttachment()
 
 void expectSoundOrRefused(const QByteArray &rtf)
 {
-    const Result<AttributedString, RtfError> result = readRtf(rtf, anyAttachment());
+    const Result<AttributedString, DocumentError> result = readRtf(rtf, anyAttachment());
     if (result)
         expectSound(result.value());
     else
-        EXPECT_EQ(result.error(), RtfError::NotRtf);
+        EXPECT_EQ(result.error().cause, Cause::WrongKind);
 }
 
 /// Long enough that anything quadratic in it would be seen.
@@ -151,7 +153,7 @@ TEST(RtfReader, RefusesWhatIsTooLongForThePositionsInAText)
     ASSERT_NE(pages, MAP_FAILED);
     std::memcpy(pages, "{\\rtf1", 6);
     const QByteArrayView bytes(static_cast<const char *>(pages), static_cast<qsizetype>(length));
-    EXPECT_EQ(readRtf(bytes).error(), RtfError::TooLong);
+    EXPECT_EQ(readRtf(bytes).error().cause, Cause::TooLong);
     ::munmap(pages, length);
 }
 
@@ -167,8 +169,8 @@ TEST(RtfReader, SaysThatMemoryIsShort)
         constexpr size_t pageSize = 4096;
         const rlimit limit{pages * pageSize + 16 * 1'048'576, RLIM_INFINITY};
         ::setrlimit(RLIMIT_AS, &limit);
-        const Result<AttributedString, RtfError> result = readRtf(rtf);
-        ::_exit(!result && result.error() == RtfError::NotEnoughMemory ? 0 : 1);
+        const Result<AttributedString, DocumentError> result = readRtf(rtf);
+        ::_exit(!result && result.error().cause == Cause::NotEnoughMemory ? 0 : 1);
     };
     EXPECT_EXIT(readWithLittleMemory(), ::testing::ExitedWithCode(0), "");
 }

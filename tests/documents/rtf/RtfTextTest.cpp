@@ -3,21 +3,23 @@
 
 using namespace RtfDocuments;
 
+using Cause = DocumentError::Cause;
+
 TEST(RtfReader, KnowsRtfByItsFirstBytes)
 {
     EXPECT_TRUE(looksLikeRtf("{\\rtf1 text}"));
     EXPECT_TRUE(looksLikeRtf("\xEF\xBB\xBF \r\n\t{\\rtf"));
     for (const char *bytes : {"", "{", "{\\rt", "\\rtf1 text", "x{\\rtf1 text}", "{ \\rtf1 text}"}) {
         EXPECT_FALSE(looksLikeRtf(bytes)) << bytes;
-        EXPECT_EQ(readRtf(bytes).error(), RtfError::NotRtf) << bytes;
+        EXPECT_EQ(readRtf(bytes).error().cause, Cause::WrongKind) << bytes;
     }
 }
 
 TEST(RtfReader, NamesTheCauseOfAFailure)
 {
-    EXPECT_EQ(causeText(RtfError::NotRtf), QStringLiteral("is not RTF"));
-    EXPECT_EQ(causeText(RtfError::TooLong), QStringLiteral("is larger than 2 GiB"));
-    EXPECT_EQ(causeText(RtfError::NotEnoughMemory), QStringLiteral("not enough memory"));
+    EXPECT_EQ(causeText({Cause::WrongKind, DocumentKind::Rtf}), QStringLiteral("is not RTF"));
+    EXPECT_EQ(causeText({Cause::TooLong, DocumentKind::Rtf}), QStringLiteral("is larger than 2 GiB"));
+    EXPECT_EQ(causeText({Cause::NotEnoughMemory, DocumentKind::Rtf}), QStringLiteral("not enough memory"));
 }
 
 TEST(RtfReader, ReadsWhatStandsInTheDocumentsGroup)

@@ -14,18 +14,18 @@ const QByteArray rtf = "{\\rtf1\\ansi a{{\\NeXTGraphic one.png \\width20 \\heigh
 
 AttributedString textOf(const QByteArray &bytes)
 {
-    const Result<AttributedString, RtfdError> text = readFlatRtfd(bytes);
+    const Result<AttributedString, DocumentError> text = readFlatRtfd(bytes);
     EXPECT_TRUE(text) << causeText(text.error()).toStdString();
     return text ? text.value() : AttributedString();
 }
 
 QString causeFor(const QByteArray &bytes)
 {
-    const Result<AttributedString, RtfdError> text = readFlatRtfd(bytes);
+    const Result<AttributedString, DocumentError> text = readFlatRtfd(bytes);
     return text ? QStringLiteral("none") : causeText(text.error());
 }
 
-const QString damaged = QStringLiteral("is a damaged RTFD");
+const QString damaged = QStringLiteral("is a damaged RTFD; save it again");
 
 /// The attachment in the RTF above; null where there is none.
 std::shared_ptr<const Attachment> attachmentIn(const AttributedString &text)
@@ -131,12 +131,12 @@ TEST(FlatRtfd, NamesAreUtf8)
 
 TEST(FlatRtfd, WithoutATextThereIsNone)
 {
-    const QString noText = QStringLiteral("is an RTFD without TXT.rtf");
+    const QString noText = QStringLiteral("is an RTFD without TXT.rtf; save it again");
     EXPECT_EQ(causeFor(rtfd({})), noText);
     EXPECT_EQ(causeFor(rtfd({{"txt.rtf", file(rtf)}})), noText);
     EXPECT_EQ(causeFor(rtfd({{"TXT.rtf", folder({{"TXT.rtf", file(rtf)}})}})), noText);
     EXPECT_EQ(causeFor(rtfd({{"TXT.rtf", file("plain text")}})),
-        QStringLiteral("is an RTFD whose TXT.rtf is not RTF"));
+        QStringLiteral("is an RTFD whose TXT.rtf is not RTF; save it again"));
 }
 
 TEST(FlatRtfd, ItBeginsWithItsNameAndAFolder)
@@ -167,7 +167,7 @@ TEST(FlatRtfd, WhateverByteIsChangedItIsReadOrRefused)
         for (const int change : {0x01, 0x80, 0xFF}) {
             QByteArray changed = whole;
             changed[at] = static_cast<char>(changed[at] ^ change);
-            const Result<AttributedString, RtfdError> text = readFlatRtfd(changed);
+            const Result<AttributedString, DocumentError> text = readFlatRtfd(changed);
             if (text) {
                 EXPECT_LT(text.value().length(), whole.size());
             } else {

@@ -34,13 +34,13 @@ protected:
 
     static QString causeFor(const QByteArray &path)
     {
-        const Result<AttributedString, RtfdError> text = readRtfdPackage(path);
+        const Result<AttributedString, DocumentError> text = readRtfdPackage(path);
         return text ? QStringLiteral("none") : causeText(text.error());
     }
     /// The attachment in the RTF above; null where there is none.
     static std::shared_ptr<const Attachment> attachment()
     {
-        const Result<AttributedString, RtfdError> text = readRtfdPackage(package());
+        const Result<AttributedString, DocumentError> text = readRtfdPackage(package());
         EXPECT_TRUE(text) << causeText(text.error()).toStdString();
         if (!text || text.value().string() != QStringLiteral("a\uFFFCb")) {
             ADD_FAILURE() << "another text";
@@ -57,7 +57,7 @@ TEST_F(RtfdPackage, IsAFolderWithTxtRtf)
     EXPECT_FALSE(isRtfdPackage(package()));
     put("other.rtf", rtfWithPicture);
     EXPECT_FALSE(isRtfdPackage(package()));
-    EXPECT_EQ(causeFor(package()), QStringLiteral("is an RTFD without TXT.rtf"));
+    EXPECT_EQ(causeFor(package()), QStringLiteral("is an RTFD without TXT.rtf; save it again"));
     put("TXT.rtf", rtfWithPicture);
     EXPECT_TRUE(isRtfdPackage(package()));
     EXPECT_TRUE(isRtfdPackage(package() + '/'));
@@ -150,19 +150,19 @@ TEST_F(RtfdPackage, ALinkLeadsToThePackage)
 TEST_F(RtfdPackage, ATextOutsideTheFolderIsNoText)
 {
     link(outside("other.rtf", rtfWithPicture), "TXT.rtf");
-    EXPECT_EQ(causeFor(package()), QStringLiteral("is an RTFD without TXT.rtf"));
+    EXPECT_EQ(causeFor(package()), QStringLiteral("is an RTFD without TXT.rtf; save it again"));
 }
 
 TEST_F(RtfdPackage, WhyATextCannotBeReadIsNamed)
 {
     put("TXT.rtf", "plain text");
-    EXPECT_EQ(causeFor(package()), QStringLiteral("is an RTFD whose TXT.rtf is not RTF"));
+    EXPECT_EQ(causeFor(package()), QStringLiteral("is an RTFD whose TXT.rtf is not RTF; save it again"));
     ASSERT_EQ(::unlink(inPackage("TXT.rtf").constData()), 0);
     ASSERT_EQ(::mkfifo(inPackage("TXT.rtf").constData(), 0600), 0);
-    EXPECT_EQ(causeFor(package()), QStringLiteral("TXT.rtf in it: is a named pipe"));
+    EXPECT_EQ(causeFor(package()), QStringLiteral("its TXT.rtf cannot be read: is a named pipe"));
     ASSERT_EQ(::unlink(inPackage("TXT.rtf").constData()), 0);
     put("TXT.rtf/x", {});
-    EXPECT_EQ(causeFor(package()), QStringLiteral("TXT.rtf in it: is a folder"));
+    EXPECT_EQ(causeFor(package()), QStringLiteral("its TXT.rtf cannot be read: is a folder"));
 }
 
 TEST_F(RtfdPackage, WhyAPathLeadsToNoPackageIsNamed)

@@ -162,7 +162,7 @@ TEST(RtfdWriter, WhatReaches2GiBIsTooLong)
     AttributedStringBuilder builder;
     for (const char16_t name : {u'a', u'b', u'c'})
         builder.append(anchor, withAttachment(QChar(name), contents));
-    const Result<QByteArray, RtfWriteError> bytes = RTFDFromRange(builder.build(), 0, 3);
+    const Result<QByteArray, DocumentError> bytes = RTFDFromRange(builder.build(), 0, 3);
     ASSERT_FALSE(bytes);
     EXPECT_EQ(causeText(bytes.error()), QStringLiteral("is larger than 2 GiB"));
 }

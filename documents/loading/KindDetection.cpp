@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/loading/DocumentKind.h"
+#include "documents/loading/KindDetection.h"
 
 #include "documents/docx/DocxReader.h"
 #include "documents/html/HtmlReader.h"
@@ -52,7 +52,7 @@ DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
     if (looksLikeRtf(bytes))
         return DocumentKind::Rtf;
     if (looksLikeFlatRtfd(bytes))
-        return DocumentKind::FlatRtfd;
+        return DocumentKind::Rtfd;
     if (looksLikePdf(bytes))
         return DocumentKind::Pdf;
     if (looksLikeCompoundFile(bytes))

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// DocumentKind says which reader a document needs; finding it out opens and reads nothing.
+// KindDetection finds out of which kind a document is; it opens and reads no file.
 // Thread: any.
 #pragma once
 
+#include "documents/DocumentKind.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
-
-enum class DocumentKind { Rtf, FlatRtfd, Html, WordDocument, Pdf, PlainText };
 
 /// What the bytes say of themselves comes first: a document that begins as RTF, as flat RTFD or as PDF is
 /// one, whatever its name; a text about PDF, which has no objects of it, is a text. A compound file is a Word

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// DocumentError is why a document could not be read or written. Which document it was, its receiver knows.
+// Thread: any; a value.
+#pragma once
+
+#include "documents/DocumentKind.h"
+#include "platform/files/FileError.h"
+
+#include <QString>
+
+#include <optional>
+
+struct DocumentError {
+    /// The numbers travel between processes.
+    enum class Cause : quint32 {
+        FileUnreadable = 1, ///< `file` has the reason
+        WrongKind, ///< the document is not of the kind that it was read as
+        OldFormat, ///< of Word 97 to 2003
+        Encrypted,
+        Damaged, ///< broken, or a part that is needed is missing
+        TextMissing, ///< an RTFD has no file TXT.rtf
+        TextUnreadable, ///< TXT.rtf of an RTFD package cannot be read; `file` has the reason
+        TextNotRtf, ///< TXT.rtf of an RTFD is not RTF
+        UnsupportedPart, ///< a part of a Word document is in a format without a reader
+        NoPages,
+        NoText, ///< a PDF file has no text on any page, as scans have not
+        UnmappedText, ///< the fonts of a PDF file do not say which characters their glyphs are
+        TooLong, ///< 2 GiB or more: positions in a text are 32 bits wide
+        TooLarge, ///< a Word document has too many parts, or too many bytes in them
+        TooDeep, ///< a web page has more than 1000 elements inside each other
+        TooComplex, ///< reading it takes time or memory out of proportion to its length
+        PdfNotSupported, ///< the options leave PDF files out
+        NoPdfReader, ///< the program that reads PDF files is missing or does not start
+        NotEnoughMemory,
+    };
+    static constexpr Cause lastCause = Cause::NotEnoughMemory;
+
+    DocumentError(Cause whatIsWrong, DocumentKind ofDocument)
+        : cause(whatIsWrong)
+        , kind(ofDocument)
+    {
+    }
+    /// A document whose file could not be read. What a file shares with other documents (TooLong,
+    /// NotEnoughMemory) has the same cause here.
+    explicit DocumentError(const FileError &error);
+
+    Cause cause;
+    DocumentKind kind = DocumentKind::PlainText; ///< PlainText where it is not known yet
+    std::optional<FileError> file = std::nullopt; ///< of FileUnreadable and TextUnreadable
+
+    bool operator==(const DocumentError &) const = default;
+};
+
+/// What is wrong and, where there is a remedy, what to do, in English on one line, to stand behind the name
+/// of the document and a colon: "is encrypted; save it without a password".
+QString causeText(const DocumentError &error);
