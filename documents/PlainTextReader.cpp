@@ -2,7 +2,7 @@
 #include "documents/PlainTextReader.h"
 
 #include "platform/text_encoding/DeclaredEncoding.h"
-#include "platform/text_encoding/EncodedText.h"
+#include "platform/text_encoding/EncodingConverter.h"
 #include "platform/text_encoding/TextEncoding.h"
 
 #include <new>
@@ -25,7 +25,7 @@ Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes, const QByte
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::PlainText);
     try {
         const TextEncoding encoding = encodingOfPlainText(bytes, charset);
-        return PlainText{decodedText(bytes.sliced(encoding.markLength), encoding.name), encoding.name};
+        return PlainText{decodeText(bytes.sliced(encoding.markLength), encoding.name), encoding.name};
     } catch (const std::bad_alloc &) {
         return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::PlainText);
     }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/DocxReader.h"
 
+#include "documents/Notes.h"
 #include "documents/docx/AlternativeChunk.h"
 #include "documents/docx/DocumentStyles.h"
 #include "documents/docx/PackageDocument.h"
 #include "documents/docx/PackageParts.h"
 #include "documents/docx/StoryReader.h"
-#include "platform/styled_text/Notes.h"
 
 #include <new>
 #include <utility>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/StoryReader.h"
 
+#include "documents/SymbolFont.h"
 #include "documents/docx/Measures.h"
-#include "documents/docx/SymbolFont.h"
 
 #include <array>
 
@@ -39,6 +39,29 @@ TableParts tablePartsOf(const XmlElement &element)
 bool isXmlSpace(char byte)
 {
     return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
+}
+
+/// Replaces the private characters of the font Symbol by the characters that they show. Text in other fonts
+/// is unchanged.
+QString replaceSymbolGlyphs(QString text, const QString &family)
+{
+    constexpr char16_t firstGlyph = symbolGlyphBase + 0x20;
+    constexpr char16_t lastGlyph = symbolGlyphBase + 0xFF;
+    if (!isSymbolFamily(family))
+        return text;
+    for (QChar &unit : text) {
+        if (unit.unicode() >= firstGlyph && unit.unicode() <= lastGlyph)
+            unit = symbolFontCharacter(static_cast<uchar>(unit.unicode() - symbolGlyphBase));
+    }
+    return text;
+}
+
+/// The character for a code of w:sym. For a symbol font, Word stores private characters and some other
+/// programs the bare codes; in other fonts the code is the character.
+QChar symbolOfCode(char16_t code, const QString &family)
+{
+    const bool isBareCode = code >= 0x20 && code <= 0xFF && isSymbolOrPictureFamily(family);
+    return QChar(isBareCode ? static_cast<char16_t>(symbolGlyphBase + code) : code);
 }
 
 QByteArrayView trimmedXml(QByteArrayView text)
@@ -412,7 +435,7 @@ void StoryReader::endText()
     for (QChar &unit : text)
         if (unit == u'\n' || unit == u'\r')
             unit = u' ';
-    append(withDepictedSymbols(text, format().ascii().font.family));
+    append(replaceSymbolGlyphs(text, format().ascii().font.family));
 }
 
 void StoryReader::append(QStringView text)
@@ -433,8 +456,8 @@ void StoryReader::appendSymbol(const XmlElement &element)
     if (!code || *code <= 0 || *code > 0xFFFF || QChar::isSurrogate(static_cast<char32_t>(*code)))
         return;
     const QString font = fontNameOf(element.attribute("font"_tag).value_or(""));
-    const QChar character = symbolCharacter(static_cast<char16_t>(*code), font);
-    const QString symbol = withDepictedSymbols(QString(character), font);
+    const QString symbol =
+        replaceSymbolGlyphs(QString(symbolOfCode(static_cast<char16_t>(*code), font)), font);
     if (!shows())
         return;
     RunProperties direct = state().run.direct;

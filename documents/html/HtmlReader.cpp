@@ -4,7 +4,7 @@
 #include "documents/html/HtmlText.h"
 #include "documents/html/HtmlTree.h"
 #include "platform/text_encoding/DeclaredEncoding.h"
-#include "platform/text_encoding/EncodedText.h"
+#include "platform/text_encoding/EncodingConverter.h"
 
 #include <cstring>
 #include <new>
@@ -33,7 +33,7 @@ Result<AttributedString, DocumentError> readHtml(QByteArrayView bytes, const Htm
         const QByteArrayView page = bytes.sliced(encoding.markLength);
         if (std::strcmp(encoding.name, "UTF-8") == 0 && page.isValidUtf8())
             return readUtf8(page);
-        return readUtf8(decodedText(page, encoding.name).toUtf8());
+        return readUtf8(decodeText(page, encoding.name).toUtf8());
     } catch (const std::bad_alloc &) {
         return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Html);
     }

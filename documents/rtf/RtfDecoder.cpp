@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/RtfDecoder.h"
 
-#include "documents/rtf/RtfSymbolFont.h"
+#include "documents/SymbolFont.h"
 
 #include <algorithm>
 
@@ -15,6 +15,20 @@ bool isAscii(QByteArrayView bytes)
     return all < 0x80;
 }
 
+/// The characters of a symbol font. In fonts of pictures, letters and signs are private characters.
+std::array<char16_t, 256> symbolCharacters(RtfCodePage::Kind kind)
+{
+    constexpr size_t firstGlyph = 0x21;
+    std::array<char16_t, 256> table{};
+    for (size_t code = 0; code < table.size(); ++code) {
+        if (kind == RtfCodePage::Kind::SymbolFont)
+            table.at(code) = symbolFontCharacter(static_cast<uchar>(code));
+        else
+            table.at(code) = static_cast<char16_t>(code < firstGlyph ? code : symbolGlyphBase + code);
+    }
+    return table;
+}
+
 } // namespace
 
 RtfDecoder::RtfDecoder()
@@ -22,41 +36,39 @@ RtfDecoder::RtfDecoder()
 {
 }
 
-void RtfDecoder::fill(Page &known, const RtfCodePage *page)
+void RtfDecoder::loadEncoding(const char *encoding, Page &target)
 {
-    auto converter = std::make_unique<const EncodingConverter>(page->encoding);
+    auto converter = std::make_unique<const EncodingConverter>(encoding);
     if (!converter->isSingleByte()) {
-        known.converter = std::move(converter);
+        target.converter = std::move(converter);
         return;
     }
-    known.singleBytes = std::make_unique<std::array<char16_t, 256>>();
+    target.singleBytes = std::make_unique<std::array<char16_t, 256>>();
     QString character;
-    for (size_t value = 0; value < known.singleBytes->size(); ++value) {
-        const auto byte = static_cast<char>(value);
-        char16_t &unit = (*known.singleBytes).at(value);
-        character.clear();
-        if (value >= 0x80)
-            converter->append({&byte, 1}, character);
-        if (value < 0x80)
+    for (size_t value = 0; value < target.singleBytes->size(); ++value) {
+        char16_t &unit = (*target.singleBytes).at(value);
+        if (value < 0x80) {
             unit = static_cast<char16_t>(value);
-        else
-            unit =
-                character.size() == 1 ? character.front().unicode() : char16_t{QChar::ReplacementCharacter};
+            continue;
+        }
+        const auto byte = static_cast<char>(value);
+        character.clear();
+        converter->append({&byte, 1}, character);
+        unit = character.size() == 1 ? character.front().unicode() : char16_t{QChar::ReplacementCharacter};
     }
 }
 
-const RtfDecoder::Page &RtfDecoder::known(const RtfCodePage *page)
+const RtfDecoder::Page &RtfDecoder::loadPage(const RtfCodePage *page)
 {
-    Page &known = m_pages[static_cast<size_t>(rtfCodePageIndex(page))];
-    if (known.isKnown)
-        return known;
+    Page &loaded = m_pages[static_cast<size_t>(rtfCodePageIndex(page))];
+    if (loaded.isLoaded)
+        return loaded;
     if (page->kind == RtfCodePage::Kind::Encoding)
-        fill(known, page);
+        loadEncoding(page->encoding, loaded);
     else
-        known.singleBytes = std::make_unique<std::array<char16_t, 256>>(
-            page->kind == RtfCodePage::Kind::SymbolFont ? symbolFontCharacters() : pictureFontCharacters());
-    known.isKnown = true;
-    return known;
+        loaded.singleBytes = std::make_unique<std::array<char16_t, 256>>(symbolCharacters(page->kind));
+    loaded.isLoaded = true;
+    return loaded;
 }
 
 void RtfDecoder::append(QByteArrayView bytes, const RtfCodePage *page, QString &target)
@@ -65,16 +77,16 @@ void RtfDecoder::append(QByteArrayView bytes, const RtfCodePage *page, QString &
         target.append(QLatin1StringView(bytes));
         return;
     }
-    const Page &converted = known(page);
-    if (!converted.singleBytes) {
+    const Page &loaded = loadPage(page);
+    if (!loaded.singleBytes) {
         m_pending.append(bytes);
-        m_pendingConverter = converted.converter.get();
+        m_pendingConverter = loaded.converter.get();
         return;
     }
     const qsizetype length = target.size();
     target.resize(length + bytes.size());
     std::ranges::transform(bytes, target.data() + length,
-        [&units = *converted.singleBytes](char byte) { return QChar(units[static_cast<uchar>(byte)]); });
+        [&units = *loaded.singleBytes](char byte) { return QChar(units[static_cast<uchar>(byte)]); });
 }
 
 void RtfDecoder::finish(QString &target)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// RtfDecoder turns the bytes of a document into text by the code page of the moment. It keeps a converter for
-// each page it has met, of which RtfCodePage.h has a fixed number.
-// Thread: one.  Owner: the reading of one document.
+// RtfDecoder turns the bytes of a document into text in the current code page. It keeps a converter for each
+// page of RtfCodePage.h that the document uses.
+// Thread: one.  Owner: RtfInterpreter.
 #pragma once
 
 #include "documents/rtf/RtfCodePage.h"
@@ -15,8 +15,8 @@
 #include <memory>
 #include <vector>
 
-/// Bytes without a meaning become U+FFFD. Pages whose characters may take several bytes keep bytes back until
-/// finish(), which must be called before the page or the target change.
+/// Bytes that are no character become U+FFFD. If characters of a page may take several bytes, bytes are held
+/// back until finish(), which must be called before the page or the target changes.
 class RtfDecoder {
 public:
     RtfDecoder();
@@ -29,12 +29,12 @@ public:
 
 private:
     struct Page {
-        bool isKnown = false;
-        std::unique_ptr<std::array<char16_t, 256>> singleBytes; ///< null where one byte may be too few
-        std::unique_ptr<const EncodingConverter> converter; ///< of the others
+        bool isLoaded = false;
+        std::unique_ptr<std::array<char16_t, 256>> singleBytes; ///< null if characters take several bytes
+        std::unique_ptr<const EncodingConverter> converter; ///< for characters of several bytes
     };
-    const Page &known(const RtfCodePage *page);
-    static void fill(Page &known, const RtfCodePage *page);
+    const Page &loadPage(const RtfCodePage *page);
+    static void loadEncoding(const char *encoding, Page &target);
 
     std::vector<Page> m_pages; ///< by rtfCodePageIndex()
     QByteArray m_pending;

@@ -24,3 +24,12 @@ QString languageOfLcid(qint32 lcid)
         return {};
     return QString::fromLatin1(tag, length);
 }
+
+int lcidOfLanguage(const QString &tag)
+{
+    constexpr quint32 withoutSortOrder = 0xFFFF;
+    char locale[ULOC_FULLNAME_CAPACITY];
+    UErrorCode status = U_ZERO_ERROR;
+    uloc_forLanguageTag(tag.toLatin1().constData(), locale, sizeof locale, nullptr, &status);
+    return U_SUCCESS(status) ? static_cast<int>(uloc_getLCID(locale) & withoutSortOrder) : 0;
+}

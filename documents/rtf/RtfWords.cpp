@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/RtfWords.h"
 
-#include "platform/styled_text/Notes.h"
+#include "documents/Notes.h"
 #include "platform/styled_text/TextAttributes.h"
 
 #include <algorithm>

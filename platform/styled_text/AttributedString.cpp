@@ -57,22 +57,22 @@ bool AttributedString::operator==(const AttributedString &other) const
         return true;
     if (string() != other.string() || runCount() != other.runCount())
         return false;
-    // Neighbouring runs always differ, so equal styled texts have the same runs. Each pair of indices is
-    // compared once only: whole texts in one style would otherwise compare it again for every run.
+    // Neighbouring runs differ, so equal texts have the same runs. Each pair of indices is compared only
+    // once: comparing attributes again for every run would be slow.
     constexpr quint32 unknown = UINT32_MAX;
-    std::vector<quint32> partner(distinctAttributes().size(), unknown);
+    std::vector<quint32> counterparts(distinctAttributes().size(), unknown);
     for (qsizetype i = 0; i < runCount(); ++i) {
         const Run mine = run(i);
         const Run theirs = other.run(i);
         if (mine.start != theirs.start)
             return false;
-        quint32 &known = partner[mine.attributesIndex];
-        if (known == unknown) {
+        quint32 &counterpart = counterparts[mine.attributesIndex];
+        if (counterpart == unknown) {
             if (!(distinctAttributes()[mine.attributesIndex]
                     == other.distinctAttributes()[theirs.attributesIndex]))
                 return false;
-            known = theirs.attributesIndex;
-        } else if (known != theirs.attributesIndex) {
+            counterpart = theirs.attributesIndex;
+        } else if (counterpart != theirs.attributesIndex) {
             return false;
         }
     }

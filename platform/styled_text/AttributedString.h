@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// AttributedString is UTF-16 text with attribute runs: the form in which every document reaches counting and
-// layout. AttributedStringBuilder makes one; a made one never changes.
-// Thread: AttributedString any, copies share their content; a builder belongs to one thread.
+// AttributedString is immutable UTF-16 text with attribute runs, the form in which every document reaches
+// counting and layout. AttributedStringBuilder makes one.
+// Thread: any; copies share their content. A builder belongs to one thread.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"
@@ -12,11 +12,12 @@
 #include <memory>
 #include <vector>
 
-/// The character that stands for an attachment in the text.
+/// The character that represents an attachment in the text.
 inline constexpr char16_t attachmentCharacter = u'\uFFFC';
 
-/// Positions and lengths are UTF-16 code units. Runs cover the text without gaps, in order, none empty, and
-/// neighbours always differ; an empty text has none. Each distinct set of attributes is stored once.
+/// Positions and lengths are UTF-16 code units. Runs cover the text in order and without gaps. No run is
+/// empty, and neighbouring runs differ. An empty text has no runs. Each distinct set of attributes is stored
+/// once.
 class AttributedString {
 public:
     struct Run {
@@ -35,14 +36,14 @@ public:
     [[nodiscard]] qsizetype runCount() const;
     /// index: 0 to runCount() - 1.
     [[nodiscard]] Run run(qsizetype index) const;
-    /// The index of the run that holds a position (0 to length() - 1), found in logarithmic time.
+    /// The index of the run that contains a position (0 to length() - 1). Takes logarithmic time.
     [[nodiscard]] qsizetype runIndexAt(qsizetype position) const;
 
     [[nodiscard]] const std::vector<TextAttributes> &distinctAttributes() const;
     /// position: 0 to length() - 1.
     [[nodiscard]] const TextAttributes &attributesAt(qsizetype position) const;
 
-    /// Equal text under equal attributes at every position.
+    /// Whether the texts are equal and have equal attributes at every position.
     bool operator==(const AttributedString &other) const;
 
 private:
@@ -65,16 +66,16 @@ private:
     std::shared_ptr<const Content> m_content; ///< null for the empty string
 };
 
-/// Appends pieces in time proportional to their length, whatever came before them.
+/// Appending takes time proportional to the length of the piece.
 class AttributedStringBuilder {
 public:
     void append(QStringView text, const TextAttributes &attributes);
     void append(const AttributedString &text);
-    /// Makes room for a text of this many code units.
+    /// length: expected length of the whole text, in code units.
     void reserve(qsizetype length) { m_content.text.reserve(length); }
     [[nodiscard]] qsizetype length() const { return m_content.text.size(); }
 
-    /// Hands the text over and starts again with an empty one.
+    /// Returns the text and resets the builder to an empty text.
     [[nodiscard]] AttributedString build();
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// TextAttributes describes how a run of styled text looks and is set: font, paragraph style, language,
-// attachment. It names fonts and never loads one, and knows no screen.
+// TextAttributes describes a run of styled text: font, paragraph style, language, attachment. It only names
+// fonts; finding and loading them is left to the layout.
 // Thread: any; values.
 #pragma once
 
@@ -14,10 +14,13 @@
 
 enum class FontSlant { Upright, Italic, Oblique };
 
+inline constexpr int regularFontWeight = 400;
+inline constexpr int boldFontWeight = 700;
+
 struct FontAttributes {
-    QString family; ///< as the document names it; the layout finds a font of the machine for it
+    QString family; ///< the name in the document; the layout finds an installed font for it
     double pointSize = 12;
-    int weight = 400; ///< 1 to 1000, 400 regular, 700 bold (OpenType usWeightClass)
+    int weight = regularFontWeight; ///< 1 to 1000 (OpenType usWeightClass)
     FontSlant slant = FontSlant::Upright;
     double tracking = 0; ///< points added after every grapheme cluster
     double baselineOffset = 0; ///< points above (positive) or below the baseline
@@ -44,7 +47,7 @@ struct ParagraphStyle {
     double headIndent = 0; ///< of every other line, from the leading edge
     double tailIndent = 0; ///< of every line, from the trailing edge inwards
     std::vector<TabStop> tabStops; ///< ascending by position
-    double defaultTabInterval = 28; ///< distance of the stops behind the last explicit one
+    double defaultTabInterval = 28; ///< distance between the stops after the last explicit one
     double lineSpacing = 0; ///< between the lines of the paragraph
     double paragraphSpacingBefore = 0;
     double paragraphSpacing = 0; ///< after the paragraph
@@ -52,21 +55,21 @@ struct ParagraphStyle {
     bool operator==(const ParagraphStyle &) const = default;
 };
 
-/// A file that stands in the text as one U+FFFC.
+/// A file that the text contains as one U+FFFC.
 struct Attachment {
-    QString fileName; ///< without a folder
+    QString fileName; ///< without a path
     QByteArray contents;
 
     bool operator==(const Attachment &) const = default;
 };
 
 struct TextAttributes {
-    std::optional<FontAttributes> font; ///< absent: the text names none
+    std::optional<FontAttributes> font; ///< absent if the text names none
     ParagraphStyle paragraphStyle;
-    QString language; ///< BCP 47, empty where the text names none
+    QString language; ///< BCP 47; empty if the text names none
     std::shared_ptr<const Attachment> attachment; ///< shared by copies; null for ordinary text
 
-    /// Attachments compare by content.
+    /// Attachments are compared by file name and contents.
     bool operator==(const TextAttributes &other) const;
 };
 

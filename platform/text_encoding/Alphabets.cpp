@@ -5,9 +5,9 @@ namespace {
 
 using Member = EncodingFamily::Member;
 
-// What another one has all letters of is not here: windows-1252 stands for ISO-8859-1, windows-1254 for
-// ISO-8859-9, windows-1255 for ISO-8859-8, windows-874 for TIS-620, KOI8-U for KOI8-R. The encodings of DOS
-// and of the old Mac are rare today.
+// An encoding whose letters are a subset of another's is left out: windows-1252 replaces ISO-8859-1,
+// windows-1254 ISO-8859-9, windows-1255 ISO-8859-8, windows-874 TIS-620, and KOI8-U KOI8-R. The encodings of
+// DOS and of the old Mac have low priors because they are rare today.
 constexpr Member latinEncodings[] = {
     {"windows-1252", 0},
     {"windows-1250", -0.3},
@@ -69,7 +69,7 @@ constexpr Alphabet latinAlphabets[] = {
     {"mt", u"żċġħàùì", "il ta li"},
     {"vi", u"\u0301\u0300đôư\u0323aêơă\u0309â\u0303"},
     {"sq", u"ëç", "dhe nga"},
-    // Words and names of all the others: "façade", "jalapeño", "Łódź".
+    // English borrows words and names from all the others: "façade", "jalapeño", "Łódź".
     {"en", u"éèáöüçñäóíàêôâåøæãúëïîßûùłšžčő", "the and of to in that is was he she it for with have"},
 };
 

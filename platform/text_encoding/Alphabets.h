@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The letters of the languages that were written in encodings of one byte a character, by how often they
-// stand in texts, and those encodings. Thread: any; constants.
+// Alphabets lists the single-byte encodings, and the letters of the languages written in them by frequency.
+// Thread: any; constants.
 #pragma once
 
 #include <QChar>
@@ -10,18 +10,17 @@
 
 struct Alphabet {
     std::string_view language; ///< ISO 639
-    /// Lower case, the most frequent first. Of the Latin script, only those beyond ASCII.
+    /// Lower case, the most frequent first. Of the Latin script, only letters beyond ASCII.
     std::u16string_view letters;
     /// Frequent words in ASCII, separated by spaces.
     std::string_view words = {};
 };
 
-/// A group of encodings, in any of which any text of its alphabets may be.
+/// The encodings of one script, and the alphabets written in it.
 struct EncodingFamily {
     struct Member {
-        const char *encoding; ///< as ICU knows it
-        /// How unlikely it is before a byte is looked at: a natural logarithm, at most 0. The first of
-        /// several equal ones is preferred.
+        const char *encoding; ///< a name ICU knows
+        /// The prior likelihood: a natural logarithm, at most 0. Among equals the first wins.
         double prior;
     };
     QChar::Script script;

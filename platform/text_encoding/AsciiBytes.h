@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is known of a text before its encoding is: ASCII.
+// AsciiBytes holds the checks on bytes that hold in every encoding that contains ASCII.
 // Thread: any.
 #pragma once
 
@@ -10,13 +10,13 @@ inline bool isAbove127(char byte)
     return static_cast<signed char>(byte) < 0;
 }
 
-/// "ASCII whitespace" of the HTML standard.
+/// ASCII whitespace as the HTML standard defines it.
 inline bool isHtmlSpace(char byte)
 {
     return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\f' || byte == '\r';
 }
 
-/// Whatever the case of ASCII letters is.
+/// Ignores the case of ASCII letters.
 inline bool startsWithWord(QByteArrayView bytes, QByteArrayView word)
 {
     return bytes.size() >= word.size()

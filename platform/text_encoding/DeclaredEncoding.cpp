@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Bytes of a page that its meta elements and XML declaration are sought in, by the HTML standard.
+/// Bytes of a page to search for meta elements and the XML declaration (HTML standard).
 constexpr qsizetype prescanLength = 1024;
 
 bool isLetter(char byte)
@@ -21,7 +21,7 @@ bool isLetter(char byte)
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
 }
 
-/// "algorithm for extracting a character encoding from a meta element"
+/// HTML standard, "algorithm for extracting a character encoding from a meta element".
 const char *encodingInContentType(QByteArrayView type)
 {
     constexpr QByteArrayView word = "charset";
@@ -50,7 +50,7 @@ const char *encodingInContentType(QByteArrayView type)
     return nullptr;
 }
 
-/// What a meta element says of its page has been read as ASCII, so it cannot be in UTF-16 or UTF-32.
+/// A declaration that was read as ASCII cannot stand in UTF-16 or UTF-32; the HTML standard takes UTF-8 then.
 const char *encodingOfAsciiPage(const char *named)
 {
     const bool isWide =
@@ -58,7 +58,7 @@ const char *encodingOfAsciiPage(const char *named)
     return isWide ? "UTF-8" : named;
 }
 
-/// The scan of the beginning of a page for a meta element that names its encoding.
+/// Scans the beginning of a page for a meta element that names its encoding.
 class Prescan {
 public:
     explicit Prescan(QByteArrayView page)
@@ -86,7 +86,7 @@ private:
     [[nodiscard]] bool isAtEnd() const { return m_at >= m_bytes.size(); }
     [[nodiscard]] QByteArrayView rest() const { return m_bytes.sliced(m_at); }
 
-    /// Behind a "<"; ends at its last byte.
+    /// Starts at a "<"; stops at the last byte of the markup.
     const char *encodingInMarkup()
     {
         const QByteArrayView markup = rest();
@@ -126,7 +126,7 @@ private:
         return isContentType ? encodingOfAsciiPage(ofContent) : nullptr;
     }
 
-    /// "get an attribute"; in lower case. Absent at the end of the tag, whose ">" is then the current byte.
+    /// HTML standard, "get an attribute", in lower case. Absent at the end of the tag, at its ">".
     std::optional<Attribute> nextAttribute()
     {
         while (!isAtEnd() && (isHtmlSpace(m_bytes[m_at]) || m_bytes[m_at] == '/'))
@@ -174,7 +174,7 @@ private:
     qsizetype m_at = 0;
 };
 
-/// "xml encoding"
+/// HTML standard, "get an XML encoding".
 const char *encodingInXmlDeclaration(QByteArrayView page)
 {
     const QByteArrayView start = page.first(std::min(page.size(), prescanLength));
@@ -204,7 +204,7 @@ const char *encodingInXmlDeclaration(QByteArrayView page)
     return close < 0 ? nullptr : encodingOfLabel(declaration.sliced(at + 1, close - at - 1));
 }
 
-/// Of a text that begins as HTML, XML or a template of them does; others may speak of such declarations.
+/// Null unless the text begins like HTML, XML or a template of them: other texts may quote such declarations.
 const char *encodingInMarkup(QByteArrayView text)
 {
     const auto *const start = std::find_if_not(text.begin(), text.end(), isHtmlSpace);
@@ -215,7 +215,7 @@ const char *encodingInMarkup(QByteArrayView text)
     return Prescan(text).encoding();
 }
 
-bool isFalselyNamed(const char *name, QByteArrayView bytes)
+bool isWrongName(const char *name, QByteArrayView bytes)
 {
     return std::string_view(name) == "UTF-8" && !mayBeUtf8(bytes);
 }
@@ -228,7 +228,7 @@ TextEncoding encodingOfPage(QByteArrayView page, QByteArrayView charset)
         return *marked;
     for (const char *const name : {encodingOfLabel(charset), encodingInContentType(charset),
              Prescan(page).encoding(), encodingOfAsciiPage(encodingInXmlDeclaration(page))}) {
-        if (name && !isFalselyNamed(name, page))
+        if (name && !isWrongName(name, page))
             return {name};
     }
     return detectTextEncoding(page);
@@ -238,7 +238,7 @@ TextEncoding encodingOfPlainText(QByteArrayView bytes, QByteArrayView charset)
 {
     if (const std::optional<TextEncoding> marked = markedEncoding(bytes))
         return *marked;
-    if (const char *const name = encodingOfLabel(charset); name && !isFalselyNamed(name, bytes))
+    if (const char *const name = encodingOfLabel(charset); name && !isWrongName(name, bytes))
         return {name};
     return detectTextEncoding(bytes, encodingInMarkup(bytes));
 }

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
-// DeclaredEncoding finds out in which encoding the bytes of a document are that may say so itself, or whose
-// transfer may have said so. Thread: any.
+// DeclaredEncoding detects the encoding of a document that may declare it, or that was transferred with a
+// charset; TextEncoding decides if neither helps.
+// Thread: any.
 #pragma once
 
 #include "platform/text_encoding/TextEncoding.h"
 
-// A name that EncodingLabels.h does not list does not count, nor does UTF-8 for bytes that cannot be it.
+// Both functions ignore names that EncodingLabels.h does not list, and UTF-8 if the bytes are not UTF-8.
 
-/// By, in this order, the byte order mark, the charset of the transfer, the first 1024 bytes as the HTML
-/// standard scans them for a meta element ("prescan a byte stream"), an XML declaration, and TextEncoding.h.
-/// A charset may be a label or a whole Content-Type.
+/// Asks, in this order, the byte order mark, the charset of the transfer, a meta element in the first 1024
+/// bytes (HTML standard, "prescan a byte stream"), the XML declaration, and TextEncoding.h.
+/// charset: a label or a whole Content-Type; may be empty.
 TextEncoding encodingOfPage(QByteArrayView page, QByteArrayView charset);
 
-/// By, in this order, the byte order mark, the charset of the transfer, and TextEncoding.h, which believes
-/// the XML declaration or meta element of a text that begins with markup over its own guess at older
-/// encodings.
+/// Asks, in this order, the byte order mark, the charset of the transfer, and TextEncoding.h. If the text
+/// begins with markup, its XML declaration or meta element takes precedence over a guess at older encodings.
+/// charset: a label; may be empty.
 TextEncoding encodingOfPlainText(QByteArrayView bytes, QByteArrayView charset);

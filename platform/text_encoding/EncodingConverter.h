@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// EncodingConverter turns bytes of one encoding into text. It hides ICU's converters, which it rests on.
-// Thread: one at a time.  Owner: whoever decodes.
+// EncodingConverter turns bytes in one encoding into text, and hides ICU's converters. Detecting the encoding
+// is left to TextEncoding.
+// Thread: one at a time.  Owner: the code that decodes.
 #pragma once
 
 #include <QByteArrayView>
@@ -10,17 +11,23 @@
 
 struct UConverter;
 
-/// Throws std::bad_alloc where the memory is short.
+/// The whole text of some bytes. Bytes that are no character in the encoding become U+FFFD, and so does an
+/// incomplete character at the end; a byte order mark is decoded like any other character. Takes time
+/// proportional to the length. Throws std::bad_alloc.
+/// bytes: at most INT32_MAX.  encoding: a name ICU knows, or johabEncoding.
+QString decodeText(QByteArrayView bytes, const char *encoding);
+
+/// Throws std::bad_alloc.
 class EncodingConverter {
 public:
-    /// encoding: a name that ICU knows. Every other name is ISO-8859-1, which ICU has without its data.
+    /// encoding: a name ICU knows. Any other name means ISO-8859-1, which ICU has even without its data.
     explicit EncodingConverter(const char *encoding);
 
-    /// Whether each byte is a character of its own.
+    /// Whether each byte is one character.
     [[nodiscard]] bool isSingleByte() const;
 
-    /// Appends a whole text, from the first state of the encoding on; what is no character in it becomes
-    /// U+FFFD, also at a cut end. bytes: at most INT32_MAX.
+    /// Appends a whole text; conversion starts in the initial state of the encoding. U+FFFD as in
+    /// decodeText(). bytes: at most INT32_MAX.
     void append(QByteArrayView bytes, QString &target) const;
 
 private:

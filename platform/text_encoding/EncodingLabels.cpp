@@ -13,7 +13,7 @@ struct Labels {
     const char *labels; ///< separated by spaces
 };
 
-// In the order of the Encoding Standard's table; behind it, what only plain texts of other systems are in.
+// In the order of the table in the Encoding Standard, followed by encodings found in plain text only.
 constexpr Labels labelTable[] = {
     {"UTF-8", "unicode-1-1-utf-8 unicode11utf8 unicode20utf8 utf-8 utf8 x-unicode20utf8"},
     {"IBM866", "866 cp866 csibm866 ibm866"},
@@ -101,9 +101,9 @@ QHash<QByteArray, const char *> encodingsByLabel()
 
 const char *encodingOfLabel(QByteArrayView label)
 {
-    constexpr qsizetype longestLabel = 100; // with the white space around it
+    constexpr qsizetype maxLabelLength = 100; // bytes, including white space
     static const QHash<QByteArray, const char *> encodings = encodingsByLabel();
-    if (label.size() > longestLabel)
+    if (label.size() > maxLabelLength)
         return nullptr;
     return encodings.value(label.toByteArray().trimmed().toLower());
 }

@@ -9,8 +9,9 @@ namespace {
 
 constexpr int none = -1;
 
-/// The three letters of a syllable have five bits each. Their values as Unicode counts them (U+AC00: 19
-/// initials, 21 vowels, 28 finals of which 0 is no final); absent for a filler, or where there is no letter.
+// The three letters of a syllable have five bits each. These functions return their numbers in Unicode's
+// order (U+AC00: 19 initials, 21 vowels, 28 finals, of which 0 is no final), or none for a filler or an
+// unused code.
 int initialOf(int code)
 {
     return code >= 2 && code <= 20 ? code - 2 : none;
@@ -32,7 +33,7 @@ int finalOf(int code)
 
 constexpr int filler[] = {1, 2, 1};
 
-/// A letter that stands alone, in Unicode's row of such letters; 0 where the code stands for none.
+/// A single letter, from the block of compatibility letters; 0 if the code is not a single letter.
 char16_t loneLetter(int initial, int vowel, int final)
 {
     constexpr std::u16string_view initials = u"ㄱㄲㄴㄷㄸㄹㅁㅂㅃㅅㅆㅇㅈㅉㅊㅋㅌㅍㅎ";
@@ -56,7 +57,8 @@ char16_t syllableOfCode(int code)
     return static_cast<char16_t>(0xAC00 + (initialOf(initial) * 21 + vowelOf(vowel)) * 28 + finalOf(final));
 }
 
-/// Two rows of KS X 1001 share a first byte: signs from row 1 on at D9, hanja from row 42 on at E0.
+/// Two rows of KS X 1001 share a first byte: signs from row 1 at D9, hanja from row 42 at E0. 0 if there is
+/// none.
 char16_t signOrHanja(uchar first, uchar second, const EncodingConverter &eucKr)
 {
     const bool isSign = first >= 0xD9 && first <= 0xDE;

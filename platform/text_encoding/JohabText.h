@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Johab, the encoding of Korean from before Windows 95 that spells its syllables out (KS X 1001, annex 3).
-// ICU has no converter for it. Thread: any.
+// JohabText decodes Johab, a Korean encoding from before Windows 95 that composes syllables from letters (KS
+// X 1001, annex 3). ICU has no converter for it. Thread: any.
 #pragma once
 
 #include <QByteArrayView>
@@ -8,5 +8,5 @@
 
 inline constexpr char johabEncoding[] = "Johab";
 
-/// Hanja and signs are the same as in EUC-KR, in another order, and are read as that.
+/// Johab has the hanja and signs of EUC-KR in another order. Bytes that are no character become U+FFFD.
 QString textOfJohab(QByteArrayView bytes);

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The encodings from before Unicode, told apart by the text that the bytes would be in each of them.
+// LegacyEncoding tells encodings from before Unicode apart by the text that the bytes would be in each.
 // Thread: any.
 #pragma once
 
 #include <QByteArrayView>
 
-/// The name of the likeliest, as ICU knows it, or johabEncoding; "windows-1252" where nothing speaks for any.
-/// Where one encoding has all letters of another and more, it is named in the other's place.
+/// The most likely encoding: a name ICU knows, or johabEncoding; "windows-1252" without any evidence. A
+/// superset of an encoding is returned in its place.
 ///
-/// Only the stretches around the bytes above 127 count (EncodingSample.h). Each encoding is asked how likely
-/// its reading of them is: by how often the letters stand in the languages that it was made for, by whether a
-/// word keeps to one script, capitals to the starts of words, and signs to their places
-/// (SingleByteEvidence.h), or by which ideographs, syllables and kana come out (MultiByteEvidence.h). What
-/// uchardet takes the text for gets a bonus, and so do the languages of the user's locale, which decides
-/// where a few words fit several. Takes time proportional to the length; a few milliseconds behind the first
-/// 16 KiB of stretches. above127: the position of the first byte above 127.
+/// Only passages around bytes above 127 count, up to 16 KiB of them. The likelihood of a single-byte encoding
+/// depends on the frequency of the letters in its languages, and on whether words keep to one script, have
+/// capitals only at the start and punctuation only at their edges. The likelihood of an East Asian encoding
+/// depends on the ideographs, syllables and kana that result. The encoding that uchardet guesses gets a
+/// bonus, and so do the languages of the user's locale, which decides about texts of a few words. Takes time
+/// proportional to the length, plus a few milliseconds. above127: the position of the first byte above 127.
 const char *likeliestLegacyEncoding(QByteArrayView bytes, qsizetype above127);

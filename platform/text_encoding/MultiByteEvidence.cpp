@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/text_encoding/MultiByteEvidence.h"
-
 #include "platform/text_encoding/AsciiBytes.h"
 #include "platform/text_encoding/EncodingConverter.h"
+#include "platform/text_encoding/EncodingEvidence.h"
 #include "platform/text_encoding/JohabText.h"
 
 #include <QSet>
@@ -13,20 +12,20 @@
 
 namespace {
 
-// Natural logarithms of how often a character of each kind is met.
+// Natural logarithms of the frequency of a character of each kind.
 constexpr double kana = -4.2;
 constexpr double katakana = -5;
 constexpr double syllable = -6.3; ///< one of the 2350 syllables of KS X 1001
 constexpr double rareSyllable = -9.5;
-constexpr double ideograph = -7.6; ///< of the level that holds the common ones
+constexpr double ideograph = -7.6; ///< of the level of common ideographs
 constexpr double rareIdeograph = -11;
 constexpr double foreign = -12; ///< kana in Chinese, ideographs in Korean
 constexpr double punctuation = -4;
 constexpr double sign = -8;
 constexpr double broken = -14;
 constexpr double priorOfJohab = -2;
-constexpr double asciiLetter = -0.1; ///< that it stands among the others
-constexpr double asciiWordAlongside = -1.5; ///< with no space between
+constexpr double asciiLetter = -0.1; ///< among East Asian characters
+constexpr double asciiWordAlongside = -1.5; ///< without a space between
 
 struct Range {
     uchar lead, lastLead;
@@ -38,7 +37,7 @@ struct Range {
 struct MultiByteEncoding {
     const char *encoding;
     const char *language;
-    std::span<const Range> ranges; ///< the first that fits
+    std::span<const Range> ranges; ///< the first match counts
 };
 
 constexpr Range shiftJis[] = {
@@ -163,7 +162,7 @@ double likelihoodOf(QByteArrayView sample, std::span<const Range> ranges)
     return sum;
 }
 
-/// The 2350 syllables of KS X 1001, which EUC-KR has in 25 rows of 94.
+/// The 2350 syllables of KS X 1001, which EUC-KR stores in 25 rows of 94.
 QSet<char16_t> makeCommonSyllables()
 {
     const EncodingConverter eucKr("windows-949");

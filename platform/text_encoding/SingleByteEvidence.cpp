@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform/text_encoding/SingleByteEvidence.h"
-
 #include "platform/text_encoding/Alphabets.h"
 #include "platform/text_encoding/AsciiBytes.h"
 #include "platform/text_encoding/EncodingConverter.h"
+#include "platform/text_encoding/EncodingEvidence.h"
 
 #include <QChar>
 #include <QSet>
@@ -16,9 +15,9 @@
 
 namespace {
 
-// Natural logarithms of how often each is met, or by how much less than its parts.
+// Natural logarithms of the frequency of each, or of its ratio to the frequency of its parts.
 constexpr double undefinedByte = -12;
-constexpr double strangeLetter = -11; ///< of the right script, but no letter of the language
+constexpr double strangeLetter = -11; ///< of the script, but not of the language
 constexpr double capital = -0.8;
 constexpr double firstOfLatin = -3.5; ///< the most frequent letter beyond ASCII
 constexpr double firstOfEnglish = -6.5;
@@ -31,9 +30,9 @@ constexpr double capitalInWord = -4;
 constexpr double signInWord = -3;
 constexpr double digitAfterLetter = -1.5;
 constexpr double markWithoutLetter = -4;
-constexpr double wordOfLanguage = 1; ///< one of its frequent words is in the text
+constexpr double wordOfLanguage = 1; ///< for each frequent word of the language
 constexpr int maxWords = 5;
-constexpr double asciiLetterAmongForeign = -0.1; ///< that one stands among letters of another script
+constexpr double asciiLetterAmongForeign = -0.1; ///< among letters of another script
 
 enum class Kind { Space, Digit, Sign, Opening, Closing, Dash, Lower, Capital, Letter, Mark, Undefined };
 
@@ -156,7 +155,7 @@ double likelihoodOfWords(const QSet<QByteArray> &words, const Alphabet &alphabet
     return wordOfLanguage * std::min(known, maxWords);
 }
 
-/// How often each byte above 127 stands in a sample, and each pair with one of them.
+/// How often each byte above 127 occurs in a sample, and each pair with such a byte.
 struct Census {
     struct Pair {
         uchar first;
@@ -205,7 +204,7 @@ double likelihoodOfLetters(Character first, Character second)
     return sum;
 }
 
-/// Of a pair, beyond that of its characters.
+/// The likelihood of a pair beyond that of its two characters.
 double likelihoodOfPair(Character first, Character second)
 {
     if (isLetter(first.kind) && isLetter(second.kind))
@@ -250,7 +249,7 @@ double likelihoodOfSign(char16_t unit)
     return uncommon.find(unit) != std::u16string_view::npos ? uncommonSign : otherSign;
 }
 
-/// Letters of natural languages become rarer by a constant factor from one to the next, roughly.
+/// Assumes that each letter of a language is rarer than the one before it by a constant factor.
 class LetterLikelihood {
 public:
     LetterLikelihood(const Alphabet &alphabet, QChar::Script script)
@@ -275,7 +274,7 @@ public:
 
 private:
     std::u16string_view m_letters;
-    // Of a text in the Latin script, most letters are in ASCII; of an English one, nearly all.
+    // In text in the Latin script most letters are ASCII; in English nearly all are.
     double m_first = firstOfLatin;
     double m_decline = 0.2;
 };

@@ -14,15 +14,15 @@
 
 namespace {
 
-/// Bytes from the first one above 127 on that are looked at before all others.
-constexpr qsizetype sampleSize = 65'536;
+/// Bytes, from the first one above 127 on.
+constexpr qsizetype utf8SampleSize = 65'536;
 
 constexpr char escape = '\x1B';
 
-/// The position of the first byte above 127, or the length where there is none.
+/// The position of the first byte above 127, or the length if there is none.
 qsizetype firstAbove127(QByteArrayView bytes)
 {
-    // Eight at a time: most texts are ASCII to their end, or nearly.
+    // Eight at a time, because most texts are almost entirely ASCII.
     constexpr quint64 topBits = 0x8080'8080'8080'8080;
     qsizetype at = 0;
     for (quint64 eight; at + 8 <= bytes.size(); at += 8) {
@@ -33,9 +33,9 @@ qsizetype firstAbove127(QByteArrayView bytes)
     return std::find_if(bytes.begin() + at, bytes.end(), isAbove127) - bytes.begin();
 }
 
-/// The encoding of the ISO-2022 kind that an escape sequence belongs to, if it switches to a character set of
-/// two bytes. The other sequences do not tell: terminals know some of them too.
-/// sequence: what follows upon the escape character.
+/// The ISO-2022 encoding that an escape sequence belongs to; null unless it switches to a two-byte character
+/// set. The other sequences prove nothing: terminals use some of them too.
+/// sequence: the bytes after the escape character.
 const char *iso2022EncodingOf(QByteArrayView sequence)
 {
     struct Designation {
@@ -95,8 +95,8 @@ Utf8Census utf8Census(QByteArrayView bytes)
 /// text: begins with a byte above 127.
 bool isUtf8(QByteArrayView text)
 {
-    Utf8Census census = utf8Census(text.first(std::min(text.size(), sampleSize)));
-    // A sample without fault is enough; one with faults may be the only bad place of a long text.
+    Utf8Census census = utf8Census(text.first(std::min(text.size(), utf8SampleSize)));
+    // A valid sample is enough. An invalid one may be the only bad place in a long text.
     if (census.broken > 0)
         census = utf8Census(text);
     return census.wellFormed > census.broken;
@@ -111,6 +111,7 @@ std::optional<TextEncoding> markedEncoding(QByteArrayView bytes)
         std::string_view bytes;
         const char *name;
     };
+    // The mark of UTF-32LE begins with that of UTF-16LE and must be checked first.
     static constexpr Mark marks[] = {
         {"\xEF\xBB\xBF"sv, "UTF-8"},
         {"\xFF\xFE\0\0"sv, "UTF-32LE"},

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// TextEncoding finds out in which encoding the bytes of a plain text are; turning them into text is left to
-// EncodedText.
+// TextEncoding detects the encoding of plain text from its bytes; EncodingConverter turns them into text.
 // Thread: any.
 #pragma once
 
@@ -9,25 +8,25 @@
 #include <optional>
 
 struct TextEncoding {
-    const char *name; ///< as ICU knows it: "UTF-8", "UTF-16LE", "Shift_JIS", "windows-1252" …
-    qsizetype markLength = 0; ///< bytes of a byte order mark at the start, which is no part of the text
+    const char *name; ///< a name ICU knows: "UTF-8", "UTF-16LE", "Shift_JIS", "windows-1252" …
+    qsizetype markLength = 0; ///< bytes of a leading byte order mark, which is not text
 };
 
-/// Always finds one, by these questions, in this order:
-///  1. Does a byte order mark say it?
-///  2. Is it UTF-32, or UTF-16, in spite of no mark? UnmarkedUnicode.h says how that shows.
-///  3. Is it 7 bits wide, and does an escape sequence switch to an East Asian character set? (ISO-2022.)
-///  4. Is it UTF-8? It is without a byte above 127, and with more well-formed sequences than broken ones; one
-///     that the end cuts off is neither.
-///  5. Does it declare an older one?
-///  6. Which older encoding is the likeliest? LegacyEncoding.h answers; its last resort is Windows-1252.
-/// Takes time proportional to the length; few of the questions look at more than the beginning.
-/// declared: what the text says of itself, as ICU knows it; null where it says nothing.
+/// Always returns an encoding. Checks, in this order:
+///  1. a byte order mark;
+///  2. UTF-32 or UTF-16 without a mark (UnmarkedUnicode.h);
+///  3. ISO-2022: 7-bit text with an escape sequence that switches to an East Asian character set;
+///  4. UTF-8: no byte above 127, or more well-formed sequences than broken ones; a sequence cut off by the
+///  end
+///     of the text is neither;
+///  5. the declared encoding;
+///  6. the most likely older encoding (LegacyEncoding.h), in doubt Windows-1252.
+/// Takes time proportional to the length; most checks read only the beginning.
+/// declared: the encoding that the text declares, by a name ICU knows; null if it declares none.
 TextEncoding detectTextEncoding(QByteArrayView bytes, const char *declared = nullptr);
 
-/// UTF-8, UTF-16 and UTF-32, the latter two in either byte order; the mark of UTF-32 before that of UTF-16,
-/// which it begins with. Absent without a mark.
+/// The encoding that a byte order mark announces: UTF-8, UTF-16 or UTF-32. Absent without a mark.
 std::optional<TextEncoding> markedEncoding(QByteArrayView bytes);
 
-/// Question 4.
+/// Check 4 of detectTextEncoding().
 bool mayBeUtf8(QByteArrayView bytes);

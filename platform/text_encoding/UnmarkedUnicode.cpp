@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A multiple of four bytes, so that it cuts no code unit.
+/// A multiple of four bytes, so that no code unit is cut.
 constexpr qsizetype unmarkedSampleSize = 65'536;
 
 enum class ByteOrder { Little, Big };
@@ -19,7 +19,7 @@ Number numberAt(const char *bytes, ByteOrder order)
     return order == ByteOrder::Little ? qFromLittleEndian<Number>(bytes) : qFromBigEndian<Number>(bytes);
 }
 
-/// That no text has but one with a stray byte, or one in UTF-16 or UTF-32.
+/// Rare in text, unless it is UTF-16 or UTF-32.
 bool isControlByte(char byte)
 {
     const auto value = static_cast<unsigned char>(byte);
@@ -43,12 +43,12 @@ bool isUtf32(QByteArrayView sample, ByteOrder order)
     return count > 0 && characters >= count - count / 20;
 }
 
-/// What a sample would be, were it UTF-16 in one byte order. All in code units.
+/// The contents of a sample read as UTF-16 in one byte order. All counts are code units.
 struct Utf16Census {
     qsizetype length = 0;
-    qsizetype alphabetic = 0; ///< in the blocks of the alphabets, which are those below U+2000
+    qsizetype alphabetic = 0; ///< below U+2000, where the alphabets are
     qsizetype eastAsian = 0; ///< ideographs, kana, hangul, and their punctuation
-    qsizetype pairs = 0; ///< surrogates that stand in pairs
+    qsizetype pairs = 0; ///< surrogates in pairs
     qsizetype separators = 0;
 };
 
@@ -66,7 +66,7 @@ bool isEastAsian(char16_t unit)
         || (unit >= 0xFF01 && unit <= 0xFFEF); // wide and narrow forms
 }
 
-/// Characters that no text is without; the wrong byte order makes them of such as hardly any text has.
+/// Characters of every text. In the wrong byte order they become rare ones.
 bool isSeparator(char16_t unit)
 {
     return unit == u' ' || unit == u'\n' || unit == u'\r' || unit == u'、' || unit == u'。' || unit == u'，';

@@ -7,21 +7,21 @@
 
 namespace {
 
-/// The shortest digits that read back as the very same number.
+/// Appends the shortest digits that read back as the same number.
 void appendNumber(QByteArray &value, double number)
 {
-    char digits[32]; // at most 17 of them, a sign, a point and an exponent
+    char digits[32]; // at most 17 digits, a sign, a point and an exponent
     const std::to_chars_result result = std::to_chars(digits, digits + sizeof digits, number);
     value.append(digits, result.ptr - digits);
 }
 
 template <typename Choice>
-void appendPosition(QByteArray &value, Choice choice)
+void appendChoice(QByteArray &value, Choice choice)
 {
     value.append(QByteArray::number(static_cast<int>(choice)));
 }
 
-QByteArray escapedName(const QString &name)
+QByteArray escapeName(const QString &name)
 {
     QByteArray value;
     appendRtfName(value, name);
@@ -46,7 +46,7 @@ QByteArray ExactValues::fontWord(const FontAttributes &font)
     QByteArray value;
     appendNumber(value, font.pointSize);
     value.append(';').append(QByteArray::number(font.weight)).append(';');
-    appendPosition(value, font.slant);
+    appendChoice(value, font.slant);
     for (const double number : {font.tracking, font.baselineOffset}) {
         value.append(';');
         appendNumber(value, number);
@@ -57,9 +57,9 @@ QByteArray ExactValues::fontWord(const FontAttributes &font)
 QByteArray ExactValues::paragraphWord(const ParagraphStyle &style)
 {
     QByteArray value;
-    appendPosition(value, style.alignment);
+    appendChoice(value, style.alignment);
     value.append(';');
-    appendPosition(value, style.direction);
+    appendChoice(value, style.direction);
     for (const double number :
         {style.firstLineHeadIndent, style.headIndent, style.tailIndent, style.defaultTabInterval,
             style.lineSpacing, style.paragraphSpacingBefore, style.paragraphSpacing}) {
@@ -71,7 +71,7 @@ QByteArray ExactValues::paragraphWord(const ParagraphStyle &style)
         value.append(separator);
         appendNumber(value, stop.position);
         value.append(':');
-        appendPosition(value, stop.alignment);
+        appendChoice(value, stop.alignment);
         separator = ',';
     }
     if (style.tabStops.empty())
@@ -81,12 +81,12 @@ QByteArray ExactValues::paragraphWord(const ParagraphStyle &style)
 
 QByteArray ExactValues::languageWord(const QString &tag)
 {
-    return wordFor("qbylanguage", escapedName(tag));
+    return wordFor("qbylanguage", escapeName(tag));
 }
 
 QByteArray ExactValues::fileWord(const QString &name)
 {
-    return wordFor("qbyfile", escapedName(name));
+    return wordFor("qbyfile", escapeName(name));
 }
 
 QByteArray ExactValues::table() const

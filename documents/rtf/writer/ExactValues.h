@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// ExactValues collects, numbers and writes what RTF has no exact word for: the table \qbyexact of
-// docs/rtf.md. Thread: one.  Owner: the writer of one document.
+// ExactValues collects, numbers and writes the values that RTF's own words cannot express exactly: the table
+// \qbyexact of docs/rtf.md. RtfExactValues reads it.
+// Thread: one.  Owner: RtfWriter, for one document.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"
@@ -9,7 +10,7 @@
 #include <QHash>
 #include <QString>
 
-/// Each function gives the word that chooses the value, "\qbyfont1"; equal values share theirs.
+/// Each function returns the word that selects the value, such as "\qbyfont1". Equal values share a word.
 class ExactValues {
 public:
     QByteArray fontWord(const FontAttributes &font);
@@ -17,7 +18,7 @@ public:
     QByteArray languageWord(const QString &tag);
     QByteArray fileWord(const QString &name);
 
-    /// The table with a line for each value, empty where there is none.
+    /// The table, with a line for each value; empty without values.
     [[nodiscard]] QByteArray table() const;
 
 private:

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::array<bool, 128> charactersThatStandForThemselves()
+constexpr std::array<bool, 128> makeLiteralCharacters()
 {
     std::array<bool, 128> table{};
     for (size_t character = 0x20; character < 0x7F; ++character)
@@ -15,12 +15,12 @@ constexpr std::array<bool, 128> charactersThatStandForThemselves()
     return table;
 }
 
-constexpr std::array<bool, 128> standsForItself = charactersThatStandForThemselves();
+constexpr std::array<bool, 128> isLiteral = makeLiteralCharacters();
 
 void appendCodeUnit(QByteArray &rtf, char16_t unit)
 {
     char word[sizeof "\\u-32768 "] = "\\u";
-    char *const blank = word + sizeof word - 1; // at the latest
+    char *const blank = word + sizeof word - 1; // its last possible position
     char *end = std::to_chars(word + 2, blank, static_cast<qint16>(unit)).ptr;
     *end++ = ' ';
     rtf.append(word, end - word);
@@ -49,13 +49,13 @@ void appendRtfText(QByteArray &rtf, QStringView text)
     const char16_t *const end = at + text.size();
     while (at != end) {
         const char16_t *const next =
-            std::find_if_not(at, end, [](char16_t unit) { return unit < 128 && standsForItself[unit]; });
+            std::find_if_not(at, end, [](char16_t unit) { return unit < 128 && isLiteral[unit]; });
         if (next != at)
             appendUnescaped(rtf, at, next);
         if (next == end)
             return;
         if (*next == u'\n')
-            rtf.append("\\par\n"); // RTF skips the line end; it makes the source readable
+            rtf.append("\\par\n"); // RTF ignores the line end; it only makes the source readable
         else if (*next == u'\t')
             rtf.append("\\tab ");
         else
@@ -69,7 +69,7 @@ void appendRtfName(QByteArray &rtf, QStringView name)
     for (qsizetype i = 0; i < name.size(); ++i) {
         const char16_t unit = name[i].unicode();
         const bool isAtEdge = i == 0 || i == name.size() - 1;
-        if (unit < 128 && standsForItself[unit] && unit != u';' && !(unit == u' ' && isAtEdge))
+        if (unit < 128 && isLiteral[unit] && unit != u';' && !(unit == u' ' && isAtEdge))
             rtf.append(static_cast<char>(unit));
         else
             appendEscaped(rtf, unit);

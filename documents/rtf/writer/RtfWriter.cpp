@@ -2,8 +2,7 @@
 #include "documents/rtf/writer/RtfWriter.h"
 
 #include "documents/rtf/writer/ExactValues.h"
-#include "documents/rtf/writer/FontWords.h"
-#include "documents/rtf/writer/ParagraphWords.h"
+#include "documents/rtf/writer/FormatWords.h"
 #include "documents/rtf/writer/RtfEscapes.h"
 
 #include <algorithm>
@@ -12,9 +11,9 @@
 
 namespace {
 
-constexpr qsizetype largestRtf = INT32_MAX - 1; // bytes
-/// Between two looks at the length, which bounds how far an RTF grows beyond the largest: no code unit takes
-/// more bytes than the braces of an attachment with the longest of names.
+constexpr qsizetype maxRtfLength = INT32_MAX - 1; // bytes
+/// The length is checked after each piece, which bounds how far the RTF can exceed the maximum: no code unit
+/// takes more bytes than an attachment with the longest name.
 constexpr qsizetype pieceLength = 65'536; // code units
 
 class RtfDocument {
@@ -28,22 +27,22 @@ public:
     {
     }
 
-    Result<QByteArray, DocumentError> written();
+    Result<QByteArray, DocumentError> write();
 
 private:
-    /// A distinct set of attributes, said in RTF.
+    /// The RTF for a distinct set of attributes.
     struct Style {
         bool isKnown = false;
         bool isAttachmentKnown = false;
-        qsizetype paragraph = 0; ///< into m_words, as is the next
-        qsizetype character = 0;
-        QByteArray attachment; ///< the words for each U+FFFC, empty where it stands for nothing stored
+        qsizetype paragraph = 0; ///< index into m_words
+        qsizetype character = 0; ///< index into m_words
+        QByteArray attachment; ///< the words for each U+FFFC; empty if no file is stored
     };
     static constexpr qsizetype noWords = -1;
 
     [[nodiscard]] qsizetype firstRun() const { return m_text.runIndexAt(m_start); }
     [[nodiscard]] QStringView textOf(const AttributedString::Run &run) const;
-    /// Calls with every run that the range touches.
+    /// Calls the function with every run that overlaps the range.
     template <typename Call>
     void forEachRun(Call call) const;
 
@@ -63,13 +62,13 @@ private:
 
     ExactValues m_exactValues;
     FontWords m_fontWords{m_exactValues};
-    std::vector<Style> m_styles; ///< as distinctAttributes()
+    std::vector<Style> m_styles; ///< by index into distinctAttributes()
     std::vector<QByteArray> m_words;
     QHash<QByteArray, qsizetype> m_wordsIndices;
 
     QByteArray m_rtf;
-    qsizetype m_paragraph = noWords; ///< in force at the end of the RTF, as is the next
-    qsizetype m_character = noWords;
+    qsizetype m_paragraph = noWords; ///< at the end of the RTF; an index into m_words
+    qsizetype m_character = noWords; ///< likewise
     bool m_isTooLong = false;
 };
 
@@ -131,7 +130,7 @@ void RtfDocument::writeHeader()
 {
     const QByteArray fonts = m_fontWords.table();
     const QByteArray exactValues = m_exactValues.table();
-    // As much as plain ASCII takes, so that it is never copied.
+    // Enough for ASCII text, so that the buffer never grows.
     constexpr qsizetype roomForRest = 1024;
     m_rtf.reserve(m_end - m_start + fonts.size() + exactValues.size() + roomForRest);
     m_rtf += R"({\rtf1\ansi\ansicpg1252\uc0)" + defaultTabWord() + '\n' + fonts + exactValues;
@@ -173,17 +172,17 @@ void RtfDocument::writeRun(const AttributedString::Run &run)
     writeWords(style);
     for (qsizetype at = 0; at < text.size() && !m_isTooLong; at += pieceLength) {
         writePiece(text.sliced(at, std::min(pieceLength, text.size() - at)), style.attachment);
-        m_isTooLong = m_rtf.size() > largestRtf;
+        m_isTooLong = m_rtf.size() > maxRtfLength;
     }
 }
 
-Result<QByteArray, DocumentError> RtfDocument::written()
+Result<QByteArray, DocumentError> RtfDocument::write()
 {
     forEachRun([this](const AttributedString::Run &run) { collectStyle(run); });
     writeHeader();
     forEachRun([this](const AttributedString::Run &run) { writeRun(run); });
     m_rtf += '}';
-    if (m_isTooLong || m_rtf.size() > largestRtf)
+    if (m_isTooLong || m_rtf.size() > maxRtfLength)
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtf);
     return std::move(m_rtf);
 }
@@ -194,7 +193,7 @@ Result<QByteArray, DocumentError> writeRtf(
     const AttributedString &text, qsizetype start, qsizetype length, const AttachmentNames &storedNameOf)
 {
     try {
-        return RtfDocument(text, start, length, storedNameOf).written();
+        return RtfDocument(text, start, length, storedNameOf).write();
     } catch (const std::bad_alloc &) {
         return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtf);
     }

@@ -37,7 +37,7 @@ TEST(AttributedString, NeighboursWithEqualAttributesBecomeOneRun)
     EXPECT_EQ(text.run(1).length, 5);
 }
 
-TEST(AttributedString, DistinctAttributesAreStoredOnce)
+TEST(AttributedString, StoresDistinctAttributesOnce)
 {
     AttributedStringBuilder builder;
     for (int i = 0; i < 1000; ++i) {
@@ -64,14 +64,14 @@ TEST(AttributedString, EveryPositionBelongsToItsRun)
     EXPECT_EQ(text.attributesAt(4), bold());
 }
 
-TEST(AttributedString, EqualityAsksForTextAndForAttributesAtEveryPosition)
+TEST(AttributedString, EqualityComparesTextAndAttributesAtEveryPosition)
 {
     AttributedStringBuilder builder;
     builder.append(u"ab", bold());
     builder.append(u"c", {});
     const AttributedString text = builder.build();
 
-    builder.append(u"", {}); // a builder starts again with an empty text
+    builder.append(u"", {}); // build() has reset the builder
     builder.append(u"a", bold());
     builder.append(u"b", bold());
     builder.append(u"c", {});
@@ -86,7 +86,7 @@ TEST(AttributedString, EqualityAsksForTextAndForAttributesAtEveryPosition)
     EXPECT_FALSE(text == builder.build());
 }
 
-TEST(AttributedString, EqualityTellsSwappedStylesApart)
+TEST(AttributedString, EqualityDistinguishesStylesThatOccurTwice)
 {
     AttributedStringBuilder builder;
     builder.append(u"a", bold());

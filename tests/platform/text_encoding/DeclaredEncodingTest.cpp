@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// What a plain text of markup says of its encoding.
 #include "documents/PlainTextReader.h"
 
 #include "tests/documents/SampleTexts.h"
@@ -9,7 +8,7 @@ using namespace SampleTexts;
 
 namespace {
 
-// Two letters, of which the bytes tell nothing.
+// Too short to detect the encoding from the bytes.
 const QString greeting = QStringLiteral("да");
 
 QString decodedText(const QByteArray &bytes)
@@ -38,28 +37,28 @@ TEST(DeclaredEncoding, IsThatOfAMetaElement)
     }
 }
 
-TEST(DeclaredEncoding, DoesNotCountInATextThatOnlySpeaksOfIt)
+TEST(DeclaredEncoding, IsIgnoredInATextThatOnlyQuotesOne)
 {
     const QString text =
         QStringLiteral("Ein <meta charset=koi8-r> gehört über jede ältere russische Seite, schön früh.\n");
     EXPECT_EQ(decodedText(encoded(text, "windows-1252")), text);
 }
 
-TEST(DeclaredEncoding, DoesNotCountAgainstUtf8)
+TEST(DeclaredEncoding, DoesNotOverrideUtf8)
 {
     const QString text =
         QStringLiteral("<?xml version='1.0' encoding='iso-8859-1'?><a>") + russian + QStringLiteral("</a>");
     EXPECT_EQ(decodedText(text.toUtf8()), text);
 }
 
-TEST(DeclaredEncoding, Utf8ThatIsDeclaredFalselyDoesNotCount)
+TEST(DeclaredEncoding, IsIgnoredWhereItDeclaresUtf8Falsely)
 {
     const QString text =
         QStringLiteral("<?xml version='1.0' encoding='utf-8'?><a>") + russian + QStringLiteral("</a>");
     EXPECT_EQ(decodedText(encoded(text, "windows-1251")), text);
 }
 
-TEST(DeclaredEncoding, ACharsetOfTheTransferOutweighsIt)
+TEST(DeclaredEncoding, IsOverriddenByTheCharsetOfTheTransfer)
 {
     const QString text = QStringLiteral("<?xml version='1.0' encoding='windows-1251'?><a>") + greeting;
     EXPECT_EQ(readPlainText(encoded(text, "KOI8-R"), "koi8-r").value().text, text);

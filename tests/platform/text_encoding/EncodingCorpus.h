@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// EncodingCorpus is texts of many languages in the encodings that they were written in before Unicode: from
-// two words to a page, as plain text, as a web page that names no encoding, and as subtitles. Thread: any.
+// EncodingCorpus provides texts of many languages in their encodings from before Unicode: from two words to a
+// page, as plain text, as a web page that declares no encoding, and as subtitles.
+// Thread: any.
 #pragma once
 
 #include <QByteArray>
@@ -10,11 +11,12 @@
 
 struct EncodedSample {
     const char *language;
-    QByteArray encoding; ///< as ICU knows it
+    QByteArray encoding; ///< a name ICU knows
     QString text;
     QByteArray bytes;
 };
 
-/// Every text with every encoding of its language; those of less than a sentence are short.
+/// Short samples are shorter than a sentence.
 enum class SampleLength { Short, Sentence, Long };
+/// Every text in every encoding of its language.
 std::vector<EncodedSample> encodedSamples(SampleLength length);

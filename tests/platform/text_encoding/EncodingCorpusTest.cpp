@@ -7,43 +7,43 @@
 namespace {
 
 struct Share {
-    int right = 0;
+    int correct = 0;
     int all = 0;
 
-    [[nodiscard]] double percent() const { return 100.0 * right / all; }
+    [[nodiscard]] double percent() const { return 100.0 * correct / all; }
 };
 
-Share shareReadRightly(SampleLength length)
+Share measureCorrectShare(SampleLength length)
 {
     Share share;
     for (const EncodedSample &sample : encodedSamples(length)) {
         const PlainText read = readPlainText(sample.bytes).value();
         ++share.all;
         if (read.text == sample.text)
-            ++share.right;
+            ++share.correct;
         else
             std::printf("%s in %s read as %s: %s\n", sample.language, sample.encoding.constData(),
                 read.encoding.constData(), qPrintable(read.text.simplified().left(60)));
     }
-    std::printf("%d of %d, %.1f %%\n", share.right, share.all, share.percent());
+    std::printf("%d of %d, %.1f %%\n", share.correct, share.all, share.percent());
     return share;
 }
 
 } // namespace
 
-// A dozen letters, of which one or two are beyond ASCII.
-TEST(EncodingCorpus, MostBeginningsOfSentencesAreReadRightly)
+// A dozen letters, one or two of them beyond ASCII.
+TEST(EncodingCorpus, MostBeginningsOfSentencesAreReadCorrectly)
 {
-    EXPECT_GE(shareReadRightly(SampleLength::Short).percent(), 89);
+    EXPECT_GE(measureCorrectShare(SampleLength::Short).percent(), 89);
 }
 
-TEST(EncodingCorpus, NearlyEverySentenceIsReadRightly)
+TEST(EncodingCorpus, NearlyEverySentenceIsReadCorrectly)
 {
-    EXPECT_GE(shareReadRightly(SampleLength::Sentence).percent(), 93);
+    EXPECT_GE(measureCorrectShare(SampleLength::Sentence).percent(), 93);
 }
 
-TEST(EncodingCorpus, EveryLongTextIsReadRightly)
+TEST(EncodingCorpus, EveryLongTextIsReadCorrectly)
 {
-    const Share share = shareReadRightly(SampleLength::Long);
-    EXPECT_EQ(share.right, share.all);
+    const Share share = measureCorrectShare(SampleLength::Long);
+    EXPECT_EQ(share.correct, share.all);
 }

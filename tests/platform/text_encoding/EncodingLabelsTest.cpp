@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_encoding/EncodingLabels.h"
-#include "platform/text_encoding/EncodedText.h"
 #include "platform/text_encoding/EncodingConverter.h"
 #include "platform/text_encoding/JohabText.h"
 
@@ -11,7 +10,7 @@ namespace {
 QString textOf(const QByteArray &bytes, const char *label)
 {
     const char *const encoding = encodingOfLabel(label);
-    return encoding ? decodedText(bytes, encoding) : QString();
+    return encoding ? decodeText(bytes, encoding) : QString();
 }
 
 } // namespace
@@ -29,7 +28,7 @@ TEST(EncodingLabels, AreThoseThatBrowsersKnow)
     EXPECT_EQ(textOf("\x82\xA0", "sjis"), QStringLiteral("あ"));
 }
 
-TEST(EncodingLabels, NamesThatAreNotListedStandForNothing)
+TEST(EncodingLabels, NamesThatAreNotListedHaveNoEncoding)
 {
     for (const char *label :
         {"BOCU-1", "SCSU", "UTF-7", "CESU-8", "ibm-930", "utf-8;x", "latin-none", "", " "})
@@ -54,7 +53,7 @@ TEST(EncodingConverter, AnEncodingThatIcuLacksIsReadAsLatin1)
     EXPECT_EQ(text, QStringLiteral("café"));
 }
 
-TEST(EncodingConverter, EveryPairOfBytesHasATextInEveryListedEncoding)
+TEST(EncodingConverter, DecodesEveryPairOfBytesInEveryListedEncoding)
 {
     QByteArray pairs;
     for (int first = 0; first < 256; ++first) {
@@ -74,7 +73,7 @@ TEST(JohabText, SpellsSyllablesLettersSignsAndHanja)
     EXPECT_EQ(textOfJohab("\xD9\x32\xF7\xDB"), QStringLiteral("、韓"));
 }
 
-TEST(JohabText, WhatIsNoCharacterIsReplaced)
+TEST(JohabText, ReplacesWhatIsNoCharacter)
 {
     EXPECT_EQ(textOfJohab("\xD0"), QStringLiteral(u"\uFFFD"));
     EXPECT_EQ(textOfJohab("\xFF\x80z"), QStringLiteral(u"\uFFFD\uFFFDz"));

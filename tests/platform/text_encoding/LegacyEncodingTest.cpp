@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "documents/PlainTextReader.h"
-#include "platform/text_encoding/EncodedText.h"
+#include "platform/text_encoding/EncodingConverter.h"
 
 #include "tests/documents/SampleTexts.h"
 #include "tests/harness/QuillbayTest.h"
@@ -90,7 +90,7 @@ TEST_P(LegacyEncoding, IsFoundByTheBeginningOfALongText)
 INSTANTIATE_TEST_SUITE_P(Languages, LegacyEncoding, ::testing::ValuesIn(legacyTexts),
     [](const auto &language) { return std::string(language.param.name); });
 
-TEST(LegacyEncodings, TheWordsBeforeTheFirstAccentTellTheLanguage)
+TEST(LegacyEncodings, TheWordsBeforeTheFirstAccentCount)
 {
     const QString text = QStringLiteral("Moja siostra czyta teraz bardzo dobra powie i mieszka nad rzeką.");
     EXPECT_EQ(textOf(encoded(text, "ISO-8859-2")), text);
@@ -104,7 +104,7 @@ TEST(WesternEncoding, OneWordIsEnoughForTheLastResort)
     }
 }
 
-TEST(WesternEncoding, ItsNameIsNeverTheStandardWithFewerCharacters)
+TEST(WesternEncoding, IsReportedAsTheSupersetOfIso8859_1)
 {
     EXPECT_EQ(encodingOf(encoded(french, "ISO-8859-1")), "windows-1252");
 }
@@ -114,7 +114,7 @@ TEST(WesternEncoding, EveryByteIsACharacter)
     QByteArray bytes;
     for (int byte = 0x80; byte < 0x100; ++byte)
         bytes.append(static_cast<char>(byte));
-    const QString text = decodedText(bytes, "windows-1252");
+    const QString text = decodeText(bytes, "windows-1252");
     EXPECT_EQ(text.size(), bytes.size());
     EXPECT_FALSE(text.contains(QChar::ReplacementCharacter));
 }
@@ -125,7 +125,7 @@ TEST(KoreanEncoding, SyllablesOutsideTheStandardAreRead)
     EXPECT_EQ(textOf(encoded(text, "windows-949")), text);
 }
 
-TEST(Iso2022, EscapeSequencesOfTerminalsDoNotMakeIt)
+TEST(Iso2022, IsNotDetectedFromEscapeSequencesOfTerminals)
 {
     const QByteArray colours = "\x1B[1mbold\x1B(B\x1B[m and plain\n";
     EXPECT_EQ(encodingOf(colours), "UTF-8");
@@ -140,12 +140,12 @@ TEST(Iso2022, CharacterSetsOfLaterVariantsAreRead)
     EXPECT_EQ(textOf("\x1B$B0!\x1B(I12\x1B(B\n"), QStringLiteral("亜ｱｲ\n"));
 }
 
-TEST(Iso2022, AByteAbove127RulesItOut)
+TEST(Iso2022, IsRuledOutByAByteAbove127)
 {
     EXPECT_EQ(encodingOf("\x1B$B0!\x1B(B caf\xC3\xA9"), "UTF-8");
 }
 
-TEST(Iso2022, WhatIsNoCharacterIsReplaced)
+TEST(Iso2022, ReplacesWhatIsNoCharacter)
 {
     EXPECT_EQ(textOf("\x1B$B0!\x7F\x7F\x1B(Bx"), QStringLiteral(u"亜\uFFFDx"));
 }

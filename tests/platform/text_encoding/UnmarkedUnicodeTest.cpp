@@ -13,7 +13,7 @@ const char *const encodings[] = {"UTF-16LE", "UTF-16BE", "UTF-32LE", "UTF-32BE"}
 const QString *const texts[] = {&english, &french, &german, &spanish, &polish, &turkish, &greek, &russian,
     &hebrew, &arabic, &hindi, &japanese, &simplifiedChinese, &traditionalChinese, &korean};
 
-QByteArray found(const QByteArray &bytes)
+QByteArray detectEncoding(const QByteArray &bytes)
 {
     const char *name = unmarkedUnicodeEncoding(bytes);
     return name ? name : "none";
@@ -25,7 +25,7 @@ TEST(UnmarkedUnicode, EveryLanguageIsFoundInEveryByteOrder)
 {
     for (const QString *text : texts) {
         for (const char *encoding : encodings)
-            EXPECT_EQ(found(encoded(*text, encoding)), encoding) << text->toStdString();
+            EXPECT_EQ(detectEncoding(encoded(*text, encoding)), encoding) << text->toStdString();
     }
 }
 
@@ -34,7 +34,7 @@ TEST(UnmarkedUnicode, EveryFirstLineIsFoundInEveryByteOrder)
     for (const QString *text : texts) {
         const QString line = text->section(u'\n', 0, 0);
         for (const char *encoding : encodings)
-            EXPECT_EQ(found(encoded(line, encoding)), encoding) << line.toStdString();
+            EXPECT_EQ(detectEncoding(encoded(line, encoding)), encoding) << line.toStdString();
     }
 }
 
@@ -42,78 +42,80 @@ TEST(UnmarkedUnicode, AlphabetsAndIdeographsMayBeMixed)
 {
     const QString mixed = english + simplifiedChinese + russian + japanese + QStringLiteral("😀 2008年。");
     for (const char *encoding : encodings)
-        EXPECT_EQ(found(encoded(mixed, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encoded(mixed, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, ChineseWithoutSpacesOrLineEndsIsFoundByItsPunctuation)
 {
     const QString text = QString(simplifiedChinese).remove(u'\n');
     for (const char *encoding : encodings)
-        EXPECT_EQ(found(encoded(text, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encoded(text, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, ChineseWithoutPunctuationIsFoundByItsLineEnds)
 {
     const QString text = QStringLiteral("昨天晚上\n我们沿着河边散步\n天已经黑了\n但是月亮很亮\n");
     for (const char *encoding : encodings)
-        EXPECT_EQ(found(encoded(text, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encoded(text, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, OneWordInAnAlphabetIsFound)
 {
     for (const char *word : {"hello", "Grüße", "Привет", "Ελλάδα", "שלום"}) {
         for (const char *encoding : encodings)
-            EXPECT_EQ(found(encoded(QString::fromUtf8(word), encoding)), encoding) << word;
+            EXPECT_EQ(detectEncoding(encoded(QString::fromUtf8(word), encoding)), encoding) << word;
     }
 }
 
 TEST(UnmarkedUnicode, AnIncompleteLastCodeUnitDoesNotMatter)
 {
     for (const char *encoding : encodings)
-        EXPECT_EQ(found(encoded(german, encoding).chopped(1)), encoding);
+        EXPECT_EQ(detectEncoding(encoded(german, encoding).chopped(1)), encoding);
 }
 
 TEST(UnmarkedUnicode, AFewBrokenCharactersDoNotMatter)
 {
     const QByteArray halfPair = QByteArray("\xD8\0", 2);
-    EXPECT_EQ(
-        found(encoded(korean, "UTF-16BE") + halfPair + halfPair + encoded(german, "UTF-16BE")), "UTF-16BE");
+    EXPECT_EQ(detectEncoding(encoded(korean, "UTF-16BE") + halfPair + halfPair + encoded(german, "UTF-16BE")),
+        "UTF-16BE");
     const QByteArray noCharacter("\0\0\xD8\0", 4);
-    EXPECT_EQ(found(encoded(korean, "UTF-32BE") + noCharacter + encoded(german, "UTF-32BE")), "UTF-32BE");
+    EXPECT_EQ(
+        detectEncoding(encoded(korean, "UTF-32BE") + noCharacter + encoded(german, "UTF-32BE")), "UTF-32BE");
 }
 
 TEST(UnmarkedUnicode, CharactersOutsideTheFirstPlaneAreFound)
 {
     const QString text = QStringLiteral("😀😀 😀😀😀，𠀀𠀁𠀂。\n").repeated(5);
     for (const char *encoding : encodings)
-        EXPECT_EQ(found(encoded(text, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encoded(text, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, TheByteOrderIsTheOneWithTheMoreProbableText)
 {
-    // All letters of it would be letters in the other byte order too.
+    // In the other byte order, these characters are letters too.
     const QString text = QStringLiteral("АБВГД ЕЖЗИЙ КЛМНОП\n");
     for (const char *encoding : encodings)
-        EXPECT_EQ(found(encoded(text, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encoded(text, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, NoTextInUtf8IsTakenForIt)
 {
     for (const QString *text : texts)
-        EXPECT_EQ(found(text->toUtf8()), "none") << text->toStdString();
+        EXPECT_EQ(detectEncoding(text->toUtf8()), "none") << text->toStdString();
 }
 
 TEST(UnmarkedUnicode, StrayNulsDoNotMakeIt)
 {
     for (const QString *text : texts) {
-        // At every position in turn, so that the NUL takes every place beside a space or a line end.
+        // At every position, so that the NUL also stands next to spaces and line ends.
         const QByteArray bytes = text->toUtf8();
         for (qsizetype at = 0; at <= bytes.size(); ++at)
-            EXPECT_EQ(found(QByteArray(bytes).insert(at, '\0')), "none") << at << ' ' << text->toStdString();
+            EXPECT_EQ(detectEncoding(QByteArray(bytes).insert(at, '\0')), "none")
+                << at << ' ' << text->toStdString();
     }
-    EXPECT_EQ(found(QByteArray("ends in NUL\0", 12)), "none");
-    EXPECT_EQ(found(QByteArray("x\0y", 3)), "none");
-    EXPECT_EQ(found(QByteArray("abc\0", 4)), "none");
+    EXPECT_EQ(detectEncoding(QByteArray("ends in NUL\0", 12)), "none");
+    EXPECT_EQ(detectEncoding(QByteArray("x\0y", 3)), "none");
+    EXPECT_EQ(detectEncoding(QByteArray("abc\0", 4)), "none");
 }
 
 TEST(UnmarkedUnicode, ALegacyTextWithStrayNulsIsNotIt)
@@ -121,40 +123,41 @@ TEST(UnmarkedUnicode, ALegacyTextWithStrayNulsIsNotIt)
     for (qsizetype at = 0; at < french.size(); ++at) {
         QByteArray bytes = encoded(french, "windows-1252");
         bytes.insert(at, QByteArray(4, '\0'));
-        EXPECT_EQ(found(bytes), "none") << at;
+        EXPECT_EQ(detectEncoding(bytes), "none") << at;
     }
 }
 
 TEST(UnmarkedUnicode, ALegacyTextWithNulsAtItsSpacesIsNotIt)
 {
     const QByteArray bytes = encoded(french, "windows-1252");
-    EXPECT_EQ(found(QByteArray(bytes).replace(" ", QByteArray(" \0", 2))), "none");
-    EXPECT_EQ(found(QByteArray(bytes).replace(" ", QByteArray("\0 ", 2))), "none");
+    EXPECT_EQ(detectEncoding(QByteArray(bytes).replace(" ", QByteArray(" \0", 2))), "none");
+    EXPECT_EQ(detectEncoding(QByteArray(bytes).replace(" ", QByteArray("\0 ", 2))), "none");
 }
 
 TEST(UnmarkedUnicode, LegacyRecordsThatEndInNulAreNotIt)
 {
     const QByteArray record("abcdefg\0", 8);
-    EXPECT_EQ(found(record.repeated(100) + QByteArray("\xE9\0", 2)), "none");
-    EXPECT_EQ(found(record.repeated(100) + QByteArray("x\xE9", 2)), "none");
+    EXPECT_EQ(detectEncoding(record.repeated(100) + QByteArray("\xE9\0", 2)), "none");
+    EXPECT_EQ(detectEncoding(record.repeated(100) + QByteArray("x\xE9", 2)), "none");
 }
 
 TEST(UnmarkedUnicode, NamesThatEndInNulAreNotIt)
 {
-    // As programs print them that find files.
-    EXPECT_EQ(found(QByteArray("./one.txt\0./two.txt\0./caf\xC3\xA9.txt\0./folder/three.txt\0", 52)), "none");
-    EXPECT_EQ(found(QByteArray("abcdefg\0", 8).repeated(100)), "none");
+    // The output of programs that list files separated by NUL.
+    EXPECT_EQ(detectEncoding(QByteArray("./one.txt\0./two.txt\0./caf\xC3\xA9.txt\0./folder/three.txt\0", 52)),
+        "none");
+    EXPECT_EQ(detectEncoding(QByteArray("abcdefg\0", 8).repeated(100)), "none");
 }
 
 TEST(UnmarkedUnicode, AColumnOfDigitsIsNotIt)
 {
-    EXPECT_EQ(found(QByteArray("1\n2\n3\n").repeated(100)), "none");
-    EXPECT_EQ(found(QByteArray("1\t2\t3\n").repeated(100)), "none");
+    EXPECT_EQ(detectEncoding(QByteArray("1\n2\n3\n").repeated(100)), "none");
+    EXPECT_EQ(detectEncoding(QByteArray("1\t2\t3\n").repeated(100)), "none");
 }
 
 TEST(UnmarkedUnicode, NulsAloneAreNotIt)
 {
     for (const qsizetype length : {1, 2, 3, 4, 8, 100, 100'000})
-        EXPECT_EQ(found(QByteArray(length, '\0')), "none") << length;
-    EXPECT_EQ(found({}), "none");
+        EXPECT_EQ(detectEncoding(QByteArray(length, '\0')), "none") << length;
+    EXPECT_EQ(detectEncoding({}), "none");
 }

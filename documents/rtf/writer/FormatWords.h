@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// FontWords says fonts and languages in RTF, and keeps the font table.
-// Thread: one.  Owner: the writer of one document.
+// FormatWords turns fonts, languages and paragraph styles into RTF control words, and collects the font
+// table. Values that the control words cannot express exactly are left to ExactValues. Thread: one.  Owner:
+// RtfWriter, for one document.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"
@@ -20,10 +21,10 @@ public:
     {
     }
 
-    /// From \plain on.
+    /// The words for a run of text; they begin with \plain.
     QByteArray wordsFor(const std::optional<FontAttributes> &font, const QString &language);
 
-    /// The font table, empty where no text names a font.
+    /// The font table; empty if no text names a font.
     [[nodiscard]] QByteArray table() const;
 
 private:
@@ -32,7 +33,13 @@ private:
     QByteArray wordsFor(const QString &language);
 
     ExactValues &m_exactValues;
-    QHash<QString, qsizetype> m_indices; ///< of families
+    QHash<QString, qsizetype> m_indices; ///< by family
     QHash<QString, QByteArray> m_languageWords;
     QByteArray m_groups;
 };
+
+/// The words for a paragraph; they begin with \pard. The document must begin with defaultTabWord().
+QByteArray paragraphWords(const ParagraphStyle &style, ExactValues &exactValues);
+
+/// \deftab with the default tab interval of ParagraphStyle.
+QByteArray defaultTabWord();
