@@ -41,9 +41,9 @@ bool isSymbolFamily(QStringView family)
 
 bool isSymbolOrPictureFamily(QStringView family)
 {
-    return isSymbolFamily(family)
-        || std::ranges::any_of(
-            pictureFamilies, [family](const char16_t *name) { return isSameFamily(family, name); });
+    return isSymbolFamily(family) || std::ranges::any_of(pictureFamilies, [family](const char16_t *name) {
+        return isSameFamily(family, name);
+    });
 }
 
 char16_t symbolFontCharacter(uchar code)

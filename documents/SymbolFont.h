@@ -15,6 +15,6 @@ bool isSymbolFamily(QStringView family);
 bool isSymbolOrPictureFamily(QStringView family);
 
 /// The character at a code of the font Symbol (Adobe's Symbol encoding). Greek letters are letters, so that
-/// words of them are words. Codes below 0x20 are control characters; a code without a character is the private
-/// character of its glyph.
+/// words of them are words. Codes below 0x20 are control characters; a code without a character is the
+/// private character of its glyph.
 char16_t symbolFontCharacter(uchar code);

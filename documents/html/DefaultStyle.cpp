@@ -1,35 +1,32 @@
 // SPDX-License-Identifier: MIT
-#include "documents/html/DefaultStyle.h"
+#include "documents/html/HtmlStyle.h"
 
 #include <algorithm>
 
 namespace {
 
-/// 40 CSS pixels.
-constexpr double indentPoints = 30;
+constexpr double indentPoints = 30; // 40 CSS pixels
 
-/// Of text in a generic monospace font to other text: 13 CSS pixels to 16.
+/// Browsers set generic monospace text in 13 CSS pixels, other text in 16.
 constexpr double monospaceScale = 13.0 / 16;
 
 constexpr double smallerScale = 1 / 1.2;
 constexpr double largerScale = 1.2;
 
-/// CSS leaves it to browsers how far sub and super shift the baseline; parts of the parent's size.
+/// Fractions of the parent's font size. CSS leaves the shift of sub and super to the browser.
 constexpr double superscriptRise = 1.0 / 3;
 constexpr double subscriptDrop = 1.0 / 5;
 
-constexpr int boldWeight = 700;
-
 struct Heading {
-    double size; ///< times that of the parent
-    double margin; ///< times its own
+    double size; ///< multiple of the parent's
+    double margin; ///< multiple of its own size
 };
 
 void applyHeading(HtmlStyle &style, const Heading &heading)
 {
     style.display = Display::Block;
     style.font.pointSize *= heading.size;
-    style.font.weight = std::max(style.font.weight, boldWeight);
+    style.font.weight = std::max(style.font.weight, boldFontWeight);
     style.spacing = style.font.pointSize * heading.margin;
 }
 
@@ -174,7 +171,7 @@ void applyFont(HtmlStyle &style, GumboTag tag)
     case GUMBO_TAG_B:
     case GUMBO_TAG_STRONG:
     case GUMBO_TAG_TH:
-        font.weight = std::max(font.weight, boldWeight);
+        font.weight = std::max(font.weight, boldFontWeight);
         break;
     case GUMBO_TAG_ADDRESS:
     case GUMBO_TAG_CITE:
@@ -239,7 +236,7 @@ void applyBlock(HtmlStyle &style, GumboTag tag)
     case GUMBO_TAG_MENU:
     case GUMBO_TAG_OL:
     case GUMBO_TAG_UL:
-        style.leadingIndent += indentPoints; // a padding, which a margin comes on top of
+        style.leadingIndent += indentPoints; // padding; a margin is added to it
         break;
     case GUMBO_TAG_DD:
         style.leadingMargin = indentPoints;
@@ -304,7 +301,7 @@ void applyHtmlStyle(HtmlStyle &style, const GumboElement &element, const HtmlSty
     style.isSelection = element.tag == GUMBO_TAG_SELECT || element.tag == GUMBO_TAG_OPTGROUP;
 }
 
-/// Text stands in text elements only, and foreign objects are pages of their own.
+/// Only text elements and foreign objects show text.
 void applySvgStyle(HtmlStyle &style, const GumboElement &element)
 {
     const auto is = [&](const char *name) { return isElement(element, GUMBO_NAMESPACE_SVG, name); };
@@ -319,12 +316,12 @@ void applySvgStyle(HtmlStyle &style, const GumboElement &element)
     }
 }
 
-/// Matrices stand in the line of their formula, as in Word documents, so that they make no paragraphs.
+/// Matrices stay in the line of their formula and add no paragraphs, as in Word documents.
 void applyMathStyle(HtmlStyle &style, const GumboElement &element, const HtmlStyle &parent)
 {
     const auto is = [&](const char *name) { return isElement(element, GUMBO_NAMESPACE_MATHML, name); };
     style.isFraction = is("mfrac");
-    style.standsApart = parent.isFraction || is("mtd");
+    style.isFormulaPart = parent.isFraction || is("mtd");
     if (is("annotation") || is("annotation-xml"))
         style.display = Display::None;
     else if (const GumboAttribute *display = gumbo_get_attribute(&element.attributes, "display");

@@ -1,31 +1,30 @@
 // SPDX-License-Identifier: MIT
-// HtmlReader turns the bytes of a web page into styled text. What a page names (style sheets, images, frames,
-// scripts) is neither fetched nor run.
+// HtmlReader turns the bytes of a web page into styled text. Resources of the page (style sheets, images,
+// frames, scripts) are neither fetched nor run.
 // Thread: any.
 //
-// The text is what the innerText attribute of the page's root element would be by the HTML standard
-// ("rendered text collection steps") under the standard's own style sheet: lines end in U+000A, a paragraph
-// (p) is set off by an empty line, white space collapses, no-break spaces and soft hyphens stay. Where the
-// standard leaves a choice, or this reader differs:
-//  - Every cell of a table ends a paragraph, an empty one too, in place of the tabulators and line ends of
-//    the standard; blocks at its edges are not set off. A table that ends a cell is followed by an empty
-//    paragraph. So a table has the same text as in Word documents and RTF.
-//  - The parts of a fraction and the cells of a matrix of MathML have a space (U+0020) around them where
-//  there
-//    is no white space already.
-//  - Style attributes count, for the properties that HtmlStyleAttribute.h lists; style sheets do not.
-//    text-transform, generated content (quotation marks of q, list markers, numbers) and images with their
-//    alternative texts give no text.
-//  - Scripts count as running elsewhere: noscript is hidden. What is in a details element that is not open,
-//    in a dialog that is not, or in a popover is hidden. The content of object, audio, video, canvas, iframe,
-//    meter and progress elements, which is there for browsers that do not know them, never shows.
-//  - The text of a textarea is shown, with its white space, as a reader of the page sees it.
-//  - A line end in collapsing white space is a space even between East Asian characters.
-//  - A hidden root element makes an empty text, not that of the hidden elements.
+// The text is that of the innerText attribute of the root element (HTML standard, "rendered text collection
+// steps") under the default style sheet of the standard: lines end with U+000A, a paragraph (p) is
+// surrounded by empty lines, white space collapses, no-break spaces and soft hyphens stay. Where the
+// standard leaves a choice, or where this reader differs:
+//  - Every cell of a table ends a paragraph, even an empty one, in place of the tabulators and line ends of
+//    the standard; blocks at the edges of a cell add no line ends. A table at the end of a cell is followed
+//    by an empty paragraph. This way, a table has the same text as in Word documents and RTF.
+//  - The parts of a fraction and the cells of a matrix in MathML have a space (U+0020) around them, unless
+//    there is white space already.
+//  - Style attributes are applied as far as HtmlStyleAttribute.h supports them; style sheets are not.
+//    text-transform, generated content (quotation marks of q, list markers, numbers), images and their
+//    alternative texts add no text.
+//  - Scripting counts as enabled: noscript is hidden. Details and dialogs that are not open, and popovers,
+//    are hidden. The fallback content of object, audio, video, canvas, iframe, meter and progress is never
+//    shown.
+//  - The content of a textarea is shown with its white space.
+//  - A line end in collapsible white space becomes a space even between East Asian characters.
+//  - If the root element is hidden, the text is empty.
 //
-// Fonts and paragraph styles follow the same style sheet, a CSS pixel being 0.75 points. Text is set in Times
-// of 12 points, which is what browsers print in, and code in Courier of 9.75. The margins of headings are the
-// spacing of their paragraphs; those of p are the empty lines; other vertical margins are left out.
+// Fonts and paragraph styles follow the same style sheet, with 0.75 points for a CSS pixel. Text is set in
+// Times of 12 points, the default of browsers, and code in Courier of 9.75 points. The margins of headings
+// become the spacing of their paragraphs, those of p become empty lines; other vertical margins are ignored.
 #pragma once
 
 #include "documents/DocumentError.h"
@@ -36,16 +35,13 @@
 #include <QByteArrayView>
 
 struct HtmlOptions {
-    QByteArray charset; ///< as a MIME type or a transfer's header names it; empty or unknown for none
+    QByteArray charset; ///< from a MIME type or an HTTP header; ignored if empty or unknown
 };
 
-/// Whether the bytes begin with a doctype of HTML or with an html tag, behind white space, a byte order mark,
-/// comments and an XML declaration; in UTF-8 (or whatever has ASCII in it) or UTF-16. Looks at a bounded
-/// length.
+/// Whether the bytes begin with an HTML doctype or an html tag, after an optional byte order mark, white
+/// space, comments and an XML declaration. Supports UTF-16 and supersets of ASCII. Reads at most 64 KiB.
 bool looksLikeHtml(QByteArrayView bytes);
 
-/// Every sequence of bytes is a page. Its encoding is that of its byte order mark, else the one the options
-/// name, else the one a meta element in its first 1024 bytes names, else that of its XML declaration, else
-/// the one that TextEncoding.h finds out. Encodings go by the labels of the Encoding Standard. UTF-8 that is
-/// named falsely does not count.
+/// Accepts any sequence of bytes. encodingOfPage() determines the encoding from a byte order mark, the
+/// options, declarations in the page and its bytes.
 Result<AttributedString, DocumentError> readHtml(QByteArrayView bytes, const HtmlOptions &options = {});

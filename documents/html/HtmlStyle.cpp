@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "documents/html/HtmlStyle.h"
 
-#include "documents/html/DefaultStyle.h"
-
 #include <algorithm>
 
 namespace {
 
-constexpr double smallestPointSize = 1;
-constexpr double greatestPointSize = 1000;
-/// Points from either edge.
-constexpr double greatestIndent = 10'000;
-/// Characters of a language tag.
-constexpr qsizetype longestLanguage = 64;
+constexpr double minPointSize = 1;
+constexpr double maxPointSize = 1000;
+constexpr double maxIndent = 10'000; // points
+constexpr qsizetype maxLanguageLength = 64; // bytes
 
 double pointsOf(const CssLength &length, double em, double ifPercent)
 {
@@ -27,7 +23,7 @@ double pointsOf(const CssLength &length, double em, double ifPercent)
     return ifPercent;
 }
 
-/// The parts of HTML's attributes that a style comes from. Absent ones are null.
+/// The attributes of an element that affect its style; null if absent.
 struct StyleAttributes {
     const char *align = nullptr;
     const char *direction = nullptr;
@@ -107,16 +103,16 @@ void applyDirection(HtmlStyle &style, const char *direction)
         style.direction = WritingDirection::Natural;
 }
 
-/// A language is known, or known not to be known.
+/// An invalid tag makes the language unknown; it is not inherited then.
 void applyLanguage(HtmlStyle &style, const char *language)
 {
     const QByteArrayView tag(language);
-    const bool isTag = tag.size() <= longestLanguage
+    const bool isTag = tag.size() <= maxLanguageLength
         && std::all_of(tag.begin(), tag.end(), [](char byte) { return byte == '-' || isalnum(byte); });
     style.language = isTag ? QString::fromLatin1(tag) : QString();
 }
 
-/// "rules for parsing a legacy font size"
+/// HTML standard, "rules for parsing a legacy font size".
 void applyFontSize(HtmlStyle &style, const char *size)
 {
     constexpr int mediumSize = 3;
@@ -127,8 +123,8 @@ void applyFontSize(HtmlStyle &style, const char *size)
         std::find_if_not(start, text.end(), [](char byte) { return byte >= '0' && byte <= '9'; });
     if (start == end)
         return;
-    constexpr std::ptrdiff_t longestNumber = 4;
-    const int number = QByteArray(start, std::min(end - start, longestNumber)).toInt();
+    constexpr std::ptrdiff_t maxDigits = 4;
+    const int number = QByteArray(start, std::min(end - start, maxDigits)).toInt();
     const int relative = text.startsWith('-') ? mediumSize - number : mediumSize + number;
     style.font.pointSize = pointSizeOfFontSize(isRelative ? relative : number);
 }
@@ -153,8 +149,8 @@ void applyStyleAttribute(HtmlStyle &style, const HtmlStyleAttribute &declared, c
         style.leadingMargin = pointsOf(*declared.marginLeft, style.font.pointSize, style.leadingMargin);
 }
 
-/// CSS Display, "automatic box type transformations"
-Display blockified(Display display)
+/// CSS Display, "automatic box type transformations".
+Display blockify(Display display)
 {
     switch (display) {
     case Display::Inline:
@@ -180,7 +176,7 @@ bool isBlockContainer(Display display)
 
 void beginBlock(HtmlStyle &style)
 {
-    const auto bounded = [](double indent) { return std::clamp(indent, 0.0, greatestIndent); };
+    const auto bounded = [](double indent) { return std::clamp(indent, 0.0, maxIndent); };
     style.leadingIndent = bounded(style.leadingIndent + style.leadingMargin);
     style.trailingIndent = bounded(style.trailingIndent);
     style.paragraph = {};
@@ -209,7 +205,7 @@ HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent)
     style.display = Display::Inline;
     style.rendersChildren = true;
     style.isFraction = false;
-    style.standsApart = false;
+    style.isFormulaPart = false;
     style.leadingMargin = 0;
     style.spacing = 0;
     applyDefaultStyle(style, element, parent);
@@ -236,8 +232,8 @@ HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent)
     }
     const bool isItem = parent.display == Display::Flex || parent.display == Display::InlineFlex;
     if (isItem || declared.isOutOfFlow.value_or(false))
-        style.display = blockified(style.display);
-    style.font.pointSize = std::clamp(style.font.pointSize, smallestPointSize, greatestPointSize);
+        style.display = blockify(style.display);
+    style.font.pointSize = std::clamp(style.font.pointSize, minPointSize, maxPointSize);
     if (isBlockContainer(style.display))
         beginBlock(style);
     return style;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// HtmlStyle is how an element of a page looks: the default style sheet of the HTML standard, what the
-// element's own attributes add to it, and what it has from its parent. Thread: any.
+// HtmlStyle is the style of an element: the default style sheet of the HTML standard, the element's own
+// attributes, and what it inherits. Reading a style attribute is left to HtmlStyleAttribute.
+// Thread: any; values.
 #pragma once
 
 #include "documents/html/HtmlStyleAttribute.h"
@@ -10,26 +11,23 @@
 
 struct HtmlStyle {
     Display display = Display::Block;
-    /// The element's own text is in a box: not so directly inside of a select or svg element.
-    bool rendersText = true;
-    /// Whether the children have boxes: not those of images, videos and other replaced elements.
-    bool rendersChildren = true;
-    /// Only options and their groups have boxes there.
-    bool isSelection = false;
+    bool rendersText = true; ///< false directly inside of a select or svg element
+    bool rendersChildren = true; ///< false for replaced elements, such as images and videos
+    bool isSelection = false; ///< only options and their groups are shown inside
     bool isFraction = false; ///< of a formula
-    bool standsApart = false; ///< from its neighbours in the formula
+    bool isFormulaPart = false; ///< needs a space around it
     bool isVisible = true;
     WhiteSpace whiteSpace = WhiteSpace::Collapse;
 
     FontAttributes font;
     QString language;
-    ParagraphStyle paragraph; ///< of the block that the element is, or stands in
+    ParagraphStyle paragraph; ///< of the element if it is a block, else of the block around it
 
-    // Not inherited, of blocks only; points.
+    // Not inherited; of blocks only; points.
     double leadingMargin = 0;
     double spacing = 0; ///< above and below
 
-    // Inherited, and put into the paragraph where a block begins; points.
+    // Inherited; become part of the paragraph where a block begins; points.
     TextAlignment alignment = TextAlignment::Natural;
     WritingDirection direction = WritingDirection::Natural;
     double leadingIndent = 0;
@@ -37,10 +35,15 @@ struct HtmlStyle {
     double firstLineIndent = 0;
 };
 
-/// Of the root element's parent: Times of 12 points.
+/// The style that the root element inherits: Times of 12 points.
 HtmlStyle rootStyle();
 
+/// The style of an element. parent: the style of its parent element.
 HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent);
 
-/// Whether an element is of the HTML, SVG or MathML kind and name. name: lower case.
+/// Applies the style sheet that the HTML standard suggests ("Rendering"), as far as text depends on it, and
+/// the SVG and MathML elements that contain text. style: what the element inherits.
+void applyDefaultStyle(HtmlStyle &style, const GumboElement &element, const HtmlStyle &parent);
+
+/// Whether an element has a name in the namespace of HTML, SVG or MathML. name: lower case.
 bool isElement(const GumboElement &element, GumboNamespaceEnum kind, const char *name);

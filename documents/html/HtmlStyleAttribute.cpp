@@ -11,12 +11,9 @@
 
 namespace {
 
-/// Bytes of an attribute that are read.
-constexpr qsizetype longestAttribute = 4096;
-/// Bytes of a family's name.
-constexpr qsizetype longestFamily = 128;
-/// Of a number in a declaration, whatever its unit.
-constexpr double greatestNumber = 1e6;
+constexpr qsizetype maxAttributeLength = 4096; // bytes; the rest is ignored
+constexpr qsizetype maxFamilyLength = 128; // bytes
+constexpr double maxNumber = 1e6; // in any unit
 
 constexpr double pointsPerPixel = 0.75;
 
@@ -103,10 +100,10 @@ std::optional<FontSlant> fontStyleOf(const QByteArray &value)
 std::optional<int> fontWeightOf(const QByteArray &value)
 {
     static constexpr Keyword<int> keywords[] = {
-        {"normal", 400},
-        {"lighter", 400},
-        {"bold", 700},
-        {"bolder", 700},
+        {"normal", regularFontWeight},
+        {"lighter", regularFontWeight},
+        {"bold", boldFontWeight},
+        {"bolder", boldFontWeight},
     };
     if (const std::optional<int> weight = valueOf(value, keywords))
         return weight;
@@ -136,15 +133,14 @@ std::optional<CssLength> lengthOf(const QByteArray &value)
         {"in", CssLength::Unit::Points, 72},
         {"cm", CssLength::Unit::Points, 72 / 2.54},
         {"mm", CssLength::Unit::Points, 72 / 25.4},
-        {"rem", CssLength::Unit::Points, rootPointSize}, // before "em", which it ends in
+        {"rem", CssLength::Unit::Points, rootPointSize}, // before "em", because it ends with it
         {"em", CssLength::Unit::Em, 1},
         {"%", CssLength::Unit::Percent, 1},
     };
     const auto lengthWith = [](const QByteArray &digits, const Unit &unit) -> std::optional<CssLength> {
         bool isNumber = false;
-        const double number = digits.toDouble(&isNumber); // heedless of white space
-        if (!isNumber || isHtmlSpace(digits.back()) || !std::isfinite(number)
-            || std::abs(number) > greatestNumber)
+        const double number = digits.toDouble(&isNumber); // accepts white space around the number
+        if (!isNumber || isHtmlSpace(digits.back()) || !std::isfinite(number) || std::abs(number) > maxNumber)
             return std::nullopt;
         return CssLength{number * unit.factor, unit.unit};
     };
@@ -215,7 +211,7 @@ void declare(HtmlStyleAttribute &style, const QByteArray &property, QByteArrayVi
     }
 }
 
-QByteArrayView trimmed(QByteArrayView bytes)
+QByteArrayView trim(QByteArrayView bytes)
 {
     const auto *start = std::find_if_not(bytes.begin(), bytes.end(), isHtmlSpace);
     const auto *end = bytes.end();
@@ -226,7 +222,7 @@ QByteArrayView trimmed(QByteArrayView bytes)
 
 QByteArray withoutComments(QByteArrayView declarations)
 {
-    QByteArray text = declarations.first(std::min(declarations.size(), longestAttribute)).toByteArray();
+    QByteArray text = declarations.first(std::min(declarations.size(), maxAttributeLength)).toByteArray();
     for (qsizetype start = text.indexOf("/*"); start >= 0; start = text.indexOf("/*", start)) {
         const qsizetype end = text.indexOf("*/", start + 2);
         text.replace(start, end < 0 ? text.size() - start : end + 2 - start, " ");
@@ -234,8 +230,8 @@ QByteArray withoutComments(QByteArrayView declarations)
     return text;
 }
 
-/// The end of the declaration that begins at a position: a semicolon that no quotation marks or parentheses
-/// hold.
+/// The end of the declaration that begins at a position: a semicolon outside of quotation marks and
+/// parentheses.
 qsizetype endOfDeclaration(QByteArrayView text, qsizetype start)
 {
     char quote = '\0';
@@ -274,26 +270,26 @@ HtmlStyleAttribute parseStyleAttribute(QByteArrayView declarations)
         QByteArrayView value = declaration.sliced(colon + 1);
         if (const qsizetype importance = value.lastIndexOf('!'); importance >= 0)
             value = value.first(importance);
-        declare(style, trimmed(declaration.first(colon)).toByteArray().toLower(), trimmed(value));
+        declare(style, trim(declaration.first(colon)).toByteArray().toLower(), trim(value));
     }
     return style;
 }
 
 QString fontFamilyOf(QByteArrayView families)
 {
-    QByteArrayView family = trimmed(families.first(std::min(families.size(), longestAttribute)));
+    QByteArrayView family = trim(families.first(std::min(families.size(), maxAttributeLength)));
     if (family.startsWith('"') || family.startsWith('\'')) {
         const qsizetype end = family.indexOf(family[0], 1);
-        family = trimmed(family.sliced(1, (end < 0 ? family.size() : end) - 1));
+        family = trim(family.sliced(1, (end < 0 ? family.size() : end) - 1));
     } else {
         const qsizetype comma = family.indexOf(',');
-        family = trimmed(family.first(comma < 0 ? family.size() : comma));
+        family = trim(family.first(comma < 0 ? family.size() : comma));
         static constexpr Keyword<const char *> generics[] = {
             {"serif", "Times"}, {"sans-serif", "Helvetica"}, {"monospace", "Courier"}};
         if (const auto name = valueOf(family.toByteArray().toLower(), generics))
             return QString::fromLatin1(*name);
     }
-    return family.size() > longestFamily ? QString() : QString::fromUtf8(family);
+    return family.size() > maxFamilyLength ? QString() : QString::fromUtf8(family);
 }
 
 double pointSizeOfFontSize(int number)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// HtmlStyleAttribute reads a style attribute: the few CSS properties that a text's look and shape depend on.
-// What they mean for an element, HtmlStyle knows.
-// Thread: any.
+// HtmlStyleAttribute parses a style attribute: the CSS properties that text and its format depend on.
+// Applying them to an element is left to HtmlStyle. Thread: any; values.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"
@@ -10,7 +9,7 @@
 
 #include <optional>
 
-/// The values of CSS "display", as far as text depends on them. Grids are Flex: their items are blocks too.
+/// The values of CSS "display" that matter for text. A grid counts as Flex, because its items are blocks too.
 enum class Display {
     None,
     Contents,
@@ -37,7 +36,7 @@ struct CssLength {
     bool operator==(const CssLength &) const = default;
 };
 
-/// What is absent is not declared, or not with a value that is known here.
+/// A property is absent if it is not declared or if its value is not supported.
 struct HtmlStyleAttribute {
     std::optional<Display> display;
     std::optional<bool> isVisible; ///< visibility
@@ -46,21 +45,21 @@ struct HtmlStyleAttribute {
     std::optional<CssLength> fontSize;
     std::optional<int> fontWeight; ///< bolder is 700, lighter 400
     std::optional<FontSlant> fontStyle;
-    std::optional<QString> fontFamily; ///< the first one, as fontFamilyOf() gives it
-    std::optional<TextAlignment> textAlign; ///< start and end as in left-to-right text
+    std::optional<QString> fontFamily; ///< the first one, as returned by fontFamilyOf()
+    std::optional<TextAlignment> textAlign; ///< start and end are those of left-to-right text
     std::optional<CssLength> textIndent;
     std::optional<CssLength> marginLeft;
 };
 
-/// declarations: the attribute's value, in UTF-8. Of equal properties the last valid one counts; importance
-/// does not. Reads a bounded length.
+/// Among declarations of the same property, the last valid one wins; "!important" is ignored. Reads at most
+/// 4096 bytes. declarations: the value of the attribute, in UTF-8.
 HtmlStyleAttribute parseStyleAttribute(QByteArrayView declarations);
 
-/// The first name of a list of font families (CSS "font-family", or the face of a font element), in UTF-8:
-/// without quotation marks, the generic families serif, sans-serif and monospace as the fonts that stand for
-/// them, Times, Helvetica and Courier. Empty where the list has none, or none that is short enough.
+/// The first name in a list of font families in UTF-8 (CSS "font-family", or the face of a font element),
+/// without quotation marks. The generic families serif, sans-serif and monospace become Times, Helvetica and
+/// Courier. Empty if the list is empty or the name too long.
 QString fontFamilyOf(QByteArrayView families);
 
-/// CSS "absolute-size" keywords by the numbers that the size of a font element has: 1 (x-small) to 7
-/// (xxx-large), in points.
+/// The points for a size of a font element, which correspond to CSS "absolute-size" keywords: 1 (x-small) to
+/// 7 (xxx-large). Other numbers are clamped.
 double pointSizeOfFontSize(int number);

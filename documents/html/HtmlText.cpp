@@ -8,9 +8,9 @@
 
 namespace {
 
-class Walk {
+class TreeWalk {
 public:
-    explicit Walk(const GumboNode &document)
+    explicit TreeWalk(const GumboNode &document)
     {
         Frame root;
         root.children = &document.v.document.children;
@@ -18,7 +18,7 @@ public:
         m_frames.push_back(std::move(root));
     }
 
-    AttributedString text()
+    AttributedString readText()
     {
         while (!m_frames.empty()) {
             Frame &frame = m_frames.back();
@@ -31,20 +31,20 @@ public:
     }
 
 private:
-    /// An element between its start and its end.
+    /// An open element.
     struct Frame {
         const GumboVector *children = nullptr;
         unsigned int next = 0; ///< child
         HtmlStyle style;
-        SharedAttributes attributes; ///< of its text; null until there is any
-        bool isParagraph = false; ///< a p element, whatever its display
+        SharedAttributes attributes; ///< of its text; null until it is needed
+        bool isParagraph = false; ///< a p element with any display
         bool isClosedDetails = false;
-        size_t box = 0; ///< the frame of this element's box, or of the nearest one around
+        size_t box = 0; ///< index of the frame with the box of this element or of the nearest one around it
     };
 
     void visit(const GumboNode &node)
     {
-        // The parser follows a standard in which isindex was a form with words; it is nothing any more.
+        // The parser still expands isindex to a form with text; the current standard ignores the element.
         if (node.parse_flags & GUMBO_INSERTION_FROM_ISINDEX)
             return;
         switch (node.type) {
@@ -98,7 +98,7 @@ private:
             m_text.appendLineBreak(attributes(m_frames.size() - 1));
     }
 
-    /// Of a details element that is not open, the first summary shows.
+    /// A closed details element shows only its first summary.
     bool isHiddenByDetails(const GumboElement &element)
     {
         Frame &parent = m_frames.back();
@@ -120,13 +120,13 @@ private:
         requireLineBreaks();
         if (style.display == Display::TableCell && style.isVisible)
             m_text.beginCell();
-        standApart();
+        addFormulaSpace();
     }
 
     void endBox()
     {
         const HtmlStyle &style = m_frames.back().style;
-        standApart();
+        addFormulaSpace();
         if (style.display != Display::Inline)
             m_text.startLine();
         if (isBoxInLine(style.display))
@@ -142,11 +142,11 @@ private:
             || display == Display::InlineTable;
     }
 
-    void standApart()
+    void addFormulaSpace()
     {
         const HtmlStyle &style = m_frames.back().style;
-        if (style.standsApart && style.isVisible)
-            m_text.standApart(attributes(m_frames.size() - 1));
+        if (style.isFormulaPart && style.isVisible)
+            m_text.appendSpace(attributes(m_frames.size() - 1));
     }
 
     void requireLineBreaks()
@@ -186,5 +186,5 @@ private:
 
 AttributedString textOfPage(const GumboNode &document)
 {
-    return Walk(document).text();
+    return TreeWalk(document).readText();
 }

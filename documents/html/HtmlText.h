@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// HtmlText walks through the tree of a page and tells which boxes of text there are.
+// HtmlText walks the tree of a page and finds its boxes of text; RenderedText assembles them.
 // Thread: any.
 #pragma once
 
@@ -7,6 +7,6 @@
 
 #include <gumbo.h>
 
-/// The styled text of a page, by the rules that HtmlReader.h states. document: a node of type
+/// The styled text of a page, by the rules in HtmlReader.h. document: a node of type
 /// GUMBO_NODE_DOCUMENT. Takes time proportional to the size of the tree.
 AttributedString textOfPage(const GumboNode &document);

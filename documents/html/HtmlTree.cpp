@@ -2,13 +2,12 @@
 #include "documents/html/HtmlTree.h"
 
 #include "documents/html/ParserMemory.h"
-#include "documents/html/TreeDepth.h"
 
 #include <csetjmp>
 
 namespace {
 
-/// A run of the parser, which has no way of its own to be told that there is no memory.
+/// One run of the parser. The parser does not check whether an allocation fails.
 struct ParserRun {
     ParserMemory *memory;
     std::jmp_buf end;
@@ -19,7 +18,7 @@ void *allocate(void *userData, size_t size)
     auto *run = static_cast<ParserRun *>(userData);
     void *block = run->memory->allocate(size);
     if (!block)
-        std::longjmp(run->end, 1); // leaves nothing but functions in C
+        std::longjmp(run->end, 1); // skips only C functions, which have no destructors
     return block;
 }
 
@@ -28,11 +27,11 @@ void release(void *userData, void *block)
     auto *run = static_cast<ParserRun *>(userData);
     run->memory->release(block);
     if (run->memory->refusal())
-        std::longjmp(run->end, 1); // likewise
+        std::longjmp(run->end, 1); // as in allocate()
 }
 
-/// Null where the memory refused.
-const GumboNode *parsedDocument(QByteArrayView page, ParserRun *run)
+/// Null if the memory has refused an allocation.
+const GumboNode *parseDocument(QByteArrayView page, ParserRun *run)
 {
     GumboOptions options = kGumboDefaultOptions;
     options.allocator = allocate;
@@ -52,7 +51,7 @@ Result<HtmlTree, DocumentError::Cause> HtmlTree::parse(QByteArrayView page)
 {
     auto memory = std::make_unique<ParserMemory>(page.size());
     ParserRun run{memory.get(), {}};
-    const GumboNode *document = parsedDocument(page.isEmpty() ? QByteArrayView(" ") : page, &run);
+    const GumboNode *document = parseDocument(page.isEmpty() ? QByteArrayView(" ") : page, &run);
     if (!document)
         return memory->refusal().value_or(DocumentError::Cause::NotEnoughMemory);
     if (isTooDeep(*document))

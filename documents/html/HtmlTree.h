@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// HtmlTree is the tree of nodes that the parser makes of a web page.
-// Thread: one at a time.
+// HtmlTree is the tree of nodes of a web page, made by the parser within the limits of ParserMemory.
+// Thread: one at a time.  Owner: readHtml().
 #pragma once
 
 #include "documents/html/HtmlReader.h"
@@ -13,7 +13,7 @@ class ParserMemory;
 
 class HtmlTree {
 public:
-    /// page: UTF-8; must outlive the tree. Throws std::bad_alloc where the memory is short at the very start.
+    /// page: UTF-8; must outlive the tree. Throws std::bad_alloc.
     static Result<HtmlTree, DocumentError::Cause> parse(QByteArrayView page);
 
     HtmlTree(HtmlTree &&) noexcept;

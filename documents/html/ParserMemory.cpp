@@ -1,33 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "documents/html/ParserMemory.h"
 
-#include "documents/html/TreeDepth.h"
-
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <new>
+#include <vector>
 
 using namespace std::chrono_literals;
 
 namespace {
 
-/// Bytes of memory that a tree takes at most: a base, and so many for every byte of the page. Empty
-/// paragraphs without end tags, the dearest there is in honest pages, take about 90.
+/// The maximum memory of a tree in bytes: a base, and an amount for each byte of the page. Empty paragraphs
+/// without end tags, the most expensive elements of real pages, take about 90.
 constexpr size_t memoryBase = 64UL * 1024 * 1024;
 constexpr size_t memoryPerByte = 192;
 
-/// Processor time that parsing takes at most. Honest pages need about 50 ns for every byte; many attributes
-/// of one element, or formatting elements that overlap in certain ways, need the more for each the more there
-/// are.
+/// The maximum processor time of parsing. Real pages need about 50 ns per byte. Time can grow with the square
+/// of the number of attributes of one element, or of formatting elements that overlap in certain ways.
 constexpr std::chrono::nanoseconds timeBase = 1s;
 constexpr std::chrono::nanoseconds timePerByte = 1us;
-constexpr int callsPerLookAtClock = 64;
+constexpr int callsPerClockCheck = 64;
 
-/// Bytes of the stack. The parser takes about 100 for each level of a tree that it releases, few otherwise.
+/// Bytes. The parser uses about 100 bytes of stack for each level of a tree that it releases, else very few.
 constexpr qptrdiff maxStackUse = 512L * 1024;
 
-/// Before every block stands its size. Nothing of the parser's needs a wider alignment than that.
+/// Each block is preceded by its size. No type of the parser needs a stricter alignment than that.
 constexpr size_t headerSize = sizeof(size_t);
 constexpr size_t blockAlignment = alignof(size_t);
 static_assert(alignof(GumboNode) <= blockAlignment && alignof(GumboAttribute) <= blockAlignment);
@@ -44,7 +42,44 @@ std::chrono::nanoseconds processorTime()
     return std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec);
 }
 
+/// Null if the node cannot have children.
+const GumboVector *childrenOf(const GumboNode &node)
+{
+    switch (node.type) {
+    case GUMBO_NODE_DOCUMENT:
+        return &node.v.document.children;
+    case GUMBO_NODE_ELEMENT:
+    case GUMBO_NODE_TEMPLATE:
+        return &node.v.element.children;
+    default:
+        return nullptr;
+    }
+}
+
 } // namespace
+
+bool isTooDeep(const GumboNode &document)
+{
+    struct Level {
+        const GumboVector *children;
+        unsigned int next;
+    };
+    std::vector<Level> path{{childrenOf(document), 0}};
+    while (!path.empty()) {
+        Level &level = path.back();
+        if (level.next == level.children->length) {
+            path.pop_back();
+            continue;
+        }
+        const auto *child = static_cast<const GumboNode *>(level.children->data[level.next++]);
+        if (const GumboVector *children = childrenOf(*child)) {
+            if (path.size() > maxElementDepth) // the first level is the document, not an element
+                return true;
+            path.push_back({children, 0});
+        }
+    }
+    return false;
+}
 
 void *ParserMemory::Source::do_allocate(size_t size, size_t alignment)
 {
@@ -69,7 +104,7 @@ ParserMemory::ParserMemory(qsizetype pageLength)
     , m_nodeCountToMeasureAt(maxElementDepth)
     , m_stackStart(stackPosition())
     , m_deadline(processorTime() + timeBase + timePerByte * pageLength)
-    , m_callsBeforeClock(callsPerLookAtClock)
+    , m_callsBeforeClockCheck(callsPerClockCheck)
 {
 }
 
@@ -82,7 +117,7 @@ void *ParserMemory::allocate(size_t size)
             m_refusal = DocumentError::Cause::TooDeep;
             return nullptr;
         }
-        if (hasNoTimeLeft()) {
+        if (hasReachedDeadline()) {
             m_refusal = DocumentError::Cause::TooComplex;
             return nullptr;
         }
@@ -94,8 +129,7 @@ void *ParserMemory::allocate(size_t size)
     }
     std::memcpy(block, &size, sizeof size);
     void *content = static_cast<std::byte *>(block) + headerSize;
-    // The parser makes the document's node before it reads the page, so that the first block of the size is
-    // it.
+    // The parser creates the node of the document first, so it is the first block of this size.
     if (isNode && !m_document)
         m_document = static_cast<const GumboNode *>(content);
     return content;
@@ -113,9 +147,8 @@ void ParserMemory::release(void *block)
     m_pool.deallocate(start, headerSize + size, blockAlignment);
 }
 
-/// The whole tree is measured whenever it may have doubled, which takes time proportional to its size in all.
-/// What grows deep in between is found by the last measurement, of the finished tree, or by its use of the
-/// stack.
+/// Measures the whole tree each time it may have doubled, which takes time proportional to its size in total.
+/// Depth that is reached in between is found when the finished tree is measured, or by the use of the stack.
 bool ParserMemory::isTreeTooDeep()
 {
     if (++m_nodeCount < m_nodeCountToMeasureAt)
@@ -129,10 +162,10 @@ bool ParserMemory::isStackUsedUp() const
     return std::abs(m_stackStart - stackPosition()) > maxStackUse;
 }
 
-bool ParserMemory::hasNoTimeLeft()
+bool ParserMemory::hasReachedDeadline()
 {
-    if (--m_callsBeforeClock > 0)
+    if (--m_callsBeforeClockCheck > 0)
         return false;
-    m_callsBeforeClock = callsPerLookAtClock;
+    m_callsBeforeClockCheck = callsPerClockCheck;
     return processorTime() > m_deadline;
 }

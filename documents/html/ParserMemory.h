@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// ParserMemory is the memory of one run of the HTML parser, and the place from which the run is watched: the
-// parser knows no limits itself, but asks for memory all the time.
-// Thread: one. Owner: HtmlTree.
+// ParserMemory provides the memory of one run of the HTML parser and enforces its limits: the parser has none
+// itself, but allocates all the time. Ending the run is left to HtmlTree.
+// Thread: one.  Owner: HtmlTree.
 #pragma once
 
 #include "documents/html/HtmlReader.h"
@@ -13,24 +13,32 @@
 #include <memory_resource>
 #include <optional>
 
-/// Nothing is given back to the system before the end, where all is at once: gumbo_destroy_output would
-/// descend into the tree recursively. The parser does so itself where a frameset replaces a body, and so its
-/// stack is watched too.
+/// The maximum nesting depth of elements in a page.
+inline constexpr size_t maxElementDepth = 1000;
+
+/// Whether the elements of a tree are nested more deeply than maxElementDepth. Takes time proportional to the
+/// size of the tree. Throws std::bad_alloc.
+/// document: a node of type GUMBO_NODE_DOCUMENT, of a finished tree or of one that the parser is building.
+bool isTooDeep(const GumboNode &document);
+
+/// All memory is freed at once at the end, because gumbo_destroy_output() descends into the tree recursively.
+/// The parser itself does the same if a frameset replaces a body; therefore the use of the stack is limited
+/// too.
 class ParserMemory {
 public:
-    /// To be made where the parser runs, since the use of the stack is counted from there. pageLength: bytes
-    /// of the page to be parsed, which all limits but that of the depth are in proportion to.
+    /// Must be created in the function that runs the parser: the use of the stack is counted from there.
+    /// pageLength: bytes of the page; all limits except that of the depth are proportional to it.
     explicit ParserMemory(qsizetype pageLength);
 
-    /// Null where a limit is reached or the memory is short; refusal() then says which.
+    /// Null if a limit is reached or memory runs out; refusal() returns which.
     void *allocate(size_t size);
-    /// May make a refusal, on which the run must end.
+    /// May set refusal(); the run must end then.
     void release(void *block);
 
     [[nodiscard]] std::optional<DocumentError::Cause> refusal() const { return m_refusal; }
 
 private:
-    /// What the pool takes from the system, up to a limit.
+    /// Memory from the system, up to a limit.
     class Source : public std::pmr::memory_resource {
     public:
         explicit Source(size_t limit)
@@ -54,17 +62,17 @@ private:
 
     [[nodiscard]] bool isTreeTooDeep();
     [[nodiscard]] bool isStackUsedUp() const;
-    [[nodiscard]] bool hasNoTimeLeft();
+    [[nodiscard]] bool hasReachedDeadline();
 
     Source m_source;
     std::pmr::unsynchronized_pool_resource m_pool;
     std::optional<DocumentError::Cause> m_refusal;
 
-    const GumboNode *m_document = nullptr; ///< the root of the tree, once there is one
-    size_t m_nodeCount = 0; ///< blocks of the size of a node; strings of the same size count too
+    const GumboNode *m_document = nullptr; ///< the root of the tree; null at first
+    size_t m_nodeCount = 0; ///< blocks of the size of a node, including strings of that size
     size_t m_nodeCountToMeasureAt;
     const qptrdiff m_stackStart; ///< an address
 
     std::chrono::nanoseconds m_deadline; ///< on the clock of the thread's processor time
-    int m_callsBeforeClock;
+    int m_callsBeforeClockCheck;
 };

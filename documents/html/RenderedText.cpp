@@ -5,8 +5,8 @@
 
 namespace {
 
-/// Code units after which a run goes to the builder even if it goes on.
-constexpr qsizetype longestPendingRun = 65'536;
+/// Code units after which a run is appended to the builder even if it continues.
+constexpr qsizetype maxPendingLength = 65'536;
 
 bool isCollapsible(QChar character)
 {
@@ -30,7 +30,7 @@ void RenderedText::appendCollapsing(QStringView text, bool keepsLineEnds, const 
 {
     m_collapsed.resize(0);
     bool isAfterSpace = m_isAtLineStart;
-    bool hasSpace = false; // collapsed, not written yet
+    bool hasSpace = false; // collapsed, but not written yet
     const auto start = [&] {
         if (m_collapsed.isEmpty())
             appendPendingSpace();
@@ -121,7 +121,7 @@ void RenderedText::emitText(QStringView text, const SharedAttributes &attributes
     m_isAtCellEdge = false;
     if (lineEnds > 0)
         emitLineEnds(lineEnds, attributes);
-    if (m_runAttributes != attributes || m_run.size() > longestPendingRun) {
+    if (m_runAttributes != attributes || m_run.size() > maxPendingLength) {
         flush();
         m_runAttributes = attributes;
     }
@@ -135,7 +135,8 @@ qsizetype RenderedText::lineEndCount() const
     return m_cellLineEnds + (hasText() ? std::max(m_requiredLineBreaks - alreadyThere, 0) : 0);
 }
 
-/// The first line end belongs to the paragraph that it ends; those of empty paragraphs to what follows them.
+/// The first line end has the attributes of the paragraph that it ends, the others those of the text that
+/// follows.
 void RenderedText::emitLineEnds(qsizetype count, const SharedAttributes &attributes)
 {
     if (hasText()) {
@@ -156,7 +157,7 @@ void RenderedText::flush()
 
 AttributedString RenderedText::build()
 {
-    // No text of a page ends with the end of its last line, but empty cells have lines.
+    // The text does not end with a line end, but empty cells at the end are lines.
     if (m_cellLineEnds > 1)
         emitLineEnds(std::exchange(m_cellLineEnds, 0) - 1, m_cellAttributes);
     flush();

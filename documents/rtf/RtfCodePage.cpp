@@ -6,13 +6,13 @@
 
 namespace {
 
-constexpr qint32 pictureFontNumber = 42; // what Windows calls the page of symbol fonts
-constexpr qint32 symbolFontNumber = -42; // of our own, which no document may name
+constexpr qint32 pictureFontNumber = 42; // the number of symbol fonts in Windows
+constexpr qint32 symbolFontNumber = -42; // our own; documents cannot name it
 
 constexpr auto encoding = RtfCodePage::Kind::Encoding;
 
-/// Ascending by number. ICU has no converter for the Macintosh's pages of East Asia and the Near East but
-/// those of Windows and ISO, which have the same letters.
+/// Ascending by number. ICU lacks the Macintosh pages of East Asia and the Near East; those of Windows and
+/// ISO have the same letters.
 constexpr RtfCodePage pages[] = {
     {symbolFontNumber, RtfCodePage::Kind::SymbolFont, nullptr},
     {pictureFontNumber, RtfCodePage::Kind::PictureFont, nullptr},
@@ -89,7 +89,7 @@ struct Charset {
     qint32 page;
 };
 
-/// Ascending by charset. 1, the default, is missing.
+/// Ascending by charset. Without 1, which means the page of the document.
 constexpr Charset charsets[] = {
     {0, 1252},
     {2, pictureFontNumber},

@@ -6,13 +6,13 @@
 
 namespace {
 
-/// Of a language's tag or a file's name: code units.
+/// Code units of a language tag or a file name.
 constexpr qsizetype maxValueLength = 1024;
 
-constexpr int lightest = 1;
-constexpr int heaviest = 1000;
+constexpr int minWeight = 1;
+constexpr int maxWeight = 1000;
 
-/// Takes the fields of a value one by one; once one made no sense, nothing does.
+/// Reads the fields of a value one by one. An invalid field makes the whole value invalid.
 class Fields {
 public:
     explicit Fields(QStringView value)
@@ -32,15 +32,15 @@ public:
     {
         bool isNumber = false;
         const double value = next(separator).toDouble(&isNumber);
-        m_makesSense = m_makesSense && isNumber && std::isfinite(value);
+        m_isValid = m_isValid && isNumber && std::isfinite(value);
         return value;
     }
 
-    int integer(int least, int most, char16_t separator = u';')
+    int integer(int min, int max, char16_t separator = u';')
     {
         bool isNumber = false;
         const int value = next(separator).toInt(&isNumber);
-        m_makesSense = m_makesSense && isNumber && value >= least && value <= most;
+        m_isValid = m_isValid && isNumber && value >= min && value <= max;
         return value;
     }
 
@@ -51,39 +51,38 @@ public:
     }
 
     [[nodiscard]] bool isAtEnd() const { return m_rest.isEmpty(); }
-    [[nodiscard]] bool makeSense() const { return m_makesSense; }
+    [[nodiscard]] bool isValid() const { return m_isValid; }
 
 private:
     QStringView m_rest;
-    bool m_makesSense = true;
+    bool m_isValid = true;
 };
 
-/// The separator behind an entry but for the last one's.
-std::vector<TabStop> tabStops(Fields &fields)
+std::vector<TabStop> readTabStops(Fields &fields)
 {
     std::vector<TabStop> stops;
-    while (!fields.isAtEnd() && fields.makeSense() && stops.size() <= mostTabStops) {
+    while (!fields.isAtEnd() && fields.isValid() && stops.size() <= maxTabStops) {
         const double position = fields.number(u':');
         stops.push_back({position, fields.choice(TabAlignment::Decimal, u',')});
     }
     return stops;
 }
 
-std::optional<FontAttributes> exactFont(QStringView value)
+std::optional<FontAttributes> parseFont(QStringView value)
 {
     Fields fields(value);
     FontAttributes font;
     font.pointSize = fields.number();
-    font.weight = fields.integer(lightest, heaviest);
+    font.weight = fields.integer(minWeight, maxWeight);
     font.slant = fields.choice(FontSlant::Oblique);
     font.tracking = fields.number();
     font.baselineOffset = fields.number();
-    if (!fields.makeSense() || !fields.isAtEnd())
+    if (!fields.isValid() || !fields.isAtEnd())
         return std::nullopt;
     return font;
 }
 
-std::optional<ParagraphStyle> exactParagraph(QStringView value)
+std::optional<ParagraphStyle> parseParagraph(QStringView value)
 {
     Fields fields(value);
     ParagraphStyle style;
@@ -93,8 +92,8 @@ std::optional<ParagraphStyle> exactParagraph(QStringView value)
         {&style.firstLineHeadIndent, &style.headIndent, &style.tailIndent, &style.defaultTabInterval,
             &style.lineSpacing, &style.paragraphSpacingBefore, &style.paragraphSpacing})
         *length = fields.number();
-    style.tabStops = tabStops(fields);
-    if (!fields.makeSense() || style.tabStops.size() > mostTabStops
+    style.tabStops = readTabStops(fields);
+    if (!fields.isValid() || style.tabStops.size() > maxTabStops
         || !std::ranges::is_sorted(style.tabStops, {}, &TabStop::position))
         return std::nullopt;
     return style;
@@ -106,13 +105,13 @@ void RtfExactValues::add(RtfAction kind, qint32 number, QStringView value)
 {
     switch (kind) {
     case RtfAction::ExactFont:
-        if (const std::optional<FontAttributes> font = exactFont(value))
+        if (const std::optional<FontAttributes> font = parseFont(value))
             m_fonts.insert(number, *font);
         break;
     case RtfAction::ExactParagraph:
-        if (const std::optional<ParagraphStyle> style = exactParagraph(value)) {
+        if (const std::optional<ParagraphStyle> style = parseParagraph(value)) {
             QSharedDataPointer<RtfParagraphFormat> format(new RtfParagraphFormat);
-            format->choose(*style);
+            format->apply(*style);
             m_paragraphs.insert(number, format);
         }
         break;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// RtfExactValues is the table of exact values of docs/rtf.md, which says what RTF's own words cannot.
-// Thread: one.  Owner: the reading of one document.
+// RtfExactValues holds the table of exact values of docs/rtf.md, which RTF's own words cannot express.
+// Thread: one.  Owner: RtfInterpreter.
 #pragma once
 
 #include "documents/rtf/RtfFormat.h"
@@ -11,21 +11,21 @@
 
 class RtfExactValues {
 public:
-    /// A group of the table. kind: the action of its word. What makes no sense is passed over.
+    /// Adds a group of the table; ignores an invalid value. kind: the action of its word.
     void add(RtfAction kind, qint32 number, QStringView value);
 
-    /// Each is null where the table has none of the number.
-    [[nodiscard]] const FontAttributes *font(qint32 number) const { return found(m_fonts, number); }
+    // Each is null if the table has no such number.
+    [[nodiscard]] const FontAttributes *font(qint32 number) const { return find(m_fonts, number); }
     [[nodiscard]] const QSharedDataPointer<RtfParagraphFormat> *paragraph(qint32 number) const
     {
-        return found(m_paragraphs, number);
+        return find(m_paragraphs, number);
     }
-    [[nodiscard]] const QString *language(qint32 number) const { return found(m_languages, number); }
-    [[nodiscard]] const QString *fileName(qint32 number) const { return found(m_fileNames, number); }
+    [[nodiscard]] const QString *language(qint32 number) const { return find(m_languages, number); }
+    [[nodiscard]] const QString *fileName(qint32 number) const { return find(m_fileNames, number); }
 
 private:
     template <typename Value>
-    static const Value *found(const QHash<qint32, Value> &values, qint32 number)
+    static const Value *find(const QHash<qint32, Value> &values, qint32 number)
     {
         const auto value = values.constFind(number);
         return value == values.cend() ? nullptr : &*value;

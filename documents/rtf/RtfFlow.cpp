@@ -5,18 +5,18 @@
 
 namespace {
 
-/// Documents in earnest have some hundreds.
-constexpr qsizetype mostDistinctAttributes = 100'000;
-constexpr size_t mostTabStopsOfAll = 2'000'000;
+/// Real documents have a few hundred.
+constexpr qsizetype maxDistinctAttributes = 100'000;
+constexpr size_t maxTotalTabStops = 2'000'000;
 
-/// Code units that are kept back to be appended at once.
-constexpr qsizetype longestPiece = 65'536;
+/// Code units to collect before they are appended to the builder.
+constexpr qsizetype maxPieceLength = 65'536;
 
 constexpr QChar paragraphEnd = u'\n';
 
 } // namespace
 
-TextAttributes RtfAttributes::of(const RtfFormat &format) const
+TextAttributes RtfAttributes::attributesOf(const RtfFormat &format) const
 {
     const QString family = m_fonts.family(format.character.fontNumber);
     return {format.character.font(family), format.paragraph->style, format.character.language, nullptr};
@@ -28,26 +28,26 @@ bool RtfAttributes::admit(const TextAttributes &attributes)
     if (m_admitted.contains(hash))
         return true;
     const size_t tabStopCount = m_tabStopCount + attributes.paragraphStyle.tabStops.size();
-    if (m_admitted.size() >= mostDistinctAttributes || tabStopCount > mostTabStopsOfAll)
+    if (m_admitted.size() >= maxDistinctAttributes || tabStopCount > maxTotalTabStops)
         return false;
     m_admitted.insert(hash);
     m_tabStopCount = tabStopCount;
     return true;
 }
 
-QString &RtfFlow::under(const RtfFormat &format)
+QString &RtfFlow::bufferFor(const RtfFormat &format)
 {
-    insertSpaceBetweenParts();
-    if (std::exchange(m_isSeparated, false) && !isEmpty() && last() != paragraphEnd)
+    insertRequiredSpace();
+    if (std::exchange(m_needsNewParagraph, false) && !isEmpty() && last() != paragraphEnd)
         m_pending.append(paragraphEnd);
-    if (!m_hasFormat || !m_format.looksLike(format)) {
+    if (!m_hasFormat || !m_format.hasSameAttributes(format)) {
         flush();
-        TextAttributes attributes = m_attributes.of(format);
+        TextAttributes attributes = m_attributes.attributesOf(format);
         if (m_attributes.admit(attributes))
             m_current = std::move(attributes);
         m_format = format;
         m_hasFormat = true;
-    } else if (m_pending.size() >= longestPiece) {
+    } else if (m_pending.size() >= maxPieceLength) {
         flush();
     }
     return m_pending;
@@ -55,27 +55,27 @@ QString &RtfFlow::under(const RtfFormat &format)
 
 void RtfFlow::flush()
 {
-    insertSpaceBetweenParts();
+    insertRequiredSpace();
     if (m_pending.isEmpty())
         return;
     m_builder.append(m_pending, m_current);
     m_lastFlushed = m_pending.back();
-    m_pending.resize(0); // keeps the room
-    if (m_partsMeetAt)
-        m_partsMeetAt = 0;
+    m_pending.resize(0); // keeps the capacity
+    if (m_requiredSpaceAt)
+        m_requiredSpaceAt = 0;
 }
 
-void RtfFlow::standApart()
+void RtfFlow::requireSpace()
 {
-    insertSpaceBetweenParts();
-    m_partsMeetAt = m_pending.size();
+    insertRequiredSpace();
+    m_requiredSpaceAt = m_pending.size();
 }
 
-void RtfFlow::insertSpaceBetweenParts()
+void RtfFlow::insertRequiredSpace()
 {
-    if (!m_partsMeetAt || *m_partsMeetAt == m_pending.size())
+    if (!m_requiredSpaceAt || *m_requiredSpaceAt == m_pending.size())
         return;
-    const qsizetype at = *std::exchange(m_partsMeetAt, std::nullopt);
+    const qsizetype at = *std::exchange(m_requiredSpaceAt, std::nullopt);
     const QChar before = at > 0 ? m_pending[at - 1] : m_lastFlushed;
     if (!before.isNull() && !before.isSpace() && !m_pending[at].isSpace())
         m_pending.insert(at, u' ');
@@ -83,7 +83,7 @@ void RtfFlow::insertSpaceBetweenParts()
 
 void RtfFlow::appendAttachment(const RtfFormat &format, const std::shared_ptr<const Attachment> &attachment)
 {
-    QString &text = under(format);
+    QString &text = bufferFor(format);
     TextAttributes attributes = m_current;
     attributes.attachment = attachment;
     if (!attachment || !m_attributes.admit(attributes)) {
@@ -102,10 +102,10 @@ void RtfFlow::append(RtfFlow &other)
     if (!isEmpty() && last() != paragraphEnd)
         m_pending.append(paragraphEnd);
     flush();
-    m_builder.append(other.take());
+    m_builder.append(other.takeText());
 }
 
-AttributedString RtfFlow::take()
+AttributedString RtfFlow::takeText()
 {
     flush();
     return m_builder.build();

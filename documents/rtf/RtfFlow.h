@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// RtfFlow is text that grows piece by piece, each under the format of the moment: the body of a document, or
-// what stands behind it. RtfAttributes turns formats into attributes. Thread: one.  Owner: the reading of one
-// document.
+// RtfFlow collects text piece by piece, each in its own format: the body of a document, or the notes and text
+// boxes that follow it. RtfAttributes turns formats into attributes.
+// Thread: one.  Owner: RtfInterpreter.
 #pragma once
 
 #include "documents/rtf/RtfFontTable.h"
@@ -14,8 +14,8 @@
 #include <memory>
 #include <optional>
 
-/// Bounds what a document of few bytes can take of memory in attributes: a text that would need more of them
-/// has those of the text before it.
+/// Limits the number of distinct attributes, so that a small document cannot fill the memory with them. Text
+/// beyond the limit gets the attributes of the text before it.
 class RtfAttributes {
 public:
     explicit RtfAttributes(const RtfFontTable &fonts)
@@ -23,14 +23,14 @@ public:
     {
     }
 
-    [[nodiscard]] TextAttributes of(const RtfFormat &format) const;
-    /// Whether a text may have them; counts those that it has not been asked about before.
+    [[nodiscard]] TextAttributes attributesOf(const RtfFormat &format) const;
+    /// Whether text may have these attributes. Counts them if they are new.
     bool admit(const TextAttributes &attributes);
 
 private:
     const RtfFontTable &m_fonts;
     QSet<size_t> m_admitted; ///< hashes
-    size_t m_tabStopCount = 0; ///< of the admitted
+    size_t m_tabStopCount = 0; ///< in the admitted attributes
 };
 
 class RtfFlow {
@@ -40,32 +40,33 @@ public:
     {
     }
 
-    /// The place to append text of a format; valid until the next call.
-    QString &under(const RtfFormat &format);
+    /// The buffer to which text in a format is appended; valid until the next call.
+    QString &bufferFor(const RtfFormat &format);
     void appendAttachment(const RtfFormat &format, const std::shared_ptr<const Attachment> &attachment);
-    /// What comes next, if anything does, stands in another paragraph.
-    void separate() { m_isSeparated = true; }
-    /// Puts a space between the text so far and what comes next, unless one of them is missing or has white
-    /// space there.
-    void standApart();
+    /// Text that follows begins a new paragraph.
+    void requireNewParagraph() { m_needsNewParagraph = true; }
+    /// Puts a space between the text so far and the text that follows, unless one of them is missing or has
+    /// white space there.
+    void requireSpace();
 
     [[nodiscard]] bool isEmpty() const { return m_pending.isEmpty() && m_builder.length() == 0; }
     [[nodiscard]] QChar last() const { return m_pending.isEmpty() ? m_lastFlushed : m_pending.back(); }
-    /// Appends another flow's text in paragraphs of its own.
+    /// Moves the text of another flow to the end of this one, in paragraphs of its own.
     void append(RtfFlow &other);
-    AttributedString take();
+    /// Returns the text and resets the flow to an empty one.
+    AttributedString takeText();
 
 private:
     void flush();
-    void insertSpaceBetweenParts();
+    void insertRequiredSpace();
 
     RtfAttributes &m_attributes;
     AttributedStringBuilder m_builder;
-    QString m_pending; ///< under m_current
+    QString m_pending; ///< has the attributes m_current
     TextAttributes m_current;
     RtfFormat m_format; ///< of m_current
     bool m_hasFormat = false;
-    bool m_isSeparated = false;
-    std::optional<qsizetype> m_partsMeetAt; ///< in m_pending; no text of the second part is there before
+    bool m_needsNewParagraph = false;
+    std::optional<qsizetype> m_requiredSpaceAt; ///< in m_pending; applies once text follows
     QChar m_lastFlushed;
 };

@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/RtfFontTable.h"
 
+#include "documents/SymbolFont.h"
 #include "documents/rtf/RtfDecoder.h"
 
 #include <algorithm>
 
 namespace {
 
-/// Further fonts are passed over. Numbers of fonts have 16 bits.
-constexpr qsizetype mostFonts = 65'536;
+/// Further fonts are ignored. Font numbers have 16 bits.
+constexpr qsizetype maxFonts = 65'536;
 
-/// Code units; the rest is cut off.
-constexpr qsizetype longestFamily = 1024;
-
-constexpr auto symbolFamily = QLatin1StringView("Symbol");
+/// Code units; longer names are truncated.
+constexpr qsizetype maxFamilyLength = 1024;
 
 qsizetype trailingBlanks(QByteArrayView bytes)
 {
@@ -23,7 +22,7 @@ qsizetype trailingBlanks(QByteArrayView bytes)
 
 } // namespace
 
-void RtfFontTable::begin(qint32 number, size_t depth)
+void RtfFontTable::beginFont(qint32 number, size_t depth)
 {
     m_isOpen = true;
     m_number = number;
@@ -43,7 +42,7 @@ void RtfFontTable::setCodePage(qint32 number)
         m_font.page = page;
 }
 
-/// The name of a symbol font is no word in its symbols.
+/// The name of a symbol font is not encoded in the symbols of that font.
 const RtfCodePage *RtfFontTable::namePage(const RtfCodePage *documentPage) const
 {
     return m_font.page && m_font.page->kind == RtfCodePage::Kind::Encoding ? m_font.page : documentPage;
@@ -55,7 +54,7 @@ void RtfFontTable::appendPiece(QByteArrayView bytes, const RtfCodePage *document
         const auto *const first = std::ranges::find_if(bytes, [](char byte) { return byte != ' '; });
         bytes = bytes.sliced(first - bytes.begin());
     }
-    if (bytes.isEmpty() || m_font.family.size() > longestFamily)
+    if (bytes.isEmpty() || m_font.family.size() > maxFamilyLength)
         return;
     decoder.append(bytes, namePage(documentPage), m_font.family);
     const qsizetype blanks = trailingBlanks(bytes);
@@ -71,14 +70,14 @@ void RtfFontTable::appendName(QByteArrayView bytes, const RtfCodePage *documentP
             return;
         }
         appendPiece(bytes.first(semicolon), documentPage, decoder);
-        end(decoder);
+        endFont(decoder);
         bytes = bytes.sliced(semicolon + 1);
     }
 }
 
 void RtfFontTable::appendNameByte(char byte, const RtfCodePage *documentPage, RtfDecoder &decoder)
 {
-    if (!m_isOpen || m_font.family.size() > longestFamily)
+    if (!m_isOpen || m_font.family.size() > maxFamilyLength)
         return;
     decoder.append({&byte, 1}, namePage(documentPage), m_font.family);
     m_trailingBlanks = 0;
@@ -86,7 +85,7 @@ void RtfFontTable::appendNameByte(char byte, const RtfCodePage *documentPage, Rt
 
 void RtfFontTable::appendName(QStringView characters, RtfDecoder &decoder)
 {
-    if (!m_isOpen || m_font.family.size() > longestFamily)
+    if (!m_isOpen || m_font.family.size() > maxFamilyLength)
         return;
     decoder.finish(m_font.family);
     m_font.family.append(characters);
@@ -101,18 +100,18 @@ void RtfFontTable::finishName(RtfDecoder &decoder)
 void RtfFontTable::endGroup(size_t depth, RtfDecoder &decoder)
 {
     if (m_isOpen && depth <= m_depth)
-        end(decoder);
+        endFont(decoder);
 }
 
-void RtfFontTable::end(RtfDecoder &decoder)
+void RtfFontTable::endFont(RtfDecoder &decoder)
 {
     decoder.finish(m_font.family);
     m_font.family.chop(m_trailingBlanks);
-    m_font.family.truncate(longestFamily);
+    m_font.family.truncate(maxFamilyLength);
     const bool isSymbolFont = m_font.page && m_font.page->kind == RtfCodePage::Kind::PictureFont;
-    if (isSymbolFont && m_font.family.compare(symbolFamily, Qt::CaseInsensitive) == 0)
+    if (isSymbolFont && isSymbolFamily(m_font.family))
         m_font.page = rtfCodePageOfSymbolFont();
-    if (m_fonts.size() < mostFonts || m_fonts.contains(m_number))
+    if (m_fonts.size() < maxFonts || m_fonts.contains(m_number))
         m_fonts.insert(m_number, m_font);
     m_isOpen = false;
     ++m_version;

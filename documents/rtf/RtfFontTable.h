@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// RtfFontTable is what the font table of a document says: the family and the code page of each number.
-// Thread: one.  Owner: the reading of one document.
+// RtfFontTable holds the font table of a document: the family and the code page of each font number.
+// Thread: one.  Owner: RtfInterpreter.
 #pragma once
 
 #include "documents/rtf/RtfCodePage.h"
@@ -13,28 +13,27 @@ class RtfDecoder;
 
 class RtfFontTable {
 public:
-    /// A font begins; `depth` is the nesting of the group that names it. A number that comes again means the
-    /// later font.
-    void begin(qint32 number, size_t depth);
+    /// Starts a font. A font replaces an earlier one with its number. depth: the nesting depth of its group.
+    void beginFont(qint32 number, size_t depth);
     void setCharset(qint32 charset);
     void setCodePage(qint32 number);
 
-    /// A piece of the name: a semicolon ends it, blanks at its ends are none of it.
+    /// Appends to the name. A semicolon ends the font; blanks at either end are dropped.
     void appendName(QByteArrayView bytes, const RtfCodePage *documentPage, RtfDecoder &decoder);
-    /// A character of the name, whichever.
+    /// Appends to the name as it is.
     void appendName(QStringView characters, RtfDecoder &decoder);
     void appendNameByte(char byte, const RtfCodePage *documentPage, RtfDecoder &decoder);
-    /// Bytes that the decoder has kept back.
+    /// Appends bytes that the decoder has held back.
     void finishName(RtfDecoder &decoder);
 
-    /// A group inside the table, or the table itself, ends, which ends the font that it names.
+    /// Ends the font if its group ends. depth: the nesting depth of the group that ends.
     void endGroup(size_t depth, RtfDecoder &decoder);
 
-    /// Empty where there is no such font.
+    /// Empty if there is no such font.
     [[nodiscard]] QString family(qint32 number) const { return m_fonts.value(number).family; }
-    /// Null where it is the document's own.
+    /// Null if it is the page of the document.
     [[nodiscard]] const RtfCodePage *page(qint32 number) const { return m_fonts.value(number).page; }
-    /// Grows with each font.
+    /// Increases with each font.
     [[nodiscard]] quint32 version() const { return m_version; }
 
 private:
@@ -44,7 +43,7 @@ private:
     };
     void appendPiece(QByteArrayView bytes, const RtfCodePage *documentPage, RtfDecoder &decoder);
     [[nodiscard]] const RtfCodePage *namePage(const RtfCodePage *documentPage) const;
-    void end(RtfDecoder &decoder);
+    void endFont(RtfDecoder &decoder);
 
     QHash<qint32, Font> m_fonts;
     quint32 m_version = 0;
@@ -53,5 +52,5 @@ private:
     qint32 m_number = 0;
     size_t m_depth = 0;
     Font m_font;
-    qsizetype m_trailingBlanks = 0; ///< of the family, not escaped ones
+    qsizetype m_trailingBlanks = 0; ///< of the family, without escaped blanks
 };

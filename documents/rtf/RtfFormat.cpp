@@ -5,15 +5,13 @@
 
 namespace {
 
-constexpr int regularWeight = 400;
-constexpr int boldWeight = 700;
 constexpr double halfPointsPerPoint = 2;
 constexpr double quarterPointsPerPoint = 4;
 constexpr double thousandthsPerPoint = 1000;
 
-/// Where \up and \dn say no number: half points.
-constexpr qint32 usualOffset = 6;
-/// Of a superscript, in relation to the size.
+/// Half points, for \up and \dn without a number.
+constexpr qint32 defaultOffset = 6;
+/// The rise of a superscript as a fraction of the font size.
 constexpr double scriptOffset = 1.0 / 3;
 
 void applySize(std::optional<qint32> parameter, double unitsPerPoint, RtfCharacterFormat &format)
@@ -25,7 +23,7 @@ void applySize(std::optional<qint32> parameter, double unitsPerPoint, RtfCharact
 void addTabStop(double position, RtfParagraphFormat &format)
 {
     std::vector<TabStop> &stops = format.style.tabStops;
-    if (stops.size() < mostTabStops) {
+    if (stops.size() < maxTabStops) {
         const auto after = std::ranges::upper_bound(stops, position, {}, &TabStop::position);
         stops.insert(after, {position, format.nextTabAlignment});
     }
@@ -48,25 +46,25 @@ std::optional<FontAttributes> RtfCharacterFormat::font(const QString &family) co
     return FontAttributes{family, pointSize, weight, slant, tracking, offset};
 }
 
-void RtfCharacterFormat::choose(const FontAttributes &font)
+void RtfCharacterFormat::apply(const FontAttributes &exact)
 {
     namesFont = true;
-    pointSize = font.pointSize;
-    weight = font.weight;
-    slant = font.slant;
-    tracking = font.tracking;
-    baselineOffset = font.baselineOffset;
+    pointSize = exact.pointSize;
+    weight = exact.weight;
+    slant = exact.slant;
+    tracking = exact.tracking;
+    baselineOffset = exact.baselineOffset;
     script = 0;
 }
 
-void RtfParagraphFormat::choose(const ParagraphStyle &exact)
+void RtfParagraphFormat::apply(const ParagraphStyle &exact)
 {
     style = exact;
     headIndent = exact.headIndent * twipsPerPoint;
     firstLineIndent = (exact.firstLineHeadIndent - exact.headIndent) * twipsPerPoint;
 }
 
-bool RtfFormat::looksLike(const RtfFormat &other) const
+bool RtfFormat::hasSameAttributes(const RtfFormat &other) const
 {
     return character == other.character
         && (paragraph == other.paragraph || paragraph->style == other.paragraph->style);
@@ -86,7 +84,7 @@ void applyCharacterWord(const RtfWord &word, std::optional<qint32> parameter, Rt
         applySize(parameter, thousandthsPerPoint, format);
         break;
     case RtfAction::Bold:
-        format.weight = isOn ? boldWeight : regularWeight;
+        format.weight = isOn ? boldFontWeight : regularFontWeight;
         break;
     case RtfAction::Italic:
         format.slant = isOn ? FontSlant::Italic : FontSlant::Upright;
@@ -98,10 +96,10 @@ void applyCharacterWord(const RtfWord &word, std::optional<qint32> parameter, Rt
         format.tracking = parameter.value_or(0) / twipsPerPoint;
         break;
     case RtfAction::Raised:
-        format.baselineOffset = parameter.value_or(usualOffset) / halfPointsPerPoint;
+        format.baselineOffset = parameter.value_or(defaultOffset) / halfPointsPerPoint;
         break;
     case RtfAction::Lowered:
-        format.baselineOffset = parameter.value_or(usualOffset) / -halfPointsPerPoint;
+        format.baselineOffset = parameter.value_or(defaultOffset) / -halfPointsPerPoint;
         break;
     case RtfAction::Script:
         format.script = static_cast<qint8>(isOn ? word.argument : 0);

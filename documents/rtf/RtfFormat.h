@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// RtfFormat is how the text of a group looks, as control words say it one by one. What a font's number means
-// is left to RtfFontTable, what becomes of it to RtfFlow. Thread: one.
+// RtfFormat is the format of the text in a group, to which control words are applied one by one. Resolving
+// font numbers is left to RtfFontTable, attributes to RtfFlow. Thread: one.
 #pragma once
 
 #include "documents/rtf/RtfWords.h"
@@ -11,58 +11,59 @@
 
 #include <optional>
 
-/// Of a paragraph; further ones are passed over. Word processors stop at 64.
-inline constexpr size_t mostTabStops = 256;
+/// In a paragraph; further stops are ignored. Word processors accept 64.
+inline constexpr size_t maxTabStops = 256;
 
 inline constexpr double twipsPerPoint = 20;
 
 struct RtfCharacterFormat {
     static constexpr qint32 noFont = -1;
 
-    bool namesFont = false; ///< by any of the words on fonts
+    bool namesFont = false; ///< whether any font word has been applied
     bool isHidden = false;
     bool isDeleted = false;
     qint8 script = 0; ///< 1 superscript, -1 subscript
     qint32 fontNumber = noFont;
-    int weight = 400;
+    int weight = regularFontWeight;
     FontSlant slant = FontSlant::Upright;
-    double pointSize = 12; ///< of RTF, where nothing is said
+    double pointSize = 12; ///< the default of RTF
     double tracking = 0;
-    double baselineOffset = 0; ///< but for the script's
+    double baselineOffset = 0; ///< without that of the script
     QString language;
 
     [[nodiscard]] bool isText() const { return !isHidden && !isDeleted; }
-    /// The family is the one of the font's number.
+    /// family: of the font number.
     [[nodiscard]] std::optional<FontAttributes> font(const QString &family) const;
-    void choose(const FontAttributes &font);
+    /// Replaces everything but font number, language and visibility.
+    void apply(const FontAttributes &exact);
     bool operator==(const RtfCharacterFormat &) const = default;
 };
 
 struct RtfParagraphFormat : QSharedData {
-    RtfParagraphFormat() { style.defaultTabInterval = tabIntervalWithoutWord; }
+    RtfParagraphFormat() { style.defaultTabInterval = defaultTabInterval; }
 
-    static constexpr double tabIntervalWithoutWord = 36; // of \deftab in RTF: points
+    static constexpr double defaultTabInterval = 36; ///< points; the default of \deftab
 
     ParagraphStyle style;
-    double headIndent = 0; ///< twips, as the next; their sum is rounded once
-    double firstLineIndent = 0; ///< from the head indent
+    double headIndent = 0; ///< twips
+    double firstLineIndent = 0; ///< twips, relative to the head indent
     TabAlignment nextTabAlignment = TabAlignment::Left;
 
-    void choose(const ParagraphStyle &exact);
+    void apply(const ParagraphStyle &exact);
 };
 
-/// Copies share the paragraph's until one changes it.
+/// Copies share the paragraph format until one of them changes it.
 struct RtfFormat {
     RtfCharacterFormat character;
     QSharedDataPointer<RtfParagraphFormat> paragraph{new RtfParagraphFormat};
 
-    /// Whether text of both has equal attributes.
-    [[nodiscard]] bool looksLike(const RtfFormat &other) const;
+    /// Whether text in both formats has equal attributes.
+    [[nodiscard]] bool hasSameAttributes(const RtfFormat &other) const;
 };
 
-/// A word on characters; any other does nothing. Parameters are as RTF 1.9.1 has them, and \fsmilli, which is
+/// Applies a word on characters; ignores any other word. Parameters are those of RTF 1.9.1, and of \fsmilli,
 /// a size in thousandths of a point.
 void applyCharacterWord(const RtfWord &word, std::optional<qint32> parameter, RtfCharacterFormat &format);
 
-/// A word on paragraphs; any other does nothing.
+/// Applies a word on paragraphs; ignores any other word.
 void applyParagraphWord(const RtfWord &word, std::optional<qint32> parameter, RtfParagraphFormat &format);

@@ -7,7 +7,7 @@ qint32 RtfGraphics::add(const QString &storedName, qint32 fileNumber)
     return static_cast<qint32>(m_graphics.size()) - 1;
 }
 
-const RtfGraphics::Stored &RtfGraphics::stored(const QString &name)
+const RtfGraphics::Stored &RtfGraphics::findStored(const QString &name)
 {
     const auto found = m_stored.constFind(name);
     if (found != m_stored.cend())
@@ -21,7 +21,7 @@ const RtfGraphics::Stored &RtfGraphics::stored(const QString &name)
 std::shared_ptr<const Attachment> RtfGraphics::attachment(qint32 graphic, qint32 fileNumber)
 {
     const Graphic &named = m_graphics[static_cast<size_t>(graphic)];
-    const Stored &stored = this->stored(named.storedName);
+    const Stored &stored = findStored(named.storedName);
     if (!stored.attachment)
         return nullptr;
     const QString *exactName = m_exactValues.fileName(named.fileNumber != 0 ? named.fileNumber : fileNumber);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// RtfGraphics are the attachments that a document names, found once for each name. Those of equal names and
-// contents are one object, since to compare large ones over and over takes its time.
-// Thread: one.  Owner: the reading of one document.
+// RtfGraphics holds the attachments that a document names, and looks each name up once. Attachments with
+// equal names and contents are one object, because comparing large contents repeatedly is slow. Thread: one.
+// Owner: RtfInterpreter.
 #pragma once
 
 #include "documents/rtf/RtfExactValues.h"
@@ -25,10 +25,10 @@ public:
     {
     }
 
-    /// fileNumber: of \qbyfile, 0 where there is none.
+    /// Returns the number of the graphic. fileNumber: of \qbyfile; 0 if there is none.
     qint32 add(const QString &storedName, qint32 fileNumber);
 
-    /// Null where there is none. fileNumber: where the graphic itself was added without.
+    /// Null if no such file is stored. fileNumber: used if the graphic was added without one.
     std::shared_ptr<const Attachment> attachment(qint32 graphic, qint32 fileNumber);
 
 private:
@@ -37,15 +37,16 @@ private:
         qint32 fileNumber;
     };
     struct Stored {
-        std::shared_ptr<const Attachment> attachment; ///< null where there is none
-        const char *contents = nullptr; ///< of the first one with equal contents
+        std::shared_ptr<const Attachment> attachment; ///< null if no such file is stored
+        const char *contents = nullptr; ///< shared by all files with equal contents
     };
-    const Stored &stored(const QString &name);
+    const Stored &findStored(const QString &name);
 
     const AttachmentSource &m_source;
     const RtfExactValues &m_exactValues;
     std::vector<Graphic> m_graphics;
     QHash<QString, Stored> m_stored;
     QSet<QByteArray> m_contents;
-    QHash<std::pair<QString, const char *>, std::shared_ptr<const Attachment>> m_attachments; ///< by contents
+    QHash<std::pair<QString, const char *>, std::shared_ptr<const Attachment>>
+        m_attachments; ///< by name and contents
 };

@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/RtfInterpreter.h"
 
+#include "documents/SymbolFont.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-/// Groups inside have the state of the group around them.
-constexpr size_t deepestGroup = 10'000;
+/// Deeper groups share the state of the group around them.
+constexpr size_t maxGroupDepth = 10'000;
 
-/// Of an attachment's name, or a value in the table of exact ones: code units; the rest is cut off.
-constexpr qsizetype maxDestinationName = 16'384;
+/// Code units of the name of an attachment or of an exact value; longer ones are truncated.
+constexpr qsizetype maxNameLength = 16'384;
 
-/// In the group of an attachment, this byte stands for it: the sign for "not" in Windows-1252.
+/// Represents the attachment in its group: the character "not sign" in Windows-1252.
 constexpr uchar attachmentMarker = 0xAC;
 
-constexpr char16_t symbolGlyphs = 0xF000; // of a symbol font in \u
-constexpr char16_t firstSymbolGlyph = 0xF020;
-constexpr char16_t lastSymbolGlyph = 0xF0FF;
+// The range of a symbol font in \u.
+constexpr char16_t firstSymbolGlyph = symbolGlyphBase + 0x20;
+constexpr char16_t lastSymbolGlyph = symbolGlyphBase + 0xFF;
 
 constexpr qint32 lastCodeUnit = 0xFFFF;
 constexpr qint32 codeUnitCount = 0x10000;
@@ -25,20 +27,20 @@ constexpr qint32 lastCodePoint = 0x10FFFF;
 
 } // namespace
 
-AttributedString RtfInterpreter::textOf(RtfTokenizer tokens)
+AttributedString RtfInterpreter::readText(RtfTokenizer tokens)
 {
     do {
         const RtfToken token = tokens.next();
         if (token.kind == RtfToken::Kind::End)
             break;
-        take(token);
+        handle(token);
     } while (depth() > 0);
     finishBytes();
     m_body.append(m_asides);
-    return m_body.take();
+    return m_body.takeText();
 }
 
-void RtfInterpreter::take(const RtfToken &token)
+void RtfInterpreter::handle(const RtfToken &token)
 {
     const bool isAtGroupStart = std::exchange(m_isAtGroupStart, token.kind == RtfToken::Kind::GroupBegin);
     const bool isStar = token.kind == RtfToken::Kind::Symbol && token.byte == '*';
@@ -51,16 +53,16 @@ void RtfInterpreter::take(const RtfToken &token)
         endGroup();
         break;
     case RtfToken::Kind::Word:
-        takeWord(token, isStarred);
+        handleWord(token, isStarred);
         break;
     case RtfToken::Kind::Symbol:
-        takeSymbol(token.byte);
+        handleSymbol(token.byte);
         break;
     case RtfToken::Kind::Byte:
-        takeByte(token.byte);
+        handleByte(token.byte);
         break;
     case RtfToken::Kind::Text:
-        takeText(token.bytes);
+        handleText(token.bytes);
         break;
     case RtfToken::Kind::Binary:
         finishBytes();
@@ -75,7 +77,7 @@ void RtfInterpreter::beginGroup()
 {
     finishBytes();
     m_fallback = 0;
-    if (depth() >= deepestGroup) {
+    if (depth() >= maxGroupDepth) {
         ++m_deeperGroups;
         return;
     }
@@ -98,7 +100,7 @@ void RtfInterpreter::endGroup()
     m_outer.pop_back();
     leaveDestination(left);
     if (left.isFormulaPart && isText())
-        flow().standApart();
+        flow().requireSpace();
 }
 
 void RtfInterpreter::leaveDestination(const State &left)
@@ -110,13 +112,13 @@ void RtfInterpreter::leaveDestination(const State &left)
     else if (left.destination == RtfDestination::ExactValue && m_state.destination != left.destination)
         m_exactValues.add(left.exactKind, left.exactNumber, m_name);
     if (left.beginsAside)
-        m_asides.separate();
+        m_asides.requireNewParagraph();
 }
 
-void RtfInterpreter::enter(RtfDestination destination)
+void RtfInterpreter::enterDestination(RtfDestination destination)
 {
     if (depth() <= 1)
-        return; // the whole document is no header, say
+        return; // the group of the document itself has no destination
     const RtfDestination current = m_state.destination;
     const bool mayHoldText = current == RtfDestination::Text || current == RtfDestination::Container;
     if (destination == RtfDestination::Skipped) {
@@ -134,13 +136,13 @@ void RtfInterpreter::enter(RtfDestination destination)
         m_state.destination = RtfDestination::Text;
         m_state.isAside = true;
         m_state.beginsAside = true;
-        m_asides.separate();
+        m_asides.requireNewParagraph();
     } else {
         m_state.destination = RtfDestination::Skipped;
     }
 }
 
-void RtfInterpreter::takeText(QByteArrayView bytes)
+void RtfInterpreter::handleText(QByteArrayView bytes)
 {
     const qsizetype skipped = std::min(m_fallback, bytes.size());
     m_fallback -= skipped;
@@ -156,7 +158,7 @@ void RtfInterpreter::takeText(QByteArrayView bytes)
     appendBytes(bytes);
 }
 
-void RtfInterpreter::takeByte(uchar byte)
+void RtfInterpreter::handleByte(uchar byte)
 {
     if (m_fallback > 0) {
         --m_fallback;
@@ -171,7 +173,7 @@ void RtfInterpreter::takeByte(uchar byte)
         appendBytes({&character, 1});
 }
 
-void RtfInterpreter::takeSymbol(uchar symbol)
+void RtfInterpreter::handleSymbol(uchar symbol)
 {
     const bool isLineEnd = symbol == '\r' || symbol == '\n';
     const bool isFallback = m_fallback > 0 && !isLineEnd && symbol != '*';
@@ -202,21 +204,21 @@ void RtfInterpreter::takeSymbol(uchar symbol)
     case '\r':
     case '\n':
         if (isText())
-            flow().under(m_state.format).append(u'\n');
+            flow().bufferFor(m_state.format).append(u'\n');
         break;
     default:
         break;
     }
 }
 
-void RtfInterpreter::takeWord(const RtfToken &token, bool isStarred)
+void RtfInterpreter::handleWord(const RtfToken &token, bool isStarred)
 {
     finishBytes();
     if (m_state.destination == RtfDestination::Skipped)
         return;
     const RtfWord *word = rtfWord(token.bytes);
     const RtfAction action = word ? word->action : RtfAction::Nothing;
-    // A fallback may be said as a word. Any other word means that there is none, or no longer one.
+    // A word for a character may be a fallback. Any other word ends the fallback.
     if (m_fallback > 0 && action == RtfAction::Character) {
         --m_fallback;
         return;
@@ -226,13 +228,13 @@ void RtfInterpreter::takeWord(const RtfToken &token, bool isStarred)
         && action != RtfAction::Unicode && action != RtfAction::FallbackLength
         && action != RtfAction::Character) {
         m_isNameComplete = true;
-        if (m_name.endsWith(u' ')) // which parts it from the word
+        if (m_name.endsWith(u' ')) // the separator between name and word
             m_name.chop(1);
     }
     if (isStarred && action != RtfAction::Destination && action != RtfAction::UnicodeAlternative)
-        enter(RtfDestination::Skipped);
+        enterDestination(RtfDestination::Skipped);
     else if (word)
-        act(*word, token.parameter);
+        performAction(*word, token.parameter);
 }
 
 const RtfCodePage *RtfInterpreter::page()
@@ -256,10 +258,10 @@ bool RtfInterpreter::isText() const
 QString *RtfInterpreter::target()
 {
     if (isText())
-        return &flow().under(m_state.format);
+        return &flow().bufferFor(m_state.format);
     const bool isName = m_state.destination == RtfDestination::GraphicName
         || m_state.destination == RtfDestination::ExactValue;
-    return isName && !m_isNameComplete && m_name.size() <= maxDestinationName ? &m_name : nullptr;
+    return isName && !m_isNameComplete && m_name.size() <= maxNameLength ? &m_name : nullptr;
 }
 
 void RtfInterpreter::appendBytes(QByteArrayView bytes)
@@ -289,7 +291,7 @@ void RtfInterpreter::appendUnicode(qint32 number)
     const bool isSymbol = number >= firstSymbolGlyph && number <= lastSymbolGlyph
         && page()->kind == RtfCodePage::Kind::SymbolFont;
     if (isSymbol) {
-        const auto byte = static_cast<char>(number - symbolGlyphs);
+        const auto byte = static_cast<char>(number - symbolGlyphBase);
         appendBytes({&byte, 1});
     } else if (number <= lastCodeUnit) {
         const QChar unit(static_cast<char16_t>(number));
@@ -314,5 +316,5 @@ void RtfInterpreter::finishBytes()
     if (m_state.destination == RtfDestination::FontTable)
         m_fonts.finishName(m_decoder);
     else
-        m_decoder.finish(isText() ? flow().under(m_state.format) : m_name);
+        m_decoder.finish(isText() ? flow().bufferFor(m_state.format) : m_name);
 }

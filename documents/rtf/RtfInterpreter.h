@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// RtfInterpreter makes a text of the tokens of an RTF document: it keeps the state of each group and knows
-// what its destination does with text. What words do to looks is RtfFormat's business, what a document says
-// of its fonts RtfFontTable's. Thread: one.  Owner: the reading of one document.
+// RtfInterpreter turns the tokens of an RTF document into text: it keeps the state of each group and decides
+// what happens to the text in each destination. Formats are left to RtfFormat, fonts to RtfFontTable.
+// Thread: one.  Owner: readRtf().
 #pragma once
 
 #include "documents/rtf/RtfDecoder.h"
@@ -23,55 +23,55 @@ public:
     {
     }
 
-    /// Takes all tokens up to the end of the document's group.
-    AttributedString textOf(RtfTokenizer tokens);
+    /// Reads all tokens up to the end of the group of the document.
+    AttributedString readText(RtfTokenizer tokens);
 
 private:
-    /// What a group has of its own and hands on to the groups inside.
+    /// The state of a group. Groups inside start with a copy.
     struct State {
         RtfFormat format;
         RtfDestination destination = RtfDestination::Text;
         RtfDestination alternativeTo = RtfDestination::Text; ///< the destination around \upr
-        bool isAside = false;
+        bool isAside = false; ///< in a note or a text box
         bool beginsAside = false;
-        bool isFormulaRow = false; ///< of a matrix or an equation array; of this very group
-        bool isInFormulaRow = false; ///< right inside of such a group
-        bool isFormulaPart = false; ///< stands apart; of this very group
+        bool isFormulaRow = false; ///< of a matrix or an equation array; not inherited
+        bool isInFormulaRow = false; ///< directly inside of such a group
+        bool isFormulaPart = false; ///< needs a space around it; not inherited
         qint32 fallbackLength = 1; ///< \uc
-        qint32 graphic = RtfGraphics::none; ///< whose marker is to come, in this very group
+        qint32 graphic = RtfGraphics::none; ///< whose marker has not come yet; not inherited
         qint32 fileNumber = 0; ///< \qbyfile
-        RtfAction exactKind = RtfAction::Nothing; ///< of an exact value
+        RtfAction exactKind = RtfAction::Nothing; ///< of the exact value being read
         qint32 exactNumber = 0;
     };
 
-    void take(const RtfToken &token);
+    void handle(const RtfToken &token);
     void beginGroup();
     void endGroup();
     void leaveDestination(const State &left);
 
-    void takeText(QByteArrayView bytes);
-    void takeByte(uchar byte);
-    void takeSymbol(uchar symbol);
-    void takeWord(const RtfToken &token, bool isStarred);
+    void handleText(QByteArrayView bytes);
+    void handleByte(uchar byte);
+    void handleSymbol(uchar symbol);
+    void handleWord(const RtfToken &token, bool isStarred);
 
     void appendBytes(QByteArrayView bytes);
     void appendCharacters(QStringView characters);
     void appendUnicode(qint32 number);
     void appendMarker();
     void finishBytes();
-    /// Where text goes; null where nowhere.
+    /// The buffer that text is appended to; null if text is dropped.
     [[nodiscard]] QString *target();
     [[nodiscard]] bool isText() const;
     [[nodiscard]] const RtfCodePage *page();
     [[nodiscard]] size_t depth() const { return m_outer.size(); }
 
-    void act(const RtfWord &word, std::optional<qint32> parameter);
-    void actOnText(const RtfWord &word, std::optional<qint32> parameter);
-    void actOnFormula(const RtfWord &word);
-    void actOnDocument(const RtfWord &word, std::optional<qint32> parameter);
-    void actOnLooks(const RtfWord &word, std::optional<qint32> parameter);
-    void chooseExactly(RtfAction kind, qint32 number);
-    void enter(RtfDestination destination);
+    void performAction(const RtfWord &word, std::optional<qint32> parameter);
+    void performTextAction(const RtfWord &word, std::optional<qint32> parameter);
+    void performFormulaAction(const RtfWord &word);
+    void performDocumentAction(const RtfWord &word, std::optional<qint32> parameter);
+    void performFormatAction(const RtfWord &word, std::optional<qint32> parameter);
+    void applyExactValue(RtfAction kind, qint32 number);
+    void enterDestination(RtfDestination destination);
 
     RtfFlow &flow() { return m_state.isAside ? m_asides : m_body; }
     [[nodiscard]] QString languageOf(qint32 lcid);
@@ -85,21 +85,21 @@ private:
     RtfFlow m_asides{m_attributes};
 
     State m_state;
-    std::vector<State> m_outer; ///< of the groups around
-    qsizetype m_deeperGroups = 0; ///< that are too deep for a state of their own
+    std::vector<State> m_outer; ///< of the surrounding groups
+    qsizetype m_deeperGroups = 0; ///< open groups beyond the maximum depth
 
     const RtfCodePage *m_documentPage = defaultRtfCodePage();
     RtfCharacterFormat m_plain;
     QSharedDataPointer<RtfParagraphFormat> m_plainParagraph{new RtfParagraphFormat};
     QHash<qint32, QString> m_languages; ///< by number
 
-    QString m_name; ///< of the graphic, or the exact value, that is being read
+    QString m_name; ///< of the graphic, or of the exact value, that is being read
     bool m_isNameComplete = false; ///< of the graphic
-    qsizetype m_fallback = 0; ///< characters to skip behind \u
-    bool m_isAtGroupStart = false; ///< right behind a brace
-    bool m_isStarred = false; ///< right behind \* at a group's start
+    qsizetype m_fallback = 0; ///< characters left to skip after \u
+    bool m_isAtGroupStart = false; ///< directly after an opening brace
+    bool m_isStarred = false; ///< directly after \* at the start of a group
 
-    // The page of a font, kept until another one is asked for.
+    // A cache for page().
     qint32 m_fontOfPage = RtfCharacterFormat::noFont;
     quint32 m_versionOfPage = 0;
     const RtfCodePage *m_fontPage = nullptr;

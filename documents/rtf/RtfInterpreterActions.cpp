@@ -6,12 +6,12 @@
 
 namespace {
 
-/// Of a Windows number; those above say how the language is sorted.
+/// The bits of an LCID that name the language; the bits above select a sort order.
 constexpr qint32 languageBits = 0xFFFF;
 
 } // namespace
 
-void RtfInterpreter::act(const RtfWord &word, std::optional<qint32> parameter)
+void RtfInterpreter::performAction(const RtfWord &word, std::optional<qint32> parameter)
 {
     switch (word.action) {
     case RtfAction::Nothing:
@@ -22,15 +22,15 @@ void RtfInterpreter::act(const RtfWord &word, std::optional<qint32> parameter)
     case RtfAction::RowEnd:
     case RtfAction::Unicode:
     case RtfAction::FallbackLength:
-        actOnText(word, parameter);
+        performTextAction(word, parameter);
         break;
     case RtfAction::FormulaRow:
     case RtfAction::FormulaElement:
     case RtfAction::FormulaPart:
-        actOnFormula(word);
+        performFormulaAction(word);
         break;
     case RtfAction::Destination:
-        enter(static_cast<RtfDestination>(word.argument));
+        enterDestination(static_cast<RtfDestination>(word.argument));
         break;
     case RtfAction::UnicodeAlternative:
         if (m_state.destination == RtfDestination::Alternatives)
@@ -41,7 +41,7 @@ void RtfInterpreter::act(const RtfWord &word, std::optional<qint32> parameter)
     case RtfAction::DefaultFont:
     case RtfAction::DefaultLanguage:
     case RtfAction::DefaultTabInterval:
-        actOnDocument(word, parameter);
+        performDocumentAction(word, parameter);
         break;
     case RtfAction::FontCharset:
         m_fonts.setCharset(parameter.value_or(0));
@@ -50,12 +50,12 @@ void RtfInterpreter::act(const RtfWord &word, std::optional<qint32> parameter)
         m_fonts.setCodePage(parameter.value_or(0));
         break;
     default:
-        actOnLooks(word, parameter);
+        performFormatAction(word, parameter);
         break;
     }
 }
 
-void RtfInterpreter::actOnText(const RtfWord &word, std::optional<qint32> parameter)
+void RtfInterpreter::performTextAction(const RtfWord &word, std::optional<qint32> parameter)
 {
     switch (word.action) {
     case RtfAction::Character: {
@@ -65,16 +65,16 @@ void RtfInterpreter::actOnText(const RtfWord &word, std::optional<qint32> parame
     }
     case RtfAction::Break:
         if (isText())
-            flow().under(m_state.format).append(QChar(word.argument));
+            flow().bufferFor(m_state.format).append(QChar(word.argument));
         break;
     case RtfAction::CellEnd:
-        // Hidden text shows no cell's end, but the cell is there.
+        // The end of a cell counts even in hidden text.
         if (m_state.destination == RtfDestination::Text)
-            flow().under(m_state.format).append(QChar(word.argument));
+            flow().bufferFor(m_state.format).append(QChar(word.argument));
         break;
     case RtfAction::RowEnd:
         if (m_state.destination == RtfDestination::Text)
-            flow().separate();
+            flow().requireNewParagraph();
         break;
     case RtfAction::Unicode:
         if (parameter) {
@@ -90,8 +90,8 @@ void RtfInterpreter::actOnText(const RtfWord &word, std::optional<qint32> parame
     }
 }
 
-/// Parts of a formula that stand apart on the page stand apart in the text.
-void RtfInterpreter::actOnFormula(const RtfWord &word)
+/// Separates parts of a formula that are set apart on the page.
+void RtfInterpreter::performFormulaAction(const RtfWord &word)
 {
     if (word.action == RtfAction::FormulaRow) {
         m_state.isFormulaRow = true;
@@ -101,11 +101,11 @@ void RtfInterpreter::actOnFormula(const RtfWord &word)
     if (!isPart || !isText())
         return;
     m_state.isFormulaPart = true;
-    flow().standApart();
+    flow().requireSpace();
 }
 
-/// These words stand at the document's start, where they hold for the state of the moment too.
-void RtfInterpreter::actOnDocument(const RtfWord &word, std::optional<qint32> parameter)
+/// These words stand at the start of the document and also apply to the current state.
+void RtfInterpreter::performDocumentAction(const RtfWord &word, std::optional<qint32> parameter)
 {
     RtfCharacterFormat &character = m_state.format.character;
     switch (word.action) {
@@ -134,7 +134,7 @@ void RtfInterpreter::actOnDocument(const RtfWord &word, std::optional<qint32> pa
     }
 }
 
-void RtfInterpreter::actOnLooks(const RtfWord &word, std::optional<qint32> parameter)
+void RtfInterpreter::performFormatAction(const RtfWord &word, std::optional<qint32> parameter)
 {
     RtfFormat &format = m_state.format;
     switch (word.action) {
@@ -154,11 +154,11 @@ void RtfInterpreter::actOnLooks(const RtfWord &word, std::optional<qint32> param
     case RtfAction::ExactParagraph:
     case RtfAction::ExactLanguage:
     case RtfAction::ExactFile:
-        chooseExactly(word.action, parameter.value_or(0));
+        applyExactValue(word.action, parameter.value_or(0));
         break;
     case RtfAction::Font:
         if (m_state.destination == RtfDestination::FontTable)
-            m_fonts.begin(parameter.value_or(0), depth());
+            m_fonts.beginFont(parameter.value_or(0), depth());
         else
             applyCharacterWord(word, parameter, format.character);
         break;
@@ -171,7 +171,7 @@ void RtfInterpreter::actOnLooks(const RtfWord &word, std::optional<qint32> param
     }
 }
 
-void RtfInterpreter::chooseExactly(RtfAction kind, qint32 number)
+void RtfInterpreter::applyExactValue(RtfAction kind, qint32 number)
 {
     if (m_state.destination == RtfDestination::ExactValues) {
         m_state.destination = RtfDestination::ExactValue;
@@ -186,7 +186,7 @@ void RtfInterpreter::chooseExactly(RtfAction kind, qint32 number)
         m_state.fileNumber = number;
     } else if (kind == RtfAction::ExactFont) {
         if (const FontAttributes *font = m_exactValues.font(number))
-            format.character.choose(*font);
+            format.character.apply(*font);
     } else if (kind == RtfAction::ExactParagraph) {
         if (const QSharedDataPointer<RtfParagraphFormat> *paragraph = m_exactValues.paragraph(number))
             format.paragraph = *paragraph;

@@ -7,10 +7,10 @@
 
 namespace {
 
-/// Bytes, of which there are never fewer than code units.
-constexpr qsizetype longestInput = INT32_MAX - 1;
+/// Bytes. The text never has more code units than the input has bytes.
+constexpr qsizetype maxInputLength = INT32_MAX - 1;
 
-QByteArrayView withoutLead(QByteArrayView bytes)
+QByteArrayView skipLead(QByteArrayView bytes)
 {
     constexpr QByteArrayView mark("\xEF\xBB\xBF");
     if (bytes.startsWith(mark))
@@ -24,17 +24,17 @@ QByteArrayView withoutLead(QByteArrayView bytes)
 
 bool looksLikeRtf(QByteArrayView bytes)
 {
-    return withoutLead(bytes).startsWith("{\\rtf");
+    return skipLead(bytes).startsWith("{\\rtf");
 }
 
 Result<AttributedString, DocumentError> readRtf(QByteArrayView bytes, const AttachmentSource &attachments)
 {
     if (!looksLikeRtf(bytes))
         return DocumentError(DocumentError::Cause::WrongKind, DocumentKind::Rtf);
-    if (bytes.size() > longestInput)
+    if (bytes.size() > maxInputLength)
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtf);
     try {
-        return RtfInterpreter(attachments).textOf(RtfTokenizer(withoutLead(bytes)));
+        return RtfInterpreter(attachments).readText(RtfTokenizer(skipLead(bytes)));
     } catch (const std::bad_alloc &) {
         return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtf);
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RtfReader turns the bytes of an RTF document into styled text: RTF 1.9.1 as word processors write it, and
-// all that docs/rtf.md describes. Where the files of attachments come from is its caller's business. Thread:
-// any.
+// everything that docs/rtf.md describes. Loading the files of attachments is left to the caller.
+// Thread: any.
 #pragma once
 
 #include "documents/DocumentError.h"
@@ -12,25 +12,23 @@
 
 #include <functional>
 
-/// The attachment of a stored name, null where there is none. Asked once for each name in a document.
+/// Returns the attachment of a stored name; null if there is none. Called once for each name in a document.
 using AttachmentSource = std::function<std::shared_ptr<const Attachment>(const QString &storedName)>;
 
-/// Whether "{\rtf" is at the start, or behind nothing but a byte order mark of UTF-8, spaces, tabs and line
-/// ends, which editors and mail programs have put there.
+/// Whether the bytes begin with "{\rtf", or with a UTF-8 byte order mark or white space before it, which some
+/// editors and mail programs add.
 bool looksLikeRtf(QByteArrayView bytes);
 
-/// Whatever looks like RTF is read as far as it makes sense: braces that are missing at the end are thought
-/// there, and what follows the brace that closes the document is ignored. Takes time and memory proportional
-/// to the length.
+/// Everything that looks like RTF is read as far as possible: missing braces at the end are assumed, and data
+/// after the brace that closes the document is ignored. Takes time and memory proportional to the length.
 ///
-/// Text is what the document shows in its running text: the results of fields, revisions as if accepted, the
-/// runs of formulas, with a space (U+0020) around each part of a fraction, cell of a matrix and equation of
-/// an array where there is no white space already. Footnotes, endnotes and text boxes follow the body, each
-/// in paragraphs of its own, in the order of their references. Every cell of a table ends a paragraph, an
-/// empty one too; rows and tables add nothing. Headers, footers, comments, pictures, hidden text, the numbers
-/// and bullets of lists, and numbers and dates that a program would make up for the moment (page, footnote,
-/// today) are no text.
+/// The text is that of the document as it is shown, with all revisions accepted and fields replaced by their
+/// results. Formulas are the text of their runs, with a space (U+0020) around each part of a fraction, cell
+/// of a matrix and equation of an array that has no white space there. Footnotes, endnotes and text boxes
+/// follow the body in the order of their references, each in paragraphs of its own. Every cell of a table
+/// ends a paragraph, even an empty one; rows and tables add nothing. Not text are headers, footers, comments,
+/// pictures, hidden text, list numbers and bullets, and generated numbers and dates (page, footnote, today).
 ///
-/// An attachment is one U+FFFC; it stands without an attachment where `attachments` has none of its name.
+/// An attachment is one U+FFFC, with no attachment attribute if `attachments` returns null.
 Result<AttributedString, DocumentError> readRtf(
     QByteArrayView bytes, const AttachmentSource &attachments = {});

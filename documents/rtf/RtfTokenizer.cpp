@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr std::array<bool, 256> bytesThatEndText()
+constexpr std::array<bool, 256> makeTextEndTable()
 {
     std::array<bool, 256> table{};
     for (const char byte : {'\\', '{', '}', '\r', '\n', '\0'})
@@ -14,7 +14,7 @@ constexpr std::array<bool, 256> bytesThatEndText()
     return table;
 }
 
-constexpr std::array<bool, 256> endsText = bytesThatEndText();
+constexpr std::array<bool, 256> endsText = makeTextEndTable();
 
 bool isLetter(char byte)
 {
@@ -26,8 +26,8 @@ bool isDigit(char byte)
     return byte >= '0' && byte <= '9';
 }
 
-/// Absent where it is no hexadecimal digit.
-std::optional<int> hexadecimal(char digit)
+/// Absent if it is not a hexadecimal digit.
+std::optional<int> hexadecimalValue(char digit)
 {
     if (isDigit(digit))
         return digit - '0';
@@ -57,44 +57,44 @@ RtfToken RtfTokenizer::next()
             return {.kind = RtfToken::Kind::GroupEnd};
         case '\\': {
             ++m_at;
-            const RtfToken token = control();
+            const RtfToken token = readControl();
             if (token.kind != RtfToken::Kind::End)
                 return token;
             break;
         }
         default:
-            return text();
+            return readText();
         }
     }
     return {};
 }
 
-/// Kind::End where the backslash begins nothing.
-RtfToken RtfTokenizer::control()
+/// Starts after a backslash. Kind::End if the backslash begins no token.
+RtfToken RtfTokenizer::readControl()
 {
     if (m_at == m_end)
         return {};
     if (isLetter(*m_at))
-        return word();
+        return readWord();
     const char symbol = *m_at++;
     if (symbol != '\'')
         return {.kind = RtfToken::Kind::Symbol, .byte = static_cast<uchar>(symbol)};
     if (m_end - m_at < 2)
         return {};
-    const std::optional<int> high = hexadecimal(m_at[0]);
-    const std::optional<int> low = hexadecimal(m_at[1]);
+    const std::optional<int> high = hexadecimalValue(m_at[0]);
+    const std::optional<int> low = hexadecimalValue(m_at[1]);
     if (!high || !low)
         return {};
     m_at += 2;
     return {.kind = RtfToken::Kind::Byte, .byte = static_cast<uchar>(*high * 16 + *low)};
 }
 
-RtfToken RtfTokenizer::word()
+RtfToken RtfTokenizer::readWord()
 {
     const char *const begin = m_at;
     m_at = std::find_if_not(m_at, m_end, isLetter);
     RtfToken token{.kind = RtfToken::Kind::Word, .bytes = QByteArrayView(begin, m_at)};
-    token.parameter = parameter();
+    token.parameter = readParameter();
     if (m_at != m_end && *m_at == ' ')
         ++m_at;
     if (token.bytes == "bin") {
@@ -104,7 +104,7 @@ RtfToken RtfTokenizer::word()
     return token;
 }
 
-std::optional<qint32> RtfTokenizer::parameter()
+std::optional<qint32> RtfTokenizer::readParameter()
 {
     const bool isNegative = m_end - m_at >= 2 && m_at[0] == '-' && isDigit(m_at[1]);
     if (isNegative)
@@ -117,7 +117,7 @@ std::optional<qint32> RtfTokenizer::parameter()
     return static_cast<qint32>(isNegative ? -number : std::min<qint64>(number, INT32_MAX));
 }
 
-RtfToken RtfTokenizer::text()
+RtfToken RtfTokenizer::readText()
 {
     const char *const begin = m_at;
     m_at = std::find_if(m_at, m_end, [](char byte) { return endsText[static_cast<uchar>(byte)]; });

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// RtfTokenizer cuts the bytes of an RTF document into groups, control words and text; it knows no word but
-// \bin, whose data is no RTF. Thread: one.  Owner: the reading of one document; the bytes must outlive it and
-// its tokens.
+// RtfTokenizer splits the bytes of an RTF document into braces, control words and text. The meaning of words
+// is left to RtfWords, except for \bin, which precedes binary data. Thread: one.  Owner: RtfInterpreter. The
+// bytes must outlive the tokenizer and its tokens.
 #pragma once
 
 #include <QByteArrayView>
@@ -14,8 +14,8 @@ struct RtfToken {
         GroupBegin,
         GroupEnd,
         Word, ///< bytes: its letters; parameter
-        Symbol, ///< byte: the character behind the backslash
-        Byte, ///< byte: what \'hh stands for
+        Symbol, ///< byte: the character after the backslash
+        Byte, ///< byte: the value of \'hh
         Text, ///< bytes: at least one, none of them NUL, CR or LF
         Binary, ///< \bin and its data
     };
@@ -23,11 +23,11 @@ struct RtfToken {
     Kind kind = Kind::End;
     uchar byte = 0;
     QByteArrayView bytes = {};
-    std::optional<qint32> parameter = {}; ///< the nearest number of 32 bits
+    std::optional<qint32> parameter = {}; ///< clamped to 32 bits
 };
 
-/// Every sequence of bytes has tokens. NUL, CR and LF between them are left out, as is a \' without two
-/// hexadecimal digits; a backslash as the last byte is none.
+/// Accepts any sequence of bytes. Skips NUL, CR and LF between tokens, a \' without two hexadecimal digits,
+/// and a backslash at the end.
 class RtfTokenizer {
 public:
     explicit RtfTokenizer(QByteArrayView bytes)
@@ -36,14 +36,14 @@ public:
     {
     }
 
-    /// Behind the last one, Kind::End again and again.
+    /// Returns Kind::End after the last token, however often it is called.
     RtfToken next();
 
 private:
-    RtfToken control();
-    RtfToken word();
-    std::optional<qint32> parameter();
-    RtfToken text();
+    RtfToken readControl();
+    RtfToken readWord();
+    std::optional<qint32> readParameter();
+    RtfToken readText();
     void skipBinary(qint32 length);
 
     const char *m_at;

@@ -210,7 +210,7 @@ constexpr RtfWord words[] = {
     {"zwnj", Character, 0x200C},
 };
 
-/// An open-addressed table over the words: half a million of them may stand in one document.
+/// A hash table with open addressing, because a document may contain half a million words.
 constexpr size_t slotCount = 512;
 constexpr quint8 noWord = UINT8_MAX;
 static_assert(std::size(words) < noWord && std::size(words) * 2 < slotCount);
@@ -223,7 +223,7 @@ constexpr size_t slotOf(std::string_view name)
     return (hash ^ (hash >> 16)) % slotCount;
 }
 
-constexpr std::array<quint8, slotCount> filledSlots()
+constexpr std::array<quint8, slotCount> fillSlots()
 {
     std::array<quint8, slotCount> slots{};
     slots.fill(noWord);
@@ -236,18 +236,18 @@ constexpr std::array<quint8, slotCount> filledSlots()
     return slots;
 }
 
-constexpr std::array<quint8, slotCount> slots = filledSlots();
+constexpr std::array<quint8, slotCount> slots = fillSlots();
 
-/// A longer name is hashed in vain.
-constexpr qsizetype longestWord = 17;
+/// Longer names are not worth hashing.
+constexpr qsizetype maxWordLength = 17;
 static_assert(std::ranges::all_of(
-    words, [](std::string_view name) { return name.size() <= longestWord; }, &RtfWord::name));
+    words, [](std::string_view name) { return name.size() <= maxWordLength; }, &RtfWord::name));
 
 } // namespace
 
 const RtfWord *rtfWord(QByteArrayView name)
 {
-    if (name.size() > longestWord)
+    if (name.size() > maxWordLength)
         return nullptr;
     const std::string_view wanted(name.data(), static_cast<size_t>(name.size()));
     for (size_t slot = slotOf(wanted); slots.at(slot) != noWord; slot = (slot + 1) % slotCount) {

@@ -1,38 +1,39 @@
 // SPDX-License-Identifier: MIT
-// RtfWords lists the control words that mean something to the reader, and what. A word that is missing here
-// is passed over, and a starred group that begins with one is skipped. Thread: any.
+// RtfWords lists the control words that the reader understands, and their actions. Any other word is ignored,
+// and a group that begins with \* and such a word is skipped. Performing the actions is left to
+// RtfInterpreter. Thread: any; constants.
 #pragma once
 
 #include <QByteArrayView>
 #include <QtGlobal>
 
-/// What the text of a group is for.
+/// The purpose of the text in a group.
 enum class RtfDestination : quint8 {
     Text,
-    Aside, ///< text that stands behind the body: a note, a text box
-    Container, ///< holds no text but in destinations of its own
-    Skipped, ///< with all that is inside
+    Aside, ///< text that follows the body: a note, a text box
+    Container, ///< contains text only in destinations inside of it
+    Skipped, ///< including all groups inside
     FontTable,
-    Alternatives, ///< \upr: the same in ANSI, skipped, and in Unicode, in a group \*\ud
-    GraphicName, ///< the stored name of an attachment
-    ExactValues, ///< the table of docs/rtf.md; the next is for the groups inside
-    ExactValue,
+    Alternatives, ///< \upr: the text in ANSI, which is skipped, and in Unicode, in a group \*\ud
+    GraphicName, ///< the file name of an attachment
+    ExactValues, ///< the table of docs/rtf.md
+    ExactValue, ///< a group of that table
 };
 
-/// What a word does. What the word's own argument is, stands behind it.
+/// What a word does. The comments describe its argument.
 enum class RtfAction : quint8 {
     Nothing,
     // Characters
     Character, ///< the code unit
-    Break, ///< likewise, in text only
-    CellEnd, ///< likewise
+    Break, ///< the code unit; ignored outside of text
+    CellEnd, ///< the code unit; counts in hidden text too
     RowEnd,
     Unicode,
     FallbackLength,
     // Formulas
-    FormulaRow, ///< of a matrix, or an equation array
-    FormulaElement, ///< a cell where it is in a row
-    FormulaPart, ///< of a fraction
+    FormulaRow, // of a matrix or an equation array
+    FormulaElement, // a cell if it is in a row
+    FormulaPart, // of a fraction
     // Groups
     Destination, ///< an RtfDestination
     UnicodeAlternative,
@@ -45,7 +46,7 @@ enum class RtfAction : quint8 {
     // The font table
     FontCharset,
     FontCodePage,
-    // Characters' looks
+    // Character formats
     Plain,
     Font,
     FontSize,
@@ -59,11 +60,11 @@ enum class RtfAction : quint8 {
     Raised,
     Lowered,
     Script, ///< 1 raised, -1 lowered, 0 neither
-    Language, ///< 1 of a text whose spelling is not checked, 0 of any other
+    Language, ///< 1 for text whose spelling is not checked, else 0
     ExactFont,
     ExactLanguage,
     ExactFile,
-    // Paragraphs' looks
+    // Paragraph formats
     PlainParagraph,
     Alignment, ///< a TextAlignment
     Direction, ///< a WritingDirection
@@ -71,7 +72,7 @@ enum class RtfAction : quint8 {
     FirstLineIndent,
     TailIndent,
     TabStop,
-    TabAlignment, ///< a TabAlignment, of the next stop
+    TabAlignment, ///< a TabAlignment, for the next stop
     BarTab,
     TabInterval,
     LineSpacing,
@@ -86,5 +87,5 @@ struct RtfWord {
     qint32 argument = 0;
 };
 
-/// Null where the word is not listed. name: as in the document, without backslash and parameter.
+/// Null if the word is not listed. name: as in the document, without backslash and parameter.
 const RtfWord *rtfWord(QByteArrayView name);
