@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // DocxReader turns the bytes of a Word document (ECMA-376, transitional and strict: .docx, .docm, .dotx,
 // .dotm) into styled text. Nothing outside of the package is fetched, no macro is run, no stored figure is
-// believed. Thread: any.
+// believed.
+// Thread: any.
 //
 // The text is what stands on the document's pages with every change accepted: the body, then its footnotes,
 // then its endnotes, in the order of their references. In detail:
@@ -16,9 +17,9 @@
 //  - A text box stands once, behind the paragraph that anchors it. Of alternatives, the first one whose
 //    namespaces are understood counts.
 //  - Deleted and hidden text is no text, nor are headers, footers, comments, alternative texts of pictures,
-//    charts and diagrams, the numbers of lists and notes. A paragraph whose mark is deleted, hidden or in the
-//    instruction of a field goes on in the next one, and so does a drop cap, which Word stores as a paragraph
-//    of its own.
+//    charts and diagrams, the numbers of lists and notes. A paragraph whose mark is deleted, hidden or in
+//    the instruction of a field goes on in the next one, and so does a drop cap, which Word stores as a
+//    paragraph of its own.
 //  - Chunks in other formats stand in their place: Word documents, web pages and archives of them, RTF and
 //    plain text.
 //

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // MarkupCompatibility decides which elements of a part its reader sees, by the rules of ECMA-376 for markup
-// of other versions: of alternatives one, and nothing that may be ignored and is not understood. Thread: one
-// at a time.  Owner: XmlReader.
+// of other versions: of alternatives one, and nothing that may be ignored and is not understood.
+// Thread: one at a time.  Owner: XmlReader.
 #pragma once
 
 #include "documents/docx/XmlNamespaces.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ParagraphProperties are what a style, a list or a paragraph says of how its lines are set (ECMA-376,
-// w:pPr); what it leaves open, others decide. Thread: any; values.
+// w:pPr); what it leaves open, others decide.
+// Thread: any; values.
 #pragma once
 
 #include "documents/docx/XmlReader.h"

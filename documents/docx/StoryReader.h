@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // StoryReader turns the elements of a part with text (the main part, footnotes, endnotes) into styled text:
-// it knows what of them is text, and StoryAssembler makes paragraphs of it. Thread: one at a time.  Owner:
-// DocxReader.
+// it knows what of them is text, and StoryAssembler makes paragraphs of it.
+// Thread: one at a time.  Owner: DocxReader.
 #pragma once
 
 #include "documents/docx/FormulaParts.h"

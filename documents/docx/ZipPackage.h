@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ZipPackage reads the parts of a package, a ZIP archive in memory, by their names. What a part is for,
-// others know. Thread: one at a time.  Owner: whoever opens it; the bytes must outlive it.
+// others know.
+// Thread: one at a time.  Owner: whoever opens it; the bytes must outlive it.
 #pragma once
 
 #include "documents/docx/DocxReader.h"

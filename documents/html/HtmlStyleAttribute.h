@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // HtmlStyleAttribute parses a style attribute: the CSS properties that text and its format depend on.
-// Applying them to an element is left to HtmlStyle. Thread: any; values.
+// Applying them to an element is left to HtmlStyle.
+// Thread: any; values.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // RenderedText assembles the text of a page from its boxes: it collapses white space across elements (CSS
 // Text, "white space processing"), turns required line breaks into line ends (HTML standard, "rendered text
-// collection steps") and cells into paragraphs. Finding the boxes is left to HtmlText. Thread: one.  Owner:
-// HtmlText.
+// collection steps") and cells into paragraphs. Finding the boxes is left to HtmlText.
+// Thread: one.  Owner: HtmlText.
 #pragma once
 
 #include "documents/html/HtmlStyle.h"

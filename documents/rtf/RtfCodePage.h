@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RtfCodePage maps the numbers of code pages and of font character sets in RTF 1.9.1 to encodings. Turning
-// bytes into text is left to RtfDecoder. Thread: any.
+// bytes into text is left to RtfDecoder.
+// Thread: any.
 #pragma once
 
 #include <QtGlobal>

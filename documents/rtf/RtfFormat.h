@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RtfFormat is the format of the text in a group, to which control words are applied one by one. Resolving
-// font numbers is left to RtfFontTable, attributes to RtfFlow. Thread: one.
+// font numbers is left to RtfFontTable, attributes to RtfFlow.
+// Thread: one.
 #pragma once
 
 #include "documents/rtf/RtfWords.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RtfGraphics holds the attachments that a document names, and looks each name up once. Attachments with
-// equal names and contents are one object, because comparing large contents repeatedly is slow. Thread: one.
-// Owner: RtfInterpreter.
+// equal names and contents are one object, because comparing large contents repeatedly is slow.
+// Thread: one.  Owner: RtfInterpreter.
 #pragma once
 
 #include "documents/rtf/RtfExactValues.h"

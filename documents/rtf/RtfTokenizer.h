@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RtfTokenizer splits the bytes of an RTF document into braces, control words and text. The meaning of words
-// is left to RtfWords, except for \bin, which precedes binary data. Thread: one.  Owner: RtfInterpreter. The
-// bytes must outlive the tokenizer and its tokens.
+// is left to RtfWords, except for \bin, which precedes binary data.
+// Thread: one.  Owner: RtfInterpreter. The bytes must outlive the tokenizer and its tokens.
 #pragma once
 
 #include <QByteArrayView>

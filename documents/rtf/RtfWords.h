@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // RtfWords lists the control words that the reader understands, and their actions. Any other word is ignored,
 // and a group that begins with \* and such a word is skipped. Performing the actions is left to
-// RtfInterpreter. Thread: any; constants.
+// RtfInterpreter.
+// Thread: any; constants.
 #pragma once
 
 #include <QByteArrayView>

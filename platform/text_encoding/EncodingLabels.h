@@ -11,6 +11,6 @@
 ///  - x-user-defined is windows-1252, as in a meta element;
 ///  - encodings that browsers refuse for security reasons (ISO-2022-KR, HZ …) are read;
 ///  - UTF-32 and some encodings of DOS, the old Mac, Taiwan and Korea are read, which browsers do not know;
-///  - ISO-8859-16, which ICU lacks, is read as ISO-8859-2: the commas below four letters become cedillas, and
-///    some signs differ.
+///  - ISO-8859-16, which ICU lacks, is read as ISO-8859-2: the commas below four letters become cedillas,
+///    and some signs differ.
 const char *encodingOfLabel(QByteArrayView label);

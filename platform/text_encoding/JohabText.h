@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // JohabText decodes Johab, a Korean encoding from before Windows 95 that composes syllables from letters (KS
-// X 1001, annex 3). ICU has no converter for it. Thread: any.
+// X 1001, annex 3). ICU has no converter for it.
+// Thread: any.
 #pragma once
 
 #include <QByteArrayView>

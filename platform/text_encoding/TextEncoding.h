@@ -17,8 +17,7 @@ struct TextEncoding {
 ///  2. UTF-32 or UTF-16 without a mark (UnmarkedUnicode.h);
 ///  3. ISO-2022: 7-bit text with an escape sequence that switches to an East Asian character set;
 ///  4. UTF-8: no byte above 127, or more well-formed sequences than broken ones; a sequence cut off by the
-///  end
-///     of the text is neither;
+///     end of the text is neither;
 ///  5. the declared encoding;
 ///  6. the most likely older encoding (LegacyEncoding.h), in doubt Windows-1252.
 /// Takes time proportional to the length; most checks read only the beginning.

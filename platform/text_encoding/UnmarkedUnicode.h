@@ -11,7 +11,6 @@
 ///  - UTF-32 consists almost entirely of valid characters other than NUL. Four other bytes rarely make one.
 ///  - UTF-16 in an alphabet is mostly below U+2000. Pairs of other bytes rarely are.
 ///  - UTF-16 in ideographs, kana or hangul contains spaces, line ends, commas or full stops, which become
-///  rare
-///    characters in the wrong byte order; it has almost nothing outside of these blocks and of the alphabets;
-///    and it is not valid UTF-8.
+///    rare characters in the wrong byte order; it has almost nothing outside of these blocks and of the
+///    alphabets; and it is not valid UTF-8.
 const char *unmarkedUnicodeEncoding(QByteArrayView bytes);

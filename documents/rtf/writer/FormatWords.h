@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // FormatWords turns fonts, languages and paragraph styles into RTF control words, and collects the font
-// table. Values that the control words cannot express exactly are left to ExactValues. Thread: one.  Owner:
-// RtfWriter, for one document.
+// table. Values that the control words cannot express exactly are left to ExactValues.
+// Thread: one.  Owner: RtfWriter, for one document.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"

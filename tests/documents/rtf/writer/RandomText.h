@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RandomText makes styled texts of all that a styled text can consist of, with attachments on U+FFFC only:
-// the same ones from the same seed. Thread: one.  Owner: a test.
+// the same ones from the same seed.
+// Thread: one.  Owner: a test.
 #pragma once
 
 #include "platform/styled_text/AttributedString.h"
