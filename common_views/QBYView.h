@@ -4,7 +4,7 @@
 // Owner: its superview or window.
 #pragma once
 
-#include "platform/views/Color.h"
+#include "platform/views/Painter.h"
 #include "platform/views/View.h"
 
 #include <mutex>

@@ -7,11 +7,8 @@
 
 #include "front_end/QBYServiceProviderShowStatsWindowControllerDelegate.h"
 #include "platform/styled_text/AttributedString.h"
-#include "platform/views/Box.h"
-#include "platform/views/Button.h"
+#include "platform/views/Controls.h"
 #include "platform/views/Desktop.h"
-#include "platform/views/Label.h"
-#include "platform/views/ProgressIndicator.h"
 #include "platform/views/WindowController.h"
 #include "presentation/WordCounterViewController.h"
 #include "presentation/WordCounterViewControllerLayoutDelegate.h"

@@ -6,7 +6,7 @@
 #pragma once
 
 #include "platform/system/WeakDelegate.h"
-#include "platform/views/Label.h"
+#include "platform/views/Controls.h"
 #include "platform/views/ViewController.h"
 #include "presentation/WordCounterViewControllerLayoutDelegate.h"
 

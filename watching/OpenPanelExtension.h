@@ -3,7 +3,7 @@
 // Thread: main.
 #pragma once
 
-#include "platform/views/OpenPanel.h"
+#include "platform/views/Desktop.h"
 
 namespace QBYExtension {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// ApplicationActivity says whether the application is the one that the user works with, and when that
-// changes. It is told by whoever knows: in a program with windows, from
-// QGuiApplication::applicationStateChanged. Thread: main.  Owner: the program; it outlives all who listen.
+// ApplicationActivity holds whether the application is the one that the user works with, and signals changes;
+// finding that out is left to its source, which calls setActive().
+// Thread: main.  Owner: main(); outlives all listeners.
 #pragma once
 
 #include <QObject>
@@ -10,7 +10,7 @@ class ApplicationActivity : public QObject {
     Q_OBJECT
 
 public:
-    /// isActive: at the start.
+    /// isActive: the state at the start.
     explicit ApplicationActivity(bool isActive, QObject *parent = nullptr)
         : QObject(parent)
         , m_isActive(isActive)
@@ -18,8 +18,17 @@ public:
     }
 
     [[nodiscard]] bool isActive() const { return m_isActive; }
-    /// Tells everybody; being told once more what it is already tells nobody.
-    void setActive(bool isActive);
+    /// Signals only a change.
+    void setActive(bool isActive)
+    {
+        if (isActive == m_isActive)
+            return;
+        if (!isActive)
+            Q_EMIT willResignActive();
+        m_isActive = isActive;
+        if (isActive)
+            Q_EMIT didBecomeActive();
+    }
 
 Q_SIGNALS:
     /// isActive() is still true.

@@ -1,11 +1,21 @@
 // SPDX-License-Identifier: MIT
-// Painter is the surface a view draws on, in the coordinates of the view's bounds.
-// Thread: main.  Owner: whoever asks the view to draw; views keep no reference.
+// Painter is the surface that a view draws on, in the coordinates of the view's bounds; Color is what it
+// draws with. Thread: main.  Owner: the code that asks the view to draw; views keep no reference.
 #pragma once
 
-#include "platform/views/Color.h"
-
 #include <QRectF>
+
+/// A colour in sRGB. Components range from 0 to 1.
+struct Color {
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+    double alpha = 1;
+
+    static constexpr Color white() { return {1, 1, 1, 1}; }
+
+    bool operator==(const Color &) const = default;
+};
 
 class Painter {
 public:

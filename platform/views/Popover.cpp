@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds restingTime{250};
+constexpr std::chrono::milliseconds detachDelay{250};
 
 class PopoverWindow final : public Window {
 public:
@@ -16,8 +16,8 @@ public:
     [[nodiscard]] bool canBecomeKeyWindow() const override { return true; }
 };
 
-/// lowest and highest swap where there is too little room: then lowest counts.
-double within(double value, double lowest, double highest)
+/// Unlike std::clamp(), allows lowest > highest, where there is too little space: lowest wins.
+double clampToArea(double value, double lowest, double highest)
 {
     return std::max(lowest, std::min(value, highest));
 }
@@ -30,9 +30,9 @@ Popover::Popover(Desktop &desktop)
 {
     m_window->setLevel(WindowLevel::Floating);
     m_window->setMovableByBackground(true);
-    m_resting.setSingleShot(true);
-    m_resting.setInterval(restingTime);
-    connect(&m_resting, &QTimer::timeout, this, &Popover::detach);
+    m_detachTimer.setSingleShot(true);
+    m_detachTimer.setInterval(detachDelay);
+    connect(&m_detachTimer, &QTimer::timeout, this, &Popover::detach);
     connect(m_window.get(), &Window::frameDidChange, this, &Popover::windowDidMove);
     m_windowOnScreen = m_desktop.putOnScreen(m_window);
 }
@@ -54,11 +54,11 @@ void Popover::setContentViewController(std::shared_ptr<ViewController> controlle
 void Popover::setContentSize(const QSizeF &size)
 {
     const QScopedValueRollback guard(m_isPlacing, true);
-    // It hangs from its upper edge.
+    // The upper edge stays in place.
     const QRectF former = m_window->frame();
     const QPointF origin(former.x(), former.y() + former.height() - size.height());
-    const bool isWhereItBelongs = isShown() && isExactlyEqual(former, placeFor(former.size()));
-    m_window->setFrame(isWhereItBelongs ? placeFor(size) : QRectF(origin, size), true, false);
+    const bool isAttached = isShown() && isExactlyEqual(former, placeFor(former.size()));
+    m_window->setFrame(isAttached ? placeFor(size) : QRectF(origin, size), true, false);
 }
 
 QRectF Popover::placeFor(const QSizeF &size) const
@@ -80,11 +80,11 @@ QRectF Popover::placeFor(const QSizeF &size) const
         origin.setY(beside.y() + beside.height());
         break;
     }
-    const QRectF room = m_desktop.visibleFrameAt(middle);
-    if (m_preferredEdge == RectEdge::MinY && origin.y() < room.y())
-        origin.setY(beside.y() + beside.height()); // a bar at the bottom of the screen
-    origin.setX(within(origin.x(), room.x(), room.x() + room.width() - size.width()));
-    origin.setY(within(origin.y(), room.y(), room.y() + room.height() - size.height()));
+    const QRectF area = m_desktop.visibleFrameAt(middle);
+    if (m_preferredEdge == RectEdge::MinY && origin.y() < area.y())
+        origin.setY(beside.y() + beside.height()); // for a panel at the bottom of the screen
+    origin.setX(clampToArea(origin.x(), area.x(), area.x() + area.width() - size.width()));
+    origin.setY(clampToArea(origin.y(), area.y(), area.y() + area.height() - size.height()));
     return {origin, size};
 }
 
@@ -98,7 +98,7 @@ void Popover::show(const QRectF &positioningRect, RectEdge preferredEdge)
 {
     m_positioningRect = positioningRect;
     m_preferredEdge = preferredEdge;
-    m_resting.stop();
+    m_detachTimer.stop();
     if (!isShown()) {
         if (PopoverDelegate *const receiver = m_delegate.get())
             receiver->popoverWillShow(*this);
@@ -111,7 +111,7 @@ void Popover::show(const QRectF &positioningRect, RectEdge preferredEdge)
 
 void Popover::close()
 {
-    m_resting.stop();
+    m_detachTimer.stop();
     m_window->orderOut();
 }
 
@@ -119,11 +119,11 @@ void Popover::windowDidMove()
 {
     if (m_isPlacing || !isShown())
         return;
-    const QPointF way = m_window->frame().topLeft() - placeFor(contentSize()).topLeft();
-    if (way.manhattanLength() >= detachDistance)
-        m_resting.start();
+    const QPointF distance = m_window->frame().topLeft() - placeFor(contentSize()).topLeft();
+    if (distance.manhattanLength() >= detachDistance)
+        m_detachTimer.start();
     else
-        m_resting.stop();
+        m_detachTimer.stop();
 }
 
 void Popover::detach()

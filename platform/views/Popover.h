@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Popover is a small window beside the place that it belongs to, which the user can drag off: then a window
-// that its delegate provides takes its place. Thread: main.  Owner: whoever shows it; shares the ownership of
-// its content.
+// Popover is a small window beside a positioning rectangle. The user can drag it off: then a window that its
+// delegate provides replaces it.
+// Thread: main.  Owner: the watcher that shows it; shares the ownership of its content.
 #pragma once
 
 #include "platform/system/WeakDelegate.h"
@@ -15,14 +15,14 @@ class Popover;
 
 class PopoverDelegate : public Delegate {
 public:
-    // All optional.
+    // All are optional.
     virtual bool popoverShouldDetach(Popover & /*popover*/) { return false; }
     virtual void popoverWillShow(Popover & /*popover*/) { }
-    /// The window that stays where the pop-over was dragged to; null: the pop-over stays there itself.
+    /// The window that replaces the detached pop-over; null: the pop-over stays where it was dragged to.
     virtual std::shared_ptr<Window> detachableWindowForPopover(Popover & /*popover*/) { return nullptr; }
 };
 
-/// The edge of the positioning rectangle at which a pop-over lies, where there is room.
+/// The edge of the positioning rectangle at which a pop-over opens, if there is space.
 enum class RectEdge { MinX, MinY, MaxX, MaxY };
 
 /// Stays open until it is closed.
@@ -30,7 +30,7 @@ class Popover : public QObject {
     Q_OBJECT
 
 public:
-    /// How far the user drags a pop-over before it comes off, in points.
+    /// How far the user has to drag a pop-over to detach it, in points.
     static constexpr double detachDistance = 20;
 
     /// desktop: outlives the pop-over.
@@ -45,18 +45,18 @@ public:
     {
         return m_contentViewController;
     }
-    /// Loads its view, and takes the size of that.
+    /// Loads the controller's view and takes its size.
     void setContentViewController(std::shared_ptr<ViewController> controller);
 
     [[nodiscard]] QSizeF contentSize() const { return m_window->frame().size(); }
     void setContentSize(const QSizeF &size);
 
     [[nodiscard]] bool isShown() const { return m_window->isVisible(); }
-    /// Where it is shown already, it moves there. positioningRect: on the screen.
+    /// Moves a pop-over that is already shown. positioningRect: on the screen.
     void show(const QRectF &positioningRect, RectEdge preferredEdge);
     void close();
 
-    /// What shows the content.
+    /// The window that shows the content.
     [[nodiscard]] const std::shared_ptr<Window> &window() const { return m_window; }
 
 private:
@@ -73,5 +73,5 @@ private:
     QRectF m_positioningRect;
     RectEdge m_preferredEdge = RectEdge::MinY;
     bool m_isPlacing = false;
-    QTimer m_resting; // a dragged pop-over comes off when the user lets it rest
+    QTimer m_detachTimer; // a dragged pop-over detaches once it no longer moves
 };

@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Along one axis. An axis on which the whole document is visible does not scroll.
-double scrolled(
+/// The new position on one axis. An axis on which the whole document is visible does not scroll.
+double positionAfterScrolling(
     double position, double delta, double visibleLength, double documentStart, double documentLength)
 {
     if (delta == 0 || documentLength <= visibleLength)
@@ -16,6 +16,43 @@ double scrolled(
 }
 
 } // namespace
+
+void ClipView::setDocumentView(const std::shared_ptr<View> &view)
+{
+    View *const former = documentView();
+    if (former == view.get())
+        return;
+    if (former)
+        former->removeFromSuperview();
+    addSubview(view);
+}
+
+QRectF ClipView::bounds() const
+{
+    return {m_scrollPosition, frame().size() / m_magnification};
+}
+
+bool ClipView::isFlipped() const
+{
+    const View *const document = documentView();
+    return document && document->isFlipped();
+}
+
+void ClipView::scrollToPoint(const QPointF &point)
+{
+    if (isExactlyEqual(point, m_scrollPosition))
+        return;
+    m_scrollPosition = point;
+    Q_EMIT boundsDidChange();
+}
+
+void ClipView::setMagnification(double factor)
+{
+    if (factor == m_magnification)
+        return;
+    m_magnification = factor;
+    Q_EMIT boundsDidChange();
+}
 
 ScrollView::ScrollView(const QRectF &frame)
     : View(frame)
@@ -60,10 +97,10 @@ void ScrollView::setVerticalScrollerValue(double value)
 {
     if (!m_verticalScrollerValue || std::isnan(value))
         return;
-    const double reachable = std::clamp(value, 0.0, 1.0);
-    if (reachable == *m_verticalScrollerValue)
+    const double clamped = std::clamp(value, 0.0, 1.0);
+    if (clamped == *m_verticalScrollerValue)
         return;
-    m_verticalScrollerValue = reachable;
+    m_verticalScrollerValue = clamped;
     Q_EMIT verticalScrollerDidChange();
 }
 
@@ -73,10 +110,10 @@ double ScrollView::scrollerValueForScrollPosition() const
     if (!document)
         return 0;
     const QRectF visible = m_contentView->bounds();
-    const double room = document->frame().height() - visible.height();
-    if (room <= 0)
+    const double range = document->frame().height() - visible.height();
+    if (range <= 0)
         return 0;
-    const double fromStart = std::clamp((visible.y() - document->frame().y()) / room, 0.0, 1.0);
+    const double fromStart = std::clamp((visible.y() - document->frame().y()) / range, 0.0, 1.0);
     return document->isFlipped() ? fromStart : 1 - fromStart;
 }
 
@@ -89,8 +126,9 @@ QPointF ScrollView::scrollPositionAfter(const ScrollWheelEvent &event) const
     const QRectF whole = document->frame();
     const double right = -event.deltaX / magnification();
     const double up = event.deltaY / magnification();
-    return {scrolled(visible.x(), right, visible.width(), whole.x(), whole.width()),
-        scrolled(visible.y(), document->isFlipped() ? -up : up, visible.height(), whole.y(), whole.height())};
+    return {positionAfterScrolling(visible.x(), right, visible.width(), whole.x(), whole.width()),
+        positionAfterScrolling(
+            visible.y(), document->isFlipped() ? -up : up, visible.height(), whole.y(), whole.height())};
 }
 
 void ScrollView::scrollWheel(const ScrollWheelEvent &event)

@@ -1,11 +1,48 @@
 // SPDX-License-Identifier: MIT
-// ScrollView shows a document view that may be larger than itself, moved and magnified.
-// Thread: main.  Owner: its superview or window.
+// ScrollView shows a document view that may be larger than itself, scrolled and magnified; ClipView is the
+// part of it through which the document is visible. Thread: main.  Owner: its superview or window; a clip
+// view is owned by its scroll view.
 #pragma once
 
-#include "platform/views/ClipView.h"
+#include "platform/views/View.h"
 
 #include <optional>
+
+/// Holds where the document is scrolled to and how far it is magnified.
+class ClipView : public View {
+    Q_OBJECT
+
+public:
+    using View::View;
+
+    /// Null for none.
+    [[nodiscard]] View *documentView() const
+    {
+        return subviews().empty() ? nullptr : subviews().front().get();
+    }
+    void setDocumentView(const std::shared_ptr<View> &view);
+
+    /// The visible part of the document: its origin is the scroll position, its size that of the frame
+    /// divided by the magnification.
+    [[nodiscard]] QRectF bounds() const override;
+    /// Follows the document, which therefore scrolls in its own coordinates.
+    [[nodiscard]] bool isFlipped() const override;
+
+    /// Accepts any point, even one that shows empty space beside the document.
+    void scrollToPoint(const QPointF &point);
+
+    [[nodiscard]] double magnification() const { return m_magnification; }
+    /// factor: finite, above 0.
+    void setMagnification(double factor);
+
+Q_SIGNALS:
+    /// The scroll position or the magnification changed; the size of the frame has frameDidChange().
+    void boundsDidChange();
+
+private:
+    QPointF m_scrollPosition;
+    double m_magnification = 1;
+};
 
 class ScrollView : public View {
     Q_OBJECT
@@ -17,34 +54,35 @@ public:
     [[nodiscard]] View *documentView() const { return m_contentView->documentView(); }
     void setDocumentView(const std::shared_ptr<View> &view) { m_contentView->setDocumentView(view); }
 
-    /// Fills the scroll view; the scroller lies over it and takes no room.
+    /// Fills the scroll view; the scroller lies over it and takes no space.
     [[nodiscard]] ClipView &contentView() const { return *m_contentView; }
-    /// Points of the scroll view, whatever the magnification.
+    /// In points of the scroll view, independent of the magnification.
     [[nodiscard]] QSizeF contentSize() const { return m_contentView->frame().size(); }
 
     /// Points of the scroll view per point of the document.
     [[nodiscard]] double magnification() const { return m_contentView->magnification(); }
     [[nodiscard]] double minMagnification() const { return m_minMagnification; }
-    /// For magnifications from now on. Above 0 and at most maxMagnification; anything else is ignored.
+    /// Applies from the next magnification on. Above 0 and at most maxMagnification; other values are
+    /// ignored.
     void setMinMagnification(double factor);
     static constexpr double maxMagnification = 4;
 
-    /// Magnifies the document as far as the rectangle of it still fits, within the limits, and shows the
-    /// rectangle in the middle. A rectangle without area or without end changes nothing.
+    /// Magnifies the document, within the limits, until the rectangle of it just fits, and centres the
+    /// rectangle. An empty or infinite rectangle changes nothing.
     void magnifyToFitRect(const QRectF &rect);
 
     [[nodiscard]] bool hasVerticalScroller() const { return m_verticalScrollerValue.has_value(); }
     void setHasVerticalScroller(bool hasScroller);
     /// From 0, the top of the document, to 1, its bottom; absent without a scroller.
     [[nodiscard]] std::optional<double> verticalScrollerValue() const { return m_verticalScrollerValue; }
-    /// Only moves the knob; beyond the ends it stays at the end. Without a scroller nothing happens.
+    /// Moves only the knob. Clamped to 0 and 1; ignored without a scroller.
     void setVerticalScrollerValue(double value);
 
-    /// Scrolls as far as the document goes. An event that scrolls nothing goes to the superview.
+    /// Scrolls up to the document's ends. An event that scrolls nothing is passed to the superview.
     void scrollWheel(const ScrollWheelEvent &event) override;
 
 Q_SIGNALS:
-    /// The scroller came, went or moved.
+    /// The scroller appeared, disappeared or moved.
     void verticalScrollerDidChange();
 
 protected:

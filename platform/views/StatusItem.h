@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// StatusItem is a picture in the desktop's bar of status items that the user can press; StatusBar is that
-// bar. Thread: main.  Owner: of an item, whoever shows something there; of the bar, main().
+// StatusItem is an icon in the desktop's tray that the user can press; StatusBar is the tray.
+// Thread: main.  Owner: of an item, its watcher; of the tray, main().
 #pragma once
 
 #include "platform/views/Geometry.h"
@@ -15,7 +15,7 @@ class StatusItem : public QObject {
     Q_OBJECT
 
 public:
-    /// A picture of the program's resources, drawn in one colour; empty for none.
+    /// The name of one of Quillbay's symbols; empty for none.
     [[nodiscard]] const QString &imageName() const { return m_imageName; }
     void setImageName(const QString &name)
     {
@@ -24,7 +24,7 @@ public:
         m_imageName = name;
         Q_EMIT faceDidChange();
     }
-    /// What a screen reader says, and what is shown when the pointer rests there.
+    /// Also what a screen reader says.
     [[nodiscard]] const QString &toolTip() const { return m_toolTip; }
     void setToolTip(const QString &text)
     {
@@ -34,11 +34,11 @@ public:
         Q_EMIT faceDidChange();
     }
 
-    /// On the screen; absent where the desktop does not say.
+    /// Where the icon is on the screen; absent where the desktop does not report it.
     [[nodiscard]] const std::optional<QRectF> &buttonFrame() const { return m_buttonFrame; }
     void setButtonFrame(const std::optional<QRectF> &frame) { m_buttonFrame = frame; }
 
-    /// As if the user had pressed it.
+    /// Acts like a press by the user.
     void performClick() { Q_EMIT clicked(); }
 
 Q_SIGNALS:
@@ -51,7 +51,7 @@ private:
     std::optional<QRectF> m_buttonFrame;
 };
 
-/// Keeps an item in the bar as long as it lives.
+/// Keeps an item in the tray as long as it lives.
 class StatusItemInBar {
 public:
     StatusItemInBar() = default;
@@ -67,7 +67,7 @@ public:
     StatusBar &operator=(const StatusBar &) = delete;
     virtual ~StatusBar() = default;
 
-    /// item: not null, shared with what is returned. On a desktop without such a bar it is simply not there.
-    /// What is returned may be let go at any time, also while the item tells of a click.
+    /// item: not null, shared with the result. On a desktop without a tray it stays invisible. The result may
+    /// be destroyed at any time, even while the item reports a click.
     [[nodiscard]] virtual std::unique_ptr<StatusItemInBar> addItem(std::shared_ptr<StatusItem> item) = 0;
 };

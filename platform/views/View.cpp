@@ -37,14 +37,14 @@ Window *View::window() const
 
 QRectF View::convertToSuperview(const QRectF &rect) const
 {
-    const QRectF shown = bounds();
-    const double xScale = shown.width() > 0 ? m_frame.width() / shown.width() : 1;
-    const double yScale = shown.height() > 0 ? m_frame.height() / shown.height() : 1;
-    const bool turned = isFlipped() != (m_superview && m_superview->isFlipped());
+    const QRectF visible = bounds();
+    const double xScale = visible.width() > 0 ? m_frame.width() / visible.width() : 1;
+    const double yScale = visible.height() > 0 ? m_frame.height() / visible.height() : 1;
+    const bool isTurned = isFlipped() != (m_superview && m_superview->isFlipped());
     const double height = rect.height() * yScale;
-    const double fromStart = (rect.y() - shown.y()) * yScale;
-    return {m_frame.x() + (rect.x() - shown.x()) * xScale,
-        m_frame.y() + (turned ? m_frame.height() - fromStart - height : fromStart), rect.width() * xScale,
+    const double fromStart = (rect.y() - visible.y()) * yScale;
+    return {m_frame.x() + (rect.x() - visible.x()) * xScale,
+        m_frame.y() + (isTurned ? m_frame.height() - fromStart - height : fromStart), rect.width() * xScale,
         height};
 }
 
@@ -100,10 +100,10 @@ void View::fadeTo(double alpha, int milliseconds)
 {
     if (std::isnan(alpha))
         return;
-    const double reachable = std::clamp(alpha, 0.0, 1.0);
-    if (reachable == m_alphaValue)
+    const double clamped = std::clamp(alpha, 0.0, 1.0);
+    if (clamped == m_alphaValue)
         return;
-    m_alphaValue = reachable;
+    m_alphaValue = clamped;
     Q_EMIT alphaValueDidChange(milliseconds);
 }
 
@@ -135,7 +135,7 @@ void View::removeFromSuperview()
     if (!m_superview)
         return;
     View *const superview = std::exchange(m_superview, nullptr);
-    const std::shared_ptr<View> keptUntilTheEnd = superview->takeSubview(*this);
+    const std::shared_ptr<View> keptAlive = superview->takeSubview(*this);
     Q_EMIT superview->subviewsDidChange();
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// View is a rectangle in a tree of rectangles: where it lies, what lies on it, what it draws. It has no
-// pixels of its own; what shows it on a screen follows its signals. Thread: main.  Owner: its superview or
-// window, and anyone else who shares it; a view refers to its superview and window weakly. Views are made
-// with std::make_shared and have no Qt parent.
+// View is a rectangle in a tree of rectangles: its place, its subviews and its drawing, without pixels.
+// Putting it on a screen is left to platform/views/widgets, which follows its signals. Views are made with
+// std::make_shared and have no Qt parent.
+// Thread: main.  Owner: its superview or window, shared with others; refers to superview and window weakly.
 #pragma once
 
 #include "platform/views/Geometry.h"
@@ -17,8 +17,8 @@ class Painter;
 class Window;
 
 struct ScrollWheelEvent {
-    double deltaX = 0; ///< points the content is to move to the right
-    double deltaY = 0; ///< points the content is to move down; positive shows what lies above
+    double deltaX = 0; ///< points by which the content moves to the right
+    double deltaY = 0; ///< points by which the content moves down; positive reveals what is above
 };
 
 class View : public QObject {
@@ -39,19 +39,19 @@ public:
     /// Whether y grows downward in the view's own coordinates.
     [[nodiscard]] virtual bool isFlipped() const { return false; }
 
-    /// A hidden view keeps its place and shows nothing, nor do its subviews.
+    /// A hidden view keeps its place; it and its subviews are invisible.
     [[nodiscard]] bool isHidden() const { return m_hidden; }
     void setHidden(bool hidden);
 
-    /// A number that the interface file gives the view; 0 where it gives none.
+    /// The tag from the interface file; 0 if it gives none.
     [[nodiscard]] qint64 tag() const { return m_tag; }
     void setTag(qint64 tag) { m_tag = tag; }
 
-    /// The object name that the interface file gives the view; empty where it gives none.
+    /// The object name from the interface file; empty if it gives none.
     [[nodiscard]] const QString &identifier() const { return m_identifier; }
     void setIdentifier(const QString &identifier) { m_identifier = identifier; }
 
-    /// What a screen reader calls the view; where it is empty, what the view shows.
+    /// The name for screen readers; if empty, they read what the view shows.
     [[nodiscard]] const QString &accessibleName() const { return m_accessibleName; }
     void setAccessibleName(const QString &name);
     [[nodiscard]] const QString &toolTip() const { return m_toolTip; }
@@ -60,30 +60,30 @@ public:
     /// The opacity of the view and its subviews, from 0, invisible, to 1.
     [[nodiscard]] double alphaValue() const { return m_alphaValue; }
     void setAlphaValue(double alpha) { fadeTo(alpha, 0); }
-    /// The view has the new value at once; what shows it on a screen goes there step by step within that
-    /// time. Beyond the ends it is the end; a value that is no number is ignored.
+    /// The view has the new value at once; its widget changes gradually over that time. Clamped to 0 and 1;
+    /// NaN is ignored.
     void fadeTo(double alpha, int milliseconds);
 
     /// Lowest first.
     [[nodiscard]] const std::vector<std::shared_ptr<View>> &subviews() const { return m_subviews; }
     [[nodiscard]] View *superview() const { return m_superview; }
     [[nodiscard]] Window *window() const;
-    /// Takes a rectangle in the view's own coordinates to those of its window, from the bottom left; in a
-    /// tree without a window, to those in which the frame of the topmost view is given.
+    /// Converts a rectangle from the view's own coordinates to those of its window, with the origin at the
+    /// bottom left; in a tree without a window, to the coordinates of the topmost view's frame.
     [[nodiscard]] QRectF convertToWindow(const QRectF &rect) const;
 
-    /// Puts the view above all other subviews. It leaves the superview or window it had; a subview of this
-    /// view only moves up. A null view, this view and the views that hold it are refused: nothing changes.
+    /// Puts the view above all other subviews, after removing it from its former superview or window. Does
+    /// nothing for a null view, for this view and for the views that contain it.
     void addSubview(std::shared_ptr<View> view);
-    /// Ends the view's life where nobody else shares it.
+    /// Destroys the view unless others share it.
     void removeFromSuperview();
 
-    /// Asks for the whole view to be drawn anew.
+    /// Requests a redraw of the whole view.
     void setNeedsDisplay() { Q_EMIT displayNeeded(); }
     /// Draws the view without its subviews. dirtyRect: the part of the bounds that must be drawn.
     virtual void drawRect(const QRectF &dirtyRect, Painter &painter);
 
-    /// A view that has no use for the event hands it to its superview.
+    /// A view that does not handle the event passes it to its superview.
     virtual void scrollWheel(const ScrollWheelEvent &event);
 
 Q_SIGNALS:
@@ -95,11 +95,11 @@ Q_SIGNALS:
     void displayNeeded();
 
 protected:
-    /// Runs at every change of the frame, before anyone else is told.
+    /// Called after every change of the frame, before frameDidChange().
     virtual void layoutForNewFrame() { }
 
 private:
-    friend class Window; // sets m_window of its content view
+    friend class Window; // sets m_window
 
     [[nodiscard]] QRectF convertToSuperview(const QRectF &rect) const;
     [[nodiscard]] bool isOrLiesIn(const View &view) const;
@@ -115,5 +115,5 @@ private:
     QString m_toolTip;
     std::vector<std::shared_ptr<View>> m_subviews;
     View *m_superview = nullptr;
-    Window *m_window = nullptr; // of the content view only
+    Window *m_window = nullptr; // set in content views only
 };

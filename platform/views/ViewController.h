@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// ViewController makes a tree of views when it is first needed, and looks after it.
-// Thread: main.  Owner: whoever shows the view; shares the ownership of the view.
+// ViewController makes a tree of views on first use and manages it; a window or pop-over shows the view.
+// Thread: main.  Owner: whatever shows the view; shares the ownership of the view.
 #pragma once
 
 #include "platform/views/View.h"
@@ -9,19 +9,26 @@
 
 class ViewController : public QObject {
 public:
-    /// Loads the view first where there is none.
-    const std::shared_ptr<View> &view();
+    /// Loads the view if there is none.
+    const std::shared_ptr<View> &view()
+    {
+        if (!m_view) {
+            loadView();
+            viewDidLoad();
+        }
+        return m_view;
+    }
     void setView(std::shared_ptr<View> view) { m_view = std::move(view); }
     [[nodiscard]] bool isViewLoaded() const { return m_view != nullptr; }
 
-    /// Makes the view and hands it to setView(). Leaves alone what is there already.
+    /// Makes the view and passes it to setView(). Does not look for an existing one.
     virtual void loadView() = 0;
-    /// Runs once after each loadView() that view() asked for.
+    /// Called once after each loadView() that view() caused.
     virtual void viewDidLoad() { }
-    /// Told by who shows the view, each time before it comes onto the screen.
+    /// Called by whatever shows the view, each time before the view appears on the screen.
     virtual void viewWillAppear() { }
 
-    /// What the view is about, for who shows it; absent for nothing.
+    /// The title that a window or pop-over shows for the view; absent for none.
     [[nodiscard]] const std::optional<QString> &title() const { return m_title; }
     virtual void setTitle(const std::optional<QString> &title) { m_title = title; }
 

@@ -23,7 +23,7 @@ void Window::setFrame(const QRectF &frame, bool display, bool animate)
     if (!isExactlyEqual(frame, m_frame)) {
         m_frame = frame;
         Q_EMIT frameDidChange(display, animate);
-        // Listeners may have set another frame meanwhile; the content follows the latest.
+        // A listener may have set another frame; the content follows the latest.
         if (m_contentView)
             m_contentView->setFrame({QPointF(), m_frame.size()});
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Window is a rectangle of the screen that a tree of views fills. It draws no title bar: its content view is
-// as large as its frame, and a title bar lies above it. What shows it on a screen follows its signals.
-// Thread: main.  Owner: its controller; shares the ownership of its content view.
+// Window is a rectangle of the screen, filled by its content view; a title bar lies above the frame. Showing
+// it is left to platform/views/widgets, which follows its signals. Thread: main.  Owner: its controller;
+// shares the ownership of its content view.
 #pragma once
 
 #include "platform/views/Geometry.h"
@@ -21,15 +21,14 @@ enum class WindowLevel {
     Floating, ///< above the normal windows of all programs
 };
 
-/// One content in several forms: MIME type, such as "text/plain" or "text/html", and the bytes of that form.
-/// Texts are UTF-8.
+/// The same content in several forms: the bytes by MIME type, such as "text/plain". Texts are UTF-8.
 using MimeContent = std::map<QString, QByteArray>;
 
 class Window : public QObject {
     Q_OBJECT
 
 public:
-    /// Bits of a style mask; masks may hold others, which mean nothing here.
+    /// Bits of a style mask; other bits are kept and have no effect.
     static constexpr unsigned titled = 1;
     static constexpr unsigned closable = 2;
     static constexpr unsigned miniaturizable = 4;
@@ -40,12 +39,12 @@ public:
 
     /// On the screen, points, origin at the bottom left of the primary screen.
     [[nodiscard]] const QRectF &frame() const { return m_frame; }
-    /// display: also draw the content anew. animate: what shows the window may go to the new frame step by
-    /// step; the content view has its new size at once.
+    /// display: also redraw the content. animate: the frame on the screen may change gradually; the content
+    /// view has its new size at once.
     void setFrame(const QRectF &frame, bool display, bool animate);
 
     [[nodiscard]] const std::shared_ptr<View> &contentView() const { return m_contentView; }
-    /// The view leaves the superview or window it had. Null for none.
+    /// The view is removed from its former superview or window. Null for none.
     void setContentView(std::shared_ptr<View> view);
 
     [[nodiscard]] const QString &title() const { return m_title; }
@@ -61,32 +60,30 @@ public:
     [[nodiscard]] bool isMovableByBackground() const { return m_movableByBackground; }
     void setMovableByBackground(bool movable) { m_movableByBackground = movable; }
 
-    /// Pixels per point of the screen that shows the window, 1 for a window on no screen.
+    /// Pixels per point on the window's screen; 1 for a window on no screen.
     [[nodiscard]] double backingScaleFactor() const { return m_backingScaleFactor; }
-    /// Finite and above 0; anything else is ignored.
+    /// Finite and above 0; other values are ignored.
     void setBackingScaleFactor(double factor);
 
-    /// Whether the window may take the keyboard; an ordinary one only with a title bar.
+    /// Whether the window may take the keyboard focus; by default only with a title bar.
     [[nodiscard]] virtual bool canBecomeKeyWindow() const { return m_styleMask & titled; }
-    /// Whether the window may be the one the user works in; an ordinary one only with a title bar.
+    /// Whether the window may be the one the user works in; by default only with a title bar.
     [[nodiscard]] virtual bool canBecomeMainWindow() const { return m_styleMask & titled; }
 
-    /// Whether the window is to be on the screen; a new one is not.
+    /// Whether the window should be on the screen; initially false.
     [[nodiscard]] bool isVisible() const { return m_visible; }
-    /// Shows the window above the others of its level; one that may take the keyboard asks for it.
+    /// Shows the window above the others of its level, with the keyboard focus if it may take it.
     void orderFront();
     void orderOut();
 
-    /// What a press on the close button does: asks by closeRequested(), and closes the window unless its
-    /// owner has said to do that itself.
+    /// Acts like the close button: emits closeRequested(), and closes the window unless its owner has turned
+    /// that off by setClosesOnRequest(false).
     void performClose();
-    /// Takes the window off the screen and says so. Nothing happens to a window that is not visible.
+    /// Hides the window and emits closed(). Does nothing for a window that is not visible.
     void close();
-    [[nodiscard]] bool closesOnRequest() const { return m_closesOnRequest; }
     void setClosesOnRequest(bool closes) { m_closesOnRequest = closes; }
 
-    /// What the user copies from the window; without a provider there is nothing to copy, and nothing says
-    /// that there were.
+    /// Provides what the user copies from the window. Without a provider the window offers no Copy.
     void setCopyProvider(std::function<MimeContent()> provider);
     [[nodiscard]] bool canCopy() const { return m_copyProvider != nullptr; }
     /// Empty without a provider.
@@ -104,8 +101,8 @@ Q_SIGNALS:
     void closeRequested();
     void closed();
     void copyProviderDidChange();
-    /// The labels of the window take another size than before: they came onto a screen, or the user's font or
-    /// the scale of the screen changed. Whoever placed them fits and places them anew.
+    /// The window's labels need another size: the window came onto a screen, or the user's font or the scale
+    /// of the screen changed. The owner of the labels has to fit and place them again.
     void textMetricsDidChange();
 
 private:

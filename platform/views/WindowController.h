@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// WindowController looks after one window.
-// Thread: main.  Owner: whoever opened the window; shares the ownership of the window.
+// WindowController holds one window; subclasses fill and show it.
+// Thread: main.  Owner: whatever opened the window; shares the ownership of the window.
 #pragma once
 
 #include "platform/views/Window.h"

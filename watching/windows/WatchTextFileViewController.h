@@ -5,10 +5,7 @@
 // with std::make_shared.
 #pragma once
 
-#include "platform/views/Box.h"
-#include "platform/views/Button.h"
-#include "platform/views/Label.h"
-#include "platform/views/ProgressIndicator.h"
+#include "platform/views/Controls.h"
 #include "presentation/WordCounterViewController.h"
 #include "watching/windows/WatchTextFileViewControllerDelegate.h"
 

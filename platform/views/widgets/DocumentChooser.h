@@ -4,7 +4,7 @@
 // button, by the Return key, or by typing their names. Thread: main.  Owner: whoever shows it.
 #pragma once
 
-#include "platform/views/OpenPanel.h"
+#include "platform/views/Desktop.h"
 
 #include <QFileDialog>
 

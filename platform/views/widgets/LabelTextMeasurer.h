@@ -4,7 +4,7 @@
 // Thread: main.  Owner: shared by the labels of a window.
 #pragma once
 
-#include "platform/views/TextMeasurer.h"
+#include "platform/views/Controls.h"
 
 #include <QFont>
 #include <QFontMetricsF>

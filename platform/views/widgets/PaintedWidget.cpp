@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/PaintedWidget.h"
 
-#include "platform/views/Box.h"
+#include "platform/views/Controls.h"
 #include "platform/views/Painter.h"
 
 #include <QPaintEvent>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/ViewBinding.h"
 
-#include "platform/views/ClipView.h"
-#include "platform/views/Label.h"
+#include "platform/views/ScrollView.h"
+#include "platform/views/Controls.h"
 #include "platform/views/Window.h"
 #include "platform/views/widgets/PixelGeometry.h"
 #include "platform/views/widgets/ViewWidgets.h"

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/ViewWidgets.h"
 
-#include "platform/views/Box.h"
-#include "platform/views/Button.h"
-#include "platform/views/Label.h"
-#include "platform/views/ProgressIndicator.h"
+#include "platform/views/Controls.h"
 #include "platform/views/widgets/PaintedWidget.h"
 #include "platform/views/widgets/PlainText.h"
 #include "platform/views/widgets/SpinnerWidget.h"

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/InterfaceFile.h"
-#include "platform/views/Box.h"
-#include "platform/views/Button.h"
-#include "platform/views/Label.h"
-#include "platform/views/ProgressIndicator.h"
+#include "platform/views/Controls.h"
 #include "tests/harness/QuillbayTest.h"
 
 namespace {
@@ -35,47 +32,47 @@ QByteArray property(const QByteArray &name, const QByteArray &value)
     return "<property name=\"" + name + "\" stdset=\"0\">" + value + "</property>";
 }
 
-/// A root of 200 by 100 with the given widgets in it.
+/// A root widget of 200 by 100 with the given widgets in it.
 QByteArray panel(const QByteArray &widgets)
 {
     return form(widget("QWidget", "panel", geometry(0, 0, 200, 100) + widgets));
 }
 
-Result<InterfaceFile, QString> parsed(const QByteArray &contents)
+Result<InterfaceFile, QString> parse(const QByteArray &contents)
 {
     return InterfaceFile::parse(contents, QStringLiteral("Panel.ui"));
 }
 
-InterfaceFile parsedWhole(const QByteArray &contents)
+InterfaceFile parseOrFail(const QByteArray &contents)
 {
-    auto result = parsed(contents);
+    auto result = parse(contents);
     if (result)
         return std::move(result).value();
     ADD_FAILURE() << result.error().toStdString();
     return {};
 }
 
-/// Empty where the contents are accepted.
+/// Empty if the contents are accepted.
 QString errorOf(const QByteArray &contents)
 {
-    const auto result = parsed(contents);
+    const auto result = parse(contents);
     return result ? QString() : result.error();
 }
 
 } // namespace
 
-TEST(InterfaceFile, TurnsDistancesFromTheTopIntoOnesFromTheBottom)
+TEST(InterfaceFile, ConvertsDistancesFromTheTopToDistancesFromTheBottom)
 {
-    const InterfaceFile file = parsedWhole(panel(widget(
+    const InterfaceFile file = parseOrFail(panel(widget(
         "QWidget", "group", geometry(10, 5, 100, 60) + widget("QLabel", "label", geometry(3, 4, 50, 17)))));
     EXPECT_EQ(file.rootView()->frame(), QRectF(0, 0, 200, 100));
     EXPECT_EQ(file.outlet<View>(QStringLiteral("group"))->frame(), QRectF(10, 35, 100, 60));
     EXPECT_EQ(file.outlet<Label>(QStringLiteral("label"))->frame(), QRectF(3, 39, 50, 17));
 }
 
-TEST(InterfaceFile, MakesAViewOfItsKindForEveryClass)
+TEST(InterfaceFile, MakesAMatchingViewForEveryClass)
 {
-    const InterfaceFile file = parsedWhole(panel(widget("QLabel", "label", geometry(0, 0, 1, 1))
+    const InterfaceFile file = parseOrFail(panel(widget("QLabel", "label", geometry(0, 0, 1, 1))
         + widget("QPushButton", "push", geometry(0, 0, 1, 1))
         + widget("QToolButton", "tool", geometry(0, 0, 1, 1))
         + widget("QProgressBar", "progress", geometry(0, 0, 1, 1))
@@ -90,7 +87,7 @@ TEST(InterfaceFile, MakesAViewOfItsKindForEveryClass)
 
 TEST(InterfaceFile, KeepsTheOrderOfTheWidgets)
 {
-    const InterfaceFile file = parsedWhole(panel(widget("QLabel", "b", geometry(0, 0, 1, 1))
+    const InterfaceFile file = parseOrFail(panel(widget("QLabel", "b", geometry(0, 0, 1, 1))
         + widget("QLabel", "a", geometry(0, 0, 1, 1)) + widget("QLabel", "c", geometry(0, 0, 1, 1))));
     QStringList names;
     for (const std::shared_ptr<View> &view : file.rootView()->subviews())
@@ -98,9 +95,9 @@ TEST(InterfaceFile, KeepsTheOrderOfTheWidgets)
     EXPECT_EQ(names, (QStringList{QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("c")}));
 }
 
-TEST(InterfaceFile, GivesViewsWhatTheirPropertiesSay)
+TEST(InterfaceFile, AppliesTheProperties)
 {
-    const InterfaceFile file = parsedWhole(
+    const InterfaceFile file = parseOrFail(
         panel(widget("QLabel", "label",
                   geometry(0, 0, 1, 1) + property("text", "<string>12 &lt; 34 – é</string>")
                       + property("tag", "<number>7</number>") + property("visible", "<bool>false</bool>")
@@ -125,9 +122,9 @@ TEST(InterfaceFile, GivesViewsWhatTheirPropertiesSay)
     EXPECT_FALSE(button->isEnabled());
 }
 
-TEST(InterfaceFile, HandsOutFurtherNumbersByTheNameOfTheirProperty)
+TEST(InterfaceFile, OffersAllOtherNumbersByTheNameOfTheirProperty)
 {
-    const InterfaceFile file = parsedWhole(form(widget("QWidget", "panel",
+    const InterfaceFile file = parseOrFail(form(widget("QWidget", "panel",
         geometry(0, 0, 1, 1) + property("labelPositionPolicy", "<number>-2</number>")
             + property("tag", "<number>3</number>"))));
     const QString panelName = QStringLiteral("panel");
@@ -137,24 +134,26 @@ TEST(InterfaceFile, HandsOutFurtherNumbersByTheNameOfTheirProperty)
         file.integerProperty(QStringLiteral("other"), QStringLiteral("labelPositionPolicy")), std::nullopt);
 }
 
-TEST(InterfaceFile, EndsTheProcessWhereAnOutletIsMissingOrOfAnotherClass)
+TEST(InterfaceFile, AbortsForAnOutletThatIsMissingOrOfAnotherClass)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const InterfaceFile file = parsedWhole(panel(widget("QLabel", "words", geometry(0, 0, 1, 1))));
-    EXPECT_DEATH((void)file.outlet<Label>(QStringLiteral("pages")), "Panel.ui: there is no view pages");
-    EXPECT_DEATH((void)file.outlet<Button>(QStringLiteral("words")), "Panel.ui: there is no view words");
+    const InterfaceFile file = parseOrFail(panel(widget("QLabel", "words", geometry(0, 0, 1, 1))));
+    EXPECT_DEATH((void)file.outlet<Label>(QStringLiteral("pages")),
+        "Panel.ui: no view of the expected class is named pages");
+    EXPECT_DEATH((void)file.outlet<Button>(QStringLiteral("words")),
+        "Panel.ui: no view of the expected class is named words");
 }
 
 TEST(InterfaceFile, NamesTheLineOfAnError)
 {
     EXPECT_EQ(errorOf(panel("\n" + widget("QSlider", "slider", geometry(0, 0, 1, 1)))),
-        QStringLiteral("Panel.ui:6: there is no view for the class QSlider"));
+        QStringLiteral("Panel.ui:6: unsupported widget class QSlider"));
     EXPECT_EQ(errorOf(panel(widget("QLabel", "a", geometry(0, 0, 1, 1)) + "\n"
                   + widget("QLabel", "a", geometry(0, 0, 1, 1)))),
-        QStringLiteral("Panel.ui:8: a second widget is named a"));
+        QStringLiteral("Panel.ui:8: duplicate widget name a"));
 }
 
-TEST(InterfaceFile, RefusesWhatItWouldHaveToPassOver)
+TEST(InterfaceFile, RefusesUnsupportedElements)
 {
     for (const QByteArray &content : {QByteArray("<layout class=\"QVBoxLayout\"/>"),
              QByteArray("<action name=\"a\"/>"), property("font", "<font><bold>true</bold></font>"),
@@ -162,7 +161,7 @@ TEST(InterfaceFile, RefusesWhatItWouldHaveToPassOver)
         EXPECT_TRUE(errorOf(panel(content)).startsWith(QStringLiteral("Panel.ui:5: "))) << content.data();
 }
 
-TEST(InterfaceFile, RefusesValuesThatAPropertyCannotHave)
+TEST(InterfaceFile, RefusesInvalidValues)
 {
     for (const QByteArray &content : {property("tag", "<number>seven</number>"),
              property("tag", "<number>99999999999999999999</number>"), property("tag", ""),
@@ -177,7 +176,7 @@ TEST(InterfaceFile, RefusesValuesThatAPropertyCannotHave)
     EXPECT_NE(errorOf(panel(widget("QLabel", "label", ""))), QString());
 }
 
-TEST(InterfaceFile, RefusesWhatIsNoForm)
+TEST(InterfaceFile, RefusesFilesThatAreNotForms)
 {
     const QByteArray root = widget("QWidget", "a", geometry(0, 0, 1, 1));
     for (const QByteArray &contents : {QByteArray(), QByteArray("counted"), QByteArray("<html/>"),
@@ -186,7 +185,7 @@ TEST(InterfaceFile, RefusesWhatIsNoForm)
         EXPECT_NE(errorOf(contents), QString()) << contents.data();
 }
 
-TEST(InterfaceFile, RefusesAFormThatBreaksOffAnywhere)
+TEST(InterfaceFile, RefusesATruncatedForm)
 {
     const QByteArray whole =
         panel(widget("QLabel", "a", geometry(0, 0, 1, 1) + property("text", "<string>b</string>")));
@@ -195,7 +194,7 @@ TEST(InterfaceFile, RefusesAFormThatBreaksOffAnywhere)
         EXPECT_NE(errorOf(whole.left(length)), QString()) << length;
 }
 
-TEST(InterfaceFile, BoundsTheNestingOfWidgets)
+TEST(InterfaceFile, LimitsTheNestingOfWidgets)
 {
     const auto nested = [](int depth) {
         QByteArray inner;
@@ -203,7 +202,7 @@ TEST(InterfaceFile, BoundsTheNestingOfWidgets)
             inner = widget("QWidget", "", geometry(0, 0, 1, 1) + inner);
         return form(inner);
     };
-    EXPECT_TRUE(parsed(nested(64)));
+    EXPECT_TRUE(parse(nested(64)));
     EXPECT_NE(errorOf(nested(65)), QString());
 }
 
@@ -216,7 +215,7 @@ TEST_F(InterfaceFiles, AreReadFromTheirPath)
     EXPECT_TRUE(InterfaceFile::load(path).outlet<Label>(QStringLiteral("a")));
 }
 
-TEST_F(InterfaceFiles, ThatDoNotExistEndTheProcess)
+TEST_F(InterfaceFiles, AbortTheProcessIfTheyDoNotExist)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(InterfaceFile::load(QStringLiteral(":/NoPanel.ui")), ":/NoPanel.ui: cannot be opened: ");

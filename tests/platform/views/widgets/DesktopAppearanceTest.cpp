@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/DesktopAppearance.h"
-#include "platform/views/Box.h"
-#include "platform/views/Button.h"
-#include "platform/views/Label.h"
-#include "platform/views/ProgressIndicator.h"
+#include "platform/views/Controls.h"
 #include "tests/harness/FakePortal.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/harness/Screenshot.h"

@@ -2,7 +2,7 @@
 // Names of files that look like markup, in every place where a window shows a text of the user's.
 #include "platform/views/widgets/PlainText.h"
 
-#include "platform/views/Label.h"
+#include "platform/views/Controls.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 
 #include <QLabel>

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/views/Box.h"
-#include "platform/views/Button.h"
-#include "platform/views/Label.h"
+#include "platform/views/Controls.h"
 #include "platform/views/Painter.h"
-#include "platform/views/ProgressIndicator.h"
 #include "platform/views/ScrollView.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 

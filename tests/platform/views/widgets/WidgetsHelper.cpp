@@ -3,7 +3,7 @@
 // from the interface file of its first argument, prints a line of facts whenever it is asked by a line of
 // input, and ends with its input.
 #include "platform/views/InterfaceFile.h"
-#include "platform/views/Label.h"
+#include "platform/views/Controls.h"
 #include "platform/views/widgets/WindowWidget.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/views/Label.h"
+#include "platform/views/Controls.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 
 #include <QClipboard>
