@@ -8,22 +8,22 @@ ApplicationActivitySource::ApplicationActivitySource(ApplicationActivity &activi
     : QObject(parent)
     , m_activity(activity)
 {
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &ApplicationActivitySource::tell);
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &ApplicationActivitySource::update);
     qGuiApp->installEventFilter(this);
-    tell();
+    update();
 }
 
-void ApplicationActivitySource::tell()
+void ApplicationActivitySource::update()
 {
     m_activity.setActive(
         QGuiApplication::applicationState() == Qt::ApplicationActive && QGuiApplication::focusWindow());
 }
 
-/// Of a window that is destroyed while it has the keyboard, Qt hears no more, and takes the program for
-/// active.
+/// Qt gets no focus event when a window is destroyed while it has the focus, and would go on to report the
+/// program as active.
 bool ApplicationActivitySource::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::PlatformSurface)
-        QMetaObject::invokeMethod(this, &ApplicationActivitySource::tell, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &ApplicationActivitySource::update, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }

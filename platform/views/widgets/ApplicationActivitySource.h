@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// ApplicationActivitySource tells an ApplicationActivity what the window system says: a program is active as
-// long as one of its windows has the keyboard.
-// Thread: main.  Owner: main() of a program with windows; made once QGuiApplication is there.
+// ApplicationActivitySource updates an ApplicationActivity from the window system: a program is active while
+// one of its windows has the keyboard focus. Thread: main.  Owner: main() of a program with windows; needs
+// the QGuiApplication.
 #pragma once
 
 #include "platform/views/ApplicationActivity.h"
@@ -12,13 +12,13 @@ class ApplicationActivitySource : public QObject {
     Q_OBJECT
 
 public:
-    /// Tells at once how it is. activity: outlives the source.
+    /// Updates at once. activity: outlives the source.
     explicit ApplicationActivitySource(ApplicationActivity &activity, QObject *parent = nullptr);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void tell();
+    void update();
 
     ApplicationActivity &m_activity;
 };

@@ -3,11 +3,13 @@
 
 #include "platform/logging/LogChannel.h"
 
+#include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
+#include <QPalette>
 
 namespace {
 
@@ -17,19 +19,19 @@ const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearanceSpace = QStringLiteral("org.freedesktop.appearance");
 const QString colorSchemeKey = QStringLiteral("color-scheme");
 
-/// Read() wraps the value into a variant more than the signal does.
-QVariant unwrapped(QVariant value)
+/// Read() wraps the value in one variant more than the signal does.
+QVariant unwrapVariant(QVariant value)
 {
-    constexpr int mostWrappings = 3;
-    for (int i = 0; i < mostWrappings && value.metaType() == QMetaType::fromType<QDBusVariant>(); ++i)
+    constexpr int maxWrappings = 3;
+    for (int i = 0; i < maxWrappings && value.metaType() == QMetaType::fromType<QDBusVariant>(); ++i)
         value = value.value<QDBusVariant>().variant();
     return value;
 }
 
-/// Anything but the two known numbers is no preference, as the portal's documentation asks.
+/// Any other number means no preference, as the portal's documentation requires.
 ColorScheme colorSchemeOf(const QVariant &value)
 {
-    const QVariant number = unwrapped(value);
+    const QVariant number = unwrapVariant(value);
     if (number.metaType() != QMetaType::fromType<uint>())
         return ColorScheme::NoPreference;
     switch (number.toUInt()) {
@@ -42,45 +44,96 @@ ColorScheme colorSchemeOf(const QVariant &value)
     }
 }
 
+bool isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+struct SchemeColors {
+    QRgb window;
+    QRgb base;
+    QRgb button;
+    QRgb text;
+    QRgb disabledText;
+    QRgb mid;
+    QRgb link;
+};
+
+constexpr SchemeColors darkColors{
+    0xff2b2b2e, 0xff1f1f22, 0xff3a3a3e, 0xffeaeaec, 0xff85858a, 0xff4e4e54, 0xff7ab4f5};
+constexpr SchemeColors lightColors{
+    0xfff2f2f3, 0xffffffff, 0xffe8e8ea, 0xff1c1c1e, 0xff8e8e93, 0xffc4c4c8, 0xff0b5cc4};
+constexpr QRgb highlight = 0xff2f6fd0;
+
+QPalette paletteOf(const SchemeColors &colors)
+{
+    QPalette palette(QColor(colors.button), QColor(colors.window));
+    for (const QPalette::ColorRole role :
+        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, QColor(colors.text));
+        palette.setColor(QPalette::Disabled, role, QColor(colors.disabledText));
+    }
+    palette.setColor(QPalette::PlaceholderText, QColor(colors.disabledText));
+    palette.setColor(QPalette::Base, QColor(colors.base));
+    palette.setColor(QPalette::AlternateBase, QColor(colors.window));
+    palette.setColor(QPalette::ToolTipBase, QColor(colors.base));
+    palette.setColor(QPalette::Mid, QColor(colors.mid));
+    palette.setColor(QPalette::Link, QColor(colors.link));
+    palette.setColor(QPalette::Highlight, QColor(highlight));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
 } // namespace
+
+void applyColorScheme(ColorScheme scheme)
+{
+    QApplication::setPalette(QPalette()); // back to that of the desktop
+    if (scheme == ColorScheme::NoPreference)
+        return;
+    const bool wantsDark = scheme == ColorScheme::Dark;
+    if (isDark(QApplication::palette()) != wantsDark)
+        QApplication::setPalette(paletteOf(wantsDark ? darkColors : lightColors));
+}
 
 DesktopAppearance::DesktopAppearance(const QDBusConnection &sessionBus)
     : m_bus(sessionBus)
 {
     if (!m_bus.isConnected()) {
-        LogChannel::standard().info(u"No session bus, so the desktop's colours stay as they are");
+        LogChannel::standard().info(u"No session bus; keeping the desktop's colours");
         return;
     }
-    // As a message: a slot with a QDBusVariant is not found before the program has used that type otherwise.
+    // QtDBus finds a slot with a QDBusVariant only once the program has used that type, so the slot takes the
+    // whole message.
     m_bus.connect(
-        service, path, interface, QStringLiteral("SettingChanged"), this, SLOT(takeSetting(QDBusMessage)));
-    // A portal that comes late, or again, may have another answer.
+        service, path, interface, QStringLiteral("SettingChanged"), this, SLOT(handleSetting(QDBusMessage)));
+    // A portal that starts later, or restarts, may give another answer.
     auto *const watcher =
         new QDBusServiceWatcher(service, m_bus, QDBusServiceWatcher::WatchForRegistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &DesktopAppearance::ask);
-    ask();
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &DesktopAppearance::requestColorScheme);
+    requestColorScheme();
 }
 
-void DesktopAppearance::ask()
+void DesktopAppearance::requestColorScheme()
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
-    question.setArguments({appearanceSpace, colorSchemeKey});
-    auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, &DesktopAppearance::takeAnswer);
+    QDBusMessage request = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    request.setArguments({appearanceSpace, colorSchemeKey});
+    auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(request), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, &DesktopAppearance::handleReply);
 }
 
-void DesktopAppearance::takeAnswer(QDBusPendingCallWatcher *watcher)
+void DesktopAppearance::handleReply(QDBusPendingCallWatcher *watcher)
 {
     watcher->deleteLater();
     const QDBusPendingReply<QDBusVariant> reply = *watcher;
     if (reply.isError())
         LogChannel::standard().info(
-            u"The desktop tells no colour scheme: {}", {publicly(reply.error().message())});
+            u"Cannot read the desktop's colour scheme: {}", {publicly(reply.error().message())});
     else
         setColorScheme(colorSchemeOf(QVariant::fromValue(reply.value())));
 }
 
-void DesktopAppearance::takeSetting(const QDBusMessage &signal)
+void DesktopAppearance::handleSetting(const QDBusMessage &signal)
 {
     const QVariantList arguments = signal.arguments();
     if (arguments.value(0) == appearanceSpace && arguments.value(1) == colorSchemeKey)

@@ -1,17 +1,25 @@
 // SPDX-License-Identifier: MIT
-// DesktopAppearance gives the program the dark or light colours that the user wants, and follows every
-// change. It asks the desktop portal (org.freedesktop.portal.Settings, color-scheme in
-// org.freedesktop.appearance) without ever waiting for it; without a portal the program keeps the desktop's
-// palette. Thread: main.  Owner: main() of a program with windows.
+// DesktopAppearance gives the program the dark or light colours that the user prefers, and follows changes.
+// It asks the desktop portal (color-scheme in org.freedesktop.appearance of org.freedesktop.portal.Settings)
+// without ever blocking; without a portal the program keeps the desktop's palette.
+// Thread: main.  Owner: main() of a program with windows.
 #pragma once
-
-#include "platform/views/widgets/ColorSchemePalette.h"
 
 #include <QDBusConnection>
 #include <QObject>
 
 class QDBusMessage;
 class QDBusPendingCallWatcher;
+
+enum class ColorScheme {
+    NoPreference,
+    Dark,
+    Light,
+};
+
+/// Sets the program's palette: that of the desktop if it is of the wanted scheme, otherwise one of
+/// Quillbay's.
+void applyColorScheme(ColorScheme scheme);
 
 class DesktopAppearance : public QObject {
     Q_OBJECT
@@ -26,11 +34,11 @@ Q_SIGNALS:
     void colorSchemeDidChange();
 
 private Q_SLOTS:
-    void takeSetting(const QDBusMessage &signal);
+    void handleSetting(const QDBusMessage &signal);
 
 private:
-    void ask();
-    void takeAnswer(QDBusPendingCallWatcher *watcher);
+    void requestColorScheme();
+    void handleReply(QDBusPendingCallWatcher *watcher);
     void setColorScheme(ColorScheme scheme);
 
     QDBusConnection m_bus;

@@ -1,22 +1,45 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/DocumentChooser.h"
 
-#include "platform/views/widgets/FileFilter.h"
-
 #include <QDir>
 #include <QFileInfo>
+#include <QMimeDatabase>
 
 #include <algorithm>
+
+namespace {
+
+/// In the form of QFileDialog::setNameFilter(): the name patterns of the MIME types and of all types derived
+/// from them. All files if there are none.
+QString fileFilter(const QStringList &mimeTypes)
+{
+    QStringList patterns;
+    for (const QMimeType &type : QMimeDatabase().allMimeTypes()) {
+        const bool isWanted = std::any_of(
+            mimeTypes.begin(), mimeTypes.end(), [&](const QString &wanted) { return type.inherits(wanted); });
+        if (isWanted)
+            patterns.append(type.globPatterns());
+    }
+    // The chooser would split patterns at blanks.
+    patterns.removeIf(
+        [](const QString &pattern) { return pattern.contains(u' ') || pattern.contains(u')'); });
+    patterns.removeDuplicates();
+    if (patterns.isEmpty())
+        patterns.append(QStringLiteral("*"));
+    return QStringLiteral("Documents (%1)").arg(patterns.join(u' '));
+}
+
+} // namespace
 
 DocumentChooser::DocumentChooser(const OpenPanel &panel)
     : m_packageSuffixes(panel.packageSuffixes)
 {
     setFileMode(panel.allowsMultipleSelection ? ExistingFiles : ExistingFile);
-    setDirectory(QDir::home()); // a program that the bus starts is nowhere in particular
+    setDirectory(QDir::home()); // the bus starts programs in no useful folder
     if (!panel.allowedFileTypes.isEmpty())
-        setNameFilter(fileFilterOf(panel.allowedFileTypes));
+        setNameFilter(fileFilter(panel.allowedFileTypes));
     setOption(HideNameFilterDetails);
-    // A double click has Qt's chooser and those of most desktops enter the folder first.
+    // After a double click Qt's chooser, and that of most desktops, enters the folder first.
     connect(this, &QFileDialog::directoryEntered, this, [this](const QString &folder) {
         if (isPackage(folder))
             choosePackage(folder);
@@ -30,7 +53,7 @@ QList<QUrl> DocumentChooser::chosenUrls() const
 
 bool DocumentChooser::isPackage(const QString &path) const
 {
-    // Behind a closing slash QFileInfo would see an empty name.
+    // After a trailing slash QFileInfo would see an empty name.
     const QFileInfo file(QDir::cleanPath(path));
     return m_packageSuffixes.contains(file.suffix(), Qt::CaseInsensitive) && file.isDir();
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // DocumentChooser is the desktop's file chooser for an open panel. Folders that are documents, such as rich
-// text with attachments, are chosen like files, however the user opens them: by a double click, by the
-// button, by the Return key, or by typing their names. Thread: main.  Owner: whoever shows it.
+// text with attachments, are chosen like files: by double click, button, Return key or typed name. Thread:
+// main.  Owner: WidgetDesktop, while it is open.
 #pragma once
 
 #include "platform/views/Desktop.h"
@@ -14,7 +14,7 @@ class DocumentChooser : public QFileDialog {
 public:
     explicit DocumentChooser(const OpenPanel &panel);
 
-    /// Once the dialog has been accepted.
+    /// Valid once the dialog has been accepted.
     [[nodiscard]] QList<QUrl> chosenUrls() const;
 
 protected:
@@ -25,5 +25,5 @@ private:
     void choosePackage(const QString &path);
 
     const QStringList m_packageSuffixes;
-    QList<QUrl> m_chosenUrls; // where they are not those that the dialog has selected
+    QList<QUrl> m_chosenUrls; // packages; empty: those that the dialog has selected
 };

@@ -9,8 +9,8 @@
 
 namespace {
 
-// The coordinates of X11 have 16 bits; sums of two of these still fit into an int.
-constexpr double farthest = 1 << 20;
+// Beyond the 16-bit coordinates of X11; sums of two still fit into an int.
+constexpr double maxCoordinate = 1 << 20;
 
 int bottomOf(const QRect &screen)
 {
@@ -19,19 +19,19 @@ int bottomOf(const QRect &screen)
 
 } // namespace
 
-int roundedToPixel(double points)
+int roundToPixel(double points)
 {
     if (std::isnan(points))
         return 0;
-    return int(std::floor(std::clamp(points, -farthest, farthest) + 0.5));
+    return int(std::floor(std::clamp(points, -maxCoordinate, maxCoordinate) + 0.5));
 }
 
 QRect pixelRectInWindow(const QRectF &rect, int windowHeight)
 {
-    const int left = roundedToPixel(rect.x());
-    const int right = roundedToPixel(rect.x() + rect.width());
-    const int bottom = roundedToPixel(rect.y());
-    const int top = roundedToPixel(rect.y() + rect.height());
+    const int left = roundToPixel(rect.x());
+    const int right = roundToPixel(rect.x() + rect.width());
+    const int bottom = roundToPixel(rect.y());
+    const int top = roundToPixel(rect.y() + rect.height());
     return {left, windowHeight - top, right - left, top - bottom};
 }
 
@@ -42,11 +42,11 @@ QRect primaryScreenRect()
 
 QRect pixelRectOnScreen(const QRectF &frame, const QRect &primaryScreen)
 {
-    // A window of the screen has at least one pixel.
-    const int width = std::max(1, roundedToPixel(frame.width()));
-    const int height = std::max(1, roundedToPixel(frame.height()));
-    return {primaryScreen.x() + roundedToPixel(frame.x()),
-        bottomOf(primaryScreen) - roundedToPixel(frame.y()) - height, width, height};
+    // A window on the screen has at least one pixel.
+    const int width = std::max(1, roundToPixel(frame.width()));
+    const int height = std::max(1, roundToPixel(frame.height()));
+    return {primaryScreen.x() + roundToPixel(frame.x()),
+        bottomOf(primaryScreen) - roundToPixel(frame.y()) - height, width, height};
 }
 
 QRectF frameOnScreen(const QRect &pixels, const QRect &primaryScreen, const QRectF &former)

@@ -1,28 +1,28 @@
 // SPDX-License-Identifier: MIT
-// Where rectangles of points lie in Qt's coordinates: whole device-independent pixels from the top left. A
-// point is one device-independent pixel. The origin of the screen is the bottom left corner of the primary
-// screen; other screens of the desktop reach into negative coordinates. Thread: main; values.
+// Conversions between frames and Qt's coordinates: whole device-independent pixels from the top left. A point
+// is one such pixel. On the screen, points count from the bottom left corner of the primary screen; other
+// screens may have negative coordinates. Thread: main; values.
 #pragma once
 
 #include "platform/views/Geometry.h"
 
 #include <QRect>
 
-/// The nearest whole number; of two that are equally near, the larger one, whatever the sign, so that a
-/// length of whole points keeps it wherever it starts.
-int roundedToPixel(double points);
+/// The nearest whole number. Halves are rounded up, negative ones too, so that a length of whole points stays
+/// the same wherever it starts.
+int roundToPixel(double points);
 
-/// In a window of that height, which its bottom left corner is the origin of. Every edge is rounded on its
-/// own: rectangles that touch still do.
+/// The pixels of a rectangle whose origin is the bottom left corner of a window of that height. Each edge is
+/// rounded on its own, so that adjacent rectangles stay adjacent.
 QRect pixelRectInWindow(const QRectF &rect, int windowHeight);
 
-/// In Qt's coordinates.
+/// The geometry of the primary screen in Qt's coordinates.
 QRect primaryScreenRect();
 
-/// Where a window with that frame lies on the screen: its bottom left corner and its size are rounded.
-/// primaryScreen: its rectangle in Qt's coordinates.
+/// The pixels of a window with that frame: its bottom left corner and its size are rounded. primaryScreen: as
+/// of primaryScreenRect().
 QRect pixelRectOnScreen(const QRectF &frame, const QRect &primaryScreen);
 
-/// The frame of a window that lies there. What of the former frame gives the same pixels stays as it was,
-/// with its fractions.
+/// The frame of a window with those pixels. The origin or size of the former frame is kept, with its
+/// fractions, if it gives the same pixels.
 QRectF frameOnScreen(const QRect &pixels, const QRect &primaryScreen, const QRectF &former);

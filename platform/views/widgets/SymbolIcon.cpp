@@ -77,7 +77,7 @@ private:
 
 } // namespace
 
-QIcon SymbolIcon::named(const QString &name)
+QIcon SymbolIcon::load(const QString &name)
 {
     if (name == QStringLiteral("quillbay-close"))
         return QIcon(new SymbolEngine(drawCross));

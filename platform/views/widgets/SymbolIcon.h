@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
-// SymbolIcon is a symbol that Quillbay draws itself, in the colour of the text of buttons: the same on every
-// desktop, sharp at every scale, visible on light and on dark ground.
-// Thread: main.
+// The symbols that Quillbay draws itself, in the text colour of buttons: the same on every desktop, sharp at
+// every scale, visible in light and dark themes. Thread: main.
 #pragma once
 
 #include <QIcon>
 
 namespace SymbolIcon {
 
-/// A null icon for names that are none of Quillbay's symbols.
-QIcon named(const QString &name);
+/// A null icon for names other than those of Quillbay's symbols.
+QIcon load(const QString &name);
 
 } // namespace SymbolIcon

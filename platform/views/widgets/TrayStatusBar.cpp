@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/TrayStatusBar.h"
 
+#include "platform/views/widgets/LabelText.h"
 #include "platform/views/widgets/PixelGeometry.h"
-#include "platform/views/widgets/PlainText.h"
 #include "platform/views/widgets/SymbolIcon.h"
 
 #include <QGuiApplication>
@@ -21,7 +21,7 @@ public:
         StatusItem *const shown = m_item.get();
         QSystemTrayIcon *const icon = m_icon;
         const auto update = [shown, icon] {
-            icon->setIcon(SymbolIcon::named(shown->imageName()));
+            icon->setIcon(SymbolIcon::load(shown->imageName()));
             icon->setToolTip(plainToolTip(shown->toolTip()));
         };
         QObject::connect(shown, &StatusItem::faceDidChange, icon, update);
@@ -29,7 +29,7 @@ public:
             [shown, icon](QSystemTrayIcon::ActivationReason reason) {
                 if (reason != QSystemTrayIcon::Trigger)
                     return;
-                shown->setButtonFrame(buttonFrameOf(*icon));
+                shown->setButtonFrame(iconFrame(*icon));
                 shown->performClick();
             });
         update();
@@ -39,12 +39,12 @@ public:
     ~TrayItem() override
     {
         m_icon->hide();
-        m_icon->deleteLater(); // it may be its own click that is being handled
+        m_icon->deleteLater(); // its own click may be what is being handled
     }
 
 private:
-    /// Only the X11 tray says where its icons are.
-    static std::optional<QRectF> buttonFrameOf(const QSystemTrayIcon &icon)
+    /// Only the X11 tray reports where its icons are.
+    static std::optional<QRectF> iconFrame(const QSystemTrayIcon &icon)
     {
         const QRect pixels = icon.geometry();
         if (pixels.isEmpty())
@@ -53,7 +53,7 @@ private:
     }
 
     std::shared_ptr<StatusItem> m_item;
-    QSystemTrayIcon *m_icon; // ends with this, but later
+    QSystemTrayIcon *m_icon; // deleted by the event loop, after this
 };
 
 } // namespace

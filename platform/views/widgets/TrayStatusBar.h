@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// TrayStatusBar is the desktop's tray as a bar of status items: by status notifier items where somebody on
-// the session bus shows them, by the X11 tray otherwise. On a desktop with neither, items are simply not
-// there. Thread: main.  Owner: main() of a program with windows, behind its QApplication.
+// TrayStatusBar is the desktop's tray: status notifier items if a host for them is on the session bus, the
+// X11 tray otherwise. On a desktop with neither, items are invisible. Thread: main.  Owner: main() of a
+// program with windows; outlived by its QApplication.
 #pragma once
 
 #include "platform/views/StatusItem.h"

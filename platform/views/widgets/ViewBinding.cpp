@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/ViewBinding.h"
 
-#include "platform/views/ScrollView.h"
 #include "platform/views/Controls.h"
+#include "platform/views/ScrollView.h"
 #include "platform/views/Window.h"
 #include "platform/views/widgets/PixelGeometry.h"
 #include "platform/views/widgets/ViewWidgets.h"
@@ -18,10 +18,10 @@
 
 namespace {
 
-constexpr double wheelStep = 120; // of QWheelEvent::angleDelta(), a notch of an ordinary wheel
+constexpr double wheelStep = 120; // QWheelEvent::angleDelta() for one notch of a mouse wheel
 
-/// In points: as far as a touchpad says, or the user's number of lines for every notch.
-ScrollWheelEvent scrollOf(const QWheelEvent &event, const QWidget &widget)
+/// In points: the distance that a touchpad reports, or the user's number of lines per notch of a wheel.
+ScrollWheelEvent scrollEvent(const QWheelEvent &event, const QWidget &widget)
 {
     if (!event.pixelDelta().isNull())
         return {double(event.pixelDelta().x()), double(event.pixelDelta().y())};
@@ -47,7 +47,7 @@ ViewBinding::ViewBinding(View &view, QWidget &parent, const WindowBindings &bind
 ViewBinding::~ViewBinding()
 {
     m_subviews.clear();
-    // Later: it may be the widget's own click that has taken the view away.
+    // Deleted later: the widget's own click may have removed the view.
     m_widget->hide();
     m_widget->deleteLater();
 }
@@ -69,7 +69,7 @@ void ViewBinding::followView()
 void ViewBinding::bindSubviews()
 {
     const std::vector<std::shared_ptr<View>> &views = m_view->subviews();
-    size_t kept = 0; // as many as lie where they lay
+    size_t kept = 0; // views whose place in the order is unchanged
     while (kept < std::min(views.size(), m_subviews.size()) && m_subviews[kept]->view() == views[kept].get())
         ++kept;
     std::unordered_map<const View *, std::unique_ptr<ViewBinding>> former;
@@ -80,7 +80,7 @@ void ViewBinding::bindSubviews()
         std::unique_ptr<ViewBinding> &known = former[views[i].get()];
         m_subviews.push_back(
             known ? std::move(known) : std::make_unique<ViewBinding>(*views[i], *m_widget, m_bindings));
-        // The order of widgets is that of the views: which lies above, and which is read first.
+        // Widgets have the order of the views, which is that of stacking and of screen readers.
         m_subviews.back()->m_widget->raise();
     }
 }
@@ -89,7 +89,7 @@ void ViewBinding::layOut(const QPoint &parentOrigin)
 {
     m_parentOrigin = parentOrigin;
     const QRect inWindow = pixelRectInWindow(
-        m_view->convertToWindow(m_view->bounds()), roundedToPixel(m_bindings.window.frame().height()));
+        m_view->convertToWindow(m_view->bounds()), roundToPixel(m_bindings.window.frame().height()));
     m_widget->setGeometry(inWindow.translated(-parentOrigin));
     for (const std::unique_ptr<ViewBinding> &subview : m_subviews)
         subview->layOut(inWindow.topLeft());
@@ -126,7 +126,7 @@ void ViewBinding::fade(int milliseconds)
     QGraphicsOpacityEffect &effect = opacityEffect();
     qDeleteAll(effect.findChildren<QPropertyAnimation *>());
     if (milliseconds <= 0) {
-        // An opaque widget needs no effect, which would draw it into a picture first.
+        // Without the effect an opaque widget is drawn directly, not through a pixmap.
         if (alpha == 1)
             m_widget->setGraphicsEffect(nullptr);
         else
@@ -136,7 +136,7 @@ void ViewBinding::fade(int milliseconds)
     auto *const animation = new QPropertyAnimation(&effect, "opacity", &effect);
     animation->setDuration(milliseconds);
     animation->setEndValue(alpha);
-    // Ends by a call without a duration, which does away with the effect and the animation.
+    // At the end, a call without a duration removes the effect and the animation.
     connect(
         animation, &QPropertyAnimation::finished, this, [this] { fade(0); }, Qt::QueuedConnection);
     animation->start();
@@ -146,6 +146,6 @@ bool ViewBinding::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::Wheel)
         return QObject::eventFilter(watched, event);
-    m_view->scrollWheel(scrollOf(*static_cast<QWheelEvent *>(event), *m_widget));
+    m_view->scrollWheel(scrollEvent(*static_cast<QWheelEvent *>(event), *m_widget));
     return true;
 }

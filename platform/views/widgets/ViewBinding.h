@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// ViewBinding puts one view on the screen: it owns the widget of the view and the bindings of its subviews,
-// and keeps the widget where the view is. Thread: main.  Owner: the binding of the superview, or the window's
-// widget; it ends before control returns to the event loop after the view has gone.
+// ViewBinding shows one view on the screen: it owns the view's widget and the bindings of its subviews, and
+// keeps the widget at the view's place. The widget's content is left to ViewWidgets. Thread: main.  Owner:
+// the binding of the superview, or the window's widget, which destroys it before control returns to the event
+// loop after the view was destroyed.
 #pragma once
 
 #include "platform/views/View.h"
@@ -13,7 +14,7 @@ class QGraphicsOpacityEffect;
 class QWidget;
 class TextMeasurer;
 
-/// What all bindings of one window share.
+/// Shared by all bindings of one window.
 struct WindowBindings {
     const Window &window;
     std::shared_ptr<const TextMeasurer> measurer;
@@ -21,17 +22,17 @@ struct WindowBindings {
 
 class ViewBinding : public QObject {
 public:
-    /// bindings: lives longer.
+    /// bindings: outlives this binding.
     ViewBinding(View &view, QWidget &parent, const WindowBindings &bindings);
     ~ViewBinding() override;
 
     [[nodiscard]] const View *view() const { return m_view; }
 
-    /// Puts the widget and those of all subviews where the views are, now that the window or a superview has
-    /// changed. parentOrigin: the top left corner of the parent in the window's widget.
+    /// Moves the widget and those of all subviews to their views' places, after a change of the window or of
+    /// a superview. parentOrigin: the top left corner of the parent in the window's widget.
     void layOut(const QPoint &parentOrigin);
 
-    /// Gives the measurer of the window to the label that this view may be, and to those below it.
+    /// Gives the window's measurer to all labels among this view and its subviews.
     void setTextMeasurer();
 
 protected:
@@ -46,7 +47,7 @@ private:
 
     QPointer<View> m_view;
     const WindowBindings &m_bindings;
-    QWidget *m_widget; // belongs to its parent, but ends with this
+    QWidget *m_widget; // owned by its parent, but deleted with this
     QPoint m_parentOrigin;
     std::vector<std::unique_ptr<ViewBinding>> m_subviews;
 };

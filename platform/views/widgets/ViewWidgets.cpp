@@ -2,19 +2,210 @@
 #include "platform/views/widgets/ViewWidgets.h"
 
 #include "platform/views/Controls.h"
-#include "platform/views/widgets/PaintedWidget.h"
-#include "platform/views/widgets/PlainText.h"
-#include "platform/views/widgets/SpinnerWidget.h"
+#include "platform/views/widgets/LabelText.h"
 #include "platform/views/widgets/SymbolIcon.h"
 
+#include <QBasicTimer>
 #include <QIcon>
 #include <QLabel>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QPointer>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QTimerEvent>
+#include <QTransform>
+
+#include <algorithm>
 
 namespace {
 
-/// Calls update now and after every one of the signals, as long as the widget lives.
+class WidgetPainter : public Painter {
+public:
+    explicit WidgetPainter(QPainter &painter)
+        : m_painter(painter)
+    {
+    }
+
+    void fillRect(const QRectF &rect, const Color &color) override
+    {
+        m_painter.fillRect(rect,
+            QColor::fromRgbF(float(color.red), float(color.green), float(color.blue), float(color.alpha)));
+    }
+
+private:
+    QPainter &m_painter;
+};
+
+/// From the coordinates of the view to those of its widget. The bounds fill the widget exactly, even if the
+/// widget's edges were rounded.
+QTransform transformToWidget(const View &view, const QSize &size)
+{
+    const QRectF bounds = view.bounds();
+    if (bounds.width() <= 0 || bounds.height() <= 0)
+        return {};
+    QTransform transform;
+    if (!view.isFlipped()) {
+        transform.translate(0, size.height());
+        transform.scale(1, -1);
+    }
+    transform.scale(size.width() / bounds.width(), size.height() / bounds.height());
+    transform.translate(-bounds.x(), -bounds.y());
+    return transform;
+}
+
+/// Shows what a view draws. The view may be destroyed first.
+class PaintedWidget : public QWidget {
+public:
+    PaintedWidget(View &view, QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QPointer<View> m_view;
+};
+
+PaintedWidget::PaintedWidget(View &view, QWidget *parent)
+    : QWidget(parent)
+    , m_view(&view)
+{
+}
+
+void PaintedWidget::paintEvent(QPaintEvent *event)
+{
+    if (!m_view)
+        return;
+    QPainter painter(this);
+    const QTransform transform = transformToWidget(*m_view, size());
+    painter.setTransform(transform, true);
+    WidgetPainter viewPainter(painter);
+    m_view->drawRect(transform.inverted().mapRect(QRectF(event->rect())), viewPainter);
+}
+
+class BoxWidget : public PaintedWidget {
+public:
+    BoxWidget(Box &box, QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QPointer<Box> m_box;
+};
+
+BoxWidget::BoxWidget(Box &box, QWidget *parent)
+    : PaintedWidget(box, parent)
+    , m_box(&box)
+{
+}
+
+void BoxWidget::paintEvent(QPaintEvent *event)
+{
+    PaintedWidget::paintEvent(event);
+    if (!m_box || m_box->kind() != Box::Kind::Separator)
+        return;
+    QRect line = rect();
+    if (line.width() >= line.height())
+        line = QRect(0, height() / 2, width(), 1);
+    else
+        line = QRect(width() / 2, 0, 1, height());
+    QPainter(this).fillRect(line, palette().color(QPalette::Mid));
+}
+
+constexpr int spokes = 12;
+constexpr int turnTime = 1000; // milliseconds
+// In fractions of the wheel's radius.
+constexpr double innerEnd = 0.5;
+constexpr double outerEnd = 0.9;
+constexpr double thickness = 0.16;
+
+/// An indeterminate progress bar, drawn as a wheel of fading spokes while it turns and invisible otherwise.
+class SpinnerWidget : public QProgressBar {
+public:
+    explicit SpinnerWidget(QWidget *parent);
+
+    void setTurning(bool turning);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    void updateTimer();
+
+    bool m_turning = false;
+    int m_step = 0; // in spokes
+    QBasicTimer m_timer;
+};
+
+SpinnerWidget::SpinnerWidget(QWidget *parent)
+    : QProgressBar(parent)
+{
+    setRange(0, 0);
+    setTextVisible(false);
+}
+
+void SpinnerWidget::setTurning(bool turning)
+{
+    m_turning = turning;
+    updateTimer();
+    update();
+}
+
+void SpinnerWidget::updateTimer()
+{
+    if (m_turning && isVisible())
+        m_timer.start(turnTime / spokes, this);
+    else
+        m_timer.stop();
+}
+
+void SpinnerWidget::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_timer.timerId()) {
+        QProgressBar::timerEvent(event);
+        return;
+    }
+    m_step = (m_step + 1) % spokes;
+    update();
+}
+
+void SpinnerWidget::showEvent(QShowEvent *event)
+{
+    QProgressBar::showEvent(event);
+    updateTimer();
+}
+
+void SpinnerWidget::hideEvent(QHideEvent *event)
+{
+    QProgressBar::hideEvent(event);
+    updateTimer();
+}
+
+void SpinnerWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    if (!m_turning)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QRectF(rect()).center());
+    const double radius = std::min(width(), height()) / 2.0;
+    QColor color = palette().color(QPalette::WindowText);
+    for (int spoke = 0; spoke < spokes; ++spoke) {
+        const int age = (m_step - spoke + spokes) % spokes;
+        color.setAlphaF(1 - 0.8F * float(age) / (spokes - 1));
+        painter.setPen(QPen(color, radius * thickness, Qt::SolidLine, Qt::RoundCap));
+        painter.save();
+        painter.rotate(360.0 * spoke / spokes);
+        painter.drawLine(QPointF(0, -radius * innerEnd), QPointF(0, -radius * outerEnd));
+        painter.restore();
+    }
+}
+
+/// Calls update now and after each of the signals, as long as the widget lives.
 template <typename ViewClass, typename Update, typename... Signals>
 void follow(ViewClass &view, QWidget *widget, const Update &update, Signals... signalsOfView)
 {
@@ -42,25 +233,25 @@ QWidget *makeLabel(Label &view, QWidget *parent)
     label->setTextInteractionFlags(Qt::NoTextInteraction);
     label->setIndent(0);
     const auto update = [label, &view] {
-        label->setText(QString(view.stringValue()).replace(u'\n', u' ')); // one line
+        label->setText(QString(view.stringValue()).replace(u'\n', u' ')); // labels have one line
         label->setAlignment(qtAlignment(view.alignment()) | Qt::AlignAbsolute);
     };
     follow(view, label, update, &Label::stringValueDidChange, &Label::alignmentDidChange);
     return label;
 }
 
-QIcon iconNamed(const QString &name)
+QIcon loadIcon(const QString &name)
 {
     if (name.isEmpty())
         return {};
-    const QIcon symbol = SymbolIcon::named(name);
+    const QIcon symbol = SymbolIcon::load(name);
     return symbol.isNull() ? QIcon::fromTheme(name) : symbol;
 }
 
 void showFace(QPushButton &button, const Button &view)
 {
-    const QIcon icon = iconNamed(view.iconName());
-    // Where the theme has no such icon, words must do.
+    const QIcon icon = loadIcon(view.iconName());
+    // Falls back to the name where the theme has no such icon.
     QString text = view.title();
     if (text.isEmpty() && icon.isNull())
         text = view.accessibleName();

@@ -2,22 +2,21 @@
 #include "platform/views/widgets/WidgetDesktop.h"
 
 #include "platform/logging/LogChannel.h"
-#include "platform/views/widgets/AnswerGuard.h"
 #include "platform/views/widgets/DocumentChooser.h"
+#include "platform/views/widgets/LabelText.h"
 #include "platform/views/widgets/PixelGeometry.h"
-#include "platform/views/widgets/PlainText.h"
 #include "platform/views/widgets/WindowActivation.h"
 #include "platform/views/widgets/WindowWidget.h"
 
 #include <QApplication>
 #include <QCursor>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -32,39 +31,74 @@ public:
         if (!m_widget)
             return;
         m_widget->hide();
-        m_widget->deleteLater(); // it may be its own click that is being handled
+        m_widget->deleteLater(); // its own click may be what is being handled
     }
 
 private:
-    QPointer<WindowWidget> m_widget; // ends with the application at the latest
+    QPointer<WindowWidget> m_widget; // the application may destroy it first
 };
 
-/// The pixel that the point lies in; the frame of a single point.
+/// Keeps keys from answering a dialog in its first guardedTime. Owned by the dialog.
+class AnswerGuard final : public QObject {
+public:
+    /// clock: outlives the dialog.
+    AnswerGuard(QDialog &dialog, const Clock &clock)
+        : QObject(&dialog)
+        , m_dialog(dialog)
+        , m_clock(clock)
+        , m_start(clock.now())
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride)
+            return false;
+        const auto *const widget = qobject_cast<const QWidget *>(watched);
+        if (!widget || widget->window() != &m_dialog)
+            return false;
+        // A key that has been held down since before never answers.
+        const bool isHeld = type == QEvent::KeyPress && static_cast<const QKeyEvent *>(event)->isAutoRepeat();
+        if (!isHeld && m_clock.now() - m_start >= WidgetDesktop::guardedTime)
+            return false;
+        event->accept(); // an accepted override triggers no shortcut
+        return true;
+    }
+
+private:
+    QDialog &m_dialog;
+    const Clock &m_clock;
+    const Clock::Time m_start;
+};
+
+/// The pixel that contains the point.
 QPoint pixelAt(const QPointF &point)
 {
     return pixelRectOnScreen({point, QSizeF(1, 1)}, primaryScreenRect()).topLeft();
 }
 
-/// Squared pixels from the point to the rectangle, 0 inside.
-double distance(const QPoint &point, const QRect &rect)
+/// In square pixels; 0 inside the rectangle.
+double squaredDistance(const QPoint &point, const QRect &rect)
 {
     const int right = std::max({rect.left() - point.x(), point.x() - rect.right(), 0});
     const int down = std::max({rect.top() - point.y(), point.y() - rect.bottom(), 0});
     return double(right) * right + double(down) * down;
 }
 
-std::unique_ptr<QMessageBox> messageBox(
+std::unique_ptr<QMessageBox> makeMessageBox(
     QMessageBox::Icon icon, const QString &text, const QString &windowTitle)
 {
     auto box = std::make_unique<QMessageBox>(icon, plainWindowTitle(windowTitle), text);
     box->setTextFormat(Qt::PlainText);
     box->setWindowModality(Qt::ApplicationModal);
-    // The windows that the box speaks of float.
+    // The box is about windows that float; it must not be covered by them.
     box->setWindowFlag(Qt::WindowStaysOnTopHint);
     return box;
 }
 
-/// QMessageBox::setTextFormat() leaves out the label of the informative text.
+/// QMessageBox::setTextFormat() does not affect the informative text.
 void showAsPlainText(const QMessageBox &box)
 {
     for (QLabel *const label : box.findChildren<QLabel *>())
@@ -105,7 +139,7 @@ QRectF WidgetDesktop::visibleFrameAt(const QPointF &point) const
     const QList<QScreen *> screens = QGuiApplication::screens();
     const auto *const nearest =
         *std::min_element(screens.begin(), screens.end(), [&](auto *one, auto *other) {
-            return distance(pixel, one->geometry()) < distance(pixel, other->geometry());
+            return squaredDistance(pixel, one->geometry()) < squaredDistance(pixel, other->geometry());
         });
     return frameOnScreen(nearest->availableGeometry(), primaryScreenRect(), {});
 }
@@ -117,13 +151,13 @@ void WidgetDesktop::beep()
 
 void WidgetDesktop::runAlert(const Alert &alert, AlertCompletion completion)
 {
-    std::unique_ptr<QMessageBox> box = messageBox(QMessageBox::Warning, alert.messageText,
+    std::unique_ptr<QMessageBox> box = makeMessageBox(QMessageBox::Warning, alert.messageText,
         alert.windowTitle.isEmpty() ? QGuiApplication::applicationDisplayName() : alert.windowTitle);
     box->setInformativeText(alert.informativeText);
     showAsPlainText(*box);
     QList<QAbstractButton *> buttons;
     for (const QString &title : alert.buttons) {
-        // The rejecting role would let the desktop's style move the button.
+        // With the rejecting role, the desktop's style could move the button.
         buttons.append(
             box->addButton(QString(title).replace(u'&', QStringLiteral("&&")), QMessageBox::AcceptRole));
     }
@@ -142,7 +176,7 @@ void WidgetDesktop::presentError(const QString &text)
         return;
     m_reportedErrors.insert(text);
     std::unique_ptr<QMessageBox> box =
-        messageBox(QMessageBox::Critical, text, QGuiApplication::applicationDisplayName());
+        makeMessageBox(QMessageBox::Critical, text, QGuiApplication::applicationDisplayName());
     box->addButton(QMessageBox::Ok);
     showAlert(std::move(box), [](QDialog &, int) {});
 }
@@ -153,7 +187,7 @@ void WidgetDesktop::beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion
     chooser->setWindowFlag(Qt::WindowStaysOnTopHint);
     chooser->setWindowModality(Qt::NonModal);
     QDialog &shown = *chooser;
-    keep(std::move(chooser), [completion = std::move(completion)](QDialog &dialog, int result) {
+    addDialog(std::move(chooser), [completion = std::move(completion)](QDialog &dialog, int result) {
         const QList<QUrl> urls = static_cast<DocumentChooser &>(dialog).chosenUrls();
         const bool isChosen = result == QDialog::Accepted && !urls.isEmpty();
         completion(isChosen ? std::optional(urls) : std::nullopt);
@@ -164,30 +198,30 @@ void WidgetDesktop::beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion
 void WidgetDesktop::showAlert(std::unique_ptr<QDialog> dialog, Finish finish)
 {
     QDialog &shown = *dialog;
-    keep(std::move(dialog), std::move(finish));
-    new AnswerGuard(shown, m_clock); // belongs to the dialog
+    addDialog(std::move(dialog), std::move(finish));
+    new AnswerGuard(shown, m_clock); // owned by the dialog
     WindowActivation::showForAttention(shown);
 }
 
-void WidgetDesktop::keep(std::unique_ptr<QDialog> dialog, Finish finish)
+void WidgetDesktop::addDialog(std::unique_ptr<QDialog> dialog, Finish finish)
 {
     QDialog *const shown = dialog.get();
     m_dialogs.push_back(std::move(dialog));
     QObject::connect(shown, &QDialog::finished, qApp, [this, shown, finish = std::move(finish)](int result) {
-        const auto ending = finish; // the connection that holds it may end with the dialog
-        ending(*shown, result);
-        forget(*shown);
+        const auto finishCopy = finish; // copied: the connection that holds it may end with the dialog
+        finishCopy(*shown, result);
+        removeDialog(*shown);
         if (m_dialogs.empty() && m_askingEnded)
             m_askingEnded();
     });
 }
 
-void WidgetDesktop::forget(const QDialog &dialog)
+void WidgetDesktop::removeDialog(const QDialog &dialog)
 {
     const auto place = std::find_if(
         m_dialogs.begin(), m_dialogs.end(), [&](const auto &known) { return known.get() == &dialog; });
     if (place == m_dialogs.end())
         return;
-    place->release()->deleteLater(); // it is telling us this
+    place->release()->deleteLater(); // it is the sender of the present signal
     m_dialogs.erase(place);
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// WidgetDesktop is the user's desktop by way of Qt's widgets: real windows, message boxes and the file
-// chooser of the desktop. Thread: main.  Owner: main() of a program with windows, behind its QApplication.
+// WidgetDesktop is the user's desktop by way of Qt's widgets: real windows, message boxes and the desktop's
+// file chooser. Thread: main.  Owner: main() of a program with windows; outlived by its QApplication.
 #pragma once
 
 #include "platform/system/Clock.h"
@@ -16,9 +16,13 @@ class QDialog;
 
 class WidgetDesktop final : public Desktop {
 public:
+    /// For this long keys do not answer an alert or an error, which opens by itself: what the user types was
+    /// meant for the window before it. A click answers at once.
+    static constexpr std::chrono::seconds guardedTime{1};
+
     /// clock: outlives the desktop.
     explicit WidgetDesktop(Clock &clock = systemClock());
-    /// The dialogs that are still open are closed; their completions are not called.
+    /// Closes the dialogs that are still open, without calling their completions.
     ~WidgetDesktop() override;
 
     [[nodiscard]] std::unique_ptr<WindowOnScreen> putOnScreen(std::shared_ptr<Window> window) override;
@@ -34,11 +38,11 @@ public:
 
 private:
     using Finish = std::function<void(QDialog &dialog, int result)>;
-    /// finish: runs when the user is done with the dialog; result: as of QDialog::finished().
-    void keep(std::unique_ptr<QDialog> dialog, Finish finish);
-    /// For what the user has not asked for: leaves the keyboard alone.
+    /// Shows nothing. finish: called when the user has closed the dialog; result: as of QDialog::finished().
+    void addDialog(std::unique_ptr<QDialog> dialog, Finish finish);
+    /// For dialogs that the user has not asked for: does not take the focus.
     void showAlert(std::unique_ptr<QDialog> dialog, Finish finish);
-    void forget(const QDialog &dialog);
+    void removeDialog(const QDialog &dialog);
 
     Clock &m_clock;
     std::vector<std::unique_ptr<QDialog>> m_dialogs;

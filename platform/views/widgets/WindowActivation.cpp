@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/WindowActivation.h"
 
-#include "platform/views/widgets/X11Display.h"
-#include "platform/views/widgets/X11Focus.h"
+#include "platform/views/widgets/X11.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -14,8 +13,8 @@
 
 namespace {
 
-// By then the window manager has decided which window has the keyboard.
-constexpr std::chrono::seconds untilManaged{1};
+// After this time the window manager has decided which window has the focus.
+constexpr std::chrono::seconds mappingTime{1};
 
 QByteArray &nextToken()
 {
@@ -32,18 +31,18 @@ void WindowActivation::setToken(const QByteArray &token)
 
 void WindowActivation::showForAttention(QWidget &window)
 {
-    window.setAttribute(Qt::WA_ShowWithoutActivating); // on X11 a user time of 0, which asks for no focus
+    window.setAttribute(Qt::WA_ShowWithoutActivating); // on X11 a user time of 0: no focus wanted
     window.winId(); // makes the native window
     QWindow *const native = window.windowHandle();
-    // A modal dialog of Qt asks for the keyboard by itself, and some window managers give it to every new
-    // window that takes it at all.
+    // Qt requests the focus for modal dialogs, and some window managers give it to every new window that
+    // accepts it.
     native->setFlag(Qt::WindowDoesNotAcceptFocus);
     window.show();
     window.raise();
-    QTimer::singleShot(untilManaged, native, [native, &window] {
+    QTimer::singleShot(mappingTime, native, [native, &window] {
         native->setFlag(Qt::WindowDoesNotAcceptFocus, false);
-        if (xcb_connection_t *const connection = X11Display::connection())
-            X11Focus(connection, static_cast<quint32>(window.winId())).demandAttention();
+        if (X11::isAvailable())
+            X11::demandAttention(static_cast<quint32>(window.winId()));
         else
             QApplication::alert(&window);
     });
@@ -52,18 +51,12 @@ void WindowActivation::showForAttention(QWidget &window)
 void WindowActivation::showAndActivate(QWidget &window)
 {
     const QByteArray token = std::exchange(nextToken(), {});
-    if (xcb_connection_t *const connection = X11Display::connection()) {
-        const X11Focus focus(connection, static_cast<quint32>(window.winId()));
-        focus.announce(token);
-        window.show();
-        window.raise();
-        window.activateWindow();
-        focus.request(token);
-        return;
-    }
-    if (!token.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", token); // where Qt looks for it
+    if (X11::isAvailable())
+        X11::setStartupToken(static_cast<quint32>(window.winId()), token);
+    else if (!token.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", token); // Qt's Wayland plugin reads it from there
     window.show();
     window.raise();
     window.activateWindow();
+    X11::requestFocus(static_cast<quint32>(window.winId()), token);
 }

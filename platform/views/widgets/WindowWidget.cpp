@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/WindowWidget.h"
 
-#include "platform/views/widgets/LabelTextMeasurer.h"
+#include "platform/views/widgets/LabelText.h"
 #include "platform/views/widgets/PixelGeometry.h"
-#include "platform/views/widgets/PlainText.h"
-#include "platform/views/widgets/PointerState.h"
 #include "platform/views/widgets/WindowActivation.h"
+#include "platform/views/widgets/X11.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -24,13 +23,13 @@
 
 namespace {
 
-// After the program has placed a window, the display may still report former places and sizes for a while.
+// For this long after the program has placed a window, the display may still report former places and sizes.
 constexpr std::chrono::milliseconds settlingTime{300};
-constexpr std::chrono::milliseconds lookForRelease{50};
+constexpr std::chrono::milliseconds dragPollInterval{50};
 
 constexpr float edgeOpacity = 0.25F;
 
-Qt::WindowFlags flagsOf(const Window &window)
+Qt::WindowFlags makeWindowFlags(const Window &window)
 {
     const unsigned style = window.styleMask();
     const bool isFloating = window.level() == WindowLevel::Floating;
@@ -58,9 +57,9 @@ WindowWidget::WindowWidget(std::shared_ptr<Window> window)
 {
     m_settling.setSingleShot(true);
     m_settling.setInterval(settlingTime);
-    connect(&m_settling, &QTimer::timeout, this, &WindowWidget::takeOverGeometry);
-    m_waitingForRelease.setInterval(lookForRelease);
-    connect(&m_waitingForRelease, &QTimer::timeout, this, &WindowWidget::applyFrameOnceReleased);
+    connect(&m_settling, &QTimer::timeout, this, &WindowWidget::adoptGeometry);
+    m_dragPoll.setInterval(dragPollInterval);
+    connect(&m_dragPoll, &QTimer::timeout, this, &WindowWidget::applyFrameAfterDrag);
     const auto performClose = [this] { m_window->performClose(); };
     for (const QKeySequence &key : {QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)})
         connect(new QShortcut(key, this), &QShortcut::activated, m_window.get(), performClose);
@@ -68,7 +67,7 @@ WindowWidget::WindowWidget(std::shared_ptr<Window> window)
     followScreens();
     applyStyle();
     applyFrame();
-    takeOverScreen();
+    adoptScreen();
     bindContent();
     if (m_window->isVisible())
         bringToFront();
@@ -99,8 +98,8 @@ void WindowWidget::followScreens()
         disconnect(m_primaryScreen);
         if (!screen)
             return;
-        m_primaryScreen = connect(screen, &QScreen::geometryChanged, this, &WindowWidget::takeOverGeometry);
-        takeOverGeometry();
+        m_primaryScreen = connect(screen, &QScreen::geometryChanged, this, &WindowWidget::adoptGeometry);
+        adoptGeometry();
     };
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, followPrimary);
     followPrimary(QGuiApplication::primaryScreen());
@@ -118,14 +117,14 @@ void WindowWidget::bindContent()
 
 void WindowWidget::applyStyle()
 {
-    const Qt::WindowFlags flags = flagsOf(*m_window);
+    const Qt::WindowFlags flags = makeWindowFlags(*m_window);
     setAttribute(Qt::WA_ShowWithoutActivating, !m_window->canBecomeKeyWindow());
     applySizeLimits();
     if (flags == windowFlags())
         return;
     const QRect place = geometry();
     setWindowFlags(flags); // hides the widget
-    setGeometry(place); // it would put a title bar there otherwise
+    setGeometry(place); // otherwise Qt would reserve space for a title bar
     m_settling.start();
     if (m_window->isVisible())
         bringToFront();
@@ -143,53 +142,52 @@ void WindowWidget::applySizeLimits()
 
 void WindowWidget::applyFrame()
 {
-    if (m_takingOver)
+    if (m_isAdopting)
         return;
     const bool isPlaced = m_window->frame().topLeft() != m_knownOrigin;
-    if (!isPlaced && isVisible() && PointerState::isPressed()) {
-        // The window manager may be moving the window. A new size in the middle of that would set it back to
+    if (!isPlaced && isVisible() && X11::isButtonPressed()) {
+        // The window manager may be moving the window. A new size during a drag would move the window back to
         // where the drag began, or move its lower edge.
         m_wasReleased = false;
-        m_waitingForRelease.start();
+        m_dragPoll.start();
         return;
     }
-    m_waitingForRelease.stop();
+    m_dragPoll.stop();
     m_knownOrigin = m_window->frame().topLeft();
     const QRect pixels = pixelRectOnScreen(m_window->frame(), primaryScreenRect());
     m_ownPlaces += {geometry().topLeft(), pixels.topLeft()};
     m_settling.start();
-    // Place and size change in one step, so that the window does not jump; only then the size is fixed again.
+    // Widens the limits first, so that place and size change in one step and the window does not jump.
     setMinimumSize(size().boundedTo(pixels.size()));
     setMaximumSize(size().expandedTo(pixels.size()));
     setGeometry(pixels);
     applySizeLimits();
 }
 
-/// The drag has ended when no button is down and the window manager has let go of the pointer; the place that
-/// it reports last is known one look later.
-void WindowWidget::applyFrameOnceReleased()
+/// The drag has ended when no button is pressed and the window manager has released the pointer; the last
+/// place that it reports has arrived one poll later.
+void WindowWidget::applyFrameAfterDrag()
 {
-    const bool isReleased =
-        !PointerState::isPressed() && !PointerState::isGrabbed(static_cast<quint32>(winId()));
+    const bool isReleased = !X11::isButtonPressed() && !X11::isPointerGrabbed(static_cast<quint32>(winId()));
     if (!std::exchange(m_wasReleased, isReleased) || !isReleased)
         return;
-    m_waitingForRelease.stop();
-    takeOverGeometry();
+    m_dragPoll.stop();
+    adoptGeometry();
     applyFrame();
 }
 
-void WindowWidget::takeOverGeometry()
+void WindowWidget::adoptGeometry()
 {
     if (!isVisible() || isMinimized() || !windowHandle())
         return;
-    // While the display may still report the places that the program gave the window, any other place is one
-    // to which the user has moved it.
+    // While the display may still report places that the program gave the window, only a different place
+    // shows that the user has moved it.
     if (!m_settling.isActive())
         m_ownPlaces.clear();
     else if (m_ownPlaces.contains(windowHandle()->geometry().topLeft()))
         return;
-    const QScopedValueRollback guard(m_takingOver, true);
-    // Place and size reach the widget one after the other, its native window at once.
+    const QScopedValueRollback guard(m_isAdopting, true);
+    // The native window has place and size at once; the widget gets them one after the other.
     QRectF frame = frameOnScreen(windowHandle()->geometry(), primaryScreenRect(), m_window->frame());
     if (!(m_window->styleMask() & Window::resizable))
         frame.setSize(m_window->frame().size());
@@ -197,11 +195,11 @@ void WindowWidget::takeOverGeometry()
     m_window->setFrame(frame, false, false);
 }
 
-void WindowWidget::takeOverScreen()
+void WindowWidget::adoptScreen()
 {
     m_window->setBackingScaleFactor(devicePixelRatioF());
     auto measurer = std::make_shared<const LabelTextMeasurer>(*this);
-    if (m_measurer && m_measurer->measuresAs(*measurer))
+    if (m_measurer && m_measurer->measuresLike(*measurer))
         return;
     m_measurer = std::move(measurer);
     m_bindings.measurer = m_measurer;
@@ -223,36 +221,36 @@ void WindowWidget::bringToFront()
 
 bool WindowWidget::event(QEvent *event)
 {
-    const bool isHandled = QWidget::event(event);
+    const bool isRecognized = QWidget::event(event);
     switch (event->type()) {
     case QEvent::Show:
     case QEvent::ScreenChangeInternal:
     case QEvent::ApplicationFontChange:
     case QEvent::FontChange:
     case QEvent::StyleChange:
-        takeOverScreen();
+        adoptScreen();
         break;
     default:
         break;
     }
-    return isHandled;
+    return isRecognized;
 }
 
 void WindowWidget::moveEvent(QMoveEvent *event)
 {
     QWidget::moveEvent(event);
-    takeOverGeometry();
+    adoptGeometry();
 }
 
 void WindowWidget::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    takeOverGeometry();
+    adoptGeometry();
 }
 
 void WindowWidget::closeEvent(QCloseEvent *event)
 {
-    event->ignore(); // the window hides the widget, if its owner lets it
+    event->ignore(); // the window hides the widget if it does close
     m_window->performClose();
 }
 
@@ -267,10 +265,10 @@ void WindowWidget::mouseMoveEvent(QMouseEvent *event)
 {
     if (!m_pressedAt || !(event->buttons() & Qt::LeftButton))
         return;
-    const QPoint way = event->globalPosition().toPoint() - *m_pressedAt;
-    if (way.manhattanLength() < QApplication::startDragDistance())
+    const QPoint distance = event->globalPosition().toPoint() - *m_pressedAt;
+    if (distance.manhattanLength() < QApplication::startDragDistance())
         return;
-    m_pressedAt.reset(); // from here on the window manager has the pointer
+    m_pressedAt.reset(); // from here on the window manager moves the window
     windowHandle()->startSystemMove();
 }
 
@@ -285,7 +283,7 @@ void WindowWidget::contextMenuEvent(QContextMenuEvent *event)
         return;
     auto *const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    // Qt's own word, in the user's language.
+    // Qt's own text, in the user's language.
     QAction *const action = menu->addAction(QCoreApplication::translate("QWidgetTextControl", "&Copy"));
     action->setShortcut(QKeySequence::Copy);
     connect(action, &QAction::triggered, this, &WindowWidget::copy);
@@ -297,7 +295,7 @@ void WindowWidget::paintEvent(QPaintEvent *event)
     QWidget::paintEvent(event);
     if (!(windowFlags() & Qt::FramelessWindowHint))
         return;
-    // A hair line in place of the window manager's frame: else the window has no edge on its own colour.
+    // A hairline instead of the window manager's frame: the window needs an edge on a similar background.
     QPainter painter(this);
     QColor line = palette().color(QPalette::WindowText);
     line.setAlphaF(edgeOpacity);

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// WindowWidget shows a window on the screen: a real top-level widget that follows the window and its views,
-// and tells them what the user does. Where windows cannot know their place, as on Wayland, the origin of the
-// frame is only a wish. Thread: main.  Owner: whoever opens windows; shares the ownership of the window.
+// WindowWidget shows a window on the screen: a top-level widget that follows the window and its views, and
+// reports what the user does. Where windows cannot choose their place, as on Wayland, the frame's origin has
+// no effect. Thread: main.  Owner: WidgetDesktop's WindowOnScreen; shares the ownership of the window.
 //
-// - The content of the widget is the frame, without the title bar: see PixelGeometry.h for points and pixels.
+// - The widget covers the frame, without the title bar; PixelGeometry.h relates points and pixels.
 // - A window without a title bar is frameless; a floating one is a tool window above all others.
-// - What the user, the window manager or another primary screen does to the place and the size becomes the
-// frame
-//   of the window. Without the style resizable the window keeps its size.
-// - Escape and Ctrl+W do what the window manager's close does.
+// - The frame of the window follows when the user, the window manager or a change of the primary screen moves
+// or
+//   resizes the widget. Without the style resizable the window keeps its size.
+// - Escape and Ctrl+W act like the window manager's close.
 // - The labels of the window get a text measurer, and a new one whenever the user's font or the scale
 // changes;
-//   Window::textMetricsDidChange() then tells so.
+//   then the window emits textMetricsDidChange().
 #pragma once
 
 #include "platform/views/Window.h"
@@ -35,8 +35,8 @@ public:
 
     [[nodiscard]] const Window &window() const { return *m_window; }
 
-    /// What Ctrl+C does: puts the window's content to copy on the clipboard, in all its forms. Without a
-    /// provider, or where it gives nothing, the clipboard stays as it is.
+    /// Acts like Ctrl+C: puts the window's content to copy on the clipboard, in all its forms. Without such
+    /// content the clipboard stays unchanged.
     void copy();
 
 protected:
@@ -56,10 +56,10 @@ private:
     void bindContent();
     void applyStyle();
     void applyFrame();
-    void applyFrameOnceReleased();
+    void applyFrameAfterDrag();
     void applySizeLimits();
-    void takeOverGeometry();
-    void takeOverScreen();
+    void adoptGeometry();
+    void adoptScreen();
     void bringToFront();
 
     std::shared_ptr<Window> m_window;
@@ -67,12 +67,12 @@ private:
     std::shared_ptr<const LabelTextMeasurer> m_measurer;
     std::unique_ptr<ViewBinding> m_content;
     QShortcut *m_copyShortcut;
-    QTimer m_settling;
-    QList<QPoint> m_ownPlaces; // in pixels; where the program has had the window since it began to settle
-    QTimer m_waitingForRelease; // while the window may be in the user's hand
-    bool m_wasReleased = false; // at the last look
-    QPointF m_knownOrigin; // of the frame, as the display was told or has told
-    bool m_takingOver = false;
+    QTimer m_settling; // runs while the display may report former places
+    QList<QPoint> m_ownPlaces; // in pixels; places that the program gave the window while it settles
+    QTimer m_dragPoll; // runs while the user may be dragging the window
+    bool m_wasReleased = false; // at the last poll
+    QPointF m_knownOrigin; // of the frame, as last sent to or received from the display
+    bool m_isAdopting = false;
     std::optional<QPoint> m_pressedAt;
     QMetaObject::Connection m_primaryScreen;
 };

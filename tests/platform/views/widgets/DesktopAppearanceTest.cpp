@@ -47,7 +47,7 @@ protected:
     QDBusConnection m_bus;
 };
 
-TEST_F(DesktopAppearanceTest, TakesTheSchemeOfTheDesktop)
+TEST_F(DesktopAppearanceTest, UsesTheSchemeOfTheDesktop)
 {
     const QPalette own = QApplication::palette();
     FakePortal portal(1);
@@ -60,7 +60,7 @@ TEST_F(DesktopAppearanceTest, TakesTheSchemeOfTheDesktop)
     EXPECT_EQ(QApplication::palette(), own);
 }
 
-TEST_F(DesktopAppearanceTest, FollowsItWhileWindowsAreOpen)
+TEST_F(DesktopAppearanceTest, FollowsTheSchemeWhileWindowsAreOpen)
 {
     FakePortal portal(2);
     const DesktopAppearance appearance(m_bus);
@@ -81,7 +81,7 @@ TEST_F(DesktopAppearanceTest, FollowsItWhileWindowsAreOpen)
     EXPECT_TRUE(waitUntil([&] { return !isDark(shown.widgetOf(label).palette()); }));
 }
 
-TEST_F(DesktopAppearanceTest, LeavesTheDesktopsOwnPaletteWhereItIsOfThatScheme)
+TEST_F(DesktopAppearanceTest, KeepsADesktopPaletteOfTheWantedScheme)
 {
     const QPalette own = QApplication::palette();
     ASSERT_FALSE(isDark(own));
@@ -91,19 +91,20 @@ TEST_F(DesktopAppearanceTest, LeavesTheDesktopsOwnPaletteWhereItIsOfThatScheme)
     EXPECT_EQ(QApplication::palette(), own);
 }
 
-TEST_F(DesktopAppearanceTest, WithoutAPortalThePaletteStaysAsItIsUntilOneComes)
+TEST_F(DesktopAppearanceTest, KeepsThePaletteUntilAPortalStarts)
 {
     const QPalette own = QApplication::palette();
     const RecordingLogSink log;
     const DesktopAppearance appearance(m_bus);
     EXPECT_TRUE(waitUntil([&] { return !log.messages().isEmpty(); }));
-    EXPECT_THAT(log.messages().constFirst().toStdString(), ::testing::HasSubstr("no colour scheme"));
+    EXPECT_THAT(log.messages().constFirst().toStdString(),
+        ::testing::HasSubstr("Cannot read the desktop's colour scheme"));
     EXPECT_EQ(QApplication::palette(), own);
     const FakePortal portal(1);
     EXPECT_TRUE(waitUntil([&] { return appearance.colorScheme() == ColorScheme::Dark; }));
 }
 
-TEST_F(DesktopAppearanceTest, WithoutABusThePaletteStaysAsItIs)
+TEST_F(DesktopAppearanceTest, KeepsThePaletteWithoutABus)
 {
     const QPalette own = QApplication::palette();
     const DesktopAppearance appearance(QDBusConnection(QStringLiteral("no such connection")));
@@ -111,7 +112,7 @@ TEST_F(DesktopAppearanceTest, WithoutABusThePaletteStaysAsItIs)
     EXPECT_EQ(QApplication::palette(), own);
 }
 
-TEST_F(DesktopAppearanceTest, TakesNoNoticeOfOtherSettingsAndStrangeValues)
+TEST_F(DesktopAppearanceTest, IgnoresOtherSettingsAndInvalidValues)
 {
     FakePortal portal(1);
     const DesktopAppearance appearance(m_bus);

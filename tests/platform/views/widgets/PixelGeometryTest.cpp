@@ -14,13 +14,13 @@ const QRect screen(0, 0, 1280, 800);
 
 TEST(PixelGeometry, RoundsHalvesUpOnBothSidesOfZero)
 {
-    EXPECT_EQ(roundedToPixel(5.5), 6);
-    EXPECT_EQ(roundedToPixel(5.49), 5);
-    EXPECT_EQ(roundedToPixel(-5.5), -5);
-    EXPECT_EQ(roundedToPixel(-5.51), -6);
-    EXPECT_EQ(roundedToPixel(std::numeric_limits<double>::quiet_NaN()), 0);
-    EXPECT_EQ(roundedToPixel(1e300), 1 << 20);
-    EXPECT_EQ(roundedToPixel(-std::numeric_limits<double>::infinity()), -(1 << 20));
+    EXPECT_EQ(roundToPixel(5.5), 6);
+    EXPECT_EQ(roundToPixel(5.49), 5);
+    EXPECT_EQ(roundToPixel(-5.5), -5);
+    EXPECT_EQ(roundToPixel(-5.51), -6);
+    EXPECT_EQ(roundToPixel(std::numeric_limits<double>::quiet_NaN()), 0);
+    EXPECT_EQ(roundToPixel(1e300), 1 << 20);
+    EXPECT_EQ(roundToPixel(-std::numeric_limits<double>::infinity()), -(1 << 20));
 }
 
 TEST(PixelGeometry, CountsFromTheTopOfTheWindow)

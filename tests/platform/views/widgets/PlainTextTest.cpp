@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Names of files that look like markup, in every place where a window shows a text of the user's.
-#include "platform/views/widgets/PlainText.h"
+#include "platform/views/widgets/LabelText.h"
 
 #include "platform/views/Controls.h"
 #include "tests/platform/views/widgets/ShownWindow.h"

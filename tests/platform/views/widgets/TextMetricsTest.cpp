@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/Controls.h"
-#include "platform/views/widgets/LabelTextMeasurer.h"
+#include "platform/views/widgets/LabelText.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
 
 #include <QLabel>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Status items on a desktop without a tray, and their pictures. With a tray: tests/watching/on_screen.
+// Status items on a desktop without a tray, and their pictures. With a tray: tests/watching/windows.
 #include "platform/views/widgets/TrayStatusBar.h"
 
 #include "platform/views/widgets/SymbolIcon.h"
@@ -10,7 +10,7 @@
 #include <QPixmap>
 #include <QSystemTrayIcon>
 
-TEST(TrayStatusBar, WithoutATrayAnItemIsSimplyNotThere)
+TEST(TrayStatusBar, IsInvisibleOnADesktopWithoutATray)
 {
     ASSERT_FALSE(QSystemTrayIcon::isSystemTrayAvailable());
     TrayStatusBar bar;
@@ -25,9 +25,9 @@ TEST(TrayStatusBar, WithoutATrayAnItemIsSimplyNotThere)
     EXPECT_EQ(item.use_count(), 1);
 }
 
-TEST(TrayStatusBar, ThePictureIsDrawnInEverySize)
+TEST(TrayStatusBar, DrawsTheIconInEverySize)
 {
-    const QIcon icon = SymbolIcon::named(QStringLiteral("MenubarIcon"));
+    const QIcon icon = SymbolIcon::load(QStringLiteral("MenubarIcon"));
     ASSERT_FALSE(icon.isNull());
     for (const int side : {16, 22, 48}) {
         const QImage image = icon.pixmap(side, side).toImage();

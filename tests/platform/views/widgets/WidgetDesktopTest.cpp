@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/WidgetDesktop.h"
 
-#include "platform/views/widgets/AnswerGuard.h"
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/views/widgets/OtherProgram.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
@@ -132,7 +131,7 @@ TEST_F(WidgetDesktopTest, AlertsTellWhichButtonWasPressed)
     const std::vector<std::pair<const char *, int>> keys{{"Return", 0}, {"Escape", 1}, {"Tab", 1}};
     for (const auto &[key, button] : keys) {
         runAlert();
-        clock.advance(AnswerGuard::guardedTime);
+        clock.advance(WidgetDesktop::guardedTime);
         activate(*waitForDialog<QMessageBox>());
         QStringList presses{QStringLiteral("key"), QString::fromLatin1(key)};
         if (qstrcmp(key, "Tab") == 0)
@@ -171,7 +170,7 @@ TEST_F(WidgetDesktopTest, NoKeyAnswersAnAlertInItsFirstSecond)
     activate(box);
     int keys = 0;
     KeyCounter counter(keys);
-    clock.advance(AnswerGuard::guardedTime - std::chrono::milliseconds(1));
+    clock.advance(WidgetDesktop::guardedTime - std::chrono::milliseconds(1));
     for (const char *const key : {"Return", "space", "Escape", "Tab", "x"})
         press(key);
     EXPECT_TRUE(waitUntil([&] { return keys == 5; }));

@@ -2,8 +2,8 @@
 // A program with one window, for tests that need another scale or a process of its own. It reads its window
 // from the interface file of its first argument, prints a line of facts whenever it is asked by a line of
 // input, and ends with its input.
-#include "platform/views/InterfaceFile.h"
 #include "platform/views/Controls.h"
+#include "platform/views/InterfaceFile.h"
 #include "platform/views/widgets/WindowWidget.h"
 
 #include <QApplication>
