@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// QBYScrollView is a scroll view whose scrolling by wheel can be switched off.
+// QBYScrollView is a scroll view whose scrolling by the wheel can be switched off.
 // Thread: main.  Owner: its superview or window.
 #pragma once
 
@@ -12,8 +12,12 @@ public:
     [[nodiscard]] bool disableScrolling() const { return m_disableScrolling; }
     void setDisableScrolling(bool disable) { m_disableScrolling = disable; }
 
-    /// With scrolling switched off the event ends here: what encloses the view does not scroll either.
-    void scrollWheel(const ScrollWheelEvent &event) override;
+    /// With scrolling switched off the event is dropped: enclosing views do not scroll either.
+    void scrollWheel(const ScrollWheelEvent &event) override
+    {
+        if (!m_disableScrolling)
+            ScrollView::scrollWheel(event);
+    }
 
 private:
     bool m_disableScrolling = false;

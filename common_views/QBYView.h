@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // QBYView is a view with a background colour.
-// Thread: main, but for the colour's accessors, which any thread may call while the view lives.
-// Owner: its superview or window.
+// Thread: main; the colour's accessors any, while the view lives.  Owner: its superview or window.
 #pragma once
 
 #include "platform/views/Painter.h"
@@ -14,13 +13,13 @@ class QBYView : public View {
 public:
     using View::View;
 
-    /// Absent until set: nothing is painted.
+    /// Initially absent: nothing is painted.
     [[nodiscard]] std::optional<Color> backgroundColor() const;
-    /// Asks for a redraw unless the view has this very colour already. A view without a colour always asks
-    /// for one, even when it is told once more to have none.
+    /// Requests a redraw unless the view has this colour already. A view without a colour always requests
+    /// one, even if it stays without.
     void setBackgroundColor(const std::optional<Color> &color);
 
-    /// Fills the whole bounds, not only what is dirty.
+    /// Fills the whole bounds, not only the dirty part.
     void drawRect(const QRectF &dirtyRect, Painter &painter) override;
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// QBYWindow is a window the user can type and work in whatever its style, also without a title bar.
+// QBYWindow is a window that takes the keyboard focus in every style, even without a title bar.
 // Thread: main.  Owner: its controller.
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "common_views/WindowExtension.h"
 
-#include "platform/views/Window.h"
+#include "platform/views/WindowController.h"
 
 namespace {
 
@@ -10,9 +10,9 @@ bool hasStyle(const Window &window, unsigned bit)
     return (window.styleMask() & bit) != 0;
 }
 
-void setStyle(Window &window, unsigned bit, bool wanted)
+void setStyle(Window &window, unsigned bit, bool isOn)
 {
-    if (hasStyle(window, bit) != wanted)
+    if (hasStyle(window, bit) != isOn)
         window.setStyleMask(window.styleMask() ^ bit);
 }
 
@@ -41,4 +41,10 @@ bool QBYExtension::qby_windowMiniaturizable(const Window &window)
 void QBYExtension::setQby_windowMiniaturizable(Window &window, bool miniaturizable)
 {
     setStyle(window, Window::miniaturizable, miniaturizable);
+}
+
+double QBYExtension::inchToScreenNumber(const WindowController &windowController, double inches)
+{
+    const Window *const window = windowController.window().get();
+    return inches * 72 / (window ? window->backingScaleFactor() : 1);
 }

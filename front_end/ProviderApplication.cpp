@@ -9,8 +9,8 @@ ProviderApplication::ProviderApplication(const WatchSurroundings &surroundings)
     : m_desktop(surroundings.desktop)
     , m_delegate(surroundings, [this](ServicesProvider &provider) { m_isOffered = offer(provider); })
 {
-    m_delegate.setSomethingEndedHandler([this] { leaveSoonIfUnused(); });
-    m_desktop.setAskingEndedHandler([this] { leaveSoonIfUnused(); });
+    m_delegate.setFinishedHandler([this] { scheduleQuitIfUnused(); });
+    m_desktop.setAskingEndedHandler([this] { scheduleQuitIfUnused(); });
 }
 
 ProviderApplication::~ProviderApplication()
@@ -27,36 +27,36 @@ bool ProviderApplication::start()
 bool ProviderApplication::offer(ServicesProvider &provider)
 {
     if (!m_registration) {
-        // Not quit(): that asks every window to close, and the first that does not keeps the program alive.
-        const auto busIsLost = [] {
-            LogChannel::standard().notice(u"The session bus was lost");
+        // Not quit(): that asks every window to close, and a window that refuses keeps the program running.
+        const auto handleLostBus = [] {
+            LogChannel::standard().notice(u"Lost the session bus; exiting");
             QCoreApplication::exit(0);
         };
         m_registration = std::make_unique<ServicesRegistration>(
-            provider, [this](const QByteArray &token) { requestBegins(token); }, [this] { requestEnds(); },
-            busIsLost);
+            provider, [this](const QByteArray &token) { beginRequest(token); }, [this] { endRequest(); },
+            handleLostBus);
     }
     return m_registration->start();
 }
 
-void ProviderApplication::requestBegins(const QByteArray &activationToken)
+void ProviderApplication::beginRequest(const QByteArray &activationToken)
 {
-    m_hasBeenAsked = true;
+    m_hasHadRequest = true;
     m_desktop.setActivationToken(activationToken);
 }
 
-void ProviderApplication::requestEnds()
+void ProviderApplication::endRequest()
 {
     m_desktop.setActivationToken({});
-    leaveSoonIfUnused();
+    scheduleQuitIfUnused();
 }
 
-void ProviderApplication::leaveSoonIfUnused()
+void ProviderApplication::scheduleQuitIfUnused()
 {
-    QMetaObject::invokeMethod(this, &ProviderApplication::leaveIfUnused, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &ProviderApplication::quitIfUnused, Qt::QueuedConnection);
 }
 
-void ProviderApplication::leaveIfUnused()
+void ProviderApplication::quitIfUnused()
 {
     if (!QBYServiceProviderAppDelegate::applicationShouldTerminateAfterLastWindowClosed() || isUsed())
         return;
@@ -65,12 +65,12 @@ void ProviderApplication::leaveIfUnused()
         QCoreApplication::quit();
         return;
     }
-    // A request has come in this very moment. The name is wanted back; if another process has it by now, that
-    // one answers from now on, and this one shows what it has.
+    // A request arrived at the last moment. Takes the name back; if another process owns it by now, that
+    // process serves further requests, and this one only keeps its windows.
     m_isOffered = offer(m_delegate);
 }
 
 bool ProviderApplication::isUsed() const
 {
-    return !m_hasBeenAsked || m_delegate.isInUse() || m_desktop.isAskingUser();
+    return !m_hasHadRequest || m_delegate.isInUse() || m_desktop.isAskingUser();
 }

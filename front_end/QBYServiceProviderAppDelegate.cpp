@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "front_end/QBYServiceProviderAppDelegate.h"
-#include "documents/loading/PasteboardText.h"
 
+#include "documents/loading/PasteboardText.h"
 #include "platform/system/FileURL.h"
 #include "watching/FileTypes.h"
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The file: URL of the path alone; absent where there is none.
+/// The file: URL with the path only; absent for other URLs.
 std::optional<QUrl> filePathURL(const QUrl &url)
 {
     const QByteArray path = pathOfFileURL(url);
@@ -35,7 +35,7 @@ QList<QUrl> acceptedFiles(const QList<QUrl> &urls)
     return accepted;
 }
 
-void store(QString *error, const QString &message)
+void setError(QString *error, const QString &message)
 {
     if (error)
         *error = message;
@@ -62,7 +62,8 @@ void QBYServiceProviderAppDelegate::wordCountSelectedTextService(
 {
     const std::optional<AttributedString> text = readAttributedString(pasteboard);
     if (!text) {
-        store(error, QStringLiteral("Quillbay failed to read retrieve text.")); // as users know it
+        setError(
+            error, QStringLiteral("Quillbay failed to read retrieve text.")); // given text, deliberately odd
         return;
     }
     const auto controller =
@@ -77,12 +78,12 @@ void QBYServiceProviderAppDelegate::watchTheTextFileService(
 {
     const QList<QUrl> urls = pasteboard.readFileURLs();
     if (urls.isEmpty()) {
-        store(error, QStringLiteral("Quillbay failed to retrieve file urls."));
+        setError(error, QStringLiteral("Quillbay failed to retrieve file urls."));
         return;
     }
     const QList<QUrl> accepted = acceptedFiles(urls);
     if (accepted.isEmpty()) {
-        store(error, QStringLiteral("Quillbay failed to validate file urls."));
+        setError(error, QStringLiteral("Quillbay failed to validate file urls."));
         return;
     }
     for (const QUrl &url : accepted)
@@ -117,18 +118,18 @@ void QBYServiceProviderAppDelegate::serviceProviderShowStatsWindowControllerDidC
 {
     std::erase_if(
         m_statWindowControllerForSelectedText, [&](const auto &known) { return known.get() == &controller; });
-    tellThatSomethingEnded();
+    reportFinished();
 }
 
 void QBYServiceProviderAppDelegate::watchTextFileMenuBarControllerDidFinish(
     WatchTextFileMenuBarController &controller)
 {
     std::erase_if(m_watchTextFileControllers, [&](const auto &known) { return known.get() == &controller; });
-    tellThatSomethingEnded();
+    reportFinished();
 }
 
-void QBYServiceProviderAppDelegate::tellThatSomethingEnded()
+void QBYServiceProviderAppDelegate::reportFinished()
 {
-    if (m_somethingEnded)
-        m_somethingEnded();
+    if (m_finishedHandler)
+        m_finishedHandler();
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// QBYServiceProviderAppDelegate does what the services are asked for, and keeps alive what they open: it owns
-// every window of statistics and every watcher until they say that they are done.
-// Thread: main.  Owner: main(); outlives the event loop.
+// QBYServiceProviderAppDelegate serves the service messages and owns what they open: every statistics window
+// and every watcher, until they report that they are finished. When the program exits is left to
+// ProviderApplication. Thread: main.  Owner: ProviderApplication; outlives the event loop.
 #pragma once
 
 #include "front_end/QBYServiceProviderShowStatsWindowController.h"
@@ -23,13 +23,13 @@ public:
 
     using WatchTextFileControllers = std::vector<std::shared_ptr<WatchTextFileMenuBarController>>;
 
-    /// setServicesProvider: makes its argument the one to whom service messages come. What surroundings refer
-    /// to outlives the delegate.
+    /// setServicesProvider: makes its argument the receiver of service messages. Everything that surroundings
+    /// refer to outlives the delegate.
     QBYServiceProviderAppDelegate(const WatchSurroundings &surroundings,
         std::function<void(ServicesProvider &provider)> setServicesProvider);
     ~QBYServiceProviderAppDelegate() override;
 
-    /// One a request, in the order of the requests.
+    /// One per request, in the order of the requests.
     [[nodiscard]] const StatWindowControllers &statWindowControllerForSelectedText() const
     {
         return m_statWindowControllerForSelectedText;
@@ -38,7 +38,7 @@ public:
     {
         m_statWindowControllerForSelectedText = std::move(controllers);
     }
-    /// One a watched file, in the order in which they were made.
+    /// One per watched file, in the order in which they were made.
     [[nodiscard]] const WatchTextFileControllers &watchTextFileControllers() const
     {
         return m_watchTextFileControllers;
@@ -48,27 +48,27 @@ public:
         m_watchTextFileControllers = std::move(controllers);
     }
 
-    /// From here on services are offered.
+    /// Offers the services from now on.
     void applicationDidFinishLaunching();
     [[nodiscard]] static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
 
-    /// Whether a service has left something behind that still lives.
+    /// Whether a window or a watcher is open.
     [[nodiscard]] bool isInUse() const
     {
         return !m_statWindowControllerForSelectedText.empty() || !m_watchTextFileControllers.empty();
     }
-    /// Called whenever something has left a registry.
-    void setSomethingEndedHandler(std::function<void()> handler) { m_somethingEnded = std::move(handler); }
+    /// Called whenever a window or a watcher has finished.
+    void setFinishedHandler(std::function<void()> handler) { m_finishedHandler = std::move(handler); }
 
-    // userData: ignored. error: takes the message of a failure, and stays as it is without one; may be null.
-    /// Opens a window with the counts of the pasteboard's text. Each request opens one of its own.
+    // userData: ignored. error: receives the message of a failure, unchanged otherwise; may be null.
+    /// Opens a window with the counts of the pasteboard's text, one per request.
     void wordCountSelectedTextService(
         const Pasteboard &pasteboard, const QString &userData, QString *error) override;
-    /// Opens a window for each file of the pasteboard that is of an accepted kind, or brings forward the one
-    /// that follows it already. A file is the same only under the same path.
+    /// Opens a watcher for each file of the pasteboard that is of an accepted kind, or brings the window of
+    /// its watcher to the front. Files are compared by path.
     void watchTheTextFileService(
         const Pasteboard &pasteboard, const QString &userData, QString *error) override;
-    /// Null where nobody follows the file.
+    /// Null if no watcher follows the file.
     [[nodiscard]] std::shared_ptr<WatchTextFileMenuBarController> _existingWatchTextFileControllerForURL(
         const QUrl &url) const;
 
@@ -78,11 +78,11 @@ public:
 
 private:
     void watch(const QUrl &url);
-    void tellThatSomethingEnded();
+    void reportFinished();
 
     const WatchSurroundings m_surroundings;
     std::function<void(ServicesProvider &provider)> m_setServicesProvider;
-    std::function<void()> m_somethingEnded;
+    std::function<void()> m_finishedHandler;
     StatWindowControllers m_statWindowControllerForSelectedText;
     WatchTextFileControllers m_watchTextFileControllers;
 };

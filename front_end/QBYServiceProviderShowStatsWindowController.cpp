@@ -2,10 +2,11 @@
 #include "front_end/QBYServiceProviderShowStatsWindowController.h"
 
 #include "common_views/QBYServiceProviderMainWindow.h"
+#include "common_views/ViewExtension.h"
 #include "common_views/WindowExtension.h"
-#include "front_end/WindowPlacement.h"
+#include "common_views/WindowPlacement.h"
 #include "platform/views/InterfaceFile.h"
-#include "presentation/PanelPlace.h"
+#include "presentation/PanelHost.h"
 
 #include <QScopedValueRollback>
 
@@ -14,24 +15,6 @@ namespace {
 constexpr int fadeTime = 250; // milliseconds
 
 const QString productName = QStringLiteral("Quillbay");
-
-/// A missing control lies at zero and has no size.
-QRectF frameOf(const std::shared_ptr<View> &view)
-{
-    return view ? view->frame() : QRectF();
-}
-
-void setOrigin(const std::shared_ptr<View> &view, const QPointF &origin)
-{
-    if (view)
-        view->setFrameOrigin(origin);
-}
-
-void setFrame(const std::shared_ptr<View> &view, const QRectF &frame)
-{
-    if (view)
-        view->setFrame(frame);
-}
 
 } // namespace
 
@@ -60,7 +43,7 @@ void QBYServiceProviderShowStatsWindowController::loadWindow()
     m_lineSeparator = file.outlet<Box>(QStringLiteral("lineSeparator"));
 
     m_wordCounterViewController = std::make_shared<WordCounterViewController>();
-    PanelPlace::fill(file, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
+    PanelHost::fillPlace(file, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
     setWindow(std::make_shared<QBYServiceProviderMainWindow>(file.rootView()->frame()));
     window()->setContentView(file.rootView());
     connect(m_closeButton.lock().get(), &Button::clicked, this, [this] { closeButtonAction(nullptr); });
@@ -75,9 +58,8 @@ void QBYServiceProviderShowStatsWindowController::windowDidLoad()
     if (const auto label = titleLabel())
         label->setStringValue(productName);
     window()->setLevel(WindowLevel::Floating);
-    window()->setMovableByBackground(true);
-    setUpForDesktop();
-    m_wordCounterViewController->wordCounter()->setFormattedStringStyle(WordCounterModel::shortStyle);
+    putWindowOnScreen();
+    PanelHost::useShortStyle(*m_wordCounterViewController);
     if (const auto indicator = activityIndicator())
         indicator->startAnimation();
     m_wordCounterViewController->view()->setAlphaValue(0);
@@ -88,13 +70,11 @@ void QBYServiceProviderShowStatsWindowController::windowDidLoad()
         });
 }
 
-/// What users of this desktop expect of a window besides.
-void QBYServiceProviderShowStatsWindowController::setUpForDesktop()
+void QBYServiceProviderShowStatsWindowController::putWindowOnScreen()
 {
-    window()->setTitle(productName); // for lists of windows and screen readers
-    window()->setClosesOnRequest(false);
-    connect(window().get(), &Window::closeRequested, this, [this] { closeButtonAction(nullptr); });
-    m_wordCounterViewController->serve(*window());
+    window()->setTitle(productName); // for window lists and screen readers
+    PanelHost::setUpWindow(
+        *window(), *m_wordCounterViewController, *this, [this] { closeButtonAction(nullptr); });
     m_windowOnScreen = m_desktop.putOnScreen(window());
 }
 
@@ -117,7 +97,7 @@ void QBYServiceProviderShowStatsWindowController::showWindow(QObject * /*sender*
 
 void QBYServiceProviderShowStatsWindowController::closeButtonAction(QObject * /*sender*/)
 {
-    const auto self = shared_from_this(); // the delegate lets go of it
+    const auto self = shared_from_this(); // the delegate drops its reference
     window()->close();
     if (auto *const receiver = delegate())
         receiver->serviceProviderShowStatsWindowControllerDidClose(*this);
@@ -128,42 +108,38 @@ void QBYServiceProviderShowStatsWindowController::wordCounterViewControllerDidRe
     if (m_isWideningPanel)
         return;
     m_wordCounterViewController->adjustViewHeightToFitVisibleLabels();
-    double width = window()->frame().width();
-    // The last one decides, not the widest.
-    for (const std::shared_ptr<Label> &label : m_wordCounterViewController->allTextfieldsForLayout()) {
-        if (label->frame().width() >= window()->frame().width() && !label->isHidden())
-            width = label->frame().width() + 10;
-    }
+    const double width = PanelHost::fittingWidth(*m_wordCounterViewController, window()->frame().width());
     const double height = m_wordCounterViewController->view()->frame().height() + titleRowHeight;
     QBYExtension::setFrameSize(*window(), {width, height}, true);
 }
 
-// Moving or resizing the panel has its labels placed again, which may resize the window in between: every
-// step reads the frames as the steps before it left them.
+// Every step reads the present frames: moving or resizing the panel places its labels again, which may resize
+// the window between two steps.
 void QBYServiceProviderShowStatsWindowController::windowContentViewFrameDidChange()
 {
     const auto windowSize = [this] { return window()->frame().size(); };
     const auto titleX = [this] {
-        const QRectF indicator = frameOf(activityIndicator());
+        const QRectF indicator = Outlet::frame(activityIndicator());
         return indicator.x() + indicator.width();
     };
     widenPanel();
-    setOrigin(panelView(), {0, 0});
-    setOrigin(activityIndicator(), {5, windowSize().height() - frameOf(activityIndicator()).height() - 4});
-    setOrigin(closeButton(),
-        {frameOf(window()->contentView()).width() - frameOf(closeButton()).width(),
-            frameOf(panelView()).height() + 2});
-    const double titleHeight = frameOf(titleLabel()).height();
-    setFrame(titleLabel(),
-        {titleX(), windowSize().height() - titleHeight - 3, frameOf(closeButton()).x() - titleX(),
+    Outlet::setFrameOrigin(panelView(), {0, 0});
+    Outlet::setFrameOrigin(
+        activityIndicator(), {5, windowSize().height() - Outlet::frame(activityIndicator()).height() - 4});
+    Outlet::setFrameOrigin(closeButton(),
+        {Outlet::frame(window()->contentView()).width() - Outlet::frame(closeButton()).width(),
+            Outlet::frame(panelView()).height() + 2});
+    const double titleHeight = Outlet::frame(titleLabel()).height();
+    Outlet::setFrame(titleLabel(),
+        {titleX(), windowSize().height() - titleHeight - 3, Outlet::frame(closeButton()).x() - titleX(),
             titleHeight});
-    const QRectF panel = frameOf(panelView());
-    setFrame(lineSeparator(),
-        {0, panel.y() + panel.height() + 1, windowSize().width(), frameOf(lineSeparator()).height()});
+    const QRectF panel = Outlet::frame(panelView());
+    Outlet::setFrame(lineSeparator(),
+        {0, panel.y() + panel.height() + 1, windowSize().width(), Outlet::frame(lineSeparator()).height()});
 }
 
-/// The panel is as wide as the window, so that its labels are in the middle. The window has been fitted to
-/// them already.
+/// Makes the panel as wide as the window, so that its labels are centred. The window has the right size
+/// already: the relayout that this causes must not fit it again.
 void QBYServiceProviderShowStatsWindowController::widenPanel()
 {
     const QScopedValueRollback guard(m_isWideningPanel, true);

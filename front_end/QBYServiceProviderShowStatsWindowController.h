@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // QBYServiceProviderShowStatsWindowController shows the counts of one text in a small floating window: a row
-// with a spinner, the product's name and a close button, and the statistics panel below it. The panel counts,
-// and places its labels, by itself. Thread: main.  Owner: the registry of the application's delegate, and its
-// own operations while they run; made with std::make_shared.
+// with a spinner, the product's name and a close button, and the statistics panel below it. Counting, and
+// placing the labels, is left to the panel. Made with std::make_shared. Thread: main.  Owner: the registry of
+// the application's delegate, and its own operations while they run.
 #pragma once
 
 #include "front_end/QBYServiceProviderShowStatsWindowControllerDelegate.h"
@@ -15,14 +15,14 @@
 
 #include <memory>
 
-/// A count that fails or is never answered leaves the spinner turning and the statistics invisible; the user
+/// While a count fails or is never answered, the spinner turns and the statistics stay invisible; the user
 /// closes the window. Frames are points, with the origin at the bottom left.
 class QBYServiceProviderShowStatsWindowController
     : public WindowController,
       public WordCounterViewControllerLayoutDelegate,
       public std::enable_shared_from_this<QBYServiceProviderShowStatsWindowController> {
 public:
-    /// The interface file that comes with the program, a resource.
+    /// The program's interface file, a resource.
     static QString windowInterfaceFile();
 
     /// Counts nothing yet. desktop: outlives the controller.
@@ -39,7 +39,7 @@ public:
     }
     void setDelegate(QBYServiceProviderShowStatsWindowControllerDelegate *delegate) { m_delegate = delegate; }
 
-    // The outlets; empty before the window has been loaded, and where a test has taken one away.
+    // The outlets; null before the window is loaded.
     [[nodiscard]] std::shared_ptr<WordCounterViewController> wordCounterViewController() const
     {
         return m_wordCounterViewController;
@@ -60,21 +60,20 @@ public:
     void setCloseButton(const std::shared_ptr<Button> &view) { m_closeButton = view; }
     void setLineSeparator(const std::shared_ptr<Box> &view) { m_lineSeparator = view; }
 
-    /// Makes window and outlets from the interface file where there is no window yet, and has windowDidLoad()
-    /// follow. The process ends where the file cannot be used: it is a part of the program.
+    /// Makes window and outlets from the interface file and calls windowDidLoad(), unless there is a window.
+    /// Aborts the process if the file cannot be used: it is part of the program.
     void loadWindow();
     /// Sets the window up and starts the count.
     void windowDidLoad();
-    /// Loads the window on first use, and puts it on the screen beside the pointer, where the user has just
-    /// asked for it. sender: ignored.
+    /// Loads the window on first use and shows it beside the pointer, where the user has just asked for it.
+    /// sender: ignored.
     void showWindow(QObject *sender);
 
-    /// What the close button, Escape, Ctrl+W and the window manager's close do: closes the window, and then
-    /// tells the delegate. sender: ignored.
+    /// Closes the window, then notifies the delegate. Close button, Escape, Ctrl+W and the window manager's
+    /// close call it. sender: ignored.
     void closeButtonAction(QObject *sender);
 
-    /// Fits the window to the labels. Of several visible labels that are at least as wide as the window, the
-    /// last one gives the width.
+    /// Fits the window to the labels; see PanelHost::fittingWidth().
     void wordCounterViewControllerDidRelayoutLabels() override;
     /// Places the title row and the panel.
     void windowContentViewFrameDidChange();
@@ -82,7 +81,7 @@ public:
 private:
     static constexpr double titleRowHeight = 31;
 
-    void setUpForDesktop();
+    void putWindowOnScreen();
     void showStatistics();
     void widenPanel();
     [[nodiscard]] std::shared_ptr<View> panelView() const;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// QBYServiceProviderShowStatsWindowControllerDelegate hears that a window of statistics has been closed.
-// Thread: main.  Owner: itself; the window controller refers to it weakly.
+// QBYServiceProviderShowStatsWindowControllerDelegate is notified when a statistics window has been closed.
+// Thread: main.  Owner: independent of the window controller, which refers to it weakly.
 #pragma once
 
 #include "platform/system/WeakDelegate.h"
@@ -9,7 +9,7 @@ class QBYServiceProviderShowStatsWindowController;
 
 class QBYServiceProviderShowStatsWindowControllerDelegate : public Delegate {
 public:
-    /// The window is off the screen already. Letting the controller go here ends its life.
+    /// The window is hidden already. The delegate may drop its reference to the controller here.
     virtual void serviceProviderShowStatsWindowControllerDidClose(
         QBYServiceProviderShowStatsWindowController &controller) = 0;
 };

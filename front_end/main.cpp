@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The service provider: the program behind the windows of statistics, started by the session bus.
+// The service provider: the program with the statistics windows, started by the session bus.
 #include "front_end/ProviderApplication.h"
 #include "platform/system/PrivateMemory.h"
 #include "platform/views/widgets/ApplicationActivitySource.h"
@@ -14,23 +14,23 @@
 
 namespace {
 
-// The exit statuses, besides 0 when nothing is left to show.
+// Exit statuses, besides 0 when nothing is open any more.
 constexpr int notServing = 1; // no display, or the services cannot be offered
 constexpr int wrongUsage = 2;
 constexpr int lostDisplay = 3;
 
 bool isRunning = false;
 
-/// Qt calls exit() in the middle of the event loop when the X server dies. Uses _Exit(): the destructors of
-/// static objects would run beside threads that still work, and some of those objects are destroyed already.
+/// Qt calls exit() inside the event loop when the X server dies. Uses _Exit(): destructors of static objects
+/// would run while threads still use them.
 void exitWithoutDisplay()
 {
     if (isRunning)
-        std::_Exit(lostDisplay); // Qt has said why
+        std::_Exit(lostDisplay); // Qt has printed the reason
 }
 
-/// Only X11 (Xwayland, too) lets windows choose their place and stay above others on every desktop. What the
-/// user says himself holds.
+/// Only X11 (also as Xwayland) lets windows choose their place and stay above others on every desktop. The
+/// user's own QT_QPA_PLATFORM takes precedence.
 void choosePlatform()
 {
     if (qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -49,14 +49,14 @@ int main(int argumentCount, char **arguments)
 {
     keepMemoryPrivate();
     if (argumentCount > 1) {
-        std::fputs("quillbay-service-provider: takes no arguments. The session bus starts it for the command "
-                   "quillbay.\n",
+        std::fputs(
+            "quillbay-service-provider: takes no arguments; run quillbay instead, for which the session "
+            "bus starts this program\n",
             stderr);
         return wrongUsage;
     }
     if (!hasDisplay()) {
-        std::fputs("quillbay-service-provider: there is no display to show windows on (DISPLAY and "
-                   "WAYLAND_DISPLAY are not set)\n",
+        std::fputs("quillbay-service-provider: no display for its windows; set DISPLAY or WAYLAND_DISPLAY\n",
             stderr);
         return notServing;
     }
@@ -65,7 +65,7 @@ int main(int argumentCount, char **arguments)
     QApplication::setApplicationDisplayName(QStringLiteral("Quillbay"));
     QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("com.quillbay.Quillbay")));
-    QApplication::setQuitOnLastWindowClosed(false); // ProviderApplication knows when
+    QApplication::setQuitOnLastWindowClosed(false); // ProviderApplication does that
     const DesktopAppearance appearance;
     WidgetDesktop desktop;
     ApplicationActivity activity(false);

@@ -10,8 +10,8 @@ bool QBYExtension::sayWordCountOutloud(quint64 wordCount, Desktop &desktop, cons
 {
     if (wordCount == 0)
         return false;
-    static const SpelledOutNumber spelledOut(currentLocaleIdentifier());
-    const QString number = spelledOut.text(wordCount).value_or(QString::number(wordCount));
+    static const SpelledOutNumber speller(currentLocaleIdentifier());
+    const QString number = speller.text(wordCount).value_or(QString::number(wordCount));
     return sayStringOutloud(number + QStringLiteral(" words"), desktop, launchPath);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What Quillbay adds to the application: it speaks, through the system's speech command.
+// What Quillbay adds to the application: speaking aloud, through the system's speech command.
 // Thread: main.
 #pragma once
 
@@ -11,20 +11,20 @@ class Desktop;
 
 namespace QBYExtension {
 
-/// The system's speech command: it speaks its one argument.
+/// The speech command, which speaks its only argument.
 inline QString speechLaunchPath()
 {
     return QStringLiteral("/usr/bin/say");
 }
 
-// Both return at once; the command is neither waited for nor followed, so that phrases may overlap. False
-// where nothing is spoken. A command that cannot be started is presented to the user on the desktop, once for
-// each cause.
+// Both start the command and return without waiting for it, so phrases may overlap. They return false if
+// nothing is spoken. If the command cannot be started, they report the error to the user on the desktop, once
+// for each cause.
 
-/// Speaks "COUNT words", the count in words of the language that the user had at the first call; "words" for
-/// one too. A count of 0 is never spoken.
+/// Speaks "COUNT words", with the count spelled out in the user's language as of the first call, and "words"
+/// even for 1. Never speaks a count of 0.
 bool sayWordCountOutloud(quint64 wordCount, Desktop &desktop, const QString &launchPath = speechLaunchPath());
-/// Absent: nothing to speak.
+/// An absent string is not spoken.
 bool sayStringOutloud(
     const std::optional<QString> &string, Desktop &desktop, const QString &launchPath = speechLaunchPath());
 

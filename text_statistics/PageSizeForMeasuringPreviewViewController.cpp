@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
 
-#include "common_views/ScrollViewExtension.h"
 #include "common_views/ViewExtension.h"
 #include "text_statistics/SampleText.h"
 #include "text_statistics/TrimTrailingNumbersOffDecimal.h"

@@ -2,7 +2,6 @@
 #include "watching/FileTypes.h"
 
 #include "platform/system/FileURL.h"
-#include "watching/FileTypeNames.h"
 
 #include <QMimeDatabase>
 
@@ -14,8 +13,16 @@
 
 namespace {
 
-/// What the name leads to. Absent for what is not there, is no local file or may not be read.
-std::optional<mode_t> readableFile(const QUrl &url)
+// The MIME types of the kinds of documents.
+constexpr QStringView folder = u"inode/directory"; // of rich text with attachments
+constexpr QStringView richText = u"application/rtf";
+constexpr QStringView plainText = u"text/plain";
+constexpr QStringView wordDocument =
+    u"application/vnd.openxmlformats-officedocument.wordprocessingml.document";
+
+/// The mode of the file, with symbolic links followed. Absent for missing and unreadable files and other
+/// URLs.
+std::optional<mode_t> readableFileMode(const QUrl &url)
 {
     const QByteArray path = pathOfFileURL(url);
     struct stat status;
@@ -26,9 +33,9 @@ std::optional<mode_t> readableFile(const QUrl &url)
 
 bool doesConformTo(const QUrl &url, QStringView typeName)
 {
-    const std::optional<mode_t> file = readableFile(url);
-    // A folder is a folder, and a device a device, whatever its name.
-    if (!file || !S_ISREG(*file))
+    const std::optional<mode_t> mode = readableFileMode(url);
+    // Folders and devices are no documents, whatever their names.
+    if (!mode || !S_ISREG(*mode))
         return false;
     const QList<QMimeType> types = QMimeDatabase().mimeTypesForFileName(lastPathComponent(url));
     return std::any_of(types.begin(), types.end(),
@@ -39,22 +46,37 @@ bool doesConformTo(const QUrl &url, QStringView typeName)
 
 bool QBYExtension::doesConformToDocXFileUTI(const QUrl &url)
 {
-    return doesConformTo(url, FileTypeNames::wordDocument);
+    return doesConformTo(url, wordDocument);
 }
 
 bool QBYExtension::doesConformToRTFFileUTI(const QUrl &url)
 {
-    return doesConformTo(url, FileTypeNames::richText);
+    return doesConformTo(url, richText);
 }
 
 bool QBYExtension::doesConformToRTFDFileUTI(const QUrl &url)
 {
-    // The MIME database knows folders only as folders.
-    const std::optional<mode_t> file = readableFile(url);
-    return file && S_ISDIR(*file) && lastPathComponent(url).endsWith(u".rtfd", Qt::CaseInsensitive);
+    // The MIME database has one type for all folders.
+    const std::optional<mode_t> mode = readableFileMode(url);
+    return mode && S_ISDIR(*mode) && lastPathComponent(url).endsWith(u".rtfd", Qt::CaseInsensitive);
 }
 
 bool QBYExtension::doesConformToPlainTextFileUTI(const QUrl &url)
 {
-    return doesConformTo(url, FileTypeNames::text);
+    return doesConformTo(url, plainText);
+}
+
+OpenPanel QBYExtension::openPanelForTextFiles()
+{
+    return openPanelForTextFilesAllowMultipleSelection(false);
+}
+
+OpenPanel QBYExtension::openPanelForTextFilesAllowMultipleSelection(bool allowMultipleSelection)
+{
+    OpenPanel panel;
+    for (const QStringView type : {folder, richText, plainText, wordDocument})
+        panel.allowedFileTypes << type.toString();
+    panel.packageSuffixes.append(QStringLiteral("rtfd"));
+    panel.allowsMultipleSelection = allowMultipleSelection;
+    return panel;
 }

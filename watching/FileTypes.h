@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Which kinds of document a file is, by its name and the desktop's shared MIME database; its contents are
-// never looked at. How a document is read, platform/styled_text/loading decides for itself. Thread: any.
+// Which kinds of document a file is, and the file chooser for them. A kind depends on the file's name and the
+// desktop's shared MIME database, never on its content; how a document is read is left to documents/loading.
+// Thread: any; the file chooser main only.
 #pragma once
+
+#include "platform/views/Desktop.h"
 
 #include <QUrl>
 
 // Text is what conforms to text/plain in the MIME database: RTF, web pages, source code and SVG do, Word
-// documents do not. A name that several types share counts for each of them. The document behind a symbolic
-// link is named by the link. Every test is false for what is not a file: URL, for a missing file, one that
-// this user may not read, and a name without a known type.
+// documents do not. A name that matches several types counts for each of them. A symbolic link has the type
+// of its own name. All tests are false for URLs of other schemes, for missing and unreadable files, and for
+// names of unknown type.
 namespace QBYExtension {
 
 bool doesConformToDocXFileUTI(const QUrl &url);
@@ -16,5 +19,11 @@ bool doesConformToRTFFileUTI(const QUrl &url);
 /// A folder whose name ends in ".rtfd".
 bool doesConformToRTFDFileUTI(const QUrl &url);
 bool doesConformToPlainTextFileUTI(const QUrl &url);
+
+/// For one document.
+OpenPanel openPanelForTextFiles();
+/// Offers rich text with attachments, rich text, text and Word documents, in this order. A folder of rich
+/// text with attachments is chosen as one document, not opened.
+OpenPanel openPanelForTextFilesAllowMultipleSelection(bool allowMultipleSelection);
 
 } // namespace QBYExtension

@@ -90,7 +90,7 @@ void WatchTextFileModel::setTextFileURLToWatch(
 void WatchTextFileModel::forceRead(QObject * /*sender*/)
 {
     if (!m_isTextFileReadable) {
-        // "reaquire": the log's readers know it so.
+        // "reaquire" is deliberate.
         watchLog().debug(u"Force read called but we are waiting for a reaquire block to be called.");
         return;
     }
@@ -105,7 +105,7 @@ void WatchTextFileModel::forceRead(QObject * /*sender*/)
             else
                 model->_reloadAttributedStringAndTellDelegateAtPresentedURL(newURL);
         });
-    // The model may have gone by now.
+    // The model may be destroyed by now.
     if (error)
         watchLog().error(u"NSFileCoordinator error: {}", {causeText(*error)});
 }
@@ -144,7 +144,7 @@ void WatchTextFileModel::_reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl
         receiver->currentlyWatchedDocXFileDidUpdateWithDocxData(url, *this);
 }
 
-/// Stops before it tells, so that the delegate finds a model that has stopped.
+/// Stops first: the delegate expects a model that has stopped.
 void WatchTextFileModel::failToLoad()
 {
     stopWatchingTextFile();
@@ -190,7 +190,7 @@ void WatchTextFileModel::presentedItemDidChange()
 void WatchTextFileModel::presentedItemDidMoveToURL(const QUrl &newURL)
 {
     stopWatchingTextFile();
-    watchLog().debug(u"URL's don't match."); // said at every move, compared or not
+    watchLog().debug(u"URL's don't match."); // deliberately logged at every move
     m_presentedItemURL = newURL;
     renewAccess();
     const QPointer<WatchTextFileModel> self(this);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// WatchTextFileModelDelegate is told by a WatchTextFileModel what has become of the watched document.
-// Thread: main, from inside the model's messages; it may stop or destroy the model.  Owner: anyone.
+// WatchTextFileModelDelegate is notified by a WatchTextFileModel of changes of the watched document. It may
+// stop or destroy the model in any of these calls. Thread: main.  Owner: independent of the model, which
+// refers to it weakly.
 #pragma once
 
 #include "platform/styled_text/AttributedString.h"
@@ -12,12 +13,12 @@ class WatchTextFileModel;
 
 class WatchTextFileModelDelegate : public Delegate {
 public:
-    /// The document was read. Not told for Word documents.
+    /// The document was read. Never called for Word documents.
     virtual void currentlyWatchedTextFileDidUpdateWithAttributedString(
         const AttributedString &attributedString, WatchTextFileModel &watchModel) = 0;
-    /// The document cannot be read, or has gone; the model has stopped watching already.
+    /// The document cannot be read or has disappeared; the model has stopped watching already.
     virtual void currentlyWatchedTextFileDidFailToLoadAttribedText(WatchTextFileModel &watchModel) = 0;
-    /// A Word document is there after a change. docxData: its file: URL, not its bytes.
+    /// A Word document has changed and exists. docxData: its file: URL, not its bytes.
     virtual void currentlyWatchedDocXFileDidUpdateWithDocxData(
         const QUrl &docxData, WatchTextFileModel &watchModel) = 0;
     /// newName: the last component of the new path. Optional.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "common_views/ScrollViewExtension.h"
 #include "common_views/FlippedView.h"
+#include "common_views/ViewExtension.h"
 #include "platform/views/ScrollView.h"
 
 #include <gtest/gtest.h>

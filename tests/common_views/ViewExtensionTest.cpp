@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "common_views/ViewExtension.h"
-#include "common_views/WindowControllerExtension.h"
+#include "common_views/WindowExtension.h"
 #include "platform/views/View.h"
 #include "platform/views/WindowController.h"
 

@@ -83,7 +83,7 @@ TEST_F(AppDelegate, KeepsTheWindowsInTheOrderOfTheRequestsUntilEachIsClosed)
     ASSERT_THAT(controllers, SizeIs(3));
     EXPECT_EQ(controllers[0]->attributedStringToCount().string(), QStringLiteral("one"));
     int endings = 0;
-    delegate.setSomethingEndedHandler([&] { ++endings; });
+    delegate.setFinishedHandler([&] { ++endings; });
     controllers[1]->closeButtonAction(nullptr);
     EXPECT_THAT(
         delegate.statWindowControllerForSelectedText(), testing::ElementsAre(controllers[0], controllers[2]));

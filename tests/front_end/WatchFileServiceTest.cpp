@@ -190,7 +190,7 @@ TEST_F(WatchFileService, AFinishedWatcherLeavesAndItsFileGetsAFreshOne)
 {
     watch({novel, letter});
     int endings = 0;
-    delegate.setSomethingEndedHandler([&] { ++endings; });
+    delegate.setFinishedHandler([&] { ++endings; });
     const std::weak_ptr<WatchTextFileMenuBarController> first = delegate.watchTextFileControllers().front();
     first.lock()->watchTextFileViewControllerForPopover()->stopButton()->performClick();
     EXPECT_TRUE(first.expired());

@@ -2,7 +2,6 @@
 #include "documents/loading/DocumentLoader.h"
 #include "tests/harness/QuillbayTest.h"
 #include "watching/FileTypes.h"
-#include "watching/OpenPanelExtension.h"
 
 #include <QFile>
 #include <QMimeDatabase>

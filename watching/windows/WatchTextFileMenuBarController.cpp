@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A watcher and its document. How it looks is in WatcherViews.cpp.
+// A watcher and its document. WatcherViews.cpp has its views.
 #include "watching/windows/WatchTextFileMenuBarController.h"
 
 #include "documents/loading/DocumentLoader.h"
@@ -9,13 +9,12 @@
 #include "preferences/QBYUserDefaultsController.h"
 #include "speech/ApplicationExtension.h"
 #include "watching/FileTypes.h"
-#include "watching/OpenPanelExtension.h"
 
 #include <utility>
 
 namespace {
 
-// Buttons of the alert, in their order.
+// Indices of the alert's buttons.
 constexpr int closeButton = 0;
 
 Alert failureAlert(const QUrl &document)
@@ -40,10 +39,10 @@ WatchTextFileMenuBarController::~WatchTextFileMenuBarController() = default;
 
 void WatchTextFileMenuBarController::watchWithTextFileURL(const QUrl &textFileURL)
 {
-    const QUrl url = textFileURL.adjusted(QUrl::StripTrailingSlash); // of a folder
+    const QUrl url = textFileURL.adjusted(QUrl::StripTrailingSlash); // an RTFD folder may have one
     setTitleOfPanels(lastPathComponent(url));
     m_isChangeUncounted = false;
-    readFirst(url);
+    readAndCount(url);
     if (m_watchFileModel) {
         m_watchFileModel->setTextFileURLToWatch(url, true);
         return;
@@ -58,7 +57,7 @@ QUrl WatchTextFileMenuBarController::urlBeingWatched() const
     return m_watchFileModel ? m_watchFileModel->presentedItemURL() : QUrl();
 }
 
-void WatchTextFileMenuBarController::readFirst(const QUrl &url)
+void WatchTextFileMenuBarController::readAndCount(const QUrl &url)
 {
     if (QBYExtension::doesConformToDocXFileUTI(url)) {
         countDocX(url);
@@ -75,7 +74,7 @@ void WatchTextFileMenuBarController::readFirst(const QUrl &url)
 void WatchTextFileMenuBarController::count(const AttributedString &attributedString)
 {
     m_watchTextFileViewControllerForPopover->wordCounterViewController()
-        ->asyncUpdateStatsWithAttributedString(attributedString, whenCounted());
+        ->asyncUpdateStatsWithAttributedString(attributedString, makeCompletion());
 }
 
 void WatchTextFileMenuBarController::countDocX(const QUrl &url)
@@ -83,10 +82,10 @@ void WatchTextFileMenuBarController::countDocX(const QUrl &url)
     WordCounterViewController &statistics =
         *m_watchTextFileViewControllerForPopover->wordCounterViewController();
     m_isChangeUncounted = statistics.isAsyncCountOperationInProgress();
-    statistics.asyncUpdateStatsDocXFileURL(url, whenCounted());
+    statistics.asyncUpdateStatsDocXFileURL(url, makeCompletion());
 }
 
-WordCounterViewController::Completion WatchTextFileMenuBarController::whenCounted()
+WordCounterViewController::Completion WatchTextFileMenuBarController::makeCompletion()
 {
     return [weakSelf = weak_from_this()] {
         if (const auto self = weakSelf.lock())
@@ -99,15 +98,15 @@ void WatchTextFileMenuBarController::countDidComplete()
     const QBYWordCounterStats stats = m_watchTextFileViewControllerForPopover->wordCounterViewController()
                                           ->wordCounter()
                                           ->statsRepresentation();
-    // In the window form it is the same panel, which does no harm.
+    // In the window form this is the counting panel itself, which is harmless.
     if (m_contentViewControllerForDetachableWindow)
         m_contentViewControllerForDetachableWindow->wordCounterViewController()
             ->updateInterfaceWithPrepopulatedStats(stats);
     sayWordCountIfPreferred(stats.numberOfWords);
 }
 
-/// The panel drops what it is given while it counts, and a Word document is not polled: so the file
-/// coordination tells the last change again.
+/// A panel drops requests while it counts, and a Word document is not polled: the file coordination has to
+/// report the last change again.
 void WatchTextFileMenuBarController::countingStateDidChange()
 {
     const auto &statistics = *m_watchTextFileViewControllerForPopover->wordCounterViewController();
@@ -149,7 +148,7 @@ void WatchTextFileMenuBarController::currentlyWatchedTextFileDidFailToLoadAttrib
     watchModel.stopWatchingTextFile();
     closeViews();
     m_surroundings.desktop.beep();
-    // Later, so that the model's call returns first.
+    // Queued, so that the model's call returns first.
     MainQueue::async([self = shared_from_this()] { self->askWhatToDo(); });
 }
 
@@ -171,7 +170,7 @@ void WatchTextFileMenuBarController::chooseAnotherFile()
                 self->watchTextFileViewControllerRequestedStop(nullptr);
                 return;
             }
-            // Nothing is read and the title stays: the next change or poll brings the counts.
+            // Deliberately reads nothing and keeps the title: the next change or poll updates the counts.
             if (self->m_watchFileModel)
                 self->m_watchFileModel->setTextFileURLToWatch(
                     urls->first().adjusted(QUrl::StripTrailingSlash), true);
@@ -182,7 +181,7 @@ void WatchTextFileMenuBarController::chooseAnotherFile()
 void WatchTextFileMenuBarController::watchTextFileViewControllerRequestedStop(
     WatchTextFileViewController * /*panel*/)
 {
-    const auto self = shared_from_this(); // the delegate lets go of it
+    const auto self = shared_from_this(); // the delegate drops its reference
     if (m_watchFileModel)
         m_watchFileModel->stopWatchingTextFile();
     m_watchFileModel.reset();

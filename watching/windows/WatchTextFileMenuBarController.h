@@ -1,31 +1,43 @@
 // SPDX-License-Identifier: MIT
 // WatchTextFileMenuBarController is one watcher: it follows one document, shows its statistics and speaks its
-// word count. It has a model that follows the file, and panels that count and show. Thread: main.  Owner: the
-// registry of its delegate, and its own alerts and delayed work while they wait; made by init() or
-// initWithoutMenuItem().
+// word count. Following the file is left to its model, counting to its panels. Made by init() or
+// initWithoutMenuItem(). Thread: main.  Owner: the registry of its delegate, and its own alerts and delayed
+// work while they are pending.
 #pragma once
 
+#include "platform/system/Clock.h"
+#include "platform/views/ApplicationActivity.h"
 #include "platform/views/Popover.h"
+#include "platform/views/StatusItem.h"
 #include "presentation/WordCounterViewController.h"
+#include "speech/ApplicationExtension.h"
 #include "watching/WatchTextFileModel.h"
-#include "watching/windows/WatchSurroundings.h"
 #include "watching/windows/WatchTextFileMenuBarControllerDelegate.h"
 #include "watching/windows/WatchTextFileViewController.h"
 
-/// Two forms: an item in the status bar with a pop-over that can be dragged off into a window, or only a
-/// small floating window. In the window form there is one panel, which stands for both.
+/// What watchers need of their program. Everything that it refers to outlives them.
+struct WatchSurroundings {
+    Desktop &desktop;
+    ApplicationActivity &applicationActivity;
+    StatusBar *statusBar = nullptr; ///< only needed for watchers with a status item
+    Clock &clock = systemClock();
+    QString speechLaunchPath = QBYExtension::speechLaunchPath();
+};
+
+/// Has one of two forms: a status item with a pop-over that the user can drag off into a window, or only a
+/// small floating window. In the window form one panel serves as that of the pop-over and that of the window.
 class WatchTextFileMenuBarController : public QObject,
                                        public PopoverDelegate,
                                        public WatchTextFileModelDelegate,
                                        public WatchTextFileViewControllerDelegate,
                                        public std::enable_shared_from_this<WatchTextFileMenuBarController> {
 public:
-    /// How long after init() the pop-over shows itself.
+    /// Time from init() until the pop-over opens.
     static constexpr std::chrono::milliseconds popoverDelay{300};
 
-    /// The form with a status item; surroundings must have a status bar.
+    /// The form with a status item; requires a status bar in surroundings.
     static std::shared_ptr<WatchTextFileMenuBarController> init(const WatchSurroundings &surroundings);
-    /// The window form. The window is shown by showWindow().
+    /// The window form. showWindow() shows the window.
     static std::shared_ptr<WatchTextFileMenuBarController> initWithoutMenuItem(
         const WatchSurroundings &surroundings);
     ~WatchTextFileMenuBarController() override;
@@ -33,7 +45,7 @@ public:
     [[nodiscard]] WatchTextFileMenuBarControllerDelegate *delegate() const { return m_delegate.get(); }
     void setDelegate(WatchTextFileMenuBarControllerDelegate *delegate) { m_delegate = delegate; }
 
-    // Null where the form has none, or none yet.
+    // Null if the form has none, or none yet.
     [[nodiscard]] const std::shared_ptr<StatusItem> &statusItem() const { return m_statusItem; }
     [[nodiscard]] Popover *popover() const { return m_popover.get(); }
     /// The panel that counts.
@@ -56,24 +68,24 @@ public:
     [[nodiscard]] quint64 lastCalledOutWordCount() const { return m_lastCalledOutWordCount; }
     void setLastCalledOutWordCount(quint64 count) { m_lastCalledOutWordCount = count; }
 
-    /// Reads and counts the document, and begins to follow it. A first read that fails is logged; the
-    /// document is followed all the same.
+    /// Reads and counts the document and starts to follow it. If the first read fails, logs the error and
+    /// follows the document anyway.
     void watchWithTextFileURL(const QUrl &textFileURL);
     /// Empty without a model.
     [[nodiscard]] QUrl urlBeingWatched() const;
-    /// Shows the window in the middle of the screen, also one that is shown elsewhere already.
+    /// Shows the window in the middle of the screen with the pointer, moving it if it is visible.
     void showWindow();
     [[nodiscard]] bool showsCloseButton() const;
     void setShowsCloseButton(bool shows);
-    /// Shows the pop-over; one that is shown stays.
+    /// Shows the pop-over unless it is visible.
     void statusBarButtonAction();
 
     bool popoverShouldDetach(Popover &popover) override;
     void popoverWillShow(Popover &popover) override;
-    /// Made once, and kept for the next time.
+    /// Made on first use and reused.
     std::shared_ptr<Window> detachableWindowForPopover(Popover &popover) override;
 
-    /// The watching goes on.
+    /// Closes the views; the watcher goes on.
     void watchTextFileViewControllerRequestedClose(WatchTextFileViewController &panel) override;
     void watchTextFileViewControllerRequestedStop(WatchTextFileViewController *panel) override;
     Popover *popoverFromPresenterForAutoResizeOrNil(WatchTextFileViewController &panel) override;
@@ -92,15 +104,14 @@ private:
     void setUpWithMenuItem();
     void setUpWithoutMenuItem();
     void makeWindow(const QRectF &contentRect, const std::shared_ptr<WatchTextFileViewController> &panel);
-    void serve(Window &window, const std::shared_ptr<WatchTextFileViewController> &panel);
-    void showPopoverLater();
+    void schedulePopover();
     void setCountingPanel(const std::shared_ptr<WatchTextFileViewController> &panel);
     void setTitleOfPanels(const QString &title);
 
-    void readFirst(const QUrl &url);
+    void readAndCount(const QUrl &url);
     void count(const AttributedString &attributedString);
     void countDocX(const QUrl &url);
-    [[nodiscard]] WordCounterViewController::Completion whenCounted();
+    [[nodiscard]] WordCounterViewController::Completion makeCompletion();
     void countDidComplete();
     void countingStateDidChange();
     void sayWordCountIfPreferred(quint64 wordCount);
@@ -120,7 +131,7 @@ private:
     std::unique_ptr<WindowOnScreen> m_detachableWindowOnScreen;
     std::shared_ptr<WatchTextFileViewController> m_contentViewControllerForDetachableWindow;
     std::unique_ptr<WatchTextFileModel> m_watchFileModel;
-    std::unique_ptr<ClockTimer> m_firstShowing; // of the pop-over
+    std::unique_ptr<ClockTimer> m_popoverTimer; // until the pop-over opens by itself
     quint64 m_lastCalledOutWordCount = 0;
-    bool m_isChangeUncounted = false; // of a Word document: the panel was counting
+    bool m_isChangeUncounted = false; // of a Word document, dropped while the panel was counting
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// WatchTextFileMenuBarControllerDelegate keeps a watcher, and hears when it has finished.
-// Thread: main.  Owner: itself; the watcher refers to it weakly.
+// WatchTextFileMenuBarControllerDelegate owns a watcher and is notified when it has finished.
+// Thread: main.  Owner: independent of the watcher, which refers to it weakly.
 #pragma once
 
 #include "platform/system/WeakDelegate.h"
@@ -9,6 +9,6 @@ class WatchTextFileMenuBarController;
 
 class WatchTextFileMenuBarControllerDelegate : public Delegate {
 public:
-    /// It watches no more and shows nothing. Letting it go here ends its life.
+    /// The watcher has stopped and hidden its views. The delegate may drop its reference here.
     virtual void watchTextFileMenuBarControllerDidFinish(WatchTextFileMenuBarController &controller) = 0;
 };

@@ -5,33 +5,16 @@
 #include "common_views/WindowExtension.h"
 #include "platform/views/InterfaceFile.h"
 #include "platform/views/Popover.h"
-#include "presentation/PanelPlace.h"
+#include "presentation/PanelHost.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr double roomBesideWidestLabel = 10; // points
-
-QRectF frameOf(const std::shared_ptr<View> &view)
+void setAnimating(const std::shared_ptr<ProgressIndicator> &indicator, bool isAnimating)
 {
-    return view ? view->frame() : QRectF(0, 0, 0, 0);
-}
-
-void setCenter(const std::shared_ptr<View> &view, const QPointF &center)
-{
-    if (view)
-        QBYExtension::setCenter(*view, center);
-}
-
-void setAnimating(const std::shared_ptr<ProgressIndicator> &indicator, bool animating)
-{
-    if (!indicator)
-        return;
-    if (animating)
-        indicator->startAnimation();
-    else
-        indicator->stopAnimation();
+    if (indicator)
+        indicator->setAnimating(isAnimating);
 }
 
 } // namespace
@@ -53,7 +36,7 @@ void WatchTextFileViewController::loadView()
     m_horizontalLine = interface.outlet<Box>(QStringLiteral("horizontalLine"));
     m_closeButton = interface.outlet<Button>(QStringLiteral("closeButton"));
     m_activityIndicator = interface.outlet<ProgressIndicator>(QStringLiteral("activityIndicator"));
-    PanelPlace::fill(interface, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
+    PanelHost::fillPlace(interface, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
     setView(interface.rootView());
 }
 
@@ -91,26 +74,24 @@ void WatchTextFileViewController::viewsFrameDidChange()
     const QSizeF size = view()->frame().size();
     const double middle = size.width() * 0.5;
 
-    setCenter(stopButton(), {middle, frameOf(stopButton()).height() * 0.5});
+    Outlet::setCenter(stopButton(), {middle, Outlet::frame(stopButton()).height() * 0.5});
 
-    // The cross of the close button has room around it, which may lie beyond the edges.
-    const QSizeF close = frameOf(closeButton()).size();
-    if (const auto button = closeButton())
-        button->setFrameOrigin({size.width() - close.width() + 2, size.height() - close.height() + 3});
-    const double rowsMiddle = frameOf(closeButton()).center().y();
-    setCenter(titleForFileBeingWatchedLabel(), {middle, rowsMiddle - 1});
+    // The margin around the close button's cross may extend beyond the edges.
+    const QSizeF close = Outlet::frame(closeButton()).size();
+    Outlet::setFrameOrigin(
+        closeButton(), {size.width() - close.width() + 2, size.height() - close.height() + 3});
+    const double rowMiddle = Outlet::frame(closeButton()).center().y();
+    Outlet::setCenter(titleForFileBeingWatchedLabel(), {middle, rowMiddle - 1});
 
-    const double titlesY = frameOf(titleForFileBeingWatchedLabel()).y();
-    if (const auto line = horizontalLine()) {
-        const double height = line->frame().height();
-        line->setFrame({0, titlesY - 2 * height + 1, size.width(), height});
-    }
-    setCenter(activityIndicator(), {frameOf(activityIndicator()).center().x(), rowsMiddle - 2});
+    const double titleY = Outlet::frame(titleForFileBeingWatchedLabel()).y();
+    const double lineHeight = Outlet::frame(horizontalLine()).height();
+    Outlet::setFrame(horizontalLine(), {0, titleY - 2 * lineHeight + 1, size.width(), lineHeight});
+    Outlet::setCenter(activityIndicator(), {Outlet::frame(activityIndicator()).center().x(), rowMiddle - 2});
 
-    const QRectF stop = frameOf(stopButton());
+    const QRectF stop = Outlet::frame(stopButton());
     const std::shared_ptr<View> &statistics = m_wordCounterViewController->view();
     statistics->setFrameSize({size.width(), statistics->frame().height()});
-    statistics->setFrameOrigin({0, stop.y() + stop.height() - 1}); // over the stop button's topmost point
+    statistics->setFrameOrigin({0, stop.y() + stop.height() - 1}); // overlaps the stop button by a point
 
     const std::vector<std::shared_ptr<View>> subviews = view()->subviews();
     for (const std::shared_ptr<View> &subview : subviews) {
@@ -119,24 +100,12 @@ void WatchTextFileViewController::viewsFrameDidChange()
     }
 }
 
-double WatchTextFileViewController::fittingWidth()
-{
-    // Of several labels that are too wide the last one decides, not the widest; that is deliberate.
-    const double present = view()->frame().width();
-    double width = present;
-    for (const std::shared_ptr<Label> &label : m_wordCounterViewController->allTextfieldsForLayout()) {
-        if (label->frame().width() >= present && !label->isHidden())
-            width = label->frame().width() + roomBesideWidestLabel;
-    }
-    return width;
-}
-
 void WatchTextFileViewController::wordCounterViewControllerDidRelayoutLabels()
 {
     m_wordCounterViewController->adjustViewHeightToFitVisibleLabels();
-    const double height = frameOf(stopButton()).height()
-        + m_wordCounterViewController->view()->frame().height() + frameOf(closeButton()).height();
-    const QSizeF size(fittingWidth(), height);
+    const double height = Outlet::frame(stopButton()).height()
+        + m_wordCounterViewController->view()->frame().height() + Outlet::frame(closeButton()).height();
+    const QSizeF size(PanelHost::fittingWidth(*m_wordCounterViewController, view()->frame().width()), height);
     if (!isExactlyEqual(size, view()->frame().size()))
         resizeContainer(size);
     centerLabels();
@@ -158,7 +127,7 @@ void WatchTextFileViewController::centerLabels()
 {
     const double middle = std::floor(view()->frame().width() * 0.5);
     for (const std::shared_ptr<Label> &label : m_wordCounterViewController->allTextfieldsForLayout())
-        setCenter(label, {middle, label->frame().center().y()});
+        Outlet::setCenter(label, {middle, label->frame().center().y()});
 }
 
 void WatchTextFileViewController::setTitle(const std::optional<QString> &title)
@@ -167,7 +136,7 @@ void WatchTextFileViewController::setTitle(const std::optional<QString> &title)
     ViewController::setTitle(text);
     if (const auto label = titleForFileBeingWatchedLabel()) {
         label->setStringValue(text);
-        label->setToolTip(text); // a long name does not fit
+        label->setToolTip(text); // long names do not fit into the label
         label->setHidden(false);
     }
 }

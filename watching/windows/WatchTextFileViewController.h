@@ -1,30 +1,30 @@
 // SPDX-License-Identifier: MIT
 // WatchTextFileViewController is the panel of a watched file: its name, its statistics, and the buttons to
 // close the panel and to stop watching. It fits its window or pop-over to the statistics; what the buttons do
-// is its delegate's business. Thread: main.  Owner: the watch controller, which is also its delegate. Made
-// with std::make_shared.
+// is left to its delegate. Made with std::make_shared. Thread: main.  Owner: the watch controller, which is
+// also its delegate.
 #pragma once
 
 #include "platform/views/Controls.h"
 #include "presentation/WordCounterViewController.h"
 #include "watching/windows/WatchTextFileViewControllerDelegate.h"
 
-/// Lengths are points, origins at the bottom left: the stop button at the bottom, the statistics above it,
-/// the row of the title at the top. A control that is missing counts as one without place and size.
+/// Lengths are points, with the origin at the bottom left: the stop button at the bottom, the statistics
+/// above it, the title row at the top. A missing control counts as one with an empty frame.
 class WatchTextFileViewController : public ViewController,
                                     public WordCounterViewControllerLayoutDelegate,
                                     public std::enable_shared_from_this<WatchTextFileViewController> {
 public:
-    /// Whether the activity indicator follows the counting of the statistics by itself.
+    /// autoSyncActivityIndicator: the activity indicator turns while the statistics are counted.
     explicit WatchTextFileViewController(bool autoSyncActivityIndicator = false);
     ~WatchTextFileViewController() override;
 
-    /// Never null until somebody sets it so; made with the panel.
+    /// Made with the panel.
     [[nodiscard]] const std::shared_ptr<WordCounterViewController> &wordCounterViewController() const
     {
         return m_wordCounterViewController;
     }
-    /// To be set before the view loads, which shows it.
+    /// To be called before the view loads. controller: not null.
     void setWordCounterViewController(std::shared_ptr<WordCounterViewController> controller)
     {
         m_wordCounterViewController = std::move(controller);
@@ -33,7 +33,7 @@ public:
     void setDelegate(WatchTextFileViewControllerDelegate *delegate) { m_delegate = delegate; }
     [[nodiscard]] bool shouldAutosyncActivityIndicator() const { return m_shouldAutosyncActivityIndicator; }
 
-    // The outlets. They are weak: the panel's view owns them. Null before the view has loaded.
+    // The outlets. They are weak: the panel's view owns them. Null before the view is loaded.
     [[nodiscard]] std::shared_ptr<Label> titleForFileBeingWatchedLabel() const { return m_titleLabel.lock(); }
     [[nodiscard]] std::shared_ptr<Button> stopButton() const { return m_stopButton.lock(); }
     [[nodiscard]] std::shared_ptr<Box> horizontalLine() const { return m_horizontalLine.lock(); }
@@ -53,26 +53,26 @@ public:
 
     [[nodiscard]] bool showsCloseButton() const { return m_showsCloseButton; }
     void setShowsCloseButton(bool shows);
-    /// For who drives the indicator from outside; does not tell the delegate.
+    /// The indicator's state without autoSyncActivityIndicator; its setter does not notify the delegate.
     [[nodiscard]] bool spinActivityIndicator() const { return m_spinActivityIndicator; }
     void setSpinActivityIndicator(bool spins);
 
-    /// Absent: the title is empty.
+    /// An absent title is an empty one.
     void setTitle(const std::optional<QString> &title) override;
 
-    /// The process ends where the interface file cannot be used: it is a part of the program.
+    /// Aborts the process if the interface file cannot be used: it is part of the program.
     void loadView() override;
     void viewDidLoad() override;
-    /// Fits the container, so that the panel comes onto the screen in its size.
+    /// Fits the container, so that the panel appears in its final size.
     void viewWillAppear() override;
 
-    /// Places the controls in the view's frame, and every direct subview on whole points.
+    /// Places the controls in the view's frame, then rounds the origins of all direct subviews down to whole
+    /// points.
     void viewsFrameDidChange();
-    /// Fits the container to the statistics: the width of the last label that is too wide, never less than it
-    /// was.
+    /// Fits the container to the statistics; see PanelHost::fittingWidth().
     void wordCounterViewControllerDidRelayoutLabels() override;
 
-    // They tell the delegate; after that the panel may be gone.
+    // Notify the delegate, which may destroy the panel.
     void closeButtonAction();
     void stopButtonAction();
 
@@ -80,7 +80,6 @@ private:
     void _viewControllersViewFrameDidChangeNotification();
     void _doTellDelegateThatActivityIndicatorAnimationStateChanged(bool isAnimating);
     void isAsyncCountOperationInProgressDidChange();
-    [[nodiscard]] double fittingWidth();
     void resizeContainer(const QSizeF &size);
     void centerLabels();
 

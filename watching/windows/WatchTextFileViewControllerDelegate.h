@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// WatchTextFileViewControllerDelegate presents a watch panel, and is told what the user presses in it.
-// Thread: main.  Owner: itself; the panel refers to it weakly. It may let the panel go in any of these.
+// WatchTextFileViewControllerDelegate presents a watch panel and handles its buttons. It may drop its
+// reference to the panel in any of these calls. Thread: main.  Owner: independent of the panel, which refers
+// to it weakly.
 #pragma once
 
 #include "platform/system/WeakDelegate.h"
@@ -11,11 +12,11 @@ class WatchTextFileViewController;
 class WatchTextFileViewControllerDelegate : public Delegate {
 public:
     virtual void watchTextFileViewControllerRequestedClose(WatchTextFileViewController &panel) = 0;
-    /// panel: null where it is not a panel that asks.
+    /// panel: null if the request does not come from a panel.
     virtual void watchTextFileViewControllerRequestedStop(WatchTextFileViewController *panel) = 0;
-    /// The pop-over that shows the panel; null where a window does.
+    /// The pop-over that shows the panel; null if a window does.
     virtual Popover *popoverFromPresenterForAutoResizeOrNil(WatchTextFileViewController &panel) = 0;
-    /// The indicator that follows the counting by itself has started or stopped. Optional.
+    /// The indicator has started or stopped along with a count. Optional.
     virtual void didChangeActivityIndicatorAnimationState(
         WatchTextFileViewController & /*panel*/, bool /*isAnimating*/)
     {

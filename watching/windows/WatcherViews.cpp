@@ -1,21 +1,16 @@
 // SPDX-License-Identifier: MIT
-// The places where a watcher shows its panels: the status item with its pop-over, the window.
+// The views of a watcher: the status item with its pop-over, and the window.
 #include "watching/windows/WatchTextFileMenuBarController.h"
 
 #include "common_views/QBYWindow.h"
 #include "common_views/WindowExtension.h"
+#include "common_views/WindowPlacement.h"
 #include "platform/system/MainQueue.h"
-
-#include <cmath>
+#include "presentation/PanelHost.h"
 
 namespace {
 
-constexpr unsigned texturedBackground = 256; // no title bar; the background moves the window
-
-void setShortStyle(const std::shared_ptr<WatchTextFileViewController> &panel)
-{
-    panel->wordCounterViewController()->wordCounter()->setFormattedStringStyle(WordCounterModel::shortStyle);
-}
+constexpr unsigned texturedBackground = 256; // a style without a title bar
 
 } // namespace
 
@@ -52,18 +47,19 @@ void WatchTextFileMenuBarController::setUpWithMenuItem()
     setCountingPanel(panel);
     m_popover->setContentViewController(panel);
     m_popover->setDelegate(this);
-    serve(*m_popover->window(), panel);
-    showPopoverLater();
+    panel->wordCounterViewController()->serve(*m_popover->window());
+    panel->wordCounterViewController()->fitLabels();
+    schedulePopover();
 }
 
-void WatchTextFileMenuBarController::showPopoverLater()
+void WatchTextFileMenuBarController::schedulePopover()
 {
-    m_firstShowing = m_surroundings.clock.makeTimer([self = shared_from_this()] {
-        // It holds the watcher, and cannot go while it runs.
-        MainQueue::async([ended = std::shared_ptr<ClockTimer>(std::move(self->m_firstShowing))] {});
+    m_popoverTimer = m_surroundings.clock.makeTimer([self = shared_from_this()] {
+        // The timer holds the watcher, so it is dropped; but not before its handler has returned.
+        MainQueue::async([timer = std::shared_ptr<ClockTimer>(std::move(self->m_popoverTimer))] {});
         self->statusBarButtonAction();
     });
-    m_firstShowing->start(popoverDelay);
+    m_popoverTimer->start(popoverDelay);
 }
 
 void WatchTextFileMenuBarController::setUpWithoutMenuItem()
@@ -71,7 +67,7 @@ void WatchTextFileMenuBarController::setUpWithoutMenuItem()
     const auto panel = std::make_shared<WatchTextFileViewController>(true);
     panel->setDelegate(this);
     m_contentViewControllerForDetachableWindow = panel;
-    setShortStyle(panel);
+    PanelHost::useShortStyle(*panel->wordCounterViewController());
     makeWindow({{0, 0}, panel->view()->frame().size()}, panel);
     setCountingPanel(panel);
     m_detachableWindowForPopover->setLevel(WindowLevel::Floating);
@@ -91,22 +87,11 @@ void WatchTextFileMenuBarController::makeWindow(
 {
     const auto window = std::make_shared<QBYWindow>(contentRect, texturedBackground);
     window->setContentView(panel->view());
-    window->setMovableByBackground(true);
-    window->setClosesOnRequest(false);
-    connect(
-        window.get(), &Window::closeRequested, this, &WatchTextFileMenuBarController::windowCloseRequested);
-    serve(*window, panel);
+    PanelHost::setUpWindow(
+        *window, *panel->wordCounterViewController(), *this, [this] { windowCloseRequested(); });
+    panel->wordCounterViewController()->fitLabels(); // later, the window's text metrics cause it
     m_detachableWindowForPopover = window;
     m_detachableWindowOnScreen = m_surroundings.desktop.putOnScreen(window);
-}
-
-/// Fits the statistics now; later they see to it themselves.
-void WatchTextFileMenuBarController::serve(
-    Window &window, const std::shared_ptr<WatchTextFileViewController> &panel)
-{
-    const std::shared_ptr<WordCounterViewController> statistics = panel->wordCounterViewController();
-    statistics->serve(window);
-    statistics->fitLabels();
 }
 
 void WatchTextFileMenuBarController::setTitleOfPanels(const QString &title)
@@ -115,7 +100,7 @@ void WatchTextFileMenuBarController::setTitleOfPanels(const QString &title)
     if (m_contentViewControllerForDetachableWindow)
         m_contentViewControllerForDetachableWindow->setTitle(title);
     if (m_detachableWindowForPopover)
-        m_detachableWindowForPopover->setTitle(title); // for lists of windows and screen readers
+        m_detachableWindowForPopover->setTitle(title); // for window lists and screen readers
     if (m_popover)
         m_popover->window()->setTitle(title);
     if (m_statusItem)
@@ -139,11 +124,9 @@ void WatchTextFileMenuBarController::showWindow()
     Window &window = *m_detachableWindowForPopover;
     if (!window.isVisible())
         m_contentViewControllerForDetachableWindow->viewWillAppear();
-    const QRectF room = m_surroundings.desktop.visibleFrameAt(m_surroundings.desktop.pointerLocation());
+    const QRectF area = m_surroundings.desktop.visibleFrameAt(m_surroundings.desktop.pointerLocation());
     const QSizeF size = window.frame().size();
-    const QPointF origin(
-        std::floor(room.center().x() - size.width() / 2), std::floor(room.center().y() - size.height() / 2));
-    window.setFrame({origin, size}, true, false);
+    window.setFrame({originInMiddle(size, area), size}, true, false);
     window.orderFront();
 }
 
@@ -151,7 +134,7 @@ void WatchTextFileMenuBarController::statusBarButtonAction()
 {
     if (!m_popover || m_popover->isShown())
         return;
-    // Most desktops do not say where the item is; then the pointer is the best guess.
+    // Most desktops do not report where the item is; then the pointer is the best guess.
     const QRectF atPointer(m_surroundings.desktop.pointerLocation(), QSizeF(0, 0));
     m_popover->show(m_statusItem->buttonFrame().value_or(atPointer), RectEdge::MinY);
 }
@@ -163,7 +146,7 @@ bool WatchTextFileMenuBarController::popoverShouldDetach(Popover & /*popover*/)
 
 void WatchTextFileMenuBarController::popoverWillShow(Popover & /*popover*/)
 {
-    setShortStyle(m_watchTextFileViewControllerForPopover);
+    PanelHost::useShortStyle(*m_watchTextFileViewControllerForPopover->wordCounterViewController());
     if (m_detachableWindowForPopover)
         m_detachableWindowForPopover->close();
 }
@@ -177,7 +160,7 @@ std::shared_ptr<Window> WatchTextFileMenuBarController::detachableWindowForPopov
         m_contentViewControllerForDetachableWindow = panel;
         const QPointF origin = popover.contentViewController()->view()->frame().topLeft();
         makeWindow({origin, popover.contentSize()}, panel);
-        setShortStyle(panel);
+        PanelHost::useShortStyle(*panel->wordCounterViewController());
         panel->wordCounterViewController()->updateInterfaceWithPrepopulatedStats(
             source.wordCounterViewController()->wordCounter()->statsRepresentation());
         QBYExtension::setFrameSize(*m_detachableWindowForPopover, popover.contentSize(), true);
@@ -202,7 +185,7 @@ void WatchTextFileMenuBarController::watchTextFileViewControllerRequestedClose(
     closeViews();
 }
 
-/// Of the window manager, and of the keys that close windows: what the button does that the panel has.
+/// The window manager's close and the keys that close windows act like the panel's visible button.
 void WatchTextFileMenuBarController::windowCloseRequested()
 {
     WatchTextFileViewController *const panel = m_contentViewControllerForDetachableWindow.get();

@@ -3,7 +3,7 @@
 #include "tests/watching/windows/WatcherTest.h"
 
 #include "platform/system/FileURL.h"
-#include "watching/OpenPanelExtension.h"
+#include "watching/FileTypes.h"
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;

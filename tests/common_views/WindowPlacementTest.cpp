@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "front_end/WindowPlacement.h"
+#include "common_views/WindowPlacement.h"
 
 #include <gtest/gtest.h>
 
