@@ -7,9 +7,9 @@
 
 namespace {
 
-// Whether a code unit is, or is part of, a character of a script written from right to left, or a control
-// that turns the direction. May say yes too often, never no.
-bool turnsDirection(char16_t unit)
+// Whether a code unit may belong to a character of a right-to-left script or to a control that changes the
+// direction. May be true too often, but never false by mistake.
+bool mayChangeDirection(char16_t unit)
 {
     if (unit < 0x590)
         return false;
@@ -39,7 +39,7 @@ UBiDiLevel levelOf(BidiRuns::Base base)
 
 struct BidiRuns::Implementation {
     std::unique_ptr<UBiDi, decltype(&ubidi_close)> bidi{ubidi_open(), &ubidi_close};
-    const UBiDiLevel *levels = nullptr; // null where the whole paragraph has the base direction
+    const UBiDiLevel *levels = nullptr; // null if the whole paragraph has the base direction
     qsizetype length = 0;
     bool isRightToLeft = false;
 };
@@ -60,14 +60,14 @@ void BidiRuns::setParagraph(QStringView text, Base base)
     mine.levels = nullptr;
     mine.isRightToLeft = base == Base::RightToLeft;
     const char16_t *units = text.utf16();
-    const bool isSimple = !mine.isRightToLeft && std::none_of(units, units + text.size(), turnsDirection);
+    const bool isSimple = !mine.isRightToLeft && std::none_of(units, units + text.size(), mayChangeDirection);
     if (isSimple || text.isEmpty() || text.size() > INT32_MAX)
         return;
     UErrorCode status = U_ZERO_ERROR;
     ubidi_setPara(mine.bidi.get(), units, static_cast<int32_t>(text.size()), levelOf(base), nullptr, &status);
     const UBiDiLevel *levels = ubidi_getLevels(mine.bidi.get(), &status);
     if (U_FAILURE(status))
-        return; // out of memory: everything in the base direction
+        return; // out of memory: uses the base direction for everything
     mine.levels = levels;
     mine.isRightToLeft = ubidi_getParaLevel(mine.bidi.get()) & 1;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// BidiRuns tells which stretches of a paragraph are written from right to left (UAX #9).
-// Thread: one at a time.  Owner: whoever makes it; kept for the next paragraph, since its memory is dear.
+// BidiRuns finds the stretches of a paragraph that are written from right to left (UAX #9).
+// Thread: one at a time.  Owner: the caller; to be reused for the next paragraph, since it is expensive to
+// make.
 #pragma once
 
 #include <QStringView>
@@ -11,7 +12,7 @@ class BidiRuns {
 public:
     enum class Base { FirstStrongCharacter, LeftToRight, RightToLeft };
 
-    /// A stretch in one direction, in text order.
+    /// A stretch in one direction.
     struct Run {
         qsizetype end; ///< UTF-16 code units from the start of the paragraph
         bool isRightToLeft;
@@ -22,13 +23,13 @@ public:
     BidiRuns &operator=(BidiRuns &&) noexcept;
     ~BidiRuns();
 
-    /// Takes time in proportion to the paragraph; one that can hold nothing written from right to left is
-    /// only looked through. The text, without its separator, must live until the last runAt().
+    /// Takes time proportional to the paragraph; a text without right-to-left characters is only scanned.
+    /// text: without its separator; must live until the last runAt().
     void setParagraph(QStringView text, Base base);
 
     [[nodiscard]] bool isParagraphRightToLeft() const;
 
-    /// The rest of the run that holds a position (0 to the length - 1), found in time proportional to it.
+    /// The rest of the run that contains a position (0 to the length - 1), in time proportional to it.
     [[nodiscard]] Run runAt(qsizetype position) const;
 
 private:

@@ -68,10 +68,10 @@ void BreakIterator::setText(QStringView text)
     if (text.isEmpty())
         return;
     UErrorCode status = U_ZERO_ERROR;
-    utext_openUChars(&m_implementation->text, text.utf16(), std::min(text.size(), longestText), &status);
+    utext_openUChars(&m_implementation->text, text.utf16(), std::min(text.size(), maxTextLength), &status);
     m_implementation->rules->setText(&m_implementation->text, status);
     if (U_FAILURE(status))
-        throw std::bad_alloc(); // nothing else can fail
+        throw std::bad_alloc(); // the only way to fail
 }
 
 qsizetype BreakIterator::next()

@@ -17,7 +17,7 @@ UGraphemeClusterBreak breakClass(char32_t character)
         u_getIntPropertyValue(static_cast<UChar32>(character), UCHAR_GRAPHEME_CLUSTER_BREAK));
 }
 
-// No pictograph stands between these, as the code charts are laid out; the property is dear to look up.
+// There are no pictographs outside of these ranges. Looking up the property is expensive.
 bool mayBePictograph(char32_t character)
 {
     return (character >= 0xA9 && character <= 0xAE) || (character >= 0x2000 && character < 0x3400)
@@ -77,12 +77,12 @@ bool continuesSyllable(UGraphemeClusterBreak before, UGraphemeClusterBreak after
     }
 }
 
-// What the rules must remember of the cluster so far, besides its last character.
+// The state of the rules for the cluster so far.
 struct Cluster {
     UGraphemeClusterBreak last;
-    bool endsInPictograph; // and perhaps Extend behind it: the left side of GB11, up to its ZWJ
+    bool endsInPictograph; // possibly with Extend: the left side of GB11 before ZWJ
     int regionalIndicators;
-    enum class Conjunct { None, Consonant, Linked } conjunct; // how much of one stands at the end
+    enum class Conjunct { None, Consonant, Linked } conjunct; // the part of one at the end
 
     [[nodiscard]] bool isContinuedBy(char32_t character, UGraphemeClusterBreak value) const
     {
@@ -107,7 +107,7 @@ struct Cluster {
         if (value != U_GCB_EXTEND && value != U_GCB_ZWJ)
             endsInPictograph = isPictograph(character);
         else if (last == U_GCB_ZWJ)
-            endsInPictograph = false; // GB11 has one ZWJ, right before the second picture
+            endsInPictograph = false; // GB11 allows one ZWJ, directly before the second pictograph
         regionalIndicators = value == U_GCB_REGIONAL_INDICATOR ? regionalIndicators + 1 : 0;
         addToConjunct(character, value);
         last = value;
@@ -116,13 +116,13 @@ struct Cluster {
     void addToConjunct(char32_t character, UGraphemeClusterBreak value)
     {
         const int category = syllabicCategory(character);
-        const bool isPassedOver = value == U_GCB_ZWJ
+        const bool isTransparent = value == U_GCB_ZWJ
             || (value == U_GCB_EXTEND && u_getCombiningClass(static_cast<UChar32>(character)) != 0);
         if (category == U_INSC_CONSONANT)
             conjunct = Conjunct::Consonant;
         else if (category == U_INSC_VIRAMA && conjunct != Conjunct::None)
             conjunct = Conjunct::Linked;
-        else if (!isPassedOver)
+        else if (!isTransparent)
             conjunct = Conjunct::None;
     }
 };
@@ -146,7 +146,7 @@ qsizetype graphemeClusterEnd(QStringView text, qsizetype start)
 {
     const char32_t first = codePointAt(text, start);
     qsizetype end = start + lengthOf(first);
-    // Latin text, nearly always: what follows is below the first combining mark.
+    // Fast path for Latin text: the next character is below the first combining mark.
     constexpr char16_t firstMark = 0x300;
     if (first < firstMark && first != u'\r' && (end >= text.size() || text.utf16()[end] < firstMark)
         && first != 0xA9 && first != 0xAE)
@@ -185,9 +185,9 @@ bool isEmojiCluster(QStringView cluster)
     if (cluster.isEmpty() || cluster.utf16()[0] < 0x23)
         return false;
     const char32_t first = codePointAt(cluster, 0);
-    const qsizetype behind = lengthOf(first);
-    if (behind < cluster.size()) {
-        const char16_t selector = cluster.utf16()[behind];
+    const qsizetype next = lengthOf(first);
+    if (next < cluster.size()) {
+        const char16_t selector = cluster.utf16()[next];
         if (selector == asText)
             return false;
         if (selector == asPicture && u_hasBinaryProperty(static_cast<UChar32>(first), UCHAR_EMOJI))

@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: MIT
-// Grapheme clusters by the properties of their characters: for one cluster here and there, where passing a
-// whole text through a BreakIterator would cost more than it answers.
-// Thread: any.
+// Grapheme clusters by the properties of their characters: for single clusters, where running a BreakIterator
+// over the whole text would be too expensive. Thread: any.
 #pragma once
 
 #include <QStringView>
 
-/// The end of the extended grapheme cluster (UAX #29, GB3 to GB13, and the
-/// conjuncts of Indic scripts that ICU's root rules keep together) that starts at a boundary, 0 to the text's
-/// length - 1. Always behind the start; half a surrogate pair is a cluster of its own.
+/// The end of the extended grapheme cluster that starts at a boundary (0 to the text's length - 1), by UAX
+/// #29, GB3 to GB13, with the Indic conjuncts of ICU's root rules. Always after start; an unpaired surrogate
+/// is a cluster.
 qsizetype graphemeClusterEnd(QStringView text, qsizetype start);
 
-/// Whether a character at the start of a text would join the cluster before it: marks, joiners, modifiers.
+/// Whether a character joins the cluster before it: marks, joiners, modifiers.
 bool continuesGraphemeCluster(char32_t character);
 
-/// Whether a cluster asks to be shown as a colourful picture (UTS #51): it starts with a character that is
-/// shown so by default, or U+FE0F asks for it, and U+FE0E does not ask for text.
+/// Whether a cluster has emoji presentation (UTS #51): its first character has it by default or by U+FE0F,
+/// and no U+FE0E requests text presentation.
 bool isEmojiCluster(QStringView cluster);
 
-/// Default_Ignorable_Code_Point: invisible where a font has no glyph for it.
+/// Default_Ignorable_Code_Point: invisible if the font has no glyph for it.
 bool isDefaultIgnorable(char32_t character);
 
-/// The code point at a position (0 to the text's length - 1); half a surrogate pair is U+FFFD.
+/// The code point at a position (0 to the text's length - 1); an unpaired surrogate gives U+FFFD.
 char32_t codePointAt(QStringView text, qsizetype position);

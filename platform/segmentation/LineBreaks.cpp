@@ -9,8 +9,8 @@ namespace {
 constexpr qsizetype none = -1;
 constexpr qsizetype never = std::numeric_limits<qsizetype>::max();
 
-// How far back a simple boundary is looked for: longer than nearly every word.
-constexpr qsizetype lookBack = 64;
+// How far back to search for a simple boundary: longer than nearly every word.
+constexpr qsizetype maxLookBack = 64;
 
 bool isAsciiLetterOrDigit(char16_t unit)
 {
@@ -18,19 +18,20 @@ bool isAsciiLetterOrDigit(char16_t unit)
     return (lower >= u'a' && lower <= u'z') || (unit >= u'0' && unit <= u'9');
 }
 
-// Letters, digits, and punctuation whose classes (IS, EX, CL, CP) forbid no break behind spaces that follow.
-bool allowsBreakBehindSpace(char16_t unit)
+// Letters, digits, and punctuation of classes (IS, EX, CL, CP) that do not forbid a break after following
+// spaces.
+bool allowsBreakAfterSpace(char16_t unit)
 {
     return isAsciiLetterOrDigit(unit) || unit == u',' || unit == u'.' || unit == u';' || unit == u':'
         || unit == u'!' || unit == u'?' || unit == u')';
 }
 
-// A boundary whatever stands around it: LB18 breaks between a space and AL or NU, and none of the rules
-// before LB18 says otherwise when such a character stands before the space.
+// A boundary in every context: LB18 breaks between a space and AL or NU, and no earlier rule forbids that
+// after such a character and a space.
 bool isSimpleBoundary(const char16_t *units, qsizetype position)
 {
     return position >= 2 && units[position - 1] == u' ' && isAsciiLetterOrDigit(units[position])
-        && allowsBreakBehindSpace(units[position - 2]);
+        && allowsBreakAfterSpace(units[position - 2]);
 }
 
 } // namespace
@@ -46,11 +47,10 @@ void LineBreaks::setParagraph(QStringView text)
     m_text = text;
     m_base = 0;
     m_last = 0;
-    m_next = none; // not begun: most paragraphs never need ICU
+    m_next = none; // not started: most paragraphs never need ICU
 }
 
-// The rules look at no character before the boundary that they start from, so a restart at one changes
-// nothing.
+// The rules never look behind the boundary that they start from, so a restart there changes nothing.
 void LineBreaks::restartAt(qsizetype boundary)
 {
     m_base = boundary;
@@ -74,8 +74,8 @@ qsizetype LineBreaks::lastAtOrBefore(qsizetype position)
     const char16_t *units = m_text.utf16();
     if (position >= m_text.size())
         return m_text.size();
-    bool isOneWord = true; // letters and digits from the simple boundary up to and with the position
-    const qsizetype limit = std::max<qsizetype>(2, position - lookBack);
+    bool isOneWord = true; // only letters and digits from the simple boundary to the position
+    const qsizetype limit = std::max<qsizetype>(2, position - maxLookBack);
     for (qsizetype at = position; at >= limit; --at) {
         if (!isSimpleBoundary(units, at)) {
             isOneWord = isOneWord && isAsciiLetterOrDigit(units[at]);

@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: MIT
-// LineBreaks answers where a paragraph may be broken into lines: UAX #14 by ICU's root rules, dictionaries
-// for the scripts that need them. Asked near the end of every line, it looks at little else.
-// Thread: one at a time.  Owner: whoever makes it; dear to make, kept for the next paragraph.
+// LineBreaks finds where a paragraph may be broken into lines: by UAX #14 with ICU's root rules, and
+// dictionaries for the scripts that need them. It examines little more than the text around the ends of
+// lines. Thread: one at a time.  Owner: the caller; expensive to make, to be reused for the next paragraph.
 #pragma once
 
 #include "platform/segmentation/BreakIterator.h"
 
 #include <QStringView>
 
-/// Whether a line ends behind this character wherever it stands (classes BK and NL, LB4 and LB5). Carriage
-/// return and line feed end lines too, but never stand inside a paragraph.
+/// Whether a line always ends after this character (classes BK and NL, LB4 and LB5). Carriage return and line
+/// feed also end lines, but never occur inside a paragraph.
 bool isForcedLineBreak(char16_t unit);
 
 class LineBreaks {
 public:
-    /// The paragraph, without its separator, must live until the last question.
+    /// text: the paragraph without its separator; must live until the last call.
     void setParagraph(QStringView text);
 
-    /// The last opportunity at or before a position (UTF-16 code units from the start of the paragraph), or
-    /// -1 where none is known. Questions should ascend: all together take time proportional to the length.
-    /// One that goes back is answered where the text around it is simple, or else with -1.
+    /// The last break opportunity at or before a position (UTF-16 code units from the start of the
+    /// paragraph), or -1 if none is known. With ascending positions, all calls together take time
+    /// proportional to the length; for an earlier position than before, the result is -1 unless the text
+    /// around it is simple.
     [[nodiscard]] qsizetype lastAtOrBefore(qsizetype position);
 
 private:
@@ -28,7 +29,7 @@ private:
 
     BreakIterator m_iterator{BreakKind::Line};
     QStringView m_text;
-    qsizetype m_base = 0; // where the text of m_iterator starts, itself a boundary
-    qsizetype m_last = 0; // the last two boundaries that it gave
+    qsizetype m_base = 0; // a boundary, where the text of m_iterator starts
+    qsizetype m_last = 0; // the last two boundaries of m_iterator
     qsizetype m_next = 0;
 };

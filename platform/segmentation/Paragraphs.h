@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The paragraphs and hard lines of a text, found by their separators alone.
+// The paragraphs and hard lines of a text, by their separators only.
 // Thread: any.
 #pragma once
 
@@ -11,8 +11,8 @@ bool isParagraphSeparator(char16_t unit);
 /// A paragraph separator or U+2028.
 bool isLineEnd(char16_t unit);
 
-/// One paragraph of a text: where it starts and how long it is, without and with its separator, in UTF-16
-/// code units. The last paragraph may lack a separator; an empty line is an empty paragraph.
+/// One paragraph of a text: its start, and its length without and with its separator, in UTF-16 code units.
+/// The last paragraph may lack a separator; an empty line is an empty paragraph.
 struct Paragraph {
     qsizetype start;
     qsizetype contentLength;
@@ -25,8 +25,8 @@ struct Paragraph {
 /// The paragraph that starts at a position (0 to the text's length - 1).
 Paragraph paragraphAt(QStringView text, qsizetype start);
 
-/// Calls yield(Paragraph) for every paragraph of the text, first to last. A text that ends in a separator has
-/// no empty paragraph behind it.
+/// Calls yield(Paragraph) for every paragraph of the text, first to last. There is no empty paragraph after a
+/// final separator.
 template <typename Yield>
 void forEachParagraph(QStringView text, Yield &&yield)
 {

@@ -13,7 +13,7 @@ bool isLetterOrDigit(char32_t character)
     const uint32_t category = U_GET_GC_MASK(codePoint);
     if (category & countedCategories)
         return true;
-    // Alphabetic symbols such as circled letters; alphabetic marks are no letters by themselves.
+    // Includes alphabetic symbols such as circled letters, but not alphabetic marks.
     return !(category & U_GC_M_MASK) && u_isUAlphabetic(codePoint);
 }
 

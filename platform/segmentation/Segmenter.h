@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
-// Segmenter yields the words and the sentences of a text; which of them count is decided elsewhere.
-// Thread: one at a time.  Owner: whoever makes it; dear to make, so kept for the next text.
+// Segmenter yields the words and the sentences of a text; which of them count is left to the caller.
+// Thread: one at a time.  Owner: the caller; expensive to make, to be reused for the next text.
 #pragma once
 
 #include "platform/segmentation/BreakIterator.h"
 
 #include <QStringView>
 
-/// Whether a segment between two word boundaries is a word: it holds a letter, digit or ideograph (a code
-/// point that is Alphabetic but no mark, a decimal digit, or a letter number). Others are the gaps between
-/// words.
+/// Whether a segment between two word boundaries is a word: it contains a letter, digit or ideograph (a code
+/// point that is Alphabetic but not a mark, a decimal digit, or a letter number). Other segments are gaps
+/// between words.
 bool isWord(QStringView segment);
 
-/// The yield functions get a view into the text and return whether to go on.
+/// The yield functions get a view into the text and return whether to continue.
 class Segmenter {
 public:
     /// UAX #29 word segments for which isWord() holds.
@@ -23,7 +23,7 @@ public:
             m_words, text, [&](QStringView segment) { return !isWord(segment) || yield(segment); });
     }
 
-    /// UAX #29 sentence segments: they cover the text, white space behind a sentence included.
+    /// UAX #29 sentence segments, which cover the whole text, including white space after a sentence.
     template <typename Yield>
     void forEachSentence(QStringView text, Yield &&yield)
     {
@@ -43,7 +43,7 @@ private:
         }
     }
 
-    // Two iterators, so that the words of a sentence can be looked at while its neighbours are still to come.
+    // Two iterators: callers iterate over the words of a sentence while they iterate over sentences.
     BreakIterator m_words{BreakKind::Word};
     BreakIterator m_sentences{BreakKind::Sentence};
 };

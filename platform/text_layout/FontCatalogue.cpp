@@ -32,8 +32,8 @@ QString text(FcPattern *pattern, const char *object, int n)
     return QString::fromUtf8(reinterpret_cast<const char *>(value));
 }
 
-// Type 1 twins of OpenType fonts carry no kerning; bitmaps know no unhinted advance. A variable font stands
-// here by its named instances.
+// Type 1 versions of OpenType fonts have no kerning, and bitmap fonts no unhinted advances. Variable fonts
+// are listed by their named instances.
 bool isUsable(FcPattern *pattern)
 {
     const QString format = text(pattern, FC_FONTFORMAT, 0);
@@ -64,8 +64,8 @@ std::optional<CatalogueFont> describe(FcPattern *pattern)
     font.path = reinterpret_cast<const char *>(path);
     font.index = index;
     for (const char *object : {FC_FAMILY, FC_FULLNAME, FC_POSTSCRIPT_NAME}) {
-        constexpr int mostNames = 16;
-        for (int n = 0; n < mostNames; ++n) {
+        constexpr int maxNames = 16;
+        for (int n = 0; n < maxNames; ++n) {
             const QString key = familyKey(text(pattern, object, n));
             if (!key.isEmpty() && !font.families.contains(key))
                 font.families.append(key);
@@ -94,7 +94,7 @@ QByteArray fileName(const QByteArray &path)
 bool CatalogueFont::covers(char32_t character) const
 {
     constexpr char32_t hyphen = 0x2010;
-    constexpr char32_t noBreakHyphen = 0x2011; // shown by the hyphen where it has no glyph of its own
+    constexpr char32_t noBreakHyphen = 0x2011; // shown as a hyphen if it has no glyph
     return FcCharSetHasChar(characters, character) == FcTrue
         || (character == noBreakHyphen && FcCharSetHasChar(characters, hyphen) == FcTrue);
 }
@@ -127,6 +127,6 @@ FontCatalogue::FontCatalogue()
         };
         return key(left) < key(right);
     });
-    if (m_fonts.size() > mostFonts)
-        m_fonts.resize(mostFonts);
+    if (m_fonts.size() > maxFonts)
+        m_fonts.resize(maxFonts);
 }

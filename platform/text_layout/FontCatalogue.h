@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// FontCatalogue lists the usable fonts of the machine, as fontconfig finds them: SFNT fonts that scale. It
-// says what they cover and what they are; FontLibrary chooses and loads.
-// Thread: one at a time.  Owner: FontLibrary.
+// FontCatalogue lists the usable fonts of the machine, as fontconfig finds them: scalable SFNT fonts, with
+// their properties and characters. Choosing and loading fonts is left to FontLibrary. Thread: one at a time.
+// Owner: FontLibrary.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"
@@ -13,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as the library's own header has them
+// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as in the library's own header
 typedef struct _FcConfig FcConfig;
 typedef struct _FcCharSet FcCharSet;
 typedef struct _FcLangSet FcLangSet;
@@ -22,11 +22,10 @@ typedef struct _FcLangSet FcLangSet;
 /// One face of a font file.
 struct CatalogueFont {
     QByteArray path;
-    int index; ///< of the face in its file; in the upper 16 bits the named instance of a variable font, from
-               ///< 1
+    int index; ///< of the face in its file; the upper 16 bits number a variable font's named instances from 1
     QStringList families; ///< keys of familyKey()
     int weight; ///< 1 to 1000
-    int width; ///< per cent of normal
+    int width; ///< percentage of the normal width
     FontSlant slant;
     bool isColored;
     const FcCharSet *characters; ///< owned by the catalogue
@@ -39,16 +38,16 @@ struct CatalogueFont {
 
 class FontCatalogue {
 public:
-    /// More are left out, so that 16 bits always name a font.
-    static constexpr size_t mostFonts = 60'000;
+    /// More are ignored, so that 16 bits can index a font.
+    static constexpr size_t maxFonts = 60'000;
 
-    /// Reads the configuration that the environment names (FONTCONFIG_FILE), into an object of its own. Only
-    /// its folders and its rejected fonts matter: which font stands in for which is the same everywhere.
+    /// Reads the configuration that the environment selects (FONTCONFIG_FILE). Uses only its folders and its
+    /// rejected fonts: substitutions are the same on every machine.
     FontCatalogue();
     FontCatalogue(const FontCatalogue &) = delete;
     FontCatalogue &operator=(const FontCatalogue &) = delete;
 
-    /// In an order that depends on the fonts alone, not on where in the folders they lie first.
+    /// In an order that depends only on the fonts, not on their order in the folders.
     [[nodiscard]] const std::vector<CatalogueFont> &fonts() const { return m_fonts; }
 
 private:

@@ -19,7 +19,7 @@ FontFace::FontFace(const CatalogueFont &source)
     hb_face_t *face = hb_face_create(blob, index & 0xFFFF);
     hb_blob_destroy(blob);
     m_font.reset(hb_font_create(face));
-    // HarfBuzz gives 1000 where the font has no value in its range.
+    // HarfBuzz returns 1000 if the font has no valid value.
     m_unitsPerEm = hb_face_get_upem(face);
     hb_face_destroy(face);
     if (const unsigned instance = index >> 16; instance > 0)

@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: MIT
-// FontFace is one font file, loaded for shaping. Its unit is the font unit, unitsPerEm() to the em: advances
-// are whole, unhinted, and the same at every size.
-// Thread: one at a time.  Owner: FontLibrary.
+// FontFace is one font file, loaded for shaping. Its lengths are font units, unitsPerEm() per em: whole,
+// unhinted and independent of the size. Thread: one at a time.  Owner: FontLibrary.
 #pragma once
 
 #include "platform/text_layout/FontCatalogue.h"
 
 #include <memory>
 
-// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as the library's own header has them
+// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as in the library's own header
 typedef struct hb_font_t hb_font_t;
 // NOLINTEND(bugprone-reserved-identifier,modernize-use-using)
 
 class FontFace {
 public:
-    /// The source must outlive the face. A file that cannot be read gives a face without glyphs.
+    /// source: outlives the face. An unreadable file gives a face without glyphs.
     explicit FontFace(const CatalogueFont &source);
 
     [[nodiscard]] const CatalogueFont &source() const { return m_source; }
 
-    /// Never null; belongs to this object.
+    /// Never null; owned by this object.
     [[nodiscard]] hb_font_t *shapingFont() const { return m_font.get(); }
 
     [[nodiscard]] double unitsPerEm() const { return m_unitsPerEm; }

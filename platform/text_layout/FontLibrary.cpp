@@ -9,7 +9,7 @@
 
 namespace {
 
-// Distance of a font from what is asked, the dearest difference first.
+// How much a font differs from a request, the most important difference first.
 std::tuple<int, int, int> styleDistance(const CatalogueFont &font, int weight, FontSlant slant)
 {
     int slantDistance = 0;
@@ -21,13 +21,13 @@ std::tuple<int, int, int> styleDistance(const CatalogueFont &font, int weight, F
     return {std::abs(font.width - normalWidth), slantDistance, std::abs(font.weight - weight)};
 }
 
-// A cluster may be any number of marks; this many are asked for.
-constexpr int mostCharactersAskedFor = 8;
+// A cluster may have any number of marks; only this many characters are checked.
+constexpr int maxCheckedCharacters = 8;
 
 bool coversAll(const CatalogueFont &font, QStringView cluster)
 {
-    int asked = 0;
-    for (qsizetype i = 0; i < cluster.size() && asked < mostCharactersAskedFor; ++asked) {
+    int checked = 0;
+    for (qsizetype i = 0; i < cluster.size() && checked < maxCheckedCharacters; ++checked) {
         const char32_t character = codePointAt(cluster, i);
         if (!isDefaultIgnorable(character) && !font.covers(character))
             return false;
@@ -86,8 +86,8 @@ bool FontChain::isPrimaryForAscii()
     return *m_isPrimaryForAscii;
 }
 
-// Every other font of the machine: those that serve the language, then the large sans family made to fit
-// together, then the nearest in style.
+// All other fonts of the machine: first those for the language, then the large family of matching sans fonts,
+// then by style.
 const std::vector<quint16> &FontChain::fallbacks()
 {
     if (!m_fallbacks.empty())
@@ -113,7 +113,7 @@ const std::vector<quint16> &FontChain::fallbacks()
 }
 
 template <typename Covers>
-std::optional<quint16> FontChain::firstThat(Covers covers)
+std::optional<quint16> FontChain::firstFontThat(Covers covers)
 {
     const auto named = std::find_if(m_named.begin(), m_named.end(), covers);
     if (named != m_named.end())
@@ -123,7 +123,7 @@ std::optional<quint16> FontChain::firstThat(Covers covers)
     return other != others.end() ? std::optional(*other) : std::nullopt;
 }
 
-// A colourful font, for an emoji that the first font lacks.
+// A colour font for an emoji that the first font lacks.
 std::optional<quint16> FontChain::coloredFontFor(QStringView emoji)
 {
     const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
@@ -143,7 +143,9 @@ quint16 FontChain::findFontFor(char32_t character)
             return *colored;
     }
     const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
-    return firstThat([&](quint16 font) { return fonts[font].covers(character); }).value_or(m_named.front());
+    return firstFontThat([&](quint16 font) {
+        return fonts[font].covers(character);
+    }).value_or(m_named.front());
 }
 
 quint16 FontChain::fontFor(char32_t character)
@@ -165,12 +167,12 @@ quint16 FontChain::findFontForCluster(QStringView cluster)
         if (const std::optional<quint16> colored = coloredFontFor(cluster))
             return *colored;
     }
-    // The first font with the first character is the first with the whole cluster, if it has the rest too.
+    // The first font that has the first character is the one for the whole cluster if it has the rest, too.
     const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
     const quint16 forFirst = fontFor(codePointAt(cluster, 0));
     if (coversAll(fonts[forFirst], cluster))
         return forFirst;
-    return firstThat([&](quint16 font) { return coversAll(fonts[font], cluster); }).value_or(forFirst);
+    return firstFontThat([&](quint16 font) { return coversAll(fonts[font], cluster); }).value_or(forFirst);
 }
 
 FontFace *FontChain::faceFor(QStringView cluster, FontFace *preferred)
@@ -182,7 +184,7 @@ FontFace *FontChain::faceFor(QStringView cluster, FontFace *preferred)
     if (face == preferred || !preferred)
         return face;
     const bool isNamed = std::find(m_named.begin(), m_named.end(), found) != m_named.end();
-    // A comma between two words that only a fallback font has belongs with them.
+    // A comma between two words in a fallback font should be in the same font.
     if (!isNamed && !isEmojiCluster(cluster) && coversAll(preferred->source(), cluster))
         return preferred;
     return face;
@@ -236,7 +238,7 @@ std::vector<quint16> FontLibrary::namedFonts(const FontRequest &request) const
     }
     if (!named.empty())
         return named;
-    // None of them, not even a default one: the nearest font that can set an English text.
+    // Not even a default family exists: the best font that has English letters.
     std::vector<quint16> usable;
     for (size_t i = 0; i < fonts.size(); ++i) {
         if (fonts[i].covers(U'a') && fonts[i].covers(U' '))
@@ -250,7 +252,7 @@ FontChain *FontLibrary::chainFor(const FontAttributes &attributes, const QString
 {
     if (isEmpty())
         return nullptr;
-    const FontRequest request = fontRequestFor(attributes);
+    const FontRequest request = makeFontRequest(attributes);
     const QByteArray canonical = canonicalLanguage(language);
     std::vector<quint16> named = namedFonts(request);
     std::unique_ptr<FontChain> &chain = m_chains[{named, request.weight, request.slant, canonical}];

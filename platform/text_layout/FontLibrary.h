@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-// FontLibrary chooses a font for every character of a text: the one that the text names, one with the same
-// advances, or any that has the character. The choice depends on the fonts of the machine and on what is
-// asked, on nothing else.
-// Thread: one at a time.  Owner: LayoutEngine.
+// FontLibrary chooses a font for every character of a text: the font that the text names, one with the same
+// advances, or any font that has the character. The choice depends only on the request and on the machine's
+// fonts. Thread: one at a time.  Owner: LayoutEngine.
 #pragma once
 
 #include "platform/text_layout/FontCatalogue.h"
@@ -21,20 +20,19 @@
 
 class FontLibrary;
 
-/// The fonts for one request, in the order in which they are tried for a character. Lives as long as its
-/// library.
+/// The fonts for one request, in the order in which they are tried for a character. Owned by the library.
 class FontChain {
 public:
     FontChain(FontLibrary &library, FontRequest request, QByteArray language, std::vector<quint16> named);
 
-    /// The font for characters that none has.
+    /// The first font, which is also used for characters that no font has.
     [[nodiscard]] FontFace *primary();
 
-    /// The font of a grapheme cluster. preferred: the font of the cluster before, or null; a cluster that the
-    /// named fonts lack stays in it where it can. Never null.
+    /// The font for a grapheme cluster; never null. preferred: the font of the previous cluster, or null; it
+    /// is used for clusters that the named fonts lack, if it has them.
     FontFace *faceFor(QStringView cluster, FontFace *preferred);
 
-    /// Whether the first font has all printable characters of ASCII.
+    /// Whether the first font has all printable ASCII characters.
     [[nodiscard]] bool isPrimaryForAscii();
 
 private:
@@ -45,17 +43,17 @@ private:
     quint16 findFontFor(char32_t character);
     quint16 findFontForCluster(QStringView cluster);
     std::optional<quint16> coloredFontFor(QStringView emoji);
-    /// The first font, of the named and then the others, for which covers(font) holds.
+    /// The first font for which covers(font) is true: of the named fonts, then of the others.
     template <typename Covers>
-    std::optional<quint16> firstThat(Covers covers);
+    std::optional<quint16> firstFontThat(Covers covers);
     const std::vector<quint16> &fallbacks();
 
     FontLibrary &m_library;
     FontRequest m_request;
     QByteArray m_language;
-    std::vector<quint16> m_named; // fonts of the families asked for, by index in the catalogue; never empty
-    std::vector<quint16> m_fallbacks; // all others, sorted at the first need
-    std::map<char32_t, std::unique_ptr<Page>> m_pages; // what was found, 256 code points a page
+    std::vector<quint16> m_named; // fonts of the requested families, by index in the catalogue; never empty
+    std::vector<quint16> m_fallbacks; // all others, sorted on first use
+    std::map<char32_t, std::unique_ptr<Page>> m_pages; // fonts found so far, 256 code points per page
     std::optional<bool> m_isPrimaryForAscii;
 };
 
@@ -66,19 +64,19 @@ public:
     FontLibrary &operator=(const FontLibrary &) = delete;
     ~FontLibrary();
 
-    /// True where the machine has no usable font; then there are no chains.
+    /// True if the machine has no usable font; then there are no chains.
     [[nodiscard]] bool isEmpty() const { return m_catalogue.fonts().empty(); }
 
-    /// language: BCP 47 or empty. Null only where isEmpty().
+    /// language: BCP 47 or empty. Null only if isEmpty().
     FontChain *chainFor(const FontAttributes &attributes, const QString &language);
 
-    /// The files of the fonts that were needed so far, in the order of the catalogue.
+    /// The files of the fonts loaded so far, in the order of the catalogue.
     [[nodiscard]] QByteArrayList loadedFiles() const;
 
 private:
     friend class FontChain;
     FontFace *load(quint16 font);
-    /// The best font of each family, in the order of the request; of all fonts where no family is there.
+    /// The best font of each family, in the order of the request; if no family exists, the best of all fonts.
     [[nodiscard]] std::vector<quint16> namedFonts(const FontRequest &request) const;
 
     using ChainKey = std::tuple<std::vector<quint16>, int, FontSlant, QByteArray>;
@@ -89,6 +87,6 @@ private:
     std::map<ChainKey, std::unique_ptr<FontChain>> m_chains;
 };
 
-/// A language as it may choose glyphs and fonts, of which there are few, whatever documents write: two or
-/// three letters, and for Chinese the script or region that decides between its forms.
+/// Reduces a language to what affects glyphs and fonts, so that documents cannot cause any number of them:
+/// two or three letters, and for Chinese the region whose forms it uses. Empty for anything else.
 QByteArray canonicalLanguage(QStringView language);

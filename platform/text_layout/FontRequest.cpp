@@ -6,10 +6,10 @@
 
 namespace {
 
-// Families with the same advances as one another; any of them stands in for the others, in this order.
+// Families with the same advances, which substitute each other in this order.
 struct MetricGroup {
-    std::array<const char16_t *, 6> names; // keys that a document may use
-    std::array<const char16_t *, 5> families; // keys of families that a machine may have
+    std::array<const char16_t *, 6> names; // keys in documents
+    std::array<const char16_t *, 5> families; // keys of installed families
 };
 
 constexpr std::array metricGroups{
@@ -41,7 +41,7 @@ constexpr std::array metricGroups{
     MetricGroup{{u"georgia"}, {u"gelasio"}},
 };
 
-constexpr qsizetype longestName = 256;
+constexpr qsizetype maxNameLength = 256;
 
 void appendOnce(QStringList &families, const QString &family)
 {
@@ -68,7 +68,7 @@ void appendGroupOf(QStringList &families, const QString &name)
 QString familyKey(QStringView family)
 {
     QString key;
-    for (const QChar character : family.first(std::min(family.size(), longestName))) {
+    for (const QChar character : family.first(std::min(family.size(), maxNameLength))) {
         if (character.isLetterOrNumber())
             key.append(character.toLower());
     }
@@ -78,15 +78,15 @@ QString familyKey(QStringView family)
 const QStringList &defaultFamilies()
 {
     static const QStringList families = [] {
-        QStringList made{QStringLiteral("helvetica")};
-        appendGroupOf(made, made.first());
-        made << QStringLiteral("dejavusans") << QStringLiteral("notosans");
-        return made;
+        QStringList list{QStringLiteral("helvetica")};
+        appendGroupOf(list, list.first());
+        list << QStringLiteral("dejavusans") << QStringLiteral("notosans");
+        return list;
     }();
     return families;
 }
 
-FontRequest fontRequestFor(const FontAttributes &attributes)
+FontRequest makeFontRequest(const FontAttributes &attributes)
 {
     FontRequest request;
     request.weight = std::clamp(attributes.weight, 1, 1000);

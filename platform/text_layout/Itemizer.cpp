@@ -2,7 +2,6 @@
 #include "platform/text_layout/Itemizer.h"
 
 #include "platform/segmentation/GraphemeClusters.h"
-#include "platform/text_layout/Bounds.h"
 
 #include <algorithm>
 
@@ -31,8 +30,8 @@ BidiRuns::Base baseOf(WritingDirection direction)
     return BidiRuns::Base::FirstStrongCharacter;
 }
 
-// Ten times what the normal form for streams (UAX #15) has room for.
-constexpr qsizetype longestCluster = 300;
+// Ten times the maximum of the Stream-Safe Text Format (UAX #15).
+constexpr qsizetype maxClusterLength = 300;
 
 } // namespace
 
@@ -60,16 +59,16 @@ TextStyle Itemizer::resolve(const TextAttributes &attributes)
     if (known != m_styles.cend())
         return *known;
     const FontAttributes font = attributes.font.value_or(FontAttributes{});
-    constexpr double largest = 10'000;
+    constexpr double maxSize = 10'000;
     TextStyle style;
     style.fonts = m_fonts.chainFor(font, attributes.language);
     style.language = canonicalLanguage(attributes.language);
-    if (font.pointSize > 0) // a size of 0, as one that is no number, asks for the usual size
-        style.pointSize = bounded(font.pointSize, 0.01, largest);
-    style.tracking = bounded(font.tracking, -1'000, 1'000);
-    style.baselineOffset = bounded(font.baselineOffset, -largest, largest);
-    constexpr qsizetype mostStyles = 4096;
-    if (m_styles.size() >= mostStyles)
+    if (font.pointSize > 0) // 0 and NaN mean the default size
+        style.pointSize = clampNumber(font.pointSize, 0.01, maxSize);
+    style.tracking = clampNumber(font.tracking, -1'000, 1'000);
+    style.baselineOffset = clampNumber(font.baselineOffset, -maxSize, maxSize);
+    constexpr qsizetype maxStyles = 4096;
+    if (m_styles.size() >= maxStyles)
         m_styles.clear();
     m_styles.insert(key, style);
     return style;
@@ -95,22 +94,22 @@ void Itemizer::updateRuns()
         m_script = scriptRunAt(m_text, m_position, m_script.script);
 }
 
-qsizetype Itemizer::textEnd(qsizetype limit, qsizetype longest, FontFace *&face)
+qsizetype Itemizer::textEnd(qsizetype limit, qsizetype maxLength, FontFace *&face)
 {
     constexpr char16_t firstMark = 0x300;
     const char16_t *units = m_text.utf16();
     const bool isAsciiSimple = m_style.fonts && m_style.fonts->isPrimaryForAscii();
     FontFace *const primary = m_style.fonts ? m_style.fonts->primary() : nullptr;
-    const qsizetype softLimit = std::min(limit, m_position + longest);
+    const qsizetype softLimit = std::min(limit, m_position + maxLength);
     qsizetype end = m_position;
     while (end < softLimit && kindOf(units[end]) == TextRun::Kind::Text) {
         FontFace *own = primary;
         qsizetype clusterEnd = end + 1;
         const bool isAlone = clusterEnd >= m_text.size() || units[clusterEnd] < firstMark;
         if (!isAsciiSimple || units[end] > u'~' || !isAlone) {
-            // A cluster that attributes or directions cut is measured in parts, and so is one of absurd
-            // length: shapers take the square of it.
-            clusterEnd = graphemeClusterEnd(m_text.first(std::min(limit, end + longestCluster)), end);
+            // Clusters are cut at changes of attributes or direction, and at the maximum length, because
+            // shaping takes quadratic time in it.
+            clusterEnd = graphemeClusterEnd(m_text.first(std::min(limit, end + maxClusterLength)), end);
             if (m_style.fonts)
                 own = m_style.fonts->faceFor(m_text.sliced(end, clusterEnd - end), m_lastFace);
         }
@@ -124,7 +123,7 @@ qsizetype Itemizer::textEnd(qsizetype limit, qsizetype longest, FontFace *&face)
     return end;
 }
 
-TextRun Itemizer::next(qsizetype longest)
+TextRun Itemizer::next(qsizetype maxLength)
 {
     updateRuns();
     TextRun run{};
@@ -136,11 +135,11 @@ TextRun Itemizer::next(qsizetype longest)
     const qsizetype limit = std::min({m_attributesEnd, m_direction.end, m_script.end});
     run.end = m_position + 1;
     if (run.kind == TextRun::Kind::Text)
-        run.end = textEnd(limit, longest, run.face);
-    while (run.kind == TextRun::Kind::Invisible && run.end < std::min(limit, m_position + longest)
+        run.end = textEnd(limit, maxLength, run.face);
+    while (run.kind == TextRun::Kind::Invisible && run.end < std::min(limit, m_position + maxLength)
         && kindOf(m_text.utf16()[run.end]) == TextRun::Kind::Invisible)
         ++run.end;
-    run.isCut = run.kind == TextRun::Kind::Text && run.end < limit && run.end - run.start >= longest;
+    run.isCut = run.kind == TextRun::Kind::Text && run.end < limit && run.end - run.start >= maxLength;
     m_position = run.end;
     return run;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Itemizer cuts a paragraph into text runs, first to last, by its attributes, directions, scripts and fonts.
-// Thread: one at a time.  Owner: MeasuredParagraph.
+// Measuring them is left to MeasuredParagraph. Thread: one at a time.  Owner: MeasuredParagraph.
 #pragma once
 
 #include "platform/segmentation/BidiRuns.h"
@@ -18,28 +18,27 @@ public:
     {
     }
 
-    /// The text must live until the last next().
+    /// text: must live until the last next().
     void setParagraph(const AttributedString &text, const Paragraph &paragraph);
 
-    /// The next run of at most longest code units (at least 1), or a few more where a grapheme cluster must
-    /// stay whole. To be called only while !isAtEnd().
-    TextRun next(qsizetype longest);
+    /// The next run, of at most maxLength code units (at least 1) or a few more to keep a grapheme cluster
+    /// whole. To be called only while !isAtEnd().
+    TextRun next(qsizetype maxLength);
 
-    /// Goes back to a position inside the last run, which is Text; the next run starts there.
+    /// Goes back to a position inside the last run, which must be Text; the next run starts there.
     void returnTo(qsizetype position) { m_position = position; }
 
     [[nodiscard]] bool isAtEnd() const { return m_position >= m_text.size(); }
     [[nodiscard]] bool isParagraphRightToLeft() const { return m_bidi.isParagraphRightToLeft(); }
 
-    /// The style of a character, for one that no run holds: a line end. position: in the whole text.
+    /// The style of a character that is in no run: a paragraph separator. position: in the whole text.
     TextStyle styleAt(qsizetype position);
 
 private:
     TextStyle resolve(const TextAttributes &attributes);
     void updateRuns();
-    /// The end of the run of characters with one font that starts at m_position and ends at limit at the
-    /// latest.
-    qsizetype textEnd(qsizetype limit, qsizetype longest, FontFace *&face);
+    /// The end, up to limit, of the run in one font that starts at m_position.
+    qsizetype textEnd(qsizetype limit, qsizetype maxLength, FontFace *&face);
 
     FontLibrary &m_fonts;
     BidiRuns m_bidi;
@@ -48,7 +47,7 @@ private:
     QStringView m_text;
     qsizetype m_position = 0;
 
-    // The three kinds of run that hold m_position, each with its end.
+    // The runs of attributes, direction and script that contain m_position.
     qsizetype m_attributesEnd = 0;
     qsizetype m_attributesRun = 0;
     TextStyle m_style;
@@ -65,5 +64,5 @@ private:
     {
         return qHashMulti(key.font ? qHash(*key.font, seed) : seed, key.language);
     }
-    QHash<StyleKey, TextStyle> m_styles; // what resolve() found
+    QHash<StyleKey, TextStyle> m_styles; // results of resolve()
 };

@@ -2,13 +2,12 @@
 #include "platform/text_layout/LayoutEngine.h"
 
 #include "platform/logging/LogChannel.h"
-#include "platform/text_layout/Bounds.h"
 
 #include <algorithm>
 
 namespace {
 
-// Height of a line as its tallest characters need it.
+// The height that the tallest characters of a line need.
 struct LineHeight {
     double ascent = 0;
     double descent = 0;
@@ -26,7 +25,7 @@ struct LineHeight {
     [[nodiscard]] double sum() const { return ascent + descent + gap; }
 };
 
-// What of a column's free room stands to the left of a line, from 0 (none) to 1 (all of it).
+// The fraction of a column's free space that is to the left of a line.
 double leftShare(TextAlignment alignment, bool isRightToLeft)
 {
     switch (alignment) {
@@ -49,8 +48,7 @@ LayoutEngine::LayoutEngine(Shaping shaping)
     : m_paragraph(m_fonts, shaping == Shaping::ByWords)
 {
     if (m_fonts.isEmpty())
-        LogChannel::standard().notice(
-            u"No usable font found. Lines are measured by a fixed character width.");
+        LogChannel::standard().notice(u"No usable font found; measuring lines with a fixed character width");
 }
 
 double LayoutEngine::heightOf(qsizetype start, qsizetype end, qsizetype separator)
@@ -85,7 +83,7 @@ quint64 LayoutEngine::fillLines(
         ++count;
         report(breaker, start, line);
     }
-    // A separator ends the last line, unless that has been ended already or there is none.
+    // If the last line ended in a forced break, the separator is on a line of its own.
     if (line.isForced && paragraph.length > contentLength) {
         ++count;
         report(breaker, contentLength, LineBreaker::Line{contentLength, true});
@@ -98,20 +96,20 @@ LineFragment LayoutEngine::describe(const AttributedString &text, const Paragrap
 {
     const ParagraphStyle &style = text.attributesAt(paragraph.start).paragraphStyle;
     const LineBreaker::Extent extent = breaker.extentOf(start, line);
-    // Indents count from the right in a paragraph from right to left.
+    // In right-to-left paragraphs, indents are measured from the right.
     const bool isRightToLeft = m_paragraph.isRightToLeft();
     const double leftEdge = isRightToLeft ? breaker.columnWidth() - breaker.lineEnd() : extent.leading;
-    const double room = std::max(0.0, breaker.lineEnd() - extent.leading - extent.width);
+    const double freeSpace = std::max(0.0, breaker.lineEnd() - extent.leading - extent.width);
 
     LineFragment fragment{};
     fragment.start = paragraph.start + start;
     const bool holdsSeparator =
         line.end == m_paragraph.text().size() && (!line.isForced || start == line.end);
     fragment.length = (holdsSeparator ? paragraph.length : line.end) - start;
-    fragment.left = leftEdge + room * leftShare(style.alignment, isRightToLeft);
+    fragment.left = leftEdge + freeSpace * leftShare(style.alignment, isRightToLeft);
     fragment.width = extent.width;
     const qsizetype separator = paragraph.start + paragraph.contentLength;
-    fragment.height = heightOf(start, line.end, separator) + bounded(style.lineSpacing, 0, 10'000);
+    fragment.height = heightOf(start, line.end, separator) + clampNumber(style.lineSpacing, 0, 10'000);
     return fragment;
 }
 

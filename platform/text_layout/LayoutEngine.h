@@ -1,47 +1,54 @@
 // SPDX-License-Identifier: MIT
-// LayoutEngine sets styled text in a column, one paragraph after the other, and yields or counts the lines.
-// It reads the text's attributes and the fonts of the machine, nothing else: no screen, no state of the
-// process, so that every thread may have an engine of its own.
-// Thread: one at a time.  Owner: whoever makes it; dear to make (it lists the machine's fonts), and quicker
-// with every text, since it keeps the fonts it has loaded and the words it has measured.
+// LayoutEngine lays styled text out in a column, paragraph by paragraph, and yields or counts the lines. It
+// depends only on the text's attributes and the machine's fonts, not on a screen or other state of the
+// process. Thread: one at a time.  Owner: the caller. Expensive to make, since it lists the machine's fonts;
+// it becomes faster with use, since it keeps loaded fonts and measured words.
 #pragma once
 
 #include "platform/text_layout/LineBreaker.h"
-#include "platform/text_layout/LineFragment.h"
 
 #include <functional>
 
+/// One line: the part of the text that it holds, and its place in the column.
+struct LineFragment {
+    qsizetype start; ///< UTF-16 code units from the start of the text
+    qsizetype length; ///< with hanging blanks and the line end
+    double left; ///< points from the column's left edge to the line's text
+    double width; ///< points, without hanging blanks
+    double height; ///< points
+};
+
 class LayoutEngine {
 public:
-    /// Both give the same lines. ByWords is the quick one, WholeRuns the plain one that it is tested against.
+    /// Both give the same lines. ByWords is fast; WholeRuns is simple, and the reference in tests.
     enum class Shaping { ByWords, WholeRuns };
 
-    /// Logs one notice where the machine has no usable font; every grapheme is as wide as the others then.
+    /// Logs a notice if the machine has no usable font; then all graphemes have the same width.
     explicit LayoutEngine(Shaping shaping = Shaping::ByWords);
 
     using Yield = std::function<void(const LineFragment &)>;
 
-    /// Lays out one paragraph, as of paragraphAt(), and yields its lines in order, at least one. Every line
-    /// end ends a line: the paragraph's separator and the characters of isForcedLineBreak(). columnWidth:
-    /// points; where it is too small for anything, each grapheme has a line.
+    /// Lays out one paragraph, as of paragraphAt(), and yields its lines in order, at least one. The
+    /// paragraph's separator and the characters of isForcedLineBreak() end lines. columnWidth: points; if it
+    /// is too small for any text, each grapheme has its own line.
     void layOutParagraph(
         const AttributedString &text, const Paragraph &paragraph, double columnWidth, const Yield &yield);
 
-    /// The number of lines that layOutParagraph() would yield; keeps none of them.
+    /// The number of lines that layOutParagraph() would yield.
     quint64 countLinesOfParagraph(
         const AttributedString &text, const Paragraph &paragraph, double columnWidth);
 
-    /// Told, after every paragraph, the UTF-16 code units laid out so far.
+    /// Called after every paragraph. position: the UTF-16 code units laid out so far.
     using Progress = std::function<void(qsizetype position)>;
 
     /// The sum over all paragraphs; 0 for an empty text.
     quint64 countLines(const AttributedString &text, double columnWidth, const Progress &progress = {});
 
-    /// The sum over those that start from one paragraph's start on and before end (UTF-16 code units).
+    /// The sum over the paragraphs that start before end; start is that of a paragraph (UTF-16 code units).
     quint64 countLines(const AttributedString &text, double columnWidth, qsizetype start, qsizetype end,
         const Progress &progress = {});
 
-    /// The files of the fonts that all texts so far needed.
+    /// The files of the fonts that the texts so far needed.
     [[nodiscard]] QByteArrayList fontFilesInUse() const { return m_fonts.loadedFiles(); }
 
 private:

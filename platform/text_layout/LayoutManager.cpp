@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_layout/LayoutManager.h"
 
-#include "platform/text_layout/Bounds.h"
-
 #include <algorithm>
 
 namespace {
 
-constexpr double largestSpacing = 10'000; // points
+constexpr double maxSpacing = 10'000; // points
 
 } // namespace
 
@@ -20,7 +18,7 @@ LayoutManager::LayoutManager(LayoutEngine &engine, const TextStorage &storage, c
 
 void LayoutManager::discardIfOutdated()
 {
-    const double width = bounded(m_container.width(), 0, 1e7);
+    const double width = clampNumber(m_container.width(), 0, 1e7);
     if (m_generation == m_storage.generation() && m_width == width)
         return;
     m_generation = m_storage.generation();
@@ -36,12 +34,12 @@ void LayoutManager::layOutNextParagraph()
     const Paragraph paragraph = paragraphAt(text.string(), m_laidOutEnd);
     const ParagraphStyle &style = text.attributesAt(paragraph.start).paragraphStyle;
     if (m_laidOutEnd > 0)
-        m_bottom += bounded(style.paragraphSpacingBefore, 0, largestSpacing);
+        m_bottom += clampNumber(style.paragraphSpacingBefore, 0, maxSpacing);
     m_engine.layOutParagraph(text, paragraph, m_width, [this](const LineFragment &line) {
         m_fragments.push_back({line, m_bottom});
         m_bottom += line.height;
     });
-    m_bottom += bounded(style.paragraphSpacing, 0, largestSpacing);
+    m_bottom += clampNumber(style.paragraphSpacing, 0, maxSpacing);
     m_laidOutEnd = paragraph.end();
 }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-// LayoutManager keeps the line fragments of a text storage in a text container, laid out as far as they have
-// been asked for.
-// Thread: one at a time.  Owner: whoever makes it; refers to engine, storage and container, which must
-// outlive it.
+// LayoutManager holds the line fragments of a text storage in a text container, as far as they have been
+// requested. Layout itself is left to LayoutEngine. Thread: one at a time.  Owner: the caller; refers to
+// engine, storage and container, which must outlive it.
 #pragma once
 
 #include "platform/text_layout/LayoutEngine.h"
@@ -13,8 +12,8 @@
 #include <optional>
 #include <vector>
 
-/// Every UTF-16 code unit of the text has one glyph at its own index: line ends too, and the parts of a
-/// grapheme cluster or ligature each.
+/// Every UTF-16 code unit of the text counts as one glyph with the same index, including line ends and every
+/// part of a grapheme cluster or ligature.
 struct GlyphRange {
     qsizetype start = 0;
     qsizetype length = 0;
@@ -32,11 +31,11 @@ public:
 
     struct LineFragmentRect {
         QRectF rect; ///< points, from the container's top left; as wide as the container
-        QRectF usedRect; ///< the part with text, without blanks at the end
+        QRectF usedRect; ///< the part with text, without hanging blanks
         GlyphRange effectiveRange; ///< all glyphs of the line
     };
-    /// The line with a glyph (0 to numberOfGlyphs() - 1; for others an empty one). Lays out what stands
-    /// before it too. The empty line behind a final line end has no glyph.
+    /// The line that contains a glyph (0 to numberOfGlyphs() - 1; otherwise an empty result). Lays out
+    /// everything before it, too. The empty line after a final line end has no glyph.
     LineFragmentRect lineFragmentRectForGlyphAtIndex(qsizetype glyphIndex);
 
 private:
@@ -53,7 +52,7 @@ private:
     const TextContainer &m_container;
     std::vector<StoredFragment> m_fragments;
     qsizetype m_laidOutEnd = 0; // glyph index
-    double m_bottom = 0; // of the last fragment and the space below it
-    double m_width = 0; // for which the fragments hold
-    std::optional<quint64> m_generation; // for which they hold
+    double m_bottom = 0; // of the last fragment, with the space below it
+    double m_width = 0; // of the container when the fragments were made
+    std::optional<quint64> m_generation; // of the storage when they were made
 };

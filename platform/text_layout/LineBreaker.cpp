@@ -2,16 +2,20 @@
 #include "platform/text_layout/LineBreaker.h"
 
 #include "platform/segmentation/GraphemeClusters.h"
-#include "platform/text_layout/Bounds.h"
-
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
 
-constexpr double largestLength = 1e7; // points: more than two miles
+constexpr double maxLength = 1e7; // points: more than two miles
 
-// Sums of advances are not exact; text that fits exactly must fit.
+constexpr double defaultTabInterval = 28; // points
+constexpr double minTabInterval = 0.1; // keeps the number of stops in any column small
+constexpr double maxTabInterval = 1e6;
+
+// Sums of advances are not exact: text that fits exactly must fit, and a position this close to a tab stop is
+// at it.
 constexpr double tolerance = 1e-6;
 
 constexpr char16_t softHyphen = 0x00AD;
@@ -21,17 +25,38 @@ bool isDigit(char16_t unit)
     return QChar::isDigit(unit);
 }
 
+double usableInterval(double interval)
+{
+    return interval >= minTabInterval ? std::min(interval, maxTabInterval) : defaultTabInterval;
+}
+
 } // namespace
+
+TabStops::TabStops(const ParagraphStyle &style)
+    : m_stops(style.tabStops)
+    , m_interval(usableInterval(style.defaultTabInterval))
+{
+}
+
+TabStop TabStops::nextAfter(double position) const
+{
+    const double behind = position + tolerance;
+    const auto named = std::upper_bound(m_stops.begin(), m_stops.end(), behind,
+        [](double wanted, const TabStop &stop) { return wanted < stop.position; });
+    if (named != m_stops.end() && std::isfinite(named->position))
+        return *named;
+    return {(std::floor(behind / m_interval) + 1) * m_interval, TabAlignment::Left};
+}
 
 LineBreaker::LineBreaker(
     MeasuredParagraph &paragraph, LineBreaks &breaks, const ParagraphStyle &style, double columnWidth)
     : m_paragraph(paragraph)
     , m_breaks(breaks)
     , m_tabStops(style)
-    , m_firstIndent(bounded(style.firstLineHeadIndent, 0, largestLength))
-    , m_indent(bounded(style.headIndent, 0, largestLength))
-    , m_columnWidth(bounded(columnWidth, 0, largestLength))
-    , m_lineEnd(m_columnWidth - bounded(style.tailIndent, 0, largestLength))
+    , m_firstIndent(clampNumber(style.firstLineHeadIndent, 0, maxLength))
+    , m_indent(clampNumber(style.headIndent, 0, maxLength))
+    , m_columnWidth(clampNumber(columnWidth, 0, maxLength))
+    , m_lineEnd(m_columnWidth - clampNumber(style.tailIndent, 0, maxLength))
 {
 }
 
@@ -44,7 +69,7 @@ double LineBreaker::Pen::positionAfter(double advance, double lineEnd) const
     case TabAlignment::Center:
         return std::max(unaligned, std::min(alignedAt + advance / 2, lineEnd));
     case TabAlignment::Left:
-    case TabAlignment::Decimal: // its base is where it must be from the start
+    case TabAlignment::Decimal: // its base already accounts for the alignment
         break;
     }
     return unaligned;
@@ -69,17 +94,17 @@ void LineBreaker::measureUpTo(qsizetype position)
         m_paragraph.measureMore();
 }
 
-// The number behind a decimal tab ends at its last point or comma: which of the two separates decimals is a
-// matter of the writer's language, which the text does not tell.
+// The integer part of a number after a decimal tab ends at the last point or comma: which of the two is the
+// decimal separator depends on the writer's language, which is unknown.
 double LineBreaker::advanceToDecimalSeparator(qsizetype start)
 {
-    constexpr qsizetype longestNumber = 64;
+    constexpr qsizetype maxNumberLength = 64;
     const QStringView text = m_paragraph.text();
-    const qsizetype farthest = std::min(text.size(), start + longestNumber);
-    measureUpTo(farthest);
+    const qsizetype limit = std::min(text.size(), start + maxNumberLength);
+    measureUpTo(limit);
     double advance = 0;
     double found = -1;
-    for (qsizetype at = start; at < farthest && !(m_paragraph.flags(at) & (TabCharacter | EndsLine)); ++at) {
+    for (qsizetype at = start; at < limit && !(m_paragraph.flags(at) & (TabCharacter | EndsLine)); ++at) {
         const char16_t unit = text.utf16()[at];
         const bool isSeparator = unit == u'.' || unit == u',';
         const bool isWithinNumber = at > start && isDigit(text.utf16()[at - 1]) && at + 1 < text.size()
@@ -93,12 +118,12 @@ double LineBreaker::advanceToDecimalSeparator(qsizetype start)
     return found >= 0 ? found : advance;
 }
 
-void LineBreaker::moveBehindTab(Pen &pen, qsizetype tab)
+void LineBreaker::movePastTab(Pen &pen, qsizetype tab)
 {
     const double position = pen.positionAfter(pen.flow, m_lineEnd);
     const double contentEnd = pen.contentEnd(m_lineEnd);
-    const TabStop stop = m_tabStops.nextBehind(position);
-    // A tab that leads behind the line's end hangs like other blanks; nothing can be aligned there.
+    const TabStop stop = m_tabStops.nextAfter(position);
+    // A tab past the line's end hangs like other blanks; nothing can be aligned there.
     const bool fits = stop.position <= m_lineEnd + tolerance;
     pen = {};
     pen.base = stop.position;
@@ -125,15 +150,15 @@ LineBreaker::Obstacle LineBreaker::findObstacle(qsizetype start)
         if (flags & EndsLine)
             return {at, Obstacle::Kind::ForcedBreak, lastTabEnd};
         if (flags & TabCharacter) {
-            // One tab may hang; another behind it leads on into the next line.
+            // One tab may hang; a second one goes to the next line.
             if (pen.base > m_lineEnd + tolerance && at > start)
                 return {at, Obstacle::Kind::NoRoom, at};
-            moveBehindTab(pen, at);
+            movePastTab(pen, at);
             lastTabEnd = at + 1;
             continue;
         }
         pen.flow += m_paragraph.advance(at);
-        // However text is aligned to a tab stop, it never starts before the pen's base.
+        // Text aligned to a tab stop never starts before the pen's base.
         if (!(flags & HangingBlank) && pen.base + pen.flow > m_lineEnd + tolerance)
             return {at, Obstacle::Kind::NoRoom, lastTabEnd};
     }
@@ -146,7 +171,7 @@ LineBreaker::Pen LineBreaker::penAt(qsizetype start, qsizetype end)
     for (qsizetype at = start; at < end; ++at) {
         const quint8 flags = m_paragraph.flags(at);
         if (flags & TabCharacter) {
-            moveBehindTab(pen, at);
+            movePastTab(pen, at);
             continue;
         }
         pen.flow += m_paragraph.advance(at);
@@ -158,8 +183,8 @@ LineBreaker::Pen LineBreaker::penAt(qsizetype start, qsizetype end)
     return pen;
 }
 
-// A line that was measured together with what follows may grow when it is broken off: a kerning pair is torn
-// apart, or a hyphen appears.
+// A line that was measured together with the following text may become wider when it is broken: a kerning
+// pair is split, or a hyphen appears.
 double LineBreaker::growthWhenBrokenAt(qsizetype start, qsizetype end)
 {
     const double growth = m_paragraph.changeWhenLineEndsAt(start, end);
@@ -177,15 +202,15 @@ bool LineBreaker::fitsWhenBrokenAt(qsizetype start, qsizetype end)
     return pen.contentEnd(m_lineEnd) + growth <= m_lineEnd + tolerance;
 }
 
-// Returns the start where there is none.
+// Returns start if there is none.
 qsizetype LineBreaker::opportunityBefore(const Obstacle &obstacle, qsizetype start)
 {
-    // More than one that does not fit when broken is hardly seen; after these the text may stand out by a
-    // hair.
-    constexpr int mostTries = 4;
+    // It is rare that more than one opportunity does not fit; after this many the line may be slightly too
+    // wide.
+    constexpr int maxAttempts = 4;
     qsizetype end = m_breaks.lastAtOrBefore(obstacle.position);
-    for (int tries = 0; tries < mostTries && end > obstacle.lastTabEnd && !fitsWhenBrokenAt(start, end);
-         ++tries) {
+    for (int attempts = 0;
+         attempts < maxAttempts && end > obstacle.lastTabEnd && !fitsWhenBrokenAt(start, end); ++attempts) {
         const qsizetype earlier = m_breaks.lastAtOrBefore(end - 1);
         if (earlier <= start)
             break;
@@ -204,7 +229,7 @@ LineBreaker::Line LineBreaker::breakWithinWord(qsizetype start, qsizetype obstac
             break;
         end = next;
     }
-    // Blanks hang, and a line end belongs to its line, also where there was room for nothing.
+    // Blanks hang, and a line end belongs to its line, even if no text fitted.
     measureUpTo(std::min(end + 1, text.size()));
     bool hasTab = false;
     while (end < text.size() && m_paragraph.flags(end) & (HangingBlank | TabCharacter)) {

@@ -1,49 +1,64 @@
 // SPDX-License-Identifier: MIT
-// LineBreaker fills the lines of one paragraph, each with as much as fits: it ends a line at the last
-// opportunity before what does not fit, and within a word only where the word alone is wider than the column.
-// Thread: one at a time.  Owner: LayoutEngine, for the time of one paragraph.
+// LineBreaker breaks one paragraph into lines, each with as much text as fits: a line ends at the last break
+// opportunity before the overflow, or within a word only if the word alone is wider than the column. Advances
+// come from MeasuredParagraph. Thread: one at a time.  Owner: LayoutEngine, for one paragraph.
 #pragma once
 
 #include "platform/segmentation/LineBreaks.h"
 #include "platform/text_layout/MeasuredParagraph.h"
-#include "platform/text_layout/TabStops.h"
+
+/// Where the tabs of a paragraph lead. Refers to the paragraph style, which must outlive it.
+class TabStops {
+public:
+    /// Uses an interval of 28 points if the style gives no valid one.
+    explicit TabStops(const ParagraphStyle &style);
+
+    /// The first stop after a position (points from the column's leading edge, finite): of the style's stops,
+    /// then of the multiples of its interval.
+    [[nodiscard]] TabStop nextAfter(double position) const;
+
+private:
+    const std::vector<TabStop> &m_stops;
+    double m_interval;
+};
 
 class LineBreaker {
 public:
-    /// The first three must outlive it and be set to the paragraph. columnWidth: points, any number.
+    /// paragraph, breaks and style outlive the breaker and are set to the paragraph. columnWidth: points, any
+    /// number.
     LineBreaker(
         MeasuredParagraph &paragraph, LineBreaks &breaks, const ParagraphStyle &style, double columnWidth);
 
     struct Line {
         qsizetype end; ///< UTF-16 code units from the start of the paragraph
-        bool isForced; ///< it ends in a character that ends lines
+        bool isForced; ///< ended by a forced break
     };
 
-    /// The line that starts at a position (0 to the length - 1), which is 0 or the end of the last line.
+    /// The line at a position (0 to the length - 1), which is 0 or the end of the previous line.
     Line next(qsizetype start);
 
-    /// What a line fills of its column.
+    /// The part of the column that a line fills.
     struct Extent {
         double leading; ///< points from the column's leading edge
-        double width; ///< points, without the blanks that hang at the end
+        double width; ///< points, without hanging blanks
     };
-    /// To be asked before the next line.
+    /// To be called before next() moves on.
     [[nodiscard]] Extent extentOf(qsizetype start, const Line &line);
 
-    /// Points between the column's leading edge and where lines must end; negative where the tail indent is
-    /// greater than the column.
+    /// Points from the column's leading edge to where lines must end; negative if the tail indent is wider
+    /// than the column.
     [[nodiscard]] double lineEnd() const { return m_lineEnd; }
     [[nodiscard]] double columnWidth() const { return m_columnWidth; }
 
 private:
-    // Where the next character of a line goes: advances add up from the last tab on.
+    // The place of a line's next character: advances are summed from the last tab on.
     struct Pen {
-        double base = 0; // of the text behind the last tab
-        double flow = 0; // its advance so far
-        double content = 0; // the same, without the blanks at its end
-        bool hasContent = false; // other than blanks
-        double endOfEarlierContent = 0; // of what stands before the last tab, without its blanks
-        double alignedAt = 0; // the stop that the text is aligned to
+        double base = 0; // where the text after the last tab starts
+        double flow = 0; // the advance of that text
+        double content = 0; // the same without blanks at the end
+        bool hasContent = false; // whether there is text other than blanks
+        double endOfEarlierContent = 0; // of the text before the last tab, without blanks at the end
+        double alignedAt = 0; // the tab stop to which the text is aligned
         TabAlignment alignment = TabAlignment::Left;
 
         [[nodiscard]] double positionAfter(double advance, double lineEnd) const;
@@ -53,12 +68,12 @@ private:
     struct Obstacle {
         qsizetype position;
         enum class Kind { NoRoom, ForcedBreak, End } kind;
-        qsizetype lastTabEnd; // behind the last tab before it, or the line's start
+        qsizetype lastTabEnd; // after the last tab before it, or the line's start
     };
 
     [[nodiscard]] Pen penAtStart(qsizetype start) const;
     [[nodiscard]] Obstacle findObstacle(qsizetype start);
-    void moveBehindTab(Pen &pen, qsizetype tab);
+    void movePastTab(Pen &pen, qsizetype tab);
     [[nodiscard]] double advanceToDecimalSeparator(qsizetype start);
     [[nodiscard]] qsizetype opportunityBefore(const Obstacle &obstacle, qsizetype start);
     [[nodiscard]] double growthWhenBrokenAt(qsizetype start, qsizetype end);
@@ -74,5 +89,5 @@ private:
     double m_indent;
     double m_columnWidth;
     double m_lineEnd;
-    bool m_startsWithinWord = false; // the next line
+    bool m_startsWithinWord = false; // of the next line
 };

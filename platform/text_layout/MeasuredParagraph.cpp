@@ -8,17 +8,17 @@
 
 namespace {
 
-// What is shaped at once: many words, so that cuts between two stretches are rare.
-constexpr qsizetype longestRun = 2048;
+// Code units shaped at once: many words, so that cuts between two stretches are rare.
+constexpr qsizetype maxRunLength = 2048;
 
-// At a cut the words just before it have been shaped without what follows; they are shaped again.
+// Code units before a cut that are shaped again, because they were shaped without the text after it.
 constexpr qsizetype lookAhead = 64;
 
-// How far around a line's end text is shaped again. What a break changes is a kerning pair or the form of a
-// letter; a longer stretch without a safe place is a word of joined letters, which keep their forms.
-constexpr qsizetype longestReshape = 64;
+// How far around a line's end text is shaped again. A break changes a kerning pair or the form of a letter; a
+// longer stretch without a safe place is a word of joined letters, which keep their forms.
+constexpr qsizetype maxReshapedLength = 64;
 
-// Turns what shaping found of a run into points.
+// Converts the advances of a shaped run to points.
 class Scale {
 public:
     explicit Scale(const TextRun &run)
@@ -53,7 +53,7 @@ void MeasuredParagraph::measureMore()
 {
     if (m_itemizer.isAtEnd())
         return;
-    const TextRun run = m_itemizer.next(longestRun);
+    const TextRun run = m_itemizer.next(maxRunLength);
     switch (run.kind) {
     case TextRun::Kind::Tab:
         append(0, StartsCluster | TabCharacter);
@@ -140,12 +140,12 @@ const TextRun &MeasuredParagraph::runAt(qsizetype position) const
     return *(behind - 1);
 }
 
-void MeasuredParagraph::forgetBefore(qsizetype position)
+void MeasuredParagraph::discardBefore(qsizetype position)
 {
-    // Only when it is worth the move of what stays, so that every unit is moved about once.
-    constexpr size_t leastForgotten = 4096;
+    // Only if it is worth moving the rest, so that every code unit is moved about once.
+    constexpr size_t minDiscarded = 4096;
     const size_t count = index(position);
-    if (count < leastForgotten || count * 2 < m_advances.size())
+    if (count < minDiscarded || count * 2 < m_advances.size())
         return;
     m_advances.erase(m_advances.begin(), m_advances.begin() + static_cast<std::ptrdiff_t>(count));
     m_flags.erase(m_flags.begin(), m_flags.begin() + static_cast<std::ptrdiff_t>(count));
@@ -156,24 +156,24 @@ void MeasuredParagraph::forgetBefore(qsizetype position)
 
 qsizetype MeasuredParagraph::safePositionFrom(qsizetype position) const
 {
-    const qsizetype farthest = std::min({position + longestReshape, runAt(position).end, measuredEnd()});
-    while (position < farthest && (flags(position) & (StartsCluster | UnsafeToBreak)) != StartsCluster)
+    const qsizetype limit = std::min({position + maxReshapedLength, runAt(position).end, measuredEnd()});
+    while (position < limit && (flags(position) & (StartsCluster | UnsafeToBreak)) != StartsCluster)
         ++position;
     return position;
 }
 
-qsizetype MeasuredParagraph::safePositionBefore(qsizetype position, qsizetype least) const
+qsizetype MeasuredParagraph::safePositionBefore(qsizetype position, qsizetype min) const
 {
-    const qsizetype farthest = std::max({position - longestReshape, runAt(position - 1).start, least});
+    const qsizetype limit = std::max({position - maxReshapedLength, runAt(position - 1).start, min});
     do {
         --position;
-    } while (position > farthest && (flags(position) & (StartsCluster | UnsafeToBreak)) != StartsCluster);
+    } while (position > limit && (flags(position) & (StartsCluster | UnsafeToBreak)) != StartsCluster);
     return position;
 }
 
 void MeasuredParagraph::startLineAt(qsizetype position, bool isWithinWord)
 {
-    forgetBefore(position);
+    discardBefore(position);
     if (isWithinWord || position >= measuredEnd() || !(flags(position) & UnsafeToBreak))
         return;
     const TextRun &run = runAt(position);

@@ -6,13 +6,26 @@
 #include <hb.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
-// What HarfBuzz looks at on either side of a stretch.
+// Code units that HarfBuzz considers on either side of a stretch.
 constexpr qsizetype contextLength = 8;
 
-void shareOutLigatures(QStringView text, float *advances, const quint8 *flags)
+constexpr size_t slotCount = 1 << 15; // about 8 MB; a long novel has half as many different words
+
+// Not safe against collisions on purpose: those only slow down the text that contains them, as new words do.
+size_t hashOf(quint32 style, QStringView word)
+{
+    constexpr quint64 factor = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
+    quint64 hash = style * factor;
+    for (qsizetype i = 0; i < word.size(); ++i)
+        hash = (hash ^ word.utf16()[i]) * factor;
+    return static_cast<size_t>(hash >> 32);
+}
+
+void distributeLigatures(QStringView text, float *advances, const quint8 *flags)
 {
     for (qsizetype start = 0; start < text.size();) {
         qsizetype end = start + 1;
@@ -40,6 +53,20 @@ bool isHangingBlank(char16_t unit)
         return unit == u' ';
     return unit == 0x1680 || (unit >= 0x2000 && unit <= 0x200B && unit != 0x2007) || unit == 0x205F
         || unit == 0x3000;
+}
+
+bool CachedWord::holds(quint32 wantedStyle, QStringView wanted) const
+{
+    return style == wantedStyle && length == wanted.size()
+        && std::memcmp(text.data(), wanted.utf16(), static_cast<size_t>(wanted.size()) * sizeof(char16_t))
+        == 0;
+}
+
+CachedWord &WordCache::slotFor(quint32 style, QStringView word)
+{
+    if (m_slots.empty())
+        m_slots.resize(slotCount);
+    return m_slots[hashOf(style, word) % slotCount];
 }
 
 void Shaper::BufferDeleter::operator()(hb_buffer_t *buffer) const
@@ -93,10 +120,10 @@ void Shaper::shape(const ShapingStyle &style, QStringView paragraph, qsizetype s
         flags[at] =
             static_cast<quint8>((flags[at] & HangingBlank) | StartsCluster | (isUnsafe ? UnsafeToBreak : 0));
     }
-    shareOutLigatures(text, advances, flags);
+    distributeLigatures(text, advances, flags);
 }
 
-const CachedWord &Shaper::cached(const ShapingStyle &style, QStringView word)
+const CachedWord &Shaper::cachedWord(const ShapingStyle &style, QStringView word)
 {
     CachedWord &slot = m_words.slotFor(style.number(), word);
     if (slot.holds(style.number(), word))
@@ -108,19 +135,19 @@ const CachedWord &Shaper::cached(const ShapingStyle &style, QStringView word)
         shapeBetweenSpaces(style, word, slot);
     } else {
         shape(style, word, 0, word.size(), slot.advances.data(), slot.flags.data());
-        slot.isSeparable = true; // asked for only where its run holds nothing else
+        slot.isSeparable = true; // only used for runs of a single word
     }
     return slot;
 }
 
-// Shows whether the word is the same without the spaces.
+// With spaces around it, the result shows whether the word measures the same without them.
 void Shaper::shapeBetweenSpaces(const ShapingStyle &style, QStringView word, CachedWord &slot)
 {
-    constexpr auto longest = static_cast<size_t>(CachedWord::longest) + 2;
+    constexpr auto maxLength = static_cast<size_t>(CachedWord::maxLength) + 2;
     const auto length = static_cast<size_t>(word.size());
-    std::array<char16_t, longest> text;
-    std::array<float, longest> advances;
-    std::array<quint8, longest> flags;
+    std::array<char16_t, maxLength> text;
+    std::array<float, maxLength> advances;
+    std::array<quint8, maxLength> flags;
     text[0] = u' ';
     std::copy_n(word.utf16(), length, text.begin() + 1);
     text[length + 1] = u' ';
@@ -136,19 +163,19 @@ void Shaper::shapeBetweenSpaces(const ShapingStyle &style, QStringView word, Cac
     std::copy_n(flags.begin() + 1, length, slot.flags.begin());
 }
 
-// False where the word cannot be shaped without its neighbours.
+// Returns false if the word cannot be shaped without its neighbours.
 bool Shaper::shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
     float *advances, quint8 *flags)
 {
-    // Beside a space or a control character no letter joins another.
+    // Letters do not join across a space or a control character.
     const char16_t *units = paragraph.utf16();
     const bool isApart =
         (start == 0 || units[start - 1] <= u' ') && (end == paragraph.size() || units[end] <= u' ');
-    if (!isApart || end - start > CachedWord::longest) {
+    if (!isApart || end - start > CachedWord::maxLength) {
         shape(style, paragraph, start, end, advances, flags);
         return true;
     }
-    const CachedWord &word = cached(style, paragraph.sliced(start, end - start));
+    const CachedWord &word = cachedWord(style, paragraph.sliced(start, end - start));
     std::copy_n(word.advances.begin(), end - start, advances);
     std::copy_n(word.flags.begin(), end - start, flags);
     return word.isSeparable;

@@ -8,8 +8,8 @@
 
 namespace {
 
-// Letters that are set apart are not tied together either. The two features are the ones that are on of
-// themselves; ligatures that a script demands stay.
+// Letter-spaced text has no ligatures. These two features are on by default; ligatures that a script requires
+// stay.
 const std::array<hb_feature_t, 2> withoutLigatures{
     hb_feature_t{HB_TAG('l', 'i', 'g', 'a'), 0, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END},
     hb_feature_t{HB_TAG('c', 'l', 'i', 'g'), 0, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END}};
@@ -58,8 +58,8 @@ ShapingStyle::ShapingStyle(const TextRun &run, quint32 number)
     m_areWordsSeparable = !hasStateMachines() && !isNamedByRules(space);
 }
 
-// Tables with rules over any number of glyphs, which HarfBuzz does not list: the state machines of AAT, to
-// which a 'kern' table of version 1 belongs too. One of version 0 knows pairs only.
+// AAT tables are state machines over any number of glyphs, which HarfBuzz does not list. A 'kern' table of
+// version 1 is one, too; one of version 0 has only pairs.
 bool ShapingStyle::hasStateMachines() const
 {
     hb_face_t *face = hb_font_get_face(m_face.shapingFont());

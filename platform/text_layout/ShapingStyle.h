@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// ShapingStyle is what decides the shaping of a text besides the text: font, script, direction, language,
-// ligatures. It holds the shaper's plan for them. Sizes do not matter: advances are in font units.
+// ShapingStyle is everything besides the text that affects shaping: font, script, direction, language,
+// ligatures. It holds HarfBuzz's plan for them. It is independent of the size: advances are in font units.
 // Thread: one at a time.  Owner: Shaper.
 #pragma once
 
@@ -9,7 +9,7 @@
 #include <memory>
 #include <tuple>
 
-// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as the library's own header has them
+// NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as in the library's own header
 typedef struct hb_shape_plan_t hb_shape_plan_t;
 typedef struct hb_buffer_t hb_buffer_t;
 // NOLINTEND(bugprone-reserved-identifier,modernize-use-using)
@@ -18,20 +18,20 @@ class ShapingStyle {
 public:
     using Key = std::tuple<const FontFace *, quint32, bool, bool, QByteArray>;
 
-    /// The run is Text with a face. number: from 1, another one for every style of a shaper.
+    /// run: Text with a face. number: from 1, unique within a shaper.
     ShapingStyle(const TextRun &run, quint32 number);
     [[nodiscard]] static Key keyOf(const TextRun &run);
 
-    /// Shapes a buffer of Unicode text and leaves glyphs in it.
+    /// Shapes a buffer of Unicode text into glyphs.
     void shape(hb_buffer_t *buffer) const;
 
     [[nodiscard]] quint32 number() const { return m_number; }
 
-    /// Whether the font leaves spaces alone: none of its rules that apply here names the space, so that no
-    /// rule reaches from one word over it into the next.
+    /// Whether words can be shaped separately: none of the font's rules that apply here names the space, so
+    /// no rule affects both a word and the next one.
     [[nodiscard]] bool areWordsSeparable() const { return m_areWordsSeparable; }
 
-    /// The advance of a space between words; only where they are separable.
+    /// The advance of a space; valid only if areWordsSeparable().
     [[nodiscard]] float spaceAdvance() const { return m_spaceAdvance; }
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_layout/LayoutEngine.h"
-#include "platform/text_layout/TabStops.h"
+#include "platform/text_layout/LineBreaker.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/text_layout/FontWorld.h"
 
