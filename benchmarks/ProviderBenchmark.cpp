@@ -7,7 +7,7 @@
 //     xvfb-run -s '-screen 0 1280x800x24' env XDG_DATA_DIRS=build/release/share:/usr/share \
 //         dbus-run-session -- sh -c 'openbox & exec build/release/bin/provider_benchmark'
 #include "platform/services/ServiceInterface.h"
-#include "platform/services/ServiceRequestSender.h"
+#include "platform/services/ServiceMessageSender.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

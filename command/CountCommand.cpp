@@ -6,6 +6,8 @@
 #include "command/RulesExplanation.h"
 #include "documents/loading/KindDetection.h"
 #include "platform/files/FileContents.h"
+#include "platform/system/OwnedDescriptor.h"
+#include "platform/system/SystemError.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/MeasuringSurface.h"
 
@@ -39,12 +41,8 @@ Result<QByteArray, FileError> readList(const QByteArray &name)
     Result<QByteArray, FileError> list = readFile(name);
     if (list || list.error().cause != FileError::Cause::NamedPipe)
         return list;
-    const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
-        return list;
-    list = readDescriptor(descriptor);
-    ::close(descriptor);
-    return list;
+    const OwnedDescriptor pipe(::open(name.constData(), O_RDONLY | O_CLOEXEC));
+    return pipe ? readDescriptor(pipe.get()) : list;
 }
 
 /// A Word document goes to the service as it is; absent for any other.
@@ -69,7 +67,7 @@ int CountCommand::run()
     else
         countAll(names);
     if (std::fflush(stdout) != 0)
-        fail("standard output", qt_error_string(errno));
+        fail("standard output", systemErrorText(errno));
     return m_hasFailed ? 1 : 0;
 }
 

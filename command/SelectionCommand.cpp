@@ -29,10 +29,10 @@ int openWindow(SelectionName name)
     constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
     // Before anything that takes time: the user goes on working.
     const Result<Pasteboard, SelectionFailure> pasteboard =
-        readSelection(name, SelectionContent::Text, PasteboardWire::largestPasteboard);
+        readSelection(name, SelectionContent::Text, PasteboardWire::maxPasteboardSize);
     if (!pasteboard)
         return tellFailure(causeText(pasteboard.error()), report);
-    return sendServiceRequest(QStringLiteral("wordCountSelectedTextService"), pasteboard.value(), report);
+    return deliverServiceMessage(QStringLiteral("wordCountSelectedTextService"), pasteboard.value(), report);
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include "command/FileNames.h"
 #include "platform/services/ServiceInterface.h"
-#include "platform/services/ServiceRequestSender.h"
+#include "platform/services/ServiceMessageSender.h"
 #include "platform/session_bus/UserNotification.h"
 #include "preferences/QBYUserDefaultsController.h"
 
@@ -34,7 +34,7 @@ QString asSentence(const QString &cause)
 
 } // namespace
 
-int sendServiceRequest(const QString &message, const Pasteboard &pasteboard, FailureReport report)
+int deliverServiceMessage(const QString &message, const Pasteboard &pasteboard, FailureReport report)
 {
     const QString token = takeActivationToken();
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
@@ -42,7 +42,7 @@ int sendServiceRequest(const QString &message, const Pasteboard &pasteboard, Fai
     QVariantMap options;
     if (!token.isEmpty())
         options.insert(ServiceInterface::activationTokenOption(), token);
-    const std::optional<ServiceFailure> failure = sendServiceMessage(message, pasteboard, options);
+    const std::optional<ServiceMessageFailure> failure = sendServiceMessage(message, pasteboard, options);
     return failure ? tellFailure(causeText(*failure), report) : 0;
 }
 

@@ -14,7 +14,7 @@ enum class FailureReport { StandardError, StandardErrorAndNotification };
 /// Does what must come before a service message (the first-launch step, the display and the locale for the
 /// bus, the activation token of this process), sends it and waits until it is done. Gives the exit status of
 /// the command: 0, or 1 once the failure is told. message: as "wordCountSelectedTextService".
-int sendServiceRequest(const QString &message, const Pasteboard &pasteboard, FailureReport report);
+int deliverServiceMessage(const QString &message, const Pasteboard &pasteboard, FailureReport report);
 
 /// Tells a failure, in a sentence with or without capital and full stop; gives the exit status 1.
 int tellFailure(const QString &cause, FailureReport report);

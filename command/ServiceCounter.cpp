@@ -40,17 +40,17 @@ Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::countWordDocume
 Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::count(
     Request request, QByteArrayView payload)
 {
-    SealedMemory::MadeMemory memory = SealedMemory::copyOf(payload);
+    SealedMemory::MemoryResult memory = SealedMemory::copyOf(payload);
     if (!memory)
         return CountServiceFailure::NotEnoughMemory;
     // A connection that gives a request up lets its handler go, and with it the promise.
-    auto promise = std::make_shared<std::promise<ServiceReply>>();
-    std::future<ServiceReply> answer = promise->get_future();
+    auto promise = std::make_shared<std::promise<RemoteReply>>();
+    std::future<RemoteReply> answer = promise->get_future();
     const WordCounterServiceProtocol service(m_connection.remoteObjectProxy());
     (service.*request)(std::make_shared<const SealedMemory>(std::move(memory).value()),
-        [promise = std::move(promise)](const ServiceReply &reply) { promise->set_value(reply); });
+        [promise = std::move(promise)](const RemoteReply &reply) { promise->set_value(reply); });
     try {
-        const ServiceReply counts = answer.get();
+        const RemoteReply counts = answer.get();
         return QBYWordCounterStats{
             counts[0], counts[1], counts[2], counts[3], counts[4], counts[5], counts[6], counts[7]};
     } catch (const std::future_error &) {

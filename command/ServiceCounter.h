@@ -3,7 +3,7 @@
 // the answers. Thread: one, not that of the connections.  Owner: the count command.
 #pragma once
 
-#include "platform/session_bus/ServiceConnection.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 #include "presentation/WordCounterServiceProtocol.h"
@@ -33,5 +33,5 @@ private:
         WordCounterServiceProtocol::Data, WordCounterServiceProtocol::Results) const;
     Result<QBYWordCounterStats, CountServiceFailure> count(Request request, QByteArrayView payload);
 
-    ServiceConnection m_connection;
+    RemoteObjectConnection m_connection;
 };

@@ -40,7 +40,7 @@ int openWindow(const QByteArray &name)
         tellDocumentFailure(name, pasteboard.error());
         return 1;
     }
-    return sendServiceRequest(
+    return deliverServiceMessage(
         QStringLiteral("wordCountSelectedTextService"), pasteboard.value(), FailureReport::StandardError);
 }
 

@@ -7,9 +7,9 @@
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
 #include "platform/system/FileURL.h"
+#include "platform/system/SystemError.h"
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 
 #include <sys/stat.h>
@@ -54,7 +54,7 @@ QByteArray listOfFiles(const QByteArrayList &names, bool &isComplete)
     for (const QByteArray &name : names) {
         struct stat status { };
         if (::stat(name.constData(), &status) != 0) {
-            tellDocumentFailure(name, QString::fromLocal8Bit(std::strerror(errno)));
+            tellDocumentFailure(name, systemErrorText(errno));
             isComplete = false;
             continue;
         }
@@ -65,13 +65,13 @@ QByteArray listOfFiles(const QByteArrayList &names, bool &isComplete)
 
 int send(const Pasteboard &pasteboard)
 {
-    return sendServiceRequest(QStringLiteral("watchTheTextFileService"), pasteboard, report);
+    return deliverServiceMessage(QStringLiteral("watchTheTextFileService"), pasteboard, report);
 }
 
 int watchCopiedFiles()
 {
     const Result<Pasteboard, SelectionFailure> files =
-        readSelection(SelectionName::Clipboard, SelectionContent::Files, PasteboardWire::largestPasteboard);
+        readSelection(SelectionName::Clipboard, SelectionContent::Files, PasteboardWire::maxPasteboardSize);
     return files ? send(files.value()) : tellFailure(causeText(files.error()), report);
 }
 

@@ -7,7 +7,7 @@
 #include "command/SelectionCommand.h"
 #include "command/TextCommand.h"
 #include "command/WatchCommand.h"
-#include "platform/system/PrivateMemory.h"
+#include "platform/system/Processes.h"
 
 #include <QCoreApplication>
 

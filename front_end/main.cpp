@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The service provider: the program with the statistics windows, started by the session bus.
 #include "front_end/ProviderApplication.h"
-#include "platform/system/PrivateMemory.h"
+#include "platform/system/Processes.h"
 #include "platform/views/widgets/ApplicationActivitySource.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/WidgetDesktop.h"

@@ -3,7 +3,7 @@
 // it. It writes the text of the file to standard output; PdfReaderOrder tells what it is given.
 #include "pdf_reader/Confinement.h"
 #include "pdf_reader/PdfPages.h"
-#include "platform/system/PrivateMemory.h"
+#include "platform/system/Processes.h"
 #include "platform/system/SealedMemory.h"
 
 #include <unistd.h>
@@ -57,7 +57,7 @@ int main(int argumentCount, char **arguments)
     if (order) {
         // Before it sees a byte of the document.
         (void)confine(*order);
-        const auto document = SealedMemory::received(STDIN_FILENO);
+        const auto document = SealedMemory::receive(STDIN_FILENO);
         if (document)
             ::_exit(exitStatusFor(writePages(document.value().bytes(), order->length)));
     }

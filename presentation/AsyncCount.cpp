@@ -13,7 +13,7 @@ void WordCounterViewController::openConnectionToWordCounterService()
     if (_connectionToWordCounterService)
         return;
     _connectionToWordCounterService =
-        std::make_shared<ServiceConnection>(WordCounterServiceProtocol::serviceName());
+        std::make_shared<RemoteObjectConnection>(WordCounterServiceProtocol::serviceName());
     _connectionToWordCounterService->setRemoteObjectInterface(WordCounterServiceProtocol::interface());
     _connectionToWordCounterService->resume();
 }
@@ -42,8 +42,8 @@ void WordCounterViewController::asyncUpdateStats(const QString &queueLabel,
         return;
     setIsAsyncCountOperationInProgress(true);
     // The queue's thread may be the last to let them go.
-    const auto panel = releasedOnMainThread(shared_from_this());
-    const HeldCompletion held = releasedOnMainThread(std::move(completion));
+    const auto panel = releaseOnMainThread(shared_from_this());
+    const HeldCompletion held = releaseOnMainThread(std::move(completion));
     DispatchQueue(queueLabel).async([panel, held, makeData, request] {
         MainQueue::async([panel, held, request, data = makeData()] { (*panel)->send(request, data, held); });
     });
@@ -53,14 +53,14 @@ void WordCounterViewController::asyncUpdateStats(const QString &queueLabel,
 // where another one has opened a connection since.
 void WordCounterViewController::send(CountRequest request, const Data &data, const HeldCompletion &completion)
 {
-    const std::shared_ptr<ServiceConnection> connection = _connectionToWordCounterService;
+    const std::shared_ptr<RemoteObjectConnection> connection = _connectionToWordCounterService;
     if (!connection)
         return;
     const WordCounterServiceProtocol service(connection->remoteObjectProxy());
     // The handler owns the connection too, so that an answer arrives that the panel does not live to see.
     (service.*request)(
-        data, [weakPanel = weak_from_this(), connection, completion](const ServiceReply &reply) {
-            MainQueue::async([panel = releasedOnMainThread(weakPanel.lock()),
+        data, [weakPanel = weak_from_this(), connection, completion](const RemoteReply &reply) {
+            MainQueue::async([panel = releaseOnMainThread(weakPanel.lock()),
                                  sentOver = std::weak_ptr(connection), completion, reply] {
                 if (!*panel)
                     (*completion)();
@@ -70,12 +70,12 @@ void WordCounterViewController::send(CountRequest request, const Data &data, con
         });
 }
 
-bool WordCounterViewController::isOpen(const std::weak_ptr<ServiceConnection> &connection) const
+bool WordCounterViewController::isOpen(const std::weak_ptr<RemoteObjectConnection> &connection) const
 {
     return _connectionToWordCounterService && _connectionToWordCounterService == connection.lock();
 }
 
-void WordCounterViewController::showReply(const ServiceReply &reply, const Completion &completion)
+void WordCounterViewController::showReply(const RemoteReply &reply, const Completion &completion)
 {
     m_wordCounter->updateModelWithPrepopulatedStats({
         .numberOfWords = reply[0],

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "presentation/BaseWordCounterViewController.h"
 
-#include "platform/session_bus/NotificationObserver.h"
+#include "platform/session_bus/DistributedNotificationCenter.h"
 #include "platform/views/InterfaceFile.h"
 #include "preferences/QBYUserDefaultsController.h"
 

@@ -10,7 +10,7 @@ namespace {
 
 WordCounterServiceProtocol::Data sealed(const QByteArray &bytes)
 {
-    SealedMemory::MadeMemory memory = SealedMemory::copyOf(bytes);
+    SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
     if (!memory) {
         LogChannel::standard().error(u"A document cannot be handed to the counting service: {}",
             {publicly(causeText(memory.error()))});

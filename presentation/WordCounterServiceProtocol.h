@@ -3,7 +3,7 @@
 // a document that the sender hands over. Thread: that of its connection's owner.  Owner: whoever asks.
 #pragma once
 
-#include "platform/session_bus/RemoteObjectProxy.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 
 #include <memory>
 #include <utility>
@@ -13,7 +13,7 @@ public:
     /// Null: the document could not be had.
     using Data = std::shared_ptr<const SealedMemory>;
     /// Given the eight counts in the order of QBYWordCounterStats, on the thread of the connections.
-    using Results = ServiceReplyHandler;
+    using Results = RemoteReplyHandler;
 
     static QString serviceName();
     static RemoteObjectInterface interface();

@@ -6,7 +6,7 @@
 // life on the main thread.
 #pragma once
 
-#include "platform/session_bus/ServiceConnection.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/views/Window.h"
 #include "presentation/BaseWordCounterViewController.h"
@@ -99,13 +99,14 @@ private:
     void asyncUpdateStats(const QString &queueLabel, const std::function<Data()> &makeData,
         CountRequest request, Completion completion);
     /// Whether this is still the panel's connection.
-    [[nodiscard]] bool isOpen(const std::weak_ptr<ServiceConnection> &connection) const;
+    [[nodiscard]] bool isOpen(const std::weak_ptr<RemoteObjectConnection> &connection) const;
     void send(CountRequest request, const Data &data, const HeldCompletion &completion);
-    void showReply(const ServiceReply &reply, const Completion &completion);
+    void showReply(const RemoteReply &reply, const Completion &completion);
 
     [[nodiscard]] MimeContent statisticsToCopy() const;
 
     std::shared_ptr<WordCounterModel> m_wordCounter;
     bool m_isAsyncCountOperationInProgress = false;
-    std::shared_ptr<ServiceConnection> _connectionToWordCounterService; // shared with the pending answers
+    std::shared_ptr<RemoteObjectConnection>
+        _connectionToWordCounterService; // shared with the pending answers
 };

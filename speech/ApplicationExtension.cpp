@@ -3,7 +3,7 @@
 
 #include "platform/locale/CurrentLocale.h"
 #include "platform/locale/SpelledOutNumber.h"
-#include "platform/system/DetachedProcess.h"
+#include "platform/system/Processes.h"
 #include "platform/views/Desktop.h"
 
 bool QBYExtension::sayWordCountOutloud(quint64 wordCount, Desktop &desktop, const QString &launchPath)

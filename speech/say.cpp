@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// say PHRASE: speaks its one argument, by the user's speech dispatcher or else by espeak-ng itself. It ends
-// when the dispatcher has taken the phrase over, or when espeak-ng has spoken it.
+// say PHRASE: speaks its one argument through the user's speech dispatcher, or through espeak-ng. It exits
+// when the dispatcher has accepted the phrase, or when espeak-ng has spoken it. It links no library, so that
+// it starts at once.
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -16,12 +17,12 @@
 
 namespace {
 
-// Taking a phrase over takes milliseconds; starting the dispatcher first, a second or two.
+// The dispatcher accepts a phrase within milliseconds, or within a second or two if it must start first.
 constexpr std::chrono::seconds timeout{10};
 constexpr std::chrono::milliseconds step{5};
 
-/// Whether the process ends well in time; one that does not is killed.
-bool endsWell(pid_t process)
+/// Whether the process exits with status 0 before the timeout; after it, the process is killed.
+bool succeeds(pid_t process)
 {
     int status = 0;
     for (auto waited = std::chrono::milliseconds(0); waited < timeout; waited += step) {
@@ -37,8 +38,8 @@ bool endsWell(pid_t process)
     return false;
 }
 
-/// Whether the speech dispatcher has taken the phrase over. It is not asked to wait until all is spoken: on a
-/// machine without sound that never comes.
+/// Whether the speech dispatcher has accepted the phrase. Does not wait until all is spoken: on a machine
+/// without sound that would take forever.
 bool speakByDispatcher(char *phrase)
 {
     std::array<char, 8> program{"spd-say"};
@@ -47,12 +48,12 @@ bool speakByDispatcher(char *phrase)
     posix_spawn_file_actions_t actions;
     if (posix_spawn_file_actions_init(&actions) != 0)
         return false;
-    // What it complains of is no matter as long as the other one speaks.
+    // Its errors do not matter as long as espeak-ng speaks.
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     pid_t process = 0;
     const int failure = posix_spawnp(&process, program.data(), &actions, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
-    return failure == 0 && endsWell(process);
+    return failure == 0 && succeeds(process);
 }
 
 } // namespace
@@ -67,9 +68,8 @@ int main(int argumentCount, char **arguments)
         return 0;
     execlp("espeak-ng", "espeak-ng", "--", arguments[1], static_cast<char *>(nullptr));
     std::fprintf(stderr,
-        "say: spd-say does not work here, and espeak-ng cannot be started: %s; install the package espeak-ng "
-        "or "
-        "speech-dispatcher\n",
-        std::strerror(errno));
+        "say: cannot speak: spd-say failed and espeak-ng cannot be started (%s); install the package "
+        "speech-dispatcher or espeak-ng\n",
+        ::strerrordesc_np(errno)); // always English, unlike strerror()
     return 1;
 }

@@ -34,8 +34,8 @@ Result<SealedMemory, CountFailure> documentOf(const ReceivedRequest &request)
         return CountFailure(CountFailure::Cause::DocumentMissing);
     if (request.length > CountingService::largestDocument)
         return CountFailure(CountFailure::Cause::TooLarge);
-    SealedMemory::MadeMemory memory =
-        SealedMemory::received(request.payload.fileDescriptor(), request.length);
+    SealedMemory::MemoryResult memory =
+        SealedMemory::receive(request.payload.fileDescriptor(), request.length);
     if (!memory)
         return failureOf(memory.error());
     return std::move(memory).value();

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "counting_service/protocol/PacketSocket.h"
-#include "platform/system/ChildLaunch.h"
+#include "platform/system/Processes.h"
 
 #include <QByteArray>
 #include <QByteArrayList>

@@ -3,6 +3,7 @@
 
 #include "counting_service/broker/ServiceLog.h"
 #include "counting_service/broker/WorkerLaunch.h"
+#include "platform/system/SystemError.h"
 
 #include <csignal>
 #include <ctime>
@@ -82,7 +83,7 @@ std::unique_ptr<WorkerProcess> WorkerProcess::start(const WorkerProgram &program
 {
     std::optional<LaunchedWorker> worker = launchWorker(program.path, program.arguments);
     if (!worker) {
-        countingServiceLog().error(u"A worker cannot be started: {}", {publicly(qt_error_string(errno))});
+        countingServiceLog().error(u"A worker cannot be started: {}", {publicly(systemErrorText(errno))});
         return nullptr;
     }
     return std::unique_ptr<WorkerProcess>(new WorkerProcess(program, std::move(callbacks),

@@ -78,7 +78,7 @@ WorkerReply CountingWorker::replyTo(const WorkerRequest &request, int descriptor
 
 Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequest &request, int descriptor)
 {
-    const SealedMemory::MadeMemory memory = SealedMemory::received(descriptor, request.length);
+    const SealedMemory::MemoryResult memory = SealedMemory::receive(descriptor, request.length);
     if (!memory)
         return CountFailure(CountFailure::Cause::NotReceived);
     const QByteArray name = CountMemory::nameOf(request, memory.value().bytes());

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "documents/pdf/PdfReaderOrder.h"
-#include "platform/system/ChildLaunch.h"
 #include "platform/system/OwnedDescriptor.h"
+#include "platform/system/Processes.h"
 #include "platform/system/Result.h"
 
 #include <QByteArrayView>

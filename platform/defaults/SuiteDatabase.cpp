@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/defaults/SuiteDatabase.h"
 
-#include <QtGlobal>
+#include "platform/system/SystemError.h"
 
 #include <cerrno>
 #include <sqlite3.h>
@@ -119,7 +119,7 @@ SuiteFault SuiteDatabase::faultOf(int code) const
     QString reason = QString::fromUtf8(sqlite3_errstr(code));
     const bool fromSystem = (code & 0xff) == SQLITE_IOERR || (code & 0xff) == SQLITE_CANTOPEN;
     if (const int error = fromSystem && m_database ? sqlite3_system_errno(m_database) : 0; error != 0)
-        reason += QStringLiteral(" (%1)").arg(qt_error_string(error));
+        reason += QStringLiteral(" (%1)").arg(systemErrorText(error));
     return {kind, reason};
 }
 
@@ -149,7 +149,7 @@ SuiteDatabase::Failure SuiteDatabase::ensureOpen(Purpose purpose)
         struct stat status { };
         const bool exists = ::stat(m_path.constData(), &status) == 0;
         if (!exists && errno != ENOENT)
-            return SuiteFault{SuiteFault::Kind::Other, qt_error_string(errno)};
+            return SuiteFault{SuiteFault::Kind::Other, systemErrorText(errno)};
         if (!exists && purpose == Purpose::Reading) {
             close();
             return {};

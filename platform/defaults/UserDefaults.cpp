@@ -3,6 +3,7 @@
 
 #include "platform/defaults/SuiteFolder.h"
 #include "platform/logging/LogChannel.h"
+#include "platform/system/SystemError.h"
 
 #include <QFile>
 #include <QStandardPaths>
@@ -106,12 +107,12 @@ std::optional<SuiteFault> UserDefaults::writeUnderLock(
     const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard)
 {
     if (const int error = makeFolder(m_folder))
-        return SuiteFault{SuiteFault::Kind::Other, qt_error_string(error)};
+        return SuiteFault{SuiteFault::Kind::Other, systemErrorText(error)};
     const FolderLock lock(m_folder, timeout(m_writing));
     if (lock.error() == EWOULDBLOCK)
         return SuiteFault{SuiteFault::Kind::Busy, QStringLiteral("another process keeps it locked")};
     if (lock.error() != 0)
-        return SuiteFault{SuiteFault::Kind::Other, qt_error_string(lock.error())};
+        return SuiteFault{SuiteFault::Kind::Other, systemErrorText(lock.error())};
     m_database.setTimeout(timeout(m_writing));
     auto fault = m_database.write(entries, guard);
     if (!fault || fault->kind != SuiteFault::Kind::Broken)
@@ -128,7 +129,7 @@ std::optional<SuiteFault> UserDefaults::putBrokenFileAside(const SuiteFault &fau
     const QByteArray path = putAside(m_database.path());
     if (path.isEmpty())
         return SuiteFault{
-            SuiteFault::Kind::Other, fault.reason + QStringLiteral("; ") + qt_error_string(errno)};
+            SuiteFault::Kind::Other, fault.reason + QStringLiteral("; ") + systemErrorText(errno)};
     LogChannel::standard().notice(u"Preference suite {} could not be used: {}. It is kept as {}",
         {publicly(m_suiteName), publicly(fault.reason),
             publicly(QFile::decodeName(path.sliced(path.lastIndexOf('/') + 1)))});

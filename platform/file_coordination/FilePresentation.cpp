@@ -7,12 +7,12 @@
 #include "platform/file_coordination/WriterLock.h"
 #include "platform/logging/LogChannel.h"
 #include "platform/system/FileURL.h"
+#include "platform/system/SystemError.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 namespace {
@@ -133,8 +133,8 @@ void FilePresentation::poll(int systemError)
 {
     if (std::exchange(m_isPolling, true))
         return;
-    const QString reason = systemError ? QString::fromLocal8Bit(::strerrordesc_np(systemError))
-                                       : QStringLiteral("it is on a file system of that kind");
+    const QString reason =
+        systemError ? systemErrorText(systemError) : QStringLiteral("it is on a file system of that kind");
     LogChannel::standard().notice(
         u"The system may not tell of changes to {} ({}), so it is looked at every two seconds",
         {QFile::decodeName(m_path), publicly(reason)});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/FileContents.h"
 
+#include "platform/system/OwnedDescriptor.h"
+
 #include <QByteArrayView>
 
 #include <algorithm>
@@ -20,26 +22,6 @@ using Contents = Result<QByteArray, FileError>;
 enum class Waiting { Never, Allowed };
 
 constexpr qint64 firstPieceSize = 65'536; // bytes; what a pipe holds
-
-class OwnedDescriptor {
-public:
-    explicit OwnedDescriptor(int descriptor)
-        : m_descriptor(descriptor)
-    {
-    }
-    OwnedDescriptor(const OwnedDescriptor &) = delete;
-    OwnedDescriptor &operator=(const OwnedDescriptor &) = delete;
-    ~OwnedDescriptor()
-    {
-        if (m_descriptor >= 0)
-            ::close(m_descriptor);
-    }
-
-    [[nodiscard]] int get() const { return m_descriptor; }
-
-private:
-    int m_descriptor;
-};
 
 FileError errorFor(int systemError)
 {
@@ -117,8 +99,7 @@ qint64 availableMemory()
     constexpr qint64 unknown = INT64_MAX;
     const OwnedDescriptor descriptor(openForReading("/proc/meminfo"));
     char text[4096];
-    const ssize_t length =
-        descriptor.get() < 0 ? -1 : readPiece(descriptor.get(), text, sizeof text, Waiting::Never);
+    const ssize_t length = !descriptor ? -1 : readPiece(descriptor.get(), text, sizeof text, Waiting::Never);
     if (length < 0)
         return unknown;
     const QByteArrayView label("MemAvailable:");
@@ -208,9 +189,9 @@ Contents contentsOfPath(const QByteArray &path, const FileLimits &limits)
     if (const std::optional<FileError> error = errorForKind(status.st_mode))
         return *error;
     const OwnedDescriptor descriptor(openForReading(path));
-    if (descriptor.get() < 0 && errno == EWOULDBLOCK)
+    if (!descriptor && errno == EWOULDBLOCK)
         return FileError{FileError::Cause::InUse};
-    if (descriptor.get() < 0 || ::fstat(descriptor.get(), &status) != 0)
+    if (!descriptor || ::fstat(descriptor.get(), &status) != 0)
         return errorFor(errno);
     // Asked again: another file may have come under that name.
     if (const std::optional<FileError> error = errorForKind(status.st_mode))

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/FileError.h"
 
-#include <cstring>
+#include "platform/system/SystemError.h"
 
 QString causeText(const FileError &error)
 {
@@ -31,8 +31,5 @@ QString causeText(const FileError &error)
     case FileError::Cause::ReadFailed:
         break;
     }
-    // Unlike strerror() never translated, as the other causes are not.
-    const char *description = ::strerrordesc_np(error.systemError);
-    return QStringLiteral("cannot be read (%1)")
-        .arg(description ? QString::fromLatin1(description) : QString::number(error.systemError));
+    return QStringLiteral("cannot be read (%1)").arg(systemErrorText(error.systemError));
 }

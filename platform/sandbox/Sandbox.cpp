@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sandbox/Sandbox.h"
 
-#include "platform/system/PrivateMemory.h"
+#include "platform/system/Processes.h"
 
 #include <QStringList>
 

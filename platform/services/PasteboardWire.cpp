@@ -9,8 +9,8 @@ namespace {
 
 std::optional<QByteArray> bytesInMemoryFile(const QDBusUnixFileDescriptor &file)
 {
-    const SealedMemory::MadeMemory memory = SealedMemory::received(file.fileDescriptor());
-    if (!memory || static_cast<quint64>(memory.value().size()) > PasteboardWire::largestPasteboard)
+    const SealedMemory::MemoryResult memory = SealedMemory::receive(file.fileDescriptor());
+    if (!memory || static_cast<quint64>(memory.value().size()) > PasteboardWire::maxPasteboardSize)
         return std::nullopt;
     return memory.value().bytes().toByteArray();
 }
@@ -26,9 +26,9 @@ std::optional<QByteArray> bytesOf(const QVariant &value)
 
 QVariant valueFor(const QByteArray &bytes)
 {
-    if (bytes.size() <= PasteboardWire::longestInMessage)
+    if (bytes.size() <= PasteboardWire::maxInlineSize)
         return bytes;
-    const SealedMemory::MadeMemory memory = SealedMemory::copyOf(bytes);
+    const SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
     return memory ? QVariant::fromValue(QDBusUnixFileDescriptor(memory.value().descriptor())) : QVariant();
 }
 
@@ -46,7 +46,7 @@ QVariantMap PasteboardWire::toMessage(const Pasteboard &pasteboard)
 
 std::optional<Pasteboard> PasteboardWire::fromMessage(const QVariantMap &map)
 {
-    if (map.size() > mostForms)
+    if (map.size() > maxForms)
         return std::nullopt;
     Pasteboard::Forms forms;
     quint64 total = 0;
@@ -55,7 +55,7 @@ std::optional<Pasteboard> PasteboardWire::fromMessage(const QVariantMap &map)
         if (!bytes)
             return std::nullopt;
         total += static_cast<quint64>(bytes->size());
-        if (total > largestPasteboard)
+        if (total > maxPasteboardSize)
             return std::nullopt;
         forms.emplace(entry.key(), *std::move(bytes));
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The form of a pasteboard in a message on the bus: a{sv}, from MIME type to the bytes of that form, as "ay",
-// or as "h", a memory file that is sealed and holds just them. Thread: any.
+// PasteboardWire is the form of a pasteboard in a message on the bus: a{sv}, from MIME type to the bytes of
+// that form, either as "ay" or as "h", a sealed memory file with exactly these bytes. Thread: any.
 #pragma once
 
 #include "platform/pasteboard/Pasteboard.h"
@@ -11,16 +11,16 @@
 
 namespace PasteboardWire {
 
-/// Longer forms travel as memory files.
-constexpr qsizetype longestInMessage = 64 << 10;
-constexpr qsizetype mostForms = 64;
+/// Bytes; larger forms travel as memory files.
+constexpr qsizetype maxInlineSize = 64 << 10;
+constexpr qsizetype maxForms = 64;
 /// Bytes of all forms together.
-constexpr quint64 largestPasteboard = (1ULL << 31) - 1;
+constexpr quint64 maxPasteboardSize = (1ULL << 31) - 1;
 
-/// Forms for which there is no memory are left out.
+/// Leaves out forms for which there is not enough memory.
 QVariantMap toMessage(const Pasteboard &pasteboard);
-/// Absent where the map has more forms or bytes than the above, or a value of another type, or a memory file
-/// that its sender can still change.
+/// Absent if the map exceeds these limits, or has a value of another type or a memory file that its sender
+/// can still change.
 std::optional<Pasteboard> fromMessage(const QVariantMap &map);
 
 } // namespace PasteboardWire

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the services of the program are named on the session bus, as docs/dbus/ describes them.
+// ServiceInterface has the names of the program's services on the session bus, as docs/dbus/ describes them.
 // Thread: any.
 #pragma once
 
@@ -22,15 +22,15 @@ inline QString interfaceName()
     return QStringLiteral("com.quillbay.ServiceProvider");
 }
 
-/// The error whose message is what a service says has failed, word for word.
+/// The D-Bus error of a service that failed; its message is the service's, word for word.
 inline QString failureName()
 {
     return QStringLiteral("com.quillbay.ServiceProvider.Error.Failed");
 }
 
-// Options of a request.
-/// string: the token by which the window that opens may take the focus (XDG activation, startup
-/// notification).
+// Options of a message.
+
+/// string: the token that lets the new window take the focus (XDG activation, startup notification).
 inline QString activationTokenOption()
 {
     return QStringLiteral("activation-token");

@@ -10,14 +10,14 @@
 #include <utility>
 
 ServiceMessageReceiver::ServiceMessageReceiver(ServicesProvider &provider,
-    ServicesRegistration::RequestBegins begins, ServicesRegistration::RequestEnds ends,
+    ServicesRegistration::MessageBegins begins, ServicesRegistration::MessageEnds ends,
     ServicesRegistration::BusIsLost busIsLost)
     : m_provider(provider)
     , m_begins(std::move(begins))
     , m_ends(std::move(ends))
     , m_busIsLost(std::move(busIsLost))
 {
-    // Until then the bus's library does not know the type by its name.
+    // Without it Qt D-Bus does not know the type by its name.
     qRegisterMetaType<QDBusUnixFileDescriptor>("QDBusUnixFileDescriptor");
 }
 
@@ -37,7 +37,7 @@ void ServiceMessageReceiver::handOver(
     Service service, const QVariantMap &pasteboard, const QString &userData, const QVariantMap &options)
 {
     m_begins(options.value(ServiceInterface::activationTokenOption()).toString().toUtf8());
-    // A pasteboard that cannot be had is an empty one: the service says what is missing.
+    // An invalid pasteboard is handed over as an empty one: the service then reports what is missing.
     QString error;
     (m_provider.*service)(PasteboardWire::fromMessage(pasteboard).value_or(Pasteboard()), userData, &error);
     if (!error.isEmpty() && calledFromDBus())

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// ServiceMessageReceiver is the provider as the bus sees it: the interface of
-// docs/dbus/com.quillbay.ServiceProvider.xml.
-// Thread: main.  Owner: ServicesRegistration. Used inside this folder only.
+// ServiceMessageReceiver is the provider's object on the bus, with the interface of
+// docs/dbus/com.quillbay.ServiceProvider.xml. Used inside this folder only.
+// Thread: main.  Owner: ServicesRegistration.
 #pragma once
 
 #include "platform/services/ServicesRegistration.h"
@@ -16,8 +16,8 @@ class ServiceMessageReceiver : public QObject, protected QDBusContext {
     Q_CLASSINFO("D-Bus Interface", "com.quillbay.ServiceProvider")
 
 public:
-    ServiceMessageReceiver(ServicesProvider &provider, ServicesRegistration::RequestBegins begins,
-        ServicesRegistration::RequestEnds ends, ServicesRegistration::BusIsLost busIsLost);
+    ServiceMessageReceiver(ServicesProvider &provider, ServicesRegistration::MessageBegins begins,
+        ServicesRegistration::MessageEnds ends, ServicesRegistration::BusIsLost busIsLost);
 
 public Q_SLOTS:
     Q_SCRIPTABLE void wordCountSelectedTextService(
@@ -32,7 +32,7 @@ private:
         Service service, const QVariantMap &pasteboard, const QString &userData, const QVariantMap &options);
 
     ServicesProvider &m_provider;
-    ServicesRegistration::RequestBegins m_begins;
-    ServicesRegistration::RequestEnds m_ends;
+    ServicesRegistration::MessageBegins m_begins;
+    ServicesRegistration::MessageEnds m_ends;
     ServicesRegistration::BusIsLost m_busIsLost;
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// ServicesProvider is who does what the user asks for in the menu of services; ServicesRegistration brings
-// him the messages. Thread: main.
+// ServicesProvider does what the user chooses in the services menu; ServicesRegistration delivers the
+// messages. Thread: main.
 #pragma once
 
 #include "platform/pasteboard/Pasteboard.h"
@@ -11,7 +11,7 @@ class ServicesProvider {
 public:
     virtual ~ServicesProvider() = default;
 
-    // userData: ignored by all. error: takes the message of a failure; may be null.
+    // userData: ignored. error: receives the message of a failure; may be null.
     virtual void wordCountSelectedTextService(
         const Pasteboard &pasteboard, const QString &userData, QString *error) = 0;
     virtual void watchTheTextFileService(

@@ -12,7 +12,7 @@
 #include <utility>
 
 ServicesRegistration::ServicesRegistration(
-    ServicesProvider &provider, RequestBegins begins, RequestEnds ends, BusIsLost busIsLost)
+    ServicesProvider &provider, MessageBegins begins, MessageEnds ends, BusIsLost busIsLost)
     : m_receiver(std::make_unique<ServiceMessageReceiver>(
         provider, std::move(begins), std::move(ends), std::move(busIsLost)))
 {
@@ -38,16 +38,16 @@ bool ServicesRegistration::start()
         && bus.registerService(ServiceInterface::busName());
     if (!isOnBus) {
         const QString cause = bus.lastError().message();
-        LogChannel::standard().error(u"The bus name {} cannot be acquired: {}",
+        LogChannel::standard().error(u"Cannot acquire bus name {}: {}",
             {publicly(ServiceInterface::busName()),
-                publicly(cause.isEmpty() ? QStringLiteral("another process has it") : cause)});
+                publicly(cause.isEmpty() ? QStringLiteral("another process owns it") : cause)});
     }
     return isOnBus;
 }
 
 void ServicesRegistration::giveNameAway()
 {
-    // Behind the bus's answer to this comes no message any more, and all before it are in our queue.
+    // After its answer the bus sends no more messages; those sent before are in the event queue.
     QDBusConnection::sessionBus().unregisterService(ServiceInterface::busName());
     QCoreApplication::sendPostedEvents();
 }

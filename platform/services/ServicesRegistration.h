@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// ServicesRegistration brings the service messages of the session bus to the provider. Which services there
-// are, ServiceInterface.h and docs/dbus say. Thread: main.  Owner: the provider's program; refers to the
-// provider, who outlives it.
+// ServicesRegistration delivers the service messages of the session bus to the provider. ServiceInterface.h
+// and docs/dbus/ describe the services. Thread: main.  Owner: the provider's program; the provider must
+// outlive it.
 #pragma once
 
 #include "platform/services/ServicesProvider.h"
@@ -15,26 +15,25 @@ class ServiceMessageReceiver;
 
 class ServicesRegistration {
 public:
-    /// Runs before a message is handed over, with the activation token of the request, which may be empty.
-    using RequestBegins = std::function<void(const QByteArray &activationToken)>;
-    /// Runs behind each message, done or refused.
-    using RequestEnds = std::function<void()>;
-
-    /// Runs when the bus goes away.
+    /// Runs before a message is delivered, with its activation token, which may be empty.
+    using MessageBegins = std::function<void(const QByteArray &activationToken)>;
+    /// Runs after each message, done or refused.
+    using MessageEnds = std::function<void()>;
+    /// Runs when the bus is lost.
     using BusIsLost = std::function<void()>;
 
     ServicesRegistration(
-        ServicesProvider &provider, RequestBegins begins, RequestEnds ends, BusIsLost busIsLost);
+        ServicesProvider &provider, MessageBegins begins, MessageEnds ends, BusIsLost busIsLost);
     ServicesRegistration(const ServicesRegistration &) = delete;
     ServicesRegistration &operator=(const ServicesRegistration &) = delete;
     ~ServicesRegistration();
 
-    /// From now on messages come, from the event loop. False, with a line in the log, where there is no bus
-    /// or the name is somebody else's.
+    /// From now on messages are delivered, by the event loop. False, with a line in the log, if there is no
+    /// bus or another process owns the name.
     [[nodiscard]] bool start();
 
-    /// Gives the name away. When this returns, every message that the bus has let through has been handed
-    /// over; later ones go to the next owner of the name. start() takes it back.
+    /// Releases the bus name. When this returns, every message that the bus has sent is delivered; later ones
+    /// go to the next owner of the name. start() acquires it again.
     void giveNameAway();
 
 private:

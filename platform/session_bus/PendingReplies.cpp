@@ -3,9 +3,9 @@
 
 #include <utility>
 
-// Handlers are called and destroyed without the mutex: what they hold may come back to this object.
+// Handlers are called and destroyed without the mutex: what they own may call this object.
 
-PendingReplies::Identifier PendingReplies::add(ServiceReplyHandler handler)
+PendingReplies::Identifier PendingReplies::add(RemoteReplyHandler handler)
 {
     const std::lock_guard guard(m_mutex);
     const Identifier identifier = ++m_lastIdentifier;
@@ -14,7 +14,7 @@ PendingReplies::Identifier PendingReplies::add(ServiceReplyHandler handler)
     return identifier;
 }
 
-void PendingReplies::deliver(Identifier identifier, const ServiceReply &reply)
+void PendingReplies::deliver(Identifier identifier, const RemoteReply &reply)
 {
     Handlers::node_type pending;
     {
@@ -25,7 +25,7 @@ void PendingReplies::deliver(Identifier identifier, const ServiceReply &reply)
         m_deliveringThread = std::this_thread::get_id();
     }
     pending.mapped()(reply);
-    pending = {}; // within what close() waits for
+    pending = {}; // close() waits for this too
     {
         const std::lock_guard guard(m_mutex);
         m_deliveringThread = {};

@@ -7,82 +7,73 @@
 #include <QDBusError>
 #include <QDBusMessage>
 
-#include <atomic>
-#include <mutex>
-
 namespace {
 
 constexpr int timeout = 2000; // milliseconds
 constexpr int silentBusTimeout = 20;
 
-const QString &connectionName()
+QString nextName()
 {
-    static const QString name = QStringLiteral("com.quillbay.notifications");
-    return name;
+    static std::atomic<quint64> count = 0;
+    return QStringLiteral("com.quillbay.connection.%1").arg(++count);
 }
 
-// libdbus keeps the address that it finds first for as long as the process lives, even one at which nobody
-// answered, so the address is read here at every attempt.
-QDBusConnection newConnection()
+// libdbus remembers the first address for the life of the process, even if nobody answered there. This reads
+// the address at every attempt.
+QDBusConnection connectToBus(const QString &name)
 {
     const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
-    return address.isEmpty() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName())
-                             : QDBusConnection::connectToBus(address, connectionName());
+    return address.isEmpty() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, name)
+                             : QDBusConnection::connectToBus(address, name);
 }
 
 } // namespace
 
-QString SessionBusConnection::path()
+SessionBusConnection::SessionBusConnection()
+    : m_name(nextName())
 {
-    return QStringLiteral("/com/quillbay/DistributedNotificationCenter");
 }
 
-QString SessionBusConnection::interface()
+SessionBusConnection::~SessionBusConnection()
 {
-    return QStringLiteral("com.quillbay.DistributedNotificationCenter");
+    QDBusConnection::disconnectFromBus(m_name);
 }
 
-QDBusConnection SessionBusConnection::current()
+SessionBusConnection &SessionBusConnection::shared()
 {
-    return QDBusConnection(connectionName());
+    // Never destroyed: observers may outlive any static object.
+    static auto *const connection = new SessionBusConnection;
+    return *connection;
 }
 
-std::optional<QDBusConnection> SessionBusConnection::connected()
+Result<QDBusConnection, QString> SessionBusConnection::connect()
 {
-    static std::mutex mutex;
-    static bool isLogged = false;
-    const std::lock_guard guard(mutex);
-    QString reason = QStringLiteral("there is no application object");
-    if (QCoreApplication::instance()) {
-        if (QDBusConnection connection = current(); connection.isConnected())
-            return connection;
-        QDBusConnection::disconnectFromBus(connectionName()); // a lost one keeps its name otherwise
-        const QDBusConnection connection = newConnection();
-        if (connection.isConnected()) {
-            isLogged = false;
-            return connection;
-        }
-        reason = connection.lastError().message();
-        QDBusConnection::disconnectFromBus(connectionName());
-    }
-    if (!std::exchange(isLogged, true))
-        LogChannel::standard().error(
-            u"No session bus, so notifications reach nobody: {}", {publicly(reason)});
-    return std::nullopt;
+    if (!QCoreApplication::instance())
+        return QStringLiteral("there is no application object");
+    const std::lock_guard guard(m_mutex);
+    if (QDBusConnection connection = current(); connection.isConnected())
+        return connection;
+    QDBusConnection::disconnectFromBus(m_name); // otherwise the lost connection keeps the name
+    const QDBusConnection connection = connectToBus(m_name);
+    if (connection.isConnected())
+        return connection;
+    const QString reason = connection.lastError().message();
+    QDBusConnection::disconnectFromBus(m_name);
+    return reason;
 }
 
-void SessionBusConnection::settle(QDBusConnection &connection)
+void SessionBusConnection::settle()
 {
-    static std::atomic<bool> isSilent = false;
-    // Qt sends from a thread of its own, so that a process that ends at once would take its last signals with
-    // it. The bus handles the messages of one connection in their order: its answer to this one says that it
-    // has handled those before.
+    // Qt sends from a thread of its own, so a process that exits at once would lose its last messages. The
+    // bus handles the messages of one connection in order: its answer shows that it has received those
+    // before.
     const QDBusMessage ping = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus.Peer"),
         QStringLiteral("Ping"));
-    const QDBusMessage reply = connection.call(ping, QDBus::Block, isSilent ? silentBusTimeout : timeout);
+    const QDBusConnection connection = current();
+    const QDBusMessage reply = connection.call(ping, QDBus::Block, m_isSilent ? silentBusTimeout : timeout);
     const bool timedOut = reply.type() == QDBusMessage::ErrorMessage && connection.isConnected();
-    if (timedOut && !isSilent)
+    if (timedOut && !m_isSilent)
         LogChannel::standard().error(u"The session bus does not answer");
-    isSilent = timedOut;
+    m_isSilent = timedOut;
 }

@@ -1,31 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "platform/session_bus/UserNotification.h"
 
-#include <QDBusConnection>
+#include "platform/session_bus/SessionBusConnection.h"
+
 #include <QDBusMessage>
 #include <QVariantMap>
 
 namespace {
 
 constexpr int notificationTimeout = 2'000; // milliseconds
-constexpr int expiryOfServer = -1;
+constexpr int defaultExpiry = -1; // the server decides
 
 } // namespace
 
 bool showUserNotification(const QString &summary, const QString &body)
 {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
+    const Result<QDBusConnection, QString> bus = SessionBusConnection::shared().connect();
+    if (!bus)
         return false;
     QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.Notifications"),
         QStringLiteral("/org/freedesktop/Notifications"), QStringLiteral("org.freedesktop.Notifications"),
         QStringLiteral("Notify"));
     const uint replacesNothing = 0;
     const QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("com.quillbay.Quillbay")}};
-    // The body may hold markup; what stands in it is to be read as it is.
+    // Servers may interpret markup in the body.
     call.setArguments({QStringLiteral("Quillbay"), replacesNothing, QStringLiteral("com.quillbay.Quillbay"),
-        summary, body.toHtmlEscaped(), QStringList(), hints, expiryOfServer});
-    // The bus drops a call to a server that it first has to start when the caller leaves: wait for the
-    // answer.
-    return bus.call(call, QDBus::Block, notificationTimeout).type() == QDBusMessage::ReplyMessage;
+        summary, body.toHtmlEscaped(), QStringList(), hints, defaultExpiry});
+    // If the bus has to start the server first, it drops the call of a caller that disconnects meanwhile, so
+    // wait for the answer.
+    return bus.value().call(call, QDBus::Block, notificationTimeout).type() == QDBusMessage::ReplyMessage;
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Shows the user a short notice in the way of his desktop (org.freedesktop.Notifications).
-// Thread: main.
+// UserNotification shows the user a short notice through their desktop (org.freedesktop.Notifications).
+// Thread: any.
 #pragma once
 
 #include <QString>
 
-/// summary: one line; body: plain text. False where no notification server takes it: there is no bus, no
+/// summary: one line; body: plain text. False if no notification server accepts it: there is no bus, no
 /// server, or it does not answer within two seconds.
 bool showUserNotification(const QString &summary, const QString &body);

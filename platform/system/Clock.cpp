@@ -10,7 +10,7 @@ class EventLoopTimer final : public ClockTimer {
 public:
     explicit EventLoopTimer(std::function<void()> whenDue)
     {
-        // Of the precise kind: the coarse one is off by a tenth, and a quiet of 150 ms would be cut short.
+        // Coarse timers may fire 5 % early, which would cut a quiet period of 150 ms short.
         m_timer.setTimerType(Qt::PreciseTimer);
         m_timer.callOnTimeout(std::move(whenDue));
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Clock is the time that passes and the work put off until later, as a seam: tests have a clock of their own.
+// Clock gives the time and runs work later. It is a seam: tests have a clock of their own.
 // Thread: main.  Owner: the process for systemClock(); a test for its own.
 #pragma once
 
@@ -7,8 +7,7 @@
 #include <functional>
 #include <memory>
 
-/// Calls its function once its time has come, never from inside start() or repeat(); at the end of its life
-/// it is stopped.
+/// Calls its function when it is due, never from inside start() or repeat(). Destroying it stops it.
 class ClockTimer {
 public:
     ClockTimer() = default;
@@ -16,7 +15,8 @@ public:
     ClockTimer &operator=(const ClockTimer &) = delete;
     virtual ~ClockTimer() = default;
 
-    // Each replaces what was started before.
+    // Both replace what was started before.
+
     virtual void start(std::chrono::milliseconds delay) = 0;
     virtual void repeat(std::chrono::milliseconds interval) = 0;
     virtual void stop() = 0;
@@ -24,7 +24,7 @@ public:
 
 class Clock {
 public:
-    /// Since a moment of the clock's own choice; never goes back.
+    /// Since an arbitrary moment; never goes back.
     using Time = std::chrono::milliseconds;
 
     Clock() = default;
@@ -34,10 +34,10 @@ public:
 
     [[nodiscard]] virtual Time now() const = 0;
     [[nodiscard]] virtual std::unique_ptr<ClockTimer> makeTimer(std::function<void()> whenDue) = 0;
-    /// Returns after this time; the events of the main thread are served meanwhile, so anything may have
-    /// happened when it returns.
+    /// Waits, and runs the event loop of the main thread meanwhile, so anything may have changed when it
+    /// returns.
     virtual void pause(std::chrono::milliseconds duration) = 0;
 };
 
-/// The event loop's.
+/// The clock of the event loop.
 Clock &systemClock();

@@ -19,8 +19,8 @@ struct DispatchQueue::Work {
 DispatchQueue::DispatchQueue(const QString &label)
     : m_work(std::make_shared<Work>())
 {
-    constexpr qsizetype longestName = 15; // pthread_setname_np(3)
-    m_work->threadName = label.toUtf8().left(longestName);
+    constexpr qsizetype maxNameLength = 15; // bytes; see pthread_setname_np(3)
+    m_work->threadName = label.toUtf8().left(maxNameLength);
 }
 
 void DispatchQueue::async(std::function<void()> block)
@@ -32,19 +32,19 @@ void DispatchQueue::async(std::function<void()> block)
             return;
     }
     try {
-        std::thread(run, m_work).detach();
+        std::thread(runOnThread, m_work).detach();
     } catch (const std::system_error &) {
-        drain(*m_work); // the system has no thread left: late is better than never
+        runBlocks(*m_work); // no thread is available
     }
 }
 
-void DispatchQueue::run(const std::shared_ptr<Work> &work)
+void DispatchQueue::runOnThread(const std::shared_ptr<Work> &work)
 {
     pthread_setname_np(pthread_self(), work->threadName.constData());
-    drain(*work);
+    runBlocks(*work);
 }
 
-void DispatchQueue::drain(Work &work)
+void DispatchQueue::runBlocks(Work &work)
 {
     std::unique_lock lock(work.mutex);
     while (!work.blocks.empty()) {

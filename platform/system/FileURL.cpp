@@ -27,7 +27,7 @@ QUrl fileURLOfPath(const QByteArray &path)
 {
     if (path.isEmpty())
         return {};
-    // QUrl tells these from their codes, and leaves them as they are where it makes URLs itself.
+    // QUrl does not encode these in the URLs that it makes, and treats encoded ones as different.
     constexpr const char *plain = "/!$&'()*+,;=:@[]";
     return QUrl::fromEncoded("file://" + path.toPercentEncoding(plain));
 }

@@ -10,7 +10,7 @@
 
 namespace {
 
-// An event owns its block alone, so that nothing of it is left on the thread that sent it.
+// The event is the only owner of its block, so no copy remains on the sending thread.
 class BlockEvent : public QEvent {
 public:
     explicit BlockEvent(std::function<void()> block)
@@ -36,11 +36,11 @@ protected:
 };
 
 std::mutex mutex;
-std::unique_ptr<Receiver> receiver; // on the main thread; none after the application
+std::unique_ptr<Receiver> receiver; // lives on the main thread; null after the application
 
 void removeReceiver()
 {
-    std::unique_ptr<Receiver> removed; // outlives the guard: what its blocks hold may come back here
+    std::unique_ptr<Receiver> removed; // outlives the guard: destroyed blocks may call this queue
     const std::lock_guard guard(mutex);
     removed = std::move(receiver);
 }

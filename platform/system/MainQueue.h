@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// MainQueue runs blocks on the main thread, one after the other, from its event loop.
+// MainQueue runs blocks on the main thread, one after another, from its event loop.
 // Thread: any.  Owner: the process.
 #pragma once
 
@@ -9,18 +9,17 @@
 
 class MainQueue {
 public:
-    /// Returns at once, on the main thread too. Blocks run, and end their lives, on the main thread in the
-    /// order in which they came. Those that come after the QCoreApplication, or that it leaves behind, are
-    /// let go unrun.
+    /// Returns at once, on the main thread too. Blocks run, and are destroyed, on the main thread in the
+    /// order of their submission. Blocks submitted after the end of the QCoreApplication, or still waiting at
+    /// its end, are destroyed without running.
     static void async(std::function<void()> block);
 
-    /// Whether the caller is on the main thread.
     static bool isCurrent();
 };
 
-/// A value that ends its life on the main thread, wherever the last reference to it is let go.
+/// Shares a value that is destroyed on the main thread, on whichever thread the last reference is dropped.
 template <typename Value>
-std::shared_ptr<Value> releasedOnMainThread(Value value)
+std::shared_ptr<Value> releaseOnMainThread(Value value)
 {
     return {new Value(std::move(value)), [](Value *released) {
                 if (MainQueue::isCurrent())

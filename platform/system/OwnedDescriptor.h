@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// OwnedDescriptor is a descriptor that is closed with its owner.
-// Thread: any; one at a time.
+// OwnedDescriptor owns a file descriptor and closes it when it is destroyed.
+// Thread: any, one at a time.
 #pragma once
 
 #include <utility>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Result holds what an operation made, or the named cause of why it made nothing.
+// Result holds the value of an operation, or the error that kept it from having one.
 // Thread: any; a value.
 #pragma once
 
 #include <utility>
 #include <variant>
 
-/// Value and Error must be different types. Asking for the side that is not there is a programming error
-/// and ends the process (std::get throws std::bad_variant_access, which nothing catches).
+/// Value and Error must be different types. Accessing the absent one is a programming error and ends the
+/// process: std::get throws std::bad_variant_access, which nothing catches.
 template <typename Value, typename Error>
 class [[nodiscard]] Result {
 public:

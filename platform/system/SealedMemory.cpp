@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/SealedMemory.h"
 
+#include "platform/system/SystemError.h"
+
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 #include <fcntl.h>
@@ -39,19 +40,19 @@ QString causeText(const SealedMemoryError &error)
     case Cause::NotSealed:
         return QStringLiteral("is not a memory file sealed against writing and shrinking");
     case Cause::LengthDiffers:
-        return QStringLiteral("is not as long as its sender said");
+        return QStringLiteral("does not have the length that its sender claims");
     case Cause::SystemError:
         break;
     }
-    return QString::fromLocal8Bit(std::strerror(error.systemError));
+    return systemErrorText(error.systemError);
 }
 
-SealedMemory::MadeMemory SealedMemory::copyOf(QByteArrayView bytes)
+SealedMemory::MemoryResult SealedMemory::copyOf(QByteArrayView bytes)
 {
-    return filledBy([bytes](int descriptor) { return writeAll(descriptor, bytes); });
+    return fillAndSeal([bytes](int descriptor) { return writeAll(descriptor, bytes); });
 }
 
-SealedMemory::MadeMemory SealedMemory::filledBy(const std::function<int(int descriptor)> &fill)
+SealedMemory::MemoryResult SealedMemory::fillAndSeal(const std::function<int(int descriptor)> &fill)
 {
     const int descriptor = memfd_create("quillbay-document", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     if (descriptor < 0)
@@ -64,10 +65,10 @@ SealedMemory::MadeMemory SealedMemory::filledBy(const std::function<int(int desc
         close(descriptor);
         return systemError(failure);
     }
-    return mapped(descriptor);
+    return map(descriptor);
 }
 
-SealedMemory::MadeMemory SealedMemory::received(int descriptor)
+SealedMemory::MemoryResult SealedMemory::receive(int descriptor)
 {
     const int seals = fcntl(descriptor, F_GET_SEALS);
     constexpr int wanted = F_SEAL_WRITE | F_SEAL_SHRINK;
@@ -76,18 +77,18 @@ SealedMemory::MadeMemory SealedMemory::received(int descriptor)
     const int copy = fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
     if (copy < 0)
         return systemError(errno);
-    return mapped(copy);
+    return map(copy);
 }
 
-SealedMemory::MadeMemory SealedMemory::received(int descriptor, quint64 length)
+SealedMemory::MemoryResult SealedMemory::receive(int descriptor, quint64 length)
 {
-    MadeMemory memory = received(descriptor);
+    MemoryResult memory = receive(descriptor);
     if (memory && static_cast<quint64>(memory.value().size()) != length)
         return SealedMemoryError{Cause::LengthDiffers};
     return memory;
 }
 
-SealedMemory::MadeMemory SealedMemory::mapped(int descriptor)
+SealedMemory::MemoryResult SealedMemory::map(int descriptor)
 {
     struct stat status = {};
     void *mapping = nullptr;

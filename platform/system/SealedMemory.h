@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// SealedMemory is a block of bytes in a memory file that nobody can change any more: the form in which
-// documents travel between processes, whatever their size. Thread: any; one at a time.  Owner: whoever holds
-// it; owns its descriptor and its mapping.
+// SealedMemory is an immutable block of bytes in a memory file: the form in which documents of any size
+// travel between processes. Thread: any, one at a time.  Owner: whoever holds it; it owns its descriptor and
+// its mapping.
 #pragma once
 
 #include "platform/system/Result.h"
@@ -11,16 +11,16 @@
 
 #include <functional>
 
-/// Why there is no block.
+/// Why there is no block of memory.
 struct SealedMemoryError {
     enum class Cause {
-        NotSealed, ///< the descriptor is no memory file, or one that its sender can still change
-        LengthDiffers, ///< the file is not as long as was said
-        SystemError, ///< systemError tells it
+        NotSealed, ///< not a memory file, or one that its sender can still change
+        LengthDiffers, ///< the file does not have the length that its sender claims
+        SystemError, ///< see systemError
     };
 
     Cause cause;
-    int systemError = 0; ///< errno of a SystemError, otherwise 0
+    int systemError = 0; ///< errno for SystemError, otherwise 0
 
     bool operator==(const SealedMemoryError &) const = default;
 };
@@ -30,31 +30,31 @@ QString causeText(const SealedMemoryError &error);
 
 class SealedMemory {
 public:
-    using MadeMemory = Result<SealedMemory, SealedMemoryError>;
+    using MemoryResult = Result<SealedMemory, SealedMemoryError>;
 
     /// A new memory file with a copy of the bytes, sealed against writing, growing and shrinking.
-    static MadeMemory copyOf(QByteArrayView bytes);
-    /// A new memory file, filled by the function through the open descriptor, and then sealed. The function
-    /// returns 0, or the errno of what failed.
-    static MadeMemory filledBy(const std::function<int(int descriptor)> &fill);
-    /// The block that another process sent; takes a descriptor of its own. Only a file that is sealed against
-    /// writing and shrinking is taken.
-    static MadeMemory received(int descriptor);
-    /// The same, only where it is exactly as long as said.
-    static MadeMemory received(int descriptor, quint64 length);
+    static MemoryResult copyOf(QByteArrayView bytes);
+    /// Makes a memory file, lets the function write to its descriptor, and seals it. The function returns 0
+    /// or an errno.
+    static MemoryResult fillAndSeal(const std::function<int(int descriptor)> &fill);
+    /// The block that another process sent; duplicates the descriptor. Accepts only a file that is sealed
+    /// against writing and shrinking.
+    static MemoryResult receive(int descriptor);
+    /// The same; the file must have exactly this length in bytes.
+    static MemoryResult receive(int descriptor, quint64 length);
 
     SealedMemory(SealedMemory &&other) noexcept;
     SealedMemory &operator=(SealedMemory &&other) noexcept;
     ~SealedMemory();
 
-    /// Lives as long as this object; stays where it is when the object is moved.
+    /// Valid as long as this object; moving the object keeps the address.
     [[nodiscard]] QByteArrayView bytes() const { return {static_cast<const char *>(m_mapping), m_size}; }
     [[nodiscard]] qsizetype size() const { return m_size; }
     [[nodiscard]] int descriptor() const { return m_descriptor; }
 
 private:
     SealedMemory(int descriptor, void *mapping, qsizetype size);
-    static MadeMemory mapped(int descriptor);
+    static MemoryResult map(int descriptor);
 
     int m_descriptor;
     void *m_mapping; ///< null for an empty block

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-// WeakDelegate refers to a delegate without owning it, and to nothing once the delegate's life is over.
+// WeakDelegate refers to a delegate without owning it, and becomes null when the delegate is destroyed.
 // Thread: that of the delegate.
 #pragma once
 
 #include <memory>
 
-/// Base of every delegate class: it makes the end of a delegate's life known.
+/// Base of every delegate class: lets a WeakDelegate know when the delegate is destroyed.
 class Delegate {
 public:
     Delegate() = default;
-    // A life is not copied with the rest of an object.
+    // A copy of an object has a lifetime of its own.
     Delegate(const Delegate &) { }
     Delegate &operator=(const Delegate &) { return *this; }
     virtual ~Delegate() = default;
@@ -34,7 +34,7 @@ public:
             m_life = delegate->m_life;
     }
 
-    /// Null where there is no delegate or its life is over.
+    /// Null if there is no delegate or it was destroyed.
     [[nodiscard]] T *get() const { return m_life.expired() ? nullptr : m_delegate; }
 
 private:

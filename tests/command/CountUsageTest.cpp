@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/command/CommandTest.h"
 
+#include <cerrno>
+#include <cstring>
+
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
@@ -52,6 +55,32 @@ TEST_F(CountUsageTest, NoWordControlsTheTerminal)
             EXPECT_FALSE(stream.contains("\xC2\x9B")) << stream.constData();
         }
         EXPECT_FALSE(outcome.output.isEmpty() && outcome.errors.isEmpty());
+    }
+}
+
+TEST_F(CountUsageTest, MessagesAreEnglishUnderAGermanLocale)
+{
+    // glibc's own words for these would be German.
+    setLocale("de_DE.UTF-8");
+    const bool isTranslated = std::strcmp(std::strerror(ENOENT), ::strerrordesc_np(ENOENT)) != 0;
+    SKIP_WITHOUT_PACKAGE(isTranslated, "locales, with de_DE.UTF-8");
+    const QByteArray missing = QFile::encodeName(world().root()) + "/missing";
+    const std::vector<std::pair<QByteArrayList, QByteArray>> cases{
+        {{"count", "--nonsense"},
+            "quillbay: cannot understand option '--nonsense'\nTry 'quillbay count --help' for more.\n"},
+        {{"count", "-x"}, "quillbay: cannot understand option '-x'\nTry 'quillbay count --help' for more.\n"},
+        {{"count", "--files-from"},
+            "quillbay: an argument is missing behind option '--files-from'\n"
+            "Try 'quillbay count --help' for more.\n"},
+        {{"text", "--nonsense"},
+            "quillbay: cannot understand option '--nonsense'\nTry 'quillbay text --help' for more.\n"},
+        {{"watch", missing}, "quillbay: " + missing + ": No such file or directory\n"},
+        {{"count", missing}, "quillbay: " + missing + ": no such file\n"},
+    };
+    for (const auto &[words, message] : cases) {
+        const ChildProcess::Outcome outcome = quillbay(words);
+        EXPECT_NE(outcome.exitStatus, 0);
+        EXPECT_EQ(outcome.errors, message);
     }
 }
 

@@ -154,7 +154,7 @@ TEST_F(CountTest, WhatCannotBeCountedHasZeros)
 
 TEST_F(CountTest, AnAbsentDocumentHasZeros)
 {
-    const SealedMemory::MadeMemory memory = SealedMemory::copyOf(flatRtfd(SampleTexts::english));
+    const SealedMemory::MemoryResult memory = SealedMemory::copyOf(flatRtfd(SampleTexts::english));
     const auto size = static_cast<quint64>(memory.value().size());
     EXPECT_EQ(count(message(rtfdRequest, memory.value().descriptor(), size, true)), zeros);
     EXPECT_NE(count(message(rtfdRequest, memory.value().descriptor(), size, false)), zeros);
@@ -166,7 +166,7 @@ TEST_F(CountTest, AWordDocumentIsCountedByItsText)
         WordPackage{
             .body = "<w:p><w:r><w:t>Two words.</w:t></w:r></w:p><w:p><w:r><w:t>Three.</w:t></w:r></w:p>"}
             .bytes();
-    const SealedMemory::MadeMemory memory = SealedMemory::copyOf(document);
+    const SealedMemory::MemoryResult memory = SealedMemory::copyOf(document);
     const auto size = static_cast<quint64>(document.size());
     const QBYWordCounterStats stats = count(message(docxRequest, memory.value().descriptor(), size));
     EXPECT_EQ(stats.numberOfWords, 3U);
@@ -181,7 +181,7 @@ TEST_F(CountTest, TheCountsOfAWordDocumentComeInTheOrderOfAReplyAndAreNotTheStor
             + "</w:p><w:p/><w:p>" + sentence + "</w:p><w:p/><w:p>" + sentence + "</w:p>",
         .figures = "<Words>7</Words><Characters>7</Characters><Lines>7</Lines><Paragraphs>7</Paragraphs>"};
     const QByteArray bytes = document.bytes();
-    const SealedMemory::MadeMemory memory = SealedMemory::copyOf(bytes);
+    const SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
     const auto size = static_cast<quint64>(bytes.size());
     const QBYWordCounterStats stats = count(message(docxRequest, memory.value().descriptor(), size));
     EXPECT_EQ(stats, countInProcess(readDocx(bytes).value(), QStringLiteral("en_US")));
@@ -197,7 +197,7 @@ TEST_F(CountTest, TheCountsOfAWordDocumentComeInTheOrderOfAReplyAndAreNotTheStor
 
 TEST_F(CountTest, WhatIsNoWordDocumentHasZerosAndIsCountedAgainNextTime)
 {
-    const SealedMemory::MadeMemory memory = SealedMemory::copyOf("PK and the rest");
+    const SealedMemory::MemoryResult memory = SealedMemory::copyOf("PK and the rest");
     EXPECT_EQ(count(message(docxRequest, memory.value().descriptor(), 15)), zeros);
     EXPECT_NE(count(message(flatRtfd(SampleTexts::english))), zeros);
 }
@@ -225,7 +225,7 @@ TEST_F(CountTest, ADocumentThatIsNotSealedOrOfAnotherLengthHasZeros)
 TEST_F(CountTest, AGigabyteTravels)
 {
     constexpr quint64 gigabyte = 1ULL << 30;
-    const SealedMemory::MadeMemory memory = SealedMemory::filledBy(
+    const SealedMemory::MemoryResult memory = SealedMemory::fillAndSeal(
         [](int descriptor) { return ::ftruncate(descriptor, gigabyte) == 0 ? 0 : errno; });
     ASSERT_TRUE(memory.hasValue());
     EXPECT_EQ(count(message(rtfdRequest, memory.value().descriptor(), gigabyte)), zeros);

@@ -120,7 +120,7 @@ void CountingServiceTest::writeServiceFile(const QString &command) const
 
 QDBusMessage CountingServiceTest::message(const QByteArray &payload, const QVariantMap &options) const
 {
-    const SealedMemory::MadeMemory memory = SealedMemory::copyOf(payload);
+    const SealedMemory::MemoryResult memory = SealedMemory::copyOf(payload);
     EXPECT_TRUE(memory.hasValue());
     return message(
         rtfdRequest, memory.value().descriptor(), static_cast<quint64>(payload.size()), false, options);

@@ -113,7 +113,7 @@ int main(int argumentCount, char **arguments)
         if (!request)
             return 0;
         ++requests;
-        const auto memory = SealedMemory::received(packet.value().descriptor.get(), request->length);
+        const auto memory = SealedMemory::receive(packet.value().descriptor.get(), request->length);
         obey(memory.value().bytes().toByteArray().split(' '), *request);
     }
 }

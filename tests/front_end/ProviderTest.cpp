@@ -53,7 +53,7 @@ QString ProviderTest::count(const QString &text)
 
 QString ProviderTest::ask(const QString &message, const Pasteboard &pasteboard, const QVariantMap &options)
 {
-    const std::optional<ServiceFailure> failure = sendServiceMessage(message, pasteboard, options);
+    const std::optional<ServiceMessageFailure> failure = sendServiceMessage(message, pasteboard, options);
     return failure ? causeText(*failure) : QString();
 }
 

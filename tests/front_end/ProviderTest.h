@@ -3,7 +3,7 @@
 // provider and the real counting service on a private bus, real windows on the private display. Thread: main.
 #pragma once
 
-#include "platform/services/ServiceRequestSender.h"
+#include "platform/services/ServiceMessageSender.h"
 #include "tests/counting_service/CountingServiceTest.h"
 #include "tests/harness/Display.h"
 #include "tests/harness/Screenshot.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Which change of a preference tells the other processes, and how often.
 #include "platform/session_bus/DistributedNotificationCenter.h"
-#include "platform/session_bus/NotificationObserver.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/CallingLogSink.h"
 #include "tests/harness/QuillbayTest.h"

@@ -3,7 +3,7 @@
 
 #include "platform/printing/BuiltInPapers.h"
 #include "platform/printing/CupsPrinterSource.h"
-#include "platform/session_bus/NotificationObserver.h"
+#include "platform/session_bus/DistributedNotificationCenter.h"
 #include "preferences/PreferenceTable.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/CallingLogSink.h"

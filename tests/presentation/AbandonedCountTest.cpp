@@ -110,13 +110,13 @@ TEST_F(AbandonedCountTest, AnAnswerThatIsOnItsWayToTheMainThreadIsDroppedByAStop
     CountingPanel panel;
     count(panel);
     service->waitForRequests(1);
-    ServiceConnection probe(WordCounterServiceProtocol::serviceName());
+    RemoteObjectConnection probe(WordCounterServiceProtocol::serviceName());
     probe.setRemoteObjectInterface(WordCounterServiceProtocol::interface());
     probe.resume();
     std::promise<void> answered;
     service->release();
     WordCounterServiceProtocol(probe.remoteObjectProxy())
-        .countWordsForDocX(nullptr, [&answered](const ServiceReply &) { answered.set_value(); });
+        .countWordsForDocX(nullptr, [&answered](const RemoteReply &) { answered.set_value(); });
     answered.get_future().wait(); // without the event loop: the answer to the panel has come before
     panel.controller->stopAsyncOperation();
     EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; }));

@@ -22,7 +22,7 @@ TEST(PasteboardWire, BringsEveryFormToTheOtherSide)
 {
     const Pasteboard sent(
         {{QStringLiteral("text/html"), "<p>"}, {type, QByteArray("\0x", 2)}, {QStringLiteral("a"), ""},
-            {QStringLiteral("b"), QByteArray(3 * PasteboardWire::longestInMessage, 'b')}});
+            {QStringLiteral("b"), QByteArray(3 * PasteboardWire::maxInlineSize, 'b')}});
     const std::optional<Pasteboard> received = PasteboardWire::fromMessage(PasteboardWire::toMessage(sent));
     ASSERT_TRUE(received);
     EXPECT_EQ(received->forms(), sent.forms());
@@ -35,8 +35,8 @@ TEST(PasteboardWire, SendsLongFormsAsMemoryFiles)
             .value(type)
             .metaType();
     };
-    EXPECT_EQ(typeOf(PasteboardWire::longestInMessage), QMetaType::fromType<QByteArray>());
-    EXPECT_EQ(typeOf(PasteboardWire::longestInMessage + 1), QMetaType::fromType<QDBusUnixFileDescriptor>());
+    EXPECT_EQ(typeOf(PasteboardWire::maxInlineSize), QMetaType::fromType<QByteArray>());
+    EXPECT_EQ(typeOf(PasteboardWire::maxInlineSize + 1), QMetaType::fromType<QDBusUnixFileDescriptor>());
 }
 
 TEST(PasteboardWire, RefusesMemoryThatItsSenderCanStillChange)
@@ -57,7 +57,7 @@ TEST(PasteboardWire, RefusesValuesOfAnotherType)
 TEST(PasteboardWire, RefusesMoreFormsThanAnyProgramOffers)
 {
     QVariantMap map;
-    for (qsizetype i = 0; i < PasteboardWire::mostForms; ++i)
+    for (qsizetype i = 0; i < PasteboardWire::maxForms; ++i)
         map.insert(QString::number(i), QByteArray());
     EXPECT_TRUE(PasteboardWire::fromMessage(map));
     map.insert(type, QByteArray());

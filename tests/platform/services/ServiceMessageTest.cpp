@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/services/ServiceInterface.h"
-#include "platform/services/ServiceRequestSender.h"
+#include "platform/services/ServiceMessageSender.h"
 #include "platform/services/ServicesRegistration.h"
 #include "tests/harness/QuillbayTest.h"
 
@@ -38,10 +38,10 @@ protected:
     ~ServiceMessage() override { registration->giveNameAway(); }
 
     /// Sends from another thread, as another process does: the provider must be free to answer.
-    std::optional<ServiceFailure> send(
+    std::optional<ServiceMessageFailure> send(
         const QString &message, const Pasteboard &pasteboard, const QVariantMap &options = {})
     {
-        std::optional<ServiceFailure> failure;
+        std::optional<ServiceMessageFailure> failure;
         const std::unique_ptr<QThread> sender(
             QThread::create([&] { failure = sendServiceMessage(message, pasteboard, options); }));
         sender->start();
@@ -73,9 +73,9 @@ TEST_F(ServiceMessage, ReachesTheProviderUnderItsName)
 TEST_F(ServiceMessage, BringsWhatTheProviderSaysOfAFailureWordForWord)
 {
     provider.answer = QStringLiteral("That cannot be – \"done\".");
-    const std::optional<ServiceFailure> failure = send(countMessage, pasteboard);
+    const std::optional<ServiceMessageFailure> failure = send(countMessage, pasteboard);
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->cause, ServiceFailure::Cause::Refused);
+    EXPECT_EQ(failure->cause, ServiceMessageFailure::Cause::Refused);
     EXPECT_EQ(failure->text, provider.answer);
     EXPECT_EQ(causeText(*failure), provider.answer);
 }
@@ -100,9 +100,9 @@ TEST_F(ServiceMessage, OfTenMegabytesArrivesWhole)
 TEST_F(ServiceMessage, FindsNobodyWhenTheNameHasBeenGivenAway)
 {
     registration->giveNameAway();
-    const std::optional<ServiceFailure> failure = send(countMessage, pasteboard);
+    const std::optional<ServiceMessageFailure> failure = send(countMessage, pasteboard);
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->cause, ServiceFailure::Cause::NoProvider);
+    EXPECT_EQ(failure->cause, ServiceMessageFailure::Cause::NoProvider);
     EXPECT_TRUE(registration->start());
     EXPECT_FALSE(send(countMessage, pasteboard));
 }

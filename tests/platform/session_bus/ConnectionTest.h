@@ -2,7 +2,7 @@
 // What the tests of connections share: a service's name and interface, requests, and the log.
 #pragma once
 
-#include "platform/session_bus/ServiceConnection.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/session_bus/RecordedReplies.h"
 #include "tests/platform/session_bus/ServiceStandIn.h"
@@ -10,20 +10,20 @@
 #include <QDir>
 
 inline const QString standInName = QStringLiteral("com.quillbay.test.Service");
-inline const ServiceReply counts = {1, 2, 3, 4, 5, 6, 7, 8};
+inline const RemoteReply counts = {1, 2, 3, 4, 5, 6, 7, 8};
 
 class ConnectionTest : public QuillbayTest {
 protected:
-    static std::unique_ptr<ServiceConnection> resumedConnection()
+    static std::unique_ptr<RemoteObjectConnection> resumedConnection()
     {
-        auto connection = std::make_unique<ServiceConnection>(standInName);
+        auto connection = std::make_unique<RemoteObjectConnection>(standInName);
         connection->setRemoteObjectInterface(
             {QStringLiteral("/com/quillbay/test"), QStringLiteral("com.quillbay.test.Counting")});
         connection->resume();
         return connection;
     }
 
-    static ServiceRequest request(const QByteArray &payload = "text")
+    static RemoteRequest request(const QByteArray &payload = "text")
     {
         auto memory = SealedMemory::copyOf(payload);
         EXPECT_TRUE(memory);
@@ -32,7 +32,7 @@ protected:
             .options = {}};
     }
 
-    void send(const ServiceConnection &connection, const QByteArray &payload = "text")
+    void send(const RemoteObjectConnection &connection, const QByteArray &payload = "text")
     {
         connection.remoteObjectProxy().send(request(payload), m_replies.handler());
     }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/session_bus/DistributedNotificationCenter.h"
 
-#include "platform/session_bus/NotificationObserver.h"
 #include "tests/harness/QuillbayTest.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The end of a connection, and what is on its way then.
-#include "platform/session_bus/ServiceConnection.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 
 #include "tests/platform/session_bus/ConnectionTest.h"
 
@@ -26,7 +26,7 @@ TEST_F(InvalidationTest, AnswersThatComeAfterwardsAreDeliveredToNobody)
     const auto next = resumedConnection();
     send(*next);
     m_replies.waitFor(1); // on the same thread, behind what would have come before
-    EXPECT_EQ(m_replies.replies().front(), (ServiceReply{8, 7, 6, 5, 4, 3, 2, 1}));
+    EXPECT_EQ(m_replies.replies().front(), (RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}));
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
@@ -64,7 +64,7 @@ TEST_F(InvalidationTest, AHandlerThatIsNotCalledEndsItsLifeInTheCall)
     const auto connection = resumedConnection();
     auto held = std::make_shared<int>();
     const std::weak_ptr<int> watched = held;
-    connection->remoteObjectProxy().send(request(), [held](const ServiceReply &) {});
+    connection->remoteObjectProxy().send(request(), [held](const RemoteReply &) {});
     held.reset();
     service.waitForRequests(1);
     EXPECT_FALSE(watched.expired());
@@ -77,7 +77,7 @@ TEST_F(InvalidationTest, AHandlerMayInvalidateAndDestroyItsConnection)
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     auto connection = resumedConnection();
     std::promise<void> destroyed;
-    connection->remoteObjectProxy().send(request(), [&](const ServiceReply &) {
+    connection->remoteObjectProxy().send(request(), [&](const RemoteReply &) {
         connection->invalidate();
         connection.reset();
         destroyed.set_value();
@@ -92,7 +92,7 @@ TEST_F(InvalidationTest, AHandlerThatIsRunningIsWaitedFor)
     std::promise<void> entered;
     std::atomic<bool> mayReturn = false;
     std::atomic<bool> hasReturned = false;
-    connection->remoteObjectProxy().send(request(), [&](const ServiceReply &) {
+    connection->remoteObjectProxy().send(request(), [&](const RemoteReply &) {
         entered.set_value();
         mayReturn.wait(false);
         hasReturned = true;
@@ -121,7 +121,7 @@ TEST_F(InvalidationTest, NothingIsDeliveredOnceTheCallHasReturned)
         const auto race = std::make_shared<Race>();
         const auto connection = resumedConnection();
         for (int i = 0; i < requests; ++i) {
-            connection->remoteObjectProxy().send(request(), [race](const ServiceReply &) {
+            connection->remoteObjectProxy().send(request(), [race](const RemoteReply &) {
                 std::atomic<int> &count = race->isOver ? race->late : race->timely;
                 ++count;
                 count.notify_one();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Sessions without a bus, with one that goes away, and with one that hangs.
-#include "platform/session_bus/ServiceConnection.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 
 #include "tests/harness/PrivateBus.h"
 #include "tests/platform/session_bus/ConnectionTest.h"

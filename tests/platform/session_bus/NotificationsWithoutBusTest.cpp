@@ -3,7 +3,6 @@
 // connection to the bus belongs to the process.
 #include "platform/session_bus/DistributedNotificationCenter.h"
 
-#include "platform/session_bus/NotificationObserver.h"
 #include "tests/harness/PrivateBus.h"
 #include "tests/harness/QuillbayTest.h"
 

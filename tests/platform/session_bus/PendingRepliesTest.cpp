@@ -11,16 +11,16 @@ namespace {
 
 class CountsItsOwnCalls {
 public:
-    [[nodiscard]] ServiceReplyHandler handler()
+    [[nodiscard]] RemoteReplyHandler handler()
     {
-        return [this](const ServiceReply &reply) {
+        return [this](const RemoteReply &reply) {
             ++calls;
             last = reply;
         };
     }
 
     int calls = 0;
-    ServiceReply last = {};
+    RemoteReply last = {};
 };
 
 } // namespace
@@ -37,9 +37,9 @@ TEST(PendingReplies, AReplyReachesTheHandlerOfItsRequestOnce)
     pending.deliver(one, {3});
     pending.deliver(two, {3});
     EXPECT_EQ(first.calls, 1);
-    EXPECT_EQ(first.last, ServiceReply{1});
+    EXPECT_EQ(first.last, RemoteReply{1});
     EXPECT_EQ(second.calls, 1);
-    EXPECT_EQ(second.last, ServiceReply{2});
+    EXPECT_EQ(second.last, RemoteReply{2});
 }
 
 TEST(PendingReplies, ADroppedHandlerIsNotCalled)
@@ -69,7 +69,7 @@ TEST(PendingReplies, HandlersAreLetGoWhenTheyAreCalledDroppedClosedOrTooLate)
 {
     PendingReplies pending;
     const auto held = std::make_shared<int>();
-    const auto handler = [&held] { return [held](const ServiceReply &) {}; };
+    const auto handler = [&held] { return [held](const RemoteReply &) {}; };
     pending.deliver(pending.add(handler()), {});
     EXPECT_EQ(held.use_count(), 1);
     pending.drop(pending.add(handler()));
@@ -89,7 +89,7 @@ TEST(PendingReplies, AHandlerMayCloseWhileItRunsAndWhileItEnds)
     const std::shared_ptr<void> closer(nullptr, [&pending](void *) { pending.close(); });
     CountsItsOwnCalls other;
     const auto never = pending.add(other.handler());
-    auto identifier = pending.add([closer, &pending](const ServiceReply &) { pending.close(); });
+    auto identifier = pending.add([closer, &pending](const RemoteReply &) { pending.close(); });
     pending.deliver(identifier, {});
     pending.deliver(never, {});
     EXPECT_EQ(other.calls, 0);
@@ -100,8 +100,8 @@ TEST(PendingReplies, EndingHandlersMayAddAndDropOthers)
     PendingReplies pending;
     const auto adder = [&pending] {
         const std::shared_ptr<void> held(
-            nullptr, [&pending](void *) { pending.drop(pending.add([](const ServiceReply &) {})); });
-        return [held](const ServiceReply &) {};
+            nullptr, [&pending](void *) { pending.drop(pending.add([](const RemoteReply &) {})); });
+        return [held](const RemoteReply &) {};
     };
     pending.deliver(pending.add(adder()), {});
     pending.drop(pending.add(adder()));
@@ -121,7 +121,7 @@ TEST(PendingReplies, ClosingRacesWithDeliveryAndWins)
         bool isOver = false;
         std::vector<PendingReplies::Identifier> identifiers;
         for (int i = 0; i < replies; ++i) {
-            identifiers.push_back(pending.add([&](const ServiceReply &) {
+            identifiers.push_back(pending.add([&](const RemoteReply &) {
                 EXPECT_FALSE(isOver);
                 ++started;
                 started.notify_one();
@@ -152,7 +152,7 @@ TEST(PendingReplies, RequestsMayBeAddedOnManyThreads)
     for (auto &added : identifiers) {
         threads.emplace_back([&pending, &calls, &added] {
             for (int i = 0; i < 500; ++i)
-                added.push_back(pending.add([&calls](const ServiceReply &) { ++calls; }));
+                added.push_back(pending.add([&calls](const RemoteReply &) { ++calls; }));
         });
     }
     for (std::thread &thread : threads)

@@ -3,7 +3,7 @@
 // Thread: any.  Owner: the test; outlives its handlers.
 #pragma once
 
-#include "platform/session_bus/ServiceRequest.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 #include "tests/harness/WaitUntil.h"
 
 #include <gtest/gtest.h>
@@ -14,16 +14,16 @@
 
 class RecordedReplies {
 public:
-    [[nodiscard]] ServiceReplyHandler handler()
+    [[nodiscard]] RemoteReplyHandler handler()
     {
-        return [this](const ServiceReply &reply) {
+        return [this](const RemoteReply &reply) {
             const std::lock_guard guard(m_mutex);
             m_replies.push_back(reply);
             m_threads.push_back(std::this_thread::get_id());
         };
     }
 
-    [[nodiscard]] std::vector<ServiceReply> replies() const
+    [[nodiscard]] std::vector<RemoteReply> replies() const
     {
         const std::lock_guard guard(m_mutex);
         return m_replies;
@@ -42,6 +42,6 @@ public:
 
 private:
     mutable std::mutex m_mutex;
-    std::vector<ServiceReply> m_replies;
+    std::vector<RemoteReply> m_replies;
     std::vector<std::thread::id> m_threads;
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Requests whose service dies, or loses its name, before it has answered.
-#include "platform/session_bus/ServiceConnection.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 
 #include "tests/platform/session_bus/ConnectionTest.h"
 
@@ -65,7 +65,7 @@ TEST_F(ServiceDeathTest, AServiceThatHasEndedIsStartedAgainByTheNextRequest)
     m_replies.waitFor(2);
     const auto received = service.requests();
     EXPECT_NE(received.front().service, received.back().service);
-    EXPECT_THAT(m_replies.replies(), ElementsAre(ServiceReply{8, 7, 6, 5, 4, 3, 2, 1}, counts));
+    EXPECT_THAT(m_replies.replies(), ElementsAre(RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}, counts));
 }
 
 TEST_F(ServiceDeathTest, AServiceThatGivesItsNameUpCountsAsLost)
@@ -90,7 +90,7 @@ TEST_F(ServiceDeathTest, OfTwoServicesThatWereAskedOnlyTheFirstAnswerIsDelivered
     m_replies.waitFor(1);
     send(*connection);
     m_replies.waitFor(2);
-    EXPECT_THAT(m_replies.replies(), ElementsAre(counts, ServiceReply{8, 7, 6, 5, 4, 3, 2, 1}));
+    EXPECT_THAT(m_replies.replies(), ElementsAre(counts, RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}));
 }
 
 TEST_F(ServiceDeathTest, WhoLostItsNameMayStillAnswerWhenTheOtherOneDied)

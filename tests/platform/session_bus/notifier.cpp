@@ -5,7 +5,6 @@
 //   notifier talk             posts the name in each line that it reads and says "done"; hears "echo"
 //   notifier without-application NAME
 #include "platform/session_bus/DistributedNotificationCenter.h"
-#include "platform/session_bus/NotificationObserver.h"
 
 #include <QCoreApplication>
 

@@ -75,7 +75,7 @@ TEST(ReleasedOnMainThread, AValueLetGoOnAnotherThreadEndsItsLifeOnTheMainOne)
         EXPECT_EQ(std::this_thread::get_id(), mainThread);
         isReleased = true;
     });
-    auto wrapped = releasedOnMainThread(std::move(held));
+    auto wrapped = releaseOnMainThread(std::move(held));
     runOnAnotherThread([&wrapped] { wrapped.reset(); });
     EXPECT_FALSE(isReleased);
     EXPECT_TRUE(waitUntil([&isReleased] { return isReleased; }));
@@ -85,7 +85,7 @@ TEST(ReleasedOnMainThread, AValueLetGoOnTheMainThreadEndsItsLifeAtOnce)
 {
     bool isReleased = false;
     auto wrapped =
-        releasedOnMainThread(std::shared_ptr<void>(nullptr, [&isReleased](void *) { isReleased = true; }));
+        releaseOnMainThread(std::shared_ptr<void>(nullptr, [&isReleased](void *) { isReleased = true; }));
     wrapped.reset();
     EXPECT_TRUE(isReleased);
 }

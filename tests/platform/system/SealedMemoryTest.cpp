@@ -43,12 +43,12 @@ public:
     const int descriptor;
 };
 
-int numberOf(const SealedMemory::MadeMemory &memory)
+int numberOf(const SealedMemory::MemoryResult &memory)
 {
     return memory ? 0 : memory.error().systemError;
 }
 
-std::optional<Cause> causeOf(const SealedMemory::MadeMemory &memory)
+std::optional<Cause> causeOf(const SealedMemory::MemoryResult &memory)
 {
     return memory ? std::nullopt : std::optional(memory.error().cause);
 }
@@ -94,7 +94,7 @@ TEST(SealedMemory, AnEmptyBlockHasADescriptorToo)
     EXPECT_TRUE(memory.bytes().isEmpty());
     EXPECT_EQ(memory.size(), 0);
     EXPECT_TRUE(isOpen(memory.descriptor()));
-    auto received = SealedMemory::received(memory.descriptor(), 0);
+    auto received = SealedMemory::receive(memory.descriptor(), 0);
     ASSERT_TRUE(received);
     EXPECT_TRUE(received.value().bytes().isEmpty());
 }
@@ -114,14 +114,14 @@ TEST(SealedMemory, ItsDescriptorIsNotHandedDownToPrograms)
 {
     const SealedMemory memory = copied("text");
     EXPECT_EQ(fcntl(memory.descriptor(), F_GETFD), FD_CLOEXEC);
-    const auto received = SealedMemory::received(memory.descriptor(), 4);
+    const auto received = SealedMemory::receive(memory.descriptor(), 4);
     ASSERT_TRUE(received);
     EXPECT_EQ(fcntl(received.value().descriptor(), F_GETFD), FD_CLOEXEC);
 }
 
 TEST(SealedMemory, AFillerWritesThroughTheDescriptor)
 {
-    auto memory = SealedMemory::filledBy(
+    auto memory = SealedMemory::fillAndSeal(
         [](int descriptor) { return ::write(descriptor, "filled", 6) == 6 ? 0 : errno; });
     ASSERT_TRUE(memory);
     EXPECT_EQ(memory.value().bytes(), "filled");
@@ -131,7 +131,7 @@ TEST(SealedMemory, AFillerWritesThroughTheDescriptor)
 TEST(SealedMemory, AFillerThatFailsLeavesNoDescriptorBehind)
 {
     int seen = -1;
-    const auto memory = SealedMemory::filledBy([&seen](int descriptor) {
+    const auto memory = SealedMemory::fillAndSeal([&seen](int descriptor) {
         seen = descriptor;
         return EIO;
     });
@@ -143,7 +143,7 @@ TEST(SealedMemory, AFillerThatFailsLeavesNoDescriptorBehind)
 TEST(SealedMemory, AFillerThatKeepsAWritableMappingIsRefused)
 {
     void *kept = nullptr;
-    const auto memory = SealedMemory::filledBy([&kept](int descriptor) {
+    const auto memory = SealedMemory::fillAndSeal([&kept](int descriptor) {
         if (ftruncate(descriptor, 4096) != 0)
             return errno;
         kept = mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
@@ -158,7 +158,7 @@ TEST(SealedMemory, WhatIsReceivedIsTheSendersFileUnderADescriptorOfItsOwn)
     std::optional<SealedMemory> received;
     {
         const MemoryFile file("document");
-        auto memory = SealedMemory::received(file.descriptor, 8);
+        auto memory = SealedMemory::receive(file.descriptor, 8);
         ASSERT_TRUE(memory);
         EXPECT_NE(memory.value().descriptor(), file.descriptor);
         received = std::move(memory).value();
@@ -170,7 +170,7 @@ TEST(SealedMemory, WhatIsReceivedIsTheSendersFileUnderADescriptorOfItsOwn)
 TEST(SealedMemory, TheSendersPositionInTheFileDoesNotMatter)
 {
     const MemoryFile file("document"); // stands at its end
-    auto memory = SealedMemory::received(file.descriptor, 8);
+    auto memory = SealedMemory::receive(file.descriptor, 8);
     ASSERT_TRUE(memory);
     EXPECT_EQ(memory.value().bytes(), "document");
 }
@@ -180,10 +180,10 @@ TEST(SealedMemory, AFileThatItsSenderCanStillChangeIsRefused)
     for (const int seals : {0, F_SEAL_WRITE, F_SEAL_SHRINK, F_SEAL_GROW, F_SEAL_SHRINK | F_SEAL_GROW,
              F_SEAL_FUTURE_WRITE | F_SEAL_SHRINK}) {
         const MemoryFile file("text", seals);
-        EXPECT_EQ(causeOf(SealedMemory::received(file.descriptor, 4)), Cause::NotSealed) << seals;
+        EXPECT_EQ(causeOf(SealedMemory::receive(file.descriptor, 4)), Cause::NotSealed) << seals;
     }
     const MemoryFile file("text", F_SEAL_WRITE | F_SEAL_SHRINK);
-    EXPECT_TRUE(SealedMemory::received(file.descriptor, 4));
+    EXPECT_TRUE(SealedMemory::receive(file.descriptor, 4));
 }
 
 class SealedMemoryTest : public QuillbayTest { };
@@ -192,13 +192,13 @@ TEST_F(SealedMemoryTest, WhatIsNoMemoryFileIsRefused)
 {
     QFile file(writeFile(QStringLiteral("file"), "text"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(causeOf(SealedMemory::received(file.handle(), 4)), Cause::NotSealed);
+    EXPECT_EQ(causeOf(SealedMemory::receive(file.handle(), 4)), Cause::NotSealed);
     int pipe[2];
     ASSERT_EQ(::pipe(pipe), 0);
-    EXPECT_EQ(causeOf(SealedMemory::received(pipe[0], 0)), Cause::NotSealed);
+    EXPECT_EQ(causeOf(SealedMemory::receive(pipe[0], 0)), Cause::NotSealed);
     ::close(pipe[0]);
     ::close(pipe[1]);
-    EXPECT_EQ(causeOf(SealedMemory::received(-1, 0)), Cause::NotSealed);
+    EXPECT_EQ(causeOf(SealedMemory::receive(-1, 0)), Cause::NotSealed);
 }
 
 TEST(SealedMemory, AFileOfAnotherLengthThanWasSaidIsRefused)
@@ -206,8 +206,8 @@ TEST(SealedMemory, AFileOfAnotherLengthThanWasSaidIsRefused)
     const MemoryFile file("text");
     for (const quint64 length :
         {quint64{0}, quint64{3}, quint64{5}, quint64{1} << 32 | 4, std::numeric_limits<quint64>::max()})
-        EXPECT_EQ(causeOf(SealedMemory::received(file.descriptor, length)), Cause::LengthDiffers) << length;
-    EXPECT_EQ(causeOf(SealedMemory::received(MemoryFile(QByteArray()).descriptor, 1)), Cause::LengthDiffers);
+        EXPECT_EQ(causeOf(SealedMemory::receive(file.descriptor, length)), Cause::LengthDiffers) << length;
+    EXPECT_EQ(causeOf(SealedMemory::receive(MemoryFile(QByteArray()).descriptor, 1)), Cause::LengthDiffers);
 }
 
 TEST(SealedMemory, AMovedBlockTakesBytesAndDescriptorAlong)
@@ -256,13 +256,14 @@ TEST(SealedMemory, AProcessWithoutFreeDescriptorsIsToldSo)
     const MemoryFile file("text");
     const NoMoreDescriptors limit;
     EXPECT_EQ(numberOf(SealedMemory::copyOf("text")), EMFILE);
-    EXPECT_EQ(numberOf(SealedMemory::received(file.descriptor, 4)), EMFILE);
+    EXPECT_EQ(numberOf(SealedMemory::receive(file.descriptor, 4)), EMFILE);
 }
 
 TEST(SealedMemory, EveryCauseHasItsText)
 {
     EXPECT_EQ(causeText({Cause::NotSealed}),
         QStringLiteral("is not a memory file sealed against writing and shrinking"));
-    EXPECT_EQ(causeText({Cause::LengthDiffers}), QStringLiteral("is not as long as its sender said"));
+    EXPECT_EQ(
+        causeText({Cause::LengthDiffers}), QStringLiteral("does not have the length that its sender claims"));
     EXPECT_EQ(causeText({Cause::SystemError, EMFILE}), QStringLiteral("Too many open files"));
 }

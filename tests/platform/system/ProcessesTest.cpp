@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/system/DetachedProcess.h"
+#include "platform/system/Processes.h"
 
 #include "tests/harness/QuillbayTest.h"
 
@@ -27,7 +27,7 @@ int numberOfChildren()
     return number;
 }
 
-class DetachedProcessTest : public QuillbayTest {
+class DetachedProcess : public QuillbayTest {
 protected:
     [[nodiscard]] QStringList lines() const
     {
@@ -50,7 +50,7 @@ protected:
 
 } // namespace
 
-TEST_F(DetachedProcessTest, TheArgumentsArriveAsTheyAre)
+TEST_F(DetachedProcess, TheArgumentsArriveAsTheyAre)
 {
     const QString program =
         script("for a; do printf '%s\\n' \"$a\"; done >> '" + QFile::encodeName(m_notes) + "'\n");
@@ -61,7 +61,7 @@ TEST_F(DetachedProcessTest, TheArgumentsArriveAsTheyAre)
     EXPECT_EQ(lines(), arguments);
 }
 
-TEST_F(DetachedProcessTest, ItIsNotWaitedForAndReadsNothingOfOurs)
+TEST_F(DetachedProcess, ItIsNotWaitedForAndReadsNothingOfOurs)
 {
     const QString pipe = world().root() + QStringLiteral("/pipe");
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
@@ -76,7 +76,7 @@ TEST_F(DetachedProcessTest, ItIsNotWaitedForAndReadsNothingOfOurs)
     EXPECT_TRUE(waitUntil([this] { return lines() == QStringList{QStringLiteral("go on")}; }));
 }
 
-TEST_F(DetachedProcessTest, AHundredOfThemLeaveNoZombie)
+TEST_F(DetachedProcess, AHundredOfThemLeaveNoZombie)
 {
     const int before = numberOfChildren();
     const QString program = script("echo done >> '" + QFile::encodeName(m_notes) + "'\n");
@@ -86,7 +86,7 @@ TEST_F(DetachedProcessTest, AHundredOfThemLeaveNoZombie)
     EXPECT_EQ(numberOfChildren(), before);
 }
 
-TEST_F(DetachedProcessTest, WhatCannotBeStartedIsSaidToBeSo)
+TEST_F(DetachedProcess, WhatCannotBeStartedIsSaidToBeSo)
 {
     const int before = numberOfChildren();
     const std::optional<LaunchError> missing = launchDetached(QStringLiteral("/nonexistent/say"), {});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "counting_service/broker/TerminationSignals.h"
+#include "platform/system/TerminationSignals.h"
 
 #include <csignal>
 #include <sys/signalfd.h>

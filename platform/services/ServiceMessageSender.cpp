@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "platform/services/ServiceRequestSender.h"
+#include "platform/services/ServiceMessageSender.h"
 
 #include "platform/services/PasteboardWire.h"
 #include "platform/services/ServiceInterface.h"
+#include "platform/session_bus/SessionBusConnection.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 
@@ -16,27 +16,21 @@ using Environment = QMap<QString, QString>;
 
 constexpr int timeout = 60'000; // milliseconds
 
-// What a program needs to find the user's display and to speak his language.
+// What a program needs to find the user's display and to use their language.
 constexpr std::array exportedVariables{"DISPLAY", "XAUTHORITY", "WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP",
     "XDG_SESSION_TYPE", "LANG", "LANGUAGE", "LC_ALL", "LC_CTYPE", "LC_NUMERIC", "LC_TIME", "LC_COLLATE",
     "LC_MONETARY", "LC_MESSAGES", "LC_PAPER", "LC_MEASUREMENT"};
 
-QDBusMessage callOfBus(const QString &method)
-{
-    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"), method);
-}
-
 } // namespace
 
-QString causeText(const ServiceFailure &failure)
+QString causeText(const ServiceMessageFailure &failure)
 {
     switch (failure.cause) {
-    case ServiceFailure::Cause::NoBus:
+    case ServiceMessageFailure::Cause::NoBus:
         return QStringLiteral("there is no session bus");
-    case ServiceFailure::Cause::NoProvider:
+    case ServiceMessageFailure::Cause::NoProvider:
         return QStringLiteral("the service provider does not answer: %1").arg(failure.text);
-    case ServiceFailure::Cause::Refused:
+    case ServiceMessageFailure::Cause::Refused:
         return failure.text;
     }
     return {};
@@ -44,8 +38,8 @@ QString causeText(const ServiceFailure &failure)
 
 bool exportSessionEnvironment()
 {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
+    const Result<QDBusConnection, QString> bus = SessionBusConnection::shared().connect();
+    if (!bus)
         return false;
     qDBusRegisterMetaType<Environment>();
     Environment environment;
@@ -53,24 +47,26 @@ bool exportSessionEnvironment()
         environment.insert(QString::fromLatin1(name), qEnvironmentVariable(name));
     environment.removeIf(
         [](const auto &variable) { return !qEnvironmentVariableIsSet(variable.key().toLatin1()); });
-    QDBusMessage call = callOfBus(QStringLiteral("UpdateActivationEnvironment"));
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("UpdateActivationEnvironment"));
     call.setArguments({QVariant::fromValue(environment)});
-    return bus.call(call, QDBus::Block, timeout).type() == QDBusMessage::ReplyMessage;
+    return bus.value().call(call, QDBus::Block, timeout).type() == QDBusMessage::ReplyMessage;
 }
 
-std::optional<ServiceFailure> sendServiceMessage(
+std::optional<ServiceMessageFailure> sendServiceMessage(
     const QString &message, const Pasteboard &pasteboard, const QVariantMap &options)
 {
-    using Cause = ServiceFailure::Cause;
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
-        return ServiceFailure{Cause::NoBus, {}};
+    using Cause = ServiceMessageFailure::Cause;
+    const Result<QDBusConnection, QString> bus = SessionBusConnection::shared().connect();
+    if (!bus)
+        return ServiceMessageFailure{Cause::NoBus, {}};
     QDBusMessage call = QDBusMessage::createMethodCall(ServiceInterface::busName(),
         ServiceInterface::objectPath(), ServiceInterface::interfaceName(), message);
     call.setArguments({PasteboardWire::toMessage(pasteboard), QString(), options});
-    const QDBusMessage reply = bus.call(call, QDBus::Block, timeout);
+    const QDBusMessage reply = bus.value().call(call, QDBus::Block, timeout);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return std::nullopt;
     const bool isRefusal = reply.errorName() == ServiceInterface::failureName();
-    return ServiceFailure{isRefusal ? Cause::Refused : Cause::NoProvider, reply.errorMessage()};
+    return ServiceMessageFailure{isRefusal ? Cause::Refused : Cause::NoProvider, reply.errorMessage()};
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/session_bus/ServiceConnection.h"
+#include "platform/session_bus/RemoteObjectConnection.h"
 
 #include "tests/platform/session_bus/ConnectionTest.h"
 
@@ -16,9 +16,9 @@ using ::testing::IsEmpty;
 using ::testing::Ne;
 using ::testing::SizeIs;
 
-class ServiceConnectionTest : public ConnectionTest { };
+class RemoteObjectConnectionTest : public ConnectionTest { };
 
-TEST_F(ServiceConnectionTest, ARequestStartsTheServiceAndItsReplyHasEightUnsigned64BitNumbers)
+TEST_F(RemoteObjectConnectionTest, ARequestStartsTheServiceAndItsReplyHasEightUnsigned64BitNumbers)
 {
     const ServiceStandIn service(
         standInName, {"answer 0 18446744073709551615 3 4 5 6 7 9223372036854775808"});
@@ -26,16 +26,16 @@ TEST_F(ServiceConnectionTest, ARequestStartsTheServiceAndItsReplyHasEightUnsigne
     send(*connection);
     m_replies.waitFor(1);
     EXPECT_THAT(
-        m_replies.replies(), ElementsAre(ServiceReply{0, UINT64_MAX, 3, 4, 5, 6, 7, 9223372036854775808U}));
+        m_replies.replies(), ElementsAre(RemoteReply{0, UINT64_MAX, 3, 4, 5, 6, 7, 9223372036854775808U}));
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
-TEST_F(ServiceConnectionTest, ARequestTravelsWithItsSealedPayloadAndItsOptions)
+TEST_F(RemoteObjectConnectionTest, ARequestTravelsWithItsSealedPayloadAndItsOptions)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
     const QByteArray payload("payload \0 with a zero", 20);
-    ServiceRequest sent = request(payload);
+    RemoteRequest sent = request(payload);
     sent.options = {{QStringLiteral("locale"), QStringLiteral("de_DE.UTF-8")}};
     connection->remoteObjectProxy().send(sent, m_replies.handler());
     m_replies.waitFor(1);
@@ -54,7 +54,7 @@ TEST_F(ServiceConnectionTest, ARequestTravelsWithItsSealedPayloadAndItsOptions)
     EXPECT_EQ(received.options, sent.options);
 }
 
-TEST_F(ServiceConnectionTest, AnAbsentPayloadIsAnEmptyFileThatIsSaidToBeAbsent)
+TEST_F(RemoteObjectConnectionTest, AnAbsentPayloadIsAnEmptyFileThatIsSaidToBeAbsent)
 {
     const ServiceStandIn service(standInName, {"answer 0 0 0 0 0 0 0 0"});
     const auto connection = resumedConnection();
@@ -71,10 +71,10 @@ TEST_F(ServiceConnectionTest, AnAbsentPayloadIsAnEmptyFileThatIsSaidToBeAbsent)
     EXPECT_EQ(received[0].seals & F_SEAL_WRITE, F_SEAL_WRITE);
     EXPECT_FALSE(received[1].isAbsent); // an empty document is a document
     EXPECT_EQ(received[1].length, 0);
-    EXPECT_THAT(m_replies.replies(), Each(ServiceReply{}));
+    EXPECT_THAT(m_replies.replies(), Each(RemoteReply{}));
 }
 
-TEST_F(ServiceConnectionTest, ThePayloadMayBeLarge)
+TEST_F(RemoteObjectConnectionTest, ThePayloadMayBeLarge)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -87,7 +87,7 @@ TEST_F(ServiceConnectionTest, ThePayloadMayBeLarge)
         service.requests().front().hash, QCryptographicHash::hash(payload, QCryptographicHash::Sha1).toHex());
 }
 
-TEST_F(ServiceConnectionTest, RepliesOfAllConnectionsComeOnOneThreadThatIsNotTheMainOne)
+TEST_F(RemoteObjectConnectionTest, RepliesOfAllConnectionsComeOnOneThreadThatIsNotTheMainOne)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto first = resumedConnection();
@@ -100,7 +100,7 @@ TEST_F(ServiceConnectionTest, RepliesOfAllConnectionsComeOnOneThreadThatIsNotThe
     EXPECT_THAT(m_replies.threads(), Each(m_replies.threads().front()));
 }
 
-TEST_F(ServiceConnectionTest, EveryConnectionIsAClientOfItsOwnForAllOfItsRequests)
+TEST_F(RemoteObjectConnectionTest, EveryConnectionIsAClientOfItsOwnForAllOfItsRequests)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto first = resumedConnection();
@@ -117,11 +117,11 @@ TEST_F(ServiceConnectionTest, EveryConnectionIsAClientOfItsOwnForAllOfItsRequest
     EXPECT_NE(received[1].client, received[2].client);
 }
 
-TEST_F(ServiceConnectionTest, ARequestWaitsUntilTheConnectionIsResumed)
+TEST_F(RemoteObjectConnectionTest, ARequestWaitsUntilTheConnectionIsResumed)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto resumed = resumedConnection();
-    ServiceConnection connection(standInName);
+    RemoteObjectConnection connection(standInName);
     connection.setRemoteObjectInterface(resumed->remoteObjectInterface());
     send(connection);
     send(*resumed); // overtakes
@@ -132,20 +132,20 @@ TEST_F(ServiceConnectionTest, ARequestWaitsUntilTheConnectionIsResumed)
     EXPECT_THAT(service.requests(), SizeIs(2));
 }
 
-TEST_F(ServiceConnectionTest, AnAnswerThatTakesLongIsWaitedForAndOthersAreDeliveredMeanwhile)
+TEST_F(RemoteObjectConnectionTest, AnAnswerThatTakesLongIsWaitedForAndOthersAreDeliveredMeanwhile)
 {
     const ServiceStandIn service(standInName, {"hold", "answer 8 7 6 5 4 3 2 1"});
     const auto connection = resumedConnection();
     send(*connection);
     send(*connection);
     m_replies.waitFor(1);
-    EXPECT_EQ(m_replies.replies().front(), (ServiceReply{8, 7, 6, 5, 4, 3, 2, 1}));
+    EXPECT_EQ(m_replies.replies().front(), (RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}));
     service.release();
     m_replies.waitFor(2);
     EXPECT_EQ(m_replies.replies().back(), counts);
 }
 
-TEST_F(ServiceConnectionTest, ASecondAnswerToARequestIsNobodys)
+TEST_F(RemoteObjectConnectionTest, ASecondAnswerToARequestIsNobodys)
 {
     const ServiceStandIn service(standInName, {"twice 1 2 3 4 5 6 7 8", "answer 8 7 6 5 4 3 2 1"});
     const auto connection = resumedConnection();
@@ -153,10 +153,10 @@ TEST_F(ServiceConnectionTest, ASecondAnswerToARequestIsNobodys)
     m_replies.waitFor(1);
     send(*connection);
     m_replies.waitFor(2);
-    EXPECT_THAT(m_replies.replies(), ElementsAre(counts, ServiceReply{8, 7, 6, 5, 4, 3, 2, 1}));
+    EXPECT_THAT(m_replies.replies(), ElementsAre(counts, RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}));
 }
 
-TEST_F(ServiceConnectionTest, AnErrorIsLoggedAndDeliversNothing)
+TEST_F(RemoteObjectConnectionTest, AnErrorIsLoggedAndDeliversNothing)
 {
     const ServiceStandIn service(
         standInName, {"error com.quillbay.test.Planned", "error org.freedesktop.DBus.Error.TimedOut"});
@@ -174,7 +174,7 @@ TEST_F(ServiceConnectionTest, AnErrorIsLoggedAndDeliversNothing)
     EXPECT_EQ(m_replies.count(), 0U);
 }
 
-TEST_F(ServiceConnectionTest, AnAnswerOfAnotherFormIsLoggedAndDeliversNothing)
+TEST_F(RemoteObjectConnectionTest, AnAnswerOfAnotherFormIsLoggedAndDeliversNothing)
 {
     const ServiceStandIn service(
         standInName, {"text", "answer 1 2 3 4 5 6 7", "answer 1 2 3 4 5 6 7 8 9", "answer"});
@@ -193,7 +193,7 @@ TEST_F(ServiceConnectionTest, AnAnswerOfAnotherFormIsLoggedAndDeliversNothing)
     EXPECT_EQ(m_replies.count(), 0U);
 }
 
-TEST_F(ServiceConnectionTest, AThousandRequestsLeaveNoDescriptorBehind)
+TEST_F(RemoteObjectConnectionTest, AThousandRequestsLeaveNoDescriptorBehind)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -212,7 +212,7 @@ TEST_F(ServiceConnectionTest, AThousandRequestsLeaveNoDescriptorBehind)
     EXPECT_TRUE(waitUntil(hasReturnedTo(before))) << before << " before, " << openDescriptors() << " after";
 }
 
-TEST_F(ServiceConnectionTest, AHundredConnectionsLeaveNoDescriptorBehind)
+TEST_F(RemoteObjectConnectionTest, AHundredConnectionsLeaveNoDescriptorBehind)
 {
     const ServiceStandIn service(standInName, {"hold"});
     const auto connection = resumedConnection();

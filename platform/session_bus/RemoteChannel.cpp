@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "platform/session_bus/ServiceChannel.h"
+#include "platform/session_bus/RemoteChannel.h"
 
 #include "platform/logging/LogChannel.h"
-#include "platform/session_bus/ConnectionThread.h"
-#include "platform/session_bus/SessionBusClient.h"
 
+#include <QCoreApplication>
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -14,15 +13,48 @@
 
 #include <algorithm>
 #include <climits>
+#include <mutex>
 #include <optional>
 #include <utility>
 
 namespace {
 
-constexpr int withoutTimeOut = INT_MAX; // DBUS_TIMEOUT_INFINITE of libdbus
+constexpr int infiniteTimeout = INT_MAX; // DBUS_TIMEOUT_INFINITE of libdbus
 
-// The bus answers for a service that has gone, or that did not come; the library for a bus that has gone.
-bool saysThatTheServiceIsGone(const QDBusMessage &error)
+std::mutex threadMutex;
+// Not owned by a static object: a process that exits without destroying its QCoreApplication, as Qt does when
+// the X server dies, would destroy the thread while it runs, and then Qt aborts.
+QThread *connectionThread = nullptr;
+
+// Qt's own thread for the bus ends after the application object, so ours never outlives it.
+void stopConnectionThread()
+{
+    QThread *stopped = nullptr;
+    {
+        const std::lock_guard guard(threadMutex);
+        stopped = std::exchange(connectionThread, nullptr);
+    }
+    stopped->quit();
+    stopped->wait(); // without the mutex: a handler may still make connections
+    delete stopped;
+}
+
+/// The thread on which all connections of the process talk to the bus and deliver replies, so that a bus that
+/// hangs blocks no other thread. Runs from the first call until the QCoreApplication ends.
+QThread *sharedConnectionThread()
+{
+    const std::lock_guard guard(threadMutex);
+    if (!connectionThread) {
+        connectionThread = new QThread;
+        connectionThread->setObjectName(QStringLiteral("connections"));
+        connectionThread->start();
+        qAddPostRoutine(stopConnectionThread);
+    }
+    return connectionThread;
+}
+
+// The bus sends these if the service has died or cannot be started; the library, if the bus was lost.
+bool isServiceLost(const QDBusMessage &error)
 {
     switch (QDBusError(error).type()) {
     case QDBusError::NoReply:
@@ -37,9 +69,9 @@ bool saysThatTheServiceIsGone(const QDBusMessage &error)
     }
 }
 
-std::optional<ServiceReply> replyIn(const QDBusMessage &answer)
+std::optional<RemoteReply> parseReply(const QDBusMessage &answer)
 {
-    ServiceReply reply = {};
+    RemoteReply reply = {};
     if (answer.signature() != QString(static_cast<qsizetype>(reply.size()), u't'))
         return std::nullopt;
     std::ranges::transform(
@@ -49,39 +81,38 @@ std::optional<ServiceReply> replyIn(const QDBusMessage &answer)
 
 } // namespace
 
-std::shared_ptr<ServiceChannel> ServiceChannel::make(const QString &serviceName)
+std::shared_ptr<RemoteChannel> RemoteChannel::make(const QString &serviceName)
 {
-    std::shared_ptr<ServiceChannel> channel(
-        new ServiceChannel(serviceName), [](ServiceChannel *ended) { ended->deleteLater(); });
-    QThread *const thread = ConnectionThread::shared();
+    std::shared_ptr<RemoteChannel> channel(
+        new RemoteChannel(serviceName), [](RemoteChannel *ended) { ended->deleteLater(); });
+    QThread *const thread = sharedConnectionThread();
     channel->moveToThread(thread);
-    // A handler may own what owns the channel, and not every request is answered before the process ends.
+    // A pending handler may own the connection that owns the channel, and would keep both alive for ever.
     connect(
         thread, &QThread::finished, channel.get(), [&replies = channel->m_replies] { replies.close(); },
         Qt::DirectConnection);
     return channel;
 }
 
-ServiceChannel::ServiceChannel(const QString &serviceName)
+RemoteChannel::RemoteChannel(const QString &serviceName)
     : m_serviceName(serviceName)
 {
 }
 
-ServiceChannel::~ServiceChannel() = default;
+RemoteChannel::~RemoteChannel() = default;
 
-void ServiceChannel::resume()
+void RemoteChannel::resume()
 {
     QMetaObject::invokeMethod(
         this,
         [this] {
             m_isResumed = true;
-            callWhatWaits();
+            callWaitingRequests();
         },
         Qt::QueuedConnection);
 }
 
-void ServiceChannel::send(
-    RemoteObjectInterface interface, ServiceRequest request, ServiceReplyHandler handler)
+void RemoteChannel::send(RemoteObjectInterface interface, RemoteRequest request, RemoteReplyHandler handler)
 {
     const Identifier identifier = m_replies.add(std::move(handler));
     Request made{.interface = std::move(interface), .content = std::move(request)};
@@ -89,7 +120,7 @@ void ServiceChannel::send(
         this, [this, identifier, made = std::move(made)] { accept(identifier, made); }, Qt::QueuedConnection);
 }
 
-void ServiceChannel::close()
+void RemoteChannel::close()
 {
     m_isClosed = true;
     m_replies.close();
@@ -103,7 +134,7 @@ void ServiceChannel::close()
         Qt::QueuedConnection);
 }
 
-void ServiceChannel::accept(Identifier identifier, const Request &request)
+void RemoteChannel::accept(Identifier identifier, const Request &request)
 {
     if (m_isClosed)
         return;
@@ -112,23 +143,24 @@ void ServiceChannel::accept(Identifier identifier, const Request &request)
         call(identifier);
 }
 
-void ServiceChannel::callWhatWaits()
+void RemoteChannel::callWaitingRequests()
 {
     for (const Identifier identifier : identifiers()) {
-        if (m_requests.at(identifier).callsUnderway == 0)
+        if (m_requests.at(identifier).pendingCalls == 0)
             call(identifier);
     }
 }
 
-void ServiceChannel::call(Identifier identifier)
+void RemoteChannel::call(Identifier identifier)
 {
-    if (!connectToBus()) {
-        giveUp(identifier, publicly(QStringLiteral("no session bus")), m_bus->bus().lastError().message());
+    const Result<QDBusConnection, QString> bus = connectToBus();
+    if (!bus) {
+        giveUp(identifier, publicly(QStringLiteral("no session bus")), bus.error());
         return;
     }
     Request &request = m_requests.at(identifier);
-    // The message takes a descriptor of its own, so an empty file need not live longer than this.
-    std::optional<SealedMemory::MadeMemory> empty;
+    // The message duplicates the descriptor, so the empty file is needed in this function only.
+    std::optional<SealedMemory::MemoryResult> empty;
     const SealedMemory *payload = request.content.payload.get();
     if (!payload) {
         empty = SealedMemory::copyOf({});
@@ -138,49 +170,50 @@ void ServiceChannel::call(Identifier identifier)
         }
         payload = &empty->value();
     }
-    ++request.callsUnderway;
+    ++request.pendingCalls;
     auto *watcher = new QDBusPendingCallWatcher(
-        m_bus->bus().asyncCall(messageFor(request, *payload), withoutTimeOut), this);
+        bus.value().asyncCall(messageFor(request, *payload), infiniteTimeout), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, identifier, watcher] {
         watcher->deleteLater();
-        callEnded(identifier, watcher->reply());
+        handleAnswer(identifier, watcher->reply());
     });
 }
 
-void ServiceChannel::callOnceMore(Identifier identifier)
+void RemoteChannel::repeatCall(Identifier identifier)
 {
     m_requests.at(identifier).isRepeated = true;
     call(identifier);
 }
 
-void ServiceChannel::callAgainWhatTheServiceLost()
+void RemoteChannel::repeatLostCalls()
 {
     for (const Identifier identifier : identifiers()) {
         const Request &request = m_requests.at(identifier);
-        if (request.callsUnderway > 0 && !request.isRepeated)
-            callOnceMore(identifier);
+        if (request.pendingCalls > 0 && !request.isRepeated)
+            repeatCall(identifier);
     }
 }
 
-bool ServiceChannel::connectToBus()
+Result<QDBusConnection, QString> RemoteChannel::connectToBus()
 {
     if (!m_bus)
-        m_bus = std::make_unique<SessionBusClient>();
-    if (m_bus->isConnected())
-        return true;
-    if (!m_bus->connect())
-        return false;
+        m_bus = std::make_unique<SessionBusConnection>();
+    if (const QDBusConnection current = m_bus->current(); current.isConnected())
+        return current;
+    Result<QDBusConnection, QString> bus = m_bus->connect();
+    if (!bus)
+        return bus;
     m_watcher = std::make_unique<QDBusServiceWatcher>(
-        m_serviceName, m_bus->bus(), QDBusServiceWatcher::WatchForOwnerChange);
+        m_serviceName, bus.value(), QDBusServiceWatcher::WatchForOwnerChange);
     connect(m_watcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString &, const QString &oldOwner) {
             if (!oldOwner.isEmpty())
-                callAgainWhatTheServiceLost();
+                repeatLostCalls();
         });
-    return true;
+    return bus;
 }
 
-QDBusMessage ServiceChannel::messageFor(const Request &request, const SealedMemory &payload) const
+QDBusMessage RemoteChannel::messageFor(const Request &request, const SealedMemory &payload) const
 {
     QDBusMessage message = QDBusMessage::createMethodCall(
         m_serviceName, request.interface.objectPath, request.interface.name, request.content.method);
@@ -190,16 +223,16 @@ QDBusMessage ServiceChannel::messageFor(const Request &request, const SealedMemo
     return message;
 }
 
-// An answer to the first of two calls is as good as one to the second.
-void ServiceChannel::callEnded(Identifier identifier, const QDBusMessage &answer)
+// A request may have two pending calls; the first answer to either counts.
+void RemoteChannel::handleAnswer(Identifier identifier, const QDBusMessage &answer)
 {
     const auto found = m_requests.find(identifier);
     if (found == m_requests.end())
         return;
     Request &request = found->second;
-    --request.callsUnderway;
+    --request.pendingCalls;
     if (answer.type() == QDBusMessage::ReplyMessage) {
-        if (const std::optional<ServiceReply> reply = replyIn(answer)) {
+        if (const std::optional<RemoteReply> reply = parseReply(answer)) {
             m_requests.erase(found);
             m_replies.deliver(identifier, *reply);
         } else {
@@ -208,18 +241,18 @@ void ServiceChannel::callEnded(Identifier identifier, const QDBusMessage &answer
         }
         return;
     }
-    if (saysThatTheServiceIsGone(answer)) {
-        if (request.callsUnderway > 0)
+    if (isServiceLost(answer)) {
+        if (request.pendingCalls > 0)
             return;
         if (!request.isRepeated) {
-            callOnceMore(identifier);
+            repeatCall(identifier);
             return;
         }
     }
     giveUp(identifier, publicly(answer.errorName()), answer.errorMessage());
 }
 
-void ServiceChannel::giveUp(Identifier identifier, const LogArgument &cause, const LogArgument &details)
+void RemoteChannel::giveUp(Identifier identifier, const LogArgument &cause, const LogArgument &details)
 {
     if (!m_isClosed) {
         LogChannel::standard().error(u"No answer from {} to {}: {}: {}",
@@ -229,7 +262,7 @@ void ServiceChannel::giveUp(Identifier identifier, const LogArgument &cause, con
     m_replies.drop(identifier);
 }
 
-std::vector<ServiceChannel::Identifier> ServiceChannel::identifiers() const
+std::vector<RemoteChannel::Identifier> RemoteChannel::identifiers() const
 {
     std::vector<Identifier> all;
     for (const auto &[identifier, request] : m_requests)

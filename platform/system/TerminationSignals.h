@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// TerminationSignals turns the signals that ask a process to end into a call on its event loop.
+// TerminationSignals turns the signals that ask the process to exit into a call on its event loop.
 // Thread: main.  Owner: main().
 #pragma once
 
-#include "counting_service/protocol/PacketSocket.h"
+#include "platform/system/OwnedDescriptor.h"
 
 #include <QSocketNotifier>
 
@@ -11,7 +11,8 @@
 
 class TerminationSignals {
 public:
-    /// Keeps SIGTERM, SIGINT and SIGHUP for later. To be called before there is a second thread.
+    /// Blocks SIGTERM, SIGINT and SIGHUP, so that they wait for an object of this class. To be called before
+    /// there is a second thread, which would receive them otherwise.
     static void block();
 
     explicit TerminationSignals(std::function<void()> call);
