@@ -2,8 +2,8 @@
 // The counting service: the broker that the session bus starts, and the workers that the broker starts.
 #include "counting_service/broker/CountingService.h"
 #include "counting_service/worker/CountingWorker.h"
-#include "platform/sandbox/DocumentSandbox.h"
 #include "platform/sandbox/FontSources.h"
+#include "platform/sandbox/Sandbox.h"
 #include "platform/system/Processes.h"
 #include "platform/system/TerminationSignals.h"
 

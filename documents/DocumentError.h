@@ -4,7 +4,7 @@
 #pragma once
 
 #include "documents/DocumentKind.h"
-#include "platform/files/FileError.h"
+#include "platform/files/FileContents.h"
 
 #include <QString>
 

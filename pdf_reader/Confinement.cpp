@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "pdf_reader/Confinement.h"
 
-#include "platform/sandbox/DocumentSandbox.h"
 #include "platform/sandbox/FontSources.h"
+#include "platform/sandbox/Sandbox.h"
 
 #include <QFile>
 

@@ -2,7 +2,7 @@
 #include "speech/ApplicationExtension.h"
 
 #include "platform/locale/CurrentLocale.h"
-#include "platform/locale/SpelledOutNumber.h"
+#include "platform/locale/NumberText.h"
 #include "platform/system/Processes.h"
 #include "platform/views/Desktop.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/TrimTrailingNumbersOffDecimal.h"
 
-#include "platform/locale/DecimalText.h"
+#include "platform/locale/NumberText.h"
 
 QString TrimTrailingNumbersOffDecimal::trimTrailingNumbersOffFloatingPointNumber(double number)
 {

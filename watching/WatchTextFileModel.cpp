@@ -118,7 +118,7 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
         return;
     }
     const Result<AttributedString, DocumentError> text = m_loader.load(pathOfFileURL(url));
-    if (!text && m_coordinator && m_coordinator->triesAgain())
+    if (!text && m_coordinator && m_coordinator->willRetry())
         return;
     if (!text) {
         watchLog().error(u"failed to load attributed string for file at {}. Error {}",
@@ -133,7 +133,7 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
 void WatchTextFileModel::_reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl &url)
 {
     const bool exists = fileStateAt(pathOfFileURL(url)).has_value();
-    if (!exists && m_coordinator && m_coordinator->triesAgain())
+    if (!exists && m_coordinator && m_coordinator->willRetry())
         return;
     if (!exists) {
         watchLog().error(u"nil QBYDocxMetaData....");

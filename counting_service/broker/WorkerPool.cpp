@@ -165,7 +165,7 @@ void WorkerPool::welcome(const SandboxReport &sandbox)
     if (!m_queue.empty())
         m_failedStarts = 0;
     if (std::exchange(m_sandbox, sandbox) != sandbox)
-        countingServiceLog().info(u"The workers' sandbox: {}", {publicly(descriptionOf(sandbox))});
+        countingServiceLog().info(u"The workers' sandbox: {}", {publicly(sandboxDescription(sandbox))});
     arrange();
 }
 

@@ -42,7 +42,7 @@ std::optional<QByteArray> bytesOfPackage(const QByteArray &path, qint64 mostByte
         return std::nullopt;
     QByteArray bytes;
     FileLimits limits;
-    limits.largestSize = mostBytes;
+    limits.maxSize = mostBytes;
     for (const auto &[name, file] : *files) {
         std::error_code error;
         addField(bytes, QByteArray::fromStdString(name));
@@ -50,7 +50,7 @@ std::optional<QByteArray> bytesOfPackage(const QByteArray &path, qint64 mostByte
         const Result<QByteArray, FileError> contents =
             readFile(QByteArray::fromStdString(file.native()), limits);
         if (contents) {
-            limits.largestSize -= contents.value().size();
+            limits.maxSize -= contents.value().size();
             addField(bytes, contents.value());
         } else if (contents.error().cause == FileError::Cause::TooLarge) {
             return std::nullopt;

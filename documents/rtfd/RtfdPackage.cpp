@@ -56,7 +56,7 @@ public:
         if (!path.value().startsWith(m_prefix))
             return FileError{FileError::Cause::NoSuchFile};
         FileLimits limits;
-        limits.largestSize = m_rest;
+        limits.maxSize = m_rest;
         Contents contents = ::readFile(path.value(), limits);
         if (contents)
             m_rest -= contents.value().size();
@@ -65,7 +65,7 @@ public:
 
 private:
     const QByteArray m_prefix;
-    qint64 m_rest = largestFileSize;
+    qint64 m_rest = maxFileSize;
 };
 
 Result<AttributedString, DocumentError> textOf(PackageFolder &folder)

@@ -98,7 +98,7 @@ double textAsDouble(QStringView text)
 
 qint64 doubleAsInteger(double value)
 {
-    constexpr double beyond = 9223372036854775808.0; // 2^63, the first one that does not fit
+    constexpr double beyond = 9223372036854775808.0; // 2^63, the first double that does not fit
     if (value >= beyond)
         return std::numeric_limits<qint64>::max();
     if (value < -beyond)

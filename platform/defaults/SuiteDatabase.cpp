@@ -13,16 +13,16 @@
 namespace {
 
 constexpr int applicationIdentifier = 0x51425944; // "QBYD", in the header of every suite's file
-constexpr off_t maximalFileSize = 16 << 20; // bytes; checking the file whole stays quick
+constexpr off_t maxFileSize = 16 << 20; // bytes; keeps the check of the whole file fast
 constexpr off_t pageSize = 4096; // bytes; SQLite's default
-constexpr int maximalRowSize = 256 << 10; // bytes; well above the limits of UserDefaults
+constexpr int maxRowSize = 256 << 10; // bytes; well above the limits of UserDefaults
 
 struct StatementDeleter {
     void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
 };
 using Statement = std::unique_ptr<sqlite3_stmt, StatementDeleter>;
 
-Statement prepared(sqlite3 *database, const QByteArray &text)
+Statement prepare(sqlite3 *database, const QByteArray &text)
 {
     sqlite3_stmt *statement = nullptr;
     sqlite3_prepare_v2(database, text.constData(), static_cast<int>(text.size()), &statement, nullptr);
@@ -41,7 +41,7 @@ QString columnText(const Statement &statement, int column)
     return QString::fromUtf8(text, sqlite3_column_bytes(statement.get(), column));
 }
 
-// The column "type" is there for the one thing that SQLite's own types cannot tell, and for human readers.
+// The column "type" tells booleans from integers, which SQLite does not, and helps human readers.
 constexpr const char *typeNames[] = {"boolean", "integer", "real", "text"};
 static_assert(std::size(typeNames) == std::variant_size_v<DefaultsValue>);
 
@@ -68,7 +68,7 @@ std::optional<DefaultsValue> storedValue(const Statement &statement)
     case SQLITE_TEXT:
         return columnText(statement, 1);
     default:
-        return std::nullopt; // put there by hand
+        return std::nullopt; // written by hand
     }
 }
 
@@ -91,7 +91,7 @@ SuiteDatabase::~SuiteDatabase()
 
 void SuiteDatabase::close()
 {
-    sqlite3_close(std::exchange(m_database, nullptr)); // takes back a transaction that is still open
+    sqlite3_close(std::exchange(m_database, nullptr)); // rolls back an open transaction
 }
 
 void SuiteDatabase::setTimeout(std::chrono::milliseconds timeout)
@@ -107,7 +107,7 @@ SuiteFault SuiteDatabase::faultOf(int code) const
         switch (code & 0xff) {
         case SQLITE_NOTADB:
         case SQLITE_CORRUPT:
-        case SQLITE_ERROR: // the statements are right, so the table they name is missing or another one
+        case SQLITE_ERROR: // the statements are valid, so their table is missing or a different one
             return SuiteFault::Kind::Broken;
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
@@ -125,7 +125,7 @@ SuiteFault SuiteDatabase::faultOf(int code) const
 
 SuiteDatabase::Failure SuiteDatabase::execute(const QByteArray &text)
 {
-    const Statement statement = prepared(m_database, text);
+    const Statement statement = prepare(m_database, text);
     if (!statement)
         return faultOf(sqlite3_extended_errcode(m_database));
     int code = SQLITE_ROW;
@@ -143,8 +143,7 @@ bool SuiteDatabase::isOpen(dev_t device, ino_t inode, Purpose purpose) const
 
 SuiteDatabase::Failure SuiteDatabase::ensureOpen(Purpose purpose)
 {
-    // A file that is replaced during the opening is seen by the next look at the path; nobody replaces it
-    // thrice.
+    // A file that is replaced while it is opened shows at the next check; nobody replaces it three times.
     for (int attempt = 0; attempt < 3; ++attempt) {
         struct stat status { };
         const bool exists = ::stat(m_path.constData(), &status) == 0;
@@ -159,7 +158,7 @@ SuiteDatabase::Failure SuiteDatabase::ensureOpen(Purpose purpose)
         close();
         if (exists && !S_ISREG(status.st_mode))
             return SuiteFault{SuiteFault::Kind::Broken, QStringLiteral("it is not a file")};
-        if (exists && status.st_size > maximalFileSize)
+        if (exists && status.st_size > maxFileSize)
             return SuiteFault{SuiteFault::Kind::Broken, QStringLiteral("it is too large")};
         if (Failure failure = openFile(purpose))
             return failure;
@@ -171,7 +170,7 @@ SuiteDatabase::Failure SuiteDatabase::ensureOpen(Purpose purpose)
     return SuiteFault{SuiteFault::Kind::Busy, QStringLiteral("its file is being replaced")};
 }
 
-// Leaves m_database null where the path no longer leads to what was opened.
+// Leaves m_database null if the path no longer leads to the opened file.
 SuiteDatabase::Failure SuiteDatabase::openFile(Purpose purpose)
 {
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE
@@ -195,7 +194,7 @@ SuiteDatabase::Failure SuiteDatabase::openFile(Purpose purpose)
 
 SuiteDatabase::Failure SuiteDatabase::checkFile(Purpose purpose)
 {
-    // EXTRA is FULL and also makes the end of a transaction last through a loss of power.
+    // EXTRA is FULL, and the end of a transaction also survives a loss of power.
     if (Failure failure = execute("PRAGMA synchronous = EXTRA"))
         return failure;
     const auto found = content();
@@ -206,7 +205,7 @@ SuiteDatabase::Failure SuiteDatabase::checkFile(Purpose purpose)
         return foreignFault();
     case Content::Empty:
         if (purpose == Purpose::Reading)
-            close(); // somebody is about to fill it, so the next access looks again
+            close(); // another process is about to fill it, so the next access checks again
         return {};
     case Content::Suite:
         break;
@@ -214,18 +213,18 @@ SuiteDatabase::Failure SuiteDatabase::checkFile(Purpose purpose)
     return checkIntegrity();
 }
 
-// Only now: the check of the whole file must not stumble over a row that is merely too long.
+// Only after the check of the whole file, which would report a row that is too long as damage.
 SuiteDatabase::Failure SuiteDatabase::setLimits()
 {
     if (!m_database)
         return {};
-    sqlite3_limit(m_database, SQLITE_LIMIT_LENGTH, maximalRowSize);
-    return execute("PRAGMA max_page_count = " + QByteArray::number(maximalFileSize / pageSize));
+    sqlite3_limit(m_database, SQLITE_LIMIT_LENGTH, maxRowSize);
+    return execute("PRAGMA max_page_count = " + QByteArray::number(maxFileSize / pageSize));
 }
 
 Result<SuiteDatabase::Content, SuiteFault> SuiteDatabase::content()
 {
-    const Statement statement = prepared(
+    const Statement statement = prepare(
         m_database, "SELECT application_id, (SELECT count(*) FROM sqlite_schema) FROM pragma_application_id");
     if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW)
         return faultOf(sqlite3_extended_errcode(m_database));
@@ -237,7 +236,7 @@ Result<SuiteDatabase::Content, SuiteFault> SuiteDatabase::content()
 
 SuiteDatabase::Failure SuiteDatabase::checkIntegrity()
 {
-    const Statement statement = prepared(m_database, "PRAGMA integrity_check(1)");
+    const Statement statement = prepare(m_database, "PRAGMA integrity_check(1)");
     if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW)
         return faultOf(sqlite3_extended_errcode(m_database));
     if (columnText(statement, 0) != QStringLiteral("ok"))
@@ -262,7 +261,7 @@ Result<std::optional<DefaultsValue>, SuiteFault> SuiteDatabase::read(const QStri
 
 Result<std::optional<DefaultsValue>, SuiteFault> SuiteDatabase::select(const QString &key)
 {
-    const Statement statement = prepared(m_database, "SELECT type, value FROM preference WHERE key = ?1");
+    const Statement statement = prepare(m_database, "SELECT type, value FROM preference WHERE key = ?1");
     if (!statement || bindText(statement, 1, key.toUtf8()) != SQLITE_OK)
         return faultOf(sqlite3_extended_errcode(m_database));
     switch (const int code = sqlite3_step(statement.get())) {
@@ -291,7 +290,7 @@ SuiteDatabase::Failure SuiteDatabase::writeInTransaction(
 {
     if (Failure failure = execute("BEGIN IMMEDIATE"))
         return failure;
-    if (Failure failure = makeTable())
+    if (Failure failure = createTable())
         return failure;
     if (guard) {
         const auto value = select(*guard);
@@ -307,7 +306,7 @@ SuiteDatabase::Failure SuiteDatabase::writeInTransaction(
     return execute("COMMIT");
 }
 
-SuiteDatabase::Failure SuiteDatabase::makeTable()
+SuiteDatabase::Failure SuiteDatabase::createTable()
 {
     const auto found = content();
     if (!found)
@@ -326,7 +325,7 @@ SuiteDatabase::Failure SuiteDatabase::makeTable()
 SuiteDatabase::Failure SuiteDatabase::store(const DefaultsEntry &entry)
 {
     const Statement statement =
-        prepared(m_database, "INSERT OR REPLACE INTO preference (key, type, value) VALUES (?1, ?2, ?3)");
+        prepare(m_database, "INSERT OR REPLACE INTO preference (key, type, value) VALUES (?1, ?2, ?3)");
     if (!statement || bindText(statement, 1, entry.key.toUtf8()) != SQLITE_OK
         || bindText(statement, 2, typeNames[entry.value.index()]) != SQLITE_OK
         || bindValue(statement, 3, entry.value) != SQLITE_OK)

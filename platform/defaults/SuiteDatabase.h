@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// SuiteDatabase keeps the values of one suite in an SQLite file and names what is wrong with that file; what
-// to do about it is left to UserDefaults. Thread: one at a time.  Owner: UserDefaults.
+// SuiteDatabase stores the values of one suite in an SQLite file and reports what is wrong with that file;
+// UserDefaults handles these faults.
+// Thread: any, one at a time.  Owner: UserDefaults.
 #pragma once
 
 #include "platform/defaults/DefaultsValue.h"
@@ -18,19 +19,19 @@ struct sqlite3;
 
 struct SuiteFault {
     enum class Kind {
-        Broken, ///< this is no usable suite and never will be: not a database, damaged, another program's
-        Busy, ///< another process holds it locked
-        Other, ///< may pass: permissions, a full disk, a missing folder
+        Broken, ///< permanent: not a database, damaged, another program's
+        Busy, ///< another process has locked it
+        Other, ///< may be temporary: permissions, a full disk, a missing folder
     };
     Kind kind;
     QString reason; ///< for the log; names no file
 };
 
-/// Every access looks whether the path still leads to the file that is open, and opens what is there now. The
-/// file is checked whole when it is opened, and closed after every fault.
+/// Every access checks whether the open file is still the one at the path, and otherwise opens that one. The
+/// whole file is checked when it is opened; it is closed after every fault.
 class SuiteDatabase {
 public:
-    /// path: in the file system's bytes. Nothing is touched before the first access.
+    /// path: bytes in any encoding. Nothing is opened before the first access.
     explicit SuiteDatabase(QByteArray path);
     SuiteDatabase(const SuiteDatabase &) = delete;
     SuiteDatabase &operator=(const SuiteDatabase &) = delete;
@@ -38,15 +39,15 @@ public:
 
     [[nodiscard]] const QByteArray &path() const { return m_path; }
 
-    /// How long the accesses to come wait for other processes.
+    /// How long later accesses wait for other processes.
     void setTimeout(std::chrono::milliseconds timeout);
 
-    /// Absent where there is no file, or no such key in it. Never makes a file.
+    /// Absent if there is no file, or no such key in it. Never creates a file.
     Result<std::optional<DefaultsValue>, SuiteFault> read(const QString &key);
 
-    /// Writes all entries in order and in one transaction, or none; returns what went wrong, absent where
-    /// everything is on the disk. Makes the file where it is missing, but not its folder. With a guard,
-    /// nothing is written, and that is no fault, where the guard's value reads true inside the transaction.
+    /// Writes all entries in order and in one transaction, or none; absent once everything is on disk.
+    /// Creates the file if it is missing, but not its folder. If there is a guard and its value reads true
+    /// inside the transaction, writes nothing, which is not a fault.
     std::optional<SuiteFault> write(
         const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
 
@@ -64,7 +65,7 @@ private:
 
     Result<Content, SuiteFault> content();
     Failure checkIntegrity();
-    Failure makeTable();
+    Failure createTable();
     Failure writeInTransaction(
         const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
     Result<std::optional<DefaultsValue>, SuiteFault> select(const QString &key);

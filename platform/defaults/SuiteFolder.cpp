@@ -16,7 +16,7 @@
 
 int makeFolder(const QByteArray &path)
 {
-    // The rules of XDG base directories ask for 0700 where a program makes such a folder.
+    // The XDG Base Directory Specification requires 0700.
     constexpr mode_t mode = 0700;
     if (::mkdir(path.constData(), mode) == 0 || errno == EEXIST)
         return 0;
@@ -28,18 +28,18 @@ int makeFolder(const QByteArray &path)
     return ::mkdir(path.constData(), mode) == 0 || errno == EEXIST ? 0 : errno;
 }
 
-FolderLock::FolderLock(const QByteArray &folder, std::chrono::milliseconds limit)
+FolderLock::FolderLock(const QByteArray &folder, std::chrono::milliseconds timeout)
     : m_descriptor(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
 {
-    if (m_descriptor < 0) {
+    if (!m_descriptor) {
         m_error = errno;
         return;
     }
-    // Waiting inside flock() cannot be bounded. The steps are short against one write, so that a process that
-    // writes without pause does not shut the others out.
+    // flock() has no timeout. The steps are shorter than one write, so that a process that writes without
+    // pause does not keep the others out.
     constexpr std::chrono::microseconds step(200);
-    const auto deadline = std::chrono::steady_clock::now() + limit;
-    while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
+    while (::flock(m_descriptor.get(), LOCK_EX | LOCK_NB) != 0) {
         m_error = errno;
         if ((m_error != EWOULDBLOCK && m_error != EINTR) || std::chrono::steady_clock::now() >= deadline)
             return;
@@ -50,12 +50,9 @@ FolderLock::FolderLock(const QByteArray &folder, std::chrono::milliseconds limit
 
 FolderLock::~FolderLock()
 {
-    if (m_descriptor < 0)
-        return;
-    // Closing alone would leave the lock to a child that another thread forks just now, until it execs.
-    if (m_error == 0)
-        ::flock(m_descriptor, LOCK_UN);
-    ::close(m_descriptor);
+    // Closing alone would leave the lock to a child that another thread is forking, until its exec.
+    if (m_descriptor && m_error == 0)
+        ::flock(m_descriptor.get(), LOCK_UN);
 }
 
 QByteArray putAside(const QByteArray &databasePath)
@@ -69,7 +66,7 @@ QByteArray putAside(const QByteArray &databasePath)
     QByteArray to = from + ".broken-"
         + QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd-hhmmss").toLatin1() + '-'
         + QByteArray::number(QRandomGenerator::system()->generate(), 16);
-    // The journal goes first: left behind, it would be played back into the fresh database.
+    // The journal first: if it stayed, SQLite would apply it to the new database.
     for (const char *suffix : {"-journal", "-wal", "-shm", ""}) {
         if (::rename((from + suffix).constData(), (to + suffix).constData()) != 0
             && (errno != ENOENT || *suffix == '\0'))

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds timeoutAfterFirst(20);
+constexpr std::chrono::milliseconds timeoutAfterExpiry(20);
 
 QByteArray folderOfSuites()
 {
@@ -35,12 +35,12 @@ UserDefaults::UserDefaults(const QString &suiteName, std::chrono::milliseconds t
 
 Result<std::optional<DefaultsValue>, SuiteFault> UserDefaults::readObjectForKey(const QString &key) const
 {
-    if (key.size() > maximalKeyLength)
+    if (key.size() > maxKeyLength)
         return std::optional<DefaultsValue>();
     const std::lock_guard guard(m_mutex);
     m_database.setTimeout(timeout(m_reading));
     auto value = m_database.read(key);
-    note(m_reading, value ? std::nullopt : std::optional(value.error()));
+    recordOutcome(m_reading, value ? std::nullopt : std::optional(value.error()));
     return value;
 }
 
@@ -62,21 +62,6 @@ qint64 UserDefaults::integerForKey(const QString &key) const
     return value ? integerValue(*value) : 0;
 }
 
-bool UserDefaults::setBool(bool value, const QString &forKey)
-{
-    return setObject(value, forKey);
-}
-
-bool UserDefaults::setInteger(qint64 value, const QString &forKey)
-{
-    return setObject(value, forKey);
-}
-
-bool UserDefaults::setDouble(double value, const QString &forKey)
-{
-    return setObject(value, forKey);
-}
-
 bool UserDefaults::setObject(const DefaultsValue &value, const QString &forKey)
 {
     return setObjects({{forKey, value}});
@@ -94,12 +79,12 @@ bool UserDefaults::setObjectsUnless(const QString &guard, const std::vector<Defa
 
 bool UserDefaults::write(const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard)
 {
-    const auto acceptable = [this](const DefaultsEntry &entry) { return isAcceptable(entry); };
-    if (!std::all_of(entries.begin(), entries.end(), acceptable))
+    const auto canStore = [this](const DefaultsEntry &entry) { return canBeStored(entry); };
+    if (!std::all_of(entries.begin(), entries.end(), canStore))
         return false;
     const std::lock_guard lock(m_mutex);
     const auto fault = writeUnderLock(entries, guard);
-    note(m_writing, fault);
+    recordOutcome(m_writing, fault);
     return !fault;
 }
 
@@ -117,8 +102,8 @@ std::optional<SuiteFault> UserDefaults::writeUnderLock(
     auto fault = m_database.write(entries, guard);
     if (!fault || fault->kind != SuiteFault::Kind::Broken)
         return fault;
-    // The write has just looked at what the path leads to, and nobody else may change that while the lock is
-    // held: what is put aside is what was found broken.
+    // The failed write has checked the file at the path, and nobody replaces it while the lock is held: the
+    // file that is put aside is the broken one.
     if (auto failure = putBrokenFileAside(*fault))
         return failure;
     return m_database.write(entries, guard);
@@ -130,41 +115,41 @@ std::optional<SuiteFault> UserDefaults::putBrokenFileAside(const SuiteFault &fau
     if (path.isEmpty())
         return SuiteFault{
             SuiteFault::Kind::Other, fault.reason + QStringLiteral("; ") + systemErrorText(errno)};
-    LogChannel::standard().notice(u"Preference suite {} could not be used: {}. It is kept as {}",
+    LogChannel::standard().notice(u"Preference suite {} could not be used: {}; renamed it to {}",
         {publicly(m_suiteName), publicly(fault.reason),
             publicly(QFile::decodeName(path.sliced(path.lastIndexOf('/') + 1)))});
     return std::nullopt;
 }
 
-bool UserDefaults::isAcceptable(const DefaultsEntry &entry) const
+bool UserDefaults::canBeStored(const DefaultsEntry &entry) const
 {
     QString reason;
     const auto *number = std::get_if<double>(&entry.value);
     const auto *text = std::get_if<QString>(&entry.value);
-    if (entry.key.size() > maximalKeyLength)
+    if (entry.key.size() > maxKeyLength)
         reason = QStringLiteral("its key is too long");
     else if (number && !std::isfinite(*number))
         reason = QStringLiteral("it is not a finite number");
-    else if (text && text->size() > maximalTextLength)
+    else if (text && text->size() > maxTextLength)
         reason = QStringLiteral("it is too long");
     else
         return true;
     LogChannel::standard().error(u"Preference suite {} refuses a value for {}: {}",
-        {publicly(m_suiteName), publicly(entry.key.left(maximalKeyLength)), publicly(reason)});
+        {publicly(m_suiteName), publicly(entry.key.left(maxKeyLength)), publicly(reason)});
     return false;
 }
 
-void UserDefaults::note(Episode &episode, const std::optional<SuiteFault> &fault) const
+void UserDefaults::recordOutcome(Episode &episode, const std::optional<SuiteFault> &fault) const
 {
-    // What prevents both reading and writing is one fault.
+    // A fault of both reading and writing is logged once.
     const Episode &other = &episode == &m_reading ? m_writing : m_reading;
     if (fault && episode.reason.isEmpty() && other.reason != fault->reason)
         LogChannel::standard().error(episode.message, {publicly(m_suiteName), publicly(fault->reason)});
     episode.reason = fault ? fault->reason : QString();
-    episode.waitedInVain = fault && fault->kind == SuiteFault::Kind::Busy;
+    episode.hasTimedOut = fault && fault->kind == SuiteFault::Kind::Busy;
 }
 
 std::chrono::milliseconds UserDefaults::timeout(const Episode &episode) const
 {
-    return episode.waitedInVain ? std::min(m_timeout, timeoutAfterFirst) : m_timeout;
+    return episode.hasTimedOut ? std::min(m_timeout, timeoutAfterExpiry) : m_timeout;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// UserDefaults is one suite of key-value pairs on disk that all processes of the user share.
+// UserDefaults is a suite of key-value pairs on disk that all processes of the user share.
 // Thread: any.  Owner: anyone; several objects and processes may have the same suite open.
 #pragma once
 
@@ -14,27 +14,26 @@
 #include <vector>
 
 /// A suite is a small SQLite database, "quillbay/<suite name>.sqlite3" in the user's configuration folder. It
-/// is opened at the first access; reading makes neither file nor folder. There is no cache: a getter returns
-/// what was written last, by whatever process. A setter returns when the value is on the disk.
+/// is opened at the first access; reading creates neither file nor folder. There is no cache: a getter
+/// returns what was written last, by any process. A setter returns when the value is on disk.
 ///
-/// Nothing here fails loudly. What cannot be read is absent, what cannot be written leaves the old values,
-/// and the standard log gets one line for as long as the fault lasts. A file that is no usable suite
-/// (damaged, not a database, another program's) reads as empty; the next write first renames it to
-/// "<file>.broken-<time>-<number>".
+/// A value that cannot be read is absent, a failed write leaves the old values, and the standard log gets one
+/// line until the fault is over. A file that is not a usable suite (damaged, not a database, another
+/// program's) reads as empty; the next write first renames it to "<file>.broken-<time>-<number>".
 class UserDefaults {
 public:
-    static constexpr qsizetype maximalKeyLength = 256; ///< UTF-16 code units
-    static constexpr qsizetype maximalTextLength = 65'536; ///< UTF-16 code units
+    static constexpr qsizetype maxKeyLength = 256; ///< UTF-16 code units
+    static constexpr qsizetype maxTextLength = 65'536; ///< UTF-16 code units
     static constexpr std::chrono::milliseconds defaultTimeout{5000};
 
-    /// suiteName: not empty, usable as a file name. timeout: how long an access waits while other processes
-    /// keep the suite locked; once it has run out, the accesses after it hardly wait until one has succeeded.
+    /// suiteName: not empty, usable as a file name. timeout: the maximum wait for other processes that keep
+    /// the suite locked; after it has expired once, accesses wait 20 ms until one succeeds.
     explicit UserDefaults(const QString &suiteName, std::chrono::milliseconds timeout = defaultTimeout);
     UserDefaults(const UserDefaults &) = delete;
     UserDefaults &operator=(const UserDefaults &) = delete;
 
-    /// The value as it was written; absent if the key never was, or is longer than any that can be written. A
-    /// fault where nobody can tell: the key may have a value.
+    /// The value as it was written; absent if the key was never written or is too long. A fault if the suite
+    /// cannot be read: the key may have a value.
     [[nodiscard]] Result<std::optional<DefaultsValue>, SuiteFault> readObjectForKey(const QString &key) const;
     /// The same, absent also after a fault.
     [[nodiscard]] std::optional<DefaultsValue> objectForKey(const QString &key) const;
@@ -43,33 +42,31 @@ public:
     /// 0 for an absent value; others as integerValue() says.
     [[nodiscard]] qint64 integerForKey(const QString &key) const;
 
-    // Setters return whether the value is on the disk. Infinite numbers, NaN, and keys and texts beyond the
+    // Setters return whether the value is on disk. Infinite numbers, NaN, and keys and texts beyond the
     // limits are refused with a line in the log. Lone surrogates in a text are stored as U+FFFD.
-    bool setBool(bool value, const QString &forKey);
-    bool setInteger(qint64 value, const QString &forKey);
-    bool setDouble(double value, const QString &forKey);
+
     bool setObject(const DefaultsValue &value, const QString &forKey);
 
-    /// Writes all entries, in order, in one transaction: no other process ever sees some of them only.
+    /// Writes all entries, in order, in one transaction: other processes see all of them or none.
     bool setObjects(const std::vector<DefaultsEntry> &entries);
-    /// The same, unless the guard's value reads true: then nothing is written, and that counts as success. No
-    /// other process writes between the look at the guard and the end of the transaction.
+    /// The same, unless the guard's value reads true: then nothing is written, and that is a success. No
+    /// other process writes between the check of the guard and the end of the transaction.
     bool setObjectsUnless(const QString &guard, const std::vector<DefaultsEntry> &entries);
 
 private:
-    // A fault of one kind of access, from its first appearance until that access works again.
+    // A fault of one kind of access, from its first occurrence until that access succeeds.
     struct Episode {
         const char16_t *message;
-        QString reason{}; // of the fault that lasts, empty where there is none
-        bool waitedInVain = false;
+        QString reason{}; // empty if there is no fault
+        bool hasTimedOut = false;
     };
 
     bool write(const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
     std::optional<SuiteFault> writeUnderLock(
         const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
     std::optional<SuiteFault> putBrokenFileAside(const SuiteFault &fault);
-    [[nodiscard]] bool isAcceptable(const DefaultsEntry &entry) const;
-    void note(Episode &episode, const std::optional<SuiteFault> &fault) const;
+    [[nodiscard]] bool canBeStored(const DefaultsEntry &entry) const;
+    void recordOutcome(Episode &episode, const std::optional<SuiteFault> &fault) const;
     [[nodiscard]] std::chrono::milliseconds timeout(const Episode &episode) const;
 
     const QString m_suiteName;

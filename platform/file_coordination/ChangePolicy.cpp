@@ -35,34 +35,34 @@ void ChangePolicy::note(FileEvent event, Clock::Time now)
 ChangePolicy::Verdict ChangePolicy::look(const FileSighting &seen, Clock::Time now)
 {
     if (!seen.state)
-        return lookAtNothing(seen, now);
+        return lookWithoutFile(seen, now);
     m_missingSince.reset();
     if (seen.state != m_lastSeen)
         m_lastActivity = now;
     m_lastSeen = seen.state;
-    // Writing through mapped memory is told by nothing but the closing at its end and seen by nothing but the
-    // times. Most files that are closed unchanged have just been opened for writing.
+    // Writing through mapped memory has no event but the final closing, and shows only in the times. Most
+    // files that are closed unchanged were just opened for writing.
     if (!m_isWritten && m_known == seen.state) {
         m_isFinished = false;
         return {};
     }
     if (!m_changedSince)
         m_changedSince = now;
-    // An empty file is most often one whose contents are about to come.
+    // An empty file will usually get its contents soon.
     const bool isWhole = m_isFinished && seen.state->size > 0;
     const Clock::Time settled = std::min(m_lastActivity + quiet, *m_changedSince + maxDelay);
     if (!isWhole && now < settled)
         return {std::nullopt, settled};
-    if (m_lastTold && now < *m_lastTold + burst)
-        return {std::nullopt, *m_lastTold + burst};
-    const Clock::Time outwaited = std::min(m_lastActivity + lockTimeout, *m_changedSince + maxLockDelay);
-    if (now < outwaited && seen.isLocked && seen.isLocked())
-        return {std::nullopt, outwaited};
+    if (m_lastReport && now < *m_lastReport + burst)
+        return {std::nullopt, *m_lastReport + burst};
+    const Clock::Time lockDeadline = std::min(m_lastActivity + lockTimeout, *m_changedSince + maxLockDelay);
+    if (now < lockDeadline && seen.isLocked && seen.isLocked())
+        return {std::nullopt, lockDeadline};
     m_known = seen.state;
     m_isWritten = false;
     m_isFinished = false;
     m_changedSince.reset();
-    m_lastTold = now;
+    m_lastReport = now;
     return {FileNews{FileNews::Kind::Changed, {}}, std::nullopt};
 }
 
@@ -71,9 +71,9 @@ bool ChangePolicy::isQuiet(Clock::Time now) const
     return !m_changedSince && now >= m_lastActivity + lockTimeout;
 }
 
-ChangePolicy::Verdict ChangePolicy::lookAtNothing(const FileSighting &seen, Clock::Time now)
+ChangePolicy::Verdict ChangePolicy::lookWithoutFile(const FileSighting &seen, Clock::Time now)
 {
-    // What has never been there cannot go; it may still come.
+    // There never was a file; it may still appear.
     if (!m_known)
         return {};
     if (!m_missingSince)
@@ -82,6 +82,7 @@ ChangePolicy::Verdict ChangePolicy::lookAtNothing(const FileSighting &seen, Cloc
         return {std::nullopt, *m_missingSince + grace};
     if (!seen.whereabouts)
         return {FileNews{FileNews::Kind::Deleted, {}}, std::nullopt};
-    const bool changedToo = m_isWritten || !seen.stateThere || !haveSameContents(*seen.stateThere, *m_known);
-    return {FileNews{FileNews::Kind::Moved, *seen.whereabouts, changedToo}, std::nullopt};
+    const bool hasChangedToo =
+        m_isWritten || !seen.stateThere || !haveSameContents(*seen.stateThere, *m_known);
+    return {FileNews{FileNews::Kind::Moved, *seen.whereabouts, hasChangedToo}, std::nullopt};
 }

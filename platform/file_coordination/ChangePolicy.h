@@ -1,23 +1,34 @@
 // SPDX-License-Identifier: MIT
-// ChangePolicy decides what the events at a file and looks at its path amount to: one change, a move, a
-// deletion or nothing yet. It asks the system for nothing; who uses it reports what happens and looks when
-// told to. Thread: any; a value.
+// ChangePolicy decides what the events of a file and the states found at its path mean: a change, a move, a
+// deletion or nothing yet. It makes no system calls; its user passes it the events and looks at the path when
+// asked to.
+// Thread: any; a value.
 #pragma once
 
-#include "platform/file_coordination/FileEvent.h"
 #include "platform/file_coordination/FileState.h"
 #include "platform/system/Clock.h"
 
 #include <functional>
 #include <optional>
 
-/// What a look at the path of a file has found.
+/// What the system reports about a file or its name.
+enum class FileEvent {
+    Written, ///< contents or size changed
+    Closed, ///< closed by a process that could write to it
+    Replaced, ///< another file was moved to the name; its contents are complete
+    Created, ///< a file appeared under the name, perhaps still without its contents
+    Gone, ///< the name disappeared
+    FolderMoved, ///< a folder of the path was moved, or a symbolic link in it changed
+    Unknown, ///< events were lost
+};
+
+/// What was found at the path of a file.
 struct FileSighting {
     std::optional<FileState> state; ///< of what the path names now; absent: nothing
-    /// Where nothing is at the path: where the file last seen there is now; absent: deleted or thrown away.
+    /// If nothing is at the path: where the file last seen there is now; absent: deleted or in the trash.
     std::optional<QByteArray> whereabouts;
     std::optional<FileState> stateThere;
-    /// Whether a writer has locked the file; asked only before a change is told. Empty: not locked.
+    /// Whether a writer has locked the file; called only before a change is reported. Empty: not locked.
     std::function<bool()> isLocked;
 };
 
@@ -25,26 +36,26 @@ struct FileNews {
     enum class Kind { Changed, Moved, Deleted };
 
     Kind kind;
-    QByteArray path; ///< of a move: to where
-    bool changedToo = false; ///< of a move: whether the contents have changed besides
+    QByteArray path; ///< of a move: the new path
+    bool hasChangedToo = false; ///< of a move: whether the contents changed as well
 };
 
-/// The path decides first: whatever is at it is the document, as programs save by putting another file there.
-/// Only once it has been empty for the grace, the file that was there last is looked for.
+/// The path decides: whatever is there is the document, since programs save by putting another file there.
+/// The file that was there last is looked for only after nothing has been at the path for the grace period.
 class ChangePolicy {
 public:
-    /// How long a writer that has not finished must have been quiet.
+    /// How long a writer that has not finished must be quiet before a change is reported.
     static constexpr Clock::Time quiet{150};
     /// How long a name may be missing while a program puts another file under it.
     static constexpr Clock::Time grace{500};
-    /// The least time between the news of two changes: those of a burst become one.
+    /// The minimum time between two reports: the changes of a burst are reported as one.
     static constexpr Clock::Time burst{100};
-    /// When a change is told although its writer never pauses.
+    /// When a change is reported although its writer never pauses.
     static constexpr Clock::Time maxDelay{2000};
-    /// How long the writer of a locked file must have been quiet. Some programs keep their lock for as long
-    /// as they show the document, so a lock only delays a change.
+    /// How long the writer of a locked file must be quiet. Some programs keep their lock as long as they show
+    /// the document, so a lock only delays a change.
     static constexpr Clock::Time lockTimeout{300};
-    /// When a change is told although the writer that has locked the file never pauses.
+    /// When a change of a locked file is reported although its writer never pauses.
     static constexpr Clock::Time maxLockDelay{10'000};
 
     struct Verdict {
@@ -53,26 +64,24 @@ public:
     };
 
     ChangePolicy() = default;
-    /// known: the state of the file at the start; absent: there is none yet.
+    /// known: the state of the file at the start; absent: there is no file yet.
     explicit ChangePolicy(const std::optional<FileState> &known);
 
     void note(FileEvent event, Clock::Time now);
-    /// To be asked after events and at the time that the last verdict named. After a move or a deletion
-    /// there is nothing more to be asked.
+    /// To be called after events and at the time of the last verdict; not after a move or a deletion.
     Verdict look(const FileSighting &seen, Clock::Time now);
-    /// Whether nothing has happened to the file for as long as lockTimeout, and all that happened before is
-    /// told.
+    /// Whether nothing has happened to the file for lockTimeout, and everything before was reported.
     [[nodiscard]] bool isQuiet(Clock::Time now) const;
 
 private:
-    Verdict lookAtNothing(const FileSighting &seen, Clock::Time now);
+    Verdict lookWithoutFile(const FileSighting &seen, Clock::Time now);
 
-    std::optional<FileState> m_known; // as of the last news
+    std::optional<FileState> m_known; // at the last report
     std::optional<FileState> m_lastSeen;
-    bool m_isWritten = false; // since the last news
-    bool m_isFinished = false; // the last event says that the writer has finished
+    bool m_isWritten = false; // since the last report
+    bool m_isFinished = false; // according to the last event
     Clock::Time m_lastActivity{};
     std::optional<Clock::Time> m_missingSince;
     std::optional<Clock::Time> m_changedSince;
-    std::optional<Clock::Time> m_lastTold;
+    std::optional<Clock::Time> m_lastReport;
 };

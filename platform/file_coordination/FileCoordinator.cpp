@@ -2,7 +2,18 @@
 #include "platform/file_coordination/FileCoordinator.h"
 
 #include "platform/file_coordination/CoordinatedAccess.h"
-#include "platform/file_coordination/FilePresentations.h"
+#include "platform/file_coordination/FilePresentation.h"
+
+QString causeText(const CoordinationError &error)
+{
+    switch (error.cause) {
+    case CoordinationError::Cause::LockedByWriter:
+        return QStringLiteral("is locked by a program that writes to it");
+    case CoordinationError::Cause::NotRelinquished:
+        break;
+    }
+    return QStringLiteral("is not relinquished by its presenter");
+}
 
 FilePresenter::~FilePresenter()
 {
@@ -19,10 +30,10 @@ void FileCoordinator::removeFilePresenter(const FilePresenter *presenter)
     FilePresentations::instance().remove(presenter);
 }
 
-void FileCoordinator::tellChangeAgain(const FilePresenter *presenter)
+void FileCoordinator::reportChangeAgain(const FilePresenter *presenter)
 {
     if (const auto presentation = FilePresentations::instance().of(presenter))
-        presentation->tellChange();
+        presentation->reportChange();
 }
 
 FileCoordinator::FileCoordinator(const FilePresenter *filePresenter, Clock &clock)
@@ -38,13 +49,14 @@ FileCoordinator::~FileCoordinator()
 std::optional<CoordinationError> FileCoordinator::coordinateReadingItemAtURL(
     const QUrl &url, const Accessor &byAccessor)
 {
-    const std::shared_ptr<CoordinatedAccess> access = m_access; // outlives this object if it must
+    const std::shared_ptr<CoordinatedAccess> access =
+        m_access; // an event may destroy this object during the access
     return access->read(url, byAccessor);
 }
 
-bool FileCoordinator::triesAgain()
+bool FileCoordinator::willRetry()
 {
-    return m_access->triesAgain();
+    return m_access->willRetry();
 }
 
 std::optional<CoordinationError> FileCoordinator::coordinateWritingItemAtURL(

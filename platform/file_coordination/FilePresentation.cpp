@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/FilePresentation.h"
 
-#include "platform/file_coordination/FilePlaces.h"
-#include "platform/file_coordination/FilePresentations.h"
-#include "platform/file_coordination/HeldFiles.h"
-#include "platform/file_coordination/WriterLock.h"
 #include "platform/logging/LogChannel.h"
 #include "platform/system/FileURL.h"
 #include "platform/system/SystemError.h"
@@ -17,7 +13,7 @@
 
 namespace {
 
-/// Whether something else may have to be watched from now on.
+/// Whether other files and folders may have to be watched now.
 bool concernsNames(FileEvent event)
 {
     return event != FileEvent::Written && event != FileEvent::Closed;
@@ -30,7 +26,7 @@ FilePresentation::FilePresentation(FilePresenter &presenter, Clock &clock)
     , m_clock(clock)
     , m_lookTimer(clock.makeTimer([this] { look(); }))
     , m_pollTimer(clock.makeTimer([this] { look(); }))
-    , m_expectationTimer(clock.makeTimer([this] { tellExpectedChange(); }))
+    , m_expectationTimer(clock.makeTimer([this] { reportExpectedChange(); }))
 {
     if (m_watches.descriptor() < 0)
         return;
@@ -54,24 +50,24 @@ void FilePresentation::end()
     m_pin = PinnedFile();
 }
 
-void FilePresentation::tellChange()
+void FilePresentation::reportChange()
 {
     m_policy.note(FileEvent::Replaced, m_clock.now());
     m_lookTimer->start(std::chrono::milliseconds(0));
 }
 
-void FilePresentation::tellChangeOnceUnlocked()
+void FilePresentation::reportChangeOnceUnlocked()
 {
     if (!m_hasEnded)
         m_expectationTimer->start(pollInterval);
 }
 
-void FilePresentation::tellExpectedChange()
+void FilePresentation::reportExpectedChange()
 {
     if (isLockedByWriter(m_path))
-        tellChangeOnceUnlocked();
+        reportChangeOnceUnlocked();
     else
-        tellChange();
+        reportChange();
 }
 
 bool FilePresentation::mayBeReadWhileLocked()
@@ -81,7 +77,7 @@ bool FilePresentation::mayBeReadWhileLocked()
     look();
     if (m_hasEnded || m_policy.isQuiet(m_clock.now()))
         return true;
-    tellChange();
+    reportChange();
     return false;
 }
 
@@ -93,14 +89,14 @@ void FilePresentation::lookAfterReading()
 
 void FilePresentation::lend()
 {
-    ++m_lentTo;
+    ++m_lentCount;
 }
 
 void FilePresentation::takeBack()
 {
-    --m_lentTo;
-    // Looked at from the event loop: who borrowed the file is still at work.
-    if (m_lentTo == 0 && !m_hasEnded)
+    --m_lentCount;
+    // From the event loop: the borrower is still at work.
+    if (m_lentCount == 0 && !m_hasEnded)
         m_lookTimer->start(std::chrono::milliseconds(0));
 }
 
@@ -110,10 +106,10 @@ void FilePresentation::follow(const QByteArray &path)
     m_isPolling = false;
     m_isFolderMissing = false;
     m_pollTimer->stop();
-    // Watched before it is looked at, so that no change falls between the two.
+    // Watched before it is looked at, so that no change is missed between the two.
     if (const std::optional<int> systemError = m_watches.watch(m_path))
         poll(*systemError);
-    else if (changesUnnoticed(m_path))
+    else if (mayChangeUnnoticed(m_path))
         poll(0);
     m_pin = PinnedFile(m_path);
     m_policy = ChangePolicy(sight().state);
@@ -122,7 +118,7 @@ void FilePresentation::follow(const QByteArray &path)
 void FilePresentation::watch()
 {
     const std::optional<int> systemError = m_watches.watch(m_path);
-    // A folder that is missing may be on its way back; the policy's grace will tell.
+    // A missing folder may come back within the grace period.
     const int error = systemError.value_or(0);
     m_isFolderMissing = error == ENOENT || error == ENOTDIR;
     if (error && !m_isFolderMissing)
@@ -134,9 +130,8 @@ void FilePresentation::poll(int systemError)
     if (std::exchange(m_isPolling, true))
         return;
     const QString reason =
-        systemError ? systemErrorText(systemError) : QStringLiteral("it is on a file system of that kind");
-    LogChannel::standard().notice(
-        u"The system may not tell of changes to {} ({}), so it is looked at every two seconds",
+        systemError ? systemErrorText(systemError) : QStringLiteral("unreliable file system");
+    LogChannel::standard().notice(u"Cannot rely on change events for {} ({}); checking it every two seconds",
         {QFile::decodeName(m_path), publicly(reason)});
     m_pollTimer->repeat(pollInterval);
 }
@@ -148,7 +143,7 @@ FileSighting FilePresentation::sight()
     seen.isLocked = [this] { return isLockedByWriter(m_path); };
     if (seen.state)
         return seen;
-    // The file is still where it was: it is a symbolic link, and what it led to has gone.
+    // If the pinned file is still there, it is a symbolic link whose target is missing.
     const std::optional<QByteArray> whereabouts = m_pin.whereabouts();
     if (!whereabouts || isInTrash(*whereabouts) || m_pin.isAt(m_path))
         return seen;
@@ -161,12 +156,12 @@ void FilePresentation::look()
 {
     if (m_hasEnded)
         return;
-    // What is told may end this presentation.
+    // The presenter may end this presentation.
     const std::shared_ptr<FilePresentation> self = shared_from_this();
     const std::vector<FileEvent> events = m_watches.takeEvents();
     for (const FileEvent event : events)
         m_policy.note(event, m_clock.now());
-    if (m_lentTo > 0)
+    if (m_lentCount > 0)
         return;
     const bool isElsewhere = !m_pin.isAt(m_path);
     if (isElsewhere || m_isFolderMissing || std::any_of(events.begin(), events.end(), concernsNames))
@@ -174,7 +169,7 @@ void FilePresentation::look()
     const FileSighting seen = sight();
     if (seen.state && isElsewhere) {
         m_pin = PinnedFile(m_path);
-        HeldFile::replacedAt(m_path);
+        HeldFile::replaceAt(m_path);
     }
     const Clock::Time now = m_clock.now();
     const ChangePolicy::Verdict verdict = m_policy.look(seen, now);
@@ -183,10 +178,10 @@ void FilePresentation::look()
     else
         m_lookTimer->stop();
     if (verdict.news)
-        tell(*verdict.news);
+        report(*verdict.news);
 }
 
-void FilePresentation::tell(const FileNews &news)
+void FilePresentation::report(const FileNews &news)
 {
     switch (news.kind) {
     case FileNews::Kind::Changed:
@@ -196,7 +191,7 @@ void FilePresentation::tell(const FileNews &news)
         m_isChangeToBeRead = false;
         break;
     case FileNews::Kind::Moved:
-        tellMove(news);
+        reportMove(news);
         break;
     case FileNews::Kind::Deleted:
         end();
@@ -206,14 +201,58 @@ void FilePresentation::tell(const FileNews &news)
     }
 }
 
-void FilePresentation::tellMove(const FileNews &news)
+void FilePresentation::reportMove(const FileNews &news)
 {
     FilePresenter *const presenter = m_presenter;
     follow(news.path);
     presenter->presentedItemDidMoveToURL(fileURLOfPath(news.path));
-    if (!news.changedToo)
+    if (!news.hasChangedToo)
         return;
-    // By now the presenter may have gone, or have been added anew.
+    // The presenter may have been removed, or added again, in the call.
     if (const auto presentation = FilePresentations::instance().of(presenter))
-        presentation->tellChange();
+        presentation->reportChange();
+}
+
+FilePresentations &FilePresentations::instance()
+{
+    // Never destroyed: presenters that are static objects remove themselves when the process exits.
+    static auto *const presentations = new FilePresentations;
+    return *presentations;
+}
+
+void FilePresentations::add(FilePresenter &presenter, Clock &clock)
+{
+    if (of(&presenter))
+        return;
+    m_presentations.push_back(std::make_shared<FilePresentation>(presenter, clock));
+    m_presentations.back()->begin();
+}
+
+void FilePresentations::remove(const FilePresenter *presenter)
+{
+    const auto found = std::find_if(m_presentations.begin(), m_presentations.end(),
+        [&](const auto &presentation) { return presentation->presenter() == presenter; });
+    if (found == m_presentations.end())
+        return;
+    (*found)->end();
+    m_presentations.erase(found);
+}
+
+std::shared_ptr<FilePresentation> FilePresentations::of(const FilePresenter *presenter) const
+{
+    for (const std::shared_ptr<FilePresentation> &presentation : m_presentations) {
+        if (presentation->presenter() == presenter)
+            return presentation;
+    }
+    return nullptr;
+}
+
+std::vector<std::shared_ptr<FilePresentation>> FilePresentations::at(const QByteArray &path) const
+{
+    std::vector<std::shared_ptr<FilePresentation>> found;
+    for (const std::shared_ptr<FilePresentation> &presentation : m_presentations) {
+        if (!presentation->hasEnded() && presentation->path() == path)
+            found.push_back(presentation);
+    }
+    return found;
 }

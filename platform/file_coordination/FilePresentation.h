@@ -1,23 +1,24 @@
 // SPDX-License-Identifier: MIT
-// FilePresentation follows the file of one presenter: it listens and looks, has ChangePolicy decide, and
-// tells.
-// Thread: main.  Owner: FilePresentations, and itself while it tells.
+// FilePresentation follows the file of one presenter: it receives events, looks at the path, lets
+// ChangePolicy decide, and calls the presenter. FilePresentations has those of all presenters of the process.
+// Thread: main.  Owner: FilePresentations, and itself while it calls the presenter.
 #pragma once
 
 #include "platform/file_coordination/ChangePolicy.h"
 #include "platform/file_coordination/FilePresenter.h"
 #include "platform/file_coordination/FileWatches.h"
-#include "platform/file_coordination/PinnedFile.h"
+#include "platform/file_coordination/HeldFiles.h"
 
 #include <QSocketNotifier>
 
 #include <memory>
+#include <vector>
 
-/// Where the system does not tell of changes, the log gets one line and the file is looked at every two
+/// If the system has no reliable events for the file, the log gets one line and the file is checked every two
 /// seconds.
 class FilePresentation : public std::enable_shared_from_this<FilePresentation> {
 public:
-    /// How often is looked for what the system does not tell.
+    /// How often a file without reliable events is checked.
     static constexpr std::chrono::milliseconds pollInterval{2000};
 
     FilePresentation(FilePresenter &presenter, Clock &clock);
@@ -25,29 +26,29 @@ public:
     FilePresentation &operator=(const FilePresentation &) = delete;
     ~FilePresentation() = default;
 
-    /// Follows the presenter's file as it is now; only what happens from here on is told.
+    /// Follows the presenter's file as it is now; reports only what happens from here on.
     void begin();
-    /// Nothing is told any more, not even what has happened already.
+    /// Reports nothing any more, not even what has happened already.
     void end();
 
-    /// Looks without waiting for an event; may tell.
+    /// Checks the file without waiting for an event; may call the presenter.
     void look();
-    /// To be called after the presenter has read the file. Where the system does not tell of changes, the
-    /// file is looked at from the event loop: another file may have come to its name, and be renamed next.
+    /// To be called after the presenter has read the file. A file without reliable events is checked by the
+    /// event loop then: another file may have appeared under its name, and be renamed next.
     void lookAfterReading();
 
-    /// Tells a change from the event loop, whether one is seen or not; of a locked file once its writer is
+    /// Reports a change from the event loop, even if there is none; of a locked file once its writer is
     /// quiet.
-    void tellChange();
-    /// The same only once no writer holds a lock on the file. Nothing tells of the end of a lock, so it is
-    /// looked for as often as in pollInterval.
-    void tellChangeOnceUnlocked();
+    void reportChange();
+    /// The same, once no writer holds a lock on the file. There is no event for the end of a lock, so it is
+    /// checked every pollInterval.
+    void reportChangeOnceUnlocked();
 
     /// For a reader that finds the file locked: whether its writer has been quiet for long enough. If not, a
-    /// change is told once it has, or has unlocked the file.
+    /// change is reported once it has, or has unlocked the file.
     bool mayBeReadWhileLocked();
 
-    // While it is lent, news wait.
+    // While the file is lent, nothing is reported.
     void lend();
     void takeBack();
 
@@ -60,9 +61,9 @@ private:
     void watch();
     void poll(int systemError);
     [[nodiscard]] FileSighting sight();
-    void tell(const FileNews &news);
-    void tellMove(const FileNews &news);
-    void tellExpectedChange();
+    void report(const FileNews &news);
+    void reportMove(const FileNews &news);
+    void reportExpectedChange();
 
     FilePresenter *m_presenter;
     bool m_hasEnded = false;
@@ -76,7 +77,25 @@ private:
     std::unique_ptr<ClockTimer> m_pollTimer;
     std::unique_ptr<ClockTimer> m_expectationTimer;
     bool m_isPolling = false;
-    bool m_isFolderMissing = false; // so that not everything is watched
-    bool m_isChangeToBeRead = false; // it has just been told
-    int m_lentTo = 0; // how many
+    bool m_isFolderMissing = false; // so not everything is watched
+    bool m_isChangeToBeRead = false; // it was just reported
+    int m_lentCount = 0;
+};
+
+/// The presentations of this process. Owned by the process.
+class FilePresentations {
+public:
+    static FilePresentations &instance();
+
+    /// Does nothing for a presenter that was added before.
+    void add(FilePresenter &presenter, Clock &clock);
+    void remove(const FilePresenter *presenter);
+
+    /// Null for a presenter that is not added.
+    [[nodiscard]] std::shared_ptr<FilePresentation> of(const FilePresenter *presenter) const;
+    /// Those of the file at this path.
+    [[nodiscard]] std::vector<std::shared_ptr<FilePresentation>> at(const QByteArray &path) const;
+
+private:
+    std::vector<std::shared_ptr<FilePresentation>> m_presentations;
 };

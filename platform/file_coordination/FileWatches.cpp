@@ -12,8 +12,7 @@ namespace {
 
 constexpr int maxLinks = 40; // as many symbolic links as the system follows (path_resolution(7))
 
-// Nothing is watched that programs do to the attributes alone: they do it after saving, and it changes no
-// text.
+// Changes of attributes alone are not watched: programs make them after saving, and they change no text.
 constexpr quint32 nameMask =
     IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_CLOSE_WRITE | IN_MOVE_SELF | IN_DELETE_SELF;
 constexpr quint32 folderMask = IN_MOVE_SELF | IN_DELETE_SELF;
@@ -26,7 +25,7 @@ QByteArray folderOf(const QByteArray &path)
     return slash <= 0 ? QByteArray("/") : path.first(slash);
 }
 
-/// What the symbolic link says; absent where it is none.
+/// The target of the symbolic link; absent if it is not one.
 std::optional<QByteArray> targetOfLink(const QByteArray &path)
 {
     QByteArray target(PATH_MAX, Qt::Uninitialized);
@@ -43,15 +42,15 @@ bool exists(const QByteArray &path)
     return ::lstat(path.constData(), &status) == 0;
 }
 
-/// A path as it is walked, name by name, as the system does (path_resolution(7)).
-class Way {
+/// Walks a path name by name, as the system does (path_resolution(7)).
+class PathWalk {
 public:
-    explicit Way(const QByteArray &path)
+    explicit PathWalk(const QByteArray &path)
         : m_names(path.split('/'))
     {
     }
 
-    /// Goes on to the next name; false at the end.
+    /// Advances to the next name; false at the end.
     bool next()
     {
         m_folder = m_path;
@@ -67,7 +66,7 @@ public:
         }
         return false;
     }
-    /// Goes on at the target of the link that it has come to.
+    /// Continues at the target of the current link.
     void follow(const QByteArray &target)
     {
         m_path = target.startsWith('/') ? QByteArray("/") : m_folder;
@@ -77,7 +76,7 @@ public:
     [[nodiscard]] const QByteArray &folder() const { return m_folder; } ///< without symbolic links
     [[nodiscard]] const QByteArray &name() const { return m_name; }
     [[nodiscard]] const QByteArray &path() const { return m_path; } ///< of the name in the folder
-    /// Whether no further name follows.
+    /// Whether this is the last name.
     [[nodiscard]] bool isAtEnd() const
     {
         return std::all_of(m_names.begin(), m_names.end(),
@@ -85,7 +84,7 @@ public:
     }
 
 private:
-    QByteArrayList m_names; // still to come
+    QByteArrayList m_names; // the remaining ones
     QByteArray m_path{"/"};
     QByteArray m_folder{"/"};
     QByteArray m_name;
@@ -101,7 +100,7 @@ std::optional<FileEvent> meaningForDocument(quint32 mask)
         return FileEvent::Replaced;
     if (mask & (IN_CREATE | IN_DELETE | IN_MOVED_FROM))
         return FileEvent::Written;
-    return FileEvent::Gone; // the watch has ended with the file
+    return FileEvent::Gone; // the watch ended with the file
 }
 
 std::optional<FileEvent> meaningForName(quint32 mask)
@@ -130,8 +129,8 @@ std::optional<int> FileWatches::watch(const QByteArray &path)
     if (!m_inotify)
         return m_systemError;
     Places places;
-    // Names first: a file that comes while the rest is set up is told of.
-    std::optional<int> error = watchWay(path, places);
+    // Names first: a file that appears during the rest of the setup has an event.
+    std::optional<int> error = watchPath(path, places);
     if (const std::optional<int> documentError = watchDocument(path, places); !error)
         error = documentError;
     for (const auto &[watch, place] : m_places) {
@@ -142,21 +141,21 @@ std::optional<int> FileWatches::watch(const QByteArray &path)
     return error;
 }
 
-std::optional<int> FileWatches::watchWay(const QByteArray &path, Places &places)
+std::optional<int> FileWatches::watchPath(const QByteArray &path, Places &places)
 {
     int links = 0;
-    for (Way way(path); links <= maxLinks && way.next();) {
-        if (way.folder().size() > 1)
-            add(way.folder(), folderMask, places, {});
-        // The name of a folder need not be watched: the folder itself is.
-        if (!way.isAtEnd() && !targetOfLink(way.path()) && exists(way.path()))
+    for (PathWalk walk(path); links <= maxLinks && walk.next();) {
+        if (walk.folder().size() > 1)
+            add(walk.folder(), folderMask, places, {});
+        // The name of an existing folder need not be watched: the folder itself is.
+        if (!walk.isAtEnd() && !targetOfLink(walk.path()) && exists(walk.path()))
             continue;
-        const QByteArrayList name{way.name()};
-        const Place place = way.isAtEnd() ? Place{false, name, {}} : Place{false, {}, name};
-        if (const std::optional<int> error = add(way.folder(), nameMask, places, place))
+        const QByteArrayList name{walk.name()};
+        const Place place = walk.isAtEnd() ? Place{false, name, {}} : Place{false, {}, name};
+        if (const std::optional<int> error = add(walk.folder(), nameMask, places, place))
             return error;
-        if (const std::optional<QByteArray> target = targetOfLink(way.path())) {
-            way.follow(*target);
+        if (const std::optional<QByteArray> target = targetOfLink(walk.path())) {
+            walk.follow(*target);
             ++links;
         }
     }
@@ -166,21 +165,21 @@ std::optional<int> FileWatches::watchWay(const QByteArray &path, Places &places)
 std::optional<int> FileWatches::watchDocument(const QByteArray &path, Places &places)
 {
     const std::optional<int> error =
-        add(path, documentMask, places, {.isDocument = true, .names = {}, .wayNames = {}});
-    // Its name is watched, so that its coming will be told.
+        add(path, documentMask, places, {.isDocument = true, .names = {}, .pathNames = {}});
+    // Its name is watched, so its appearance will have an event.
     return error == ENOENT ? std::nullopt : error;
 }
 
 std::optional<int> FileWatches::add(const QByteArray &path, quint32 mask, Places &places, const Place &place)
 {
-    // One folder can have several parts; its watch then serves them all.
+    // One folder can play several parts; its watch then serves them all.
     const int watch = ::inotify_add_watch(m_inotify.get(), path.constData(), mask | IN_MASK_ADD);
     if (watch < 0)
         return errno;
     Place &known = places[watch];
     known.isDocument = known.isDocument || place.isDocument;
     known.names += place.names;
-    known.wayNames += place.wayNames;
+    known.pathNames += place.pathNames;
     return std::nullopt;
 }
 
@@ -218,5 +217,5 @@ std::optional<FileEvent> FileWatches::meaning(const inotify_event &event, const 
     const auto named = QByteArray::fromRawData(name, qsizetype(std::strlen(name)));
     if (place.names.contains(named))
         return meaningForName(event.mask);
-    return place.wayNames.contains(named) ? std::optional(FileEvent::FolderMoved) : std::nullopt;
+    return place.pathNames.contains(named) ? std::optional(FileEvent::FolderMoved) : std::nullopt;
 }

@@ -2,10 +2,13 @@
 #include "platform/file_coordination/HeldFiles.h"
 
 #include <algorithm>
+#include <climits>
+#include <vector>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
-#include <vector>
+#include <unistd.h>
 
 namespace {
 
@@ -16,6 +19,35 @@ std::vector<HeldFile *> &heldFiles()
 }
 
 } // namespace
+
+PinnedFile::PinnedFile(const QByteArray &path)
+    : m_descriptor(::open(path.constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC))
+{
+}
+
+bool PinnedFile::isAt(const QByteArray &path) const
+{
+    struct stat pinned;
+    struct stat named;
+    return m_descriptor && ::fstat(m_descriptor.get(), &pinned) == 0 && ::lstat(path.constData(), &named) == 0
+        && pinned.st_dev == named.st_dev && pinned.st_ino == named.st_ino;
+}
+
+std::optional<QByteArray> PinnedFile::whereabouts() const
+{
+    if (!m_descriptor)
+        return std::nullopt;
+    const QByteArray link = "/proc/self/fd/" + QByteArray::number(m_descriptor.get());
+    QByteArray path(PATH_MAX, Qt::Uninitialized);
+    const ssize_t length = ::readlink(link.constData(), path.data(), static_cast<size_t>(path.size()));
+    if (length <= 0 || length == path.size())
+        return std::nullopt;
+    path.truncate(length);
+    // The kernel adds " (deleted)" to the name of a deleted file; another file may have that name.
+    if (!path.startsWith('/') || !isAt(path))
+        return std::nullopt;
+    return path;
+}
 
 std::optional<FileIdentity> fileIdentityAt(const QByteArray &path)
 {
@@ -62,7 +94,7 @@ std::optional<QByteArray> HeldFile::whereabouts(const FileIdentity &bookmarked)
     return std::nullopt;
 }
 
-void HeldFile::replacedAt(const QByteArray &path)
+void HeldFile::replaceAt(const QByteArray &path)
 {
     for (HeldFile *file : heldFiles()) {
         if (file->m_path != path)

@@ -10,16 +10,16 @@ namespace {
 
 constexpr quint32 signature = 0x51425931; // "QBY1"
 constexpr auto streamVersion = QDataStream::Qt_6_4;
-constexpr qsizetype longestBookmark = 8192; // bytes; a path has 4,096 at most
+constexpr qsizetype maxBookmarkSize = 8192; // bytes; a path has 4,096 at most
 
 struct Bookmark {
     QByteArray path;
     FileIdentity file;
 };
 
-std::optional<Bookmark> bookmarkFrom(const QByteArray &data)
+std::optional<Bookmark> parseBookmark(const QByteArray &data)
 {
-    if (data.size() > longestBookmark)
+    if (data.size() > maxBookmarkSize)
         return std::nullopt;
     QDataStream stream(data);
     stream.setVersion(streamVersion);
@@ -72,7 +72,7 @@ Result<QByteArray, BookmarkError> bookmarkDataOfURL(const QUrl &url)
 
 Result<SecurityScopedURL, BookmarkError> URLByResolvingBookmarkData(const QByteArray &bookmarkData)
 {
-    const std::optional<Bookmark> bookmark = bookmarkFrom(bookmarkData);
+    const std::optional<Bookmark> bookmark = parseBookmark(bookmarkData);
     if (!bookmark)
         return BookmarkError{BookmarkError::Cause::Damaged};
     std::optional<QByteArray> path = bookmark->path;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Security-scoped bookmarks: data that names a file the user has chosen, and the access to it that is opened
-// by that data and follows the file through moves. What the desktop has no rules for, a bookmark does not
-// grant: it makes no file readable that was not. Thread: main.
+// SecurityScopedBookmark makes data that names a file the user has chosen, and opens an access with it that
+// follows the file through moves. A bookmark grants no permissions: the user must be able to read the file
+// without it.
+// Thread: main.
 #pragma once
 
 #include "platform/file_coordination/HeldFiles.h"
@@ -13,9 +14,9 @@
 
 struct BookmarkError {
     enum class Cause {
-        NotALocalFile, ///< no file: URL
-        NoSuchFile, ///< nor has the bookmarked file been moved where it could be found
-        Damaged, ///< the data is no bookmark
+        NotALocalFile, ///< not a file: URL of this machine
+        NoSuchFile, ///< and no known place to which the bookmarked file was moved
+        Damaged, ///< the data is not a bookmark
     };
 
     Cause cause;
@@ -26,15 +27,15 @@ struct BookmarkError {
 /// The cause in English, on one line.
 QString causeText(const BookmarkError &error);
 
-/// The URL to which a bookmark leads, with the access that it can open. Its end closes an open access.
+/// The URL of a bookmark, with the access that it can open. Destroying it closes the access.
 class SecurityScopedURL {
 public:
     [[nodiscard]] const QUrl &url() const { return m_url; }
 
-    /// Opens the access, which takes one descriptor; false where the file has gone or may not be read. An
-    /// access that is open already stays so.
+    /// Opens the access, which needs one descriptor; false if the file does not exist or may not be read.
+    /// Does nothing if the access is open.
     [[nodiscard]] bool startAccessingSecurityScopedResource();
-    /// Closes the access. Harmless where there is none.
+    /// Closes the access. Harmless if there is none.
     void stopAccessingSecurityScopedResource() { m_heldFile.reset(); }
 
 private:
@@ -55,6 +56,6 @@ private:
 /// The bookmark of a file that exists: its path, device, inode number and birth time.
 Result<QByteArray, BookmarkError> bookmarkDataOfURL(const QUrl &url);
 
-/// Leads to what is at the bookmarked path, be it the same file or one that a program has saved in its place;
-/// where nothing is there, to where the file has been moved while an access to it was open.
+/// The URL of what is at the bookmarked path, the same file or one that a program saved in its place. If
+/// nothing is there, the place to which the file was moved while an access to it was open.
 Result<SecurityScopedURL, BookmarkError> URLByResolvingBookmarkData(const QByteArray &bookmarkData);

@@ -2,6 +2,7 @@
 #include "platform/files/FileContents.h"
 
 #include "platform/system/OwnedDescriptor.h"
+#include "platform/system/SystemError.h"
 
 #include <QByteArrayView>
 
@@ -20,6 +21,9 @@ using Contents = Result<QByteArray, FileError>;
 
 /// Whether a read may wait for what is yet to come.
 enum class Waiting { Never, Allowed };
+
+/// Bytes of memory for each byte of a file: itself and one UTF-16 code unit of its text.
+constexpr qint64 memoryPerByte = 3;
 
 constexpr qint64 firstPieceSize = 65'536; // bytes; what a pipe holds
 
@@ -84,7 +88,7 @@ ssize_t readPiece(int descriptor, char *to, qint64 size, Waiting waiting)
         const ssize_t count = ::read(descriptor, to, static_cast<size_t>(size));
         if (count >= 0)
             return count;
-        // Who gave us the descriptor may have made it non-blocking for a purpose of their own.
+        // The descriptor may be non-blocking for a purpose of its owner.
         if (errno == EAGAIN && waiting == Waiting::Allowed)
             waitUntilReadable(descriptor);
         else if (errno != EINTR)
@@ -92,8 +96,8 @@ ssize_t readPiece(int descriptor, char *to, qint64 size, Waiting waiting)
     }
 }
 
-/// Bytes that can be had without driving other programs out of memory; unbounded where the system does not
-/// tell, as in a sandbox.
+/// Bytes that are available without taking memory from other programs; no limit if the system does not report
+/// it, as in a sandbox.
 qint64 availableMemory()
 {
     constexpr qint64 unknown = INT64_MAX;
@@ -115,18 +119,18 @@ qint64 availableMemory()
     return kibibytes * 1024;
 }
 
-/// Absent where contents of this size may be read.
+/// Absent if contents of this size may be read.
 std::optional<FileError> errorForSize(qint64 size, const FileLimits &limits)
 {
-    if (size > limits.largestSize)
+    if (size > limits.maxSize)
         return FileError{FileError::Cause::TooLarge};
-    // Asked beforehand: memory that the system has promised and cannot give ends the process, not the read.
+    // Checked first: the system may grant memory that it does not have, and kill the process later.
     if (size > *limits.memory / memoryPerByte)
         return FileError{FileError::Cause::NotEnoughMemory};
     return std::nullopt;
 }
 
-/// size: what is read at most.
+/// size: the maximum number of bytes.
 Contents readUpTo(int descriptor, qint64 size, const FileLimits &limits)
 {
     if (const std::optional<FileError> error = errorForSize(size, limits))
@@ -153,7 +157,7 @@ Contents readToEnd(int descriptor, const FileLimits &limits, Waiting waiting)
         if (const std::optional<FileError> error = errorForSize(length, limits))
             return *error;
         if (length == contents.size())
-            contents.resize(std::min(std::max(2 * length, firstPieceSize), limits.largestSize + 1));
+            contents.resize(std::min(std::max(2 * length, firstPieceSize), limits.maxSize + 1));
         const ssize_t count =
             readPiece(descriptor, contents.data() + length, contents.size() - length, waiting);
         if (count < 0)
@@ -166,7 +170,7 @@ Contents readToEnd(int descriptor, const FileLimits &limits, Waiting waiting)
     return contents;
 }
 
-/// Of a regular file, from the descriptor's position on.
+/// Reads a regular file from the descriptor's position on.
 Contents readRegularFile(int descriptor, qint64 size, const FileLimits &limits)
 {
     if (size == 0)
@@ -179,13 +183,13 @@ Contents readRegularFile(int descriptor, qint64 size, const FileLimits &limits)
 
 Contents contentsOfPath(const QByteArray &path, const FileLimits &limits)
 {
-    // The system would take the name to end there, and open another file.
+    // The system would cut the name there, and open another file.
     if (path.contains('\0'))
         return FileError{FileError::Cause::NoSuchFile};
     struct stat status;
     if (::stat(path.constData(), &status) != 0)
         return errorFor(errno);
-    // Asked before it is opened: to open a device can rewind a tape or start a watchdog.
+    // Checked before it is opened: opening a device can rewind a tape or start a watchdog.
     if (const std::optional<FileError> error = errorForKind(status.st_mode))
         return *error;
     const OwnedDescriptor descriptor(openForReading(path));
@@ -193,7 +197,7 @@ Contents contentsOfPath(const QByteArray &path, const FileLimits &limits)
         return FileError{FileError::Cause::InUse};
     if (!descriptor || ::fstat(descriptor.get(), &status) != 0)
         return errorFor(errno);
-    // Asked again: another file may have come under that name.
+    // Checked again: another file may have got that name.
     if (const std::optional<FileError> error = errorForKind(status.st_mode))
         return *error;
     return readRegularFile(descriptor.get(), status.st_size, limits);
@@ -211,7 +215,7 @@ Contents contentsOfDescriptor(int descriptor, const FileLimits &limits)
     return readToEnd(descriptor, limits, Waiting::Allowed);
 }
 
-/// With every bound in place, and every failure to get memory turned into an error.
+/// Applies all limits, and turns a failed allocation into an error.
 template <typename Read>
 Contents readWithin(FileLimits limits, Read read)
 {
@@ -225,6 +229,37 @@ Contents readWithin(FileLimits limits, Read read)
 }
 
 } // namespace
+
+QString causeText(const FileError &error)
+{
+    switch (error.cause) {
+    case FileError::Cause::NoSuchFile:
+        return QStringLiteral("no such file");
+    case FileError::Cause::Folder:
+        return QStringLiteral("is a folder");
+    case FileError::Cause::NamedPipe:
+        return QStringLiteral("is a named pipe");
+    case FileError::Cause::Device:
+        return QStringLiteral("is a device");
+    case FileError::Cause::Socket:
+        return QStringLiteral("is a socket");
+    case FileError::Cause::NoPermission:
+        return QStringLiteral("permission denied");
+    case FileError::Cause::TooLarge:
+        return QStringLiteral("is larger than 2 GiB");
+    case FileError::Cause::NotEnoughMemory:
+        return QStringLiteral("not enough memory");
+    case FileError::Cause::TooManySymbolicLinks:
+        return QStringLiteral("too many symbolic links");
+    case FileError::Cause::NameTooLong:
+        return QStringLiteral("name is too long");
+    case FileError::Cause::InUse:
+        return QStringLiteral("is in use by another program");
+    case FileError::Cause::ReadFailed:
+        break;
+    }
+    return QStringLiteral("cannot be read (%1)").arg(systemErrorText(error.systemError));
+}
 
 Contents readFile(const QByteArray &path, const FileLimits &limits)
 {

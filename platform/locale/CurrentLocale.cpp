@@ -15,7 +15,7 @@ bool isCLocale(std::string_view name)
     return name.empty() || name == "C" || name == "POSIX" || name.starts_with("C.");
 }
 
-// The name in force, in the POSIX form language_REGION.charset@variant.
+// The name of the current locale, in the POSIX form language_REGION.charset@variant.
 const char *posixLocaleName()
 {
     const char *name = std::setlocale(LC_MESSAGES, nullptr);
@@ -33,7 +33,7 @@ QString identifierFor(std::string_view posixName)
 {
     if (isCLocale(posixName))
         return QStringLiteral("en_US_POSIX");
-    // The charset says nothing about the language: "sr_RS.UTF-8@latin" is "sr_RS@latin" to ICU.
+    // ICU knows "sr_RS.UTF-8@latin" as "sr_RS@latin".
     std::string name(posixName);
     const size_t charset = name.find('.');
     if (charset != std::string::npos)
@@ -42,7 +42,7 @@ QString identifierFor(std::string_view posixName)
     char identifier[ULOC_FULLNAME_CAPACITY];
     UErrorCode status = U_ZERO_ERROR;
     const int32_t length = uloc_canonicalize(name.c_str(), identifier, sizeof identifier, &status);
-    // A name too long to be a locale's is nobody's setting; it counts as none.
+    // A name that is too long cannot be that of a locale.
     if (U_FAILURE(status) || length >= static_cast<int32_t>(sizeof identifier))
         return QStringLiteral("en_US_POSIX");
     return QString::fromLatin1(identifier, length);

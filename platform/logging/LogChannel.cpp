@@ -7,7 +7,7 @@ namespace {
 
 std::atomic<LogSink *> sinkOfTest = nullptr;
 
-QString filledIn(QStringView message, LogChannel::Arguments arguments)
+QString fillIn(QStringView message, LogChannel::Arguments arguments)
 {
     QString filled;
     const LogArgument *argument = arguments.begin();
@@ -15,13 +15,25 @@ QString filledIn(QStringView message, LogChannel::Arguments arguments)
         const qsizetype place = argument == arguments.end() ? -1 : message.indexOf(u"{}");
         if (place < 0)
             return filled.append(message);
-        filled.append(message.first(place)).append(argument->redacted());
+        filled.append(message.first(place)).append(argument->visibleText());
         message = message.sliced(place + 2);
         ++argument;
     }
 }
 
 } // namespace
+
+QString LogArgument::visibleText() const
+{
+    return m_isPublic ? m_text : QStringLiteral("<private>");
+}
+
+LogArgument publicly(const QString &text)
+{
+    LogArgument argument(text);
+    argument.m_isPublic = true;
+    return argument;
+}
 
 LogChannel::LogChannel(const QString &subsystem, const QString &category)
     : m_subsystem(subsystem)
@@ -57,7 +69,7 @@ void LogChannel::write(LogLevel level, QStringView message, Arguments arguments)
     if (!isEnabled(level))
         return;
     LogSink *sink = sinkOfTest.load();
-    (sink ? *sink : systemLogSink()).write({level, m_subsystem, m_category, filledIn(message, arguments)});
+    (sink ? *sink : systemLogSink()).write({level, m_subsystem, m_category, fillIn(message, arguments)});
 }
 
 ScopedLogSink::ScopedLogSink(LogSink &sink)

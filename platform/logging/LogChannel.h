@@ -1,14 +1,52 @@
 // SPDX-License-Identifier: MIT
-// LogChannel writes log messages under one subsystem and category; where they end up is the sink's business.
+// LogChannel writes log messages under one subsystem and category; the sink decides where they go.
 // Thread: any.  Owner: a function-local static; channels live as long as the process.
 #pragma once
 
-#include "platform/logging/LogArgument.h"
 #include "platform/logging/LogSink.h"
 
 #include <QLoggingCategory>
+#include <QString>
 
+#include <concepts>
 #include <initializer_list>
+#include <utility>
+
+/// A value in a log message, and whether readers of the log may see it. Text is private unless it is wrapped
+/// in publicly(), since it may be a file name or a piece of a document. Numbers and truth values are public.
+class LogArgument {
+public:
+    LogArgument(QString text)
+        : m_text(std::move(text))
+        , m_isPublic(false)
+    {
+    }
+    LogArgument(bool value)
+        : m_text(value ? QStringLiteral("true") : QStringLiteral("false"))
+    {
+    }
+    template <std::integral Integer>
+    LogArgument(Integer value)
+        : m_text(QString::number(value))
+    {
+    }
+    LogArgument(double value)
+        : m_text(QString::number(value))
+    {
+    }
+
+    /// What the log shows: the text of a public argument, "<private>" for a private one.
+    [[nodiscard]] QString visibleText() const;
+
+private:
+    friend LogArgument publicly(const QString &text);
+
+    QString m_text;
+    bool m_isPublic = true;
+};
+
+/// Text that readers of the log may see.
+LogArgument publicly(const QString &text);
 
 /// Which levels are written follows Qt's logging rules, under the name "subsystem/category": everything but
 /// debug, unless QT_LOGGING_RULES or qtlogging.ini say otherwise ("com.QBY.watchFileLog/*.debug=true").
@@ -18,10 +56,10 @@ public:
 
     LogChannel(const QString &subsystem, const QString &category);
 
-    /// The process's standard log: messages that belong to no channel of their own.
+    /// The standard log of the process, for messages without a channel of their own.
     static LogChannel &standard();
 
-    // In every message each "{}" stands for the next argument; one too many stays as it is.
+    // Each "{}" in a message is replaced by the next argument; excess ones stay.
     void debug(QStringView message, Arguments arguments = {}) { write(LogLevel::Debug, message, arguments); }
     void info(QStringView message, Arguments arguments = {}) { write(LogLevel::Info, message, arguments); }
     void notice(QStringView message, Arguments arguments = {})
@@ -43,7 +81,7 @@ private:
     QLoggingCategory m_rules;
 };
 
-/// While it lives, every record of the process goes to the given sink. For tests; nests.
+/// Sends every record of the process to the given sink as long as it exists. For tests; can be nested.
 class ScopedLogSink {
 public:
     explicit ScopedLogSink(LogSink &sink);

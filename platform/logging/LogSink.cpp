@@ -17,8 +17,8 @@ namespace {
 
 constexpr char journalSocket[] = "/run/systemd/journal/socket";
 
-// sd_journal_sendv() reports success where nobody listens, so the socket is tried first.
-bool journalListens()
+// sd_journal_sendv() reports success even without a journal, so try its socket first.
+bool isJournalAvailable()
 {
     const int descriptor = ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     if (descriptor < 0)
@@ -26,10 +26,10 @@ bool journalListens()
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::memcpy(address.sun_path, journalSocket, sizeof journalSocket);
-    const bool connected =
+    const bool isConnected =
         ::connect(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
     ::close(descriptor);
-    return connected;
+    return isConnected;
 }
 
 int journalPriority(LogLevel level)
@@ -62,6 +62,22 @@ QString levelName(LogLevel level)
     return QStringLiteral("error");
 }
 
+// "program: [subsystem:category] level: message". Control characters in the message are escaped, so that a
+// hostile file name cannot forge a second line.
+QString logLine(const LogRecord &record)
+{
+    QString line = QString::fromLocal8Bit(program_invocation_short_name) + QStringLiteral(": [")
+        + record.subsystem + u':' + record.category + QStringLiteral("] ") + levelName(record.level)
+        + QStringLiteral(": ");
+    for (const QChar unit : record.message) {
+        if (unit.category() == QChar::Other_Control)
+            line += QStringLiteral("\\x%1").arg(unit.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            line += unit;
+    }
+    return line;
+}
+
 class JournalSink final : public LogSink {
 public:
     void write(const LogRecord &record) override
@@ -84,8 +100,8 @@ class StandardErrorSink final : public LogSink {
 public:
     void write(const LogRecord &record) override
     {
-        // One write() a line keeps the lines of several threads and processes apart.
-        const QByteArray line = formattedLogLine(record).toUtf8() + '\n';
+        // A single write() per line keeps the lines of several threads and processes apart.
+        const QByteArray line = logLine(record).toUtf8() + '\n';
         [[maybe_unused]] const ssize_t written =
             ::write(STDERR_FILENO, line.constData(), static_cast<size_t>(line.size()));
     }
@@ -95,22 +111,8 @@ public:
 
 LogSink &systemLogSink()
 {
-    static const std::unique_ptr<LogSink> sink = journalListens()
+    static const std::unique_ptr<LogSink> sink = isJournalAvailable()
         ? std::unique_ptr<LogSink>(std::make_unique<JournalSink>())
         : std::make_unique<StandardErrorSink>();
     return *sink;
-}
-
-QString formattedLogLine(const LogRecord &record)
-{
-    QString line = QString::fromLocal8Bit(program_invocation_short_name) + QStringLiteral(": [")
-        + record.subsystem + u':' + record.category + QStringLiteral("] ") + levelName(record.level)
-        + QStringLiteral(": ");
-    for (const QChar unit : record.message) {
-        if (unit.category() == QChar::Other_Control)
-            line += QStringLiteral("\\x%1").arg(unit.unicode(), 2, 16, QLatin1Char('0'));
-        else
-            line += unit;
-    }
-    return line;
 }

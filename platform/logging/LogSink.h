@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// LogSink is where finished log records go: the system journal, standard error, or a test's own list.
-// Thread: write() may be called from any thread and from several at once.
+// LogSink is the destination of log records: the system journal, standard error, or a test's own list.
+// Thread: any; write() may be called from several threads at once.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,7 @@
 /// Journal priorities 7, 6, 5 and 3 (sd-daemon(3)).
 enum class LogLevel { Debug, Info, Notice, Error };
 
-/// A record holds no private argument any more: they are redacted before it is made.
+/// Private arguments are replaced before the record is made.
 struct LogRecord {
     LogLevel level;
     QString subsystem;
@@ -29,9 +29,5 @@ public:
     virtual void write(const LogRecord &record) = 0;
 };
 
-/// The journal where one listens at its socket, else standard error. Decided at the first call and kept.
+/// The journal if it accepts connections at its socket, otherwise standard error. Decided at the first call.
 LogSink &systemLogSink();
-
-/// One line for a record, without its line end: "program: [subsystem:category] level: message". Control
-/// characters in the message are escaped, so that a hostile file name cannot forge a second line.
-QString formattedLogLine(const LogRecord &record);

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The position behind the parameter, whose quotes may hold semicolons.
+/// The end of the parameter, in which quoted text may contain semicolons.
 qsizetype endOfParameter(QStringView text)
 {
     bool isQuoted = false;
@@ -20,8 +20,8 @@ qsizetype endOfParameter(QStringView text)
     return text.size();
 }
 
-/// Single quotes are none by RFC 2045, but are met.
-QByteArray unquoted(QStringView value)
+/// RFC 2045 has no single quotes, but programs use them.
+QByteArray unquote(QStringView value)
 {
     for (const QChar quote : {u'"', u'\''}) {
         if (value.size() >= 2 && value.startsWith(quote) && value.endsWith(quote))
@@ -44,7 +44,7 @@ MediaType MediaType::parse(const QString &text)
         rest = rest.sliced(parameter.size());
         const qsizetype equals = parameter.indexOf(u'=');
         if (equals >= 0 && parameter.first(equals).trimmed() == u"charset")
-            type.charset = unquoted(parameter.sliced(equals + 1).trimmed());
+            type.charset = unquote(parameter.sliced(equals + 1).trimmed());
     }
     return type;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// MediaType is the name of a form of content, as "text/plain;charset=utf-8" (RFC 2045).
-// Thread: any; a value. Used inside this folder only.
+// MediaType parses the name of a form of content, as "text/plain;charset=utf-8" (RFC 2045).
+// Thread: any; a value.
 #pragma once
 
 #include <QByteArray>
@@ -8,8 +8,8 @@
 
 struct MediaType {
     QString name; ///< lower case, without parameters
-    QByteArray charset; ///< lower case; empty where none is named
+    QByteArray charset; ///< lower case; empty if there is none
 
-    /// Never fails: what is no media type is a name that nobody knows.
+    /// Never fails: any other text becomes an unknown name.
     static MediaType parse(const QString &text);
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Pasteboard is what the user has selected or copied: one content in all the forms that its owner offers.
-// Thread: any; a value. Selection.h reads one from the display, platform/services from the bus.
+// Pasteboard has what the user selected or copied, in the forms that its owner offers. Selection.h reads one
+// from the display, platform/services from the bus.
+// Thread: any; a value.
 #pragma once
 
 #include <QByteArray>
@@ -12,7 +13,7 @@
 
 class Pasteboard {
 public:
-    // MIME types that are read; of text/plain and text/html any charset parameter is too.
+    // The supported MIME types; text/plain and text/html with any charset parameter.
     static constexpr char16_t flatRtfdType[] = u"application/x-flat-rtfd";
     static constexpr char16_t rtfType[] = u"text/rtf"; // and application/rtf, text/richtext
     static constexpr char16_t htmlType[] = u"text/html";
@@ -32,8 +33,7 @@ public:
 
     [[nodiscard]] const Forms &forms() const { return m_forms; }
 
-    /// The local files among the URLs, in their order, each as often as it is there; empty where there are
-    /// none. Relative and remote URLs are no files.
+    /// The local files among the URLs, in order and with duplicates. Skips relative and remote URLs.
     [[nodiscard]] QList<QUrl> readFileURLs() const;
 
 private:

@@ -20,7 +20,7 @@ public:
     ~Display() { xcb_disconnect(m_connection); }
 
     [[nodiscard]] xcb_connection_t *connection() const { return m_connection; }
-    [[nodiscard]] bool isThere() const { return xcb_connection_has_error(m_connection) == 0; }
+    [[nodiscard]] bool isConnected() const { return xcb_connection_has_error(m_connection) == 0; }
 
 private:
     xcb_connection_t *m_connection = xcb_connect(nullptr, nullptr);
@@ -39,9 +39,9 @@ Cause causeOf(Source::Failure failure)
     return Cause::NoAnswer;
 }
 
-class Reading {
+class SelectionReader {
 public:
-    Reading(SelectionContent content, Source &source)
+    SelectionReader(SelectionContent content, Source &source)
         : m_content(content)
         , m_source(source)
     {
@@ -52,10 +52,10 @@ public:
         const Result<QByteArrayList, Source::Failure> offered = m_source.targets();
         if (!offered && offered.error() != Source::Failure::Refused)
             return causeOf(offered.error());
-        const auto groups =
-            SelectionTargets::wanted(m_content, offered ? std::optional(offered.value()) : std::nullopt);
+        const auto groups = SelectionTargets::targetsToRequest(
+            m_content, offered ? std::optional(offered.value()) : std::nullopt);
         for (const QByteArrayList &targets : groups) {
-            if (const std::optional<Cause> cause = takeFirst(targets))
+            if (const std::optional<Cause> cause = takeFirstForm(targets))
                 return *cause;
         }
         if (!m_forms.empty())
@@ -66,8 +66,8 @@ public:
     }
 
 private:
-    /// A form that the owner refuses after all, or that is empty, leaves it to the next one.
-    std::optional<Cause> takeFirst(const QByteArrayList &targets)
+    /// Takes the first form that the owner provides and that is not empty.
+    std::optional<Cause> takeFirstForm(const QByteArrayList &targets)
     {
         for (const QByteArray &target : targets) {
             Result<Source::Content, Source::Failure> content = m_source.convert(target);
@@ -82,7 +82,7 @@ private:
     bool add(const QByteArray &target, Source::Content content)
     {
         std::optional<SelectionTargets::Form> form =
-            SelectionTargets::form(target, content.type, std::move(content.bytes));
+            SelectionTargets::makeForm(target, content.type, std::move(content.bytes));
         if (!form)
             return false;
         m_hasEmptyForm |= form->bytes.isEmpty();
@@ -98,39 +98,39 @@ private:
     bool m_hasEmptyForm = false;
 };
 
-Result<Pasteboard, Cause> readFromXDisplay(SelectionName name, SelectionContent content, quint64 largest)
+Result<Pasteboard, Cause> readFromXDisplay(SelectionName name, SelectionContent content, quint64 maxBytes)
 {
     const Display display;
-    if (!display.isThere())
+    if (!display.isConnected())
         return Cause::NoDisplay;
     SelectionTransfer transfer(
-        display.connection(), name == SelectionName::Primary ? "PRIMARY" : "CLIPBOARD", largest);
+        display.connection(), name == SelectionName::Primary ? "PRIMARY" : "CLIPBOARD", maxBytes);
     if (!transfer.hasOwner())
         return qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? Cause::NothingShown : Cause::NothingSelected;
-    return Reading(content, transfer).run();
+    return SelectionReader(content, transfer).run();
 }
 
-Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, quint64 largest)
+Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, quint64 maxBytes)
 {
-    Result<Pasteboard, Cause> pasteboard = readFromXDisplay(name, content, largest);
+    Result<Pasteboard, Cause> pasteboard = readFromXDisplay(name, content, maxBytes);
     const bool mayBeElsewhere = !pasteboard
         && (pasteboard.error() == Cause::NoDisplay || pasteboard.error() == Cause::NothingShown
             || pasteboard.error() == Cause::Refused);
-    WaylandPaste paste(name, largest);
+    WaylandPaste paste(name, maxBytes);
     if (!mayBeElsewhere || !paste.isAvailable())
         return pasteboard;
-    return paste.hasOwner() ? Reading(content, paste).run() : Cause::NothingSelected;
+    return paste.hasOwner() ? SelectionReader(content, paste).run() : Cause::NothingSelected;
 }
 
 } // namespace
 
 Result<Pasteboard, SelectionFailure> readSelection(
-    SelectionName name, SelectionContent content, quint64 largest)
+    SelectionName name, SelectionContent content, quint64 maxBytes)
 {
     Result<Pasteboard, Cause> pasteboard = Cause::NotEnoughMemory;
-    // A selection is as large as its owner likes.
+    // A selection can have any size.
     try {
-        pasteboard = read(name, content, largest);
+        pasteboard = read(name, content, maxBytes);
     } catch (const std::bad_alloc &) {
     }
     if (!pasteboard)

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Selection is what the user has selected or copied in whatever application, read without a window or a
-// toolkit of our own: from the X display, Xwayland included (ICCCM 2.0, chapter 2), or where the Wayland
-// compositor keeps it from X clients, by wl-paste(1) if that is installed. Thread: any.
+// Selection reads what the user has selected or copied in any application, without a window or a toolkit:
+// from the X display, including Xwayland (ICCCM 2.0, chapter 2), or with wl-paste(1), if it is installed,
+// from a Wayland compositor that hides the selection from X clients.
+// Thread: any.
 #pragma once
 
 #include "platform/pasteboard/Pasteboard.h"
 #include "platform/system/Result.h"
 
 enum class SelectionName {
-    Primary, ///< what is selected at the moment
+    Primary, ///< what is selected now
     Clipboard, ///< what was copied last
 };
 
@@ -18,10 +19,10 @@ struct SelectionFailure {
     enum class Cause {
         NoDisplay,
         NothingSelected,
-        NothingShown, ///< or the Wayland compositor keeps it from X clients, and there is no wl-paste
-        OtherContent, ///< there is something, but in no form of that content
-        Refused, ///< the owner does not say which forms it has, and hands none over
-        NoAnswer, ///< of the owner, for two seconds, or in the middle of its answer
+        NothingShown, ///< or the Wayland compositor hides it from X clients, and wl-paste is not installed
+        OtherContent, ///< there is something, but no text or no files
+        Refused, ///< the owner does not list its forms, and provides none
+        NoAnswer, ///< from the owner within two seconds, or an incomplete one
         TooLarge,
         NotEnoughMemory,
     };
@@ -31,11 +32,11 @@ struct SelectionFailure {
     SelectionContent content;
 };
 
-/// What failed and where there is one the remedy, in English, on one line and without a full stop.
+/// The cause and a remedy if there is one, in English, on one line without a full stop.
 QString causeText(const SelectionFailure &failure);
 
-/// Of Text the richest form that is not empty, and a form as plain text; of Files the first list of files
-/// that there is. Asks the owner for no others, as each may be large. largest: bytes of all forms together.
-/// Needs no event loop, and never waits longer than two seconds for a next piece.
+/// For Text: the richest form that is not empty, and a plain text form. For Files: the first list of files.
+/// Requests no other forms, since each may be large. maxBytes: of all forms together. Needs no event loop,
+/// and waits at most two seconds for each piece.
 Result<Pasteboard, SelectionFailure> readSelection(
-    SelectionName name, SelectionContent content, quint64 largest);
+    SelectionName name, SelectionContent content, quint64 maxBytes);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// SelectionSource is whoever hands a selection over, in one form after the other.
-// Thread: one.  Owner: readSelection(). Used inside this folder only.
+// SelectionSource is the interface of a program or display that provides a selection, one form after another.
+// Used inside this folder only.
+// Thread: any, one at a time.  Owner: readSelection().
 #pragma once
 
 #include "platform/system/Result.h"
@@ -12,11 +13,11 @@ class SelectionSource {
 public:
     enum class Failure {
         Refused, ///< the owner does not have it in that form
-        NoAnswer, ///< for two seconds, or the display has gone
+        NoAnswer, ///< within two seconds, or the display was lost
         TooLarge,
     };
     struct Content {
-        QByteArray type; ///< the name of the encoding, as ICCCM has it
+        QByteArray type; ///< the name of the encoding, as in ICCCM
         QByteArray bytes;
     };
 
@@ -27,8 +28,7 @@ public:
 
     /// Whether anything is selected.
     [[nodiscard]] virtual bool hasOwner() = 0;
-    /// The names of the forms that the owner says to have: the first few hundred. Refused where it does not
-    /// say.
+    /// The names of the forms that the owner offers, at most a few hundred. Refused if it does not list them.
     virtual Result<QByteArrayList, Failure> targets() = 0;
     virtual Result<Content, Failure> convert(const QByteArray &target) = 0;
 };

@@ -9,17 +9,17 @@ namespace {
 constexpr char utf8Text[] = "text/plain;charset=utf-8";
 constexpr char latin1Text[] = "text/plain;charset=iso-8859-1";
 
-// Before the semicolon of a MIME type; "*" behind it stands for any parameters.
+// In lower case and without blanks; "*" stands for any parameters.
 const QByteArrayList styledTargets{"application/x-flat-rtfd", "text/rtf", "application/rtf", "text/richtext",
     "text/html;charset=utf-8", "text/html;*", "text/html"};
 const QByteArrayList plainTargets{"UTF8_STRING", utf8Text, "text/plain;*", "text/plain", "TEXT", "STRING"};
 const QByteArrayList fileTargets{
     "text/uri-list", "application/x-kde4-urilist", "x-special/gnome-copied-files"};
-// What owners know that cannot say what they know.
-const QByteArrayList untoldTargets{"UTF8_STRING", "STRING"};
+// For owners that do not list their targets.
+const QByteArrayList commonTargets{"UTF8_STRING", "STRING"};
 
-/// Case counts in the names of ICCCM, but not in MIME types; blanks may stand behind a semicolon.
-QByteArray normalized(const QByteArray &target)
+/// The names of ICCCM are case-sensitive, MIME types are not; blanks may follow a semicolon.
+QByteArray normalize(const QByteArray &target)
 {
     return target.contains('/') ? target.toLower().replace(' ', "").replace('"', "") : target;
 }
@@ -27,11 +27,11 @@ QByteArray normalized(const QByteArray &target)
 bool matches(const QByteArray &target, const QByteArray &pattern)
 {
     if (!pattern.endsWith('*'))
-        return normalized(target) == pattern;
-    return normalized(target).startsWith(pattern.chopped(1));
+        return normalize(target) == pattern;
+    return normalize(target).startsWith(pattern.chopped(1));
 }
 
-QByteArrayList chosen(const QByteArrayList &patterns, const QByteArrayList &offered)
+QByteArrayList chooseTargets(const QByteArrayList &patterns, const QByteArrayList &offered)
 {
     QByteArrayList targets;
     for (const QByteArray &pattern : patterns) {
@@ -41,7 +41,7 @@ QByteArrayList chosen(const QByteArrayList &patterns, const QByteArrayList &offe
     return targets;
 }
 
-/// The MIME type of a target that is none itself.
+/// The MIME type for an ICCCM target or encoding.
 QByteArray mimeTypeOf(const QByteArray &encoding)
 {
     return encoding == "UTF8_STRING" ? utf8Text : latin1Text;
@@ -49,17 +49,17 @@ QByteArray mimeTypeOf(const QByteArray &encoding)
 
 } // namespace
 
-QList<QByteArrayList> SelectionTargets::wanted(
+QList<QByteArrayList> SelectionTargets::targetsToRequest(
     SelectionContent content, const std::optional<QByteArrayList> &offered)
 {
     if (content == SelectionContent::Files)
-        return {offered ? chosen(fileTargets, *offered) : fileTargets};
+        return {offered ? chooseTargets(fileTargets, *offered) : fileTargets};
     if (!offered)
-        return {untoldTargets};
-    return {chosen(styledTargets, *offered), chosen(plainTargets, *offered)};
+        return {commonTargets};
+    return {chooseTargets(styledTargets, *offered), chooseTargets(plainTargets, *offered)};
 }
 
-std::optional<SelectionTargets::Form> SelectionTargets::form(
+std::optional<SelectionTargets::Form> SelectionTargets::makeForm(
     const QByteArray &target, const QByteArray &type, QByteArray bytes)
 {
     if (target.contains('/'))
@@ -67,7 +67,7 @@ std::optional<SelectionTargets::Form> SelectionTargets::form(
     // Without its escape sequences a compound text is ISO 8859-1 (Compound Text Encoding 1.1).
     if (target == "TEXT" && type == "COMPOUND_TEXT" && bytes.contains('\x1b'))
         return std::nullopt;
-    // Some programs end a text with a NUL, as a C string.
+    // Some programs end a text with a NUL.
     while (bytes.endsWith('\0'))
         bytes.chop(1);
     return Form{QString::fromLatin1(mimeTypeOf(target == "TEXT" ? type : target)), std::move(bytes)};

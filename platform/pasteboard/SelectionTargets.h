@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// SelectionTargets knows the names under which X clients offer the forms of a selection: MIME types and those
-// of ICCCM 2.6.2. Thread: any. Used inside this folder only.
+// SelectionTargets maps the names of the forms that X clients offer, MIME types and those of ICCCM 2.6.2, to
+// the forms of a pasteboard. Used inside this folder only.
+// Thread: any.
 #pragma once
 
 #include "platform/pasteboard/Selection.h"
@@ -13,9 +14,10 @@
 
 namespace SelectionTargets {
 
-/// Of the offered targets those to ask for: of each group the first that gives something, the richest being
-/// first. offered is absent where the owner does not tell.
-QList<QByteArrayList> wanted(SelectionContent content, const std::optional<QByteArrayList> &offered);
+/// The targets to request, in groups: of each group the first that provides something, in order of richness.
+/// offered: absent if the owner does not list its targets.
+QList<QByteArrayList> targetsToRequest(
+    SelectionContent content, const std::optional<QByteArrayList> &offered);
 
 /// A form of a pasteboard: its MIME type and its bytes.
 struct Form {
@@ -23,8 +25,7 @@ struct Form {
     QByteArray bytes;
 };
 
-/// What an owner gave for a target. type: the property's, which tells the encoding of a TEXT. Absent where
-/// that is an encoding that nothing reads.
-std::optional<Form> form(const QByteArray &target, const QByteArray &type, QByteArray bytes);
+/// The form for a target. type: of the property; the encoding of a TEXT. Absent for an unsupported encoding.
+std::optional<Form> makeForm(const QByteArray &target, const QByteArray &type, QByteArray bytes);
 
 } // namespace SelectionTargets

@@ -18,7 +18,7 @@ namespace {
 
 constexpr auto timeout = 2s;
 constexpr uint32_t pieceLength = 1 << 18; // of a property, in units of four bytes
-constexpr size_t mostTargets = 256;
+constexpr size_t maxTargets = 256;
 
 template <typename Reply>
 std::unique_ptr<Reply, decltype(&std::free)> owned(Reply *reply)
@@ -38,17 +38,17 @@ xcb_window_t windowWithPropertyEvents(xcb_connection_t *connection)
 
 uint8_t kindOf(const xcb_generic_event_t &event)
 {
-    return event.response_type & 0x7f; // the highest bit says that a client has sent it
+    return event.response_type & 0x7f; // the highest bit marks events that a client has sent
 }
 
 } // namespace
 
-SelectionTransfer::SelectionTransfer(xcb_connection_t *connection, const char *selection, quint64 largest)
+SelectionTransfer::SelectionTransfer(xcb_connection_t *connection, const char *selection, quint64 maxBytes)
     : m_connection(connection)
     , m_window(windowWithPropertyEvents(connection))
     , m_selection(atom(selection))
     , m_property(atom("QUILLBAY_SELECTION"))
-    , m_left(largest)
+    , m_bytesLeft(maxBytes)
 {
 }
 
@@ -69,7 +69,7 @@ Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::co
     const QByteArray &target)
 {
     const xcb_atom_t targetAtom = atom(target);
-    // No event of the user's is known here. Owners take this time for "now".
+    // There is no user event with a time. Owners treat this time as "now".
     xcb_convert_selection(m_connection, m_window, m_selection, targetAtom, m_property, XCB_CURRENT_TIME);
     const Event event = waitFor([&](const xcb_generic_event_t &candidate) {
         const auto &notify = reinterpret_cast<const xcb_selection_notify_event_t &>(candidate);
@@ -89,7 +89,7 @@ Result<QByteArrayList, SelectionSource::Failure> SelectionTransfer::targets()
     const Result<Content, Failure> content = convert("TARGETS");
     if (!content)
         return content.error();
-    // Some owners take it for the name of a text.
+    // Some owners answer TARGETS with a text.
     if (content.value().type != "ATOM" && content.value().type != "TARGETS")
         return Failure::Refused;
     return namesOf(content.value().bytes);
@@ -105,16 +105,16 @@ xcb_atom_t SelectionTransfer::atom(const QByteArray &name) const
 QByteArrayList SelectionTransfer::namesOf(const QByteArray &atoms) const
 {
     std::vector<xcb_atom_t> identifiers(
-        std::min(static_cast<size_t>(atoms.size()) / sizeof(xcb_atom_t), mostTargets));
+        std::min(static_cast<size_t>(atoms.size()) / sizeof(xcb_atom_t), maxTargets));
     if (!identifiers.empty())
         std::memcpy(identifiers.data(), atoms.constData(), identifiers.size() * sizeof(xcb_atom_t));
-    // All are asked for before the first answer is awaited: one round trip.
+    // All requests are sent before the first answer is read: one round trip.
     std::vector<xcb_get_atom_name_cookie_t> cookies;
     for (const xcb_atom_t identifier : identifiers)
         cookies.push_back(xcb_get_atom_name(m_connection, identifier));
     QByteArrayList names;
     for (const xcb_get_atom_name_cookie_t cookie : cookies) {
-        xcb_generic_error_t *error = nullptr; // an owner may tell atoms that there are not
+        xcb_generic_error_t *error = nullptr; // an owner may list atoms that do not exist
         const auto reply = owned(xcb_get_atom_name_reply(m_connection, cookie, &error));
         std::free(error);
         if (reply)
@@ -127,7 +127,7 @@ QByteArrayList SelectionTransfer::namesOf(const QByteArray &atoms) const
 SelectionTransfer::Event SelectionTransfer::waitFor(const IsWanted &isWanted) const
 {
     const QDeadlineTimer deadline(timeout);
-    // Other events do not make us wait longer, however many there are.
+    // Other events do not extend the wait.
     do {
         Event event = nextEvent(deadline);
         if (!event || isWanted(*event))
@@ -148,7 +148,7 @@ SelectionTransfer::Event SelectionTransfer::nextEvent(const QDeadlineTimer &dead
     }
 }
 
-/// Reads the property and deletes it, which tells the owner that we have it.
+/// Reads the property and deletes it, which signals the owner that the transfer is complete.
 Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::takeProperty()
 {
     Content content;
@@ -162,9 +162,9 @@ Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::ta
         if (!reply)
             return Failure::NoAnswer;
         const auto length = static_cast<quint64>(xcb_get_property_value_length(reply.get()));
-        if (length + reply->bytes_after > m_left)
+        if (length + reply->bytes_after > m_bytesLeft)
             return Failure::TooLarge;
-        m_left -= length;
+        m_bytesLeft -= length;
         content.bytes.append(
             static_cast<const char *>(xcb_get_property_value(reply.get())), static_cast<qsizetype>(length));
         type = reply->type;
@@ -175,7 +175,8 @@ Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::ta
     return content;
 }
 
-/// The property has said INCR, and is gone: each piece is put there when the one before has been taken away.
+/// The property had the type INCR and is deleted now: the owner sets it to each piece after the previous one
+/// was deleted.
 Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::takePieces()
 {
     Content whole;

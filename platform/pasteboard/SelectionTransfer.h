@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// SelectionTransfer asks the owner of a selection on the X display for it, large contents in pieces (ICCCM
-// 2.7.2, INCR). Thread: one.  Owner: readSelection(). Used inside this folder only.
+// SelectionTransfer requests a selection from its owner on the X display, large contents in pieces (ICCCM
+// 2.7.2, INCR). Used inside this folder only.
+// Thread: any, one at a time.  Owner: readSelection().
 #pragma once
 
 #include "platform/pasteboard/SelectionSource.h"
@@ -15,8 +16,8 @@ class QDeadlineTimer;
 
 class SelectionTransfer final : public SelectionSource {
 public:
-    /// connection: outlives this. largest: bytes of all contents together.
-    SelectionTransfer(xcb_connection_t *connection, const char *selection, quint64 largest);
+    /// connection: must outlive this object. maxBytes: of all contents together.
+    SelectionTransfer(xcb_connection_t *connection, const char *selection, quint64 maxBytes);
     ~SelectionTransfer() override;
 
     [[nodiscard]] bool hasOwner() override;
@@ -38,5 +39,5 @@ private:
     const xcb_window_t m_window;
     const xcb_atom_t m_selection;
     const xcb_atom_t m_property;
-    quint64 m_left; // of the bytes that may come
+    quint64 m_bytesLeft; // of maxBytes
 };

@@ -21,12 +21,12 @@ Paper builtInPaper(const QString &ppdName, const QString &identifier, double wid
     return {ppdName, identifier, false, QSizeF(width, height), genericMargins};
 }
 
-// libpaper reads its file to the end of the first word, and an endless one (a device, a pipe) for ever.
+// libpaper reads its file to the end of the first word, so a device or a pipe would block for ever.
 bool isReadableSettingsFile(const QString &path)
 {
-    constexpr qint64 mostBytes = 65'536;
+    constexpr qint64 maxSize = 65'536;
     const QFileInfo file(path);
-    return file.isFile() && file.size() <= mostBytes;
+    return file.isFile() && file.size() <= maxSize;
 }
 
 // The format of papersize(5): white space and comments from "#" to the line's end are ignored.
@@ -58,7 +58,7 @@ std::optional<Paper> configuredPaper()
     const bool isNamedByEnvironment = !firstVariable({"PAPERSIZE"}).empty();
     if (!isNamedByEnvironment) {
         const char *path = systempapersizefile();
-        // A file without a name in it makes libpaper answer its own fallback: nobody's wish.
+        // For a file without a name, libpaper returns its own fallback, which nobody has configured.
         if (!path || !isReadableSettingsFile(QFile::decodeName(path))
             || !namesAPaper(QFile::decodeName(path)))
             return std::nullopt;
@@ -93,7 +93,7 @@ const std::vector<Paper> &builtInPapers()
 {
     // Names of the PPD format 4.3 in the spelling of CUPS, whole points as in its table; identifiers
     // of PWG 5101.1.
-    // Never destroyed: a query about printers may still use it while the process ends.
+    // Never destroyed: a printer query may still use it while the process exits.
     static const auto &papers = *new std::vector<Paper>{
         builtInPaper(QStringLiteral("Letter"), QStringLiteral("na_letter_8.5x11in"), 612, 792),
         builtInPaper(QStringLiteral("Legal"), QStringLiteral("na_legal_8.5x14in"), 612, 1008),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The built-in catalogue: the papers that stand in for a printer's list where no printer is configured.
+// BuiltInPapers is the catalogue of papers that replaces a printer's list if no printer is configured.
 // Thread: any.
 #pragma once
 
@@ -7,13 +7,13 @@
 
 #include <vector>
 
-/// Under their PPD names, with the margins of the generic printer descriptions: 18 points left and right,
-/// 36 points top and bottom.
+/// With PPD names and the margins of the generic printer descriptions: 18 points left and right, 36 points
+/// top and bottom.
 const std::vector<Paper> &builtInPapers();
 
-/// The paper of the catalogue with that size in points, within a millimetre.
+/// The paper of the catalogue with this size in points, within a millimetre.
 std::optional<Paper> builtInPaperOfSize(QSizeF size);
 
-/// The paper of the user's surroundings: what libpaper is configured to, else the paper of the region in the
-/// locale's LC_PAPER. Always a paper of builtInPapers().
+/// The default paper of the system: the one configured in libpaper, otherwise that of the region of LC_PAPER.
+/// Always a paper of builtInPapers().
 Paper builtInDefaultPaper();

@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr int mostPapers = 1000;
+constexpr int maxPapers = 1000;
 
-// A media keyword of the printer with the size that it describes itself to have.
+// A media keyword of the printer, with the size that the keyword itself contains.
 struct Medium {
     QByteArray keyword;
     QSizeF size; // points
@@ -25,7 +25,7 @@ QByteArrayList strings(ipp_t *message, const char *name)
 {
     QByteArrayList values;
     ipp_attribute_t *attribute = ippFindAttribute(message, name, IPP_TAG_ZERO);
-    const int count = std::min(ippGetCount(attribute), mostPapers);
+    const int count = std::min(ippGetCount(attribute), maxPapers);
     for (int index = 0; index < count; ++index) {
         if (const char *value = ippGetString(attribute, index, nullptr))
             values.append(value);
@@ -33,7 +33,7 @@ QByteArrayList strings(ipp_t *message, const char *name)
     return values;
 }
 
-QSizeF inPoints(int width, int length)
+QSizeF sizeInPoints(int width, int length)
 {
     return QSizeF(width, length) * pointsPerMillimetre / 100;
 }
@@ -43,12 +43,12 @@ std::vector<Medium> supportedMedia(ipp_t *attributes)
     std::vector<Medium> media;
     for (const QByteArray &keyword : strings(attributes, "media-supported")) {
         if (const pwg_media_t *medium = pwgMediaForPWG(keyword.constData()))
-            media.push_back({keyword, inPoints(medium->width, medium->length)});
+            media.push_back({keyword, sizeInPoints(medium->width, medium->length)});
     }
     return media;
 }
 
-// In hundredths of a millimetre; 0 if the collection does not have it, or as a range.
+// In hundredths of a millimetre; 0 if it is missing, or a range.
 int length(ipp_t *collection, const char *name)
 {
     return ippGetInteger(ippFindAttribute(collection, name, IPP_TAG_INTEGER), 0);
@@ -58,12 +58,12 @@ std::vector<Paper> papersOfDatabase(ipp_t *attributes)
 {
     std::vector<Paper> papers;
     ipp_attribute_t *database = ippFindAttribute(attributes, "media-col-database", IPP_TAG_BEGIN_COLLECTION);
-    const int count = std::min(ippGetCount(database), mostPapers);
+    const int count = std::min(ippGetCount(database), maxPapers);
     for (int index = 0; index < count; ++index) {
         ipp_t *entry = ippGetCollection(database, index);
         ipp_t *size = ippGetCollection(ippFindAttribute(entry, "media-size", IPP_TAG_BEGIN_COLLECTION), 0);
         Paper paper;
-        paper.size = inPoints(length(size, "x-dimension"), length(size, "y-dimension"));
+        paper.size = sizeInPoints(length(size, "x-dimension"), length(size, "y-dimension"));
         if (!isPossiblePaperSize(paper.size))
             continue;
         const auto margin = [entry](const char *name, double side) {
@@ -93,9 +93,9 @@ void identify(Paper &paper, const std::vector<Medium> &media)
     }
 }
 
-// The paper that one word of a "media" option means: a name of a printer description, a keyword of the
-// printer, or one of the older keywords such as "iso-a4".
-std::optional<Paper> paperMeant(const std::vector<Paper> &papers, const QByteArray &word)
+// Finds the paper for one word of a "media" option: a name of a printer description, a keyword of the
+// printer, or an older keyword such as "iso-a4".
+std::optional<Paper> findPaper(const std::vector<Paper> &papers, const QByteArray &word)
 {
     const QString name = QString::fromUtf8(word);
     for (const Paper &paper : papers) {
@@ -110,24 +110,23 @@ std::optional<Paper> paperMeant(const std::vector<Paper> &papers, const QByteArr
         medium = pwgMediaForPPD(word.constData());
     if (!medium)
         return std::nullopt;
-    const auto found = std::find_if(
-        papers.begin(), papers.end(), [size = inPoints(medium->width, medium->length)](const Paper &paper) {
-            return isSamePaperSize(paper.size, size);
-        });
+    const auto found = std::find_if(papers.begin(), papers.end(),
+        [size = sizeInPoints(medium->width, medium->length)](
+            const Paper &paper) { return isSamePaperSize(paper.size, size); });
     return found == papers.end() ? std::nullopt : std::optional(*found);
 }
 
 std::optional<Paper> defaultPaper(const std::vector<Paper> &papers, const CupsAnswers &answers,
     const std::optional<QString> &describedDefault)
 {
-    // "media" may name tray and type as well, as in "A4,Upper". CUPS lets PageSize win.
+    // "media" may contain tray and type too, as in "A4,Upper". In CUPS, PageSize takes precedence.
     QByteArrayList words{answers.pageSizeOption};
     words += answers.mediaOption.split(',');
     if (describedDefault)
         words += describedDefault->toUtf8();
     words += strings(answers.attributes, "media-default");
     for (const QByteArray &word : words) {
-        if (std::optional<Paper> paper = paperMeant(papers, word))
+        if (std::optional<Paper> paper = findPaper(papers, word))
             return paper;
     }
     return std::nullopt;
@@ -135,17 +134,17 @@ std::optional<Paper> defaultPaper(const std::vector<Paper> &papers, const CupsAn
 
 double pageScale(const QByteArray &scalingOption)
 {
-    constexpr double largestScale = 1000;
+    constexpr double maxScale = 1000;
     bool isNumber = false;
     const double scale = scalingOption.toDouble(&isNumber);
-    return isNumber && scale > 0 && scale <= largestScale ? scale : 100;
+    return isNumber && scale > 0 && scale <= maxScale ? scale : 100;
 }
 
 } // namespace
 
-Printer printerInAnswers(const CupsAnswers &answers)
+Printer parsePrinter(const CupsAnswers &answers)
 {
-    PrinterDescription description = printerDescription(answers.descriptionFile);
+    PrinterDescription description = parsePrinterDescription(answers.descriptionFile);
     Printer printer;
     printer.papers =
         description.papers.empty() ? papersOfDatabase(answers.attributes) : std::move(description.papers);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/printing/CupsPrinterSource.h"
+#include "platform/printing/PrinterSource.h"
 
 #include "platform/printing/CupsAnswers.h"
 
@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr qsizetype mostDescriptionBytes = 4'194'304;
-constexpr int silenceLimit = 20; // seconds
+constexpr qsizetype maxDescriptionSize = 4'194'304;
+constexpr int cupsTimeout = 20; // seconds without data
 
 struct CupsDeleter {
     void operator()(http_t *connection) const { httpClose(connection); }
@@ -29,7 +29,7 @@ using Destination = std::unique_ptr<cups_dest_t, CupsDeleter>;
 
 void initializeCups()
 {
-    // The first use of CUPS ignores SIGPIPE for the whole process, whose other writers may rest on it.
+    // The first use of CUPS ignores SIGPIPE for the whole process, whose other code may depend on it.
     static std::once_flag once;
     std::call_once(once, [] {
         struct sigaction before { };
@@ -37,24 +37,24 @@ void initializeCups()
         httpInitialize();
         ::sigaction(SIGPIPE, &before, nullptr);
     });
-    // Where a server wants a password, CUPS would ask for it in the terminal.
+    // If a server requires a password, CUPS would ask for it in the terminal.
     cupsSetPasswordCB2(
         [](const char *, http_t *, const char *, const char *, void *) -> const char * { return nullptr; },
         nullptr);
 }
 
-Connection connection()
+Connection connectToServer()
 {
     Connection http(httpConnect2(
-        cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, silenceLimit * 1000, nullptr));
+        cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, cupsTimeout * 1000, nullptr));
     if (http)
         httpSetTimeout(
-            http.get(), silenceLimit, [](http_t *, void *) { return 0; }, nullptr);
+            http.get(), cupsTimeout, [](http_t *, void *) { return 0; }, nullptr);
     return http;
 }
 
-// What it means that no connection came about. A server elsewhere may have printers though it cannot be
-// reached now; one of this machine that does not run has none. CUPS does not tell why it could not connect.
+// The meaning of a failed connection. A remote server may have printers though it cannot be reached now; a
+// local one that does not run has none. CUPS does not report why it could not connect.
 PrinterFailure failureToConnect()
 {
     const char *server = cupsServer();
@@ -90,7 +90,7 @@ Message request(
     return Message(cupsDoRequest(http, message, "/"));
 }
 
-// The library's own listing reports a silent server as one without printers, so the server is asked first.
+// cupsEnumDests() reports a silent server as one without printers, so the server is asked first.
 std::optional<PrinterFailure> failureToListQueues(http_t *http)
 {
     const Message answer = request(http, IPP_OP_CUPS_GET_PRINTERS, nullptr, {"printer-name"});
@@ -103,16 +103,16 @@ std::optional<PrinterFailure> failureToListQueues(http_t *http)
     return isSuccess(status) ? std::nullopt : std::optional(PrinterFailure::NotAnswering);
 }
 
-QByteArray option(const cups_dest_t &destination, const char *name)
+QByteArray optionValue(const cups_dest_t &destination, const char *name)
 {
     return cupsGetOption(name, destination.num_options, destination.options);
 }
 
-// Takes the default queue, and the first until that comes.
+// Keeps the default queue, and until it is found the first one.
 int chooseQueue(void *chosen, unsigned, cups_dest_t *candidate)
 {
     auto &queue = *static_cast<Destination *>(chosen);
-    if ((queue && !candidate->is_default) || option(*candidate, "printer-uri-supported").isEmpty())
+    if ((queue && !candidate->is_default) || optionValue(*candidate, "printer-uri-supported").isEmpty())
         return 1;
     cups_dest_t *copy = nullptr;
     cupsCopyDest(candidate, 0, &copy);
@@ -123,15 +123,14 @@ int chooseQueue(void *chosen, unsigned, cups_dest_t *candidate)
 Destination defaultQueue()
 {
     Destination queue;
-    // To leave out what was discovered in the network keeps the library from looking there, which takes a
-    // second.
+    // Excluding discovered printers keeps libcups from searching the network, which takes a second.
     constexpr int networkLimit = 1000; // milliseconds
     cupsEnumDests(
         CUPS_DEST_FLAGS_NONE, networkLimit, nullptr, 0, CUPS_PRINTER_DISCOVERED, chooseQueue, &queue);
     return queue;
 }
 
-// Absent if the server did not answer, empty if it has none.
+// Absent if the server does not answer, empty if it has no file.
 std::optional<QByteArray> descriptionFile(http_t *http, const char *queue)
 {
     const QByteArray resource = "/printers/" + QByteArray(queue) + ".ppd";
@@ -148,7 +147,7 @@ std::optional<QByteArray> descriptionFile(http_t *http, const char *queue)
     QByteArray file;
     char piece[16 * 1024];
     ssize_t size = 0;
-    while (file.size() < mostDescriptionBytes && (size = httpRead2(http, piece, sizeof piece)) > 0)
+    while (file.size() < maxDescriptionSize && (size = httpRead2(http, piece, sizeof piece)) > 0)
         file.append(piece, size);
     return size < 0 ? std::nullopt : std::optional(file);
 }
@@ -158,7 +157,7 @@ std::optional<QByteArray> descriptionFile(http_t *http, const char *queue)
 Result<Printer, PrinterFailure> CupsPrinterSource::ask()
 {
     initializeCups();
-    const Connection http = connection();
+    const Connection http = connectToServer();
     if (!http)
         return failureToConnect();
     if (const std::optional<PrinterFailure> failure = failureToListQueues(http.get()))
@@ -167,15 +166,15 @@ Result<Printer, PrinterFailure> CupsPrinterSource::ask()
     if (!queue)
         return PrinterFailure::NotAnswering;
     const Message attributes = request(http.get(), IPP_OP_GET_PRINTER_ATTRIBUTES,
-        option(*queue, "printer-uri-supported").constData(),
+        optionValue(*queue, "printer-uri-supported").constData(),
         {"media-supported", "media-default", "media-col-database"});
     const std::optional<QByteArray> file = descriptionFile(http.get(), queue->name);
     if (!attributes || !isSuccess(ippGetStatusCode(attributes.get())) || !file)
         return PrinterFailure::NotAnswering;
 
-    return printerInAnswers({.attributes = attributes.get(),
+    return parsePrinter({.attributes = attributes.get(),
         .descriptionFile = *file,
-        .pageSizeOption = option(*queue, "PageSize"),
-        .mediaOption = option(*queue, "media"),
-        .scalingOption = option(*queue, "scaling")});
+        .pageSizeOption = optionValue(*queue, "PageSize"),
+        .mediaOption = optionValue(*queue, "media"),
+        .scalingOption = optionValue(*queue, "scaling")});
 }

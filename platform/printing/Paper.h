@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Paper is one sheet size that a printer takes, with the margins it cannot print on.
+// Paper is a sheet size of a printer, with the margins that it cannot print on.
 // Thread: any; a value.
 #pragma once
 
@@ -24,7 +24,7 @@ struct PaperMargins {
 struct Paper {
     std::optional<QString>
         ppdName; ///< its name in printer descriptions, such as "Letter"; absent if it has none
-    std::optional<QString> identifier; ///< the printing system's own; absent if it has none
+    std::optional<QString> identifier; ///< of the printing system; absent if it has none
     bool isCustom = false;
     QSizeF size; ///< points
     PaperMargins margins;
@@ -32,16 +32,15 @@ struct Paper {
     bool operator==(const Paper &) const = default;
 };
 
-/// Whether a sheet can have that size in points: from nothing to 100,000 (35 metres) a side.
+/// Whether a sheet can have this size in points: more than 0 and at most 100,000 (35 metres) per side.
 inline bool isPossiblePaperSize(QSizeF size)
 {
-    constexpr double longestSide = 100'000;
-    return size.width() > 0 && size.width() <= longestSide && size.height() > 0
-        && size.height() <= longestSide;
+    constexpr double maxSide = 100'000;
+    return size.width() > 0 && size.width() <= maxSide && size.height() > 0 && size.height() <= maxSide;
 }
 
-/// Whether two sizes in points are the same sheet. They may differ by a millimetre: printing systems round to
-/// whole points here and to hundredths of a millimetre there.
+/// Whether two sizes in points are the same sheet. They may differ by a millimetre, because printing systems
+/// round either to whole points or to hundredths of a millimetre.
 inline bool isSamePaperSize(QSizeF size, QSizeF other)
 {
     return std::abs(size.width() - other.width()) <= pointsPerMillimetre

@@ -2,7 +2,7 @@
 #include "platform/printing/PrintSettings.h"
 
 #include "platform/printing/BuiltInPapers.h"
-#include "platform/printing/CupsPrinterSource.h"
+#include "platform/printing/PrinterSource.h"
 
 #include <algorithm>
 #include <csignal>
@@ -13,7 +13,8 @@ namespace {
 
 PrintSettings *scopedSettings = nullptr;
 
-// Signals belong to the main thread, and a server that hangs up must not end the process by SIGPIPE.
+// Signals belong to the main thread, and SIGPIPE must not kill the process when a server closes the
+// connection.
 void blockSignals()
 {
     sigset_t signals;
@@ -33,9 +34,9 @@ PrinterAnswer builtInAnswer(PrinterState state)
     return answer;
 }
 
-// The surroundings choose where neither user nor printer does, but only a paper that the printer takes:
-// whoever looks the default up by its name must find it.
-Paper surroundingsPaper(const std::vector<Paper> &papers)
+// The system's default, if neither user nor printer has one. It must be one of the printer's papers, so that
+// it can be found by its name.
+Paper systemDefaultPaper(const std::vector<Paper> &papers)
 {
     const QSizeF size = builtInDefaultPaper().size;
     const auto found = std::find_if(
@@ -43,7 +44,7 @@ Paper surroundingsPaper(const std::vector<Paper> &papers)
     return found == papers.end() ? papers.front() : *found;
 }
 
-PrinterAnswer answerFrom(const Result<Printer, PrinterFailure> &result)
+PrinterAnswer makeAnswer(const Result<Printer, PrinterFailure> &result)
 {
     if (!result) {
         return builtInAnswer(result.error() == PrinterFailure::NoPrinter ? PrinterState::NoPrinter
@@ -54,7 +55,7 @@ PrinterAnswer answerFrom(const Result<Printer, PrinterFailure> &result)
         return builtInAnswer(PrinterState::NoPrinter);
     return {.state = PrinterState::Answering,
         .papers = printer.papers,
-        .defaultPaper = printer.defaultPaper ? *printer.defaultPaper : surroundingsPaper(printer.papers),
+        .defaultPaper = printer.defaultPaper ? *printer.defaultPaper : systemDefaultPaper(printer.papers),
         .pageScale = printer.pageScale};
 }
 
@@ -69,33 +70,33 @@ PrintSettings &PrintSettings::shared()
 }
 
 PrintSettings::PrintSettings(
-    std::shared_ptr<PrinterSource> source, Clock clock, std::chrono::milliseconds limit)
+    std::shared_ptr<PrinterSource> source, Clock clock, std::chrono::milliseconds timeout)
     : m_source(std::move(source))
     , m_clock(std::move(clock))
-    , m_limit(limit)
+    , m_timeout(timeout)
 {
 }
 
 PrinterAnswer PrintSettings::printer()
 {
-    if (hasPendingAnswerWithin(std::chrono::milliseconds(0)))
+    if (waitForAnswer(std::chrono::milliseconds(0)))
         m_answer = m_pending.get();
-    if (!m_answer || m_clock() - m_askedAt >= askingInterval)
+    if (!m_answer || m_clock() - m_lastQuery >= queryInterval)
         ask();
-    return answerFrom(*m_answer);
+    return makeAnswer(*m_answer);
 }
 
-bool PrintSettings::hasPendingAnswerWithin(std::chrono::milliseconds limit) const
+bool PrintSettings::waitForAnswer(std::chrono::milliseconds timeout) const
 {
-    return m_pending.valid() && m_pending.wait_for(limit) == std::future_status::ready;
+    return m_pending.valid() && m_pending.wait_for(timeout) == std::future_status::ready;
 }
 
 void PrintSettings::ask()
 {
-    m_askedAt = m_clock();
+    m_lastQuery = m_clock();
     std::promise<Answer> promise;
     m_pending = promise.get_future();
-    // The thread owns all that it touches, so that its answer may come when nobody waits for it any more.
+    // The thread owns everything that it uses, so that it may outlast this object.
     const auto query = [source = m_source](std::promise<Answer> answer) {
         blockSignals();
         answer.set_value(source->ask());
@@ -103,9 +104,9 @@ void PrintSettings::ask()
     try {
         std::thread(query, std::move(promise)).detach();
     } catch (const std::system_error &) {
-        m_pending = {}; // no thread to be had: nobody is asked, and nobody answers
+        m_pending = {}; // no thread is available
     }
-    m_answer = hasPendingAnswerWithin(m_limit) ? m_pending.get() : Answer(PrinterFailure::NotAnswering);
+    m_answer = waitForAnswer(m_timeout) ? m_pending.get() : Answer(PrinterFailure::NotAnswering);
 }
 
 QSizeF PrintSettings::paperSize()

@@ -17,7 +17,7 @@ struct Statement {
     QByteArrayView value;
 };
 
-std::optional<Statement> parsedStatement(QByteArrayView line)
+std::optional<Statement> parseStatement(QByteArrayView line)
 {
     const qsizetype colon = line.indexOf(':');
     if (!line.startsWith('*') || line.startsWith("*%") || colon < 0)
@@ -36,8 +36,8 @@ std::optional<Statement> parsedStatement(QByteArrayView line)
     return Statement{keyword, slash < 0 ? option : option.first(slash).trimmed(), value};
 }
 
-// Exactly as many numbers as asked for, else none.
-std::vector<double> numbersIn(QByteArrayView text, size_t count)
+// Exactly this count of numbers, otherwise none.
+std::vector<double> parseNumbers(QByteArrayView text, size_t count)
 {
     std::vector<double> numbers;
     for (const QByteArray &word : text.toByteArray().simplified().split(' ')) {
@@ -54,7 +54,7 @@ struct Measures {
     std::vector<double> imageableArea; // left, bottom, right, top, from the lower left corner
 };
 
-std::optional<Paper> paperWith(const QByteArray &name, const Measures &measures)
+std::optional<Paper> makePaper(const QByteArray &name, const Measures &measures)
 {
     if (measures.dimension.empty())
         return std::nullopt;
@@ -77,7 +77,7 @@ std::optional<Paper> paperWith(const QByteArray &name, const Measures &measures)
 
 } // namespace
 
-PrinterDescription printerDescription(QByteArrayView file)
+PrinterDescription parsePrinterDescription(QByteArrayView file)
 {
     QList<QByteArray> choices;
     QHash<QByteArray, Measures> measuresOfChoices;
@@ -85,7 +85,7 @@ PrinterDescription printerDescription(QByteArrayView file)
     while (!file.isEmpty()) {
         const char *const lineEnd =
             std::find_if(file.begin(), file.end(), [](char c) { return c == '\n' || c == '\r'; });
-        const std::optional<Statement> statement = parsedStatement(QByteArrayView(file.begin(), lineEnd));
+        const std::optional<Statement> statement = parseStatement(QByteArrayView(file.begin(), lineEnd));
         file = QByteArrayView(lineEnd == file.end() ? lineEnd : lineEnd + 1, file.end());
         if (!statement)
             continue;
@@ -97,12 +97,12 @@ PrinterDescription printerDescription(QByteArrayView file)
         if (statement->keyword == "*PageSize" && choices.size() < maxChoices)
             choices.append(option);
         else if (statement->keyword == "*PaperDimension")
-            measuresOfChoices[option].dimension = numbersIn(statement->value, 2);
+            measuresOfChoices[option].dimension = parseNumbers(statement->value, 2);
         else if (statement->keyword == "*ImageableArea")
-            measuresOfChoices[option].imageableArea = numbersIn(statement->value, 4);
+            measuresOfChoices[option].imageableArea = parseNumbers(statement->value, 4);
     }
     for (const QByteArray &choice : choices) {
-        if (std::optional<Paper> paper = paperWith(choice, measuresOfChoices.value(choice)))
+        if (std::optional<Paper> paper = makePaper(choice, measuresOfChoices.value(choice)))
             description.papers.push_back(*std::move(paper));
     }
     return description;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// PrinterDescription is the part of a printer description file (PPD format 4.3) that tells papers.
+// PrinterDescription has the papers of a printer description file (PPD format 4.3); ignores the rest of the
+// file.
 // Thread: any; a value.
 #pragma once
 
@@ -11,9 +12,9 @@
 
 struct PrinterDescription {
     std::vector<Paper> papers; ///< in the order of the *PageSize choices, without identifiers
-    std::optional<QString> defaultPaperName; ///< absent if the file names none, or "Unknown"
+    std::optional<QString> defaultPaperName; ///< absent if the file has none, or "Unknown"
 };
 
-/// Reads any bytes. Choices without a sensible *PaperDimension are left out, margins without an
-/// *ImageableArea are 0; of more than 1000 choices only the first 1000 are read.
-PrinterDescription printerDescription(QByteArrayView file);
+/// Accepts any bytes. Leaves out choices without a valid *PaperDimension; margins are 0 without an
+/// *ImageableArea. Reads at most 1000 choices.
+PrinterDescription parsePrinterDescription(QByteArrayView file);

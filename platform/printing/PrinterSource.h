@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// PrinterSource is the printing system as the print settings see it: somebody who can be asked about the
-// default printer, now or in a while or never. Thread: ask() runs on a thread of its own, one at a time.
+// PrinterSource is the interface to the printing system for PrintSettings; CupsPrinterSource implements it
+// for CUPS.
+// Thread: ask() runs on a thread of its own, one at a time.  Owner: PrintSettings, shared with a running
+// ask().
 #pragma once
 
 #include "platform/printing/Paper.h"
@@ -8,16 +10,16 @@
 
 #include <vector>
 
-/// What the printing system says of one printer.
+/// What the printing system reports about one printer.
 struct Printer {
-    std::vector<Paper> papers; ///< in the printer's own order; empty where it knows none
+    std::vector<Paper> papers; ///< in the printer's order; empty if it reports none
     std::optional<Paper> defaultPaper; ///< one of the papers; absent if neither user nor printer names one
     double pageScale = 100; ///< per cent, above 0
 };
 
 enum class PrinterFailure {
     NoPrinter, ///< no printing system runs here, or it has no printer
-    NotAnswering, ///< there may be a printer, but what it takes cannot be learned now
+    NotAnswering, ///< there may be a printer, but its papers are unknown now
 };
 
 class PrinterSource {
@@ -27,6 +29,17 @@ public:
     PrinterSource &operator=(const PrinterSource &) = delete;
     virtual ~PrinterSource() = default;
 
-    /// Asks about the user's default printer. May block for long, but should come to an end within a minute.
+    /// Queries the user's default printer. May block for up to a minute.
     [[nodiscard]] virtual Result<Printer, PrinterFailure> ask() = 0;
+};
+
+/// Queries the CUPS server of the environment and client.conf about the user's default destination: the one
+/// of LPDEST, PRINTER, lpoptions or the server, in this order, otherwise the server's first queue. Ignores
+/// network printers without a queue on the server.
+class CupsPrinterSource final : public PrinterSource {
+public:
+    /// Needs a thread that blocks SIGPIPE, and no other thread that changes the environment meanwhile. Takes
+    /// some milliseconds, or 20 seconds if the server falls silent. CupsAnswers.h describes how the answers
+    /// are used.
+    [[nodiscard]] Result<Printer, PrinterFailure> ask() override;
 };

@@ -26,7 +26,7 @@ QByteArrayList listOf(FcStrList *list)
     return paths;
 }
 
-// Where fontconfig looks for a user's own configuration, whether there is any yet or not.
+// The paths of the user's own fontconfig configuration, which need not exist.
 QByteArrayList userConfiguration()
 {
     const QByteArray home = qgetenv("HOME");
@@ -38,8 +38,8 @@ QByteArrayList userConfiguration()
         folder, folder + "/fonts.conf", folder + "/conf.d", home + "/.fonts.conf", home + "/.fonts.conf.d"};
 }
 
-// Walks through the folders below, and through those that symbolic links lead to. Links lead out of what the
-// folder's own name allows to read, so each is named itself.
+// Walks through the folders below, and through the targets of symbolic links. A target may be outside the
+// readable folder, so each link becomes readable itself.
 class FolderWalk {
 public:
     explicit FolderWalk(FontSources &sources)
@@ -50,14 +50,14 @@ public:
     void walk(const QByteArrayList &folders)
     {
         m_waiting = folders;
-        while (!m_waiting.isEmpty() && m_seen.size() < FontSources::mostFolders)
+        while (!m_waiting.isEmpty() && m_seen.size() < FontSources::maxFolders)
             look(m_waiting.takeLast());
     }
 
 private:
     void look(const QByteArray &path)
     {
-        // Looked at before it is read: what comes meanwhile shows at the next look.
+        // Stamped before it is read: a change meanwhile shows at the next check.
         const Stamp stamp = Stamp::of(path);
         m_sources.stamps.push_back(stamp);
         if (stamp.file == 0 || !m_seen.emplace(stamp.device, stamp.file).second)
@@ -80,8 +80,8 @@ private:
         }
         if (S_ISDIR(status.st_mode))
             m_waiting.append(path);
-        else if (++m_files <= FontSources::mostFiles)
-            m_sources.stamps.push_back(Stamp::of(path)); // a font may be written over in its place
+        else if (++m_files <= FontSources::maxFiles)
+            m_sources.stamps.push_back(Stamp::of(path)); // a font may be overwritten
     }
 
     FontSources &m_sources;

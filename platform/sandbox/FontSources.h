@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// FontSources is where the machine's fonts come from: the files and folders that a list of fonts rests on,
-// the configuration included. The fonts themselves are the layout's business. Thread: one at a time; values.
+// FontSources finds the files and folders that determine the list of fonts, including the configuration. The
+// layout reads the fonts themselves.
+// Thread: any, one at a time; values.
 #pragma once
 
 #include <QByteArrayList>
@@ -10,7 +11,7 @@
 #include <vector>
 
 struct FontSources {
-    /// A file or folder as it was when it was looked at. An absent one has a stamp too: it may come.
+    /// The state of a file or folder. One that does not exist has a stamp too: it may appear.
     struct Stamp {
         QByteArray path;
         dev_t device = 0;
@@ -22,24 +23,24 @@ struct FontSources {
         bool operator==(const Stamp &) const = default;
     };
 
-    // No more folders are walked through, no more files looked at.
-    static constexpr size_t mostFolders = 20'000;
-    static constexpr size_t mostFiles = 60'000;
+    // More folders and files are ignored.
+    static constexpr size_t maxFolders = 20'000;
+    static constexpr size_t maxFiles = 60'000;
 
-    /// As the configuration in force (FONTCONFIG_FILE) and the disk say now. Reads no font.
+    /// The sources of the current configuration (FONTCONFIG_FILE). Reads no font.
     static FontSources current();
-    /// The same of given folders, whatever the configuration says.
+    /// The sources below these folders, whatever the configuration.
     static FontSources below(const QByteArrayList &folders);
 
-    QByteArrayList readable; ///< paths; with all that lies below them they are all that fonts are read from
-    std::vector<Stamp> stamps; ///< one of them changes when a font comes or goes
+    QByteArrayList readable; ///< paths; fonts are read from them and from below them only
+    std::vector<Stamp> stamps; ///< one of them changes when a font is added or removed
 };
 
-/// FontWatch tells whether the fonts are still those of before.
+/// Detects changes of the fonts.
 class FontWatch {
 public:
-    /// Looks at the disk. A number that is another one whenever fonts have come or gone since the last call,
-    /// or their configuration has changed.
+    /// Checks the disk. The number increases when fonts or their configuration have changed since the last
+    /// call.
     [[nodiscard]] quint64 generation();
 
 private:

@@ -12,8 +12,8 @@
 
 namespace {
 
-// The kernel runs newer than the headers of the machine that builds: what they may lack stands here, as
-// linux/landlock.h of 6.12 has it.
+// The kernel may be newer than the headers of the build machine: these are the values of linux/landlock.h in
+// Linux 6.12.
 struct RulesetAttributes {
     quint64 files = 0;
     quint64 network = 0; // from version 4 on
@@ -26,13 +26,13 @@ constexpr quint64 ioctlOnDevice = 1ULL << 15; // version 5
 constexpr quint64 bindTcp = 1ULL << 0; // version 4
 constexpr quint64 connectTcp = 1ULL << 1; // version 4
 constexpr quint64 abstractSockets = 1ULL << 0; // version 6
-constexpr quint64 signalsToOthers = 1ULL << 1; // version 6
+constexpr quint64 signalsToOtherProcesses = 1ULL << 1; // version 6
 
 constexpr quint64 readFile = LANDLOCK_ACCESS_FS_READ_FILE;
 constexpr quint64 readFolder = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
 constexpr quint64 filesOfVersion1 = (1ULL << 13) - 1;
 
-RulesetAttributes everything(int version)
+RulesetAttributes allRights(int version)
 {
     RulesetAttributes attributes;
     attributes.files = filesOfVersion1;
@@ -45,7 +45,7 @@ RulesetAttributes everything(int version)
     if (version >= 5)
         attributes.files |= ioctlOnDevice;
     if (version >= 6)
-        attributes.scopes = abstractSockets | signalsToOthers;
+        attributes.scopes = abstractSockets | signalsToOtherProcesses;
     return attributes;
 }
 
@@ -60,7 +60,7 @@ int newRuleset(int version)
 {
     if (version == 0)
         return -1;
-    const RulesetAttributes attributes = everything(version);
+    const RulesetAttributes attributes = allRights(version);
     return static_cast<int>(::syscall(SYS_landlock_create_ruleset, &attributes, attributesSize(version), 0));
 }
 
@@ -78,33 +78,24 @@ Landlock::Landlock()
 {
 }
 
-Landlock::~Landlock()
-{
-    if (m_ruleset >= 0)
-        ::close(m_ruleset);
-}
-
 void Landlock::allowReading(const QByteArray &path)
 {
-    if (m_ruleset < 0)
+    if (!m_ruleset)
         return;
-    const int descriptor = ::open(path.constData(), O_PATH | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
+    const OwnedDescriptor file(::open(path.constData(), O_PATH | O_CLOEXEC));
     struct stat status = {};
-    if (::fstat(descriptor, &status) == 0) {
+    if (file && ::fstat(file.get(), &status) == 0) {
         landlock_path_beneath_attr rule = {};
         rule.allowed_access = S_ISDIR(status.st_mode) ? readFolder : readFile;
-        rule.parent_fd = descriptor;
-        // A rule that is not taken only refuses more.
-        ::syscall(SYS_landlock_add_rule, m_ruleset, LANDLOCK_RULE_PATH_BENEATH, &rule, 0);
+        rule.parent_fd = file.get();
+        // A rule that fails only refuses more.
+        ::syscall(SYS_landlock_add_rule, m_ruleset.get(), LANDLOCK_RULE_PATH_BENEATH, &rule, 0);
     }
-    ::close(descriptor);
 }
 
 int Landlock::enforce()
 {
-    if (m_ruleset < 0 || ::syscall(SYS_landlock_restrict_self, m_ruleset, 0) != 0)
+    if (!m_ruleset || ::syscall(SYS_landlock_restrict_self, m_ruleset.get(), 0) != 0)
         return 0;
     return m_version;
 }

@@ -9,7 +9,7 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
-QString descriptionOf(const SandboxReport &report)
+QString sandboxDescription(const SandboxReport &report)
 {
     const QStringList parts{
         report.hasNoNewPrivileges ? QStringLiteral("no new privileges")
@@ -22,7 +22,7 @@ QString descriptionOf(const SandboxReport &report)
     return parts.join(QStringLiteral(", "));
 }
 
-void Sandbox::endWithParent()
+void Sandbox::exitWithParent()
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
 }
@@ -34,47 +34,47 @@ void Sandbox::keepMemoryPrivate()
     ::setrlimit(RLIMIT_CORE, &none);
 }
 
-void Sandbox::growNoFile()
+void Sandbox::forbidGrowingFiles()
 {
-    // Otherwise a line for a log that is a file would end the process instead of getting lost.
+    // Otherwise a log line to a file would kill the process, instead of being lost.
     ::signal(SIGXFSZ, SIG_IGN);
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_FSIZE, &none);
 }
 
-void Sandbox::mayRead(const QByteArrayList &paths)
+void Sandbox::allowReading(const QByteArrayList &paths)
 {
     for (const QByteArray &path : paths)
         m_landlock.allowReading(path);
 }
 
-void Sandbox::mayNotChangeFiles()
+void Sandbox::forbidChangingFiles()
 {
     m_filter.refuseOpeningToWrite();
     m_filter.refuse({"truncate", "rename", "renameat", "renameat2", "link", "linkat", "symlink", "symlinkat",
         "unlink", "unlinkat", "mkdir", "mkdirat", "rmdir", "mknod", "mknodat"});
-    // These Landlock does not know.
+    // Landlock does not cover these.
     m_filter.refuse({"chmod", "fchmod", "fchmodat", "fchmodat2", "chown", "lchown", "fchown", "fchownat",
         "setxattr", "lsetxattr", "fsetxattr", "removexattr", "lremovexattr", "fremovexattr", "utime",
         "utimes", "futimesat", "utimensat"});
 }
 
-void Sandbox::mayNotStartPrograms()
+void Sandbox::forbidStartingPrograms()
 {
     m_filter.refuse({"execve", "execveat"});
     m_filter.refuseNewProcesses();
 }
 
-void Sandbox::mayNotConnect()
+void Sandbox::forbidConnecting()
 {
-    // Landlock knows TCP and abstract sockets; without a new socket there are no others either.
+    // Landlock covers TCP and abstract sockets; without new sockets there are no others either.
     m_filter.refuse({"socket", "socketpair", "connect", "bind", "listen", "accept", "accept4", "socketcall"});
-    // System V and POSIX message passing, which has no sockets.
+    // System V and POSIX message passing, which needs no sockets.
     m_filter.refuse({"msgget", "msgsnd", "msgrcv", "msgctl", "semget", "semop", "semtimedop", "semctl",
         "shmget", "shmat", "shmctl", "ipc", "mq_open", "mq_unlink"});
 }
 
-void Sandbox::mayNotTouchOtherProcesses()
+void Sandbox::forbidTouchingOtherProcesses()
 {
     m_filter.refuseSignalsToOthers();
     m_filter.refuse({"ptrace", "process_vm_readv", "process_vm_writev", "process_madvise", "process_mrelease",
@@ -82,12 +82,12 @@ void Sandbox::mayNotTouchOtherProcesses()
     m_filter.refuseTyping();
 }
 
-void Sandbox::mayNotLiftItsLimits()
+void Sandbox::forbidRaisingLimits()
 {
     m_filter.refuseNewLimits();
 }
 
-void Sandbox::mayNotAskForPrivilegedThings()
+void Sandbox::forbidPrivilegedCalls()
 {
     m_filter.refuse({"mount", "umount", "umount2", "pivot_root", "chroot", "move_mount", "open_tree",
         "fsopen", "fsconfig", "fsmount", "fspick", "mount_setattr", "unshare", "setns"});
@@ -104,9 +104,29 @@ void Sandbox::mayNotAskForPrivilegedThings()
 SandboxReport Sandbox::enter()
 {
     SandboxReport report;
-    // Without it neither of the others is to be had.
+    // The other two need it.
     report.hasNoNewPrivileges = ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
     report.landlockVersion = m_landlock.enforce();
     report.hasSystemCallFilter = m_filter.load();
     return report;
+}
+
+SandboxReport enterDocumentSandbox(const QByteArrayList &fonts)
+{
+    Sandbox sandbox;
+    sandbox.exitWithParent();
+    sandbox.keepMemoryPrivate();
+    sandbox.forbidGrowingFiles();
+
+    sandbox.allowReading(fonts);
+    sandbox.allowReading({"/usr/share/icu", "/usr/share/locale", "/usr/lib/locale"});
+    sandbox.allowReading({"/sys/devices/system/cpu"}); // the number of processors
+
+    sandbox.forbidChangingFiles();
+    sandbox.forbidStartingPrograms();
+    sandbox.forbidConnecting();
+    sandbox.forbidTouchingOtherProcesses();
+    sandbox.forbidRaisingLimits();
+    sandbox.forbidPrivilegedCalls();
+    return sandbox.enter();
 }

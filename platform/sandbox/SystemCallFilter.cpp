@@ -13,7 +13,7 @@
 namespace {
 
 constexpr uint32_t notPermitted = SCMP_ACT_ERRNO(EPERM);
-constexpr uint32_t notThere = SCMP_ACT_ERRNO(ENOSYS);
+constexpr uint32_t notImplemented = SCMP_ACT_ERRNO(ENOSYS);
 
 #if defined(__s390__)
 constexpr unsigned cloneFlags = 1;
@@ -21,7 +21,7 @@ constexpr unsigned cloneFlags = 1;
 constexpr unsigned cloneFlags = 0;
 #endif
 
-// A rule that is not taken leaves the others in force.
+// A rule that fails leaves the others in force.
 void answer(void *context, uint32_t action, const char *name, std::initializer_list<scmp_arg_cmp> conditions)
 {
     const int number = seccomp_syscall_resolve_name(name);
@@ -48,8 +48,9 @@ SystemCallFilter::SystemCallFilter()
 {
     if (!m_context)
         return;
-    // Calls by the numbers of another architecture would pass the filter by; the library's default kills.
-    seccomp_attr_set(m_context, SCMP_FLTATR_ACT_BADARCH, notThere);
+    // Calls with the numbers of another architecture would bypass the filter; the default of libseccomp
+    // kills.
+    seccomp_attr_set(m_context, SCMP_FLTATR_ACT_BADARCH, notImplemented);
     seccomp_attr_set(m_context, SCMP_FLTATR_CTL_TSYNC, 1);
 }
 
@@ -69,14 +70,14 @@ void SystemCallFilter::refuseNewProcesses()
 {
     refuse({"fork", "vfork"});
     answer(m_context, notPermitted, "clone", {maskedEquals(cloneFlags, CLONE_THREAD, 0)});
-    answer(m_context, notThere, "clone3", {});
+    answer(m_context, notImplemented, "clone3", {});
 }
 
 void SystemCallFilter::refuseOpeningToWrite()
 {
     refuse({"creat"});
-    // openat2() keeps its flags where no filter can see them.
-    answer(m_context, notThere, "openat2", {});
+    // A filter cannot see the flags of openat2().
+    answer(m_context, notImplemented, "openat2", {});
     const auto refuseFlag = [this](uint64_t mask, uint64_t value) {
         answer(m_context, notPermitted, "open", {maskedEquals(1, mask, value)});
         answer(m_context, notPermitted, "openat", {maskedEquals(2, mask, value)});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// SystemCallFilter makes the kernel answer "not permitted" to chosen system calls of the process. It is a
-// list of what is refused and lets all else through: a list of what is allowed breaks with the next C
-// library. Which calls those are is the caller's choice. Thread: main.  Owner: Sandbox.
+// SystemCallFilter makes the kernel answer "not permitted" to system calls that the caller chooses. It lists
+// what is refused, because a list of what is allowed would break with the next C library.
+// Thread: main.  Owner: Sandbox.
 #pragma once
 
 #include <initializer_list>
@@ -15,24 +15,25 @@ public:
     SystemCallFilter &operator=(const SystemCallFilter &) = delete;
     ~SystemCallFilter();
 
-    /// Names that this machine or its library does not know are left out.
+    /// Ignores names that this machine or libseccomp does not know.
     void refuse(Names names);
 
-    /// clone() makes threads and nothing else; clone3(), whose flags no filter can see, says that it does not
-    /// exist, so that the C library turns to clone().
+    /// clone() may only make threads. clone3(), whose flags a filter cannot see, reports that it does not
+    /// exist, so that the C library uses clone().
     void refuseNewProcesses();
-    /// Files open for reading only, and are not made.
+    /// Files may be opened for reading only, and not created.
     void refuseOpeningToWrite();
-    /// Signals reach this process and no other.
+    /// Signals may be sent to this process only.
     void refuseSignalsToOthers();
-    /// Resource limits may be asked for, not set.
+    /// Resource limits may be read, not set.
     void refuseNewLimits();
-    /// Nothing is typed into a terminal on the user's behalf.
+    /// Nothing may be typed into a terminal.
     void refuseTyping();
 
-    /// From now on, for all threads. False where the kernel has no such filters; needs PR_SET_NO_NEW_PRIVS.
+    /// Applies to all threads from now on. False if the kernel has no such filters. Needs
+    /// PR_SET_NO_NEW_PRIVS.
     [[nodiscard]] bool load();
 
 private:
-    void *m_context; ///< null where the library cannot work
+    void *m_context; ///< null if libseccomp fails
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // PasteboardWire is the form of a pasteboard in a message on the bus: a{sv}, from MIME type to the bytes of
-// that form, either as "ay" or as "h", a sealed memory file with exactly these bytes. Thread: any.
+// that form, either as "ay" or as "h", a sealed memory file with exactly these bytes.
+// Thread: any.
 #pragma once
 
 #include "platform/pasteboard/Pasteboard.h"

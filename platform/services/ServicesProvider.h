@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ServicesProvider does what the user chooses in the services menu; ServicesRegistration delivers the
-// messages. Thread: main.
+// messages.
+// Thread: main.
 #pragma once
 
 #include "platform/pasteboard/Pasteboard.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ServicesRegistration delivers the service messages of the session bus to the provider. ServiceInterface.h
-// and docs/dbus/ describe the services. Thread: main.  Owner: the provider's program; the provider must
-// outlive it.
+// and docs/dbus/ describe the services.
+// Thread: main.  Owner: the provider's program; the provider must outlive it.
 #pragma once
 
 #include "platform/services/ServicesProvider.h"

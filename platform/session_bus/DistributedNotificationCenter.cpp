@@ -35,7 +35,7 @@ std::optional<QDBusConnection> connectedBus()
     }
     if (!isLogged.exchange(true))
         LogChannel::standard().error(
-            u"No session bus, so notifications reach nobody: {}", {publicly(connection.error())});
+            u"No session bus; notifications are not delivered: {}", {publicly(connection.error())});
     return std::nullopt;
 }
 
@@ -47,7 +47,7 @@ void DistributedNotificationCenter::post(const QString &name)
     if (!bus)
         return;
     if (!bus->send(QDBusMessage::createSignal(notificationPath(), notificationInterface(), name))) {
-        LogChannel::standard().error(u"Notification {} cannot be posted", {publicly(name)});
+        LogChannel::standard().error(u"Cannot post notification {}", {publicly(name)});
         return;
     }
     SessionBusConnection::shared().settle();

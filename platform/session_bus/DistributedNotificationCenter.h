@@ -8,7 +8,8 @@
 #include <QString>
 
 /// A notification is a signal on the session bus, described in docs/dbus/. It needs a QCoreApplication. If
-/// there is none, or no bus, nobody receives notifications, and the log gets one line until that has changed.
+/// there is none, or no bus, notifications are not delivered, and the log gets one line until that has
+/// changed.
 class DistributedNotificationCenter {
 public:
     /// Reaches every observer of this name that exists at the call, in this process too, on the observers'

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // PendingReplies keeps the handlers of one connection until their replies arrive; no handler is called twice,
-// or after close(). Used inside this folder only. Thread: any.  Owner: RemoteChannel.
+// or after close(). Used inside this folder only.
+// Thread: any.  Owner: RemoteChannel.
 #pragma once
 
 #include "platform/session_bus/RemoteObjectConnection.h"

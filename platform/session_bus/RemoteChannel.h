@@ -5,7 +5,7 @@
 // connections, and the object is destroyed there.  Owner: shared by a connection and its proxies.
 #pragma once
 
-#include "platform/logging/LogArgument.h"
+#include "platform/logging/LogChannel.h"
 #include "platform/session_bus/PendingReplies.h"
 #include "platform/session_bus/RemoteObjectConnection.h"
 #include "platform/session_bus/SessionBusConnection.h"

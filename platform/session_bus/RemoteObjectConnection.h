@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // RemoteObjectConnection connects its owner to an object of another process, by the name of its service on
-// the session bus. What the requests mean is left to its users. Thread: any, one at a time; replies arrive on
-// a thread that all connections of the process share, never on the main thread.  Owner: one client, for all
-// of its requests.
+// the session bus. What the requests mean is left to its users.
+// Thread: any, one at a time; replies arrive on a thread that all connections of the process share, never on
+// the main thread.  Owner: one client, for all of its requests.
 #pragma once
 
 #include "platform/system/SealedMemory.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // FileURL converts between file: URLs and paths (RFC 8089). A path is bytes in any encoding or none. QUrl
 // keeps them percent-encoded, but its own conversions to and from text lose bytes that are not UTF-8, so all
-// code converts with these functions. Thread: any.
+// code converts with these functions.
+// Thread: any.
 #pragma once
 
 #include <QByteArray>

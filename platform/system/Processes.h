@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Processes starts programs and protects the memory of this one; what the programs do is left to their
-// callers. Thread: any.
+// callers.
+// Thread: any.
 #pragma once
 
 #include "platform/system/OwnedDescriptor.h"

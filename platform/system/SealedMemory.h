@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // SealedMemory is an immutable block of bytes in a memory file: the form in which documents of any size
-// travel between processes. Thread: any, one at a time.  Owner: whoever holds it; it owns its descriptor and
-// its mapping.
+// travel between processes.
+// Thread: any, one at a time.  Owner: whoever holds it; it owns its descriptor and its mapping.
 #pragma once
 
 #include "platform/system/Result.h"

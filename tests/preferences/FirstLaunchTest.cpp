@@ -87,8 +87,8 @@ TEST_F(FirstLaunchTest, APaperThatCannotBeReadIsLoggedWithItsStatusAndLeavesTheP
 TEST_F(FirstLaunchTest, ASecondTimeItChangesNothingAndLooksForNoPaper)
 {
     Controller::configureUserDefaultsOnApplicationLaunch();
-    m_defaults.setBool(false, keyOf(Preference::ShowLineCount));
-    m_defaults.setInteger(3, keyOf(Preference::MinNumberOfSentencesForParagraphCount));
+    m_defaults.setObject(false, keyOf(Preference::ShowLineCount));
+    m_defaults.setObject(qint64{3}, keyOf(Preference::MinNumberOfSentencesForParagraphCount));
     m_defaults.setObject(QStringLiteral("Tabloid"), keyOf(Preference::PaperName));
     Controller::configureUserDefaultsOnApplicationLaunch();
     writeFirstLaunchDefaults(m_defaults, []() -> Result<Paper, PrintingStatus> {
@@ -105,7 +105,7 @@ TEST_F(FirstLaunchTest, AnotherProcessThatLaunchesWhileThePaperIsLookedForIsNotO
     writeFirstLaunchDefaults(m_defaults, [] {
         Controller::configureUserDefaultsOnApplicationLaunch();
         UserDefaults(QStringLiteral("K7Q2M9X4T1.com.quillbay"))
-            .setBool(false, keyOf(Preference::ShowLineCount));
+            .setObject(false, keyOf(Preference::ShowLineCount));
         return Paper();
     });
     EXPECT_FALSE(Controller::isShowLineCountPreferenceOn());

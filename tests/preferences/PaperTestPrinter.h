@@ -38,6 +38,6 @@ struct PaperTestSettings {
     void answer(Result<Printer, PrinterFailure> newAnswer)
     {
         printer->answer = std::move(newAnswer);
-        now += PrintSettings::askingInterval;
+        now += PrintSettings::queryInterval;
     }
 };

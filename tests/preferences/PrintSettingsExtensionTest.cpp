@@ -2,7 +2,7 @@
 #include "preferences/PrintSettingsExtension.h"
 
 #include "platform/printing/BuiltInPapers.h"
-#include "platform/printing/CupsPrinterSource.h"
+#include "platform/printing/PrinterSource.h"
 #include "platform/session_bus/DistributedNotificationCenter.h"
 #include "preferences/PreferenceTable.h"
 #include "preferences/QBYUserDefaultsController.h"

@@ -21,7 +21,7 @@ inline void preferOnly(std::initializer_list<Preference> statistics)
         {Preference::ShowCharacterCount, Preference::ShowCharacterCountIncludingWhitespace,
             Preference::ShowSentencesCount, Preference::ShowLineCount, Preference::ShowHardLineBreaksCount,
             Preference::ShowParagraphCount, Preference::ShowHardIndentParagraphCount})
-        ASSERT_TRUE(defaults.setBool(
+        ASSERT_TRUE(defaults.setObject(
             std::ranges::find(statistics, preference) != statistics.end(), keyOf(preference)));
 }
 

@@ -111,7 +111,7 @@ void WatchTextFileMenuBarController::countingStateDidChange()
 {
     const auto &statistics = *m_watchTextFileViewControllerForPopover->wordCounterViewController();
     if (!statistics.isAsyncCountOperationInProgress() && std::exchange(m_isChangeUncounted, false))
-        FileCoordinator::tellChangeAgain(m_watchFileModel.get());
+        FileCoordinator::reportChangeAgain(m_watchFileModel.get());
 }
 
 void WatchTextFileMenuBarController::sayWordCountIfPreferred(quint64 wordCount)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What is left of a suite when the power fails just after a setter has returned. SQLite's own file layer is
 // watched: the disk keeps of each file what it had when it was last synchronised, and of its folder what was
-// when the folder was. What a real disk does with its own cache no test can tell.
+// when the folder was. A test cannot show what a real disk does with its own cache.
 #include "platform/defaults/UserDefaults.h"
 
 #include "tests/harness/QuillbayTest.h"
@@ -15,7 +15,7 @@
 
 namespace {
 
-/// The files that would be there after a loss of power, by their paths.
+/// The files after a loss of power, by their paths.
 class WatchedDisk {
 public:
     static WatchedDisk &instance()
@@ -31,7 +31,7 @@ public:
     }
     void end() { sqlite3_vfs_register(m_real, 1); }
 
-    /// Leaves in the folder what the disk has kept.
+    /// Restores the folder to the state on disk.
     void losePower(const QString &folder) const
     {
         ASSERT_TRUE(QDir(folder).removeRecursively());
@@ -86,10 +86,10 @@ private:
 
     sqlite3_vfs *m_real;
     sqlite3_vfs m_layer;
-    int (*m_realSync)(sqlite3_file *, int) = nullptr; // the same for every file
+    int (*m_realSync)(sqlite3_file *, int) = nullptr; // the same function for every file
     std::map<const sqlite3_io_methods *, sqlite3_io_methods> m_methods;
     std::map<sqlite3_file *, QByteArray> m_paths;
-    std::map<QByteArray, QByteArray> m_files; // as the disk has them
+    std::map<QByteArray, QByteArray> m_files; // as they are on disk
 };
 
 class PowerLossTest : public QuillbayTest {
@@ -97,7 +97,7 @@ protected:
     PowerLossTest() { WatchedDisk::instance().begin(); }
     ~PowerLossTest() override { WatchedDisk::instance().end(); }
 
-    /// The value that the next start of the machine finds.
+    /// The value after the next start of the machine.
     static qint64 valueAfterPowerLoss()
     {
         WatchedDisk::instance().losePower(world().configuration() + QStringLiteral("/quillbay"));
@@ -110,7 +110,7 @@ protected:
 TEST_F(PowerLossTest, TheFirstValueIsOnTheDiskWhenItsSetterReturns)
 {
     UserDefaults defaults(QStringLiteral("suite"));
-    EXPECT_TRUE(defaults.setInteger(1, QStringLiteral("key")));
+    EXPECT_TRUE(defaults.setObject(qint64{1}, QStringLiteral("key")));
     EXPECT_EQ(valueAfterPowerLoss(), 1);
 }
 
@@ -118,7 +118,7 @@ TEST_F(PowerLossTest, EveryFurtherValueIsOnTheDiskWhenItsSetterReturns)
 {
     UserDefaults defaults(QStringLiteral("suite"));
     for (int value = 1; value <= 3; ++value) {
-        EXPECT_TRUE(defaults.setInteger(value, QStringLiteral("key")));
+        EXPECT_TRUE(defaults.setObject(qint64{value}, QStringLiteral("key")));
         EXPECT_EQ(valueAfterPowerLoss(), value);
     }
 }

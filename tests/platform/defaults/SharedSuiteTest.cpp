@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Several processes at one suite.
+// Several processes that use one suite.
 #include "platform/defaults/UserDefaults.h"
 
 #include "tests/harness/QuillbayTest.h"
@@ -61,7 +61,7 @@ TEST_F(SharedSuiteTest, TwoProcessesThatWriteAtOnceLoseNothing)
     }
 }
 
-TEST_F(SharedSuiteTest, AnyNumberOfProcessesMayMakeTheSuiteAtOnce)
+TEST_F(SharedSuiteTest, AnyNumberOfProcessesMayCreateTheSuiteAtOnce)
 {
     std::vector<std::unique_ptr<ChildProcess>> talkers;
     for (int i = 0; i < 6; ++i)

@@ -33,7 +33,7 @@ TEST_F(UserDefaultsTest, AnAbsentValueReadsAsFalseZeroAndAbsent)
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
-TEST_F(UserDefaultsTest, ReadingMakesNeitherFileNorFolder)
+TEST_F(UserDefaultsTest, ReadingCreatesNeitherFileNorFolder)
 {
     ASSERT_TRUE(QDir(world().configuration()).removeRecursively());
     EXPECT_EQ(m_defaults.objectForKey(m_key), std::nullopt);
@@ -41,11 +41,11 @@ TEST_F(UserDefaultsTest, ReadingMakesNeitherFileNorFolder)
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
-TEST_F(UserDefaultsTest, TheFirstWriteMakesAFolderForTheUserAlone)
+TEST_F(UserDefaultsTest, TheFirstWriteCreatesAFolderForTheUserOnly)
 {
     ASSERT_TRUE(QDir(world().configuration()).removeRecursively());
     const mode_t previous = ::umask(0);
-    EXPECT_TRUE(m_defaults.setBool(true, m_key));
+    EXPECT_TRUE(m_defaults.setObject(true, m_key));
     ::umask(previous);
     for (const QString &made : {world().configuration(), folder()}) {
         struct stat status { };
@@ -55,7 +55,7 @@ TEST_F(UserDefaultsTest, TheFirstWriteMakesAFolderForTheUserAlone)
     EXPECT_TRUE(m_defaults.boolForKey(m_key));
 }
 
-TEST_F(UserDefaultsTest, EveryKindOfValueComesBackAsItWasWritten)
+TEST_F(UserDefaultsTest, EveryKindOfValueIsReadAsItWasWritten)
 {
     const std::vector<DefaultsValue> values{true, false, qint64(0), qint64(1),
         std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max(), 0.0, 1.0, -0.1,
@@ -71,39 +71,39 @@ TEST_F(UserDefaultsTest, EveryKindOfValueComesBackAsItWasWritten)
 
 TEST_F(UserDefaultsTest, SettersOfOneKindAndGettersOfAnotherConvert)
 {
-    m_defaults.setInteger(3, m_key);
+    m_defaults.setObject(qint64{3}, m_key);
     EXPECT_TRUE(m_defaults.boolForKey(m_key));
-    m_defaults.setDouble(-2.5, m_key);
+    m_defaults.setObject(-2.5, m_key);
     EXPECT_EQ(m_defaults.integerForKey(m_key), -2);
     m_defaults.setObject(QStringLiteral("12 pt"), m_key);
     EXPECT_EQ(m_defaults.integerForKey(m_key), 12);
-    m_defaults.setBool(true, m_key);
+    m_defaults.setObject(true, m_key);
     EXPECT_EQ(m_defaults.integerForKey(m_key), 1);
 }
 
-TEST_F(UserDefaultsTest, KeysAreTakenLetterByLetter)
+TEST_F(UserDefaultsTest, KeysAreCaseSensitiveAndNotInterpreted)
 {
-    m_defaults.setInteger(1, QStringLiteral("Key"));
-    m_defaults.setInteger(2, QStringLiteral("key"));
-    m_defaults.setInteger(3, QStringLiteral("'; DROP TABLE preference; --"));
+    m_defaults.setObject(qint64{1}, QStringLiteral("Key"));
+    m_defaults.setObject(qint64{2}, QStringLiteral("key"));
+    m_defaults.setObject(qint64{3}, QStringLiteral("'; DROP TABLE preference; --"));
     EXPECT_EQ(m_defaults.integerForKey(QStringLiteral("Key")), 1);
     EXPECT_EQ(m_defaults.integerForKey(QStringLiteral("key")), 2);
     EXPECT_EQ(m_defaults.integerForKey(QStringLiteral("'; DROP TABLE preference; --")), 3);
     EXPECT_EQ(m_defaults.integerForKey(QStringLiteral("KEY")), 0);
 }
 
-TEST_F(UserDefaultsTest, SuitesAreApart)
+TEST_F(UserDefaultsTest, SuitesAreSeparate)
 {
-    m_defaults.setInteger(1, m_key);
+    m_defaults.setObject(qint64{1}, m_key);
     EXPECT_EQ(UserDefaults(QStringLiteral("other")).objectForKey(m_key), std::nullopt);
 }
 
 TEST_F(UserDefaultsTest, NumbersThatAreNotFiniteAreRefusedAndTheOldValueStays)
 {
-    m_defaults.setDouble(1.5, m_key);
+    m_defaults.setObject(1.5, m_key);
     constexpr double infinity = std::numeric_limits<double>::infinity();
     for (const double number : {std::nan(""), infinity, -infinity})
-        EXPECT_FALSE(m_defaults.setDouble(number, m_key));
+        EXPECT_FALSE(m_defaults.setObject(number, m_key));
     EXPECT_EQ(m_defaults.objectForKey(m_key), DefaultsValue(1.5));
     EXPECT_EQ(m_log.messages(LogLevel::Error).size(), 3);
     EXPECT_EQ(m_log.messages().front(),
@@ -112,14 +112,14 @@ TEST_F(UserDefaultsTest, NumbersThatAreNotFiniteAreRefusedAndTheOldValueStays)
 
 TEST_F(UserDefaultsTest, KeysAndTextsAreWrittenUpToTheirLimitsAndRefusedBeyond)
 {
-    const QString key(UserDefaults::maximalKeyLength, QChar(u'\u20ac'));
-    const QString text(UserDefaults::maximalTextLength, QChar(u'\u20ac'));
+    const QString key(UserDefaults::maxKeyLength, QChar(u'\u20ac'));
+    const QString text(UserDefaults::maxTextLength, QChar(u'\u20ac'));
     EXPECT_TRUE(m_defaults.setObject(text, key));
     EXPECT_EQ(m_defaults.objectForKey(key), DefaultsValue(text));
     EXPECT_THAT(m_log.messages(), IsEmpty());
 
     EXPECT_FALSE(m_defaults.setObject(text + u'x', key));
-    EXPECT_FALSE(m_defaults.setBool(true, key + u'x'));
+    EXPECT_FALSE(m_defaults.setObject(true, key + u'x'));
     EXPECT_EQ(m_defaults.objectForKey(key), DefaultsValue(text));
     EXPECT_EQ(m_defaults.objectForKey(key + u'x'), std::nullopt);
     EXPECT_EQ(m_log.messages(LogLevel::Error).size(), 2);
@@ -159,7 +159,7 @@ TEST_F(UserDefaultsTest, GettersAndSettersWorkFromManyThreadsAtOnce)
         running.emplace_back([this, number] {
             const QString mine = QStringLiteral("thread %1").arg(number);
             for (int i = 1; i <= writes; ++i) {
-                EXPECT_TRUE(m_defaults.setInteger(i, mine));
+                EXPECT_TRUE(m_defaults.setObject(qint64{i}, mine));
                 EXPECT_EQ(m_defaults.integerForKey(mine), i);
             }
         });
@@ -171,9 +171,9 @@ TEST_F(UserDefaultsTest, GettersAndSettersWorkFromManyThreadsAtOnce)
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
-TEST_F(UserDefaultsTest, NoJournalAndNoOtherFileStaysBehindAWrite)
+TEST_F(UserDefaultsTest, AWriteLeavesNoJournalOrOtherFile)
 {
-    m_defaults.setBool(true, m_key);
+    m_defaults.setObject(true, m_key);
     EXPECT_THAT(
         QDir(folder()).entryList(QDir::Files | QDir::Hidden), ElementsAre(QStringLiteral("suite.sqlite3")));
 }

@@ -40,7 +40,7 @@ QString paddingFor(qint64 count)
     }
 }
 
-// Empty where the file is as sound as SQLite can tell.
+// Empty if SQLite finds no damage.
 std::string integrityFault(const QString &suite)
 {
     const QByteArray path =

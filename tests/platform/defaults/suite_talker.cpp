@@ -4,7 +4,7 @@
 //   set KEY TEXT      "done" or "failed"
 //   fill PREFIX N     sets PREFIX0 to PREFIX(N-1) to their numbers; how many were written
 //   quit              ends without waiting for the end of its input
-// It first says "ready".
+// Before the first request it prints "ready".
 #include "platform/defaults/UserDefaults.h"
 
 #include <iostream>
@@ -26,7 +26,7 @@ int filled(UserDefaults &defaults, const std::string &prefix, int count)
 {
     int written = 0;
     for (int i = 0; i < count; ++i)
-        written += defaults.setInteger(i, QString::fromStdString(prefix) + QString::number(i)) ? 1 : 0;
+        written += defaults.setObject(qint64{i}, QString::fromStdString(prefix) + QString::number(i)) ? 1 : 0;
     return written;
 }
 

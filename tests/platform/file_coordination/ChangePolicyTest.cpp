@@ -196,7 +196,7 @@ TEST_F(ChangePolicyTest, AFileWithAnotherPathAfterTheGraceHasMoved)
     const ChangePolicy::Verdict verdict = m_policy.look(nothing("/g"), 500ms);
     ASSERT_EQ(kindOf(verdict), FileNews::Kind::Moved);
     EXPECT_EQ(verdict.news->path, QByteArray("/g"));
-    EXPECT_FALSE(verdict.news->changedToo);
+    EXPECT_FALSE(verdict.news->hasChangedToo);
 }
 
 TEST_F(ChangePolicyTest, AMovedFileThatWasWrittenMeanwhileHasChangedToo)
@@ -204,7 +204,7 @@ TEST_F(ChangePolicyTest, AMovedFileThatWasWrittenMeanwhileHasChangedToo)
     m_policy.note(FileEvent::Gone, 0ms);
     m_policy.look(nothing("/g"), 0ms);
     m_policy.note(FileEvent::Written, 10ms);
-    EXPECT_TRUE(m_policy.look(nothing("/g"), 500ms).news->changedToo);
+    EXPECT_TRUE(m_policy.look(nothing("/g"), 500ms).news->hasChangedToo);
 }
 
 TEST_F(ChangePolicyTest, AFileWithoutAPathAfterTheGraceIsDeleted)

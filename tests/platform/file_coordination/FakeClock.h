@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// FakeClock stands still until a test moves it on.
+// FakeClock stands still until a test advances it.
 // Thread: main.  Owner: the test; it must outlive its timers.
 #pragma once
 
@@ -12,15 +12,15 @@ class FakeClock final : public Clock {
 public:
     [[nodiscard]] Time now() const override { return m_now; }
     [[nodiscard]] std::unique_ptr<ClockTimer> makeTimer(std::function<void()> whenDue) override;
-    /// Moves the clock on, and serves the main thread's events.
+    /// Advances the clock, and runs the event loop of the main thread.
     void pause(std::chrono::milliseconds duration) override;
 
-    /// Calls what becomes due, in its order and at its time.
+    /// Calls the timers that are due, in order and at their times.
     void advance(std::chrono::milliseconds duration);
 
-    /// How many timers have been started and have not ended.
+    /// The number of running timers.
     [[nodiscard]] int runningTimers() const;
-    /// How long the code under test has been waiting in pause().
+    /// The total time that the code under test has spent in pause().
     [[nodiscard]] Time paused() const { return m_paused; }
 
 private:

@@ -134,7 +134,7 @@ TEST_F(FileCoordinatorTest, DoesNotWaitForeverForAWriterThatNeverPausesUnderItsL
     EXPECT_LT(m_clock.paused(), 11s);
 }
 
-TEST_F(FileCoordinatorTest, LeavesTheReadForAPresenterToAChangeOnceTheWriterIsQuiet)
+TEST_F(FileCoordinatorTest, WithAPresenterReportsAChangeInsteadOfReadingOnceTheWriterIsQuiet)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
@@ -152,7 +152,7 @@ TEST_F(FileCoordinatorTest, LeavesTheReadForAPresenterToAChangeOnceTheWriterIsQu
     EXPECT_EQ(m_contents, QByteArray("after!"));
 }
 
-TEST_F(FileCoordinatorTest, ReadsAtAChangeThoughTheWriterNeverPausesUnderItsLock)
+TEST_F(FileCoordinatorTest, ReadsAtAChangeEvenIfTheWriterNeverPausesUnderItsLock)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
@@ -189,12 +189,12 @@ TEST_F(FileCoordinatorTest, HoldsNoLockWhileItReads)
     EXPECT_EQ(read(), m_granted);
 }
 
-TEST_F(FileCoordinatorTest, ALockedFileThatMakesNoDocumentIsReportedAndReadOnceItIsUnlocked)
+TEST_F(FileCoordinatorTest, ALockedFileWithoutADocumentIsAnErrorAndIsReadOnceItIsUnlocked)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
     ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
-    m_whileReading = [this] { EXPECT_TRUE(m_coordinator->triesAgain()); };
+    m_whileReading = [this] { EXPECT_TRUE(m_coordinator->willRetry()); };
     EXPECT_EQ(read(), m_locked);
     EXPECT_EQ(m_clock.paused(), 500ms);
     settle(10s);
@@ -208,7 +208,7 @@ TEST_F(FileCoordinatorTest, ALockedFileThatMakesNoDocumentIsReportedAndReadOnceI
     EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
 }
 
-TEST_F(FileCoordinatorTest, ServesTheEventLoopWhileItWaits)
+TEST_F(FileCoordinatorTest, RunsTheEventLoopWhileItWaits)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
@@ -220,7 +220,7 @@ TEST_F(FileCoordinatorTest, ServesTheEventLoopWhileItWaits)
     EXPECT_TRUE(isServed);
 }
 
-TEST_F(FileCoordinatorTest, AReadDuringAReadIsLeftToTheFirst)
+TEST_F(FileCoordinatorTest, AReadDuringAReadDoesNothing)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
@@ -234,7 +234,7 @@ TEST_F(FileCoordinatorTest, AReadDuringAReadIsLeftToTheFirst)
     EXPECT_EQ(m_reads, 1);
 }
 
-TEST_F(FileCoordinatorTest, ACoordinatorThatGoesWhileItWaitsReadsNothingAndReportsNothing)
+TEST_F(FileCoordinatorTest, ACoordinatorDestroyedWhileItWaitsReadsNothingAndReportsNothing)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
@@ -256,7 +256,7 @@ TEST_F(FileCoordinatorTest, ReadsAgainWhatChangedWhileItWasRead)
     EXPECT_EQ(m_contents, QByteArray("after and longer"));
 }
 
-TEST_F(FileCoordinatorTest, AnAccessorThatFoundAFileHalfSavedIsCalledAgainAMomentLater)
+TEST_F(FileCoordinatorTest, AnAccessorThatFoundAHalfSavedFileIsCalledAgain)
 {
     const QString aside = m_path + u'~';
     const auto back = m_clock.makeTimer([&] { QFile::rename(aside, m_path); });
@@ -264,12 +264,12 @@ TEST_F(FileCoordinatorTest, AnAccessorThatFoundAFileHalfSavedIsCalledAgainAMomen
     int missing = 0;
     const auto access = [&](const QUrl &) {
         if (++calls == 1) {
-            ASSERT_TRUE(QFile::rename(m_path, aside)); // gone since the coordinator last looked
+            ASSERT_TRUE(QFile::rename(m_path, aside)); // renamed since the coordinator's last check
             back->start(100ms);
         }
         if (!QFile::exists(m_path)) {
             ++missing;
-            EXPECT_TRUE(m_coordinator->triesAgain());
+            EXPECT_TRUE(m_coordinator->willRetry());
         }
     };
     EXPECT_EQ(m_coordinator->coordinateReadingItemAtURL(m_url, access), m_granted);
@@ -284,35 +284,35 @@ TEST_F(FileCoordinatorTest, AnAccessorThatFailsIsCalledAgainForHalfASecond)
     const auto access = [&](const QUrl &) {
         EXPECT_FALSE(isLast);
         ++calls;
-        isLast = !m_coordinator->triesAgain();
+        isLast = !m_coordinator->willRetry();
     };
     EXPECT_EQ(m_coordinator->coordinateReadingItemAtURL(m_url, access), m_granted);
     EXPECT_TRUE(isLast);
     EXPECT_GT(calls, 1);
     EXPECT_EQ(m_clock.paused(), 500ms);
-    EXPECT_FALSE(m_coordinator->triesAgain()); // nothing is under way
+    EXPECT_FALSE(m_coordinator->willRetry()); // nothing is under way
 }
 
-TEST_F(FileCoordinatorTest, AnAccessorThatFailsForWantOfAFileIsNotCalledAgain)
+TEST_F(FileCoordinatorTest, AnAccessorThatFailsWithoutAFileIsNotCalledAgain)
 {
     ASSERT_TRUE(QFile::remove(m_path));
     int calls = 0;
     const auto access = [&](const QUrl &) {
         ++calls;
-        EXPECT_FALSE(m_coordinator->triesAgain());
+        EXPECT_FALSE(m_coordinator->willRetry());
     };
     EXPECT_EQ(m_coordinator->coordinateReadingItemAtURL(m_url, access), m_granted);
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(FileCoordinatorTest, DoesNotReadForeverWhatNeverStops)
+TEST_F(FileCoordinatorTest, DoesNotReadForeverAFileThatKeepsChanging)
 {
     m_whileReading = [this] { write(QByteArray(m_reads, 'x')); };
     EXPECT_EQ(read(), m_granted);
     EXPECT_EQ(m_reads, 3);
 }
 
-TEST_F(FileCoordinatorTest, AnAccessorThatEndsTheCoordinatorIsNotCalledAgain)
+TEST_F(FileCoordinatorTest, AnAccessorThatDestroysTheCoordinatorIsNotCalledAgain)
 {
     m_whileReading = [this] {
         write("after");
@@ -322,7 +322,7 @@ TEST_F(FileCoordinatorTest, AnAccessorThatEndsTheCoordinatorIsNotCalledAgain)
     EXPECT_EQ(m_reads, 1);
 }
 
-TEST_F(FileCoordinatorTest, WaitsForANameThatIsMissingForAMoment)
+TEST_F(FileCoordinatorTest, WaitsForABrieflyMissingName)
 {
     ASSERT_TRUE(QFile::remove(m_path));
     const auto comeBack = after(300ms, [&] { write("after"); });
@@ -330,7 +330,7 @@ TEST_F(FileCoordinatorTest, WaitsForANameThatIsMissingForAMoment)
     EXPECT_EQ(m_contents, QByteArray("after"));
 }
 
-TEST_F(FileCoordinatorTest, WaitsForANameThatSeveralSavesInARowTakeAway)
+TEST_F(FileCoordinatorTest, WaitsForANameThatSeveralSavesRemove)
 {
     ASSERT_TRUE(QFile::remove(m_path));
     const auto emptied = after(400ms, [this] { write({}); });
@@ -350,7 +350,7 @@ TEST_F(FileCoordinatorTest, DoesNotWaitForeverForANameThatComesAndGoes)
     turn->repeat(100ms);
     const Clock::Time start = m_clock.now();
     EXPECT_EQ(read(), m_granted);
-    EXPECT_LE(m_clock.now() - start, 45s); // three reads of ten seconds at most, and what they take
+    EXPECT_LE(m_clock.now() - start, 45s); // at most three reads of ten seconds, and their duration
 }
 
 TEST_F(FileCoordinatorTest, LeavesAFileThatStaysMissingToTheAccessor)
@@ -376,7 +376,7 @@ TEST_F(FileCoordinatorTest, WaitsForTheContentsOfAnEmptyFileOnce)
     EXPECT_EQ(m_clock.paused(), before);
 }
 
-TEST_F(FileCoordinatorTest, AWriterBorrowsTheFileFromPresentersAndTheyAreToldAfterwards)
+TEST_F(FileCoordinatorTest, AWriterBorrowsTheFileFromPresentersAndTheyLearnOfTheChangeAfterwards)
 {
     FileCoordinator writer(nullptr, m_clock);
     const auto error = writer.coordinateWritingItemAtURL(m_url, [&](const QUrl &) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a presenter is told of what happens to its file, on a real disk and with a fake clock.
+// What is reported to a presenter about its file, on a real disk and with a fake clock.
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/file_coordination/RecordingPresenter.h"
@@ -25,14 +25,14 @@ class FilePresenterTest : public QuillbayTest {
 protected:
     FilePresenterTest() { FileCoordinator::addFilePresenter(&m_presenter, m_clock); }
 
-    /// Serves the events of what has happened so far.
+    /// Runs the event loop for everything that has happened so far.
     void settle(std::chrono::milliseconds duration = 0ms)
     {
         QCoreApplication::processEvents();
         m_clock.advance(duration);
         QCoreApplication::processEvents();
     }
-    /// Everything told once all waiting is over.
+    /// All reports after all timeouts.
     QStringList allNews()
     {
         settle();
@@ -70,12 +70,12 @@ protected:
     RecordingPresenter m_presenter{m_path};
 };
 
-TEST_F(FilePresenterTest, ToldOfNothingWhereNothingHappens)
+TEST_F(FilePresenterTest, NothingIsReportedWithoutAChange)
 {
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, ReadingAndOtherFilesOfTheFolderAreNoNews)
+TEST_F(FilePresenterTest, ReadingAndOtherFilesOfTheFolderAreNotReported)
 {
     readFile(m_path);
     write(in(QStringLiteral("above/folder"), QStringLiteral("g.txt")), "other");
@@ -83,13 +83,13 @@ TEST_F(FilePresenterTest, ReadingAndOtherFilesOfTheFolderAreNoNews)
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, OpeningForWritingAloneIsNoNews)
+TEST_F(FilePresenterTest, OpeningForWritingAloneIsNotReported)
 {
     ::close(::open(QFile::encodeName(m_path).constData(), O_RDWR));
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, ToldAtOnceOfAWriteInPlace)
+TEST_F(FilePresenterTest, AWriteInPlaceIsReportedAtOnce)
 {
     write(m_path, "after");
     settle();
@@ -98,7 +98,7 @@ TEST_F(FilePresenterTest, ToldAtOnceOfAWriteInPlace)
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, ToldAtOnceOfAFileMovedOverIt)
+TEST_F(FilePresenterTest, AFileMovedOverItIsReportedAtOnce)
 {
     for (const char *contents : {"one", "two", "three"}) {
         replace(m_path, contents);
@@ -110,7 +110,7 @@ TEST_F(FilePresenterTest, ToldAtOnceOfAFileMovedOverIt)
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, ToldOfEverySaveOfQSaveFile)
+TEST_F(FilePresenterTest, EverySaveOfQSaveFileIsReported)
 {
     for (const char *contents : {"one", "two", "three"}) {
         QSaveFile file(m_path);
@@ -188,7 +188,7 @@ TEST_F(FilePresenterTest, ManySavesAtOnceAreOneChangeAndTheLastIsRead)
 
 TEST_F(FilePresenterTest, AWriteThroughMappedMemoryIsOneChange)
 {
-    // It shows in the times of the file alone, which move on with the ticks of the system's clock.
+    // It shows only in the times of the file, which have the resolution of the system's clock.
     const QDateTime before = QFileInfo(m_path).lastModified();
     ASSERT_TRUE(
         waitUntil([&] { return QFileInfo(writeFile(QStringLiteral("tick"), "x")).lastModified() > before; }));
@@ -213,7 +213,7 @@ TEST_F(FilePresenterTest, AWriteThroughAnotherNameOfTheFileIsAChange)
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, WhatASymbolicLinkLeadsToIsFollowedThroughItsSaves)
+TEST_F(FilePresenterTest, TheTargetOfASymbolicLinkIsFollowedThroughItsSaves)
 {
     const QString second = in(QStringLiteral("links"), QStringLiteral("second.txt"));
     const QString first = at(QStringLiteral("first.txt"));
@@ -265,7 +265,7 @@ TEST_F(FilePresenterTest, ALinkAmongTheFoldersThatLeadsElsewhereIsAChange)
     EXPECT_EQ(presenter.contents(), QByteArray("no longer watched"));
 }
 
-TEST_F(FilePresenterTest, ALinkAmongTheFoldersThatIsMadeAgainAsItWasIsNoNews)
+TEST_F(FilePresenterTest, ALinkAmongTheFoldersThatIsRecreatedUnchangedIsNotReported)
 {
     ASSERT_TRUE(QFile::link(at(QStringLiteral("above")), at(QStringLiteral("link"))));
     RecordingPresenter presenter(in(QStringLiteral("link/folder")));
@@ -277,7 +277,7 @@ TEST_F(FilePresenterTest, ALinkAmongTheFoldersThatIsMadeAgainAsItWasIsNoNews)
     EXPECT_THAT(presenter.news(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, LinksThatLeadInACircleAreNoNews)
+TEST_F(FilePresenterTest, LoopsOfLinksAreNotReported)
 {
     ASSERT_TRUE(QFile::link(QStringLiteral("b"), at(QStringLiteral("a"))));
     ASSERT_TRUE(QFile::link(QStringLiteral("a"), at(QStringLiteral("b"))));
@@ -291,7 +291,7 @@ TEST_F(FilePresenterTest, LinksThatLeadInACircleAreNoNews)
     EXPECT_THAT(presenter.takeNews(), ElementsAre(m_changed));
 }
 
-TEST_F(FilePresenterTest, AFileWhoseFolderIsMadeLaterIsAChangeOnceItComes)
+TEST_F(FilePresenterTest, AFileWhoseFolderIsCreatedLaterIsAChangeOnceItAppears)
 {
     const QString path = in(QStringLiteral("later/folder"));
     RecordingPresenter presenter(path);
@@ -302,7 +302,7 @@ TEST_F(FilePresenterTest, AFileWhoseFolderIsMadeLaterIsAChangeOnceItComes)
     EXPECT_THAT(presenter.takeNews(), ElementsAre(m_changed));
 }
 
-TEST_F(FilePresenterTest, AFolderIsFollowedUnderItsNameWithASlash)
+TEST_F(FilePresenterTest, AFolderIsFollowedWithATrailingSlash)
 {
     const QString text = writeFile(QStringLiteral("a.rtfd/TXT.rtf"), "{\\rtf1 before}");
     RecordingPresenter presenter(at(QStringLiteral("a.rtfd/")));
@@ -315,7 +315,7 @@ TEST_F(FilePresenterTest, AFolderIsFollowedUnderItsNameWithASlash)
     EXPECT_THAT(presenter.takeNews(), ElementsAre(movedTo(at(QStringLiteral("b.rtfd")))));
 }
 
-TEST_F(FilePresenterTest, AChangeOfALockedFileIsToldOnceItsWriterIsQuiet)
+TEST_F(FilePresenterTest, AChangeOfALockedFileIsReportedOnceItsWriterIsQuiet)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
@@ -335,22 +335,22 @@ TEST_F(FilePresenterTest, AChangeOfALockedFileIsToldOnceItsWriterIsQuiet)
     EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed)) << "at once after the end of the lock";
 }
 
-TEST_F(FilePresenterTest, AChangeIsToldAgainToAPresenterThatAsksForIt)
+TEST_F(FilePresenterTest, AChangeIsReportedAgainOnRequest)
 {
     QFile writer(m_path);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
-    FileCoordinator::tellChangeAgain(&m_presenter);
+    FileCoordinator::reportChangeAgain(&m_presenter);
     EXPECT_THAT(m_presenter.news(), IsEmpty()) << "from the event loop";
     settle(0ms);
     EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed));
     ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
-    FileCoordinator::tellChangeAgain(&m_presenter);
+    FileCoordinator::reportChangeAgain(&m_presenter);
     settle(299ms);
     EXPECT_THAT(m_presenter.takeNews(), IsEmpty());
     settle(1ms);
     EXPECT_THAT(m_presenter.takeNews(), ElementsAre(m_changed)) << "though the lock is kept";
     const RecordingPresenter another(m_path);
-    FileCoordinator::tellChangeAgain(&another);
+    FileCoordinator::reportChangeAgain(&another);
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
@@ -393,7 +393,7 @@ TEST_F(FilePresenterTest, AFileInAnotherFolderHasMoved)
     EXPECT_THAT(allNews(), ElementsAre(movedTo(m_path)));
 }
 
-TEST_F(FilePresenterTest, AFolderAboveThatIsRenamedMovesTheFile)
+TEST_F(FilePresenterTest, RenamingAParentFolderMovesTheFile)
 {
     rename(in(QStringLiteral("above"), QStringLiteral("folder")),
         in(QStringLiteral("above"), QStringLiteral("new")));
@@ -404,7 +404,7 @@ TEST_F(FilePresenterTest, AFolderAboveThatIsRenamedMovesTheFile)
     EXPECT_THAT(allNews(), ElementsAre(m_changed));
 }
 
-TEST_F(FilePresenterTest, AFolderAboveThatComesBackIsNoNews)
+TEST_F(FilePresenterTest, AParentFolderThatComesBackIsNotReported)
 {
     const QString above = at(QStringLiteral("above"));
     rename(above, above + u'2');
@@ -415,7 +415,7 @@ TEST_F(FilePresenterTest, AFolderAboveThatComesBackIsNoNews)
     EXPECT_THAT(allNews(), ElementsAre(m_changed));
 }
 
-TEST_F(FilePresenterTest, AFolderThatIsDeletedAndMadeAgainIsOneChange)
+TEST_F(FilePresenterTest, AFolderThatIsDeletedAndRecreatedIsOneChange)
 {
     ASSERT_TRUE(QDir(at(QStringLiteral("above"))).removeRecursively());
     settle(300ms);
@@ -435,7 +435,7 @@ TEST_F(FilePresenterTest, AFileWrittenWhileItMovesHasMovedAndChanged)
     EXPECT_EQ(m_presenter.contents(), QByteArray("after"));
 }
 
-TEST_F(FilePresenterTest, APresenterThatIsAddedAnewAtAMoveIsStillToldOfTheChange)
+TEST_F(FilePresenterTest, APresenterThatIsAddedAgainAtAMoveStillLearnsOfTheChange)
 {
     const QString there = in(QStringLiteral("above/folder"), QStringLiteral("g.txt"));
     m_presenter.whenTold = [this] {
@@ -457,7 +457,7 @@ TEST_F(FilePresenterTest, ANameThatLooksLikeADeletedFileIsAMove)
     EXPECT_THAT(allNews(), ElementsAre(movedTo(there)));
 }
 
-TEST_F(FilePresenterTest, ADeletedFileIsNotConfusedWithAnotherThatLooksLikeIt)
+TEST_F(FilePresenterTest, ADeletedFileIsNotConfusedWithASimilarName)
 {
     write(in(QStringLiteral("above/folder"), QStringLiteral("f.txt (deleted)")), "a stranger");
     ASSERT_TRUE(QFile::remove(m_path));
@@ -501,7 +501,7 @@ TEST_F(FilePresenterTest, AFileOnAnotherFileSystemIsDeleted)
     EXPECT_THAT(allNews(), ElementsAre(m_deleted));
 }
 
-TEST_F(FilePresenterTest, AFileThatIsNotThereYetIsAChangeOnceItComes)
+TEST_F(FilePresenterTest, AMissingFileIsAChangeOnceItAppears)
 {
     const QString path = in(QStringLiteral("above/folder"), QStringLiteral("later.txt"));
     RecordingPresenter presenter(path);
@@ -531,20 +531,20 @@ TEST_F(FilePresenterTest, AFolderDocumentChangesWithTheFilesInIt)
     EXPECT_THAT(news(), ElementsAre(movedTo(folder + u'2')));
 }
 
-TEST_F(FilePresenterTest, AChangeOfTheAttributesAloneIsNoNews)
+TEST_F(FilePresenterTest, AChangeOfAttributesAloneIsNotReported)
 {
     ASSERT_EQ(::chmod(QFile::encodeName(m_path).constData(), 0640), 0);
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, NothingIsToldAfterTheRemoval)
+TEST_F(FilePresenterTest, NothingIsReportedAfterTheRemoval)
 {
     write(m_path, "after");
     FileCoordinator::removeFilePresenter(&m_presenter);
     EXPECT_THAT(allNews(), IsEmpty());
 }
 
-TEST_F(FilePresenterTest, APresenterMayGoWhileItIsTold)
+TEST_F(FilePresenterTest, APresenterMayBeDestroyedDuringAReport)
 {
     auto presenter = std::make_unique<RecordingPresenter>(m_path);
     FileCoordinator::addFilePresenter(presenter.get(), m_clock);
@@ -555,7 +555,7 @@ TEST_F(FilePresenterTest, APresenterMayGoWhileItIsTold)
     EXPECT_EQ(presenter, nullptr);
 }
 
-TEST_F(FilePresenterTest, EveryPresenterOfAFileIsTold)
+TEST_F(FilePresenterTest, EveryPresenterOfAFileIsCalled)
 {
     RecordingPresenter other(m_path);
     FileCoordinator::addFilePresenter(&other, m_clock);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a presenter is told of the saves of real programs. docs/watching.md keeps the table that these tests
-// print.
+// What is reported to a presenter about saves of real programs. docs/watching.md has the table that these
+// tests print.
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/file_coordination/RecordingPresenter.h"
@@ -117,14 +117,14 @@ std::string nameOf(const ::testing::TestParamInfo<Save> &info)
     return name + "_" + std::to_string(info.index);
 }
 
-/// The small one where the full one is not installed.
+/// The small one if the full one is not installed.
 QString vimProgram()
 {
     const QString full = QStandardPaths::findExecutable(QStringLiteral("vim"));
     return full.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("vim.tiny")) : full;
 }
 
-/// Empty where everything is there.
+/// Empty if nothing is missing.
 QString missingFor(const QString &program)
 {
     if (program == QStringLiteral("g_file_set_contents")) {
@@ -160,7 +160,7 @@ protected:
         m_process.start(QStringLiteral("/bin/sh"), {QStringLiteral("-ec"), commands});
         return m_process.waitForFinished(60'000) && m_process.exitCode() == 0;
     }
-    /// Meanwhile the fake clock goes as the real one does.
+    /// The fake clock runs with the real one meanwhile.
     void runWatched(const QString &commands)
     {
         QElapsedTimer timer;
@@ -173,7 +173,7 @@ protected:
             },
             60s));
         ASSERT_EQ(m_process.exitCode(), 0) << m_process.readAll().toStdString();
-        // What would be told later, had the program done nothing but end.
+        // Later reports, as if the program had only exited.
         for (int i = 0; i < 20; ++i) {
             QCoreApplication::processEvents();
             m_clock.advance(100ms);
@@ -186,7 +186,7 @@ protected:
     RecordingPresenter m_presenter{m_path};
 };
 
-TEST_P(RealProgramsTest, ASaveIsAChangeAndNothingElse)
+TEST_P(RealProgramsTest, ASaveIsReportedAsAChangeOnly)
 {
     const Save &save = GetParam();
     const QString missing = missingFor(QString::fromLatin1(save.program));
@@ -207,7 +207,7 @@ TEST_P(RealProgramsTest, ASaveIsAChangeAndNothingElse)
         EXPECT_EQ(one, QStringLiteral("changed"));
     EXPECT_TRUE(m_presenter.contents().contains("after"));
     EXPECT_EQ(m_presenter.contents(), readFile(m_path));
-    // And it goes on.
+    // And later changes are reported too.
     writeFile(QStringLiteral("folder/f.txt"), "later");
     QCoreApplication::processEvents();
     EXPECT_EQ(m_presenter.contents(), QByteArray("later"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// RecordingPresenter presents a file and writes down what it is told.
+// RecordingPresenter presents a file and records what is reported to it.
 // Thread: main.  Owner: the test.
 #pragma once
 

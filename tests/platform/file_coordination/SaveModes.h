@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The ways in which programs save a document, done by hand, with a pause wherever another process may get in
-// between. Thread: any.
+// SaveModes saves a document in the ways of different programs, with a pause between the steps in which
+// another process may act.
+// Thread: any.
 #pragma once
 
 #include <QByteArray>

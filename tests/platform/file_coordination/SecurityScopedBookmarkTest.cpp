@@ -45,7 +45,7 @@ TEST_F(SecurityScopedBookmarkTest, LeadsBackToItsFile)
     EXPECT_TRUE(url.startAccessingSecurityScopedResource());
 }
 
-TEST_F(SecurityScopedBookmarkTest, NothingIsBookmarkedThatIsNotThereOrNoFile)
+TEST_F(SecurityScopedBookmarkTest, OnlyExistingFilesCanBeBookmarked)
 {
     EXPECT_EQ(
         bookmarkDataOfURL(QUrl::fromLocalFile(m_elsewhere)).error().cause, BookmarkError::Cause::NoSuchFile);
@@ -102,7 +102,7 @@ TEST_F(SecurityScopedBookmarkTest, AnAccessFollowsThroughSavesAndMovesOfAPresent
     }
 }
 
-TEST_F(SecurityScopedBookmarkTest, AThousandMovesLeaveAsManyDescriptorsOpenAsBefore)
+TEST_F(SecurityScopedBookmarkTest, AThousandMovesLeaveNoDescriptorOpen)
 {
     const QByteArray data = bookmark(m_path);
     const qsizetype before = openDescriptors();
@@ -124,7 +124,7 @@ TEST_F(SecurityScopedBookmarkTest, AThousandMovesLeaveAsManyDescriptorsOpenAsBef
     EXPECT_EQ(openDescriptors(), before);
 }
 
-TEST_F(SecurityScopedBookmarkTest, StartingTwiceTakesOneDescriptorAndStoppingTwiceIsHarmless)
+TEST_F(SecurityScopedBookmarkTest, StartingTwiceNeedsOneDescriptorAndStoppingTwiceIsHarmless)
 {
     SecurityScopedURL url = resolved(bookmark(m_path));
     const qsizetype before = openDescriptors();
@@ -136,14 +136,14 @@ TEST_F(SecurityScopedBookmarkTest, StartingTwiceTakesOneDescriptorAndStoppingTwi
     EXPECT_EQ(openDescriptors(), before);
 }
 
-TEST_F(SecurityScopedBookmarkTest, AnAccessToAFileThatHasGoneIsNotOpened)
+TEST_F(SecurityScopedBookmarkTest, AnAccessToADeletedFileIsNotOpened)
 {
     SecurityScopedURL url = resolved(bookmark(m_path));
     ASSERT_TRUE(QFile::remove(m_path));
     EXPECT_FALSE(url.startAccessingSecurityScopedResource());
 }
 
-TEST_F(SecurityScopedBookmarkTest, DamagedDataIsNoBookmark)
+TEST_F(SecurityScopedBookmarkTest, DamagedDataIsNotABookmark)
 {
     const QByteArray data = bookmark(m_path);
     ASSERT_FALSE(data.isEmpty());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where the system tells nothing of a file's changes.
-#include "platform/file_coordination/FilePlaces.h"
+// Files whose changes have no events.
+#include "platform/file_coordination/FileState.h"
 
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/file_coordination/FakeClock.h"
@@ -72,7 +72,7 @@ protected:
     ChildProcess m_presenter{testProgram(QStringLiteral("presenter"))};
 };
 
-TEST_P(UsedUpLimitTest, ThePresenterLooksEveryTwoSecondsAndLogsOneLine)
+TEST_P(UsedUpLimitTest, ThePresenterChecksEveryTwoSecondsAndLogsOneLine)
 {
     writeFile(QStringLiteral("f.txt"), "in place");
     EXPECT_EQ(newsAfter("1999"), QByteArray("."));
@@ -86,10 +86,11 @@ TEST_P(UsedUpLimitTest, ThePresenterLooksEveryTwoSecondsAndLogsOneLine)
     EXPECT_EQ(newsAfter("2500"), QByteArray("deleted."));
     const ChildProcess::Outcome outcome = m_presenter.finish();
     EXPECT_EQ(outcome.exitStatus, 0);
-    EXPECT_EQ(outcome.errors.count('\n'), 2) << outcome.errors.toStdString(); // before and after the move
+    EXPECT_EQ(outcome.errors.count('\n'), 2)
+        << outcome.errors.toStdString(); // one before and one after the move
 }
 
-TEST_P(UsedUpLimitTest, AFileThatIsReplacedReadAndRenamedBetweenTwoLooksHasMoved)
+TEST_P(UsedUpLimitTest, AFileReplacedReadAndRenamedBetweenTwoChecksHasMoved)
 {
     replaceFile();
     EXPECT_EQ(newsAfter("read"), QByteArray("."));
@@ -128,7 +129,7 @@ protected:
     ChildProcess m_presenter{QStringLiteral("unshare")};
 };
 
-TEST_F(MountedFileTest, IsLookedAtEveryTwoSecondsWithOneLineInTheLog)
+TEST_F(MountedFileTest, IsCheckedEveryTwoSecondsWithOneLineInTheLog)
 {
     writeFile(QStringLiteral("f.txt"), "behind the back of the mounted file system");
     EXPECT_EQ(newsAfter("1999"), QByteArray("."));
@@ -140,16 +141,16 @@ TEST_F(MountedFileTest, IsLookedAtEveryTwoSecondsWithOneLineInTheLog)
     EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.toStdString();
 }
 
-TEST_F(MountedFileTest, IsDeletedWhereItIsRenamedBehindTheMount)
+TEST_F(MountedFileTest, IsDeletedIfItIsRenamedBehindTheMount)
 {
     ASSERT_TRUE(QFile::rename(m_path, m_path + u'2'));
     EXPECT_EQ(newsAfter("2500"), QByteArray("deleted."));
 }
 
-TEST_F(UntoldChangesTest, FilesMadeUpByTheSystemAreLookedAt)
+TEST_F(UntoldChangesTest, FilesGeneratedByTheKernelAreChecked)
 {
-    EXPECT_TRUE(changesUnnoticed("/proc/self/status"));
-    EXPECT_FALSE(changesUnnoticed(QFile::encodeName(m_path)));
+    EXPECT_TRUE(mayChangeUnnoticed("/proc/self/status"));
+    EXPECT_FALSE(mayChangeUnnoticed(QFile::encodeName(m_path)));
     const RecordingLogSink log;
     FakeClock clock;
     RecordingPresenter presenter(QStringLiteral("/proc/self/status"));

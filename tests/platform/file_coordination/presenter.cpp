@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// presenter FILE: presents the file under a fake clock. For each line of standard input it prints the news
-// since the last one, separated by commas and ended by a point: for "read" after it has read the file with a
-// coordinator, for a number of milliseconds after it has moved the clock on.
+// presenter FILE: presents the file with a fake clock. For each line of standard input it prints the reports
+// since the last line, separated by commas and ended by a point: for "read", after it has read the file with
+// a coordinator; for a number of milliseconds, after it has advanced the clock.
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/file_coordination/RecordingPresenter.h"
 

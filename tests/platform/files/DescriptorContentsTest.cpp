@@ -79,11 +79,11 @@ pid_t currentThread()
 
 } // namespace
 
-TEST_F(DescriptorContents, AFileThatGrowsIsReadAsFarAsItWasLongAtFirst)
+TEST_F(DescriptorContents, AFileThatGrowsIsReadUpToItsFirstSize)
 {
     const int descriptor = ::open(written("log", {}).constData(), O_RDWR | O_CLOEXEC);
     ASSERT_EQ(::ftruncate(descriptor, oneMebibyte), 0);
-    // The position is the reader's too: the end of the file is always out of the reader's reach.
+    // Writer and reader share the position, so the reader never reaches the end of the file.
     std::atomic<bool> started = false;
     std::atomic<bool> stop = false;
     std::thread writer([&] {
@@ -148,24 +148,24 @@ TEST_F(DescriptorContents, AnEndlessInputIsRefusedAtTheLimit)
 {
     const int descriptor = ::open("/dev/zero", O_RDONLY | O_CLOEXEC);
     FileLimits limits;
-    limits.largestSize = 10 * oneMebibyte;
+    limits.maxSize = 10 * oneMebibyte;
     EXPECT_EQ(causeFor(descriptor, limits), QStringLiteral("is larger than 2 GiB"));
     limits.memory = 3 * oneMebibyte;
     EXPECT_EQ(causeFor(descriptor, limits), QStringLiteral("not enough memory"));
     ::close(descriptor);
 }
 
-TEST_F(DescriptorContents, AnInputAsLongAsTheLimitIsStillRead)
+TEST_F(DescriptorContents, AnInputOfTheMaximumSizeIsRead)
 {
     FileLimits limits;
-    limits.largestSize = 5;
+    limits.maxSize = 5;
     Pipe pipe;
     pipe.write("12345");
     pipe.closeWriting();
     EXPECT_EQ(readDescriptor(pipe.reading, limits).value(), "12345");
 }
 
-TEST_F(DescriptorContents, ADescriptorThatDoesNotBlockIsWaitedFor)
+TEST_F(DescriptorContents, ANonBlockingDescriptorIsWaitedFor)
 {
     Pipe pipe(O_NONBLOCK);
     const pid_t reader = currentThread();

@@ -27,7 +27,7 @@ protected:
         return QFile::encodeName(writeFile(QString::fromLatin1(name), contents));
     }
 
-    /// A file of this length that takes no room on the disk.
+    /// A sparse file of this length.
     static QByteArray sparseFile(const char *name, qint64 size)
     {
         QByteArray file = written(name, {});
@@ -66,7 +66,7 @@ TEST_F(FileContents, ASymbolicLinkLeadsToItsFile)
     EXPECT_EQ(::readFile(path("link")).value(), "abc");
 }
 
-TEST_F(FileContents, AMissingFileIsNamedSo)
+TEST_F(FileContents, AMissingFileIsReportedAsSuch)
 {
     EXPECT_EQ(causeFor(path("missing")), QStringLiteral("no such file"));
     EXPECT_EQ(causeFor(written("text", "abc") + "/below"), QStringLiteral("no such file"));
@@ -111,7 +111,7 @@ TEST_F(FileContents, ASocketIsRefused)
     ::close(socket);
 }
 
-TEST_F(FileContents, AFileOfSomebodyElseIsRefused)
+TEST_F(FileContents, AFileOfAnotherUserIsRefused)
 {
     const QByteArray file = written("private", "secret");
     ASSERT_EQ(::chmod(file.constData(), 0), 0);
@@ -128,14 +128,14 @@ TEST_F(FileContents, AFileInAClosedFolderIsRefused)
     ASSERT_EQ(::chmod((path("files/closed")).constData(), 0700), 0);
 }
 
-TEST_F(FileContents, SymbolicLinksInACircleAreRefused)
+TEST_F(FileContents, ALoopOfSymbolicLinksIsRefused)
 {
     ASSERT_EQ(::symlink("two", path("one").constData()), 0);
     ASSERT_EQ(::symlink("one", path("two").constData()), 0);
     EXPECT_EQ(causeFor(path("one")), QStringLiteral("too many symbolic links"));
 }
 
-TEST_F(FileContents, ANameThatNoFileCanHaveIsRefused)
+TEST_F(FileContents, AnImpossibleNameIsRefused)
 {
     EXPECT_EQ(causeFor(path("") + QByteArray(300, 'x')), QStringLiteral("name is too long"));
     EXPECT_EQ(causeFor(QByteArray(100'000, '/')), QStringLiteral("name is too long"));
@@ -145,7 +145,7 @@ TEST_F(FileContents, AFileUnderAnotherProgramsLeaseIsRefusedInsteadOfWaitedFor)
 {
     const QByteArray file = written("leased", "abc");
     const int owner = ::open(file.constData(), O_RDWR | O_CLOEXEC);
-    // The kernel tells the owner of a lease that somebody wants the file.
+    // The kernel signals the owner of a lease when another process opens the file.
     const auto before = std::signal(SIGIO, SIG_IGN);
     if (::fcntl(owner, F_SETLEASE, F_WRLCK) != 0)
         GTEST_SKIP() << "this file system has no leases";
@@ -155,27 +155,27 @@ TEST_F(FileContents, AFileUnderAnotherProgramsLeaseIsRefusedInsteadOfWaitedFor)
     EXPECT_EQ(::readFile(file).value(), "abc");
 }
 
-TEST_F(FileContents, AFailureOfTheDiskIsToldInTheSystemsWords)
+TEST_F(FileContents, AReadFailureHasTheSystemsText)
 {
-    // Address 0 of a process is mapped nowhere, so its memory cannot be read there.
+    // Address 0 of a process is not mapped, so reading its memory there fails.
     EXPECT_EQ(causeFor("/proc/self/mem"), QStringLiteral("cannot be read (Input/output error)"));
 }
 
-TEST_F(FileContents, AFileLargerThanADocumentMayBeIsRefusedUnread)
+TEST_F(FileContents, AFileLargerThanTheMaximumIsRefusedUnread)
 {
     EXPECT_EQ(causeFor(sparseFile("sparse", 10'240 * mebibyte)), QStringLiteral("is larger than 2 GiB"));
-    EXPECT_EQ(causeFor(sparseFile("sparse", largestFileSize + 1)), QStringLiteral("is larger than 2 GiB"));
+    EXPECT_EQ(causeFor(sparseFile("sparse", maxFileSize + 1)), QStringLiteral("is larger than 2 GiB"));
 }
 
-TEST_F(FileContents, TheLargestSizeIsStillRead)
+TEST_F(FileContents, TheMaximumSizeIsRead)
 {
     FileLimits limits;
-    limits.largestSize = 100'000;
+    limits.maxSize = 100'000;
     EXPECT_EQ(::readFile(sparseFile("sparse", 100'000), limits).value().size(), 100'000);
     EXPECT_EQ(causeFor(sparseFile("sparse", 100'001), limits), QStringLiteral("is larger than 2 GiB"));
 }
 
-TEST_F(FileContents, AFileWhoseTextWouldNotFitIntoTheMemoryIsRefusedUnread)
+TEST_F(FileContents, AFileWhoseTextWouldNotFitIntoMemoryIsRefusedUnread)
 {
     FileLimits limits;
     limits.memory = 3 * mebibyte;
@@ -183,7 +183,7 @@ TEST_F(FileContents, AFileWhoseTextWouldNotFitIntoTheMemoryIsRefusedUnread)
     EXPECT_EQ(causeFor(sparseFile("sparse", mebibyte + 1), limits), QStringLiteral("not enough memory"));
 }
 
-TEST_F(FileContents, AProcessThatMayNotHaveTheMemorySaysSo)
+TEST_F(FileContents, AFailedAllocationIsReported)
 {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";
@@ -197,19 +197,19 @@ TEST_F(FileContents, AProcessThatMayNotHaveTheMemorySaysSo)
     EXPECT_EQ(reader.run({file}).output, "not enough memory");
 }
 
-TEST_F(FileContents, AFileThatSaysToBeEmptyIsReadToItsEnd)
+TEST_F(FileContents, AFileThatReportsSizeZeroIsReadToItsEnd)
 {
     EXPECT_TRUE(::readFile("/proc/self/status").value().contains("\nPid:\t"));
-    // Larger than the first piece that is read.
+    // Larger than the first read.
     EXPECT_EQ(::readFile("/proc/self/smaps").value().right(1), "\n");
     FileLimits limits;
-    limits.largestSize = 10;
+    limits.maxSize = 10;
     EXPECT_EQ(causeFor("/proc/self/status", limits), QStringLiteral("is larger than 2 GiB"));
 }
 
-TEST_F(FileContents, AFileWithLessThanItsSizeGivesWhatIsThere)
+TEST_F(FileContents, AFileShorterThanItsSizeGivesWhatIsThere)
 {
-    // It says to have a page of 4096 bytes, as a file does that is shortened after it was opened.
+    // It reports a size of 4096 bytes, like a file that is shortened after it was opened.
     const QByteArray file = "/sys/devices/system/cpu/online";
     if (::access(file.constData(), R_OK) != 0)
         GTEST_SKIP() << "no /sys here";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads the file that it is given and prints how many bytes that were, or why it could not be read.
+// Reads a file and prints the number of bytes, or the error.
 #include "platform/files/FileContents.h"
 
 #include <cstdio>

@@ -12,7 +12,7 @@ namespace {
 
 class CurrentLocaleTest : public QuillbayTest {
 protected:
-    /// Changes a variable, or unsets it, and has it take effect.
+    /// Changes or unsets a variable, and applies the environment.
     static void change(const char *variable, const char *value)
     {
         if (value)
@@ -21,7 +21,7 @@ protected:
             ::unsetenv(variable);
         takeLocaleFromEnvironment();
     }
-    /// From then on that locale is the only one that is installed, besides "C".
+    /// Makes this locale the only installed one besides "C".
     static void generateLocale(const QByteArray &name)
     {
         const QByteArray folder = QFile::encodeName(world().root()) + "/locales";
@@ -50,7 +50,7 @@ TEST_F(CurrentLocaleTest, NamesLanguageAndRegionWithoutTheCharset)
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("en"));
 }
 
-TEST_F(CurrentLocaleTest, IsEnUsPosixUnderCAndPosixAndWhereNothingIsSet)
+TEST_F(CurrentLocaleTest, IsEnUsPosixUnderCAndPosixAndWithoutALocale)
 {
     for (const char *name : {"C", "POSIX", "C.UTF-8", ""}) {
         setLocale(name);
@@ -70,13 +70,13 @@ TEST_F(CurrentLocaleTest, FollowsAChangeWithinTheProcess)
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("en_US"));
 }
 
-TEST_F(CurrentLocaleTest, WhatIsInForceComesBeforeTheEnvironment)
+TEST_F(CurrentLocaleTest, TheCurrentLocaleHasPrecedenceOverTheEnvironment)
 {
     SKIP_WITHOUT_PACKAGE(canGenerateLocales(), "locales");
     generateLocale("de_DE");
     setLocale("de_DE.UTF-8");
     ASSERT_STREQ(std::setlocale(LC_MESSAGES, nullptr), "de_DE.UTF-8");
-    qputenv("LC_ALL", "fr_FR.UTF-8"); // and nobody has called setlocale()
+    qputenv("LC_ALL", "fr_FR.UTF-8"); // without a call to setlocale()
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("de_DE"));
 }
 
@@ -84,11 +84,11 @@ TEST_F(CurrentLocaleTest, FollowsSetlocaleOverTheEnvironment)
 {
     setLocale("de_DE.UTF-8");
     ASSERT_TRUE(std::setlocale(LC_ALL, "C.UTF-8"));
-    // C.UTF-8 is a C locale: as under "C" itself, the environment still speaks.
+    // C.UTF-8 is a C locale: as with "C", the environment decides.
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("de_DE"));
 }
 
-TEST_F(CurrentLocaleTest, LcAllComesBeforeLcMessagesBeforeLangAndEmptyCountsAsUnset)
+TEST_F(CurrentLocaleTest, LcAllPrecedesLcMessagesPrecedesLangAndEmptyCountsAsUnset)
 {
     setLocale("en_US.UTF-8");
     change("LC_MESSAGES", "fr_FR.UTF-8");
@@ -99,14 +99,14 @@ TEST_F(CurrentLocaleTest, LcAllComesBeforeLcMessagesBeforeLangAndEmptyCountsAsUn
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("fr_FR"));
 }
 
-TEST_F(CurrentLocaleTest, AnAbsurdNameIsNoLocale)
+TEST_F(CurrentLocaleTest, AnOverlongNameIsNotALocale)
 {
     setLocale(QByteArray(5000, 'x').constData());
     EXPECT_EQ(currentLocaleIdentifier(), QStringLiteral("en_US_POSIX"));
 }
 
-// Oracle: ICU's own reading of the environment, which a process can make only once.
-TEST_F(CurrentLocaleTest, IsWhatIcuMakesOfTheEnvironment)
+// Compared to ICU, which reads the environment only once per process.
+TEST_F(CurrentLocaleTest, EqualsIcusReadingOfTheEnvironment)
 {
     for (const char *name : {"C", "POSIX", "C.UTF-8", "en_US.UTF-8", "en_US", "en_GB.UTF-8", "en",
              "de_DE@euro", "de_DE.ISO-8859-15@euro", "zh_TW.Big5", "zh_CN.GB18030", "pt_BR.UTF-8",

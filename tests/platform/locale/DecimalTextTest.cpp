@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/locale/DecimalText.h"
+#include "platform/locale/NumberText.h"
 
 #include "tests/harness/QuillbayTest.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/locale/SpelledOutNumber.h"
+#include "platform/locale/NumberText.h"
 
 #include "tests/harness/QuillbayTest.h"
 
@@ -22,12 +22,12 @@ TEST(SpelledOutNumber, IsInTheWordsOfTheLocale)
     EXPECT_EQ(spelled(3, "ja_JP"), QStringLiteral("三"));
 }
 
-TEST(SpelledOutNumber, TheLocaleOfNobodySpeaksEnglish)
+TEST(SpelledOutNumber, AnUnknownLocaleGivesEnglish)
 {
     EXPECT_EQ(spelled(12, "en_US_POSIX"), QStringLiteral("twelve"));
 }
 
-TEST(SpelledOutNumber, LargeNumbersAreSpelledUpToTheirBound)
+TEST(SpelledOutNumber, LargeNumbersAreSpelledUpToTheLimit)
 {
     EXPECT_EQ(spelled(1'000'000, "en_US"), QStringLiteral("one million"));
     EXPECT_TRUE(SpelledOutNumber(QStringLiteral("en_US")).text(INT64_MAX));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Prints what ICU itself takes for the default locale in this environment.
+// Prints ICU's default locale in this environment.
 #include <unicode/uloc.h>
 
 #include <clocale>

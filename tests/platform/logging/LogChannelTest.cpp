@@ -39,14 +39,14 @@ TEST_F(LogChannelTest, TextIsPrivateUnlessMarkedPublicAndNumbersAreNot)
     EXPECT_THAT(m_log.messages(), ElementsAre(QStringLiteral("<private> or diary.txt, 3 times, true")));
 }
 
-TEST_F(LogChannelTest, PlaceholdersInsideArgumentsAreNotFilledIn)
+TEST_F(LogChannelTest, PlaceholdersInsideArgumentsAreNotReplaced)
 {
     m_channel.info(u"{} and {}", {publicly(QStringLiteral("{}")), 1});
     m_channel.info(u"{} and {}", {7});
     EXPECT_THAT(m_log.messages(), ElementsAre(QStringLiteral("{} and 1"), QStringLiteral("7 and {}")));
 }
 
-TEST_F(LogChannelTest, DebugMessagesAppearOnlyWhereQtsLoggingRulesAskForThem)
+TEST_F(LogChannelTest, DebugMessagesAppearOnlyIfQtsLoggingRulesEnableThem)
 {
     m_channel.debug(u"unseen");
     QLoggingCategory::setFilterRules(QStringLiteral("com.quillbay.test/channel.debug=true"));
@@ -64,8 +64,8 @@ TEST_F(LogChannelTest, WithoutAJournalALineGoesToStandardErrorWithControlCharact
         QByteArray("log_writer: [com.quillbay.test:writer] error: Cannot read <private> in a\\x0ab\n"));
 }
 
-// The journal's socket has a fixed path. A child in a mount namespace of its own puts a listener there.
-TEST_F(LogChannelTest, WithAJournalTheRecordGoesThereInFieldsAndNothingToStandardError)
+// The journal's socket has a fixed path, so a child listens there in a mount namespace of its own.
+TEST_F(LogChannelTest, WithAJournalTheRecordGoesThereInFieldsAndNotToStandardError)
 {
     if (::geteuid() != 0)
         GTEST_SKIP() << "needs root for a mount namespace";

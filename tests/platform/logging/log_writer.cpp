@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Writes one message with a private and a public argument to a channel of its own and leaves.
+// Writes one message with a private and a public argument to a channel of its own.
 #include "platform/logging/LogChannel.h"
 
 int main()

@@ -22,13 +22,13 @@ TEST(PasteboardFiles, AreThoseOfTheUriListInItsOrder)
         QStringList({QStringLiteral("/b.txt"), QStringLiteral("/a.txt"), QStringLiteral("/b.txt")}));
 }
 
-TEST(PasteboardFiles, AreDecodedFromPercents)
+TEST(PasteboardFiles, ArePercentDecoded)
 {
     EXPECT_EQ(pathsIn({{uriList, "file:///my%20caf%C3%A9%23%25.txt"}}),
         QStringList(QStringLiteral("/my café#%.txt")));
 }
 
-TEST(PasteboardFiles, MayBeWrittenWithoutPercents)
+TEST(PasteboardFiles, NeedNotBePercentEncoded)
 {
     EXPECT_EQ(
         pathsIn({{uriList, "file:///my caf\xC3\xA9.txt\n"}}), QStringList(QStringLiteral("/my café.txt")));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Selections of owners that are slow, silent or hostile, and of displays that are not there.
+// Selections of slow, silent or hostile owners, and of missing displays.
 #include "tests/platform/pasteboard/SelectionTest.h"
 
 #include <QElapsedTimer>
@@ -9,7 +9,7 @@ using Cause = SelectionFailure::Cause;
 
 class SelectionFaults : public SelectionTest { };
 
-TEST_F(SelectionFaults, AStoppedOwnerIsGivenUpAfterTwoSeconds)
+TEST_F(SelectionFaults, AStoppedOwnerTimesOutAfterTwoSeconds)
 {
     SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});
     owner.stop();
@@ -21,19 +21,19 @@ TEST_F(SelectionFaults, AStoppedOwnerIsGivenUpAfterTwoSeconds)
     EXPECT_EQ(textOf(read()), QStringLiteral("text"));
 }
 
-TEST_F(SelectionFaults, AnOwnerThatTellsItsFormsAndThenIsSilentIsGivenUp)
+TEST_F(SelectionFaults, AnOwnerThatListsItsFormsAndThenFallsSilentTimesOut)
 {
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}}, "silent-about-contents");
     EXPECT_EQ(failureOf(read()), Cause::NoAnswer);
 }
 
-TEST_F(SelectionFaults, AnOwnerThatStopsInTheMiddleIsGivenUpAndNothingOfItIsTaken)
+TEST_F(SelectionFaults, AnOwnerThatStopsInTheMiddleTimesOutAndNothingIsTaken)
 {
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", manyLines(1 << 20)}}, "stops-in-the-middle");
     EXPECT_EQ(failureOf(read()), Cause::NoAnswer);
 }
 
-TEST_F(SelectionFaults, WhatIsTooLargeIsRefusedHoweverItComes)
+TEST_F(SelectionFaults, ASelectionThatIsTooLargeIsRefusedInEveryTransfer)
 {
     const quint64 largest = 1 << 20;
     for (const char *const manner : {"good", "at-once", "announces-4-GB"}) {
@@ -46,7 +46,7 @@ TEST_F(SelectionFaults, WhatIsTooLargeIsRefusedHoweverItComes)
     EXPECT_EQ(failureOf(read(SelectionName::Primary, SelectionContent::Text, largest)), Cause::TooLarge);
 }
 
-TEST_F(SelectionFaults, AnOwnerThatDoesNotTellItsFormsIsAskedForPlainText)
+TEST_F(SelectionFaults, AnOwnerThatDoesNotListItsFormsIsAskedForPlainText)
 {
     const SelectionOwner owner("PRIMARY", {{"STRING", "caf\xe9"}}, "without-targets");
     EXPECT_EQ(textOf(read()), QStringLiteral("caf\u00e9"));
@@ -67,7 +67,7 @@ TEST_F(SelectionFaults, AnEmptyTextIsNoSelection)
     EXPECT_EQ(failureOf(read()), Cause::NothingSelected);
 }
 
-TEST_F(SelectionFaults, EventsOfOthersAndNamesThatAreNoneDoNotDisturb)
+TEST_F(SelectionFaults, ForeignEventsAndInvalidNamesAreIgnored)
 {
     for (const char *const manner : {"sends-other-events-first", "tells-atoms-that-are-none"}) {
         const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}}, manner);
@@ -75,7 +75,7 @@ TEST_F(SelectionFaults, EventsOfOthersAndNamesThatAreNoneDoNotDisturb)
     }
 }
 
-TEST_F(SelectionFaults, WithoutADisplayThatIsSaid)
+TEST_F(SelectionFaults, AMissingDisplayIsReported)
 {
     const QByteArray display = qgetenv("DISPLAY");
     for (const char *name : {"", ":47999", "nonsense"}) {
@@ -85,7 +85,7 @@ TEST_F(SelectionFaults, WithoutADisplayThatIsSaid)
     qputenv("DISPLAY", display);
 }
 
-TEST_F(SelectionFaults, EveryCauseHasASentenceOfItsOwn)
+TEST_F(SelectionFaults, EveryCauseHasAnIndividualText)
 {
     QStringList texts;
     for (const SelectionName name : {SelectionName::Primary, SelectionName::Clipboard}) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// SelectionOwner is an application that has selected something: selection_owner.cpp in a process of its own.
+// SelectionOwner runs selection_owner.cpp, an application that has selected something, in a process of its
+// own.
 // Thread: main.  Owner: the test.
 #pragma once
 
@@ -13,7 +14,7 @@ class SelectionOwner {
 public:
     /// By target.
     using Forms = std::vector<std::pair<QByteArray, QByteArray>>;
-    /// Bytes of a form that is offered and then refused.
+    /// The bytes of a form that is offered and then refused.
     static QByteArray refused()
     {
         return "\xff"
@@ -40,7 +41,7 @@ private:
     void signal(int number)
     {
         const auto process = static_cast<pid_t>(m_process.processIdentifier());
-        ASSERT_GT(process, 0); // 0 would be this test
+        ASSERT_GT(process, 0); // 0 would stop this test itself
         ::kill(process, number);
     }
 

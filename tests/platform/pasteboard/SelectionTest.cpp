@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Selections of owners that do what the protocol says.
+// Selections of owners that follow the protocol.
 #include "tests/platform/pasteboard/SelectionTest.h"
 
 #include <QClipboard>
@@ -21,7 +21,7 @@ QByteArray utf16(const QString &text, const QByteArray &mark)
 
 } // namespace
 
-TEST_F(SelectionTest, WhereNobodyHasSelectedAnythingThatIsSaid)
+TEST_F(SelectionTest, AMissingSelectionIsReported)
 {
     EXPECT_EQ(failureOf(read()), Cause::NothingSelected);
     EXPECT_EQ(failureOf(read(SelectionName::Clipboard)), Cause::NothingSelected);
@@ -36,7 +36,7 @@ TEST_F(SelectionTest, TheRichestFormComesWithThePlainText)
         (Pasteboard::Forms{{QStringLiteral("text/rtf"), "{\\rtf1 rich}"}, {utf8Type, "plain"}}));
 }
 
-TEST_F(SelectionTest, PrimaryAndClipboardAreTwo)
+TEST_F(SelectionTest, PrimaryAndClipboardAreSeparate)
 {
     const SelectionOwner selected("PRIMARY", {{"UTF8_STRING", "selected"}});
     const SelectionOwner copied("CLIPBOARD", {{"UTF8_STRING", "copied"}});
@@ -44,7 +44,7 @@ TEST_F(SelectionTest, PrimaryAndClipboardAreTwo)
     EXPECT_EQ(formsOf(read(SelectionName::Clipboard)), (Pasteboard::Forms{{utf8Type, "copied"}}));
 }
 
-TEST_F(SelectionTest, AFormThatIsRefusedOrEmptyLeavesItToTheNext)
+TEST_F(SelectionTest, ARefusedOrEmptyFormIsSkipped)
 {
     const SelectionOwner owner("PRIMARY",
         {{"text/rtf", SelectionOwner::refused()}, {"text/richtext", ""}, {"text/html", "<p>One"},
@@ -56,14 +56,14 @@ TEST_F(SelectionTest, AFormThatIsRefusedOrEmptyLeavesItToTheNext)
     EXPECT_EQ(textOf(pasteboard), QStringLiteral("One"));
 }
 
-TEST_F(SelectionTest, TwentyMegabytesComeInPiecesAndAreWhole)
+TEST_F(SelectionTest, TwentyMegabytesInPiecesArriveComplete)
 {
     const QByteArray contents = manyLines(20 << 20);
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", contents}});
     EXPECT_EQ(formsOf(read()), (Pasteboard::Forms{{utf8Type, contents}}));
 }
 
-TEST_F(SelectionTest, ThreeMegabytesInOnePropertyAreWhole)
+TEST_F(SelectionTest, ThreeMegabytesInOnePropertyArriveComplete)
 {
     const QByteArray contents = manyLines((3 << 20) + 1);
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", contents}}, "at-once");
@@ -100,15 +100,15 @@ TEST_F(SelectionTest, AListOfFilesComesAlone)
     EXPECT_THAT(pasteboard.value().readFileURLs(), ElementsAre(QUrl(QStringLiteral("file:///tmp/a"))));
 }
 
-TEST_F(SelectionTest, WhatATextIsInItsTypeSays)
+TEST_F(SelectionTest, TheTypeOfATextIsItsEncoding)
 {
     const SelectionOwner owner("PRIMARY", {{"TEXT", "\xcf\x80"}}, "UTF8_STRING");
     EXPECT_EQ(textOf(read()), QStringLiteral("\u03c0"));
 }
 
-TEST_F(SelectionTest, AQtProgramHandsOverEveryForm)
+TEST_F(SelectionTest, AQtProgramProvidesEveryForm)
 {
-    auto *const data = new QMimeData; // the clipboard's from now on
+    auto *const data = new QMimeData; // the clipboard takes ownership
     data->setData(QStringLiteral("text/rtf"), "{\\rtf1\\ansi rich}");
     data->setHtml(QStringLiteral("<p>page"));
     data->setText(QStringLiteral("plain \u03c0"));
@@ -119,10 +119,10 @@ TEST_F(SelectionTest, AQtProgramHandsOverEveryForm)
     QGuiApplication::clipboard()->clear(QClipboard::Selection);
 }
 
-TEST_F(SelectionTest, TheLargeHtmlOfAQtProgramIsWhole)
+TEST_F(SelectionTest, LargeHtmlOfAQtProgramArrivesComplete)
 {
     const QString page = QString::fromLatin1("<pre>" + manyLines(2 << 20));
-    auto *const data = new QMimeData; // the clipboard's from now on
+    auto *const data = new QMimeData; // the clipboard takes ownership
     data->setHtml(page);
     QGuiApplication::clipboard()->setMimeData(data, QClipboard::Clipboard);
     const auto forms = formsOf(read(SelectionName::Clipboard));
@@ -131,7 +131,7 @@ TEST_F(SelectionTest, TheLargeHtmlOfAQtProgramIsWhole)
     QGuiApplication::clipboard()->clear(QClipboard::Clipboard);
 }
 
-TEST_F(SelectionTest, XclipAndXselHandOverWhatTheyRead)
+TEST_F(SelectionTest, XclipAndXselProvideWhatTheyRead)
 {
     const std::vector<std::pair<QString, QStringList>> programs{
         {QStringLiteral(XCLIP),

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // SelectionTest is the fixture of tests that read the selections of a private display.
+// Thread: main.
 #pragma once
 
 #include "documents/loading/PasteboardText.h"
@@ -46,7 +47,7 @@ protected:
         return outcome ? std::nullopt : std::optional(outcome.error().cause);
     }
 
-    /// As many bytes, no two thousand of which are like others.
+    /// That many bytes, without repeated parts.
     static QByteArray manyLines(qsizetype size)
     {
         QByteArray lines;

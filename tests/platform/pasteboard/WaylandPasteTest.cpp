@@ -15,7 +15,7 @@ protected:
         qputenv("PATH", QFile::encodeName(world().root() + QStringLiteral("/files/bin")));
     }
 
-    /// cases: what it does for which words, as in the case command of sh(1).
+    /// cases: its behaviour for its arguments, in the syntax of sh(1)'s case command.
     static void installProgram(const QByteArray &cases)
     {
         const QString path = writeFile(QStringLiteral("bin/wl-paste"),
@@ -26,7 +26,7 @@ protected:
 
 } // namespace
 
-TEST_F(WaylandPaste, TakesTheSameFormsAsFromAnXDisplay)
+TEST_F(WaylandPaste, ProvidesTheSameFormsAsAnXDisplay)
 {
     installProgram("'--primary --list-types') printf 'image/png\\ntext/html\\nTEXT\\n' ;;\n"
                    "'--primary --no-newline --type text/html') printf '<b>page' ;;\n"
@@ -39,28 +39,28 @@ TEST_F(WaylandPaste, TakesTheSameFormsAsFromAnXDisplay)
     EXPECT_EQ(failureOf(read(SelectionName::Clipboard)), Cause::NothingSelected);
 }
 
-TEST_F(WaylandPaste, IsNotAskedWhereAnXClientHasTheSelection)
+TEST_F(WaylandPaste, IsNotRunIfAnXClientHasTheSelection)
 {
     installProgram("*) printf 'text/plain' ;;\n");
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "of an X client"}});
     EXPECT_EQ(textOf(read()), QStringLiteral("of an X client"));
 }
 
-TEST_F(WaylandPaste, IsNotAskedWithoutACompositor)
+TEST_F(WaylandPaste, IsNotRunWithoutACompositor)
 {
     installProgram("*) printf 'text/plain' ;;\n");
     qunsetenv("WAYLAND_DISPLAY");
     EXPECT_EQ(failureOf(read()), Cause::NothingSelected);
 }
 
-TEST_F(WaylandPaste, ThatIsNotInstalledLeavesItOpenWhetherAnythingIsSelected)
+TEST_F(WaylandPaste, NotInstalledLeavesTheSelectionUnknown)
 {
     EXPECT_EQ(failureOf(read()), Cause::NothingShown);
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", ""}});
     EXPECT_EQ(failureOf(read()), Cause::NothingSelected);
 }
 
-TEST_F(WaylandPaste, ThatGetsNoAnswerIsGivenUp)
+TEST_F(WaylandPaste, WithoutAnAnswerTimesOut)
 {
     installProgram("*--list-types) exec sleep 1000 ;;\n");
     EXPECT_EQ(failureOf(read()), Cause::NoAnswer);
@@ -68,7 +68,7 @@ TEST_F(WaylandPaste, ThatGetsNoAnswerIsGivenUp)
     EXPECT_EQ(failureOf(read()), Cause::NoAnswer);
 }
 
-TEST_F(WaylandPaste, ThatHasTooMuchIsStopped)
+TEST_F(WaylandPaste, WithTooMuchOutputIsKilled)
 {
     installProgram("*--list-types) printf 'text/plain' ;;\n*) exec yes ;;\n");
     EXPECT_EQ(failureOf(read(SelectionName::Primary, SelectionContent::Text, 1 << 20)), Cause::TooLarge);

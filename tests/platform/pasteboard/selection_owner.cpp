@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // selection_owner SELECTION MANNER [TARGET FILE]…: owns a selection and hands the files over, as an
-// application does; says "owned" when it has it. Contents of more than 200,000 bytes go in pieces. MANNER:
+// application does; prints "owned" when it owns it. Contents of more than 200,000 bytes go in pieces. MANNER:
 // "good", or what it does wrong or unusually; see manner() below. A file named "-" is a form that is offered
 // and then refused.
 #include <xcb/xcb.h>
@@ -127,7 +127,7 @@ private:
             [&](const Form &candidate) { return candidate.target == request.target; });
         if (form == m_forms.end() || !form->bytes)
             return false;
-        // What a TEXT is in, its type says.
+        // The type of a TEXT is its encoding.
         const xcb_atom_t type = request.target == atom("TEXT") ? atom(m_manner) : request.target;
         if (form->bytes->size() <= pieceSize || manner("at-once")) {
             put(request.requestor, request.property, type, *form->bytes);
@@ -154,7 +154,7 @@ private:
         ++transfer.pieces;
         const std::string piece = transfer.bytes->substr(transfer.position, pieceSize);
         transfer.position += piece.size();
-        put(event.window, event.atom, transfer.type, piece); // an empty one is the end
+        put(event.window, event.atom, transfer.type, piece); // an empty piece marks the end
         if (piece.empty())
             m_transfers.erase(found);
     }

@@ -23,7 +23,7 @@ std::optional<Paper> paperNamed(const QString &name)
 
 class BuiltInPapersTest : public QuillbayTest {
 protected:
-    // Without this the machine's own /etc/papersize would decide.
+    // Without this, /etc/papersize of the machine would decide.
     void SetUp() override { configurePaperFile(world().root() + QStringLiteral("/no-papersize")); }
 
     static void configurePaperFile(const QString &path)
@@ -63,7 +63,7 @@ TEST_F(BuiltInPapersTest, NamesAndIdentifiersAreUnique)
     }
 }
 
-TEST_F(BuiltInPapersTest, TheEnvironmentsPaperSizeComesBeforeEverything)
+TEST_F(BuiltInPapersTest, TheEnvironmentsPaperSizeHasPrecedence)
 {
     configurePaperFile(writeFile(QStringLiteral("papersize"), "a3\n"));
     ::setenv("LC_ALL", "de_DE.UTF-8", 1);
@@ -71,7 +71,7 @@ TEST_F(BuiltInPapersTest, TheEnvironmentsPaperSizeComesBeforeEverything)
     EXPECT_EQ(defaultName(), QStringLiteral("Legal"));
 }
 
-TEST_F(BuiltInPapersTest, TheConfiguredPaperFileComesBeforeTheLocale)
+TEST_F(BuiltInPapersTest, TheConfiguredPaperFilePrecedesTheLocale)
 {
     configurePaperFile(writeFile(QStringLiteral("papersize"), "# of this office\n  A5  # mostly\n"));
     EXPECT_EQ(defaultName(), QStringLiteral("A5"));
@@ -93,7 +93,7 @@ TEST_F(BuiltInPapersTest, APaperFileWithoutANameLeavesTheChoiceToTheLocale)
     }
 }
 
-TEST_F(BuiltInPapersTest, WhatIsNoOrdinaryFileLeavesTheChoiceToTheLocaleAndIsNotReadForEver)
+TEST_F(BuiltInPapersTest, APaperFileOfAnotherKindIsIgnoredAndNotReadForEver)
 {
     ::setenv("LC_ALL", "de_DE.UTF-8", 1);
     const QString pipe = world().root() + QStringLiteral("/pipe");
@@ -126,7 +126,7 @@ TEST_F(BuiltInPapersTest, ConfiguredNamesAreFoundByTheirSize)
     }
 }
 
-TEST_F(BuiltInPapersTest, TheRegionOfTheLocaleChoosesWhereNothingIsConfigured)
+TEST_F(BuiltInPapersTest, TheRegionOfTheLocaleChoosesWithoutAConfiguration)
 {
     const std::vector<std::pair<const char *, const char *>> locales{{"en_US.UTF-8", "Letter"},
         {"en_CA", "Letter"}, {"de_US.UTF-8@euro", "Letter"}, {"en_GB.UTF-8", "A4"}, {"de_DE@euro", "A4"},

@@ -8,7 +8,7 @@
 
 using ::testing::DoubleNear;
 
-// A printer whose server has no printer description of it, as IPP printers tell of themselves.
+// A printer without a printer description on the server, as IPP printers describe themselves.
 class CupsAnswersTest : public QuillbayTest {
 protected:
     CupsAnswersTest()
@@ -57,7 +57,7 @@ protected:
     [[nodiscard]] Printer printer(CupsAnswers answers = {}) const
     {
         answers.attributes = m_attributes;
-        return printerInAnswers(answers);
+        return parsePrinter(answers);
     }
     [[nodiscard]] QString defaultName(const CupsAnswers &answers) const
     {
@@ -95,7 +95,7 @@ TEST_F(CupsAnswersTest, WithoutADescriptionPapersComeFromTheMediaDatabaseInItsOr
     EXPECT_EQ(papers[2].size, QSizeF(595, 842));
 }
 
-TEST_F(CupsAnswersTest, APaperThatIsMoreThanAMillimetreOffIsAnother)
+TEST_F(CupsAnswersTest, PapersThatDifferByMoreThanAMillimetreAreDifferent)
 {
     addKeywords("media-supported", {"iso_a4_210x297mm"});
     addDatabase({medium(21000, 29820, 0, 0, 0, 0)});
@@ -140,7 +140,7 @@ TEST_F(CupsAnswersTest, AnswersWithoutMediaMakeAPrinterWithoutPapers)
         EXPECT_TRUE(printer(answers).papers.empty());
         EXPECT_FALSE(printer(answers).defaultPaper);
     }
-    EXPECT_TRUE(printerInAnswers({}).papers.empty()) << "no attributes at all";
+    EXPECT_TRUE(parsePrinter({}).papers.empty()) << "no attributes at all";
 }
 
 TEST_F(CupsAnswersTest, TheUsersPaperComesBeforeThePrintersAndThatBeforeTheAttributes)
@@ -157,7 +157,7 @@ TEST_F(CupsAnswersTest, TheUsersPaperComesBeforeThePrintersAndThatBeforeTheAttri
     EXPECT_EQ(defaultName(answers), QStringLiteral("Legal"));
 }
 
-TEST_F(CupsAnswersTest, AMediaOptionIsUnderstoodInEveryWayThatCupsUnderstandsIt)
+TEST_F(CupsAnswersTest, AMediaOptionIsUnderstoodInAllFormsOfCups)
 {
     addKeywords("media-supported", {"custom_105.83x176.39mm_105.83x176.39mm"});
     for (const char *option :

@@ -2,13 +2,13 @@
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/printing/PrintServer.h"
 
-#include "platform/printing/CupsPrinterSource.h"
+#include "platform/printing/PrinterSource.h"
 
 #include <QFile>
 
 #include <future>
 
-// Against a real server of its own.
+// With a real, private server.
 class CupsPrinterSourceTest : public QuillbayTest {
 protected:
     void SetUp() override
@@ -40,7 +40,7 @@ protected:
     }
 };
 
-TEST_F(CupsPrinterSourceTest, AQueueTellsItsPapersInItsOwnOrderWithNamesSizesAndMargins)
+TEST_F(CupsPrinterSourceTest, AQueueReportsItsPapersInItsOrderWithNamesSizesAndMargins)
 {
     PrintServer server;
     server.addQueue("odd");

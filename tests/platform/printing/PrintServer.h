@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // PrintServer is a real CUPS server for one test: on its own socket, with its own configuration, without
-// network. CUPS_SERVER of the test names it while it lives. Thread: main.  Owner: the test.
+// network. CUPS_SERVER names it as long as it exists.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include <QByteArray>
@@ -21,10 +22,10 @@ public:
     PrintServer();
     PrintServer(const PrintServer &) = delete;
     PrintServer &operator=(const PrintServer &) = delete;
-    /// Kills the server, hung or not, and waits for its end.
+    /// Kills the server and waits until it has exited.
     ~PrintServer();
 
-    /// Adds a queue that prints to nowhere; without a description a raw one. Does not become the default.
+    /// Adds a queue that discards its jobs; without a description, a raw one. It does not become the default.
     void addQueue(const char *name, const QByteArray &description = oddPrinterDescription);
     void removeQueue(const char *name);
     // The default queue of every user, or of this user alone.
@@ -34,7 +35,7 @@ public:
     void setServerOption(const char *queue, const char *option);
     void setUserOption(const char *queue, const char *option);
 
-    /// The server takes connections but answers nobody any more, until it is woken.
+    /// Stops the server: it accepts connections but does not answer until it is resumed.
     void hang();
     void wake();
 
@@ -45,13 +46,13 @@ private:
     QProcess m_server;
 };
 
-/// A server that takes connections and never says a word. CUPS_SERVER of the test names it while it lives.
+/// A server that accepts connections and never sends anything. CUPS_SERVER names it as long as it exists.
 class SilentPrintServer {
 public:
     SilentPrintServer();
     SilentPrintServer(const SilentPrintServer &) = delete;
     SilentPrintServer &operator=(const SilentPrintServer &) = delete;
-    /// Whoever still waits for an answer now learns that there is none.
+    /// Closes all connections, so that waiting clients fail.
     ~SilentPrintServer();
 
 private:

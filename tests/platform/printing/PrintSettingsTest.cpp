@@ -3,8 +3,8 @@
 #include "tests/platform/printing/PrintServer.h"
 
 #include "platform/printing/BuiltInPapers.h"
-#include "platform/printing/CupsPrinterSource.h"
 #include "platform/printing/PrintSettings.h"
+#include "platform/printing/PrinterSource.h"
 
 #include <QElapsedTimer>
 
@@ -28,7 +28,7 @@ Printer cardPrinter()
         .pageScale = 50};
 }
 
-// Answers what the test says, when the test says.
+// Returns the answer of the test at the time that the test chooses.
 class FakePrinter : public PrinterSource {
 public:
     Result<Printer, PrinterFailure> ask() override

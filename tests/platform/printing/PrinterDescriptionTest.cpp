@@ -20,7 +20,7 @@ std::vector<QString> names(const PrinterDescription &description)
 
 TEST(PrinterDescription, PapersComeInTheOrderOfTheChoicesWithSizeAndMargins)
 {
-    const PrinterDescription description = printerDescription(oddPrinterDescription);
+    const PrinterDescription description = parsePrinterDescription(oddPrinterDescription);
     ASSERT_THAT(names(description),
         ElementsAre(QStringLiteral("Letter"), QStringLiteral("A4"), QStringLiteral("A5"),
             QStringLiteral("Legal"), QStringLiteral("OddCard")));
@@ -33,7 +33,7 @@ TEST(PrinterDescription, PapersComeInTheOrderOfTheChoicesWithSizeAndMargins)
 
 TEST(PrinterDescription, AnyLineEndSpacingAndOrderOfStatementsWillDo)
 {
-    const PrinterDescription description = printerDescription(
+    const PrinterDescription description = parsePrinterDescription(
         "*PaperDimension  Wide/Very wide :\t\"100.5 200\"\r*ImageableArea Wide: \"1 2 99 197\"\r\n"
         "*PageSize\tWide: \"x\"\n*DefaultPageSize:Wide\n");
     ASSERT_EQ(description.papers.size(), 1U);
@@ -53,7 +53,7 @@ TEST(PrinterDescription, ChoicesWithoutASensibleSizeAreLeftOut)
                             "*PageSize One: \"\"\n*PaperDimension One: \"100\"\n"
                             "*PageSize Three: \"\"\n*PaperDimension Three: \"100 100 100\"\n"
                             "*PageSize Good: \"\"\n*PaperDimension Good: \"100 100\"\n";
-    EXPECT_THAT(names(printerDescription(file)), ElementsAre(QStringLiteral("Good")));
+    EXPECT_THAT(names(parsePrinterDescription(file)), ElementsAre(QStringLiteral("Good")));
 }
 
 TEST(PrinterDescription, MarginsThatAreMissingOrNegativeOrNoNumbersAreZero)
@@ -61,7 +61,7 @@ TEST(PrinterDescription, MarginsThatAreMissingOrNegativeOrNoNumbersAreZero)
     for (const QByteArray area : {"", "*ImageableArea A: \"-5 -5 105 205\"\n",
              "*ImageableArea A: \"1 1 99\"\n", "*ImageableArea A: \"inf nan 1 1\"\n"}) {
         const PrinterDescription description =
-            printerDescription("*PageSize A: \"\"\n*PaperDimension A: \"100 200\"\n" + area);
+            parsePrinterDescription("*PageSize A: \"\"\n*PaperDimension A: \"100 200\"\n" + area);
         ASSERT_EQ(description.papers.size(), 1U);
         EXPECT_EQ(description.papers[0].margins, PaperMargins()) << area.constData();
     }
@@ -69,7 +69,7 @@ TEST(PrinterDescription, MarginsThatAreMissingOrNegativeOrNoNumbersAreZero)
 
 TEST(PrinterDescription, AMarginIsNotWiderThanThePaper)
 {
-    const PrinterDescription description = printerDescription(
+    const PrinterDescription description = parsePrinterDescription(
         "*PageSize A: \"\"\n*PaperDimension A: \"100 200\"\n*ImageableArea A: \"1e9 1e9 -1e9 -1e9\"\n");
     ASSERT_EQ(description.papers.size(), 1U);
     EXPECT_EQ(
@@ -81,7 +81,7 @@ TEST(PrinterDescription, WhatIsNoDescriptionHasNoPapers)
     for (const QByteArray &file : {QByteArray(), QByteArray("*"), QByteArray("*:"), QByteArray(": \""),
              QByteArray("*PageSize:\n*PaperDimension: \"1 1\"\n"), QByteArray("*% *PageSize A: \"\"\n"),
              QByteArray("<html>no such printer</html>"), QByteArray(100'000, '\0')}) {
-        const PrinterDescription description = printerDescription(file);
+        const PrinterDescription description = parsePrinterDescription(file);
         EXPECT_TRUE(description.papers.empty()) << file.toStdString();
         EXPECT_FALSE(description.defaultPaperName) << file.toStdString();
     }
@@ -89,7 +89,7 @@ TEST(PrinterDescription, WhatIsNoDescriptionHasNoPapers)
 
 TEST(PrinterDescription, AnUnknownDefaultIsNone)
 {
-    EXPECT_FALSE(printerDescription("*DefaultPageSize: Unknown\n").defaultPaperName);
+    EXPECT_FALSE(parsePrinterDescription("*DefaultPageSize: Unknown\n").defaultPaperName);
 }
 
 TEST(PrinterDescription, OfAnEndlessListTheFirstThousandPapersAreRead)
@@ -99,5 +99,5 @@ TEST(PrinterDescription, OfAnEndlessListTheFirstThousandPapersAreRead)
         const QByteArray name = QByteArray::number(number);
         file += "*PageSize " + name + ": \"\"\n*PaperDimension " + name + ": \"100 200\"\n";
     }
-    EXPECT_EQ(printerDescription(file).papers.size(), 1000U);
+    EXPECT_EQ(parsePrinterDescription(file).papers.size(), 1000U);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Asks the shared print settings once, prints what they say and leaves, whatever still runs in the
+// Queries the shared print settings once, prints the answer and exits, even if a query still runs in the
 // background.
 #include "platform/printing/PrintSettings.h"
 

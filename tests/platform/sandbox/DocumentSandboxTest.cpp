@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the programs that touch documents may do in their sandboxes, tried by a program in the very same ones.
+// What the programs that touch documents may do in their sandboxes, tried by a program in the same sandboxes.
 #include "platform/sandbox/Landlock.h"
 #include "tests/harness/QuillbayTest.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 class SandboxTest : public QuillbayTest {
 protected:
-    /// What came of each attempt in the sandbox of that kind, without its description in front.
+    /// The result of each attempt in a sandbox of this kind, without the description of the sandbox.
     static QByteArrayList resultsIn(const QByteArray &kind, const QByteArrayList &attempts)
     {
         const ChildProcess::Outcome outcome = ChildProcess(testProgram(QStringLiteral("sandboxed_program")))
@@ -26,7 +26,7 @@ protected:
     }
     static QByteArray resultOutside(const QByteArray &attempt) { return resultIn("free", attempt); }
 
-    /// A file of the user's, in the home folder.
+    /// A file of the user in the home folder.
     static QByteArray document()
     {
         QFile file(world().home() + QStringLiteral("/diary.txt"));
@@ -35,7 +35,7 @@ protected:
     }
 };
 
-/// The facts that hold in every sandbox.
+/// The tests for every sandbox.
 class DocumentSandbox : public SandboxTest, public ::testing::WithParamInterface<const char *> {
 protected:
     static QByteArray resultOf(const QByteArray &attempt) { return resultIn(GetParam(), attempt); }
@@ -127,7 +127,7 @@ TEST_F(WorkerSandbox, StartsThreads)
     EXPECT_EQ(resultIn("counting", "thread"), "done");
 }
 
-TEST_P(DocumentSandbox, ReachesNoOtherProcess)
+TEST_P(DocumentSandbox, TouchesNoOtherProcess)
 {
     EXPECT_EQ(resultOf("kill-parent"), refused);
     EXPECT_EQ(resultOf("kill-self"), "done");
@@ -148,7 +148,7 @@ TEST_F(WorkerSandbox, CountsWithTheFontsOfTheMachine)
     EXPECT_GT(lines.toInt(), 10);
 }
 
-TEST_P(DocumentSandbox, SaysWhatItIsMadeOf)
+TEST_P(DocumentSandbox, ReportsItsParts)
 {
     const QByteArray said =
         ChildProcess(testProgram(QStringLiteral("sandboxed_program"))).run({GetParam()}).output.trimmed();

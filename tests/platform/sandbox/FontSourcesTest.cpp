@@ -33,7 +33,7 @@ protected:
         file.write(contents);
     }
 
-    /// Whether the watch has noticed something since it was asked last.
+    /// Whether the watch has noticed a change since the last call.
     bool notices()
     {
         const quint64 before = m_generation;
@@ -59,7 +59,7 @@ TEST_F(FontSourcesTest, NamesFoldersLinksAndConfiguration)
     EXPECT_TRUE(readable.contains(QFile::encodeName(world().root() + QStringLiteral("/fonts/fonts.conf"))));
 }
 
-TEST_F(FontSourcesTest, NoticesNothingWhereNothingChanges)
+TEST_F(FontSourcesTest, NoticesNothingWithoutAChange)
 {
     write(m_folder + QStringLiteral("/a.ttf"));
     EXPECT_TRUE(notices());
@@ -68,7 +68,7 @@ TEST_F(FontSourcesTest, NoticesNothingWhereNothingChanges)
     EXPECT_FALSE(notices());
 }
 
-TEST_F(FontSourcesTest, NoticesFontsThatComeAndGo)
+TEST_F(FontSourcesTest, NoticesAddedAndRemovedFonts)
 {
     ASSERT_TRUE(notices());
     for (const char *path : {"/a.ttf", "/deep/deeper/b.ttf"}) {
@@ -89,7 +89,7 @@ TEST_F(FontSourcesTest, NoticesAFontInANewFolder)
     EXPECT_TRUE(notices());
 }
 
-TEST_F(FontSourcesTest, NoticesAFontThatIsWrittenOver)
+TEST_F(FontSourcesTest, NoticesAnOverwrittenFont)
 {
     const QString font = m_folder + QStringLiteral("/a.ttf");
     write(font);
@@ -100,7 +100,7 @@ TEST_F(FontSourcesTest, NoticesAFontThatIsWrittenOver)
     EXPECT_TRUE(notices());
 }
 
-TEST_F(FontSourcesTest, NoticesAFontWhereALinkLeads)
+TEST_F(FontSourcesTest, NoticesAFontBehindALink)
 {
     const QString elsewhere = world().root() + QStringLiteral("/elsewhere");
     QDir().mkpath(elsewhere);
@@ -110,7 +110,7 @@ TEST_F(FontSourcesTest, NoticesAFontWhereALinkLeads)
     EXPECT_TRUE(notices());
 }
 
-TEST_F(FontSourcesTest, LinksInACircleComeToAnEnd)
+TEST_F(FontSourcesTest, LoopsOfLinksEnd)
 {
     ASSERT_TRUE(QFile::link(m_folder, m_folder + QStringLiteral("/deep/circle")));
     EXPECT_TRUE(notices());
@@ -128,7 +128,7 @@ TEST_F(FontSourcesTest, NoticesAFolderThatDidNotExist)
     EXPECT_TRUE(notices());
 }
 
-TEST_F(FontSourcesTest, NoticesAnotherConfiguration)
+TEST_F(FontSourcesTest, NoticesAChangedConfiguration)
 {
     ASSERT_TRUE(notices());
     configure("");

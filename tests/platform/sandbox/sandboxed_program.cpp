@@ -4,8 +4,8 @@
 // needs. Prints what the sandbox is made of, and for each word what came of it: "done", or the name of the
 // error.
 #include "pdf_reader/Confinement.h"
-#include "platform/sandbox/DocumentSandbox.h"
 #include "platform/sandbox/FontSources.h"
+#include "platform/sandbox/Sandbox.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <fcntl.h>
@@ -59,7 +59,7 @@ long threads(const char *)
 
 long fork3(const char *)
 {
-    // As the C library would, in a structure that no filter sees.
+    // As the C library does, with the flags in a structure that no filter sees.
     struct {
         unsigned long long flags, pidfd, childTid, parentTid, exitSignal, stack, stackSize, tls;
     } arguments{};
@@ -140,7 +140,7 @@ SandboxReport enter(const std::string &kind)
 
 int main(int argumentCount, char **arguments)
 {
-    std::printf("%s\n", descriptionOf(enter(arguments[1])).toUtf8().constData());
+    std::printf("%s\n", sandboxDescription(enter(arguments[1])).toUtf8().constData());
     for (int i = 2; i < argumentCount; ++i) {
         const auto [word, argument] = [&] {
             const std::string all = arguments[i];

@@ -18,7 +18,7 @@ QVariantMap mapOf(const QVariant &value)
 
 } // namespace
 
-TEST(PasteboardWire, BringsEveryFormToTheOtherSide)
+TEST(PasteboardWire, CarriesEveryForm)
 {
     const Pasteboard sent(
         {{QStringLiteral("text/html"), "<p>"}, {type, QByteArray("\0x", 2)}, {QStringLiteral("a"), ""},
@@ -39,7 +39,7 @@ TEST(PasteboardWire, SendsLongFormsAsMemoryFiles)
     EXPECT_EQ(typeOf(PasteboardWire::maxInlineSize + 1), QMetaType::fromType<QDBusUnixFileDescriptor>());
 }
 
-TEST(PasteboardWire, RefusesMemoryThatItsSenderCanStillChange)
+TEST(PasteboardWire, RefusesMemoryThatItsSenderCanChange)
 {
     const int descriptor = memfd_create("unsealed", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     ASSERT_GE(descriptor, 0);
@@ -54,7 +54,7 @@ TEST(PasteboardWire, RefusesValuesOfAnotherType)
     EXPECT_FALSE(PasteboardWire::fromMessage(mapOf(5)));
 }
 
-TEST(PasteboardWire, RefusesMoreFormsThanAnyProgramOffers)
+TEST(PasteboardWire, RefusesMoreThanTheMaximumOfForms)
 {
     QVariantMap map;
     for (qsizetype i = 0; i < PasteboardWire::maxForms; ++i)

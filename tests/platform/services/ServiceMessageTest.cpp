@@ -37,7 +37,7 @@ protected:
     }
     ~ServiceMessage() override { registration->giveNameAway(); }
 
-    /// Sends from another thread, as another process does: the provider must be free to answer.
+    /// Sends from another thread, because the provider must be able to answer meanwhile.
     std::optional<ServiceMessageFailure> send(
         const QString &message, const Pasteboard &pasteboard, const QVariantMap &options = {})
     {
@@ -70,7 +70,7 @@ TEST_F(ServiceMessage, ReachesTheProviderUnderItsName)
     EXPECT_EQ(provider.received[1], std::pair(QStringLiteral("watch"), pasteboard.forms()));
 }
 
-TEST_F(ServiceMessage, BringsWhatTheProviderSaysOfAFailureWordForWord)
+TEST_F(ServiceMessage, ReturnsTheProvidersErrorWordForWord)
 {
     provider.answer = QStringLiteral("That cannot be – \"done\".");
     const std::optional<ServiceMessageFailure> failure = send(countMessage, pasteboard);
@@ -80,7 +80,7 @@ TEST_F(ServiceMessage, BringsWhatTheProviderSaysOfAFailureWordForWord)
     EXPECT_EQ(causeText(*failure), provider.answer);
 }
 
-TEST_F(ServiceMessage, BringsTheActivationTokenBeforeTheRequest)
+TEST_F(ServiceMessage, DeliversTheActivationTokenBeforeTheMessage)
 {
     EXPECT_FALSE(send(
         countMessage, pasteboard, {{ServiceInterface::activationTokenOption(), QStringLiteral("token-1")}}));
@@ -89,7 +89,7 @@ TEST_F(ServiceMessage, BringsTheActivationTokenBeforeTheRequest)
     EXPECT_EQ(ended, 2);
 }
 
-TEST_F(ServiceMessage, OfTenMegabytesArrivesWhole)
+TEST_F(ServiceMessage, OfTenMegabytesArrivesComplete)
 {
     const Pasteboard large({{QStringLiteral("text/plain"), QByteArray(10 << 20, 'x')}});
     EXPECT_FALSE(send(countMessage, large));
@@ -97,7 +97,7 @@ TEST_F(ServiceMessage, OfTenMegabytesArrivesWhole)
     EXPECT_EQ(provider.received[0].second, large.forms());
 }
 
-TEST_F(ServiceMessage, FindsNobodyWhenTheNameHasBeenGivenAway)
+TEST_F(ServiceMessage, FailsAfterTheNameIsReleased)
 {
     registration->giveNameAway();
     const std::optional<ServiceMessageFailure> failure = send(countMessage, pasteboard);

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What the tests of connections share: a service's name and interface, requests, and the log.
+// ConnectionTest is the fixture of tests of connections: a service's name and interface, requests, and the
+// log.
+// Thread: main.
 #pragma once
 
 #include "platform/session_bus/RemoteObjectConnection.h"
@@ -42,7 +44,7 @@ protected:
         EXPECT_TRUE(waitUntil([this, count] { return m_log.messages().size() >= count; }));
     }
 
-    /// How many descriptors this process has open.
+    /// The number of open descriptors of this process.
     static qsizetype openDescriptors()
     {
         return QDir(QStringLiteral("/proc/self/fd"))
@@ -50,6 +52,6 @@ protected:
             .size();
     }
 
-    RecordingLogSink m_log; // outlives the connections of a test
+    RecordingLogSink m_log; // must outlive the connections of a test
     RecordedReplies m_replies;
 };

@@ -42,7 +42,7 @@ class DistributedNotificationCenterTest : public QuillbayTest {
 protected:
     void SetUp() override { SessionBus::start(); }
 
-    // Returns when everything that was posted before has been delivered, as the bus keeps the order.
+    // Returns when everything posted before has been delivered: the bus keeps the order.
     static void settle()
     {
         const Counter markers(marker);
@@ -53,7 +53,7 @@ protected:
     RecordingLogSink m_log;
 };
 
-TEST_F(DistributedNotificationCenterTest, AnObserverInThePostingProcessHearsEachPostOnce)
+TEST_F(DistributedNotificationCenterTest, AnObserverInThePostingProcessReceivesEachPostOnce)
 {
     const Counter counter(name);
     DistributedNotificationCenter::post(name);
@@ -63,10 +63,10 @@ TEST_F(DistributedNotificationCenterTest, AnObserverInThePostingProcessHearsEach
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
-TEST_F(DistributedNotificationCenterTest, ABusThatCameAfterAVainAttemptIsUsed)
+TEST_F(DistributedNotificationCenterTest, ABusThatAppearsAfterAFailedAttemptIsUsed)
 {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
-    DistributedNotificationCenter::post(name); // in vain, unless another test has connected this process
+    DistributedNotificationCenter::post(name); // fails, unless another test has connected this process
     SessionBus::start();
     const Counter counter(name);
     DistributedNotificationCenter::post(name);
@@ -82,7 +82,7 @@ TEST_F(DistributedNotificationCenterTest, DeliveryWaitsForTheEventLoop)
     EXPECT_TRUE(waitUntil([&counter] { return counter.count() == 1; }));
 }
 
-TEST_F(DistributedNotificationCenterTest, AllObserversOfANameHearItAndNoneOfAnother)
+TEST_F(DistributedNotificationCenterTest, OnlyObserversOfTheNameReceiveIt)
 {
     const Counter first(name);
     const Counter second(name);
@@ -94,7 +94,7 @@ TEST_F(DistributedNotificationCenterTest, AllObserversOfANameHearItAndNoneOfAnot
     EXPECT_EQ(other.count(), 0);
 }
 
-TEST_F(DistributedNotificationCenterTest, ADestroyedObserverHearsNothingMoreNotEvenWhatIsOnItsWay)
+TEST_F(DistributedNotificationCenterTest, ADestroyedObserverReceivesNothingNotEvenAPendingPost)
 {
     int heard = 0;
     auto observer = std::make_unique<NotificationObserver>(name);
@@ -107,7 +107,7 @@ TEST_F(DistributedNotificationCenterTest, ADestroyedObserverHearsNothingMoreNotE
     EXPECT_EQ(heard, 0);
 }
 
-TEST_F(DistributedNotificationCenterTest, ObserversInOtherProcessesHearIt)
+TEST_F(DistributedNotificationCenterTest, ObserversInOtherProcessesReceiveIt)
 {
     ChildProcess first(testProgram(QStringLiteral("notifier")));
     ChildProcess second(testProgram(QStringLiteral("notifier")));
@@ -122,7 +122,7 @@ TEST_F(DistributedNotificationCenterTest, ObserversInOtherProcessesHearIt)
     }
 }
 
-TEST_F(DistributedNotificationCenterTest, AProcessThatPostsAndEndsAtOnceIsStillHeard)
+TEST_F(DistributedNotificationCenterTest, APostOfAProcessThatExitsAtOnceIsReceived)
 {
     constexpr int processes = 200;
     const Counter counter(name);
@@ -154,7 +154,7 @@ TEST_F(DistributedNotificationCenterTest, AnyThreadMayPost)
     EXPECT_EQ(counter.count(), threads * posts);
 }
 
-TEST_F(DistributedNotificationCenterTest, AnObserverHearsOnTheThreadThatMadeIt)
+TEST_F(DistributedNotificationCenterTest, AnObserverReceivesOnTheThreadThatMadeIt)
 {
     QThread thread;
     thread.start();
@@ -182,7 +182,7 @@ TEST_F(DistributedNotificationCenterTest, AnObserverHearsOnTheThreadThatMadeIt)
 TEST_F(DistributedNotificationCenterTest, ANameThatTheBusCannotCarryIsRefusedInTheLog)
 {
     DistributedNotificationCenter::post(QStringLiteral("no name"));
-    EXPECT_THAT(m_log.messages(), ElementsAre(QStringLiteral("Notification no name cannot be posted")));
+    EXPECT_THAT(m_log.messages(), ElementsAre(QStringLiteral("Cannot post notification no name")));
     const Counter counter(name);
     DistributedNotificationCenter::post(name);
     settle();
@@ -212,7 +212,7 @@ TEST_F(DistributedNotificationCenterTest, TheSignalOnTheBusIsTheOneThatTheDocume
 
     QDBusConnection bus =
         QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("stranger"));
-    QPointer<QObject> listener = new QObject; // gone once it has heard the signal
+    QPointer<QObject> listener = new QObject; // deleted when it receives the signal
     bus.connect({}, path, interface, signalNames.front(), listener, SLOT(deleteLater()));
     bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
         QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping")));

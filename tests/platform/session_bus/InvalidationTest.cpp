@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The end of a connection, and what is on its way then.
+// The invalidation of a connection, and pending requests.
 #include "platform/session_bus/RemoteObjectConnection.h"
 
 #include "tests/platform/session_bus/ConnectionTest.h"
@@ -12,7 +12,7 @@ using ::testing::SizeIs;
 
 class InvalidationTest : public ConnectionTest { };
 
-TEST_F(InvalidationTest, AnswersThatComeAfterwardsAreDeliveredToNobody)
+TEST_F(InvalidationTest, LaterAnswersAreNotDelivered)
 {
     const ServiceStandIn service(standInName, {"hold", "hold", "answer 8 7 6 5 4 3 2 1"});
     const auto invalidated = resumedConnection();
@@ -25,12 +25,12 @@ TEST_F(InvalidationTest, AnswersThatComeAfterwardsAreDeliveredToNobody)
     service.release();
     const auto next = resumedConnection();
     send(*next);
-    m_replies.waitFor(1); // on the same thread, behind what would have come before
+    m_replies.waitFor(1); // on the same thread, after the earlier replies
     EXPECT_EQ(m_replies.replies().front(), (RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}));
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
-TEST_F(InvalidationTest, TheServiceSeesItsClientLeave)
+TEST_F(InvalidationTest, TheServiceSeesItsClientDisconnect)
 {
     const ServiceStandIn service(standInName, {"hold"});
     const auto connection = resumedConnection();
@@ -42,7 +42,7 @@ TEST_F(InvalidationTest, TheServiceSeesItsClientLeave)
     EXPECT_TRUE(waitUntil([&] { return !service.isOnTheBus(client); }));
 }
 
-TEST_F(InvalidationTest, WhatIsSentOverAnInvalidatedConnectionDoesNotLeaveTheProcess)
+TEST_F(InvalidationTest, AnInvalidatedConnectionSendsNothing)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -58,7 +58,7 @@ TEST_F(InvalidationTest, WhatIsSentOverAnInvalidatedConnectionDoesNotLeaveThePro
     EXPECT_EQ(m_replies.count(), 1U);
 }
 
-TEST_F(InvalidationTest, AHandlerThatIsNotCalledEndsItsLifeInTheCall)
+TEST_F(InvalidationTest, AHandlerThatWasNotCalledIsDestroyedInTheCall)
 {
     const ServiceStandIn service(standInName, {"hold"});
     const auto connection = resumedConnection();
@@ -85,7 +85,7 @@ TEST_F(InvalidationTest, AHandlerMayInvalidateAndDestroyItsConnection)
     EXPECT_EQ(destroyed.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready);
 }
 
-TEST_F(InvalidationTest, AHandlerThatIsRunningIsWaitedFor)
+TEST_F(InvalidationTest, ARunningHandlerIsWaitedFor)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -107,7 +107,7 @@ TEST_F(InvalidationTest, AHandlerThatIsRunningIsWaitedFor)
     opener.join();
 }
 
-// Closes after every possible number of answers, while the next one is underway.
+// Closes after every possible number of answers, while the next one is pending.
 TEST_F(InvalidationTest, NothingIsDeliveredOnceTheCallHasReturned)
 {
     constexpr int requests = 4;
@@ -138,6 +138,6 @@ TEST_F(InvalidationTest, NothingIsDeliveredOnceTheCallHasReturned)
     }
     const auto last = resumedConnection();
     send(*last);
-    m_replies.waitFor(1); // behind everything that could have come
+    m_replies.waitFor(1); // after all possible replies
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Sessions without a bus, with one that goes away, and with one that hangs.
+// Requests without a session bus, with one that is lost, and with one that hangs.
 #include "platform/session_bus/RemoteObjectConnection.h"
 
 #include "tests/harness/PrivateBus.h"
@@ -21,7 +21,7 @@ namespace {
 const std::string noAnswer = "No answer from com.quillbay.test.Service to count: ";
 const std::string noBus = noAnswer + "no session bus: ";
 
-// Has the name on a bus, and never answers.
+// Owns the name on a bus, and never answers.
 class SilentService : public QDBusVirtualObject {
 public:
     explicit SilentService(const QByteArray &address)
@@ -47,7 +47,7 @@ private:
 
 } // namespace
 
-class MissingConnectionBusTest : public ConnectionTest {
+class MissingBusTest : public ConnectionTest {
 protected:
     void expectLine(qsizetype number, const std::string &start)
     {
@@ -57,7 +57,7 @@ protected:
     }
 };
 
-TEST_F(MissingConnectionBusTest, EveryRequestWithoutABusLeavesOneLineInTheLog)
+TEST_F(MissingBusTest, EveryRequestWithoutABusLeavesOneLineInTheLog)
 {
     const auto connection = resumedConnection();
     EXPECT_THAT(m_log.messages(), SizeIs(0));
@@ -68,7 +68,7 @@ TEST_F(MissingConnectionBusTest, EveryRequestWithoutABusLeavesOneLineInTheLog)
     EXPECT_EQ(m_replies.count(), 0U);
 }
 
-TEST_F(MissingConnectionBusTest, ABusThatComesLaterIsUsed)
+TEST_F(MissingBusTest, ABusThatAppearsLaterIsUsed)
 {
     const auto connection = resumedConnection();
     send(*connection);
@@ -79,7 +79,7 @@ TEST_F(MissingConnectionBusTest, ABusThatComesLaterIsUsed)
     EXPECT_THAT(m_replies.replies(), ElementsAre(counts));
 }
 
-TEST_F(MissingConnectionBusTest, ARequestThatIsLostWithTheBusLeavesOneLineInTheLog)
+TEST_F(MissingBusTest, ARequestThatIsLostWithTheBusLeavesOneLineInTheLog)
 {
     PrivateBus bus;
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address());
@@ -92,7 +92,7 @@ TEST_F(MissingConnectionBusTest, ARequestThatIsLostWithTheBusLeavesOneLineInTheL
     EXPECT_EQ(m_replies.count(), 0U);
 }
 
-TEST_F(MissingConnectionBusTest, ARequestAfterTheBusHasGoneFindsTheNextOne)
+TEST_F(MissingBusTest, ARequestAfterTheLossOfABusUsesTheNextOne)
 {
     auto bus = std::make_unique<PrivateBus>();
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus->address());
@@ -109,7 +109,7 @@ TEST_F(MissingConnectionBusTest, ARequestAfterTheBusHasGoneFindsTheNextOne)
     EXPECT_THAT(m_replies.replies(), ElementsAre(counts));
 }
 
-TEST_F(MissingConnectionBusTest, ABusThatHangsHoldsUpNobodyElse)
+TEST_F(MissingBusTest, AHangingBusBlocksNothingElse)
 {
     const QByteArray path = world().root().toLocal8Bit() + "/deaf";
     sockaddr_un address = {.sun_family = AF_UNIX, .sun_path = {}};
@@ -123,11 +123,12 @@ TEST_F(MissingConnectionBusTest, ABusThatHangsHoldsUpNobodyElse)
     clock.start();
     auto connection = resumedConnection();
     send(*connection);
-    const int client = ::accept4(socket, nullptr, nullptr, SOCK_CLOEXEC); // its thread is connecting now
+    const int client =
+        ::accept4(socket, nullptr, nullptr, SOCK_CLOEXEC); // the thread of the connections is connecting now
     send(*connection);
     connection->invalidate();
     connection.reset();
-    EXPECT_LT(clock.elapsed(), 10'000); // the library itself gives up after 25 seconds
+    EXPECT_LT(clock.elapsed(), 10'000); // libdbus has a timeout of 25 seconds
     ::close(client);
     ::close(socket);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Processes without a session bus, or with one that goes away. All in processes of their own, as the
-// connection to the bus belongs to the process.
+// Notifications without a session bus, or with one that is lost or hangs. In processes of their own, because
+// the connection to the bus belongs to the process.
 #include "platform/session_bus/DistributedNotificationCenter.h"
 
 #include "tests/harness/PrivateBus.h"
@@ -8,12 +8,13 @@
 
 using ::testing::HasSubstr;
 
-class MissingBusTest : public QuillbayTest {
+class NotificationsWithoutBusTest : public QuillbayTest {
 protected:
     static void expectOneLineOnErrors(const ChildProcess::Outcome &outcome)
     {
         EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.constData();
-        EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("No session bus, so notifications reach nobody"));
+        EXPECT_THAT(
+            outcome.errors.toStdString(), HasSubstr("No session bus; notifications are not delivered"));
     }
 
     void startTalk(const QByteArray &address)
@@ -32,7 +33,7 @@ protected:
     ChildProcess m_notifier{testProgram(QStringLiteral("notifier"))};
 };
 
-TEST_F(MissingBusTest, WhereNobodyAnswersAtTheAddressPostingDoesNothingAndOneLineIsLogged)
+TEST_F(NotificationsWithoutBusTest, WithoutABusAtTheAddressPostingDoesNothingAndOneLineIsLogged)
 {
     const auto outcome = m_notifier.run({"talk"}, "A\nB\nC\n");
     EXPECT_EQ(outcome.exitStatus, 0);
@@ -40,7 +41,7 @@ TEST_F(MissingBusTest, WhereNobodyAnswersAtTheAddressPostingDoesNothingAndOneLin
     expectOneLineOnErrors(outcome);
 }
 
-TEST_F(MissingBusTest, WhereNoAddressIsConfiguredItIsTheSame)
+TEST_F(NotificationsWithoutBusTest, WithoutAnAddressPostingDoesNothingAndOneLineIsLogged)
 {
     const auto outcome = m_notifier.withoutVariable("DBUS_SESSION_BUS_ADDRESS").run({"talk"}, "A\nB\n");
     EXPECT_EQ(outcome.exitStatus, 0);
@@ -48,7 +49,7 @@ TEST_F(MissingBusTest, WhereNoAddressIsConfiguredItIsTheSame)
     expectOneLineOnErrors(outcome);
 }
 
-TEST_F(MissingBusTest, WhereTheAddressMakesNoSenseItIsTheSame)
+TEST_F(NotificationsWithoutBusTest, WithAnInvalidAddressPostingDoesNothingAndOneLineIsLogged)
 {
     const auto outcome =
         m_notifier.withVariable("DBUS_SESSION_BUS_ADDRESS", "nonsense").run({"talk"}, "A\nB\n");
@@ -56,7 +57,7 @@ TEST_F(MissingBusTest, WhereTheAddressMakesNoSenseItIsTheSame)
     expectOneLineOnErrors(outcome);
 }
 
-TEST_F(MissingBusTest, WithoutAnApplicationObjectItIsTheSame)
+TEST_F(NotificationsWithoutBusTest, WithoutAnApplicationObjectPostingDoesNothingAndOneLineIsLogged)
 {
     const auto outcome =
         m_notifier.withVariable("DBUS_SESSION_BUS_ADDRESS", SessionBus::start().toLocal8Bit())
@@ -65,7 +66,7 @@ TEST_F(MissingBusTest, WithoutAnApplicationObjectItIsTheSame)
     expectOneLineOnErrors(outcome);
 }
 
-TEST_F(MissingBusTest, ABusThatGoesAwayNeitherEndsNorBlocksTheProcess)
+TEST_F(NotificationsWithoutBusTest, ALostBusNeitherEndsNorBlocksTheProcess)
 {
     PrivateBus bus;
     startTalk(bus.address());
@@ -78,7 +79,7 @@ TEST_F(MissingBusTest, ABusThatGoesAwayNeitherEndsNorBlocksTheProcess)
     expectOneLineOnErrors(outcome);
 }
 
-TEST_F(MissingBusTest, PostingWorksAgainOnceThereIsABusAgain)
+TEST_F(NotificationsWithoutBusTest, PostingWorksAgainOnceThereIsABusAgain)
 {
     PrivateBus first;
     startTalk(first.address());
@@ -95,7 +96,7 @@ TEST_F(MissingBusTest, PostingWorksAgainOnceThereIsABusAgain)
     expectOneLineOnErrors(m_notifier.finish());
 }
 
-TEST_F(MissingBusTest, ABusThatHangsHoldsAProcessUpOnceAndGetsItsNotificationsLater)
+TEST_F(NotificationsWithoutBusTest, AHangingBusBlocksAProcessOnceAndGetsItsNotificationsLater)
 {
     const PrivateBus bus;
     ChildProcess observer(testProgram(QStringLiteral("notifier")));

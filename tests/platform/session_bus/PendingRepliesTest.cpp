@@ -65,7 +65,7 @@ TEST(PendingReplies, NothingIsDeliveredOnceClosed)
     EXPECT_EQ(handler.calls, 0);
 }
 
-TEST(PendingReplies, HandlersAreLetGoWhenTheyAreCalledDroppedClosedOrTooLate)
+TEST(PendingReplies, HandlersAreDestroyedWhenCalledDroppedClosedOrTooLate)
 {
     PendingReplies pending;
     const auto held = std::make_shared<int>();
@@ -82,8 +82,8 @@ TEST(PendingReplies, HandlersAreLetGoWhenTheyAreCalledDroppedClosedOrTooLate)
     EXPECT_EQ(held.use_count(), 1);
 }
 
-// A handler may hold the last reference to what closes the connection when it ends.
-TEST(PendingReplies, AHandlerMayCloseWhileItRunsAndWhileItEnds)
+// A handler may own the last reference to an object that closes the connection when it is destroyed.
+TEST(PendingReplies, AHandlerMayCloseWhileItRunsAndWhileItIsDestroyed)
 {
     PendingReplies pending;
     const std::shared_ptr<void> closer(nullptr, [&pending](void *) { pending.close(); });
@@ -95,7 +95,7 @@ TEST(PendingReplies, AHandlerMayCloseWhileItRunsAndWhileItEnds)
     EXPECT_EQ(other.calls, 0);
 }
 
-TEST(PendingReplies, EndingHandlersMayAddAndDropOthers)
+TEST(PendingReplies, HandlersMayAddAndDropOthersWhileTheyAreDestroyed)
 {
     PendingReplies pending;
     const auto adder = [&pending] {
@@ -110,14 +110,14 @@ TEST(PendingReplies, EndingHandlersMayAddAndDropOthers)
     pending.add(adder());
 }
 
-// Closes after every possible number of deliveries, while the next one is underway.
-TEST(PendingReplies, ClosingRacesWithDeliveryAndWins)
+// Closes after every possible number of deliveries, while the next one is pending.
+TEST(PendingReplies, NothingIsDeliveredAfterARaceWithClose)
 {
     constexpr int replies = 8;
     for (int round = 0; round < 1000; ++round) {
         PendingReplies pending;
         std::atomic<int> started = 0;
-        int ended = 0; // not atomic: what close() promises keeps these two from being used at once
+        int ended = 0; // not atomic: close() guarantees that these two are not used at once
         bool isOver = false;
         std::vector<PendingReplies::Identifier> identifiers;
         for (int i = 0; i < replies; ++i) {

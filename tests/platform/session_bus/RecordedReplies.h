@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// RecordedReplies notes down the replies that its handlers are given, and on which threads.
+// RecordedReplies records the replies to its handlers, and their threads.
 // Thread: any.  Owner: the test; outlives its handlers.
 #pragma once
 

@@ -54,7 +54,7 @@ TEST_F(RemoteObjectConnectionTest, ARequestTravelsWithItsSealedPayloadAndItsOpti
     EXPECT_EQ(received.options, sent.options);
 }
 
-TEST_F(RemoteObjectConnectionTest, AnAbsentPayloadIsAnEmptyFileThatIsSaidToBeAbsent)
+TEST_F(RemoteObjectConnectionTest, AnAbsentPayloadIsAnEmptyFileMarkedAsAbsent)
 {
     const ServiceStandIn service(standInName, {"answer 0 0 0 0 0 0 0 0"});
     const auto connection = resumedConnection();
@@ -74,7 +74,7 @@ TEST_F(RemoteObjectConnectionTest, AnAbsentPayloadIsAnEmptyFileThatIsSaidToBeAbs
     EXPECT_THAT(m_replies.replies(), Each(RemoteReply{}));
 }
 
-TEST_F(RemoteObjectConnectionTest, ThePayloadMayBeLarge)
+TEST_F(RemoteObjectConnectionTest, ALargePayloadArrivesComplete)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -87,7 +87,7 @@ TEST_F(RemoteObjectConnectionTest, ThePayloadMayBeLarge)
         service.requests().front().hash, QCryptographicHash::hash(payload, QCryptographicHash::Sha1).toHex());
 }
 
-TEST_F(RemoteObjectConnectionTest, RepliesOfAllConnectionsComeOnOneThreadThatIsNotTheMainOne)
+TEST_F(RemoteObjectConnectionTest, RepliesOfAllConnectionsArriveOnOneThreadBesidesTheMainThread)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto first = resumedConnection();
@@ -124,7 +124,7 @@ TEST_F(RemoteObjectConnectionTest, ARequestWaitsUntilTheConnectionIsResumed)
     RemoteObjectConnection connection(standInName);
     connection.setRemoteObjectInterface(resumed->remoteObjectInterface());
     send(connection);
-    send(*resumed); // overtakes
+    send(*resumed); // is sent first
     m_replies.waitFor(1);
     EXPECT_THAT(service.requests(), SizeIs(1));
     connection.resume();
@@ -132,7 +132,7 @@ TEST_F(RemoteObjectConnectionTest, ARequestWaitsUntilTheConnectionIsResumed)
     EXPECT_THAT(service.requests(), SizeIs(2));
 }
 
-TEST_F(RemoteObjectConnectionTest, AnAnswerThatTakesLongIsWaitedForAndOthersAreDeliveredMeanwhile)
+TEST_F(RemoteObjectConnectionTest, OthersAreDeliveredDuringALongWaitForAnAnswer)
 {
     const ServiceStandIn service(standInName, {"hold", "answer 8 7 6 5 4 3 2 1"});
     const auto connection = resumedConnection();
@@ -145,7 +145,7 @@ TEST_F(RemoteObjectConnectionTest, AnAnswerThatTakesLongIsWaitedForAndOthersAreD
     EXPECT_EQ(m_replies.replies().back(), counts);
 }
 
-TEST_F(RemoteObjectConnectionTest, ASecondAnswerToARequestIsNobodys)
+TEST_F(RemoteObjectConnectionTest, ASecondAnswerToARequestIsIgnored)
 {
     const ServiceStandIn service(standInName, {"twice 1 2 3 4 5 6 7 8", "answer 8 7 6 5 4 3 2 1"});
     const auto connection = resumedConnection();
@@ -156,7 +156,7 @@ TEST_F(RemoteObjectConnectionTest, ASecondAnswerToARequestIsNobodys)
     EXPECT_THAT(m_replies.replies(), ElementsAre(counts, RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}));
 }
 
-TEST_F(RemoteObjectConnectionTest, AnErrorIsLoggedAndDeliversNothing)
+TEST_F(RemoteObjectConnectionTest, AnErrorIsLoggedAndNotDelivered)
 {
     const ServiceStandIn service(
         standInName, {"error com.quillbay.test.Planned", "error org.freedesktop.DBus.Error.TimedOut"});
@@ -174,7 +174,7 @@ TEST_F(RemoteObjectConnectionTest, AnErrorIsLoggedAndDeliversNothing)
     EXPECT_EQ(m_replies.count(), 0U);
 }
 
-TEST_F(RemoteObjectConnectionTest, AnAnswerOfAnotherFormIsLoggedAndDeliversNothing)
+TEST_F(RemoteObjectConnectionTest, AnAnswerOfAnotherFormIsLoggedAndNotDelivered)
 {
     const ServiceStandIn service(
         standInName, {"text", "answer 1 2 3 4 5 6 7", "answer 1 2 3 4 5 6 7 8 9", "answer"});

@@ -12,7 +12,7 @@ using ::testing::StartsWith;
 
 class ServiceDeathTest : public ConnectionTest { };
 
-TEST_F(ServiceDeathTest, ARequestThatIsLostWithItsServiceIsSentOnceMoreWithTheSamePayload)
+TEST_F(ServiceDeathTest, ARequestLostWithItsServiceIsSentOnceMoreWithTheSamePayload)
 {
     const ServiceStandIn service(standInName, {"crash", "answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -27,14 +27,14 @@ TEST_F(ServiceDeathTest, ARequestThatIsLostWithItsServiceIsSentOnceMoreWithTheSa
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
-TEST_F(ServiceDeathTest, ARequestThatIsLostTwiceGoesUnansweredWithOneLineInTheLog)
+TEST_F(ServiceDeathTest, ARequestLostTwiceLeavesOneLineInTheLog)
 {
     const ServiceStandIn service(standInName, {"crash", "crash", "answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
     send(*connection);
     waitForLogLines(1);
     EXPECT_THAT(service.requests(), SizeIs(2));
-    send(*connection); // the connection goes on working
+    send(*connection); // the connection still works
     m_replies.waitFor(1);
     EXPECT_THAT(service.requests(), SizeIs(3));
     EXPECT_THAT(m_replies.replies(), ElementsAre(counts));
@@ -43,7 +43,7 @@ TEST_F(ServiceDeathTest, ARequestThatIsLostTwiceGoesUnansweredWithOneLineInTheLo
                                    "org.freedesktop.DBus.Error.NoReply: <private>")));
 }
 
-TEST_F(ServiceDeathTest, AllRequestsThatAreUnderwayAreSentOnceMore)
+TEST_F(ServiceDeathTest, AllPendingRequestsAreSentOnceMore)
 {
     const ServiceStandIn service(standInName, {"hold", "hold", "crash", "answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -54,7 +54,7 @@ TEST_F(ServiceDeathTest, AllRequestsThatAreUnderwayAreSentOnceMore)
     EXPECT_THAT(m_replies.replies(), SizeIs(3));
 }
 
-TEST_F(ServiceDeathTest, AServiceThatHasEndedIsStartedAgainByTheNextRequest)
+TEST_F(ServiceDeathTest, AServiceThatExitedIsStartedByTheNextRequest)
 {
     const ServiceStandIn service(standInName, {"depart 8 7 6 5 4 3 2 1", "answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -68,7 +68,7 @@ TEST_F(ServiceDeathTest, AServiceThatHasEndedIsStartedAgainByTheNextRequest)
     EXPECT_THAT(m_replies.replies(), ElementsAre(RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}, counts));
 }
 
-TEST_F(ServiceDeathTest, AServiceThatGivesItsNameUpCountsAsLost)
+TEST_F(ServiceDeathTest, AServiceThatReleasesItsNameCountsAsLost)
 {
     const ServiceStandIn service(standInName, {"leave", "answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
@@ -80,7 +80,7 @@ TEST_F(ServiceDeathTest, AServiceThatGivesItsNameUpCountsAsLost)
     EXPECT_THAT(m_replies.replies(), ElementsAre(counts));
 }
 
-TEST_F(ServiceDeathTest, OfTwoServicesThatWereAskedOnlyTheFirstAnswerIsDelivered)
+TEST_F(ServiceDeathTest, OnlyTheFirstAnswerOfTwoServicesIsDelivered)
 {
     const ServiceStandIn service(standInName, {"move", "hold", "answer 8 7 6 5 4 3 2 1"});
     const auto connection = resumedConnection();
@@ -93,7 +93,7 @@ TEST_F(ServiceDeathTest, OfTwoServicesThatWereAskedOnlyTheFirstAnswerIsDelivered
     EXPECT_THAT(m_replies.replies(), ElementsAre(counts, RemoteReply{8, 7, 6, 5, 4, 3, 2, 1}));
 }
 
-TEST_F(ServiceDeathTest, WhoLostItsNameMayStillAnswerWhenTheOtherOneDied)
+TEST_F(ServiceDeathTest, AServiceThatLostItsNameMayAnswerIfTheNextOneDies)
 {
     const ServiceStandIn service(standInName, {"move", "crash", "answer 8 7 6 5 4 3 2 1"});
     const auto connection = resumedConnection();
@@ -104,12 +104,12 @@ TEST_F(ServiceDeathTest, WhoLostItsNameMayStillAnswerWhenTheOtherOneDied)
     service.release();
     m_replies.waitFor(2);
     EXPECT_EQ(m_replies.replies().back(), counts);
-    // The second request may have met the service that was crashing, and been sent once more.
+    // The second request may have reached the crashing service, and been sent once more.
     EXPECT_THAT(service.requests(), AnyOf(SizeIs(3), SizeIs(4)));
     EXPECT_THAT(m_log.messages(), IsEmpty());
 }
 
-TEST_F(ServiceDeathTest, AServiceThatIsNotInstalledLeavesOneLineInTheLog)
+TEST_F(ServiceDeathTest, AMissingServiceLeavesOneLineInTheLog)
 {
     SessionBus::start();
     const auto connection = resumedConnection();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// ServiceStandIn puts a service on the private bus that does what the test plans and notes down what it is
-// asked. The bus starts it with the first request, as it starts a real one, and again when it has died.
+// ServiceStandIn puts a service on the private bus that answers as planned by the test and records its
+// requests. The bus starts it with the first request, like a real one, and again when it has died.
 // Thread: main.  Owner: the test.
 #pragma once
 
@@ -23,7 +23,7 @@ public:
         QString service; ///< the unique name of the process that was asked
         qint64 size; ///< bytes of the memory file
         QByteArray hash; ///< SHA-1 of the memory file, in hexadecimal digits
-        int seals; ///< as F_GET_SEALS tells
+        int seals; ///< see F_GET_SEALS
         qint64 length;
         bool isAbsent;
         QVariantMap options;
@@ -33,17 +33,17 @@ public:
     ServiceStandIn(QString serviceName, const QByteArrayList &plan);
     ServiceStandIn(const ServiceStandIn &) = delete;
     ServiceStandIn &operator=(const ServiceStandIn &) = delete;
-    /// Ends the service, and waits until all its processes have left the bus.
+    /// Makes the service exit, and waits until all its processes have disconnected from the bus.
     ~ServiceStandIn();
 
-    /// What has arrived so far, with all processes of the service, in order.
+    /// The requests to all processes of the service so far, in order.
     [[nodiscard]] std::vector<Request> requests() const;
-    /// Waits until so many requests have arrived, and fails the test if they do not.
+    /// Waits for this number of requests, and fails the test if they do not arrive.
     void waitForRequests(size_t count) const;
 
-    /// Answers what is held.
+    /// Answers the held requests.
     void release() const { send(QStringLiteral("release")); }
-    /// Ends the service; the next request starts it again.
+    /// Makes the service exit; the next request starts it again.
     void quit() const { send(QStringLiteral("quit")); }
 
     /// Whether a client is still on the bus.

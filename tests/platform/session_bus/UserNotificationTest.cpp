@@ -26,7 +26,7 @@ protected:
 
 } // namespace
 
-TEST_F(UserNotification, ReachesTheServerOfTheDesktopWithItsTextAsItIs)
+TEST_F(UserNotification, ReachesTheServerOfTheDesktopWithItsTextEscaped)
 {
     const auto server = startServer({});
     EXPECT_TRUE(show());
@@ -39,7 +39,7 @@ TEST_F(UserNotification, WithoutAServerIsNotShown)
     EXPECT_FALSE(show());
 }
 
-TEST_F(UserNotification, IsGivenUpWhereTheServerIsSilent)
+TEST_F(UserNotification, TimesOutIfTheServerIsSilent)
 {
     const auto server = startServer({"silent"});
     EXPECT_FALSE(show());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // notification_server [silent]: the notification server of a desktop (org.freedesktop.Notifications).
-// Says "ready", and then a line for each notice: program|icon|summary|body. A silent one takes the name and
-// no notice.
+// Prints "ready", and then a line for each notice: program|icon|summary|body. A silent one owns the name and
+// does not answer.
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>

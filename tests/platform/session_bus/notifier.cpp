@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// A second process at the notifications.
-//   notifier post NAME        posts and ends at once
+// A second process that uses notifications.
+//   notifier post NAME        posts and exits at once
 //   notifier observe NAME     prints "ready", then "posted" for each notification
-//   notifier talk             posts the name in each line that it reads and says "done"; hears "echo"
+//   notifier talk             posts the name in each line that it reads and prints "done"; observes "echo"
 //   notifier without-application NAME
 #include "platform/session_bus/DistributedNotificationCenter.h"
 

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-// service_stand_in NAME FOLDER: a service for tests of those who ask one. It answers what the test has
-// planned and notes down what it was asked; ServiceStandIn writes the plan and reads the notes.
+// service_stand_in NAME FOLDER: a service for tests of its clients. It answers as planned by the test and
+// records the requests; ServiceStandIn writes the plan and reads the notes.
 //
-// The k-th request gets what the k-th line of FOLDER/plan says, those after the last line what that one says:
+// The k-th line of FOLDER/plan is the answer to the k-th request; the last line also to all later requests:
 //
 //     answer N…      N… as unsigned numbers of 64 bits
 //     twice N…       the same, and once more with other numbers
-//     depart N…      the same, and then the service ends
+//     depart N…      the same, and then the service exits
 //     text           an answer that is a text
 //     error NAME     an error
 //     hold           nothing, until the signal "release" comes: then 1 2 3 4 5 6 7 8
 //     crash          the service dies
-//     leave          the service gives its name up and never answers
-//     move           the service gives its name up, and answers as after "hold"
+//     leave          the service releases its name and never answers
+//     move           the service releases its name, and answers as after "hold"
 //
-// For every request FOLDER/notes gets a line of JSON. The signal "quit" ends the service.
+// For every request FOLDER/notes gets a line of JSON. The signal "quit" makes the service exit.
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDBusArgument>

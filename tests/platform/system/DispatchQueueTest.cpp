@@ -24,10 +24,10 @@ std::string nameOfThisThread()
 
 } // namespace
 
-TEST(DispatchQueue, BlocksRunInTheirOrderOneAtATime)
+TEST(DispatchQueue, BlocksRunInOrderOneAtATime)
 {
     DispatchQueue queue(QStringLiteral("order"));
-    std::vector<int> order; // not guarded: one block at a time
+    std::vector<int> order; // needs no mutex: one block at a time
     std::promise<void> done;
     for (int i = 0; i < 1000; ++i)
         queue.async([&order, i] { order.push_back(i); });
@@ -38,7 +38,7 @@ TEST(DispatchQueue, BlocksRunInTheirOrderOneAtATime)
     EXPECT_EQ(order, expected);
 }
 
-TEST(DispatchQueue, BlocksRunOnAThreadThatHasTheLabelForItsName)
+TEST(DispatchQueue, BlocksRunOnAThreadNamedForTheLabel)
 {
     std::promise<std::string> name;
     std::promise<std::thread::id> thread;
@@ -71,11 +71,11 @@ TEST(DispatchQueue, AsyncDoesNotWaitForTheBlock)
         gate.get_future().wait();
         ended.set_value();
     });
-    gate.set_value(); // would never come
+    gate.set_value(); // the block would wait for ever
     ended.get_future().wait();
 }
 
-TEST(DispatchQueue, AQueueThatHasRunEmptyTakesMoreWork)
+TEST(DispatchQueue, AnEmptyQueueAcceptsMoreWork)
 {
     DispatchQueue queue(QStringLiteral("again"));
     for (int i = 0; i < 200; ++i) {
@@ -93,7 +93,7 @@ TEST(DispatchQueue, ABlockMaySubmitToItsOwnQueue)
     done.get_future().wait();
 }
 
-TEST(DispatchQueue, ABlockEndsItsLifeBeforeTheNextBegins)
+TEST(DispatchQueue, ABlockIsDestroyedBeforeTheNextOneRuns)
 {
     DispatchQueue queue(QStringLiteral("lives"));
     auto held = std::make_shared<int>();
@@ -104,10 +104,10 @@ TEST(DispatchQueue, ABlockEndsItsLifeBeforeTheNextBegins)
     EXPECT_TRUE(isGone.get_future().get());
 }
 
-TEST(DispatchQueue, WithoutAThreadToStartABlockRunsAtOnce)
+TEST(DispatchQueue, WithoutAThreadABlockRunsAtOnce)
 {
     const auto runWithoutThreads = [] {
-        // Root may start as many as it likes.
+        // The limit does not apply to root.
         if (::getuid() == 0 && ::setuid(65534) != 0)
             ::_exit(2);
         const rlimit none{0, 0};

@@ -30,21 +30,21 @@ TEST(FileURL, KeepsANameThatIsNotUtf8)
     EXPECT_NE(fileURLOfPath("/tmp/caf\xE9.txt"), fileURLOfPath("/tmp/caf\xE8.txt"));
 }
 
-TEST(FileURL, TellsAPercentSignFromACode)
+TEST(FileURL, DistinguishesAPercentSignFromAnEncodedCharacter)
 {
     EXPECT_EQ(pathOf("file:///tmp/100%25.txt"), "/tmp/100%.txt");
     EXPECT_EQ(pathOfFileURL(fileURLOfPath("/tmp/caf%E9.txt")), "/tmp/caf%E9.txt");
     EXPECT_NE(fileURLOfPath("/tmp/caf%E9.txt"), fileURLOfPath("/tmp/caf\xE9.txt"));
 }
 
-TEST(FileURL, GivesOneUrlToOnePath)
+TEST(FileURL, GivesEqualPathsEqualUrls)
 {
     for (const char *const written : {"file:///tmp/a%21(b).txt", "file:///tmp/a!%28b%29.txt",
              "file://localhost/tmp/a!(b).txt", "file:/tmp/%61!(b).txt", "FILE:///tmp/a!(b).txt#part"})
         EXPECT_EQ(fileURLOfPath(pathOf(written)), fileURLOfPath("/tmp/a!(b).txt")) << written;
 }
 
-TEST(FileURL, IsThatOfQtWhereThePathIsUtf8)
+TEST(FileURL, EqualsTheUrlOfQtForAUtf8Path)
 {
     for (const char *const path :
         {"/tmp/a.txt", "/tmp/a b#c?d%e.txt", "/tmp/caf\u00E9 \u55AB\u8336\u5E97.txt", "/tmp/-a\nb.txt",
@@ -63,7 +63,7 @@ TEST(FileURL, AFolderIsTheSameWithAndWithoutASlash)
     EXPECT_EQ(pathOf("file:////"), "/");
 }
 
-TEST(FileURL, HasNoPathWhereItNamesNoFileOfThisMachine)
+TEST(FileURL, HasNoPathForAUrlThatIsNotAFileOfThisMachine)
 {
     for (const char *const url : {"", "https://example.com/a.txt", "file://elsewhere/a.txt", "file:a.txt",
              "file:", "file:///a%00.txt", "/a.txt", "mailto:a@example.com"})
@@ -71,7 +71,7 @@ TEST(FileURL, HasNoPathWhereItNamesNoFileOfThisMachine)
     EXPECT_TRUE(fileURLOfPath({}).isEmpty());
 }
 
-TEST(FileURL, TheLastPathComponentIsForPeopleToRead)
+TEST(FileURL, TheLastPathComponentIsReadableText)
 {
     const auto nameOf = [](const QByteArray &url) { return lastPathComponent(QUrl::fromEncoded(url)); };
     EXPECT_EQ(nameOf("file:///tmp/a%20b%23c.txt"), QStringLiteral("a b#c.txt"));

@@ -23,7 +23,7 @@ void runOnAnotherThread(const std::function<void()> &block)
 
 } // namespace
 
-TEST(MainQueue, BlocksRunLaterOnTheMainThreadInTheirOrder)
+TEST(MainQueue, BlocksRunLaterOnTheMainThreadInOrder)
 {
     std::vector<int> order;
     MainQueue::async([&order] { order.push_back(1); });
@@ -41,7 +41,7 @@ TEST(MainQueue, BlocksRunLaterOnTheMainThreadInTheirOrder)
     EXPECT_THAT(order, ElementsAre(1, 2, 3));
 }
 
-TEST(MainQueue, ABlockThatABlockSubmitsRunsInALaterTurn)
+TEST(MainQueue, ABlockSubmittedByABlockRunsInALaterIteration)
 {
     std::vector<int> order;
     MainQueue::async([&order] {
@@ -53,7 +53,7 @@ TEST(MainQueue, ABlockThatABlockSubmitsRunsInALaterTurn)
     EXPECT_THAT(order, ElementsAre(1, 2, 3));
 }
 
-TEST(MainQueue, ABlockEndsItsLifeOnTheMainThread)
+TEST(MainQueue, ABlockIsDestroyedOnTheMainThread)
 {
     for (int i = 0; i < 500; ++i) {
         bool isReleased = false;
@@ -68,7 +68,7 @@ TEST(MainQueue, ABlockEndsItsLifeOnTheMainThread)
     }
 }
 
-TEST(ReleasedOnMainThread, AValueLetGoOnAnotherThreadEndsItsLifeOnTheMainOne)
+TEST(ReleaseOnMainThread, AValueDroppedOnAnotherThreadIsDestroyedOnTheMainThread)
 {
     bool isReleased = false;
     std::shared_ptr<void> held(nullptr, [&isReleased](void *) {
@@ -81,7 +81,7 @@ TEST(ReleasedOnMainThread, AValueLetGoOnAnotherThreadEndsItsLifeOnTheMainOne)
     EXPECT_TRUE(waitUntil([&isReleased] { return isReleased; }));
 }
 
-TEST(ReleasedOnMainThread, AValueLetGoOnTheMainThreadEndsItsLifeAtOnce)
+TEST(ReleaseOnMainThread, AValueDroppedOnTheMainThreadIsDestroyedAtOnce)
 {
     bool isReleased = false;
     auto wrapped =

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The programs that have users' texts in memory, and who may look into it.
+// Whether other processes can read the memory of the programs that have users' texts.
 #include "tests/harness/QuillbayTest.h"
 
 #include <sys/socket.h>
@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char *programs[] = {"quillbay", "quillbay-counting-service", "quillbay-service-provider"};
 
-/// A bus that accepts connections and never answers, so that programs stay where they connect.
+/// A bus that accepts connections and never answers, so that programs block when they connect.
 class DeafBus {
 public:
     DeafBus()
@@ -21,7 +21,7 @@ public:
         , m_socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
     {
         sockaddr_un address = {.sun_family = AF_UNIX, .sun_path = {}};
-        std::ranges::copy(m_name, address.sun_path + 1); // of no folder: an abstract one
+        std::ranges::copy(m_name, address.sun_path + 1); // an abstract socket
         const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1)
             + static_cast<socklen_t>(m_name.size());
         EXPECT_EQ(::bind(m_socket, reinterpret_cast<const sockaddr *>(&address), length), 0);
@@ -38,7 +38,7 @@ private:
     int m_socket;
 };
 
-/// What the kernel tells of such a process belongs to root.
+/// The files of such a process in /proc belong to root.
 bool isMemoryPrivate(qint64 process)
 {
     struct stat status = {};
@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(Of, PrivateMemoryTest, ::testing::ValuesIn(programs),
 
 } // namespace
 
-TEST_P(PrivateMemoryTest, NoOtherProcessOfTheUserMayLookIntoIt)
+TEST_P(PrivateMemoryTest, NoOtherProcessOfTheUserMayReadIt)
 {
     const DeafBus bus;
     ChildProcess program(productProgram(QString::fromLatin1(GetParam())));
@@ -65,7 +65,7 @@ TEST_P(PrivateMemoryTest, NoOtherProcessOfTheUserMayLookIntoIt)
     program.kill();
 }
 
-TEST(PrivateMemory, TheTestSeesAProcessThatKeepsNothingPrivate)
+TEST(PrivateMemory, TheTestDetectsAProcessWithoutPrivateMemory)
 {
     ChildProcess program(QStringLiteral("/bin/cat"));
     program.asOtherUser().start({});

@@ -50,7 +50,7 @@ protected:
 
 } // namespace
 
-TEST_F(DetachedProcess, TheArgumentsArriveAsTheyAre)
+TEST_F(DetachedProcess, TheArgumentsArriveUnchanged)
 {
     const QString program =
         script("for a; do printf '%s\\n' \"$a\"; done >> '" + QFile::encodeName(m_notes) + "'\n");
@@ -61,13 +61,13 @@ TEST_F(DetachedProcess, TheArgumentsArriveAsTheyAre)
     EXPECT_EQ(lines(), arguments);
 }
 
-TEST_F(DetachedProcess, ItIsNotWaitedForAndReadsNothingOfOurs)
+TEST_F(DetachedProcess, ItIsNotWaitedForAndHasAnEmptyInput)
 {
     const QString pipe = world().root() + QStringLiteral("/pipe");
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const QString program = script("cat > /dev/null; read line < '" + QFile::encodeName(pipe)
         + "'; echo \"$line\" > '" + QFile::encodeName(m_notes) + "'\n");
-    EXPECT_FALSE(launchDetached(program, {})); // which waits for us
+    EXPECT_FALSE(launchDetached(program, {})); // it waits for this test
     EXPECT_FALSE(QFile::exists(m_notes));
     QFile file(pipe);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -76,7 +76,7 @@ TEST_F(DetachedProcess, ItIsNotWaitedForAndReadsNothingOfOurs)
     EXPECT_TRUE(waitUntil([this] { return lines() == QStringList{QStringLiteral("go on")}; }));
 }
 
-TEST_F(DetachedProcess, AHundredOfThemLeaveNoZombie)
+TEST_F(DetachedProcess, AHundredLeaveNoZombie)
 {
     const int before = numberOfChildren();
     const QString program = script("echo done >> '" + QFile::encodeName(m_notes) + "'\n");
@@ -86,7 +86,7 @@ TEST_F(DetachedProcess, AHundredOfThemLeaveNoZombie)
     EXPECT_EQ(numberOfChildren(), before);
 }
 
-TEST_F(DetachedProcess, WhatCannotBeStartedIsSaidToBeSo)
+TEST_F(DetachedProcess, AProgramThatCannotBeStartedIsAnError)
 {
     const int before = numberOfChildren();
     const std::optional<LaunchError> missing = launchDetached(QStringLiteral("/nonexistent/say"), {});

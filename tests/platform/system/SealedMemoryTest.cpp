@@ -27,7 +27,7 @@ SealedMemory copied(QByteArrayView bytes)
     return std::move(memory).value();
 }
 
-// A memory file as a stranger may make it.
+// A memory file of an unknown sender.
 class MemoryFile {
 public:
     explicit MemoryFile(const QByteArray &bytes = "text", int seals = allSeals)
@@ -58,7 +58,7 @@ bool isOpen(int descriptor)
     return fcntl(descriptor, F_GETFD) >= 0;
 }
 
-// Lets the process open no descriptor more while it lives.
+// Keeps the process from opening more descriptors.
 class NoMoreDescriptors {
 public:
     NoMoreDescriptors()
@@ -99,7 +99,7 @@ TEST(SealedMemory, AnEmptyBlockHasADescriptorToo)
     EXPECT_TRUE(received.value().bytes().isEmpty());
 }
 
-TEST(SealedMemory, NobodyCanChangeItAnyMore)
+TEST(SealedMemory, ItCannotBeChanged)
 {
     const SealedMemory memory = copied("text");
     EXPECT_EQ(fcntl(memory.descriptor(), F_GET_SEALS), allSeals);
@@ -110,7 +110,7 @@ TEST(SealedMemory, NobodyCanChangeItAnyMore)
     EXPECT_EQ(memory.bytes(), "text");
 }
 
-TEST(SealedMemory, ItsDescriptorIsNotHandedDownToPrograms)
+TEST(SealedMemory, ItsDescriptorIsNotInherited)
 {
     const SealedMemory memory = copied("text");
     EXPECT_EQ(fcntl(memory.descriptor(), F_GETFD), FD_CLOEXEC);
@@ -153,7 +153,7 @@ TEST(SealedMemory, AFillerThatKeepsAWritableMappingIsRefused)
     munmap(kept, 4096);
 }
 
-TEST(SealedMemory, WhatIsReceivedIsTheSendersFileUnderADescriptorOfItsOwn)
+TEST(SealedMemory, AReceivedBlockIsTheSendersFileUnderANewDescriptor)
 {
     std::optional<SealedMemory> received;
     {
@@ -167,15 +167,15 @@ TEST(SealedMemory, WhatIsReceivedIsTheSendersFileUnderADescriptorOfItsOwn)
     EXPECT_EQ(received->bytes(), "document");
 }
 
-TEST(SealedMemory, TheSendersPositionInTheFileDoesNotMatter)
+TEST(SealedMemory, TheSendersFilePositionDoesNotMatter)
 {
-    const MemoryFile file("document"); // stands at its end
+    const MemoryFile file("document"); // its position is at the end
     auto memory = SealedMemory::receive(file.descriptor, 8);
     ASSERT_TRUE(memory);
     EXPECT_EQ(memory.value().bytes(), "document");
 }
 
-TEST(SealedMemory, AFileThatItsSenderCanStillChangeIsRefused)
+TEST(SealedMemory, AFileThatItsSenderCanChangeIsRefused)
 {
     for (const int seals : {0, F_SEAL_WRITE, F_SEAL_SHRINK, F_SEAL_GROW, F_SEAL_SHRINK | F_SEAL_GROW,
              F_SEAL_FUTURE_WRITE | F_SEAL_SHRINK}) {
@@ -188,7 +188,7 @@ TEST(SealedMemory, AFileThatItsSenderCanStillChangeIsRefused)
 
 class SealedMemoryTest : public QuillbayTest { };
 
-TEST_F(SealedMemoryTest, WhatIsNoMemoryFileIsRefused)
+TEST_F(SealedMemoryTest, ADescriptorOfAnotherKindIsRefused)
 {
     QFile file(writeFile(QStringLiteral("file"), "text"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -201,7 +201,7 @@ TEST_F(SealedMemoryTest, WhatIsNoMemoryFileIsRefused)
     EXPECT_EQ(causeOf(SealedMemory::receive(-1, 0)), Cause::NotSealed);
 }
 
-TEST(SealedMemory, AFileOfAnotherLengthThanWasSaidIsRefused)
+TEST(SealedMemory, AFileOfADifferentLengthIsRefused)
 {
     const MemoryFile file("text");
     for (const quint64 length :
@@ -210,7 +210,7 @@ TEST(SealedMemory, AFileOfAnotherLengthThanWasSaidIsRefused)
     EXPECT_EQ(causeOf(SealedMemory::receive(MemoryFile(QByteArray()).descriptor, 1)), Cause::LengthDiffers);
 }
 
-TEST(SealedMemory, AMovedBlockTakesBytesAndDescriptorAlong)
+TEST(SealedMemory, AMovedBlockKeepsBytesAndDescriptor)
 {
     SealedMemory first = copied("first");
     const char *where = first.bytes().data();
@@ -233,7 +233,7 @@ TEST(SealedMemory, AMovedBlockTakesBytesAndDescriptorAlong)
     EXPECT_TRUE(!isOpen(old) || second.descriptor() == old);
 }
 
-TEST(SealedMemory, TheEndOfABlockClosesItsDescriptorAndItsMapping)
+TEST(SealedMemory, DestroyingABlockClosesItsDescriptorAndMapping)
 {
     int descriptor = -1;
     QByteArray mapping;
@@ -251,7 +251,7 @@ TEST(SealedMemory, TheEndOfABlockClosesItsDescriptorAndItsMapping)
     EXPECT_FALSE(isMapped());
 }
 
-TEST(SealedMemory, AProcessWithoutFreeDescriptorsIsToldSo)
+TEST(SealedMemory, AProcessWithoutFreeDescriptorsGetsAnError)
 {
     const MemoryFile file("text");
     const NoMoreDescriptors limit;

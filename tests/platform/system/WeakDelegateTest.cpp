@@ -11,7 +11,7 @@ class Listener : public Delegate { };
 
 } // namespace
 
-TEST(WeakDelegate, RefersToNothingAtFirstAndWhenToldSo)
+TEST(WeakDelegate, IsNullAtFirstAndAfterReset)
 {
     Listener listener;
     EXPECT_EQ(WeakDelegate<Listener>().get(), nullptr);
@@ -19,7 +19,7 @@ TEST(WeakDelegate, RefersToNothingAtFirstAndWhenToldSo)
     EXPECT_EQ(WeakDelegate<Listener>(&listener).get(), &listener);
 }
 
-TEST(WeakDelegate, RefersToNothingAfterTheDelegatesLife)
+TEST(WeakDelegate, IsNullAfterTheDelegateIsDestroyed)
 {
     std::optional<Listener> listener(std::in_place);
     const WeakDelegate<Listener> reference(&*listener);
@@ -28,7 +28,7 @@ TEST(WeakDelegate, RefersToNothingAfterTheDelegatesLife)
     EXPECT_EQ(reference.get(), nullptr);
 }
 
-TEST(WeakDelegate, TheLifeOfACopyIsItsOwn)
+TEST(WeakDelegate, ACopyHasALifetimeOfItsOwn)
 {
     std::optional<Listener> listener(std::in_place);
     Listener copy(*listener);

@@ -1,9 +1,25 @@
 // SPDX-License-Identifier: MIT
-#include "platform/locale/SpelledOutNumber.h"
+#include "platform/locale/NumberText.h"
 
+#include <unicode/numberformatter.h>
 #include <unicode/rbnf.h>
 
 #include <limits>
+
+QString decimalText(double number, int maxFractionDigits)
+{
+    using namespace icu::number;
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::UnicodeString text = NumberFormatter::withLocale(icu::Locale::getRoot())
+                                        .precision(Precision::maxFraction(maxFractionDigits))
+                                        .roundingMode(UNUM_ROUND_HALFEVEN)
+                                        .grouping(UNUM_GROUPING_OFF)
+                                        .formatDouble(number, status)
+                                        .toString(status);
+    if (U_FAILURE(status))
+        return QString::number(number, 'f', maxFractionDigits);
+    return QString(reinterpret_cast<const QChar *>(text.getBuffer()), text.length());
+}
 
 struct SpelledOutNumber::Format {
     icu::RuleBasedNumberFormat rules;
