@@ -16,7 +16,7 @@
 
 int makeFolder(const QByteArray &path)
 {
-    // The XDG Base Directory Specification requires 0700.
+    // XDG base directories are created with this mode.
     constexpr mode_t mode = 0700;
     if (::mkdir(path.constData(), mode) == 0 || errno == EEXIST)
         return 0;
