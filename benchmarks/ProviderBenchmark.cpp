@@ -48,7 +48,7 @@ public:
     Display &operator=(const Display &) = delete;
     ~Display() { xcb_disconnect(m_connection); }
 
-    /// The windows that the window manager shows, oldest first.
+    /// The windows of the window manager, oldest first.
     [[nodiscard]] std::vector<xcb_window_t> windows() const
     {
         const Received<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection,
@@ -60,7 +60,7 @@ public:
         return {first, first + xcb_get_property_value_length(reply.get()) / 4};
     }
 
-    /// Whether anything is written below the title row.
+    /// Whether there is text below the title row.
     [[nodiscard]] bool showsNumbers(xcb_window_t window) const
     {
         const Received<xcb_get_geometry_reply_t> place(
@@ -154,7 +154,7 @@ public:
     {
     }
 
-    /// Asks for a window and returns it; milliseconds to the window and to its numbers.
+    /// Requests a window and returns it, with the milliseconds to the window and to its numbers.
     xcb_window_t ask(double *toWindow = nullptr, double *toNumbers = nullptr) const
     {
         const size_t before = m_display.windows().size();
@@ -228,7 +228,7 @@ int main(int argumentCount, char **arguments)
     const Display display;
     const Requests requests(display);
     measureTimes(requests, true);
-    // The last window of those stays, and keeps the provider.
+    // The last window stays open and keeps the provider running.
     measureTimes(requests, false);
 
     printMemory("1 window");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Lines of generated texts of 20 MB in UTF-8, one style, 451 points wide: bytes a second, and the greatest
+// Lines of generated texts of 20 MB in UTF-8, one style, 451 points wide: bytes per second, and the maximum
 // resident size of the process so far.
 #include "platform/text_layout/LayoutEngine.h"
 
@@ -17,10 +17,10 @@ constexpr double columnWidth = 451;
 
 struct Language {
     const char *name;
-    QString syllables; // put together to words, separated by spaces
+    QString syllables; // for words, separated by spaces
     QString separator; // between words
     QString fullStop;
-    int longestWord; // in syllables
+    int maxSyllables; // per word
 };
 
 const Language languages[]{
@@ -58,7 +58,7 @@ QStringList vocabularyOf(const Language &language, std::mt19937 &random)
     QStringList words;
     for (int i = 0; i < 30'000; ++i) {
         QString word;
-        const auto length = 1 + static_cast<int>(random() % static_cast<unsigned>(language.longestWord));
+        const auto length = 1 + static_cast<int>(random() % static_cast<unsigned>(language.maxSyllables));
         for (int syllable = 0; syllable < length; ++syllable)
             word += syllables[static_cast<qsizetype>(random() % static_cast<unsigned>(syllables.size()))];
         words.append(word);

@@ -30,9 +30,9 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds pauseBetweenSaves{250}; // longer than changes are gathered for
+constexpr std::chrono::milliseconds pauseBetweenSaves{250}; // longer than changes are collected
 
-/// Looks again whenever something has happened.
+/// Checks the condition after every event.
 template <typename Condition>
 void wait(const Condition &condition)
 {
@@ -67,7 +67,7 @@ double secondsOf(const timeval &time)
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
 
-/// Of a process and the children that it has waited for.
+/// Of a process and its children that have exited.
 double processorSeconds(qint64 process)
 {
     QFile file(QStringLiteral("/proc/%1/stat").arg(process));
@@ -164,7 +164,7 @@ public:
             residentMegabytes(), number);
         printProcessorTime("active", seconds);
         m_activity.setActive(false);
-        pass(std::chrono::seconds(5)); // the counting service may have left meanwhile
+        pass(std::chrono::seconds(5)); // the counting service may have exited meanwhile
         printProcessorTime("not active, polling", seconds);
         m_activity.setActive(true);
         wait(allRest);

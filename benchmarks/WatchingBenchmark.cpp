@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The watched document with the real clock: how long after the end of a save its text is told, and how much
-// processor time a poll takes that finds what the last one found.
+// The watched document with the real clock: how long after the end of a save its text is reported, and how
+// much processor time a poll of an unchanged document takes.
 #include "documents/loading/DocumentLoader.h"
 #include "platform/file_coordination/ChangePolicy.h"
 #include "watching/WatchTextFileModel.h"
@@ -26,7 +26,7 @@
 namespace {
 
 constexpr int saves = 100;
-constexpr std::chrono::milliseconds pauseBetweenSaves{250}; // longer than changes are gathered for
+constexpr std::chrono::milliseconds pauseBetweenSaves{250}; // longer than changes are collected
 
 class LastText final : public WatchTextFileModelDelegate {
 public:
@@ -122,7 +122,7 @@ void measureSaves(const Mode &mode, const char *sizeName, qsizetype size, const 
     std::fflush(stdout);
 }
 
-/// A watched document whose writer keeps it locked, as word processors do for as long as they show it.
+/// A watched document that its writer keeps locked, like word processors while it is open.
 struct LockedDocument {
     explicit LockedDocument(const QString &path)
         : writer(path)
@@ -141,7 +141,7 @@ struct LockedDocument {
     WatchTextFileModel model;
 };
 
-/// The free one loses its name for 100 ms, while the changes of the locked ones are told.
+/// The unlocked document loses its name for 100 ms, while changes of the locked ones are reported.
 std::vector<double> timesOfSavesBeside(
     const std::vector<std::unique_ptr<LockedDocument>> &locked, const QString &path)
 {
@@ -159,7 +159,7 @@ std::vector<double> timesOfSavesBeside(
         QEventLoop loop;
         QTimer::singleShot(removal, &loop, [&] {
             QFile::remove(path);
-            model._nsTimerForceRead(); // a poll in the midst of the save
+            model._nsTimerForceRead(); // a poll during the save
         });
         QTimer::singleShot(removal + std::chrono::milliseconds(100), &loop, [&] {
             write(path, contents);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // QBYServiceProviderMainWindow is a window of the service provider that takes the focus in every style, even
-// without a title bar. Thread: main.  Owner: its controller.
+// without a title bar.
+// Thread: main.  Owner: its controller.
 #pragma once
 
 #include "platform/views/Window.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What Quillbay adds to views and scroll views: midpoint, stacking, inches, scrolling to the top; and outlets
-// that may be missing. Thread: main.
+// that may be missing.
+// Thread: main.
 #pragma once
 
 #include <QPointF>

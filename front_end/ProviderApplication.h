@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ProviderApplication runs the service provider on the session bus: it passes the service messages to the
-// delegate and quits the program when nothing is open. Thread: main.  Owner: main(); destroyed before the
-// QApplication.
+// delegate and quits the program when nothing is open.
+// Thread: main.  Owner: main(); destroyed before the QApplication.
 #pragma once
 
 #include "front_end/QBYServiceProviderAppDelegate.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // QBYServiceProviderAppDelegate serves the service messages and owns what they open: every statistics window
 // and every watcher, until they report that they are finished. When the program exits is left to
-// ProviderApplication. Thread: main.  Owner: ProviderApplication; outlives the event loop.
+// ProviderApplication.
+// Thread: main.  Owner: ProviderApplication; outlives the event loop.
 #pragma once
 
 #include "front_end/QBYServiceProviderShowStatsWindowController.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // QBYServiceProviderShowStatsWindowController shows the counts of one text in a small floating window: a row
 // with a spinner, the product's name and a close button, and the statistics panel below it. Counting, and
-// placing the labels, is left to the panel. Made with std::make_shared. Thread: main.  Owner: the registry of
-// the application's delegate, and its own operations while they run.
+// placing the labels, is left to the panel. Made with std::make_shared.
+// Thread: main.  Owner: the registry of the application's delegate, and its own operations while they run.
 #pragma once
 
 #include "front_end/QBYServiceProviderShowStatsWindowControllerDelegate.h"

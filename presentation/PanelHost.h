@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the windows around a statistics panel share: the panel's place in their interface file, the width that
-// fits it, and the window's set-up. Their own controls and size are left to them. Thread: main.
+// fits it, and the window's set-up. Their own controls and size are left to them.
+// Thread: main.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WatchTextFileModel follows one document on disk and passes its content to its delegate at every change.
-// Counting is left to the delegate. Thread: main.  Owner: the watch controller, which is its delegate; refers
-// to it weakly.
+// Counting is left to the delegate.
+// Thread: main.  Owner: the watch controller, which is its delegate; refers to it weakly.
 #pragma once
 
 #include "documents/loading/RepeatedLoader.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WatchTextFileModelDelegate is notified by a WatchTextFileModel of changes of the watched document. It may
-// stop or destroy the model in any of these calls. Thread: main.  Owner: independent of the model, which
-// refers to it weakly.
+// stop or destroy the model in any of these calls.
+// Thread: main.  Owner: independent of the model, which refers to it weakly.
 #pragma once
 
 #include "platform/styled_text/AttributedString.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // BreakIterator finds the boundaries of one kind in a text, first to last, by ICU's root rules and
-// dictionaries. Thread: one at a time.  Owner: the caller; expensive to make, to be reused for the next text.
+// dictionaries.
+// Thread: one at a time.  Owner: the caller; expensive to make, to be reused for the next text.
 #pragma once
 
 #include <QStringView>

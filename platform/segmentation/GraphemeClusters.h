@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Grapheme clusters by the properties of their characters: for single clusters, where running a BreakIterator
-// over the whole text would be too expensive. Thread: any.
+// over the whole text would be too expensive.
+// Thread: any.
 #pragma once
 
 #include <QStringView>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // LineBreaks finds where a paragraph may be broken into lines: by UAX #14 with ICU's root rules, and
 // dictionaries for the scripts that need them. It examines little more than the text around the ends of
-// lines. Thread: one at a time.  Owner: the caller; expensive to make, to be reused for the next paragraph.
+// lines.
+// Thread: one at a time.  Owner: the caller; expensive to make, to be reused for the next paragraph.
 #pragma once
 
 #include "platform/segmentation/BreakIterator.h"

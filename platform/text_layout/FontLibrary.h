@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // FontLibrary chooses a font for every character of a text: the font that the text names, one with the same
 // advances, or any font that has the character. The choice depends only on the request and on the machine's
-// fonts. Thread: one at a time.  Owner: LayoutEngine.
+// fonts.
+// Thread: one at a time.  Owner: LayoutEngine.
 #pragma once
 
 #include "platform/text_layout/FontCatalogue.h"

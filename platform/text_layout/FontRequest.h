@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // FontRequest is the font that a text asks for, apart from its size: family, weight and slant, as parsed from
-// the name in the document. Finding the font is left to FontLibrary. Thread: any; a value.
+// the name in the document. Finding the font is left to FontLibrary.
+// Thread: any; a value.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"

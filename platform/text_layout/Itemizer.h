@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Itemizer cuts a paragraph into text runs, first to last, by its attributes, directions, scripts and fonts.
-// Measuring them is left to MeasuredParagraph. Thread: one at a time.  Owner: MeasuredParagraph.
+// Measuring them is left to MeasuredParagraph.
+// Thread: one at a time.  Owner: MeasuredParagraph.
 #pragma once
 
 #include "platform/segmentation/BidiRuns.h"

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // LayoutEngine lays styled text out in a column, paragraph by paragraph, and yields or counts the lines. It
 // depends only on the text's attributes and the machine's fonts, not on a screen or other state of the
-// process. Thread: one at a time.  Owner: the caller. Expensive to make, since it lists the machine's fonts;
-// it becomes faster with use, since it keeps loaded fonts and measured words.
+// process.
+// Thread: one at a time.  Owner: the caller. Expensive to make, since it lists the machine's fonts; it
+// becomes faster with use, since it keeps loaded fonts and measured words.
 #pragma once
 
 #include "platform/text_layout/LineBreaker.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // LayoutManager holds the line fragments of a text storage in a text container, as far as they have been
-// requested. Layout itself is left to LayoutEngine. Thread: one at a time.  Owner: the caller; refers to
-// engine, storage and container, which must outlive it.
+// requested. Layout itself is left to LayoutEngine.
+// Thread: one at a time.  Owner: the caller; refers to engine, storage and container, which must outlive it.
 #pragma once
 
 #include "platform/text_layout/LayoutEngine.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // LineBreaker breaks one paragraph into lines, each with as much text as fits: a line ends at the last break
 // opportunity before the overflow, or within a word only if the word alone is wider than the column. Advances
-// come from MeasuredParagraph. Thread: one at a time.  Owner: LayoutEngine, for one paragraph.
+// come from MeasuredParagraph.
+// Thread: one at a time.  Owner: LayoutEngine, for one paragraph.
 #pragma once
 
 #include "platform/segmentation/LineBreaks.h"

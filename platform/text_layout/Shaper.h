@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Shaper measures stretches of text runs with HarfBuzz, with kerning and ligatures and without hinting and
-// rounding. What to measure is left to MeasuredParagraph. Thread: one at a time.  Owner: MeasuredParagraph.
+// rounding. What to measure is left to MeasuredParagraph.
+// Thread: one at a time.  Owner: MeasuredParagraph.
 #pragma once
 
 #include "platform/text_layout/ShapingStyle.h"

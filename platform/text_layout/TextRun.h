@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // TextRun is a stretch of a paragraph that is measured in one way: with one font, script and direction, or as
-// one kind of character without a font. Cutting a paragraph into runs is left to Itemizer. Thread: any;
-// values.
+// one kind of character without a font. Cutting a paragraph into runs is left to Itemizer.
+// Thread: any; values.
 #pragma once
 
 #include "platform/text_layout/FontLibrary.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The controls that a view can be: Label, Button, Box and ProgressIndicator. They hold what a control shows
-// and report changes by signals; how it looks on a screen is up to platform/views/widgets. Thread: main.
-// Owner: their superview or window.
+// and report changes by signals; how it looks on a screen is up to platform/views/widgets.
+// Thread: main.  Owner: their superview or window.
 #pragma once
 
 #include "platform/views/Painter.h"

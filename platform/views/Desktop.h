@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Desktop is what window controllers need of the user's desktop besides their own window: screens and
-// pointer, alerts, error messages and the file chooser. Thread: main.  Owner: main() of a program with
-// windows; outlives all its users.
+// pointer, alerts, error messages and the file chooser.
+// Thread: main.  Owner: main() of a program with windows; outlives all its users.
 #pragma once
 
 #include "platform/views/Geometry.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // InterfaceFile makes the tree of views that a form of Qt Designer (.ui, version 4) describes, without
 // widgets. Interface files are compiled into the program: anything unsupported in one is an error in the
-// program. Thread: main.  Owner: whatever loads the file; shares the ownership of its views.
+// program.
+// Thread: main.  Owner: whatever loads the file; shares the ownership of its views.
 #pragma once
 
 #include "platform/system/Result.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Painter is the surface that a view draws on, in the coordinates of the view's bounds; Color is what it
-// draws with. Thread: main.  Owner: the code that asks the view to draw; views keep no reference.
+// draws with.
+// Thread: main.  Owner: the code that asks the view to draw; views keep no reference.
 #pragma once
 
 #include <QRectF>

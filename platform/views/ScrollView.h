@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ScrollView shows a document view that may be larger than itself, scrolled and magnified; ClipView is the
-// part of it through which the document is visible. Thread: main.  Owner: its superview or window; a clip
-// view is owned by its scroll view.
+// part of it through which the document is visible.
+// Thread: main.  Owner: its superview or window; a clip view is owned by its scroll view.
 #pragma once
 
 #include "platform/views/View.h"

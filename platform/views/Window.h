@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Window is a rectangle of the screen, filled by its content view; a title bar lies above the frame. Showing
-// it is left to platform/views/widgets, which follows its signals. Thread: main.  Owner: its controller;
-// shares the ownership of its content view.
+// it is left to platform/views/widgets, which follows its signals.
+// Thread: main.  Owner: its controller; shares the ownership of its content view.
 #pragma once
 
 #include "platform/views/Geometry.h"

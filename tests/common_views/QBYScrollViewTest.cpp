@@ -24,7 +24,7 @@ protected:
     const std::shared_ptr<QBYScrollView> m_inner = std::make_shared<QBYScrollView>(QRectF(0, 0, 100, 100));
 };
 
-TEST_F(QBYScrollViewTest, ScrollsUntilToldNotTo)
+TEST_F(QBYScrollViewTest, ScrollsByDefault)
 {
     EXPECT_FALSE(m_inner->disableScrolling());
     m_inner->documentView()->scrollWheel({0, -90});
@@ -32,14 +32,14 @@ TEST_F(QBYScrollViewTest, ScrollsUntilToldNotTo)
     EXPECT_EQ(m_inner->verticalScrollerValue(), 0.1);
 }
 
-TEST_F(QBYScrollViewTest, PassesOnWhatItCannotUse)
+TEST_F(QBYScrollViewTest, PassesUnusedEventsOn)
 {
     m_inner->setDocumentView(nullptr);
     m_inner->scrollWheel({0, -90});
     EXPECT_EQ(scrollPosition(m_outer), 90);
 }
 
-TEST_F(QBYScrollViewTest, WithScrollingDisabledNothingScrollsNotEvenWhatEnclosesIt)
+TEST_F(QBYScrollViewTest, WithScrollingDisabledEnclosingViewsDoNotScrollEither)
 {
     m_inner->setDisableScrolling(true);
     EXPECT_TRUE(m_inner->disableScrolling());

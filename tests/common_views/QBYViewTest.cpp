@@ -59,14 +59,14 @@ TEST_F(QBYViewTest, EveryOtherColourAsksForARedraw)
     EXPECT_EQ(m_view.backgroundColor(), std::nullopt);
 }
 
-TEST_F(QBYViewTest, AViewWithoutAColourAsksForARedrawEvenWhenItIsToHaveNone)
+TEST_F(QBYViewTest, AViewWithoutAColourAsksForARedrawEvenIfItStaysWithout)
 {
     m_view.setBackgroundColor(std::nullopt);
     m_view.setBackgroundColor(std::nullopt);
     EXPECT_EQ(m_redraws, 2);
 }
 
-TEST_F(QBYViewTest, FillsItsWholeBoundsHoweverLittleIsDirty)
+TEST_F(QBYViewTest, FillsItsWholeBoundsEvenIfLittleIsDirty)
 {
     RecordingPainter painter;
     m_view.setBackgroundColor(red);
@@ -81,7 +81,7 @@ TEST_F(QBYViewTest, DrawsNothingWithoutAColour)
     EXPECT_THAT(painter.m_fills, IsEmpty());
 }
 
-TEST_F(QBYViewTest, WhoIsToldOfTheRedrawMayReadTheNewColour)
+TEST_F(QBYViewTest, AListenerOfTheRedrawCanReadTheNewColour)
 {
     std::optional<Color> seen;
     QObject::connect(&m_view, &View::displayNeeded, &m_view, [&] { seen = m_view.backgroundColor(); });

@@ -23,7 +23,7 @@ TEST_F(ScrollToTopTest, AFlippedDocumentScrollsToZero)
     EXPECT_EQ(topOf(std::make_shared<FlippedView>(QRectF(0, 0, 200, 1000))), QPointF(0, 0));
 }
 
-TEST_F(ScrollToTopTest, AnyOtherDocumentScrollsToItsHeightLessTheContents)
+TEST_F(ScrollToTopTest, AnyOtherDocumentScrollsToItsHeightMinusTheContentHeight)
 {
     EXPECT_EQ(topOf(std::make_shared<View>(QRectF(0, 0, 200, 1000))), QPointF(0, 700));
 }
@@ -33,7 +33,7 @@ TEST_F(ScrollToTopTest, ALowDocumentScrollsBelowZero)
     EXPECT_EQ(topOf(std::make_shared<View>(QRectF(0, 0, 200, 100))), QPointF(0, -200));
 }
 
-TEST_F(ScrollToTopTest, TheContentsHeightCountsInScreenPointsHoweverLargeTheMagnification)
+TEST_F(ScrollToTopTest, TheContentHeightIsInScreenPointsAtEveryMagnification)
 {
     m_scrollView.magnifyToFitRect({0, 0, 100, 100});
     ASSERT_EQ(m_scrollView.magnification(), 2);

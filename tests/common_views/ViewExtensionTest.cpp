@@ -72,7 +72,7 @@ TEST_F(ScreenUnits, ThePointsOfAnInchAre72WhateverTheScaleFactor)
     EXPECT_EQ(screenPointValueToInch(144), 2);
 }
 
-TEST_F(ScreenUnits, ThereAndBackHalvesALengthWithAScaleFactorOfTwo)
+TEST_F(ScreenUnits, ConvertingBackHalvesALengthWithAScaleFactorOfTwo)
 {
     EXPECT_EQ(screenPointValueToInch(inchToScreenNumber(*m_view, 3)), 3);
     m_window->setBackingScaleFactor(2);

@@ -45,7 +45,7 @@ TEST(WindowExtension, ResizingLeavesTheBottomLeftCornerWhereItIs)
     EXPECT_EQ(window.frame(), QRectF(100, 200, 300, 250));
 }
 
-TEST(WindowExtension, ResizingHandsItsFlagsOnAndAnimatesOnlyWhenAskedTo)
+TEST(WindowExtension, ResizingPassesItsFlagsOnAndAnimatesOnlyOnRequest)
 {
     Window window({100, 200, 300, 400});
     std::vector<std::pair<bool, bool>> flags;
@@ -72,7 +72,7 @@ TEST(WindowExtension, MiniaturizableIsTheThirdBitOfTheStyleMask)
     EXPECT_FALSE(qby_windowMiniaturizable(Window({}, ~4U)));
 }
 
-TEST(WindowExtension, ASwitchTouchesNoOtherBit)
+TEST(WindowExtension, ASwitchChangesNoOtherBit)
 {
     WatchedWindow window({}, otherBits);
     setQby_windowClosable(window, true);
@@ -82,7 +82,7 @@ TEST(WindowExtension, ASwitchTouchesNoOtherBit)
     EXPECT_THAT(window.m_masksSet, ElementsAre(otherBits | 2, otherBits | 6, otherBits | 4, otherBits));
 }
 
-TEST(WindowExtension, ASwitchThatStandsRightAlreadySetsNothing)
+TEST(WindowExtension, ASwitchWithTheWantedValueSetsNothing)
 {
     WatchedWindow withBoth({}, 6);
     setQby_windowClosable(withBoth, true);

@@ -9,7 +9,7 @@ constexpr QRectF area(100, 50, 1000, 700); // 100 to 1100, 50 to 750
 
 } // namespace
 
-TEST(WindowPlacement, IsBelowThePointerAndInItsMiddle)
+TEST(WindowPlacement, IsCentredBelowThePointer)
 {
     EXPECT_EQ(originBesidePointer({200, 100}, {600, 400}, area), QPointF(500, 400 - 16 - 100));
 }

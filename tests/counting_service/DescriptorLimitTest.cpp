@@ -58,7 +58,7 @@ TEST_P(DescriptorLimitTest, AThousandRequestsThatStartTheServiceAreAllCountedAnd
     EXPECT_EQ(countedOf(calls), 1000U);
     const pid_t process = serviceOn(m_clients.front());
     ASSERT_NE(process, 0);
-    m_privateBus->end();
+    m_privateBus->stop();
     EXPECT_TRUE(waitUntil([process] { return !isRunning(process); }));
 }
 

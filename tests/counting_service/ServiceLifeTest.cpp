@@ -128,7 +128,7 @@ TEST_F(ServiceLifeTest, GoesWithTheBus)
     const pid_t process = serviceOn(client);
     const std::vector<pid_t> workers = workersOf(process);
     EXPECT_FALSE(workers.empty());
-    bus.end();
+    bus.stop();
     QDBusConnection::disconnectFromBus(client.name());
     EXPECT_TRUE(waitUntil([process] { return !isRunning(process); }));
     for (const pid_t worker : workers)

@@ -68,7 +68,7 @@ TEST_F(AppDelegate, ReportsAPasteboardWithoutText)
     EXPECT_EQ(desktop.numberOnScreen, 0);
 }
 
-TEST_F(AppDelegate, DropsTheReportWhereNobodyTakesIt)
+TEST_F(AppDelegate, DropsTheErrorMessageIfNobodyTakesIt)
 {
     delegate.wordCountSelectedTextService(Pasteboard(), QString(), nullptr);
     EXPECT_FALSE(delegate.isInUse());
@@ -95,7 +95,7 @@ TEST_F(AppDelegate, KeepsTheWindowsInTheOrderOfTheRequestsUntilEachIsClosed)
     EXPECT_FALSE(delegate.isInUse());
 }
 
-TEST_F(AppDelegate, LetsAWindowGoWhenItIsClosed)
+TEST_F(AppDelegate, DropsAWindowWhenItIsClosed)
 {
     count("text");
     const std::weak_ptr<QBYServiceProviderShowStatsWindowController> life =
@@ -104,7 +104,7 @@ TEST_F(AppDelegate, LetsAWindowGoWhenItIsClosed)
     EXPECT_TRUE(life.expired());
 }
 
-TEST_F(AppDelegate, TakesOtherRegistriesAndLetsGoWhatTheOldOnesHeld)
+TEST_F(AppDelegate, ReplacesRegistriesAndDropsTheirOldContents)
 {
     count("one");
     count("two");
@@ -125,7 +125,7 @@ TEST_F(AppDelegate, TakesOtherRegistriesAndLetsGoWhatTheOldOnesHeld)
     EXPECT_FALSE(delegate.isInUse());
 }
 
-TEST_F(AppDelegate, EndsTheApplicationWithItsLastWindow)
+TEST_F(AppDelegate, TerminatesTheApplicationWithItsLastWindow)
 {
     EXPECT_TRUE(QBYServiceProviderAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
 }

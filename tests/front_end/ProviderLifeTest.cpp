@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long the service provider stays.
+// The lifetime of the service provider.
 #include "platform/services/ServiceInterface.h"
 #include "tests/front_end/ProviderTest.h"
 #include "tests/harness/PrivateBus.h"
@@ -14,7 +14,7 @@ class ProviderLife : public ProviderTest {
 protected:
     ProviderLife() { preferOnly(everyStatistic); }
 
-    /// The provider has handled all that has happened so far.
+    /// Waits until the provider has processed all events so far.
     void settle() const
     {
         const QDBusMessage ping =
@@ -36,7 +36,7 @@ protected:
 
 } // namespace
 
-TEST_F(ProviderLife, LastsUntilTheFirstRequest)
+TEST_F(ProviderLife, WaitsForTheFirstRequest)
 {
     startProvider();
     const pid_t process = provider();
@@ -46,7 +46,7 @@ TEST_F(ProviderLife, LastsUntilTheFirstRequest)
     EXPECT_EQ(provider(), process);
 }
 
-TEST_F(ProviderLife, EndsWithARequestThatLeavesNothingBehind)
+TEST_F(ProviderLife, ExitsAfterARequestThatOpensNothing)
 {
     startProvider();
     const pid_t process = provider();
@@ -55,7 +55,7 @@ TEST_F(ProviderLife, EndsWithARequestThatLeavesNothingBehind)
     waitForEnd(process);
 }
 
-TEST_F(ProviderLife, GoesOnWithAWindowWhenALaterRequestIsRefused)
+TEST_F(ProviderLife, KeepsItsWindowWhenALaterRequestIsRefused)
 {
     EXPECT_EQ(count(QStringLiteral("A text.")), QString());
     const pid_t process = provider();
@@ -65,9 +65,9 @@ TEST_F(ProviderLife, GoesOnWithAWindowWhenALaterRequestIsRefused)
     waitForWindows(1);
 }
 
-TEST_F(ProviderLife, NoRequestIsLostWhileItLeaves)
+TEST_F(ProviderLife, NoRequestIsLostWhileItExits)
 {
-    // Each finds a provider that has just been left without anything to do.
+    // Each reaches a provider that has just become idle.
     for (int i = 0; i < 30; ++i) {
         EXPECT_EQ(ask(QStringLiteral("wordCountSelectedTextService"), Pasteboard()),
             QStringLiteral("Quillbay failed to read retrieve text."));
@@ -77,7 +77,7 @@ TEST_F(ProviderLife, NoRequestIsLostWhileItLeaves)
     closeAll();
 }
 
-/// A provider on a bus and a display of its own, with two windows open.
+/// A provider on its own bus and display, with two open windows.
 class ProviderOfItsOwn {
 public:
     explicit ProviderOfItsOwn(const QByteArray &display)
@@ -103,16 +103,16 @@ public:
     ChildProcess program{productProgram(QStringLiteral("quillbay-service-provider"))};
 };
 
-TEST_F(ProviderLife, EndsWithTheSessionBusWhateverWindowsAreOpen)
+TEST_F(ProviderLife, ExitsWithTheSessionBusDespiteOpenWindows)
 {
-    // A window that is asked to close may say no, and two of them do not close at once.
+    // A window may refuse to close, and two windows do not close at once.
     ProviderOfItsOwn provider(TestDisplay::start().toLatin1());
     waitForWindows(2);
-    provider.bus.end();
+    provider.bus.stop();
     EXPECT_EQ(provider.program.finish().exitStatus, 0);
 }
 
-TEST_F(ProviderLife, ExitsWithAStatusOfItsOwnWhenTheXServerDies)
+TEST_F(ProviderLife, HasItsOwnExitStatusWhenTheXServerDies)
 {
     ChildProcess server(QStringLiteral("Xvfb"));
     server.start({"-displayfd", "1", "-nolisten", "tcp", "-noreset"});
@@ -131,7 +131,7 @@ TEST(ProviderUsage, TakesNoArguments)
     EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("takes no arguments"));
 }
 
-TEST(ProviderUsage, SaysThatThereIsNoDisplay)
+TEST(ProviderUsage, ReportsAMissingDisplay)
 {
     const auto outcome = ChildProcess(productProgram(QStringLiteral("quillbay-service-provider")))
                              .withoutVariable("DISPLAY")

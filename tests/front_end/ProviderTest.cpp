@@ -32,7 +32,7 @@ ProviderTest::ProviderTest()
     installService();
     TestDisplay::start();
     EXPECT_TRUE(exportSessionEnvironment());
-    // Nothing lies under the pointer of the last test.
+    // Moves the pointer of the last test away from the windows.
     TestDisplay::xdotool({QStringLiteral("mousemove"), QStringLiteral("640"), QStringLiteral("300")});
 }
 
@@ -83,7 +83,7 @@ QStringList ProviderTest::windows(const QString &title)
         const QString window = identifier.trimmed();
         if (!window.startsWith(u"0x"))
             continue;
-        // It may go away meanwhile, which is no failure.
+        // It may exit meanwhile, which is no failure.
         QProcess process;
         process.start(QStringLiteral("xprop"),
             {QStringLiteral("-id"), window, QStringLiteral("-notype"), QStringLiteral("_NET_WM_NAME")});
@@ -148,7 +148,7 @@ void ProviderTest::drag(const QString &window, const QPoint &place)
 
 void ProviderTest::waitForNumbers(const QString &window)
 {
-    // Below the title row there is nothing but the ground until then.
+    // Until then there is only background below the title row.
     const QRect panel = rectOf(window).adjusted(2, 31, -2, -2);
     EXPECT_TRUE(waitUntil([&] {
         const QImage image = takeScreenshot().copy(panel);

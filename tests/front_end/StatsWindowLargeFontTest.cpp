@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window of statistics on the private display in the user's large font.
+// The statistics window on the private display in a large font.
 #include "front_end/QBYServiceProviderShowStatsWindowController.h"
 #include "platform/views/widgets/WidgetDesktop.h"
 #include "tests/harness/QuillbayTest.h"
@@ -10,7 +10,7 @@
 #include <QApplication>
 #include <QScopeGuard>
 
-TEST(StatsWindowInALargeFont, HasItsTitleRowAndItsLineAsWideAsTheWindow)
+TEST(StatsWindowInALargeFont, HasATitleRowAndALineAsWideAsTheWindow)
 {
     const QFont before = QApplication::font();
     const auto restore = qScopeGuard([&] { QApplication::setFont(before); });
@@ -27,7 +27,7 @@ TEST(StatsWindowInALargeFont, HasItsTitleRowAndItsLineAsWideAsTheWindow)
     EXPECT_TRUE(waitUntil([&] { return !controller->activityIndicator()->isAnimating(); }));
 
     const QSizeF size = controller->window()->frame().size();
-    EXPECT_GT(size.width(), 240) << "the labels do not fit the window's first width";
+    EXPECT_GT(size.width(), 240) << "the labels need more than the window's initial width";
     EXPECT_EQ(controller->wordCounterViewController()->view()->frame().width(), size.width());
     EXPECT_EQ(controller->lineSeparator()->frame().width(), size.width());
     const QRectF close = controller->closeButton()->frame();
@@ -35,7 +35,7 @@ TEST(StatsWindowInALargeFont, HasItsTitleRowAndItsLineAsWideAsTheWindow)
     const QRectF title = controller->titleLabel()->frame();
     EXPECT_EQ(title.x() + title.width(), close.x());
     EXPECT_EQ(title.y() + title.height() + 3, size.height());
-    // Until the statistics have faded in: black on the window's ground.
+    // Waits until the statistics have faded in: black on the window's background.
     EXPECT_TRUE(waitUntil([&] {
         const QRectF frame = controller->window()->frame();
         const QImage image = saveScreenshot(QStringLiteral("stats-window-large-font"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window of statistics as the user has it: real windows, clicks and keys.
+// The statistics window on the screen: real windows, clicks and keys.
 #include "tests/front_end/ProviderTest.h"
 #include "tests/harness/FakePortal.h"
 #include "tests/presentation/StatsPanel.h"
@@ -13,7 +13,7 @@ namespace {
 
 const QString text = QStringLiteral("A first sentence.\n\tA second one.\n");
 
-/// The user's own document, maximised, with the keyboard.
+/// The user's document in a maximised window with the focus.
 class OtherApplication {
 public:
     OtherApplication()
@@ -34,7 +34,7 @@ class StatsWindowOnScreen : public ProviderTest {
 protected:
     StatsWindowOnScreen() { preferOnly(everyStatistic); }
 
-    /// Waits until the numbers are there.
+    /// Waits until the numbers are visible.
     static QString open(const QString &shownText = text)
     {
         EXPECT_EQ(count(shownText), QString());
@@ -57,13 +57,13 @@ TEST_F(StatsWindowOnScreen, ShowsTheCountsOfTheText)
     EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasHtml());
 }
 
-TEST_F(StatsWindowOnScreen, IsAboveAMaximisedWindowAndTakesTheKeyboard)
+TEST_F(StatsWindowOnScreen, IsAboveAMaximisedWindowAndTakesTheFocus)
 {
     const OtherApplication document;
     EXPECT_EQ(count(text), QString());
     const QString window = waitForWindows(1).value(0);
     EXPECT_TRUE(waitUntil([&] { return activeWindow() == window; }));
-    // The user goes on writing; the window stays above.
+    // The user continues to write; the window stays above.
     TestDisplay::xdotool({QStringLiteral("mousemove"), QStringLiteral("100"), QStringLiteral("700"),
         QStringLiteral("click"), QStringLiteral("1")});
     EXPECT_TRUE(waitUntil([&] { return activeWindow() != window; }));
@@ -73,7 +73,7 @@ TEST_F(StatsWindowOnScreen, IsAboveAMaximisedWindowAndTakesTheKeyboard)
     EXPECT_EQ(image.pixelColor(rect.topLeft() - QPoint(10, 10)), QColor(0x30, 0x60, 0xa0));
 }
 
-TEST_F(StatsWindowOnScreen, TakesTheKeyboardAlsoFromAWindowThatHasBeenUsedSince)
+TEST_F(StatsWindowOnScreen, TakesTheFocusFromAWindowThatHasBeenUsedSince)
 {
     open();
     const OtherApplication document;
@@ -111,7 +111,7 @@ TEST_F(StatsWindowOnScreen, KeepsItsBottomLeftCornerWhenAStatisticIsHidden)
     saveScreenshot(QStringLiteral("stats-window-without-lines"));
 }
 
-TEST_F(StatsWindowOnScreen, ClosesByAClickAndTheProgramEndsWithTheLast)
+TEST_F(StatsWindowOnScreen, ClosesByAClickAndTheProgramExitsWithTheLast)
 {
     EXPECT_EQ(count(text), QString());
     const QString first = waitForWindows(1).value(0);
@@ -129,7 +129,7 @@ TEST_F(StatsWindowOnScreen, ClosesByAClickAndTheProgramEndsWithTheLast)
     EXPECT_THAT(windows(), testing::IsEmpty());
 }
 
-TEST_F(StatsWindowOnScreen, ClosesByTheKeysForIt)
+TEST_F(StatsWindowOnScreen, ClosesByItsKeys)
 {
     for (const char *const key : {"Escape", "ctrl+w", "alt+F4"}) {
         const QString window = open();

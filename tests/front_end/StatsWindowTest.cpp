@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The window of statistics on no screen: its set-up, its arithmetic, its end. The counting service does as
-// each test has planned.
+// The statistics window without a screen: set-up, layout, closing. The counting service gives the answers
+// that each test has planned.
 #include "front_end/QBYServiceProviderShowStatsWindowController.h"
 
 #include "tests/harness/QuillbayTest.h"
@@ -79,7 +79,7 @@ TEST_F(StatsWindow, KeepsItsTextAndCountsItOnce)
     EXPECT_EQ(panel().wordCountTextField()->stringValue(), QStringLiteral("•Words: 1"));
 }
 
-TEST_F(StatsWindow, IsAFloatingWindowThatIsMovedByItsBackgroundAndTakesTheKeyboard)
+TEST_F(StatsWindow, IsAFloatingWindowThatIsMovedByItsBackgroundAndTakesTheFocus)
 {
     load();
     const Window &window = *controller->window();
@@ -108,7 +108,7 @@ TEST_F(StatsWindow, ShowsNoNumbersWhileItCounts)
     EXPECT_EQ(fade, 250);
 }
 
-TEST_F(StatsWindow, KeepsTurningWhereNoAnswerComes)
+TEST_F(StatsWindow, KeepsTurningWithoutAnAnswer)
 {
     load();
     service.waitForRequests(1);
@@ -150,7 +150,7 @@ TEST_F(StatsWindow, GrowsByTenBeyondALabelThatFillsIt)
     EXPECT_EQ(size().width(), before + 10);
 }
 
-TEST_F(StatsWindow, TakesItsWidthFromTheLastLabelThatFillsItNotFromTheWidest)
+TEST_F(StatsWindow, TakesItsWidthFromTheLastLabelThatFillsItNotTheWidest)
 {
     load();
     panel().repositionLabels();
@@ -161,7 +161,7 @@ TEST_F(StatsWindow, TakesItsWidthFromTheLastLabelThatFillsItNotFromTheWidest)
     EXPECT_EQ(size().width(), 270);
     EXPECT_EQ(panel().view()->frame().width(), 270) << "as wide as the window";
     EXPECT_EQ(controller->lineSeparator()->frame().width(), 270);
-    EXPECT_EQ(label(5)->frame().x(), 5) << "in the middle of it";
+    EXPECT_EQ(label(5)->frame().x(), 5) << "centred in it";
 }
 
 TEST_F(StatsWindow, IgnoresTheWidthOfHiddenLabels)
@@ -204,11 +204,11 @@ TEST_F(StatsWindow, PlacesItsTitleRowToThePoint)
     EXPECT_EQ(controller->lineSeparator()->frame(), QRectF(0, 170.5 + 1, 301, 2));
 }
 
-TEST_F(StatsWindow, EachStepOfTheLayoutReadsTheFramesAsTheStepsBeforeHaveLeftThem)
+TEST_F(StatsWindow, EachStepOfTheLayoutReadsThePresentFrames)
 {
     load();
     panel().repositionLabels();
-    // Whoever follows the panel's place makes the window larger in the middle of the layout.
+    // A listener of the panel's frame enlarges the window during the layout.
     QObject::connect(panel().view().get(), &View::frameDidChange, controller.get(), [this] {
         if (panel().view()->frame().topLeft() == QPointF(0, 0) && size().width() < 500)
             controller->window()->setFrame({0, 0, 500, 400}, true, false);
@@ -240,7 +240,7 @@ TEST_F(StatsWindow, CountsMissingControlsAsZero)
     EXPECT_EQ(title.y(), 200 - title.height() - 3);
 }
 
-TEST_F(StatsWindow, LaysItsContentOutWheneverItsSizeChanges)
+TEST_F(StatsWindow, LaysOutItsContentWheneverItsSizeChanges)
 {
     load();
     panel().setLayoutDelegate(nullptr);
@@ -267,7 +267,7 @@ TEST_F(StatsWindow, OpensBesideThePointerInTheWorkArea)
     EXPECT_EQ(desktop.numberOnScreen, 1);
 }
 
-TEST_F(StatsWindow, ClosesBeforeItTellsTheDelegate)
+TEST_F(StatsWindow, ClosesBeforeItNotifiesTheDelegate)
 {
     for (const auto &close :
         std::vector<std::function<void()>>{[&] { controller->closeButton()->performClick(); },
@@ -287,7 +287,7 @@ TEST_F(StatsWindow, ClosesWithoutADelegate)
     EXPECT_FALSE(controller->window()->isVisible());
 }
 
-TEST_F(StatsWindow, MayEndItsLifeInItsOwnClick)
+TEST_F(StatsWindow, MayBeDestroyedInItsOwnClick)
 {
     controller->showWindow(nullptr);
     const std::weak_ptr<Controller> life = controller;
@@ -304,7 +304,7 @@ TEST_F(StatsWindow, MayEndItsLifeInItsOwnClick)
 TEST_F(StatsWindow, CopiesTheStatisticsAsTextAndAsAPage)
 {
     load();
-    EXPECT_TRUE(controller->window()->contentToCopy().empty()) << "there are no numbers yet";
+    EXPECT_TRUE(controller->window()->contentToCopy().empty()) << "not counted yet";
     answer();
     const MimeContent content = controller->window()->contentToCopy();
     EXPECT_EQ(QString::fromUtf8(content.at(QStringLiteral("text/html"))),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The service that watches files, as the delegate offers it.
+// The delegate's service that watches files.
 #include "front_end/QBYServiceProviderAppDelegate.h"
 
 #include "platform/system/FileURL.h"
@@ -91,7 +91,7 @@ TEST_F(WatchFileService, AcceptsTheFourKinds)
     EXPECT_THAT(watchedFiles(), ElementsAre(letter, package, novel, page, word));
 }
 
-TEST_F(WatchFileService, WithoutAFileNothingIsRetrieved)
+TEST_F(WatchFileService, ReportsARequestWithoutFiles)
 {
     for (const QByteArray list : {"", "# only a comment\r\n", "https://example.com/novel.txt\r\n",
              "sftp://server/novel.txt\r\nhttp://example.com/", "novel.txt\r\n",
@@ -103,14 +103,14 @@ TEST_F(WatchFileService, WithoutAFileNothingIsRetrieved)
     EXPECT_EQ(desktop.numberOnScreen, 0);
 }
 
-TEST_F(WatchFileService, WithoutAnAcceptedFileNothingIsValidated)
+TEST_F(WatchFileService, ReportsARequestWithoutAcceptedFiles)
 {
     EXPECT_EQ(watch({image}), noneAccepted);
     EXPECT_EQ(watch({image, world().root(), novel + QStringLiteral(".missing.txt")}), noneAccepted);
     EXPECT_FALSE(delegate.isInUse());
 }
 
-TEST_F(WatchFileService, WhatIsNotAcceptedIsPassedOverInSilence)
+TEST_F(WatchFileService, IgnoresFilesThatAreNotAccepted)
 {
     EXPECT_EQ(watch({image, novel, world().root()}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(novel));
@@ -119,7 +119,7 @@ TEST_F(WatchFileService, WhatIsNotAcceptedIsPassedOverInSilence)
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
 }
 
-TEST_F(WatchFileService, NobodyNeedsToTakeTheError)
+TEST_F(WatchFileService, TheErrorMayBeIgnored)
 {
     delegate.watchTheTextFileService(Pasteboard(), QString(), nullptr);
     delegate.watchTheTextFileService(
@@ -128,7 +128,7 @@ TEST_F(WatchFileService, NobodyNeedsToTakeTheError)
     EXPECT_FALSE(delegate.isInUse());
 }
 
-TEST_F(WatchFileService, AFileThatIsWatchedHasItsWindowBroughtForward)
+TEST_F(WatchFileService, BringsTheWindowOfAWatchedFileToTheFront)
 {
     watch({novel, letter});
     const auto watcher = delegate.watchTextFileControllers().front();
@@ -148,14 +148,14 @@ TEST_F(WatchFileService, AFileNamedTwiceInOneRequestHasOneWatcher)
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
 }
 
-TEST_F(WatchFileService, AFolderIsTheSameWithASlashAtItsEnd)
+TEST_F(WatchFileService, AFolderIsTheSameWithATrailingSlash)
 {
     const QString folder = writeFile(QStringLiteral("novel.rtfd/TXT.rtf"), "{\\rtf1 one}").chopped(8);
     EXPECT_EQ(watch({folder + u'/', folder, folder + u'/'}), noWatchError);
     EXPECT_THAT(watchedFiles(), ElementsAre(folder));
 }
 
-TEST_F(WatchFileService, AFileIsTheSameWhateverTheSpellingOfItsURL)
+TEST_F(WatchFileService, AFileIsTheSameInEverySpellingOfItsURL)
 {
     const QString path = writeFile(QStringLiteral("one & two ü.txt"), "One");
     watch({path});
@@ -186,7 +186,7 @@ TEST_F(WatchFileService, ReadsTheListsOfFileManagers)
     EXPECT_THAT(watchedFiles(), ElementsAre(novel, letter));
 }
 
-TEST_F(WatchFileService, AFinishedWatcherLeavesAndItsFileGetsAFreshOne)
+TEST_F(WatchFileService, AFinishedWatcherIsDroppedAndItsFileGetsANewOne)
 {
     watch({novel, letter});
     int endings = 0;

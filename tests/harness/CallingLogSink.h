@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// CallingLogSink calls a function at each log record of the process while it lives.
+// CallingLogSink calls a function for each log record of the process while it lives.
 // Thread: that of the record.  Owner: the test.
 #pragma once
 

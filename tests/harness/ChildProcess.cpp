@@ -17,10 +17,10 @@
 namespace {
 
 constexpr uid_t nobody = 65534;
-constexpr int runLimit = 60'000; // milliseconds
-constexpr int lineLimit = 20'000;
+constexpr int exitTimeout = 60'000; // milliseconds
+constexpr int lineTimeout = 20'000;
 
-/// QProcess takes arguments as text, which they need not be.
+/// QProcess accepts arguments only as text.
 bool isText(const QByteArray &argument)
 {
     return QFile::encodeName(QFile::decodeName(argument)) == argument;
@@ -92,14 +92,14 @@ ChildProcess &ChildProcess::afterFork(const std::function<void()> &call)
     return *this;
 }
 
-/// Replaces the child by the program before QProcess does.
+/// Executes the program in the child, before QProcess would.
 void ChildProcess::execWithBytes(const QByteArrayList &arguments)
 {
     QByteArrayList words = QByteArrayList{QFile::encodeName(m_program)} + arguments;
     QByteArrayList variables;
     for (const QString &variable : m_environment.toStringList())
         variables.append(QFile::encodeName(variable));
-    // Before the call shares the bytes: a pointer into shared ones would be one into a copy.
+    // Taken before the capture shares the bytes: a later data() would detach them.
     const std::vector<char *> argv = pointersTo(words);
     const std::vector<char *> environment = pointersTo(variables);
     afterFork([words, variables, argv, environment] { ::execve(argv[0], argv.data(), environment.data()); });
@@ -132,14 +132,14 @@ ChildProcess::Outcome ChildProcess::run(const QByteArrayList &arguments, const Q
 void ChildProcess::writeLine(const QByteArray &line)
 {
     m_process.write(line + '\n');
-    while (m_process.bytesToWrite() > 0 && m_process.waitForBytesWritten(lineLimit)) { }
+    while (m_process.bytesToWrite() > 0 && m_process.waitForBytesWritten(lineTimeout)) { }
 }
 
 QByteArray ChildProcess::readLine()
 {
     while (!m_process.canReadLine()) {
-        if (!m_process.waitForReadyRead(lineLimit)) {
-            ADD_FAILURE() << m_program.toStdString() << " printed no further line; it said: "
+        if (!m_process.waitForReadyRead(lineTimeout)) {
+            ADD_FAILURE() << m_program.toStdString() << " printed no further line; its errors: "
                           << m_process.readAllStandardError().toStdString();
             return {};
         }
@@ -160,8 +160,8 @@ void ChildProcess::kill()
 ChildProcess::Outcome ChildProcess::finish()
 {
     m_process.closeWriteChannel();
-    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(runLimit)) {
-        ADD_FAILURE() << m_program.toStdString() << " did not end";
+    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(exitTimeout)) {
+        ADD_FAILURE() << m_program.toStdString() << " did not exit";
         kill();
     }
     Outcome outcome;

@@ -20,7 +20,7 @@ QString productProgram(const QString &name);
 class ChildProcess {
 public:
     struct Outcome {
-        int exitStatus = -1; ///< -1 where the program was killed by a signal or did not start
+        int exitStatus = -1; ///< -1 if the program was killed by a signal or did not start
         QByteArray output;
         QByteArray errors;
     };
@@ -31,23 +31,23 @@ public:
     }
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
-    /// Kills a program that still runs.
+    /// Kills the program if it is still running.
     ~ChildProcess();
 
     // To be called before the program starts.
     ChildProcess &withVariable(const char *name, const QByteArray &value);
     ChildProcess &withoutVariable(const char *name);
     ChildProcess &inFolder(const QString &folder);
-    /// As a user who owns nothing and is in no group of root's. Has no effect where the test itself does not
-    /// run as root: there permissions bind it anyway. The program is copied to where that user can read it.
+    /// Runs the program as a user without files and without root's groups, from a copy that this user can
+    /// read. Has no effect if the test does not run as root: then permissions apply to it anyway.
     ChildProcess &asOtherUser();
     /// Called in the child between fork and exec: only async-signal-safe calls.
     ChildProcess &afterFork(const std::function<void()> &call);
 
-    /// Runs to the end, with the given standard input; fails the test if that takes a minute.
+    /// Runs the program until it exits, with the given standard input; fails the test after a minute.
     Outcome run(const QByteArrayList &arguments, const QByteArray &input = {});
 
-    // For a talk over several lines.
+    // For exchanging several lines with the program.
     void start(const QByteArrayList &arguments);
     void writeLine(const QByteArray &line);
     /// The next line of its standard output, without line end; fails the test after 20 seconds.

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int startLimit = 20'000; // milliseconds
+constexpr int startTimeout = 20'000; // milliseconds
 
 struct RunningDisplay {
     std::unique_ptr<QProcess> server;
@@ -36,28 +36,28 @@ QProcessEnvironment environmentOf(const QString &displayName)
 std::unique_ptr<QProcess> newProcess()
 {
     auto process = std::make_unique<QProcess>();
-    // A test that crashes takes its display with it.
+    // The display ends with a test that crashes.
     process->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     process->setStandardErrorFile(QProcess::nullDevice());
     return process;
 }
 
-/// The next line that the process prints; empty where none comes.
+/// The next line that the process prints; empty after a timeout.
 QString nextLine(QProcess &process)
 {
     while (!process.canReadLine()) {
-        if (!process.waitForReadyRead(startLimit))
+        if (!process.waitForReadyRead(startTimeout))
             return {};
     }
     return QString::fromLatin1(process.readLine()).trimmed();
 }
 
-void end(std::unique_ptr<QProcess> &process)
+void endProcess(std::unique_ptr<QProcess> &process)
 {
     if (!process)
         return;
     process->terminate();
-    if (!process->waitForFinished(startLimit))
+    if (!process->waitForFinished(startTimeout))
         process->kill();
     process.reset();
 }
@@ -82,7 +82,7 @@ bool startWindowManager(RunningDisplay &display)
         {QStringLiteral("--sm-disable"), QStringLiteral("--config-file"),
             QStringLiteral("/etc/xdg/openbox/rc.xml"), QStringLiteral("--startup"),
             QStringLiteral("echo managing")});
-    QString line; // openbox has a word to say about menus first
+    QString line; // openbox prints a warning about menus first
     do
         line = nextLine(*display.windowManager);
     while (!line.isEmpty() && line != QStringLiteral("managing"));
@@ -105,8 +105,8 @@ QString TestDisplay::start()
 
 void TestDisplay::stop()
 {
-    end(runningDisplay().windowManager);
-    end(runningDisplay().server);
+    endProcess(runningDisplay().windowManager);
+    endProcess(runningDisplay().server);
 }
 
 void TestDisplay::xdotool(const QStringList &commands)
@@ -119,7 +119,7 @@ QByteArray TestDisplay::outputOf(const QString &program, const QStringList &argu
     QProcess process;
     process.setProcessEnvironment(environmentOf(start()));
     process.start(program, arguments);
-    if (!process.waitForFinished(startLimit) || process.exitStatus() != QProcess::NormalExit
+    if (!process.waitForFinished(startTimeout) || process.exitStatus() != QProcess::NormalExit
         || process.exitCode() != 0)
         ADD_FAILURE() << program.toStdString() << ": " << process.readAllStandardError().toStdString();
     return process.readAllStandardOutput();

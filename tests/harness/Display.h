@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // TestDisplay is a private X display for the tests of one process: a real Xvfb of 1280 by 800 pixels that
-// nobody else uses, with the window manager openbox as it comes from its package, and a pointer and keys to
-// use it. Thread: main.  Owner: itself; started by the first use, stopped at the end of the test program.
+// nobody else uses, with the window manager openbox in its default configuration, a pointer and a keyboard.
+// Thread: main.  Owner: itself; started by the first use, stopped at the end of the test program.
 #pragma once
 
 #include <QByteArray>
@@ -16,10 +16,10 @@ public:
     /// To be called when no program uses the display any more.
     static void stop();
 
-    /// Moves the pointer and presses buttons and keys as a user does, with the commands of xdotool(1). The
-    /// events are on their way when it returns.
+    /// Moves the pointer and presses buttons and keys like a user, with the commands of xdotool(1). Returns
+    /// before the events have arrived.
     static void xdotool(const QStringList &commands);
 
-    /// What the program prints about the display, as xprop(1) or xwininfo(1).
+    /// What a program such as xprop(1) or xwininfo(1) prints about the display.
     static QByteArray outputOf(const QString &program, const QStringList &arguments);
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// FakePortal is a desktop portal on the private session bus that knows one setting.
+// FakePortal is a desktop portal on the private session bus, with one setting.
 // Thread: main.  Owner: the test.
 #pragma once
 

@@ -22,10 +22,10 @@ PrivateBus::PrivateBus()
 
 PrivateBus::~PrivateBus()
 {
-    end();
+    stop();
 }
 
-void PrivateBus::end()
+void PrivateBus::stop()
 {
     if (m_daemon.state() == QProcess::NotRunning)
         return;
@@ -33,12 +33,12 @@ void PrivateBus::end()
     m_daemon.waitForFinished();
 }
 
-void PrivateBus::halt() const
+void PrivateBus::suspend() const
 {
     ::kill(static_cast<pid_t>(m_daemon.processId()), SIGSTOP);
 }
 
-void PrivateBus::goOn() const
+void PrivateBus::resume() const
 {
     ::kill(static_cast<pid_t>(m_daemon.processId()), SIGCONT);
 }

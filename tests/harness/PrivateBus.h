@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// PrivateBus is a session bus of one test, which the test may end or halt.
+// PrivateBus is a session bus for one test, which the test can stop or suspend.
 // Thread: main.  Owner: the test.
 #pragma once
 
@@ -8,19 +8,19 @@
 
 class PrivateBus {
 public:
-    /// Starts the bus; fails the test if that cannot be done. The environment stays as it is.
+    /// Starts the bus, or fails the test. Does not change the environment.
     PrivateBus();
     PrivateBus(const PrivateBus &) = delete;
     PrivateBus &operator=(const PrivateBus &) = delete;
     ~PrivateBus();
 
-    /// Every bus of a test has the same one: the next may stand in for the last.
+    /// All buses of a test have the same address, so that one can replace another.
     [[nodiscard]] const QByteArray &address() const { return m_address; }
 
-    void end();
-    /// It keeps its connections and answers nobody.
-    void halt() const;
-    void goOn() const;
+    void stop();
+    /// A suspended bus keeps its connections and does not answer.
+    void suspend() const;
+    void resume() const;
 
 private:
     QProcess m_daemon;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// QuillbayTest is the fixture of tests that touch the user's world: home folder, locale, bus, files.
-// Every test of a test program starts in a fresh TestHome, with or without this fixture; it adds the words.
+// QuillbayTest is the fixture of tests that use the user's environment: home folder, locale, bus, files.
+// Every test starts in a fresh TestHome, with or without this fixture; the fixture adds short names for it.
+// Thread: main.
 #pragma once
 
 #include "tests/harness/ChildProcess.h"
@@ -16,21 +17,21 @@ class QuillbayTest : public ::testing::Test {
 protected:
     [[nodiscard]] static TestHome &world() { return TestHome::instance(); }
 
-    /// As if the user had logged in with LANG=name: LC_ALL and every category follow it.
+    /// Like a login with LANG=name: it determines LC_ALL and every category.
     static void setLocale(const char *name);
-    /// As a program does when it starts. A locale that is not installed leaves "C" in force, as it does
-    /// there.
+    /// What a program does when it starts. If the locale is not installed, "C" stays in effect, like in a
+    /// program.
     static void takeLocaleFromEnvironment();
 
     /// Writes a file below the test's root folder and returns its path.
     static QString writeFile(const QString &name, const QByteArray &contents);
-    /// The same for a name that need not be text in any encoding.
+    /// The same for a name that may be invalid in every encoding.
     static QByteArray writeFileOfBytes(const QByteArray &name, const QByteArray &contents);
     static QByteArray readFile(const QString &path);
 };
 
-/// The folder of documents of others that some tests walk through; empty where the caller named none.
+/// The folder of foreign documents that some tests read; empty if the environment names none.
 QString corporaFolder();
 
-// For readable failures.
+// For readable failure messages.
 void PrintTo(const QString &text, std::ostream *stream);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// RecordingLogSink keeps every log record of the process while it lives, for a test to look at.
+// RecordingLogSink records every log record of the process while it lives.
 // Thread: any.  Owner: the test.
 #pragma once
 
@@ -20,7 +20,7 @@ public:
     void write(const LogRecord &record) override;
 
     [[nodiscard]] std::vector<LogRecord> records() const;
-    /// Of all records, or of those of one level only.
+    /// Of all records, or of one level.
     [[nodiscard]] QStringList messages() const;
     [[nodiscard]] QStringList messages(LogLevel level) const;
 

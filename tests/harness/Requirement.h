@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-// What a test needs of packages that a machine may lack. Thread: main.
+// How tests handle packages that are not installed.
+// Thread: main.
 #pragma once
 
 #include <gtest/gtest.h>
 
-/// Whether QUILLBAY_REQUIRE_PACKAGES is set: a missing package is a failure then.
+/// Whether QUILLBAY_REQUIRE_PACKAGES is set, which makes missing packages failures.
 bool packagesAreRequired();
 
-/// For the start of a test or of SetUp(): goes on where the condition holds. Otherwise it skips the test, or
-/// fails it where packages are required. package: the Debian package that is missing, or several.
+/// For the start of a test or of SetUp(): if the condition is false, skips the test, or fails it if packages
+/// are required. package: the missing Debian package, or several.
 #define SKIP_WITHOUT_PACKAGE(condition, package)    \
     if (condition) {                                \
     } else if (packagesAreRequired())               \

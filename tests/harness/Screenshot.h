@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Screenshots of the private display, for a test to look into and for people to look at.
+// Screenshots of the private display, for tests and for people.
 // Thread: main.
 #pragma once
 
@@ -10,5 +10,5 @@
 QImage takeScreenshot();
 
 /// Takes one and also writes it as NAME.png to the folder that QUILLBAY_SCREENSHOTS names; without that
-/// variable into the folder of the test, which goes away with it.
+/// variable to the test's own folder, which is removed with the test.
 QImage saveScreenshot(const QString &name);

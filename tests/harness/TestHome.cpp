@@ -15,7 +15,7 @@
 
 namespace {
 
-// Only these of the caller's variables reach a test, besides those of tests/README.md.
+// The only variables of the caller that tests see, besides those of tests/README.md.
 const std::vector<QByteArray> keptVariables{"PATH", "TMPDIR", "LD_LIBRARY_PATH", "LOCPATH", "ASAN_OPTIONS",
     "LSAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS", "QUILLBAY_CORPORA", "QUILLBAY_SCREENSHOTS",
     "QUILLBAY_REQUIRE_PACKAGES", "QUILLBAY_SOAK_SAVES", "QUILLBAY_SOAK_SEED", "GTEST_OUTPUT", "GTEST_COLOR",

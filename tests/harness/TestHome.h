@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// TestHome is the world of one test: a fresh HOME with its XDG folders, an environment with nothing of the
-// user's in it, a locale, a font configuration. Made once per process, wiped for every test, removed at exit.
+// TestHome is the environment of one test: a fresh HOME with its XDG folders, none of the caller's variables,
+// a locale, a font configuration. Made once per process, emptied for every test, removed at exit.
 // Thread: main.  Owner: the test program's main(), before any other code of the project runs.
 #pragma once
 
@@ -18,10 +18,10 @@ public:
     TestHome &operator=(const TestHome &) = delete;
     ~TestHome();
 
-    /// Removes every file of the last test and puts the whole environment back to its start.
+    /// Removes all files of the last test and restores the initial environment.
     void reset();
 
-    /// The folder that holds all others; any user may look into it.
+    /// The folder that contains all others; readable for all users.
     [[nodiscard]] QString root() const { return m_root; }
     [[nodiscard]] QString home() const { return m_root + QStringLiteral("/home"); }
     [[nodiscard]] QString configuration() const { return home() + QStringLiteral("/.config"); }

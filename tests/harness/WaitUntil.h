@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Waiting for a fact instead of for a time.
+// Waiting for a condition instead of sleeping.
+// Thread: main.
 #pragma once
 
 #include <chrono>
 #include <functional>
 
-/// Runs the event loop until the condition holds and returns true, or gives up at the limit and returns
-/// false. The limit is for a broken program only; a test that passes never waits for it.
+/// Runs the event loop until the condition is true, or returns false after the timeout. Only failing tests
+/// reach the timeout.
 [[nodiscard]] bool waitUntil(
-    const std::function<bool()> &condition, std::chrono::milliseconds limit = std::chrono::seconds(20));
+    const std::function<bool()> &condition, std::chrono::milliseconds timeout = std::chrono::seconds(20));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program say, with speakers that note down what they are told.
+// The program say, with speech programs that record their arguments.
 #include "tests/harness/QuillbayTest.h"
 
 #include <QDir>
@@ -9,7 +9,7 @@ class SayTest : public QuillbayTest {
 protected:
     SayTest() { QDir().mkpath(m_folder); }
 
-    /// Puts a speaker into the path that notes down its name and arguments, and ends with that status.
+    /// Installs a speech program that records its name and arguments and exits with that status.
     void install(const char *name, int status = 0) const
     {
         QFile file(m_folder + QString::fromLatin1(name));
@@ -35,7 +35,7 @@ protected:
     const QString m_notes = world().root() + QStringLiteral("/notes");
 };
 
-TEST_F(SayTest, TheDispatcherSpeaksWhereItRuns)
+TEST_F(SayTest, UsesTheDispatcherIfItRuns)
 {
     install("spd-say");
     install("espeak-ng");
@@ -43,14 +43,14 @@ TEST_F(SayTest, TheDispatcherSpeaksWhereItRuns)
     EXPECT_EQ(notes(), "spd-say <--> <-5 words>\n");
 }
 
-TEST_F(SayTest, WithoutADispatcherEspeakDoes)
+TEST_F(SayTest, UsesEspeakWithoutADispatcher)
 {
     install("espeak-ng");
     EXPECT_EQ(say({"two words"}).exitStatus, 0);
     EXPECT_EQ(notes(), "espeak-ng <--> <two words>\n");
 }
 
-TEST_F(SayTest, WhereTheDispatcherDoesNotRunEspeakDoes)
+TEST_F(SayTest, UsesEspeakIfTheDispatcherDoesNotRun)
 {
     install("spd-say", 1);
     install("espeak-ng");
@@ -58,7 +58,7 @@ TEST_F(SayTest, WhereTheDispatcherDoesNotRunEspeakDoes)
     EXPECT_EQ(notes(), "spd-say <--> <two words>\nespeak-ng <--> <two words>\n");
 }
 
-TEST_F(SayTest, WithNeitherTheErrorNamesTheRemedy)
+TEST_F(SayTest, TheErrorNamesTheRemedyIfThereIsNeither)
 {
     const ChildProcess::Outcome outcome = say({"two words"});
     EXPECT_EQ(outcome.exitStatus, 1);

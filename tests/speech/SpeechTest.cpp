@@ -31,7 +31,7 @@ protected:
     const QString m_notes = world().root() + QStringLiteral("/notes");
 };
 
-TEST_F(SpeechTest, TheSystemsCommandSpeaks)
+TEST_F(SpeechTest, UsesTheSystemsCommand)
 {
     EXPECT_EQ(QBYExtension::speechLaunchPath(), QStringLiteral("/usr/bin/say"));
 }
@@ -43,41 +43,41 @@ TEST_F(SpeechTest, ACountIsSpelledOutAsOneArgument)
     EXPECT_THAT(m_desktop.notes, IsEmpty());
 }
 
-TEST_F(SpeechTest, OneIsAPluralToo)
+TEST_F(SpeechTest, OneIsPlural)
 {
     EXPECT_TRUE(QBYExtension::sayWordCountOutloud(1, m_desktop, noting()));
     EXPECT_EQ(firstNote(), QStringLiteral("1:one words"));
 }
 
-TEST_F(SpeechTest, ACountThatNobodyHasWordsForIsSpokenInDigits)
+TEST_F(SpeechTest, ACountTooLargeToSpellOutIsSpokenInDigits)
 {
     EXPECT_TRUE(QBYExtension::sayWordCountOutloud(UINT64_MAX, m_desktop, noting()));
     EXPECT_EQ(firstNote(), QStringLiteral("1:18446744073709551615 words"));
 }
 
-TEST_F(SpeechTest, NothingIsSpokenOfNoWords)
+TEST_F(SpeechTest, ACountOfZeroIsNotSpoken)
 {
-    // A command that cannot be started would be complained of.
+    // A command that cannot be started would be reported.
     EXPECT_FALSE(QBYExtension::sayWordCountOutloud(0, m_desktop, QStringLiteral("/nonexistent/say")));
     EXPECT_FALSE(QBYExtension::sayStringOutloud(std::nullopt, m_desktop, QStringLiteral("/nonexistent/say")));
     EXPECT_THAT(m_desktop.notes, IsEmpty());
 }
 
-TEST_F(SpeechTest, APhraseIsNeverTakenForAnythingElse)
+TEST_F(SpeechTest, APhraseIsNeverInterpreted)
 {
     EXPECT_TRUE(
         QBYExtension::sayStringOutloud(QStringLiteral("; touch x $(touch y) -w"), m_desktop, noting()));
     EXPECT_EQ(firstNote(), QStringLiteral("1:; touch x $(touch y) -w"));
 }
 
-TEST_F(SpeechTest, ACommandThatCannotBeStartedIsPresentedToTheUser)
+TEST_F(SpeechTest, ACommandThatCannotBeStartedIsReportedToTheUser)
 {
     EXPECT_FALSE(QBYExtension::sayWordCountOutloud(5, m_desktop, QStringLiteral("/nonexistent/say")));
     EXPECT_THAT(m_desktop.notes,
         ElementsAre(QStringLiteral("error: /nonexistent/say cannot be started: No such file or directory")));
 }
 
-TEST_F(SpeechTest, ACommandThatFailsLaterIsNoFailure)
+TEST_F(SpeechTest, ACommandThatFailsLaterIsIgnored)
 {
     EXPECT_TRUE(QBYExtension::sayWordCountOutloud(5, m_desktop, program("exit 3\n")));
     EXPECT_THAT(m_desktop.notes, IsEmpty());
@@ -89,7 +89,7 @@ TEST_F(SpeechTest, ARealVoiceSpeaksIt)
     const QByteArray speaker =
         program("exec " ESPEAK_NG " -w '" + QFile::encodeName(sound) + "' -- \"$1\"\n").toUtf8();
     EXPECT_TRUE(QBYExtension::sayWordCountOutloud(250, m_desktop, QString::fromUtf8(speaker)));
-    // More than a second of sound: 16 bits, 22050 a second.
+    // More than a second of sound: 16 bits, 22050 per second.
     EXPECT_TRUE(waitUntil([&] { return QFile(sound).size() > 44100; }));
     EXPECT_TRUE(readFile(sound).startsWith("RIFF"));
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Another process saves the watched document in every way that programs have, with the real clock.
+// Another process saves the watched document in all the ways that programs use, with the real clock.
 #include "tests/platform/file_coordination/SaveModes.h"
 #include "tests/watching/WatchedFileTest.h"
 
@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 
 class EverySaveTest : public WatchedFileTest, public ::testing::WithParamInterface<int> {
 protected:
-    /// Until the delegate has the text that was saved last.
+    /// Waits until the delegate has the last saved text.
     void save(const QString &mode, int number, int lines, int pause)
     {
         const QString contents = (QString::number(number) + u'\n').repeated(lines);
@@ -25,7 +25,7 @@ protected:
     ChildProcess m_saver{testProgram(QStringLiteral("file_saver"))};
 };
 
-TEST_P(EverySaveTest, ComesThroughAsTheTextAndAsNothingElse)
+TEST_P(EverySaveTest, IsReportedAsTheTextAndNothingElse)
 {
     const QString mode = SaveModes::names().at(GetParam());
     WatchTextFileModel model(QUrl::fromLocalFile(m_path), &m_delegate, m_activity);
@@ -46,7 +46,7 @@ TEST_P(EverySaveTest, ComesThroughAsTheTextAndAsNothingElse)
 INSTANTIATE_TEST_SUITE_P(
     Modes, EverySaveTest, ::testing::Range(0, static_cast<int>(SaveModes::names().size())));
 
-TEST(SavesAtRandom, AHundredComeThroughWithoutAMistake)
+TEST(SavesAtRandom, AHundredAreReportedWithoutAMistake)
 {
     const ChildProcess::Outcome outcome = ChildProcess(testProgram(QStringLiteral("save_soak"))).run({"100"});
     EXPECT_EQ(outcome.exitStatus, 0) << outcome.output.toStdString();

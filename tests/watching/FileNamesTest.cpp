@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Documents with names of every kind: read, followed, told of.
+// Documents with unusual names are read, followed and reported.
 #include "tests/watching/WatchedFileTest.h"
 
 using ::testing::ElementsAre;
@@ -23,7 +23,7 @@ protected:
 
 } // namespace
 
-TEST_F(FileNamesTest, ADocumentIsFollowedWhateverItsName)
+TEST_F(FileNamesTest, ADocumentWithAnyNameIsFollowed)
 {
     for (const char *const name : {"caf\xE9.txt", "\xFF\xFE.txt", "-a.txt", "a#b.txt", "a?b.txt", "100%.txt",
              "caf%E9.txt", "a\nb.txt"}) {
@@ -52,7 +52,7 @@ TEST_F(FileNamesTest, ANewNameThatIsNotUtf8IsFollowedAndReadable)
         ElementsAre(QStringLiteral("renamed to caf\uFFFD.txt"), QStringLiteral("text after")));
 }
 
-TEST_F(FileNamesTest, AWordDocumentIsFoundWhateverItsName)
+TEST_F(FileNamesTest, AWordDocumentWithAnyNameIsFound)
 {
     const QByteArray path = writeFileOfBytes("caf\xE9.docx", "PK");
     const auto model = watchURL(fileURLOfPath(path));

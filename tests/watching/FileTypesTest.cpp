@@ -50,7 +50,7 @@ TEST_F(FileTypesTest, RichTextIsRichTextAndText)
     EXPECT_THAT(kindsOfFile(QStringLiteral("A.RTF")), ElementsAre(m_rtf, m_text));
 }
 
-TEST_F(FileTypesTest, ANameNeedNotBeUtf8NorPlain)
+TEST_F(FileTypesTest, AcceptsNamesThatAreNotUtf8OrLookLikeUrls)
 {
     for (const char *const name :
         {"caf\xE9", "-a", "a#b", "a?b", "a%b", "a%E9", "a\nb", "a\\b", "a b", "\xFF\xFE"}) {
@@ -61,7 +61,7 @@ TEST_F(FileTypesTest, ANameNeedNotBeUtf8NorPlain)
     }
 }
 
-TEST_F(FileTypesTest, AWordDocumentIsAWordDocumentAlone)
+TEST_F(FileTypesTest, AWordDocumentIsNothingElse)
 {
     EXPECT_THAT(kindsOfFile(QStringLiteral("a.docx")), ElementsAre(m_docx));
 }
@@ -71,7 +71,7 @@ TEST_F(FileTypesTest, AWordDocumentWithMacrosIsAKindOfWordDocument)
     EXPECT_THAT(kindsOfFile(QStringLiteral("a.docm")), ElementsAre(m_docx));
 }
 
-TEST_F(FileTypesTest, WhateverConformsToTextIsText)
+TEST_F(FileTypesTest, EverythingThatConformsToTextIsText)
 {
     for (const char *name : {"a.txt", "a.html", "a.md", "a.c", "a.py", "a.js", "a.json", "a.svg", "a.xml",
              "a.tex", "a.sh", "a.csv", "README", "Makefile"})
@@ -80,16 +80,16 @@ TEST_F(FileTypesTest, WhateverConformsToTextIsText)
 
 TEST_F(FileTypesTest, ANameOfSeveralTypesCountsForEachOfThem)
 {
-    EXPECT_THAT(kindsOfFile(QStringLiteral("subtitles.ts")), ElementsAre(m_text)); // a video too
+    EXPECT_THAT(kindsOfFile(QStringLiteral("subtitles.ts")), ElementsAre(m_text)); // also a video
 }
 
-TEST_F(FileTypesTest, OtherDocumentsAreOfNoKind)
+TEST_F(FileTypesTest, OtherDocumentsHaveNoKind)
 {
     for (const char *name : {"a.doc", "a.odt", "a.pdf", "a.png", "a.dotx", "a.gz"})
         EXPECT_THAT(kindsOfFile(QString::fromLatin1(name)), IsEmpty()) << name;
 }
 
-TEST_F(FileTypesTest, TheNameAloneDecides)
+TEST_F(FileTypesTest, OnlyTheNameDecides)
 {
     EXPECT_THAT(
         kindsOf(QUrl::fromLocalFile(writeFile(QStringLiteral("letter"), "{\\rtf1 Dear}"))), IsEmpty());
@@ -108,7 +108,7 @@ TEST_F(FileTypesTest, OnlyAFolderIsAPackageWithAttachments)
     EXPECT_THAT(kindsOfFile(QStringLiteral("b.rtfd")), IsEmpty());
 }
 
-TEST_F(FileTypesTest, AFolderOrAPipeIsNoTextWhateverItsName)
+TEST_F(FileTypesTest, AFolderOrAPipeIsNeverText)
 {
     EXPECT_THAT(kindsOfFolder(QStringLiteral("folder.txt")), IsEmpty());
     EXPECT_THAT(kindsOfFolder(QStringLiteral("folder.docx")), IsEmpty());
@@ -117,7 +117,7 @@ TEST_F(FileTypesTest, AFolderOrAPipeIsNoTextWhateverItsName)
     EXPECT_THAT(kindsOf(QUrl::fromLocalFile(pipe)), IsEmpty());
 }
 
-TEST_F(FileTypesTest, AMissingFileAndWhatIsNoFileAreOfNoKind)
+TEST_F(FileTypesTest, MissingFilesAndOtherUrlsHaveNoKind)
 {
     EXPECT_THAT(kindsOf(QUrl::fromLocalFile(world().root() + QStringLiteral("/missing.txt"))), IsEmpty());
     EXPECT_THAT(kindsOf(QUrl(QStringLiteral("https://example.org/a.txt"))), IsEmpty());
@@ -125,7 +125,7 @@ TEST_F(FileTypesTest, AMissingFileAndWhatIsNoFileAreOfNoKind)
     EXPECT_THAT(kindsOf(QUrl()), IsEmpty());
 }
 
-TEST_F(FileTypesTest, ALinkIsNamedByItselfAndMustLeadSomewhere)
+TEST_F(FileTypesTest, ALinkHasTheKindOfItsOwnNameAndMustNotBeBroken)
 {
     const QString target = writeFile(QStringLiteral("data"), "x");
     const QString link = world().root() + QStringLiteral("/link.txt");
@@ -135,7 +135,7 @@ TEST_F(FileTypesTest, ALinkIsNamedByItselfAndMustLeadSomewhere)
     EXPECT_THAT(kindsOf(QUrl::fromLocalFile(link)), IsEmpty());
 }
 
-TEST_F(FileTypesTest, AFileThatTheUserMayNotReadIsOfNoKind)
+TEST_F(FileTypesTest, AnUnreadableFileHasNoKind)
 {
     const QString path = writeFile(QStringLiteral("secret.txt"), "x");
     const auto told = [&] {

@@ -46,7 +46,7 @@ TEST_F(OpenPanelTest, TheMimeDatabaseKnowsEveryTypeByThatName)
         EXPECT_EQ(QMimeDatabase().mimeTypeForName(type).name(), type);
 }
 
-TEST_F(OpenPanelTest, SeveralFilesAreChosenOnlyWhereTheCallerSaysSo)
+TEST_F(OpenPanelTest, AllowsSeveralFilesOnlyOnRequest)
 {
     EXPECT_FALSE(QBYExtension::openPanelForTextFiles().allowsMultipleSelection);
     EXPECT_FALSE(QBYExtension::openPanelForTextFilesAllowMultipleSelection(false).allowsMultipleSelection);

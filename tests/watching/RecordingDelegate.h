@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// RecordingDelegate writes down what a watched-file model tells.
+// RecordingDelegate records the messages of a watched-file model.
 // Thread: main.  Owner: the test.
 #pragma once
 
@@ -19,11 +19,11 @@ public:
         const QUrl &docxData, WatchTextFileModel &watchModel) override;
     void currentlyWatchedTextFileWasRenamed(const QString &newName, WatchTextFileModel &watchModel) override;
 
-    /// "text CONTENTS", "failed", "failed while watching", "docx NAME", "renamed to NAME"; those since the
-    /// last call.
+    /// "text CONTENTS", "failed", "failed while watching", "docx NAME", "renamed to NAME", since the last
+    /// call.
     QStringList takeMessages() { return std::exchange(m_messages, {}); }
 
-    /// That of the last "text".
+    /// The text of the last "text".
     [[nodiscard]] const AttributedString &lastText() const { return m_lastText; }
 
     std::function<void()> whenTold;
@@ -35,7 +35,7 @@ private:
     AttributedString m_lastText;
 };
 
-/// A delegate that leaves the optional message out.
+/// A delegate without the optional message.
 class TerseDelegate final : public WatchTextFileModelDelegate {
 public:
     void currentlyWatchedTextFileDidUpdateWithAttributedString(

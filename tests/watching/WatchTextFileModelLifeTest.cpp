@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Moves, deletion, another document, and the end of the model.
+// Moves, deletion, a change of the document, and the destruction of the model.
 #include "tests/watching/WatchedFileTest.h"
 
 #include <QDir>
@@ -42,7 +42,7 @@ TEST_F(WatchTextFileModelLifeTest, ARenamedDocumentIsWatchedUnderItsNewNameAndNo
     EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text after")));
 }
 
-TEST_F(WatchTextFileModelLifeTest, TheNewNameIsToldBeforeTheModelWatchesAgain)
+TEST_F(WatchTextFileModelLifeTest, ReportsTheNewNameBeforeItWatchesAgain)
 {
     const auto model = watch(m_path);
     bool wasWatching = true;
@@ -57,7 +57,7 @@ TEST_F(WatchTextFileModelLifeTest, TheNewNameIsToldBeforeTheModelWatchesAgain)
     EXPECT_TRUE(model->isWatchingTextFile());
 }
 
-TEST_F(WatchTextFileModelLifeTest, PollingGoesOnAfterARename)
+TEST_F(WatchTextFileModelLifeTest, PollingContinuesAfterARename)
 {
     const auto model = watch(m_path);
     m_activity.setActive(false);
@@ -72,7 +72,7 @@ TEST_F(WatchTextFileModelLifeTest, PollingGoesOnAfterARename)
     EXPECT_EQ(m_clock.runningTimers(), 1);
 }
 
-TEST_F(WatchTextFileModelLifeTest, APollInTheMidstOfAMoveIsNoFailure)
+TEST_F(WatchTextFileModelLifeTest, APollDuringAMoveIsNoFailure)
 {
     const auto model = watch(m_path);
     ASSERT_TRUE(QFile::rename(m_path, m_there));
@@ -94,7 +94,7 @@ TEST_F(WatchTextFileModelLifeTest, AWordDocumentIsNotPolledAfterARename)
     EXPECT_EQ(m_clock.runningTimers(), 0);
 }
 
-TEST_F(WatchTextFileModelLifeTest, ADelegateNeedNotHearOfNames)
+TEST_F(WatchTextFileModelLifeTest, ADelegateNeedNotHandleNames)
 {
     const auto model = watch(m_path);
     TerseDelegate delegate;
@@ -104,7 +104,7 @@ TEST_F(WatchTextFileModelLifeTest, ADelegateNeedNotHearOfNames)
     EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
 }
 
-TEST_F(WatchTextFileModelLifeTest, ADocumentThatCannotBeFoundByItsBookmarkIsWatchedAllTheSame)
+TEST_F(WatchTextFileModelLifeTest, ADocumentThatItsBookmarkDoesNotFindIsWatchedAnyway)
 {
     const auto model = watch(m_path);
     ASSERT_TRUE(QFile::remove(m_path));
@@ -117,11 +117,11 @@ TEST_F(WatchTextFileModelLifeTest, ADocumentThatCannotBeFoundByItsBookmarkIsWatc
     EXPECT_TRUE(model->isWatchingTextFile());
 }
 
-TEST_F(WatchTextFileModelLifeTest, AnAccessThatCannotBeOpenedAnewIsLogged)
+TEST_F(WatchTextFileModelLifeTest, AnAccessThatCannotBeReopenedIsLogged)
 {
     const auto model = watch(m_path);
     ASSERT_TRUE(QFile::remove(m_path));
-    ASSERT_TRUE(QFile::link(QStringLiteral("nowhere"), m_path)); // a name that leads to nothing readable
+    ASSERT_TRUE(QFile::link(QStringLiteral("nowhere"), m_path)); // a broken link
     model->presentedItemDidMoveToURL(QUrl::fromLocalFile(m_there));
     EXPECT_THAT(takeLog(),
         ElementsAre(m_movedMessage,
@@ -130,7 +130,7 @@ TEST_F(WatchTextFileModelLifeTest, AnAccessThatCannotBeOpenedAnewIsLogged)
                 "text might fail.")));
 }
 
-TEST_F(WatchTextFileModelLifeTest, WithoutADocumentThereIsNoBookmarkAndTheModelWorks)
+TEST_F(WatchTextFileModelLifeTest, WorksWithoutADocumentAndABookmark)
 {
     const auto model = makeModel(m_there);
     EXPECT_THAT(takeLog(), ElementsAre(QStringLiteral("error Error getting bookmark data: no such file")));
@@ -150,9 +150,9 @@ TEST_F(WatchTextFileModelLifeTest, AnAccessThatCannotBeOpenedIsLoggedAndNoBookma
     EXPECT_THAT(takeLog(), ElementsAre(m_movedMessage));
 }
 
-TEST_F(WatchTextFileModelLifeTest, ANameThatNoFileCanHaveIsLoggedAndNoBookmarkKept)
+TEST_F(WatchTextFileModelLifeTest, AnImpossibleNameIsLoggedAndNoBookmarkKept)
 {
-    // The system would take the name to end at the NUL.
+    // For the system the name would end at the NUL.
     const auto model = makeModel(m_path + QChar(u'\0') + QStringLiteral("more"));
     EXPECT_THAT(takeLog(),
         ElementsAre(QStringLiteral("error Error getting bookmark data: is not a file of this machine")));
@@ -160,9 +160,9 @@ TEST_F(WatchTextFileModelLifeTest, ANameThatNoFileCanHaveIsLoggedAndNoBookmarkKe
     EXPECT_THAT(takeLog(), ElementsAre(m_movedMessage));
 }
 
-TEST_F(WatchTextFileModelLifeTest, TheEndOfTheModelClosesTheAccessAndLogsNothing)
+TEST_F(WatchTextFileModelLifeTest, TheDestructorClosesTheAccessAndLogsNothing)
 {
-    makeModel(m_path); // from then on the MIME database keeps its cache open
+    makeModel(m_path); // makes the MIME database open its cache, which stays open
     const qsizetype before = openDescriptors();
     auto model = watch(m_path);
     m_activity.setActive(false);
@@ -175,7 +175,7 @@ TEST_F(WatchTextFileModelLifeTest, TheEndOfTheModelClosesTheAccessAndLogsNothing
     EXPECT_THAT(takeLog(), IsEmpty());
 }
 
-TEST_F(WatchTextFileModelLifeTest, ADeletedDocumentIsAFailureAndTheDeletionIsLetPass)
+TEST_F(WatchTextFileModelLifeTest, ADeletedDocumentIsAFailureAndTheDeletionIsAllowed)
 {
     const auto model = watch(m_path);
     ASSERT_TRUE(QFile::remove(m_path));
@@ -216,13 +216,13 @@ TEST_F(WatchTextFileModelLifeTest, AnotherDocumentNeedNotBeWatchedAtOnce)
     EXPECT_EQ(model->presentedItemURL(), QUrl::fromLocalFile(m_there));
 }
 
-TEST_F(WatchTextFileModelLifeTest, AWordDocumentInPlaceOfAnOrdinaryOneIsLoadedAsAnOrdinaryOne)
+TEST_F(WatchTextFileModelLifeTest, AWordDocumentAfterAnotherKindIsLoadedLikeThatKind)
 {
     const auto model = watch(m_path);
     model->setTextFileURLToWatch(QUrl::fromLocalFile(m_docx), true);
     EXPECT_FALSE(model->isPresentedItemDocXFile());
     model->forceRead(nullptr);
-    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("failed"))); // it is no real one
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("failed"))); // not a valid document
 }
 
 TEST_F(WatchTextFileModelLifeTest, StoppingIsHarmlessWithoutWatching)
@@ -257,7 +257,7 @@ TEST_F(WatchTextFileModelLifeTest, ADelegateMayDestroyTheModelInEveryMessage)
     }));
 }
 
-TEST_F(WatchTextFileModelLifeTest, AModelWithoutADelegateGoesOn)
+TEST_F(WatchTextFileModelLifeTest, AModelWithoutADelegateContinues)
 {
     auto model = watch(m_path);
     {
@@ -274,7 +274,7 @@ TEST_F(WatchTextFileModelLifeTest, AModelWithoutADelegateGoesOn)
 
 TEST_F(WatchTextFileModelLifeTest, AThousandMovesLeaveNoDescriptorOpen)
 {
-    makeModel(m_path); // from then on the MIME database keeps its cache open
+    makeModel(m_path); // makes the MIME database open its cache, which stays open
     const qsizetype before = openDescriptors();
     {
         const auto model = watch(m_path);

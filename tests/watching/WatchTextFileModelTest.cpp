@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the model reads, when, and what it tells and logs.
+// When the model reads, and what it reports and logs.
 #include "tests/watching/WatchedFileTest.h"
 
 #include <QFile>
@@ -29,7 +29,7 @@ TEST_F(WatchTextFileModelTest, AFreshModelNeitherWatchesNorReads)
     EXPECT_THAT(takeLog(), IsEmpty());
 }
 
-TEST_F(WatchTextFileModelTest, BeginningReadsNothing)
+TEST_F(WatchTextFileModelTest, DoesNotReadWhenItBegins)
 {
     const auto model = watch(m_path);
     pass(10s);
@@ -37,14 +37,14 @@ TEST_F(WatchTextFileModelTest, BeginningReadsNothing)
     EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
 }
 
-TEST_F(WatchTextFileModelTest, AForcedReadTellsBeforeItReturns)
+TEST_F(WatchTextFileModelTest, AForcedReadReportsBeforeItReturns)
 {
     const auto model = watch(m_path);
     model->forceRead(nullptr);
     EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text before")));
 }
 
-TEST_F(WatchTextFileModelTest, EveryChangeIsReadAndTold)
+TEST_F(WatchTextFileModelTest, EveryChangeIsReadAndReported)
 {
     const auto model = watch(m_path);
     writeFile(QStringLiteral("f.txt"), "one");
@@ -81,7 +81,7 @@ TEST_F(WatchTextFileModelTest, ResigningActiveStartsOneTimerOfTwoSeconds)
         m_delegate.takeMessages(), ElementsAre(QStringLiteral("text before"), QStringLiteral("text before")));
 }
 
-TEST_F(WatchTextFileModelTest, APollOfUnchangedBytesTellsTheSameTextWithoutMakingItAnew)
+TEST_F(WatchTextFileModelTest, APollOfUnchangedBytesReportsTheSameTextObject)
 {
     const auto model = watch(m_path);
     m_activity.setActive(false);
@@ -117,7 +117,7 @@ TEST_F(WatchTextFileModelTest, ResigningWithoutWatchingDoesNothing)
     EXPECT_EQ(m_clock.runningTimers(), 0);
 }
 
-TEST_F(WatchTextFileModelTest, BecomingActiveEndsPolling)
+TEST_F(WatchTextFileModelTest, BecomingActiveStopsPolling)
 {
     const auto model = watch(m_path);
     m_activity.setActive(false);
@@ -149,7 +149,7 @@ TEST_F(WatchTextFileModelTest, BeginningWhileInactiveDoesNotPoll)
     EXPECT_EQ(m_clock.runningTimers(), 0);
 }
 
-TEST_F(WatchTextFileModelTest, AWordDocumentIsLookedForAndNotRead)
+TEST_F(WatchTextFileModelTest, AWordDocumentIsCheckedButNotRead)
 {
     const auto model = watch(m_docx);
     EXPECT_TRUE(model->isPresentedItemDocXFile());
@@ -171,7 +171,7 @@ TEST_F(WatchTextFileModelTest, AWordDocumentIsNeverPolled)
     EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
 }
 
-TEST_F(WatchTextFileModelTest, AWordDocumentThatIsNotThereIsAFailure)
+TEST_F(WatchTextFileModelTest, AMissingWordDocumentIsAFailure)
 {
     const auto model = watch(m_docx);
     model->setTextFileURLToWatch(QUrl::fromLocalFile(pathOf(QStringLiteral("missing.docx"))), true);
@@ -181,7 +181,7 @@ TEST_F(WatchTextFileModelTest, AWordDocumentThatIsNotThereIsAFailure)
     EXPECT_FALSE(model->isWatchingTextFile());
 }
 
-TEST_F(WatchTextFileModelTest, AFailedReadStopsWatchingBeforeItIsTold)
+TEST_F(WatchTextFileModelTest, AFailedReadStopsWatchingBeforeItIsReported)
 {
     const auto model = watch(m_path);
     const QString missing = pathOf(QStringLiteral("missing.txt"));
@@ -197,7 +197,7 @@ TEST_F(WatchTextFileModelTest, AFailedReadStopsWatchingBeforeItIsTold)
     EXPECT_EQ(m_clock.runningTimers(), 0);
 }
 
-TEST_F(WatchTextFileModelTest, ADocumentThatHasGoneAtAReadIsADeletionToldOnce)
+TEST_F(WatchTextFileModelTest, ADocumentMissingAtAReadIsReportedAsOneDeletion)
 {
     for (const QString &path : {m_path, m_docx}) {
         const auto model = watch(path);
@@ -210,7 +210,7 @@ TEST_F(WatchTextFileModelTest, ADocumentThatHasGoneAtAReadIsADeletionToldOnce)
     }
 }
 
-TEST_F(WatchTextFileModelTest, WhatCannotBeLoadedWhileItIsBeingSavedIsNoFailure)
+TEST_F(WatchTextFileModelTest, ADocumentThatCannotBeLoadedDuringASaveIsNoFailure)
 {
     const QString text = writeFile(QStringLiteral("f.rtfd/TXT.rtf"), "{\\rtf1 before}");
     const auto model = watch(text.chopped(8));
@@ -224,7 +224,7 @@ TEST_F(WatchTextFileModelTest, WhatCannotBeLoadedWhileItIsBeingSavedIsNoFailure)
     EXPECT_TRUE(model->isWatchingTextFile());
 }
 
-TEST_F(WatchTextFileModelTest, WhatStaysSoThatItCannotBeLoadedIsAFailure)
+TEST_F(WatchTextFileModelTest, ADocumentThatStillCannotBeLoadedAfterASaveIsAFailure)
 {
     const QString text = writeFile(QStringLiteral("f.rtfd/TXT.rtf"), "{\\rtf1 before}");
     const auto model = watch(text.chopped(8));
@@ -244,7 +244,7 @@ TEST_F(WatchTextFileModelTest, AMissingURLIsAFailure)
     EXPECT_THAT(takeLog(), ElementsAre(QStringLiteral("error URL went nil!!!!")));
 }
 
-TEST_F(WatchTextFileModelTest, ADocumentThatItsWriterKeepsLockedIsReadOnceItIsQuiet)
+TEST_F(WatchTextFileModelTest, ADocumentThatStaysLockedIsReadOnceItNoLongerChanges)
 {
     const auto model = watch(m_path);
     QFile writer(m_path);
@@ -261,10 +261,10 @@ TEST_F(WatchTextFileModelTest, ADocumentThatItsWriterKeepsLockedIsReadOnceItIsQu
     EXPECT_THAT(takeLog(), IsEmpty());
 }
 
-TEST_F(WatchTextFileModelTest, ALockedDocumentThatCannotBeLoadedIsAnErrorAndWatchingGoesOn)
+TEST_F(WatchTextFileModelTest, ALockedDocumentThatCannotBeLoadedIsAnErrorAndWatchingContinues)
 {
     const auto model = watch(m_path);
-    model->setTextFileURLToWatch(QUrl::fromLocalFile(m_docx), true); // read as an ordinary one, and torn
+    model->setTextFileURLToWatch(QUrl::fromLocalFile(m_docx), true); // read like another kind, and damaged
     QFile writer(m_docx);
     ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
     ASSERT_EQ(::flock(writer.handle(), LOCK_EX), 0);
@@ -277,7 +277,7 @@ TEST_F(WatchTextFileModelTest, ALockedDocumentThatCannotBeLoadedIsAnErrorAndWatc
     EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("failed")));
 }
 
-TEST_F(WatchTextFileModelTest, WhatIsLentIsNotReadUntilItComesBack)
+TEST_F(WatchTextFileModelTest, ADocumentGrantedToOthersIsNotReadUntilItIsReturned)
 {
     const auto model = watch(m_path);
     m_activity.setActive(false);
@@ -298,7 +298,7 @@ TEST_F(WatchTextFileModelTest, WhatIsLentIsNotReadUntilItComesBack)
     EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text before")));
 }
 
-TEST_F(WatchTextFileModelTest, AReaderOfThisProcessBorrowsTheDocument)
+TEST_F(WatchTextFileModelTest, AReaderOfThisProcessIsGrantedTheDocument)
 {
     const auto model = watch(m_path);
     FileCoordinator reader(nullptr, m_clock);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WatchedFileTest is the fixture of the tests of the watched-file model: a document, a delegate, a fake clock
 // and the model's log with its debug messages.
+// Thread: main.
 #pragma once
 
 #include "platform/system/FileURL.h"
@@ -25,7 +26,7 @@ protected:
         return std::make_unique<WatchTextFileModel>(
             QUrl::fromLocalFile(path), &m_delegate, m_activity, m_clock);
     }
-    /// Already watching, and what it logged until then forgotten.
+    /// A model that watches; its messages until now are discarded.
     std::unique_ptr<WatchTextFileModel> watch(const QString &path)
     {
         auto model = makeModel(path);
@@ -33,7 +34,7 @@ protected:
         takeLog();
         return model;
     }
-    /// Serves the events of what has happened, and lets time pass.
+    /// Processes pending events and lets time pass.
     void pass(std::chrono::milliseconds duration)
     {
         QCoreApplication::processEvents();

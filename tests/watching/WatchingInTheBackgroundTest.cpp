@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The model while real windows take the keyboard from each other.
+// The model while real windows take the focus from each other.
 #include "platform/views/widgets/ApplicationActivitySource.h"
 #include "tests/platform/views/widgets/OtherProgram.h"
 #include "tests/platform/views/widgets/ShownWindow.h"
@@ -27,7 +27,7 @@ protected:
     const ShownWindow m_shown{{100, 200, 300, 150}, 0, WindowLevel::Normal};
 };
 
-TEST_F(WatchingInTheBackgroundTest, PollsAsLongAsAnotherProgramHasTheKeyboard)
+TEST_F(WatchingInTheBackgroundTest, PollsWhileAnotherProgramHasTheFocus)
 {
     const ApplicationActivitySource source(m_activity);
     const auto model = watch(m_path);

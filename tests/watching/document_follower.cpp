@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// document_follower FILE: watches the document and prints a line for each thing that the model tells: "text
+// document_follower FILE: watches the document and prints a line for each message of the model: "text
 // WORD" with the last word of the document, "failed" or "renamed to NAME". Runs until it is killed.
 #include "documents/loading/DocumentLoader.h"
 #include "watching/WatchTextFileModel.h"
@@ -21,7 +21,7 @@ public:
     {
         print(QStringLiteral("failed"));
     }
-    /// Read at once, as the panel that counts reads it.
+    /// Read at once, like the counting panel does.
     void currentlyWatchedDocXFileDidUpdateWithDocxData(
         const QUrl &docxData, WatchTextFileModel &watchModel) override
     {

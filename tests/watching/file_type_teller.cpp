@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// file_type_teller FILE: prints the kinds of the file, a word each, for tests that need another user.
+// file_type_teller FILE: prints a word for each kind of the file, for tests that need another user.
 #include "watching/FileTypes.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// save_soak COUNT [SEED]: has another process save a watched document that often, in modes, sizes and with
-// pauses chosen at random, and prints what the model made of it. Exit status 1 where it made a mistake: it
-// told another name or a failure, or did not come to tell the text that was saved last.
+// save_soak COUNT [SEED]: lets another process save a watched document that often, with random modes, sizes
+// and pauses, and prints the model's reports. Exits with 1 after a mistake of the model: a wrong name, a
+// failure, or no report of the last saved text.
 #include "tests/harness/ChildProcess.h"
 #include "tests/harness/TestHome.h"
 #include "tests/harness/WaitUntil.h"
@@ -28,16 +28,17 @@ public:
         m_saver.start({QFile::encodeName(path)});
     }
 
-    /// One to three saves in a row, and the wait until the last of them has been read.
+    /// Saves one to three times in a row, and waits until the last save has been read.
     void saveOnce()
     {
         QString mode;
-        const int saves = chosen(1, 3);
+        const int saves = randomNumber(1, 3);
         for (int save = 0; save < saves; ++save) {
-            mode = m_modes.at(chosen(0, static_cast<int>(m_modes.size()) - 1));
+            mode = m_modes.at(randomNumber(0, static_cast<int>(m_modes.size()) - 1));
             ++m_number;
-            const int lines = chosen(0, 9) ? chosen(1, 50) : chosen(1000, 20'000);
-            const int pause = chosen(0, 9) ? chosen(0, 1000) : chosen(0, 100'000); // microseconds
+            const int lines = randomNumber(0, 9) ? randomNumber(1, 50) : randomNumber(1000, 20'000);
+            const int pause =
+                randomNumber(0, 9) ? randomNumber(0, 1000) : randomNumber(0, 100'000); // microseconds
             m_expected = (QString::number(m_number) + u'\n').repeated(lines);
             m_saver.writeLine(
                 QStringLiteral("%1 %2:%3 %4").arg(mode).arg(m_number).arg(lines).arg(pause).toLatin1());
@@ -55,7 +56,7 @@ public:
     [[nodiscard]] const QStringList &mistakes() const { return m_mistakes; }
 
 private:
-    int chosen(int least, int most) { return std::uniform_int_distribution(least, most)(m_random); }
+    int randomNumber(int min, int max) { return std::uniform_int_distribution(min, max)(m_random); }
     void report(const QString &mistake) { m_mistakes << mistake; }
 
     void count()
@@ -79,7 +80,7 @@ private:
     int m_number = 0;
     int m_saves = 0;
     int m_changes = 0;
-    int m_partial = 0; // changes with a text that was never saved
+    int m_partial = 0; // reports of a text that was never saved
     QStringList m_mistakes;
 };
 
@@ -100,7 +101,7 @@ int main(int argumentCount, char **arguments)
     while (soak.saves() < count)
         soak.saveOnce();
     QTextStream output(stdout);
-    output << soak.saves() << " saves, " << soak.changes() << " texts told, " << soak.partial()
+    output << soak.saves() << " saves, " << soak.changes() << " texts reported, " << soak.partial()
            << " of them half saved, " << soak.mistakes().size() << " mistakes\n";
     for (const QString &mistake : soak.mistakes())
         output << mistake << '\n';

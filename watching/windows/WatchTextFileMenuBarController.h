@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // WatchTextFileMenuBarController is one watcher: it follows one document, shows its statistics and speaks its
 // word count. Following the file is left to its model, counting to its panels. Made by init() or
-// initWithoutMenuItem(). Thread: main.  Owner: the registry of its delegate, and its own alerts and delayed
-// work while they are pending.
+// initWithoutMenuItem().
+// Thread: main.  Owner: the registry of its delegate, and its own alerts and delayed work while they are
+// pending.
 #pragma once
 
 #include "platform/system/Clock.h"

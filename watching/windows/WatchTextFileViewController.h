@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // WatchTextFileViewController is the panel of a watched file: its name, its statistics, and the buttons to
 // close the panel and to stop watching. It fits its window or pop-over to the statistics; what the buttons do
-// is left to its delegate. Made with std::make_shared. Thread: main.  Owner: the watch controller, which is
-// also its delegate.
+// is left to its delegate. Made with std::make_shared.
+// Thread: main.  Owner: the watch controller, which is also its delegate.
 #pragma once
 
 #include "platform/views/Controls.h"

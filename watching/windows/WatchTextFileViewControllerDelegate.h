@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WatchTextFileViewControllerDelegate presents a watch panel and handles its buttons. It may drop its
-// reference to the panel in any of these calls. Thread: main.  Owner: independent of the panel, which refers
-// to it weakly.
+// reference to the panel in any of these calls.
+// Thread: main.  Owner: independent of the panel, which refers to it weakly.
 #pragma once
 
 #include "platform/system/WeakDelegate.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ApplicationActivitySource updates an ApplicationActivity from the window system: a program is active while
-// one of its windows has the keyboard focus. Thread: main.  Owner: main() of a program with windows; needs
-// the QGuiApplication.
+// one of its windows has the keyboard focus.
+// Thread: main.  Owner: main() of a program with windows; needs the QGuiApplication.
 #pragma once
 
 #include "platform/views/ApplicationActivity.h"

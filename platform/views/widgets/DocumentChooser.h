@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // DocumentChooser is the desktop's file chooser for an open panel. Folders that are documents, such as rich
-// text with attachments, are chosen like files: by double click, button, Return key or typed name. Thread:
-// main.  Owner: WidgetDesktop, while it is open.
+// text with attachments, are chosen like files: by double click, button, Return key or typed name.
+// Thread: main.  Owner: WidgetDesktop, while it is open.
 #pragma once
 
 #include "platform/views/Desktop.h"

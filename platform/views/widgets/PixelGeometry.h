@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Conversions between frames and Qt's coordinates: whole device-independent pixels from the top left. A point
 // is one such pixel. On the screen, points count from the bottom left corner of the primary screen; other
-// screens may have negative coordinates. Thread: main; values.
+// screens may have negative coordinates.
+// Thread: main; values.
 #pragma once
 
 #include "platform/views/Geometry.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The symbols that Quillbay draws itself, in the text colour of buttons: the same on every desktop, sharp at
-// every scale, visible in light and dark themes. Thread: main.
+// every scale, visible in light and dark themes.
+// Thread: main.
 #pragma once
 
 #include <QIcon>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // ViewBinding shows one view on the screen: it owns the view's widget and the bindings of its subviews, and
-// keeps the widget at the view's place. The widget's content is left to ViewWidgets. Thread: main.  Owner:
-// the binding of the superview, or the window's widget, which destroys it before control returns to the event
-// loop after the view was destroyed.
+// keeps the widget at the view's place. The widget's content is left to ViewWidgets.
+// Thread: main.  Owner: the binding of the superview, or the window's widget, which destroys it before
+// control returns to the event loop after the view was destroyed.
 #pragma once
 
 #include "platform/views/View.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WidgetDesktop is the user's desktop by way of Qt's widgets: real windows, message boxes and the desktop's
-// file chooser. Thread: main.  Owner: main() of a program with windows; outlived by its QApplication.
+// file chooser.
+// Thread: main.  Owner: main() of a program with windows; outlived by its QApplication.
 #pragma once
 
 #include "platform/system/Clock.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WindowActivation gives the keyboard focus to windows that the user has asked for. Window managers refuse it
-// to windows that open by themselves; the time or token of the user's request convinces them. Thread: main.
+// to windows that open by themselves; the time or token of the user's request convinces them.
+// Thread: main.
 #pragma once
 
 #include <QByteArray>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // WindowWidget shows a window on the screen: a top-level widget that follows the window and its views, and
 // reports what the user does. Where windows cannot choose their place, as on Wayland, the frame's origin has
-// no effect. Thread: main.  Owner: WidgetDesktop's WindowOnScreen; shares the ownership of the window.
+// no effect.
+// Thread: main.  Owner: WidgetDesktop's WindowOnScreen; shares the ownership of the window.
 //
 // - The widget covers the frame, without the title bar; PixelGeometry.h relates points and pixels.
 // - A window without a title bar is frameless; a floating one is a tool window above all others.

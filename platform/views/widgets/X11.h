@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What the windows of the program need of the X server beyond Qt: the state of the pointer, and the focus by
 // the Extended Window Manager Hints (EWMH 1.5). All of it goes through Qt's own connection, so that messages
-// arrive after those by which Qt shows a window. Thread: main.
+// arrive after those by which Qt shows a window.
+// Thread: main.
 #pragma once
 
 #include <QByteArray>

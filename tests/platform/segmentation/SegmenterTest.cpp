@@ -40,7 +40,7 @@ TEST(Segmenter, AnEmptyTextHasNeitherWordsNorSentences)
     EXPECT_THAT(sentences(QString()), IsEmpty());
 }
 
-TEST(Segmenter, WhiteSpaceAndPunctuationAreNoWords)
+TEST(Segmenter, WhiteSpaceAndPunctuationAreNotWords)
 {
     EXPECT_THAT(words(QStringLiteral("Well, it's \u201Cdone\u201D \u2014 at 3.5 %!")),
         ElementsAre(QStringLiteral("Well"), QStringLiteral("it's"), QStringLiteral("done"),
@@ -48,7 +48,7 @@ TEST(Segmenter, WhiteSpaceAndPunctuationAreNoWords)
     EXPECT_THAT(words(QStringLiteral(" \t\n ... --- @ _ \u0301")), IsEmpty());
 }
 
-TEST(Segmenter, EmojiAreNoWordsButADigitInAKeycapIs)
+TEST(Segmenter, EmojiAreNotWordsButADigitInAKeycapIs)
 {
     EXPECT_THAT(words(QStringLiteral("\U0001F600 \U0001F468\u200D\U0001F469")), IsEmpty());
     EXPECT_THAT(words(QStringLiteral("1\uFE0F\u20E3")), ElementsAre(QStringLiteral("1\uFE0F\u20E3")));
@@ -61,7 +61,7 @@ TEST(Segmenter, IdeographsLetterNumbersAndCircledLettersMakeWords)
     EXPECT_TRUE(isWord(u"\u2167")); // Roman numeral eight
     EXPECT_TRUE(isWord(u"\u24B6")); // circled A
     EXPECT_TRUE(isWord(u"\U00020000"));
-    EXPECT_FALSE(isWord(u"\u00B2")); // superscript two is no decimal digit
+    EXPECT_FALSE(isWord(u"\u00B2")); // superscript two is not a decimal digit
     EXPECT_FALSE(isWord(u"\u093E")); // a vowel sign alone
     EXPECT_FALSE(isWord(u"\xD800"));
     EXPECT_FALSE(isWord(u""));
@@ -86,7 +86,7 @@ TEST(Segmenter, SentencesCoverTheTextAndKeepTheirPunctuation)
         ElementsAre(QStringLiteral("It costs 3.5 dollars.")));
 }
 
-TEST(Segmenter, StopsWhereTheCallerHasSeenEnough)
+TEST(Segmenter, StopsWhenTheCallerReturnsFalse)
 {
     Segmenter segmenter;
     int seen = 0;
@@ -94,7 +94,7 @@ TEST(Segmenter, StopsWhereTheCallerHasSeenEnough)
     EXPECT_EQ(seen, 2);
 }
 
-TEST(Segmenter, WordsOfASentenceCanBeLookedAtAmongSentences)
+TEST(Segmenter, WordsOfASentenceCanBeIteratedWithinSentences)
 {
     Segmenter segmenter;
     QStringList firstWords;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Line breaks, grapheme clusters, scripts and directions, against ICU's own iterators where there are any.
+// Line breaks, grapheme clusters, scripts and directions, compared with ICU's own iterators where it has
+// them.
 #include "platform/segmentation/BidiRuns.h"
 #include "platform/segmentation/GraphemeClusters.h"
 #include "platform/segmentation/LineBreaks.h"
@@ -44,7 +45,7 @@ std::vector<qsizetype> boundaries(BreakKind kind, QStringView text)
     return found;
 }
 
-TEST(GraphemeClusters, EndWhereTheBreakIteratorSaysSo)
+TEST(GraphemeClusters, EndAtTheBoundariesOfTheBreakIterator)
 {
     std::mt19937 random(1);
     for (int round = 0; round < 300; ++round) {
@@ -56,7 +57,7 @@ TEST(GraphemeClusters, EndWhereTheBreakIteratorSaysSo)
     }
 }
 
-TEST(GraphemeClusters, KnowWhichOfThemArePictures)
+TEST(GraphemeClusters, KnowWhichOfThemAreEmoji)
 {
     EXPECT_TRUE(isEmojiCluster(u"😀"));
     EXPECT_TRUE(isEmojiCluster(u"❤\uFE0F"));
@@ -65,7 +66,7 @@ TEST(GraphemeClusters, KnowWhichOfThemArePictures)
     EXPECT_FALSE(isEmojiCluster(u"1"));
 }
 
-TEST(LineBreaks, AreThoseOfTheBreakIteratorHoweverFarApartTheQuestions)
+TEST(LineBreaks, AreThoseOfTheBreakIteratorAtAnyDistanceOfCalls)
 {
     std::mt19937 random(2);
     LineBreaks breaks;
@@ -83,7 +84,7 @@ TEST(LineBreaks, AreThoseOfTheBreakIteratorHoweverFarApartTheQuestions)
     }
 }
 
-TEST(LineBreaks, AnswerAQuestionThatGoesBackRightlyOrNotAtAll)
+TEST(LineBreaks, AnEarlierPositionGivesACorrectResultOrNone)
 {
     std::mt19937 random(3);
     LineBreaks breaks;

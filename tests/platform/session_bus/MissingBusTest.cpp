@@ -87,7 +87,7 @@ TEST_F(MissingBusTest, ARequestThatIsLostWithTheBusLeavesOneLineInTheLog)
     const auto connection = resumedConnection();
     send(*connection);
     EXPECT_TRUE(waitUntil([&service] { return service.requests == 1; }));
-    bus.end();
+    bus.stop();
     expectLine(1, noAnswer);
     EXPECT_EQ(m_replies.count(), 0U);
 }
@@ -101,7 +101,7 @@ TEST_F(MissingBusTest, ARequestAfterTheLossOfABusUsesTheNextOne)
     send(*connection);
     EXPECT_TRUE(waitUntil([&first] { return first->requests == 1; }));
     first.reset();
-    bus->end();
+    bus->stop();
     expectLine(1, noAnswer);
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     send(*connection);

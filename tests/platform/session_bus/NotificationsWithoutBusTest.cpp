@@ -71,7 +71,7 @@ TEST_F(NotificationsWithoutBusTest, ALostBusNeitherEndsNorBlocksTheProcess)
     PrivateBus bus;
     startTalk(bus.address());
     expectAnswer();
-    bus.end();
+    bus.stop();
     for (int i = 0; i < 3; ++i)
         expectAnswer();
     const auto outcome = m_notifier.finish();
@@ -104,13 +104,13 @@ TEST_F(NotificationsWithoutBusTest, AHangingBusBlocksAProcessOnceAndGetsItsNotif
         .start({"observe", "QBYTestNotification"});
     EXPECT_EQ(observer.readLine(), QByteArray("ready"));
     startTalk(bus.address());
-    bus.halt();
+    bus.suspend();
     expectAnswer();
     const auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < 5; ++i)
         expectAnswer();
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
-    bus.goOn();
+    bus.resume();
     for (int i = 0; i < 6; ++i)
         EXPECT_EQ(observer.readLine(), QByteArray("posted"));
     const auto outcome = m_notifier.finish();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Our lines against those of an independent layout, QTextLayout, in the same font. It is run a hundred times
-// as large, so that its rounding to parts of a pixel vanishes.
+// Compares our lines with those of an independent layout, QTextLayout, in the same font. QTextLayout runs at
+// a hundred times the size, so that its rounding to fractions of a pixel does not matter.
 #include "platform/text_layout/LayoutEngine.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/text_layout/AgreementTexts.h"
@@ -59,7 +59,7 @@ std::string shown(const QString &text, const Ends &ends)
     return lines;
 }
 
-// Gives both layouts the font of a sample, and no other.
+// Gives both layouts only the font of a sample.
 class OnlyFontOf {
 public:
     explicit OnlyFontOf(const AgreementText &sample)
@@ -97,8 +97,8 @@ INSTANTIATE_TEST_SUITE_P(Texts, Agreement, ::testing::ValuesIn(agreementTexts())
     return name;
 });
 
-// The two kinds of difference that a run over every 3.7 points from 11 to 600 leaves, each by an example:
-// where one of them no longer differs, its reason is wrong.
+// A comparison at every 3.7 points from 11 to 600 finds two kinds of difference, each with an example here.
+// If an example no longer differs, its explanation is wrong.
 struct ExplainedDifference {
     const char *text;
     double width;

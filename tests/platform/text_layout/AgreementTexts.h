@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Texts in many scripts, each with the font that it is set in, to compare two layouts by.
+// Texts in many scripts, each with its font, for comparing two layouts.
 // Thread: any; values.
 #pragma once
 
@@ -15,7 +15,7 @@ struct AgreementText {
     QString text; ///< one paragraph
 };
 
-/// For GoogleTest: by its name, not by its bytes.
+/// For GoogleTest: prints the name instead of the bytes.
 inline void PrintTo(const AgreementText &sample, std::ostream *stream)
 {
     *stream << sample.name;

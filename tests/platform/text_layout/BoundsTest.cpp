@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Documents that mean harm, or that nobody thought of: every one has a count, soon.
+// Malicious and extreme documents: every one has a count after a short time.
 #include "platform/text_layout/LayoutEngine.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/text_layout/FontWorld.h"
@@ -97,7 +97,7 @@ TEST_F(Bounds, TakesASizeOfZeroForTheUsualOne)
     EXPECT_EQ(LayoutEngine().countLines(AttributedString(text, attributes), 300), count(text, 300));
 }
 
-// Each of these took minutes if its time grew with the square of its length.
+// Each of these would take minutes if the time grew with the square of the length.
 TEST_F(Bounds, CountsHugeTextsOfEveryShape)
 {
     constexpr int size = 400'000;

@@ -60,7 +60,7 @@ TEST_F(FontChoice, HonoursWeightAndSlantAlsoInPostScriptNames)
     EXPECT_EQ(fileFor("NimbusSans-Bold"), QStringLiteral("NimbusSans-Bold.otf"));
 }
 
-TEST_F(FontChoice, NeverTakesAFontThatIsNoSfnt)
+TEST_F(FontChoice, NeverUsesAFontThatIsNotSfnt)
 {
     useOnlyFonts({QStringLiteral("NimbusSans-Regular.t1")});
     EXPECT_TRUE(FontLibrary().isEmpty());
@@ -133,7 +133,7 @@ TEST_F(FontChoice, ReadsLanguagesDownToFewForms)
     EXPECT_EQ(canonicalLanguage(u"abcdefgh"), "");
 }
 
-TEST_F(FontChoice, MeasuresByAFixedWidthWhereThereIsNoFontAndSaysSoOnce)
+TEST_F(FontChoice, MeasuresWithAFixedWidthWithoutFontsAndLogsThatOnce)
 {
     useOnlyFonts({});
     const RecordingLogSink log;

@@ -30,7 +30,7 @@ void useOnlyFonts(const QStringList &fileNames)
     QDir(folder).removeRecursively();
     QDir().mkpath(folder + QStringLiteral("/files"));
     for (const QString &name : fileNames) {
-        // Copies, not links: a link would be found under the name of the folder that it leads to.
+        // Copies, not links: fontconfig would find a link under its target's folder.
         QFile::copy(installedFont(name), folder + QStringLiteral("/files/") + name);
     }
     QFile configuration(folder + QStringLiteral("/fonts.conf"));

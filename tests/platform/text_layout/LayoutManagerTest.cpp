@@ -11,7 +11,7 @@ class LayoutManagers : public QuillbayTest {
 protected:
     void SetUp() override { useOnlyFonts({QStringLiteral("NimbusMonoPS-Regular.otf")}); }
 
-    // 6 points a character.
+    // 6 points per character.
     static AttributedString typewritten(const QString &text, const ParagraphStyle &style = {})
     {
         TextAttributes attributes;
@@ -20,7 +20,7 @@ protected:
         return AttributedString(text, attributes);
     }
 
-    // As a caller counts lines who only knows glyphs.
+    // Counts lines like a caller that knows only glyphs.
     static quint64 walk(LayoutManager &manager)
     {
         quint64 count = 0;

@@ -100,7 +100,7 @@ TEST_F(LineBreaking, BreaksAWordWiderThanTheColumnBetweenGraphemes)
         (QStringList{QStringLiteral("e\u0301e\u0301"), QStringLiteral("e\u0301")}));
 }
 
-TEST_F(LineBreaking, GivesEveryGraphemeALineWhereThereIsNoRoom)
+TEST_F(LineBreaking, GivesEveryGraphemeALineWithoutSpace)
 {
     EXPECT_EQ(linesOf(QStringLiteral("ab  c\u0301\t\td"), 0),
         (QStringList{QStringLiteral("a"), QStringLiteral("b  "), QStringLiteral("c\u0301\t"),
@@ -136,7 +136,7 @@ TEST_F(LineBreaking, TakesNoRoomForControlsAndAFixedBoxForAttachments)
 
 TEST_F(LineBreaking, SetsTextThatNamesNoFontInHelveticaOfTwelvePoints)
 {
-    // 556 units of 1000 for a digit, in Helvetica and all that stand in for it.
+    // A digit is 556 of 1000 units wide in Helvetica and its substitutes.
     const AttributedString text(QString(10, u'0'));
     EXPECT_EQ(LayoutEngine().countLines(text, 10 * 12 * 0.556), 1U);
     EXPECT_EQ(LayoutEngine().countLines(text, 10 * 12 * 0.556 - 0.01), 2U);
@@ -161,7 +161,7 @@ TEST_F(LineBreaking, SumsUpOverPartsOfTheText)
     EXPECT_EQ(engine.countLines(text, columns(4), 20, text.length()), 2U);
 }
 
-// Widths in units of the font: its em is 1000 or 2048 of them.
+// Widths in font units: 1000 or 2048 per em.
 class LineEnds : public LineBreaking {
 protected:
     static std::vector<LineFragment> linesOf(
@@ -194,7 +194,7 @@ TEST_F(LineEnds, TearAKerningPairApart)
 {
     const QString helvetica = QStringLiteral("Helvetica");
     const QString text = QStringLiteral("aaa bb-YY");
-    // In the text the hyphen leans 90 units under the Y; at a line's end it needs its whole advance.
+    // In the text the hyphen is kerned by 90 units towards the Y; at a line's end it needs its whole advance.
     const double apart = widthOf(helvetica, 1000, QStringLiteral("aaa bb-"));
     ASSERT_DOUBLE_EQ(widthOf(helvetica, 1000, QStringLiteral("-Y")), 333 + 667 - 90);
     const std::vector<LineFragment> wide = linesOf(helvetica, 1000, text, apart);
@@ -205,12 +205,12 @@ TEST_F(LineEnds, TearAKerningPairApart)
     EXPECT_EQ(narrow[0].length, 4) << "it fits only as long as the Y follows";
 }
 
-TEST_F(LineEnds, TearALigatureApart)
+TEST_F(LineEnds, SplitALigature)
 {
     useOnlyFonts({QStringLiteral("DejaVuSans.ttf")});
     const QString dejaVu = QStringLiteral("DejaVu Sans");
     const auto width = [&](const char16_t *text) { return widthOf(dejaVu, 2048, QString::fromUtf16(text)); };
-    ASSERT_NE(width(u"ffi"), width(u"f") + width(u"fi")) << "the three are one glyph";
+    ASSERT_NE(width(u"ffi"), width(u"f") + width(u"fi")) << "the three letters are one glyph";
     const std::vector<LineFragment> lines =
         linesOf(dejaVu, 2048, QStringLiteral("of\u00ADfice"), width(u"of\u2010"));
     ASSERT_GE(lines.size(), 2U);
@@ -222,7 +222,7 @@ TEST_F(LineEnds, TearALigatureApart)
     EXPECT_DOUBLE_EQ(second[1].width, width(u"fice"));
 }
 
-TEST_F(LineEnds, ShareALigatureOutWhereAWordIsBrokenForWantOfRoom)
+TEST_F(LineEnds, DivideALigatureWhereAWordIsBroken)
 {
     useOnlyFonts({QStringLiteral("DejaVuSans.ttf")});
     const QString dejaVu = QStringLiteral("DejaVu Sans");

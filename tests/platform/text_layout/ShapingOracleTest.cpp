@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The quick way to measure, word by word out of a cache, against the plain one, which shapes whole runs.
+// Compares the fast way to measure, word by word with a cache, with the simple one, which shapes whole runs.
 #include "platform/text_layout/LayoutEngine.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/text_layout/FontWorld.h"
@@ -107,7 +107,7 @@ TEST_F(ShapingOracle, GivesTheSameLinesWordByWordAsInWholeRuns)
     }
 }
 
-// Rules that reach over spaces, as those of Urdu's slanting script do, show only between words of one script.
+// Rules across spaces, like those of Urdu's Nastaliq script, only affect words of the same script.
 TEST_F(ShapingOracle, GivesTheSameLinesForWordsOfOneScript)
 {
     const QStringList words[]{

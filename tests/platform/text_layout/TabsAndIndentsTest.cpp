@@ -13,7 +13,7 @@ protected:
         useOnlyFonts({QStringLiteral("NimbusMonoPS-Regular.otf"), QStringLiteral("DejaVuSans.ttf")});
     }
 
-    // 6 points a character.
+    // 6 points per character.
     static std::vector<LineFragment> linesOf(const QString &text, const ParagraphStyle &style, double width)
     {
         TextAttributes attributes;
@@ -42,7 +42,7 @@ protected:
     }
 };
 
-TEST_F(TabsAndIndents, TabsLeadToEvery28PointsUnlessTheStyleSaysOtherwise)
+TEST_F(TabsAndIndents, TabsLeadToEvery28PointsByDefault)
 {
     EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("a\tb")), 28 + 6);
     EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("aaaaa\tb")), 56 + 6);
@@ -54,7 +54,8 @@ TEST_F(TabsAndIndents, TabsLeadToEvery28PointsUnlessTheStyleSaysOtherwise)
     EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("a\tb"), style), 36 + 6);
     EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("a\tb\tc"), style), 48 + 6);
     EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("a\tb\tc\td"), style), 100 + 6);
-    EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("aaaaaa\tb"), style), 48 + 6) << "a stop at the pen is behind it";
+    EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("aaaaaa\tb"), style), 48 + 6)
+        << "a stop at the pen is not the next one";
 }
 
 TEST_F(TabsAndIndents, TabsAlignTextToTheirStops)
@@ -73,7 +74,7 @@ TEST_F(TabsAndIndents, TextThatDoesNotFitBeforeAnAligningStopGoesPastIt)
     EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("a\t1234567.8"), stopAt(20, TabAlignment::Decimal)), 6 + 54);
 }
 
-TEST_F(TabsAndIndents, TheNextTabStartsBehindAlignedText)
+TEST_F(TabsAndIndents, TheNextTabStartsAfterAlignedText)
 {
     EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("a\tbbbb\tc"), stopAt(100, TabAlignment::Right)), 112 + 6);
 }
@@ -83,7 +84,7 @@ TEST_F(TabsAndIndents, OneTabHangsAtTheEndOfALineAndTheNextStartsALine)
     const std::vector<LineFragment> lines = linesOf(QStringLiteral("aaaa\t\t\tb"), {}, 50);
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0].length, 6);
-    EXPECT_DOUBLE_EQ(lines[0].width, 24) << "hanging blanks take no room";
+    EXPECT_DOUBLE_EQ(lines[0].width, 24) << "hanging blanks take no space";
     EXPECT_DOUBLE_EQ(lines[1].width, 28 + 6);
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// FakeDesktop is a desktop without a screen: it notes down what it is asked, and the test answers for the
-// user. Thread: main.  Owner: the test; outlives all who use it.
+// FakeDesktop is a desktop without a screen: it records the calls, and the test answers for the user.
+// Thread: main.  Owner: the test; outlives all its users.
 #pragma once
 
 #include "platform/views/Desktop.h"
@@ -43,13 +43,13 @@ public:
     [[nodiscard]] bool isAskingUser() const override { return !m_alerts.empty() || !m_panels.empty(); }
     void setAskingEndedHandler(std::function<void()> handler) override { m_askingEnded = std::move(handler); }
 
-    // What waits for the user, oldest first. There must be one.
+    // The oldest question to the user; there must be one.
     [[nodiscard]] const Alert &alert() const { return m_alerts.front().first; }
     [[nodiscard]] const OpenPanel &openPanel() const { return m_panels.front().first; }
     [[nodiscard]] size_t numberOfAlerts() const { return m_alerts.size(); }
     [[nodiscard]] size_t numberOfOpenPanels() const { return m_panels.size(); }
 
-    // The user answers the oldest.
+    // Answer the oldest question.
     void pressAlertButton(int button)
     {
         const AlertCompletion completion = std::move(m_alerts.front().second);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// FakeStatusBar is a bar of status items without a screen.
+// FakeStatusBar is a tray without a screen.
 // Thread: main.  Owner: the test; outlives its items.
 #pragma once
 

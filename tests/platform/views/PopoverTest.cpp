@@ -47,7 +47,7 @@ protected:
     }
 
     [[nodiscard]] QRectF frame() const { return popover.window()->frame(); }
-    /// As the user does.
+    /// Like the user.
     void drag(double right, double up)
     {
         popover.window()->setFrame(frame().translated(right, up), false, false);
@@ -75,7 +75,7 @@ TEST_F(PopoverTest, HasTheViewAndTheSizeOfItsContent)
     EXPECT_EQ(desktop.numberOnScreen, 1);
 }
 
-TEST_F(PopoverTest, LiesAtTheEdgeThatIsPreferred)
+TEST_F(PopoverTest, LiesAtThePreferredEdge)
 {
     popover.show(item, RectEdge::MinY);
     EXPECT_EQ(frame(), QRectF(510, 300, 200, 100));
@@ -93,24 +93,24 @@ TEST_F(PopoverTest, StaysOnTheScreen)
     EXPECT_EQ(frame(), QRectF(1080, 680, 200, 100));
     popover.show({0, 780, 20, 20}, RectEdge::MinY);
     EXPECT_EQ(frame(), QRectF(0, 680, 200, 100));
-    popover.show({600, 0, 20, 20}, RectEdge::MinY); // a bar at the bottom
+    popover.show({600, 0, 20, 20}, RectEdge::MinY); // a panel at the bottom
     EXPECT_EQ(frame(), QRectF(510, 20, 200, 100));
 }
 
-TEST_F(PopoverTest, TellsOncePerShowingBeforeItIsShown)
+TEST_F(PopoverTest, NotifiesItsDelegateOnceBeforeItIsShown)
 {
     popover.show(item, RectEdge::MinY);
     EXPECT_THAT(notes, ElementsAre("will show", "view will appear"));
     popover.show(item.translated(50, 0), RectEdge::MinY);
     EXPECT_THAT(notes, ElementsAre("will show", "view will appear"));
-    EXPECT_EQ(frame(), QRectF(560, 300, 200, 100)) << "it moves there";
+    EXPECT_EQ(frame(), QRectF(560, 300, 200, 100)) << "moves to the new place";
     popover.close();
     EXPECT_FALSE(popover.isShown());
     popover.show(item, RectEdge::MinY);
     EXPECT_EQ(notes.size(), 4U);
 }
 
-TEST_F(PopoverTest, HangsFromItsUpperEdgeWhenItsContentGrows)
+TEST_F(PopoverTest, KeepsItsUpperEdgeWhenItsContentGrows)
 {
     popover.show(item, RectEdge::MinY);
     popover.setContentSize({240, 150});
@@ -118,7 +118,7 @@ TEST_F(PopoverTest, HangsFromItsUpperEdgeWhenItsContentGrows)
     EXPECT_TRUE(popover.isShown());
 }
 
-TEST_F(PopoverTest, DraggedOffItLeavesItsPlaceToTheWindow)
+TEST_F(PopoverTest, IsReplacedByTheWindowWhenDraggedOff)
 {
     popover.show(item, RectEdge::MinY);
     drag(-100, -50);
@@ -127,20 +127,20 @@ TEST_F(PopoverTest, DraggedOffItLeavesItsPlaceToTheWindow)
     EXPECT_EQ(detached->frame(), QRectF(410, 250, 150, 80));
 }
 
-TEST_F(PopoverTest, ANudgeLeavesItThere)
+TEST_F(PopoverTest, StaysAttachedAfterASmallDrag)
 {
     popover.show(item, RectEdge::MinY);
     drag(-15, 4);
     drag(-100, 0);
-    drag(100, 0); // back before it has rested
+    drag(100, 0); // back before the detach delay
     notes.clear();
     drag(0, -100);
     EXPECT_TRUE(waitUntil([this] { return !popover.isShown(); }));
     EXPECT_THAT(notes, ElementsAre("asked whether it detaches", "asked for a window"));
-    EXPECT_EQ(detached->frame().topLeft(), QPointF(510 - 15, 300 + 4 - 100)) << "where it was in the end";
+    EXPECT_EQ(detached->frame().topLeft(), QPointF(510 - 15, 300 + 4 - 100)) << "its last place";
 }
 
-TEST_F(PopoverTest, StaysWhereItIsDraggedToWithoutLeave)
+TEST_F(PopoverTest, StaysWhereItIsDraggedToIfItMayNotDetach)
 {
     detaches = false;
     popover.show(item, RectEdge::MinY);
@@ -161,7 +161,7 @@ TEST_F(PopoverTest, StaysWhereItIsDraggedToWithoutAWindow)
     EXPECT_EQ(frame(), QRectF(410, 250, 200, 100));
 }
 
-TEST_F(PopoverTest, WhatWasDraggedBeforeItWasClosedIsForgotten)
+TEST_F(PopoverTest, ForgetsADragWhenItIsClosed)
 {
     popover.show(item, RectEdge::MinY);
     drag(-100, -50);

@@ -26,7 +26,7 @@ protected:
     const std::shared_ptr<View> m_flipped = std::make_shared<TopLeftView>(QRectF(0, 0, 1000, 1000));
 };
 
-TEST_F(ScrollViewTest, TheContentFillsItWhateverItsSize)
+TEST_F(ScrollViewTest, TheContentFillsItInEverySize)
 {
     EXPECT_EQ(m_scrollView.contentView().frame(), QRectF(0, 0, 200, 300));
     QSizeF sizeSeenByListeners;
@@ -104,7 +104,7 @@ TEST_F(ScrollViewTest, AMinimumOutsideTheLimitsIsIgnored)
     }
 }
 
-TEST_F(ScrollViewTest, ARectangleWithoutAreaOrEndMagnifiesNothing)
+TEST_F(ScrollViewTest, AnEmptyOrInfiniteRectangleMagnifiesNothing)
 {
     const double endless = std::numeric_limits<double>::infinity();
     m_scrollView.magnifyToFitRect({0, 0, 400, 600});
@@ -117,7 +117,7 @@ TEST_F(ScrollViewTest, ARectangleWithoutAreaOrEndMagnifiesNothing)
     }
 }
 
-TEST_F(ScrollViewTest, TheWheelMovesAFlippedDocumentTowardsSmallerYToShowWhatLiesAbove)
+TEST_F(ScrollViewTest, TheWheelMovesAFlippedDocumentTowardsSmallerYToRevealWhatIsAbove)
 {
     show(m_flipped);
     m_scrollView.contentView().scrollToPoint({100, 100});
@@ -127,7 +127,7 @@ TEST_F(ScrollViewTest, TheWheelMovesAFlippedDocumentTowardsSmallerYToShowWhatLie
     EXPECT_EQ(position(), QPointF(110, 70));
 }
 
-TEST_F(ScrollViewTest, TheWheelMovesAnUprightDocumentTowardsLargerYToShowWhatLiesAbove)
+TEST_F(ScrollViewTest, TheWheelMovesAnUprightDocumentTowardsLargerYToRevealWhatIsAbove)
 {
     show(m_upright);
     m_scrollView.contentView().scrollToPoint({0, 100});
@@ -154,7 +154,7 @@ TEST_F(ScrollViewTest, TheWheelStopsAtTheEndsOfTheDocument)
     EXPECT_EQ(position(), QPointF(0, 0));
 }
 
-TEST_F(ScrollViewTest, TheWheelLeavesADirectionAloneThatItDoesNotTurnIn)
+TEST_F(ScrollViewTest, TheWheelScrollsOnlyInItsDirection)
 {
     show(m_flipped);
     m_scrollView.contentView().scrollToPoint({-5, 0});
@@ -162,7 +162,7 @@ TEST_F(ScrollViewTest, TheWheelLeavesADirectionAloneThatItDoesNotTurnIn)
     EXPECT_EQ(position(), QPointF(-5, 30));
 }
 
-TEST_F(ScrollViewTest, TheWheelLeavesADocumentAloneThatIsVisibleAsAWhole)
+TEST_F(ScrollViewTest, TheWheelDoesNotScrollAFullyVisibleDocument)
 {
     show(std::make_shared<View>(QRectF(0, 0, 200, 100)));
     m_scrollView.contentView().scrollToPoint({0, -150});
@@ -178,18 +178,18 @@ TEST_F(ScrollViewTest, AnEventThatScrollsNothingScrollsTheEnclosingView)
     inner->documentView()->scrollWheel({0, -400});
     EXPECT_EQ(inner->contentView().bounds().topLeft(), QPointF(0, 400));
     EXPECT_EQ(position(), QPointF(0, 0));
-    inner->documentView()->scrollWheel({-20, 0}); // has no room to the side
+    inner->documentView()->scrollWheel({-20, 0}); // cannot scroll sideways
     EXPECT_EQ(position(), QPointF(20, 0));
 }
 
-TEST_F(ScrollViewTest, HasNoScrollerUntilToldTo)
+TEST_F(ScrollViewTest, HasNoScrollerByDefault)
 {
     EXPECT_FALSE(m_scrollView.hasVerticalScroller());
     m_scrollView.setVerticalScrollerValue(0.5);
     EXPECT_EQ(m_scrollView.verticalScrollerValue(), std::nullopt);
 }
 
-TEST_F(ScrollViewTest, TheScrollerStandsWhereTheDocumentIsScrolledTo)
+TEST_F(ScrollViewTest, TheScrollerShowsTheScrollPosition)
 {
     show(m_upright);
     m_scrollView.setHasVerticalScroller(true);

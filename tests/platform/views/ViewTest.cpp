@@ -102,7 +102,7 @@ TEST(View, AViewAddedElsewhereLeavesItsSuperview)
     EXPECT_EQ(present.subviews()[0]->superview(), &present);
 }
 
-TEST(View, ATreeNeverHoldsItself)
+TEST(View, ATreeNeverContainsItself)
 {
     const auto root = aView();
     const auto leaf = aView();
@@ -133,7 +133,7 @@ TEST(View, ASharedSubviewOutlivesItsSuperviewAndForgetsIt)
     parent->addSubview(child);
     parent.reset();
     EXPECT_EQ(child->superview(), nullptr);
-    child->removeFromSuperview(); // has nothing to leave
+    child->removeFromSuperview(); // has no superview
 }
 
 TEST(View, KnowsTheWindowThatHoldsItAtAnyDepth)
@@ -161,7 +161,7 @@ TEST(View, EveryMarkForDisplayIsAnnounced)
         2);
 }
 
-TEST(View, AWheelEventTravelsUpToTheFirstViewThatTakesIt)
+TEST(View, AWheelEventGoesUpToTheFirstViewThatHandlesIt)
 {
     const auto root = std::make_shared<WheelView>();
     const auto middle = aView();

@@ -28,7 +28,7 @@ TEST(Window, ANewFrameIsAnnouncedWithItsFlags)
     EXPECT_EQ(announced, (std::vector<std::pair<bool, bool>>{{true, false}, {false, true}}));
 }
 
-TEST(Window, DisplaysItsContentWhenAskedToAlsoWhereTheFrameStays)
+TEST(Window, DisplaysItsContentOnRequestEvenIfTheFrameStays)
 {
     Window window({0, 0, 10, 10});
     const auto content = std::make_shared<View>();
@@ -104,7 +104,7 @@ TEST(Window, AnnouncesANewContentViewAndStyleMaskOnce)
     EXPECT_EQ(window.styleMask(), 256U);
 }
 
-TEST(Window, HasAScaleFactorOfOneUntilAScreenSaysOtherwise)
+TEST(Window, HasAScaleFactorOfOneUntilItIsOnAScreen)
 {
     Window window;
     EXPECT_EQ(window.backingScaleFactor(), 1);
@@ -112,7 +112,7 @@ TEST(Window, HasAScaleFactorOfOneUntilAScreenSaysOtherwise)
     EXPECT_EQ(window.backingScaleFactor(), 2);
 }
 
-TEST(Window, IgnoresAScaleFactorThatIsNone)
+TEST(Window, IgnoresInvalidScaleFactors)
 {
     Window window;
     window.setBackingScaleFactor(2);

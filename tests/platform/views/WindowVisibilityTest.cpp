@@ -38,7 +38,7 @@ TEST(WindowVisibility, ANewWindowIsNotOnTheScreen)
     EXPECT_EQ(signalsOf(window, [&] { window.close(); }), names(""));
 }
 
-TEST(WindowVisibility, AWindowComesToTheFrontAgainAndAgain)
+TEST(WindowVisibility, AWindowCanComeToTheFrontRepeatedly)
 {
     Window window;
     EXPECT_EQ(signalsOf(window,

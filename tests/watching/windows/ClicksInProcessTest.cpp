@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Real clicks on the buttons of watchers that live in this process, so that a sanitizer sees what becomes of
-// them: a pressed button may end the watcher whose method runs.
+// Real clicks on the buttons of watchers in this process, so that sanitizers check them: a button may destroy
+// the watcher whose method runs.
 #include "platform/views/widgets/WidgetDesktop.h"
 #include "platform/views/widgets/WindowWidget.h"
 #include "tests/harness/Display.h"
@@ -14,7 +14,7 @@ namespace {
 
 class ClicksInProcess : public WatcherTest {
 protected:
-    /// A window on the screen, counting until it is let go.
+    /// A window on the screen, with a count that stays in progress.
     std::shared_ptr<Controller> open()
     {
         serve({"hold"});
@@ -39,7 +39,7 @@ protected:
         return nullptr;
     }
 
-    /// On the middle of the button, until the window is gone.
+    /// Clicks the middle of the button until the window is closed.
     static void click(const Button &button)
     {
         const QRectF place = button.convertToWindow(button.bounds());
@@ -49,7 +49,7 @@ protected:
             QString::number(screen - frame.y() - place.center().y()), QStringLiteral("click"),
             QStringLiteral("1")});
         EXPECT_TRUE(waitUntil([] { return !widget(); }));
-        // What was put off until the click was over.
+        // Work that was queued until the click was handled.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }
@@ -59,7 +59,7 @@ protected:
 
 } // namespace
 
-TEST_F(ClicksInProcess, StopEndsTheWatcherAlsoDuringACount)
+TEST_F(ClicksInProcess, StopEndsTheWatcherDuringACount)
 {
     std::shared_ptr<Controller> watcher = open();
     const std::weak_ptr<Controller> life = watcher;
@@ -72,7 +72,7 @@ TEST_F(ClicksInProcess, StopEndsTheWatcherAlsoDuringACount)
     QCoreApplication::processEvents();
 }
 
-TEST_F(ClicksInProcess, StopEndsTheWatcherBehindACount)
+TEST_F(ClicksInProcess, StopEndsTheWatcherAfterACount)
 {
     std::shared_ptr<Controller> watcher = open();
     m_service->release();
@@ -95,7 +95,7 @@ TEST_F(ClicksInProcess, CloseDuringACountKeepsTheWatcher)
     EXPECT_EQ(wordsOf(*watcher->watchTextFileViewControllerForPopover()), QStringLiteral("•Words: 1"));
 }
 
-TEST_F(ClicksInProcess, EscapeEndsTheWatcherWhereThereIsNoCloseButton)
+TEST_F(ClicksInProcess, EscapeEndsTheWatcherWithoutACloseButton)
 {
     std::shared_ptr<Controller> watcher = open();
     watcher->setShowsCloseButton(false);

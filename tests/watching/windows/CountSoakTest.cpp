@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Saves at moments chosen at random, with the real counting service, whose processes die at random: what the
-// label shows in the end is what the file says. QUILLBAY_SOAK_SAVES says how many saves (40),
-// QUILLBAY_SOAK_SEED which.
+// Saves at random moments, with the real counting service, whose processes are killed at random: in the end
+// the label shows the counts of the file. QUILLBAY_SOAK_SAVES sets the number of saves (default: 40),
+// QUILLBAY_SOAK_SEED the random seed.
 #include "tests/counting_service/CountingServiceTest.h"
 #include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/views/FakeDesktop.h"
@@ -24,25 +24,25 @@ protected:
     {
         preferOnly(everyStatistic);
         m_watcher->watchWithTextFileURL(QUrl::fromLocalFile(m_path));
-        m_activity.setActive(false); // it polls from here on
+        m_activity.setActive(false); // starts polling
     }
 
-    int chosen(int least, int most) { return std::uniform_int_distribution(least, most)(m_random); }
+    int randomNumber(int min, int max) { return std::uniform_int_distribution(min, max)(m_random); }
 
-    /// Serves events for a while of up to so many milliseconds.
-    void dally(int most)
+    /// Processes events for a random time of up to so many milliseconds.
+    void waitAtRandom(int maxTime)
     {
-        for (QDeadlineTimer end(chosen(0, most)); !end.hasExpired();)
+        for (QDeadlineTimer end(randomNumber(0, maxTime)); !end.hasExpired();)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1);
-        if (chosen(0, 1))
-            m_clock.advance(std::chrono::milliseconds(chosen(0, 400)));
+        if (randomNumber(0, 1))
+            m_clock.advance(std::chrono::milliseconds(randomNumber(0, 400)));
     }
 
     void save()
     {
-        m_words = chosen(0, 9) ? chosen(0, 500) : chosen(5'000, 20'000);
+        m_words = randomNumber(0, 9) ? randomNumber(0, 500) : randomNumber(5'000, 20'000);
         const QByteArray text = QByteArray("word ").repeated(m_words);
-        if (chosen(0, 1)) {
+        if (randomNumber(0, 1)) {
             QSaveFile file(m_path);
             ASSERT_TRUE(file.open(QIODevice::WriteOnly));
             file.write(text);
@@ -60,9 +60,10 @@ protected:
         if (!broker)
             return;
         const std::vector<SeenProcess> workers = childrenOf(broker);
-        const bool isWorker = !workers.empty() && chosen(0, 1);
+        const bool isWorker = !workers.empty() && randomNumber(0, 1);
         const pid_t victim = isWorker
-            ? workers.at(static_cast<size_t>(chosen(0, static_cast<int>(workers.size()) - 1))).identifier
+            ? workers.at(static_cast<size_t>(randomNumber(0, static_cast<int>(workers.size()) - 1)))
+                  .identifier
             : broker;
         ++(isWorker ? m_killedWorkers : m_killedBrokers);
         ::kill(victim, SIGKILL);
@@ -74,18 +75,18 @@ protected:
         return *m_watcher->watchTextFileViewControllerForPopover()->wordCounterViewController();
     }
 
-    /// One to three saves and perhaps one death, at moments chosen at random; the last save and one poll
-    /// later the label shows the file.
+    /// One to three saves and perhaps one killed process, at random moments; one poll after the last save the
+    /// label shows the file's count.
     int round()
     {
-        const int saves = chosen(1, 3);
-        const int deathBehind = chosen(0, 2) ? -1 : chosen(0, saves - 1);
+        const int saves = randomNumber(1, 3);
+        const int killAfter = randomNumber(0, 2) ? -1 : randomNumber(0, saves - 1);
         for (int i = 0; i < saves; ++i) {
-            dally(12);
+            waitAtRandom(12);
             save();
-            if (i == deathBehind) {
+            if (i == killAfter) {
                 m_clock.advance(std::chrono::milliseconds(200));
-                dally(8);
+                waitAtRandom(8);
                 killSomebody();
             }
         }
@@ -114,7 +115,7 @@ protected:
 
 } // namespace
 
-TEST_F(CountSoak, TheLabelIsTheFileAfterTheLastSaveAndOnePoll)
+TEST_F(CountSoak, TheLabelShowsTheFileOnePollAfterTheLastSave)
 {
     const int wanted = std::max(qEnvironmentVariableIntValue("QUILLBAY_SOAK_SAVES"), 40);
     int saves = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A watched document that is gone: the alert, its two buttons, and the choice of another file.
+// A watched document that has disappeared: the alert, its two buttons, and the choice of another file.
 #include "tests/watching/windows/WatcherTest.h"
 
 #include "platform/system/FileURL.h"
@@ -41,7 +41,7 @@ TEST_F(FailureTest, BeepsAndAsksWithTheWindowClosed)
     EXPECT_EQ(m_registry.finished, 0);
 }
 
-TEST_F(FailureTest, TheAlertNamesTheFileAsItIsCalledNow)
+TEST_F(FailureTest, TheAlertNamesTheFileByItsPresentName)
 {
     const Controller &watcher = watch(m_path);
     const QString renamed = pathOf(QStringLiteral("<b>book.txt"));
@@ -55,7 +55,7 @@ TEST_F(FailureTest, TheAlertNamesTheFileAsItIsCalledNow)
     EXPECT_EQ(m_desktop.alert().windowTitle, QStringLiteral("<b>book.txt"));
 }
 
-TEST_F(FailureTest, TheAlertNamesAFolderToo)
+TEST_F(FailureTest, TheAlertAlsoNamesAFolder)
 {
     const QString package = pathOf(QStringLiteral("notes.rtfd"));
     writeFile(QStringLiteral("notes.rtfd/TXT.rtf"), "{\\rtf1 Notes}");
@@ -66,7 +66,7 @@ TEST_F(FailureTest, TheAlertNamesAFolderToo)
     EXPECT_EQ(m_desktop.alert().windowTitle, QStringLiteral("notes.rtfd"));
 }
 
-TEST_F(FailureTest, TheAlertComesOnlyAfterTheModelsMessageHasReturned)
+TEST_F(FailureTest, TheAlertOpensAfterTheModelsMessageHasReturned)
 {
     Controller &watcher = watch(m_path);
     watcher.currentlyWatchedTextFileDidFailToLoadAttribedText(*watcher.watchFileModel());
@@ -85,7 +85,7 @@ TEST_F(FailureTest, CloseEndsTheWatcher)
     EXPECT_EQ(m_desktop.numberOfOpenPanels(), 0U);
 }
 
-TEST_F(FailureTest, TheOtherButtonOffersOneFileOfTheKindsThatAreAccepted)
+TEST_F(FailureTest, TheOtherButtonOffersOneFileOfTheAcceptedKinds)
 {
     watchAndLose();
     m_desktop.pressAlertButton(1);
@@ -104,7 +104,7 @@ TEST_F(FailureTest, CancellingTheChoiceEndsTheWatcher)
     EXPECT_THAT(m_registry.watchers, IsEmpty());
 }
 
-TEST_F(FailureTest, AnotherFileIsFollowedWithoutAWindowAndWithoutBeingReadAtOnce)
+TEST_F(FailureTest, AnotherFileIsFollowedWithoutAWindowAndNotReadAtOnce)
 {
     Controller &watcher = watchAndLose();
     const QString other = writeFile(QStringLiteral("other.txt"), "Some other words");
@@ -127,7 +127,7 @@ TEST_F(FailureTest, AnotherFileIsFollowedWithoutAWindowAndWithoutBeingReadAtOnce
     EXPECT_TRUE(watcher.detachableWindowForPopover()->isVisible());
 }
 
-TEST_F(FailureTest, AFileThatCannotBeReadIsAFailureToo)
+TEST_F(FailureTest, AnUnreadableFileIsAFailure)
 {
     watch(m_path);
     writeFile(QStringLiteral("novel.txt"), "\xff\xfe\xfd\x00\x01\x02\x00\x00");
@@ -137,7 +137,7 @@ TEST_F(FailureTest, AFileThatCannotBeReadIsAFailureToo)
     EXPECT_THAT(m_desktop.notes, ElementsAre(QStringLiteral("beep"), m_alertNote));
 }
 
-TEST_F(FailureTest, AWordDocumentThatGoesIsAFailureToo)
+TEST_F(FailureTest, ADeletedWordDocumentIsAFailure)
 {
     const QString path = writeFile(QStringLiteral("novel.docx"), "PK");
     watch(path);
@@ -146,7 +146,7 @@ TEST_F(FailureTest, AWordDocumentThatGoesIsAFailureToo)
     EXPECT_THAT(m_desktop.notes, ElementsAre(QStringLiteral("beep"), m_alertNote));
 }
 
-TEST_F(FailureTest, AWatcherLivesUntilItsAlertIsAnswered)
+TEST_F(FailureTest, AWatcherLivesUntilItsAlertIsClosed)
 {
     const std::weak_ptr<Controller> watcher = watchAndLose().shared_from_this();
     m_registry.watchers.clear();
@@ -157,7 +157,7 @@ TEST_F(FailureTest, AWatcherLivesUntilItsAlertIsAnswered)
     EXPECT_TRUE(watcher.expired());
 }
 
-TEST_F(FailureTest, StoppedWhileItAsksItFinishesAgainAndThatIsAll)
+TEST_F(FailureTest, AWatcherStoppedDuringItsAlertOnlyFinishesAgain)
 {
     Controller &watcher = watchAndLose();
     watcher.watchTextFileViewControllerRequestedStop(nullptr);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// FakeTray is a desktop's tray on the private session bus (StatusNotifierWatcher): it knows the items that
-// have come, and clicks them. Thread: main.  Owner: the test.
+// FakeTray is a desktop's tray on the private session bus (StatusNotifierWatcher): it records the registered
+// items and clicks them.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include "tests/harness/SessionBus.h"
@@ -33,7 +34,7 @@ public:
 
     [[nodiscard]] static bool hasHost() { return true; }
     [[nodiscard]] static int protocolVersion() { return 0; }
-    /// The names on the bus of those that have come.
+    /// The bus names of the registered items.
     [[nodiscard]] QStringList items() const { return m_items; }
 
     void click(const QString &item) const

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Files with names of every kind, from the command and from a file manager's clipboard to the window.
+// Files with unusual names, from the command or a file manager's clipboard to the window.
 #include "platform/system/FileURL.h"
 #include "tests/watching/windows/WatchOnScreen.h"
 
@@ -44,17 +44,17 @@ TEST_F(FileNamesOnScreen, AFileWhoseNameIsNotUtf8IsWatchedFromTheClipboard)
     auto copied = std::make_unique<QMimeData>();
     copied->setData(QStringLiteral("text/uri-list"), url + "\r\n");
     QGuiApplication::clipboard()->setMimeData(copied.release());
-    QProcess command; // this process must serve its events meanwhile
+    QProcess command; // asynchronous: this process must process events meanwhile
     command.start(
         productProgram(QStringLiteral("quillbay")), {QStringLiteral("watch"), QStringLiteral("--clipboard")});
     EXPECT_TRUE(waitUntil([&] { return command.state() == QProcess::NotRunning; }));
     EXPECT_EQ(command.exitCode(), 0) << command.readAllStandardError().toStdString();
-    // The tool that finds windows knows the character only in a locale of UTF-8.
+    // xdotool finds the character only in a UTF-8 locale.
     const QString window = waitForWindowsOf(1, QStringLiteral("caf")).value(0);
     EXPECT_TRUE(titleOf(window).startsWith(QStringLiteral("caf\uFFFD.txt"))) << titleOf(window).toStdString();
 }
 
-TEST_F(FileNamesOnScreen, SignsOfUrlsAndOptionsAreNamesToo)
+TEST_F(FileNamesOnScreen, NamesMayLookLikeUrlsAndOptions)
 {
     QByteArrayList names;
     for (const char *const name :

@@ -16,7 +16,7 @@ protected:
     [[nodiscard]] bool spins() const { return m_panel->activityIndicator()->isAnimating(); }
 };
 
-TEST_F(PanelActivityTest, FollowsTheCountingByItselfAndTellsThePresenter)
+TEST_F(PanelActivityTest, FollowsTheCountingByItselfAndNotifiesThePresenter)
 {
     view();
     setCounting(true);
@@ -25,7 +25,7 @@ TEST_F(PanelActivityTest, FollowsTheCountingByItselfAndTellsThePresenter)
     setCounting(false);
     EXPECT_FALSE(spins());
     EXPECT_THAT(m_presenter.calls, ElementsAre("spins", "rests"));
-    EXPECT_FALSE(m_panel->spinActivityIndicator()) << "that is what others ask for";
+    EXPECT_FALSE(m_panel->spinActivityIndicator()) << "only the state set from outside";
 }
 
 TEST_F(PanelActivityTest, SpinsDuringARealCount)
@@ -43,7 +43,7 @@ TEST_F(PanelActivityTest, SpinsDuringARealCount)
     EXPECT_EQ(m_presenter.calls.back(), "rests");
 }
 
-TEST_F(PanelActivityTest, DoesNotFollowWhereItWasNotAskedTo)
+TEST_F(PanelActivityTest, DoesNotFollowUnlessRequested)
 {
     makePanel(false);
     EXPECT_FALSE(m_panel->shouldAutosyncActivityIndicator());
@@ -54,7 +54,7 @@ TEST_F(PanelActivityTest, DoesNotFollowWhereItWasNotAskedTo)
     EXPECT_THAT(m_presenter.calls, IsEmpty());
 }
 
-TEST_F(PanelActivityTest, AnotherPanelOfStatisticsIsNotFollowed)
+TEST_F(PanelActivityTest, DoesNotFollowAnotherStatisticsPanel)
 {
     view();
     const auto former = m_panel->wordCounterViewController();
@@ -64,7 +64,7 @@ TEST_F(PanelActivityTest, AnotherPanelOfStatisticsIsNotFollowed)
     EXPECT_THAT(m_presenter.calls, IsEmpty());
 }
 
-TEST_F(PanelActivityTest, IsDrivenFromOutsideWithoutTellingThePresenter)
+TEST_F(PanelActivityTest, IsDrivenFromOutsideWithoutNotifyingThePresenter)
 {
     makePanel(false);
     view();
@@ -81,7 +81,7 @@ TEST_F(PanelActivityTest, ThePresentStateFromOutsideStartsAndStopsNothing)
     view();
     setCounting(true);
     m_panel->setSpinActivityIndicator(false);
-    EXPECT_TRUE(spins()) << "it is not spinning from outside";
+    EXPECT_TRUE(spins()) << "the state set from outside is unchanged";
     setCounting(false);
     m_panel->setSpinActivityIndicator(true);
     m_panel->activityIndicator()->stopAnimation();
@@ -89,7 +89,7 @@ TEST_F(PanelActivityTest, ThePresentStateFromOutsideStartsAndStopsNothing)
     EXPECT_FALSE(spins());
 }
 
-TEST_F(PanelActivityTest, NothingIsFollowedOnceThePanelHasGone)
+TEST_F(PanelActivityTest, StopsFollowingWhenThePanelIsDestroyed)
 {
     const std::shared_ptr<View> keptView = m_panel->view();
     const auto statisticsPanel = m_panel->wordCounterViewController();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The title of the watch panel, and what its buttons say to the presenter.
+// The title of the watch panel, and the messages of its buttons to the presenter.
 #include "tests/watching/windows/WatchPanelTest.h"
 
 using ::testing::ElementsAre;
@@ -19,7 +19,7 @@ TEST_F(PanelButtonsTest, TheTitleIsShownAndKept)
     EXPECT_EQ(m_panel->title(), QStringLiteral("novel.txt"));
 }
 
-TEST_F(PanelButtonsTest, NoTitleIsAnEmptyLabelThatIsVisible)
+TEST_F(PanelButtonsTest, AnAbsentTitleIsAnEmptyVisibleLabel)
 {
     m_panel->setTitle(QStringLiteral("novel.txt"));
     m_panel->titleForFileBeingWatchedLabel()->setHidden(true);
@@ -29,7 +29,7 @@ TEST_F(PanelButtonsTest, NoTitleIsAnEmptyLabelThatIsVisible)
     EXPECT_EQ(m_panel->title(), QString());
 }
 
-TEST_F(PanelButtonsTest, TheButtonsTellThePresenterAndDoNothingElse)
+TEST_F(PanelButtonsTest, TheButtonsOnlyNotifyThePresenter)
 {
     putIntoWindow();
     m_window->orderFront();
@@ -48,7 +48,7 @@ TEST_F(PanelButtonsTest, WithoutAPresenterTheButtonsDoNothing)
     EXPECT_THAT(m_presenter.calls, IsEmpty());
 }
 
-TEST_F(PanelButtonsTest, ThePanelMayGoWhileItsButtonIsPressed)
+TEST_F(PanelButtonsTest, ThePanelMayBeDestroyedByItsButton)
 {
     for (const auto button :
         {&WatchTextFileViewController::closeButton, &WatchTextFileViewController::stopButton}) {
@@ -65,7 +65,7 @@ TEST_F(PanelButtonsTest, ThePanelMayGoWhileItsButtonIsPressed)
     }
 }
 
-TEST_F(PanelButtonsTest, TheCloseButtonIsShownUntilToldOtherwise)
+TEST_F(PanelButtonsTest, TheCloseButtonIsShownByDefault)
 {
     EXPECT_TRUE(m_panel->showsCloseButton());
     EXPECT_FALSE(m_panel->closeButton()->isHidden());
@@ -76,7 +76,7 @@ TEST_F(PanelButtonsTest, TheCloseButtonIsShownUntilToldOtherwise)
     EXPECT_FALSE(m_panel->closeButton()->isHidden());
 }
 
-TEST_F(PanelButtonsTest, WhatIsSaidOfTheCloseButtonBeforeTheViewLoadsAppliesThen)
+TEST_F(PanelButtonsTest, ASettingOfTheCloseButtonBeforeTheViewLoadsAppliesThen)
 {
     makePanel(false);
     m_panel->setShowsCloseButton(false);

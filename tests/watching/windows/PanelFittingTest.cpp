@@ -9,7 +9,7 @@ using ::testing::Not;
 
 class PanelFittingTest : public WatchPanelTest {
 protected:
-    // Of eight labels 17 high, 11 apart, with 5.5 below the last.
+    // Eight labels 17 points high, 11 apart, with 5.5 below the last.
     static constexpr double statisticsHeight = 8 * 17 + 7 * 11 + 5;
 
     PanelFittingTest()
@@ -33,7 +33,7 @@ TEST_F(PanelFittingTest, TheWindowIsAsHighAsButtonsAndStatistics)
     EXPECT_EQ(view().frame(), QRectF(0, 0, 210, 30 + statisticsHeight + 22)) << "the view follows";
 }
 
-TEST_F(PanelFittingTest, AStatisticThatHidesMakesTheWindowLowerAtItsTop)
+TEST_F(PanelFittingTest, AHiddenStatisticLowersTheWindowAtItsTop)
 {
     putIntoWindow();
     fit();
@@ -44,7 +44,7 @@ TEST_F(PanelFittingTest, AStatisticThatHidesMakesTheWindowLowerAtItsTop)
     EXPECT_EQ(m_window->frame().height(), before.height() - 6 * 28);
 }
 
-TEST_F(PanelFittingTest, ALabelAsWideAsThePanelWidensItByTen)
+TEST_F(PanelFittingTest, ALabelAsWideAsThePanelWidensThePanelByTen)
 {
     putIntoWindow();
     setLabelWidths({80, 80, 210, 80, 80, 80, 80, 80});
@@ -52,7 +52,7 @@ TEST_F(PanelFittingTest, ALabelAsWideAsThePanelWidensItByTen)
     EXPECT_EQ(m_window->frame().width(), 220);
 }
 
-TEST_F(PanelFittingTest, ALabelThatFitsLeavesTheWidth)
+TEST_F(PanelFittingTest, ALabelThatFitsDoesNotChangeTheWidth)
 {
     putIntoWindow();
     setLabelWidths({80, 80, 209.9, 80, 80, 80, 80, 80});
@@ -62,7 +62,7 @@ TEST_F(PanelFittingTest, ALabelThatFitsLeavesTheWidth)
 
 TEST_F(PanelFittingTest, OfSeveralWideLabelsTheLastOneDecidesAtEachFitting)
 {
-    // Shown by a pop-over, whose panel is fitted once.
+    // In a pop-over, whose panel is fitted once.
     Popover popover(m_desktop);
     m_presenter.popover = &popover;
     std::vector<double> widths;
@@ -72,7 +72,7 @@ TEST_F(PanelFittingTest, OfSeveralWideLabelsTheLastOneDecidesAtEachFitting)
     fit();
     ASSERT_FALSE(widths.empty());
     EXPECT_EQ(widths.front(), 250);
-    EXPECT_EQ(popover.contentSize().width(), 300) << "the change of the frame fits it once more";
+    EXPECT_EQ(popover.contentSize().width(), 300) << "the new frame causes another fitting";
 }
 
 TEST_F(PanelFittingTest, HiddenWideLabelsAndNarrowLabelsNeverChangeTheWidth)
@@ -91,7 +91,7 @@ TEST_F(PanelFittingTest, HiddenWideLabelsAndNarrowLabelsNeverChangeTheWidth)
     EXPECT_EQ(m_window->frame().width(), 410) << "it never shrinks";
 }
 
-TEST_F(PanelFittingTest, TheRightSizeIsLeftAloneButTheLabelsAreCentred)
+TEST_F(PanelFittingTest, WithTheRightSizeOnlyTheLabelsAreCentred)
 {
     putIntoWindow();
     fit();
@@ -140,7 +140,7 @@ TEST_F(PanelFittingTest, APopoverAndTheViewChangeTogether)
     EXPECT_THAT(m_presenter.calls, Contains("asked for the pop-over"));
 }
 
-TEST_F(PanelFittingTest, AWindowIsLeftAloneWhereAPopoverShowsThePanel)
+TEST_F(PanelFittingTest, TheWindowStaysIfAPopoverShowsThePanel)
 {
     putIntoWindow();
     const QRectF before = m_window->frame();
@@ -150,7 +150,7 @@ TEST_F(PanelFittingTest, AWindowIsLeftAloneWhereAPopoverShowsThePanel)
     EXPECT_EQ(m_window->frame(), before);
 }
 
-TEST_F(PanelFittingTest, WithoutPresenterAndWindowNothingIsResized)
+TEST_F(PanelFittingTest, ResizesNothingWithoutPresenterAndWindow)
 {
     m_panel->setDelegate(nullptr);
     fit();
@@ -170,7 +170,7 @@ TEST_F(PanelFittingTest, EveryNewTextOfTheLabelsFitsTheWindow)
     putIntoWindow();
     m_panel->wordCounterViewController()->updateInterfaceWithPrepopulatedStats({1, 2, 3, 4, 5, 6, 7, 8});
     EXPECT_EQ(m_window->frame().height(), 30 + statisticsHeight + 22);
-    // Where the labels, the row and the button lie in it.
+    // The places of the labels, the row and the button.
     EXPECT_EQ(statistics().frame().y(), 29);
     EXPECT_EQ(labels()[7]->frame().y(), 5);
     EXPECT_EQ(m_panel->closeButton()->frame().y(), m_window->frame().height() - 22 + 3);

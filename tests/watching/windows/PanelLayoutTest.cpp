@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the controls of the watch panel lie in a view of a given size.
+// The places of the watch panel's controls in a view of a given size.
 #include "tests/watching/windows/WatchPanelTest.h"
 
 #include <cmath>
@@ -24,11 +24,11 @@ TEST_F(PanelLayoutTest, PlacesEveryControlToThePoint)
     view().setFrame({0, 0, 300, 400});
     EXPECT_EQ(m_panel->stopButton()->frame(), QRectF(110, 0, 80, 30));
     EXPECT_EQ(m_panel->closeButton()->frame(), QRectF(278, 381, 24, 22));
-    // The middle of the close button is at 392.
+    // The close button's centre is at 392.
     EXPECT_EQ(m_panel->titleForFileBeingWatchedLabel()->frame(), QRectF(70, 383, 160, 16));
     EXPECT_EQ(m_panel->horizontalLine()->frame(), QRectF(0, 383 - 2 * 2 + 1, 300, 2));
     EXPECT_EQ(m_panel->activityIndicator()->frame(), QRectF(6, 382, 16, 16));
-    EXPECT_EQ(statistics().frame().topLeft(), QPointF(0, 29)) << "one point over the stop button";
+    EXPECT_EQ(statistics().frame().topLeft(), QPointF(0, 29)) << "overlaps the stop button by one point";
     EXPECT_EQ(statistics().frame().width(), 300);
 }
 
@@ -56,10 +56,10 @@ TEST_F(PanelLayoutTest, EverySubviewLiesOnWholePoints)
     EXPECT_EQ(m_panel->closeButton()->frame().topLeft(), QPointF(279, 314)) << "279.7, 314.3";
 }
 
-TEST_F(PanelLayoutTest, TheTitleFollowsTheCloseButtonBeforeThatIsRounded)
+TEST_F(PanelLayoutTest, TheTitleUsesTheUnroundedPlaceOfTheCloseButton)
 {
     view().setFrame({0, 0, 300, 333.9});
-    // The close button lies at 314.9, its middle at 325.9, the title's at 324.9.
+    // The close button is at 314.9 with its centre at 325.9, the title's centre at 324.9.
     EXPECT_EQ(m_panel->closeButton()->frame().y(), 314);
     EXPECT_EQ(m_panel->titleForFileBeingWatchedLabel()->frame().y(), 316);
     EXPECT_EQ(m_panel->activityIndicator()->frame().y(), 315);

@@ -9,7 +9,7 @@ class SpokenCountTest : public WatcherTest {
 protected:
     SpokenCountTest() { speakInto(m_notes); }
 
-    /// Saves the document once more, and waits until that is counted.
+    /// Saves the document again and waits for its count.
     void save(Controller &watcher)
     {
         const size_t before = m_service->requests().size();
@@ -19,8 +19,7 @@ protected:
         waitForCount(watcher);
     }
 
-    /// Every phrase so far. Phrases are on their way when a count is done, and may overtake each other: waits
-    /// for so many.
+    /// Every phrase so far, once there are so many: phrases arrive after their counts, in any order.
     [[nodiscard]] QStringList spoken(qsizetype number) const
     {
         const auto phrases = [this] {
@@ -59,7 +58,7 @@ TEST_F(SpokenCountTest, AnEmptyDocumentIsNeverAnnouncedAtFirst)
     EXPECT_THAT(spoken(1), ElementsAre(QStringLiteral("1:one words")));
 }
 
-TEST_F(SpokenCountTest, AnEmptiedDocumentIsSilentButRemembered)
+TEST_F(SpokenCountTest, AnEmptiedDocumentIsNotSpokenButRemembered)
 {
     serve({"answer 5 0 0 0 0 0 0 0", "answer 0 0 0 0 0 0 0 0", "answer 5 0 0 0 0 0 0 0"});
     Controller &watcher = watch(m_path);
@@ -85,14 +84,14 @@ TEST_F(SpokenCountTest, WithoutThePreferenceNothingIsSpokenNorRemembered)
     EXPECT_EQ(spoken(1).size(), 1);
 }
 
-TEST_F(SpokenCountTest, TheCountOfAWordDocumentIsSpokenToo)
+TEST_F(SpokenCountTest, TheCountOfAWordDocumentIsSpoken)
 {
     serve({"answer 7 0 0 0 0 0 0 0"});
     watch(writeFile(QStringLiteral("novel.docx"), "PK"));
     EXPECT_THAT(spoken(1), ElementsAre(QStringLiteral("1:seven words")));
 }
 
-TEST_F(SpokenCountTest, ACommandThatCannotBeStartedIsPresentedOnceAndTheCountsStay)
+TEST_F(SpokenCountTest, ACommandThatCannotBeStartedIsReportedOnceAndTheCountsStay)
 {
     m_surroundings.speechLaunchPath = QStringLiteral("/nonexistent/say");
     serve({"answer 7 0 0 0 0 0 0 0", "answer 8 0 0 0 0 0 0 0"});
@@ -105,5 +104,5 @@ TEST_F(SpokenCountTest, ACommandThatCannotBeStartedIsPresentedOnceAndTheCountsSt
     EXPECT_EQ(watcher.lastCalledOutWordCount(), 7U);
     save(watcher);
     EXPECT_EQ(watcher.lastCalledOutWordCount(), 8U);
-    EXPECT_EQ(m_desktop.notes.size(), 1) << "it is reported once, not at each save";
+    EXPECT_EQ(m_desktop.notes.size(), 1) << "reported once, not at each save";
 }

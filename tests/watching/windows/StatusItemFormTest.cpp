@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The watcher with an item in the status bar, its pop-over and its detached window.
+// The watcher with a status item, its pop-over and its detached window.
 #include "tests/watching/windows/WatcherTest.h"
 
 using ::testing::ElementsAre;
@@ -8,7 +8,7 @@ using namespace std::chrono_literals;
 
 class StatusItemFormTest : public WatcherTest {
 protected:
-    /// As if the user had dragged the pop-over off.
+    /// Like the user dragging the pop-over off.
     static std::shared_ptr<Window> detach(Controller &watcher)
     {
         if (!watcher.popover()->isShown())
@@ -20,7 +20,7 @@ protected:
     }
 };
 
-TEST_F(StatusItemFormTest, HasAnItemWithAPictureAndAPopoverWithThePanel)
+TEST_F(StatusItemFormTest, HasAnItemWithAnIconAndAPopoverWithThePanel)
 {
     Controller &watcher = makeStatusItemForm();
     ASSERT_THAT(m_statusBar.items, ElementsAre(watcher.statusItem().get()));
@@ -33,10 +33,10 @@ TEST_F(StatusItemFormTest, HasAnItemWithAPictureAndAPopoverWithThePanel)
     EXPECT_EQ(watcher.popover()->delegate(), &watcher);
     EXPECT_FALSE(watcher.detachableWindowForPopover());
     EXPECT_FALSE(watcher.contentViewControllerForDetachableWindow());
-    watcher.showWindow(); // there is none
+    watcher.showWindow(); // has no window
 }
 
-TEST_F(StatusItemFormTest, ThePopoverShowsItselfAfterThreeTenthsOfASecond)
+TEST_F(StatusItemFormTest, ThePopoverOpensAfter300Milliseconds)
 {
     Controller &watcher = makeStatusItemForm();
     m_clock.advance(299ms);
@@ -46,7 +46,7 @@ TEST_F(StatusItemFormTest, ThePopoverShowsItselfAfterThreeTenthsOfASecond)
     EXPECT_EQ(statisticsOf(watcher).wordCounter()->formattedStringStyle(), 1);
 }
 
-TEST_F(StatusItemFormTest, LivesUntilThePopoverHasShownItself)
+TEST_F(StatusItemFormTest, LivesUntilThePopoverHasOpened)
 {
     const std::weak_ptr<Controller> watcher = makeStatusItemForm().shared_from_this();
     m_registry.watchers.clear();
@@ -56,7 +56,7 @@ TEST_F(StatusItemFormTest, LivesUntilThePopoverHasShownItself)
     EXPECT_THAT(m_statusBar.items, IsEmpty());
 }
 
-TEST_F(StatusItemFormTest, AClickShowsThePopoverAndASecondOneLeavesIt)
+TEST_F(StatusItemFormTest, AClickShowsThePopoverAndASecondOneKeepsIt)
 {
     Controller &watcher = makeStatusItemForm();
     watcher.statusItem()->setButtonFrame(QRectF(600, 776, 24, 24));
@@ -70,7 +70,7 @@ TEST_F(StatusItemFormTest, AClickShowsThePopoverAndASecondOneLeavesIt)
     EXPECT_EQ(watcher.popover()->window()->frame(), frame);
 }
 
-TEST_F(StatusItemFormTest, WhereTheDesktopDoesNotSayWhereTheItemIsThePopoverIsAtThePointer)
+TEST_F(StatusItemFormTest, ThePopoverIsAtThePointerIfTheItemsPlaceIsUnknown)
 {
     m_desktop.pointer = {640, 790};
     Controller &watcher = makeStatusItemForm();
@@ -92,7 +92,7 @@ TEST_F(StatusItemFormTest, ThePanelFitsThePopover)
     EXPECT_EQ(watcher.popover()->contentSize(), panel->view()->frame().size());
 }
 
-TEST_F(StatusItemFormTest, ThePopoverDraggedOffBecomesAWindow)
+TEST_F(StatusItemFormTest, DraggingThePopoverOffOpensTheWindow)
 {
     serve({"answer 12 2 3 4 5 6 7 8"});
     Controller &watcher = makeStatusItemForm();
@@ -139,13 +139,13 @@ TEST_F(StatusItemFormTest, PopoverAndWindowAreNeverShownTogether)
     EXPECT_TRUE(watcher.popover()->isShown());
 }
 
-TEST_F(StatusItemFormTest, AWindowIsNotMadeByAPopoverThatIsOnlyNudged)
+TEST_F(StatusItemFormTest, ASmallDragMakesNoWindow)
 {
     Controller &watcher = makeStatusItemForm();
     watcher.statusItem()->performClick();
     Window &window = *watcher.popover()->window();
     window.setFrame(window.frame().translated(200, 0), false, false);
-    window.setFrame(window.frame().translated(-195, 0), false, false); // back before it rested
+    window.setFrame(window.frame().translated(-195, 0), false, false); // back before the detach delay
     EXPECT_FALSE(watcher.detachableWindowForPopover());
     EXPECT_TRUE(watcher.popover()->isShown());
 }
@@ -168,7 +168,7 @@ TEST_F(StatusItemFormTest, CountsAndIndicatorAreMirroredIntoTheWindow)
         (QBYWordCounterStats{1, 2, 3, 4, 5, 6, 7, 8}));
     EXPECT_EQ(titleOf(*panel), QStringLiteral("novel.txt"));
     watcher.didChangeActivityIndicatorAnimationState(*panel, true);
-    EXPECT_FALSE(panel->spinActivityIndicator()) << "the window's own panel drives nothing";
+    EXPECT_FALSE(panel->spinActivityIndicator()) << "the window's own panel drives no other panel";
 }
 
 TEST_F(StatusItemFormTest, CloseHidesBothAndKeepsTheItem)

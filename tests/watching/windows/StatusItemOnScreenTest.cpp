@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The watcher with an item in the tray, in a program of its own with real windows.
+// The watcher with an item in the tray, in a separate program with real windows.
 #include "tests/watching/windows/FakeTray.h"
 #include "tests/watching/windows/WatchOnScreen.h"
 
@@ -13,7 +13,7 @@ protected:
         m_host.withVariable("QT_QPA_PLATFORM", "xcb");
     }
 
-    /// The only window that there is now.
+    /// The only window at present.
     static QString onlyWindow()
     {
         QStringList shown;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A watched file that is gone, as the user has it: the alert and the choice of another file.
+// A watched file that has disappeared, on the screen: the alert and the choice of another file.
 #include "speech/ApplicationExtension.h"
 #include "tests/watching/windows/WatchOnScreen.h"
 
@@ -10,7 +10,7 @@ namespace {
 const QString errorTitle = QStringLiteral("Quillbay");
 constexpr std::chrono::milliseconds pauseOfUser{500};
 
-/// The user's editor, with the keyboard.
+/// The user's editor, with the focus.
 class Editor {
 public:
     Editor()
@@ -47,7 +47,7 @@ QByteArray stateOf(const QString &window)
 
 class WatchFailureOnScreen : public WatchOnScreen {
 protected:
-    /// Loses the file that is watched; the alert, which is titled with its name.
+    /// Deletes the watched file and returns its alert, which has the file's name as title.
     QString lose()
     {
         const QString window = open(m_novel, 3);
@@ -63,7 +63,7 @@ protected:
         }));
         return found.value(0);
     }
-    /// As a click on its title bar does. Its keys answer after a second.
+    /// Activates the alert like a click on its title bar. Keys answer it after a second.
     static void activate(const QString &window)
     {
         EXPECT_TRUE(waitUntil([&] {
@@ -79,7 +79,7 @@ protected:
             QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST")})
             .contains(window.toLatin1());
     }
-    /// Presses the key until the alert is closed: it takes none in its first second.
+    /// Presses the key until the alert is closed: it ignores keys in its first second.
     static void answer(const QString &alert, const char *key)
     {
         activate(alert);
@@ -91,7 +91,7 @@ protected:
         }));
     }
 
-    /// Presses the second button of the alert, until the file chooser has the keyboard.
+    /// Presses the second button of the alert and waits until the file chooser has the focus.
     static void chooseAnother(const QString &alert)
     {
         answer(alert, "Escape");
@@ -142,11 +142,12 @@ TEST_F(WatchFailureOnScreen, CancellingTheChoiceEndsTheWatcher)
     waitForEnd(process);
 }
 
-TEST_F(WatchFailureOnScreen, ASpeechCommandThatIsMissingIsToldAndTheCountsGoOn)
+TEST_F(WatchFailureOnScreen, AMissingSpeechCommandIsReportedAndTheCountsGoOn)
 {
     if (QFile::exists(QBYExtension::speechLaunchPath()))
         GTEST_SKIP() << "the system has the command";
-    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch(); // which would set it back
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch(); // otherwise the launch would reset
+                                                                           // it
     QBYUserDefaultsController::setSayWordCountOutLoudOnSaveInWatchFileMode(true);
     EXPECT_EQ(watch({QFile::encodeName(m_novel)}).exitStatus, 0);
     const QString message = waitForWindows(1, errorTitle).value(0);

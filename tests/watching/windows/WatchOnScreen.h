@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// WatchOnScreen is the fixture of tests that watch files as the user does: by the command, with the real
-// programs and real windows. Thread: main.
+// WatchOnScreen is the fixture of tests that watch files like the user: by the command, with the real
+// programs and real windows.
+// Thread: main.
 #pragma once
 
 #include "tests/front_end/ProviderTest.h"
@@ -12,7 +13,7 @@
 #include <QRegularExpression>
 #include <QWidget>
 
-/// Another application's window, which the user works in when it is clicked.
+/// The window of another application, which takes the focus when clicked.
 class OtherWindow {
 public:
     OtherWindow()
@@ -23,7 +24,7 @@ public:
         m_window.show();
         EXPECT_TRUE(waitUntil([this] { return m_window.isActiveWindow(); }));
     }
-    /// Takes the keyboard.
+    /// Takes the focus.
     void click() const
     {
         TestDisplay::xdotool({QStringLiteral("mousemove"), QStringLiteral("100"), QStringLiteral("100"),
@@ -43,10 +44,10 @@ protected:
     {
         return ChildProcess(productProgram(QStringLiteral("quillbay"))).run(QByteArrayList{"watch"} + files);
     }
-    /// The identifiers of the windows of files with that name; after it their titles name the program.
+    /// The identifiers of the windows of files with that name; the program's name follows in their titles.
     static QStringList windowsOf(const QString &fileName)
     {
-        QProcess xdotool; // fails where it finds none
+        QProcess xdotool; // fails if it finds none
         xdotool.start(QStringLiteral("xdotool"),
             {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
                 u'^' + QRegularExpression::escape(fileName)});
@@ -68,7 +69,7 @@ protected:
             << ": " << found.join(u' ').toStdString();
         return found;
     }
-    /// The window of the file, once it shows that many words and has the keyboard.
+    /// The window of the file, once it shows that many words and has the focus.
     static QString open(const QString &path, int words)
     {
         const ChildProcess::Outcome outcome = watch({QFile::encodeName(path)});
@@ -78,13 +79,13 @@ protected:
         EXPECT_TRUE(shows(words));
         return window;
     }
-    /// Whether the window with the keyboard comes to show that many words.
+    /// Waits until the window with the focus shows that many words.
     static bool shows(int words)
     {
         const QRegularExpression line(QStringLiteral("-Word(s| Count): %1\\b").arg(words));
         QGuiApplication::clipboard()->clear();
         const bool found = waitUntil([&] {
-            // First what the last key has copied: that is on its way when the key is.
+            // Waits for the copy of the last key press first.
             if (QGuiApplication::clipboard()->text().contains(line))
                 return true;
             press("ctrl+c");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// WatchPanelTest is the fixture of the tests of the watch panel: the panel of the program, its presenter, and
-// labels of known sizes; nothing is on a screen.
+// WatchPanelTest is the fixture of the tests of the watch panel: the panel, its presenter, and labels of
+// known sizes, without a screen.
+// Thread: main.
 #pragma once
 
 #include "platform/views/Popover.h"
@@ -10,7 +11,7 @@
 #include "tests/presentation/StatsPanel.h"
 #include "watching/windows/WatchTextFileViewController.h"
 
-/// Notes down what the panel says: "close", "stop", "spins", "rests", "asked for the pop-over".
+/// Records the panel's messages: "close", "stop", "spins", "rests", "asked for the pop-over".
 class RecordingPresenter : public WatchTextFileViewControllerDelegate {
 public:
     void watchTextFileViewControllerRequestedClose(WatchTextFileViewController &panel) override
@@ -64,7 +65,7 @@ protected:
         m_presenter.expectedPanel = m_panel.get();
     }
 
-    /// Puts the panel's view into a window of its size, at (100, 200).
+    /// Puts the panel's view into a window of the same size, at (100, 200).
     void putIntoWindow()
     {
         m_window = std::make_shared<Window>(QRectF({100, 200}, view().frame().size()));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window of a watched file as the user has it: real saves, clicks and keys.
+// The window of a watched file on the screen: real saves, clicks and keys.
 #include "tests/harness/FakePortal.h"
 #include "tests/watching/windows/WatchOnScreen.h"
 
@@ -88,7 +88,7 @@ TEST_F(WatchWindowOnScreen, ThereIsNoCloseButtonAndTheKeysForClosingStop)
     for (const char *const key : {"Escape", "ctrl+w", "alt+F4"}) {
         const QString window = open(m_novel, 3);
         const pid_t process = provider();
-        click(window, rectOf(window).width() - 10, 10); // where the button would be
+        click(window, rectOf(window).width() - 10, 10); // the place of a hidden button
         EXPECT_TRUE(shows(3));
         EXPECT_TRUE(waitUntil([&] {
             const QStringList shown = windowsOf(QStringLiteral("novel.txt"));
@@ -116,7 +116,7 @@ TEST_F(WatchWindowOnScreen, FollowsSavesWhileTheUserWorksElsewhere)
     document.click();
     shell("echo four five >> novel.txt");
     const QRect rect = rectOf(window);
-    // Not its label: that would be a drag.
+    // Not at a label, where a press starts a drag.
     TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(rect.x() + 4),
         QString::number(rect.y() + 60), QStringLiteral("click"), QStringLiteral("1")});
     EXPECT_TRUE(waitUntil([&] { return activeWindow() == window; }));
@@ -132,7 +132,7 @@ TEST_F(WatchWindowOnScreen, RelativePathsAndManyFilesAreWatched)
             .run({"watch", "novel.txt", "./second file.txt", "../files//./novel.txt"});
     EXPECT_EQ(outcome.exitStatus, 0) << outcome.errors.toStdString();
     waitForWindowsOf(1, QStringLiteral("second file.txt"));
-    // ".." is left to the file system: another path, another watcher.
+    // ".." is resolved by the file system only: another path means another watcher.
     waitForWindowsOf(2, QStringLiteral("novel.txt"));
 }
 
@@ -159,7 +159,7 @@ TEST_F(WatchWindowOnScreen, FilesThatWereCopiedInAFileManagerAreWatched)
     copied->setData(
         QStringLiteral("x-special/gnome-copied-files"), "copy\n" + QUrl::fromLocalFile(m_novel).toEncoded());
     QGuiApplication::clipboard()->setMimeData(copied.release());
-    // The files are asked of this process, which must serve its events.
+    // This process provides the files, so it must process events.
     QProcess command;
     command.start(
         productProgram(QStringLiteral("quillbay")), {QStringLiteral("watch"), QStringLiteral("--clipboard")});
@@ -168,7 +168,7 @@ TEST_F(WatchWindowOnScreen, FilesThatWereCopiedInAFileManagerAreWatched)
     waitForWindowsOf(1, QStringLiteral("novel.txt"));
 }
 
-TEST_F(WatchWindowOnScreen, WhatCannotBeWatchedIsToldByTheCommand)
+TEST_F(WatchWindowOnScreen, TheCommandReportsFilesThatCannotBeWatched)
 {
     ChildProcess::Outcome outcome = watch({});
     EXPECT_EQ(outcome.exitStatus, 2);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// WatcherTest is the fixture of the tests of watchers: a document, a counting service that answers as
-// planned, a desktop and a status bar without a screen, a fake clock, a speech command that notes down what
-// it is told.
+// WatcherTest is the fixture of the tests of watchers: a document, a counting service with planned answers, a
+// desktop and a tray without a screen, a fake clock, a speech command that records its arguments.
+// Thread: main.
 #pragma once
 
 #include "tests/harness/QuillbayTest.h"
@@ -15,7 +15,7 @@
 #include <QCoreApplication>
 #include <QDir>
 
-/// Owns the watchers, as the program's delegate does.
+/// Owns the watchers, like the program's delegate.
 class WatcherRegistry : public WatchTextFileMenuBarControllerDelegate {
 public:
     void watchTextFileMenuBarControllerDidFinish(WatchTextFileMenuBarController &controller) override
@@ -33,7 +33,7 @@ protected:
     using Controller = WatchTextFileMenuBarController;
 
     WatcherTest() { preferOnly(everyStatistic); }
-    /// Lets every watcher go before what it refers to: work that is due holds some.
+    /// Destroys all watchers before what they refer to; pending work holds some.
     ~WatcherTest() override
     {
         m_clock.advance(Controller::popoverDelay);
@@ -48,7 +48,7 @@ protected:
 
     Controller &makeWindowForm() { return keep(Controller::initWithoutMenuItem(m_surroundings)); }
     Controller &makeStatusItemForm() { return keep(Controller::init(m_surroundings)); }
-    /// A window that has watched the file and shown its first counts.
+    /// A window that watches the file and shows its first counts.
     Controller &watch(const QString &path)
     {
         Controller &watcher = makeWindowForm();
@@ -63,14 +63,14 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return !statistics.isAsyncCountOperationInProgress(); }));
     }
 
-    /// Serves the events of what has happened, and lets time pass.
+    /// Processes pending events and lets time pass.
     void pass(std::chrono::milliseconds duration = std::chrono::seconds(1))
     {
         QCoreApplication::processEvents();
         m_clock.advance(duration);
         QCoreApplication::processEvents();
     }
-    /// Until the alert of a failure is up.
+    /// Waits until the alert of a failure is open.
     void waitForAlert()
     {
         EXPECT_TRUE(waitUntil([this] {
@@ -83,7 +83,7 @@ protected:
     {
         return *watcher.watchTextFileViewControllerForPopover()->wordCounterViewController();
     }
-    /// What a panel shows of the words.
+    /// A panel's text for the word count.
     static QString wordsOf(const WatchTextFileViewController &panel)
     {
         return panel.wordCounterViewController()->wordCountTextField()->stringValue();
@@ -97,7 +97,7 @@ protected:
         return world().root() + QStringLiteral("/files/") + name;
     }
 
-    /// Has word counts spoken by a program that notes down its arguments.
+    /// Makes a program that records its arguments the speech command.
     void speakInto(const QString &notes)
     {
         const QString command = writeFile(QStringLiteral("say"),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a watcher makes of its document: the first read, the counts after each save, the title.
+// A watcher and its document: the first read, the counts after each save, the title.
 #include "tests/watching/windows/WatcherTest.h"
 
 #include <QCryptographicHash>
@@ -81,7 +81,7 @@ TEST_F(WatchingTest, AWordDocumentIsHandedToTheServiceAsItIs)
     EXPECT_EQ(requests[1].hash, hashOf(bytes + bytes));
 }
 
-TEST_F(WatchingTest, ASaveOfAWordDocumentDuringACountIsToldAgainOnceThePanelIsFree)
+TEST_F(WatchingTest, ASaveOfAWordDocumentDuringACountIsReportedAgainAfterwards)
 {
     serve({"hold", "hold", "answer 9 0 0 0 0 0 0 0"});
     const QString path = writeFile(QStringLiteral("novel.docx"), "PK 1");
@@ -107,7 +107,7 @@ TEST_F(WatchingTest, ASaveOfAWordDocumentDuringACountIsToldAgainOnceThePanelIsFr
     EXPECT_EQ(m_clock.runningTimers(), 0) << "nothing is polled";
 }
 
-TEST_F(WatchingTest, ASaveThatWasDroppedIsNotToldOfAnotherDocument)
+TEST_F(WatchingTest, ADroppedSaveIsNotReportedForAnotherDocument)
 {
     serve({"hold", "answer 9 0 0 0 0 0 0 0"});
     Controller &watcher = makeWindowForm();

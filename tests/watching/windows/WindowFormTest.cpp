@@ -178,7 +178,7 @@ TEST_F(WindowFormTest, TheStatisticsAreCopiedAsTextAndAsAWebPage)
     EXPECT_EQ(QString::fromUtf8(content.at(QStringLiteral("text/plain"))).trimmed().split(u'\n').size(), 2);
 }
 
-TEST_F(WindowFormTest, NewTextMetricsFitTheWindowAnew)
+TEST_F(WindowFormTest, NewTextMetricsFitTheWindowAgain)
 {
     Controller &watcher = makeWindowForm();
     const auto panel = watcher.watchTextFileViewControllerForPopover();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// status_item_host FILE…: watches each file from an item in the status bar. It ends with the last of them.
+// status_item_host FILE…: watches each file with a status item. Exits after the last watcher.
 #include "platform/views/widgets/ApplicationActivitySource.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/TrayStatusBar.h"

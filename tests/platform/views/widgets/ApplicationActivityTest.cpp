@@ -19,7 +19,7 @@ protected:
             [this] { m_notices << QStringLiteral("became active"); });
     }
 
-    /// Has the window manager give the window the keyboard.
+    /// Makes the window manager give the window the focus.
     static void activate(const ShownWindow &shown)
     {
         TestDisplay::xdotool({QStringLiteral("windowactivate"), shown.identifier()});
@@ -30,7 +30,7 @@ protected:
     QStringList m_notices;
 };
 
-TEST_F(ApplicationActivityTest, AWindowOfAnotherProgramThatTakesTheKeyboardEndsIt)
+TEST_F(ApplicationActivityTest, ProgramIsInactiveWhenAnotherProgramTakesTheFocus)
 {
     const ShownWindow shown({100, 200, 300, 150}, 0, WindowLevel::Normal);
     shown.show();
@@ -50,7 +50,7 @@ TEST_F(ApplicationActivityTest, AWindowOfAnotherProgramThatTakesTheKeyboardEndsI
     EXPECT_THAT(m_notices, ElementsAre(QStringLiteral("will resign"), QStringLiteral("became active")));
 }
 
-TEST_F(ApplicationActivityTest, AnotherWindowOfTheProgramIsNoOtherProgram)
+TEST_F(ApplicationActivityTest, ProgramStaysActiveWhenAnotherOfItsWindowsTakesTheFocus)
 {
     const ShownWindow one({100, 200, 300, 150}, 0, WindowLevel::Normal);
     const ShownWindow two({500, 200, 300, 150}, 0, WindowLevel::Normal);
@@ -65,7 +65,7 @@ TEST_F(ApplicationActivityTest, AnotherWindowOfTheProgramIsNoOtherProgram)
     EXPECT_TRUE(m_activity.isActive());
 }
 
-TEST_F(ApplicationActivityTest, AProgramWhoseLastWindowIsHiddenOrDestroyedIsNotActive)
+TEST_F(ApplicationActivityTest, ProgramIsInactiveWhenItsLastWindowIsHiddenOrDestroyed)
 {
     const OtherProgram other;
     auto shown = std::make_unique<ShownWindow>(QRectF(100, 200, 300, 150), 0U, WindowLevel::Normal);
@@ -83,7 +83,7 @@ TEST_F(ApplicationActivityTest, AProgramWhoseLastWindowIsHiddenOrDestroyedIsNotA
     EXPECT_TRUE(waitUntil([&] { return !m_activity.isActive(); }));
 }
 
-TEST_F(ApplicationActivityTest, IsToldAtTheStartThatItIsNotActive)
+TEST_F(ApplicationActivityTest, ProgramWithoutAWindowIsInactive)
 {
     const OtherProgram other;
     {

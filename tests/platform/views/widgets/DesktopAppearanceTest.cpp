@@ -15,7 +15,7 @@ bool isDark(const QPalette &palette)
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-/// One of every view that a theme colours.
+/// Adds one of each view that a theme colours.
 Label &fill(const ShownWindow &shown)
 {
     Label &label = shown.add<Label>("label", {20, 110, 200, 20});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Folders that are documents, in the file chooser as the user has it.
+// Folders that are documents, in the real file chooser.
 #include "platform/views/widgets/DocumentChooser.h"
 
 #include "platform/views/widgets/WidgetDesktop.h"
@@ -47,7 +47,7 @@ protected:
         m_chooser->setViewMode(QFileDialog::Detail);
         m_chooser->setDirectory(m_folder);
     }
-    /// Clicks the name in the list, once all names are there. Not where a choice has closed the chooser.
+    /// Clicks the name in the list once all names are there; does nothing if a choice has closed the chooser.
     void click(const QString &name, int times, const QStringList &around = {})
     {
         if (!m_chooser)
@@ -60,7 +60,7 @@ protected:
             const QRect former =
                 std::exchange(place, found.isEmpty() ? QRect() : list->visualRect(found.front()));
             const auto names = m_chooser->directory().entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
-            // The list is laid out and sorted again while the names come.
+            // The list is sorted again while the names arrive.
             return !place.isEmpty() && place == former
                 && list->model()->rowCount(list->rootIndex()) == names.size();
         })) << name.toStdString();
@@ -86,7 +86,7 @@ protected:
     const QString m_folder = world().root() + QStringLiteral("/files");
     const QUrl m_package = QUrl::fromLocalFile(m_folder + QStringLiteral("/notes.RTFD"));
     WidgetDesktop m_desktop;
-    QPointer<DocumentChooser> m_chooser; // until it is answered
+    QPointer<DocumentChooser> m_chooser; // closed by a choice
     std::vector<std::optional<QList<QUrl>>> m_chosen;
 };
 
@@ -131,7 +131,7 @@ TEST_F(DocumentChooserTest, ATypedNameChoosesAPackage)
     }
 }
 
-TEST_F(DocumentChooserTest, AnyOtherFolderIsEntered)
+TEST_F(DocumentChooserTest, EntersOtherFolders)
 {
     open();
     click(QStringLiteral("plain"), 2);
@@ -143,7 +143,7 @@ TEST_F(DocumentChooserTest, AnyOtherFolderIsEntered)
         waitForChoice(), ElementsAre(QUrl::fromLocalFile(m_folder + QStringLiteral("/plain/novel.txt"))));
 }
 
-TEST_F(DocumentChooserTest, APackageAndAFileAreChosenTogetherWhereSeveralMayBe)
+TEST_F(DocumentChooserTest, APackageAndAFileCanBeChosenTogether)
 {
     open(true);
     click(QStringLiteral("notes.RTFD"), 1);
@@ -155,7 +155,7 @@ TEST_F(DocumentChooserTest, APackageAndAFileAreChosenTogetherWhereSeveralMayBe)
             m_package, QUrl::fromLocalFile(m_folder + QStringLiteral("/letter.txt"))));
 }
 
-TEST_F(DocumentChooserTest, AFolderThatIsNoDocumentIsNotChosenBesideOne)
+TEST_F(DocumentChooserTest, AFolderThatIsNotADocumentCannotBeChosenWithOne)
 {
     open(true);
     click(QStringLiteral("notes.RTFD"), 1);

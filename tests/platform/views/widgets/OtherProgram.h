@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// OtherProgram is a program with a window that is none of ours, to take the keyboard from ours: xev(1).
+// OtherProgram is another program with a window, xev(1), which takes the focus from the test's windows.
 // Thread: main.  Owner: the test.
 #pragma once
 
@@ -8,7 +8,7 @@
 
 class OtherProgram {
 public:
-    /// Until its window is there.
+    /// Returns once its window exists.
     OtherProgram()
     {
         m_process.withVariable("DISPLAY", TestDisplay::start().toLatin1());
@@ -16,7 +16,7 @@ public:
         TestDisplay::xdotool(search());
     }
 
-    /// Has the window manager give it the keyboard, as a click on its title bar does.
+    /// Makes the window manager give it the focus, like a click on its title bar.
     void activate() const { TestDisplay::xdotool(search() + QStringList{QStringLiteral("windowactivate")}); }
 
 private:

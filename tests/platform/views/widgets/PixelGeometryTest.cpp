@@ -32,7 +32,7 @@ TEST(PixelGeometry, CountsFromTheTopOfTheWindow)
     EXPECT_EQ(pixelRectInWindow({0, 28, 10, 17}, 50), QRect(0, 5, 10, 17));
 }
 
-TEST(PixelGeometry, KeepsNeighboursTogether)
+TEST(PixelGeometry, KeepsAdjacentRectanglesAdjacent)
 {
     std::mt19937 random(7);
     std::uniform_real_distribution<double> lengths(0, 40);
@@ -64,7 +64,7 @@ TEST(PixelGeometry, TheOriginIsTheBottomLeftOfThePrimaryScreen)
     EXPECT_EQ(pixelRectOnScreen({0, 0, 0, 0.2}, screen).size(), QSize(1, 1));
 }
 
-TEST(PixelGeometry, GivesTheFrameBackThatAWindowHas)
+TEST(PixelGeometry, ConvertsTheFrameOfAWindowBack)
 {
     const QRect secondScreenBelow(0, -800, 1280, 800);
     for (const QRect &primary : {screen, secondScreenBelow}) {

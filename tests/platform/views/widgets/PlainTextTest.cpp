@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Names of files that look like markup, in every place where a window shows a text of the user's.
+// File names that look like markup, wherever a window shows them.
 #include "platform/views/widgets/LabelText.h"
 
 #include "platform/views/Controls.h"
@@ -15,19 +15,19 @@ const QStringList markup{QStringLiteral("<h1>x.txt"), QStringLiteral("<b>bold</b
     QStringLiteral("a &lt; b.txt"), QStringLiteral("  <p style='x'>.txt"),
     QStringLiteral("<!DOCTYPE html>.txt")};
 
-QString visible(QString text)
+QString withoutJoiners(QString text)
 {
     return text.remove(QChar(0x2060));
 }
 
 } // namespace
 
-TEST(PlainText, AToolTipIsNeverTakenForMarkup)
+TEST(PlainText, AToolTipIsNeverInterpretedAsMarkup)
 {
     for (const QString &text : markup) {
         EXPECT_TRUE(Qt::mightBeRichText(text)) << text.toStdString();
         EXPECT_FALSE(Qt::mightBeRichText(plainToolTip(text))) << text.toStdString();
-        EXPECT_EQ(visible(plainToolTip(text)), text);
+        EXPECT_EQ(withoutJoiners(plainToolTip(text)), text);
     }
     for (const char *const text : {"", "novel.txt", "5 < 6 & 7.txt", "R&D <3.txt"})
         EXPECT_EQ(plainToolTip(QString::fromLatin1(text)), QString::fromLatin1(text));
@@ -60,7 +60,7 @@ TEST(PlainText, TheToolTipOfATitleShowsItsMarkup)
     QToolTip::hideText();
 }
 
-TEST(PlainText, AWindowsTitleKeepsItsBracketsAndStars)
+TEST(PlainText, AWindowTitleKeepsPlaceholders)
 {
     ShownWindow shown({100, 200, 300, 150});
     shown.window().setTitle(QStringLiteral("<b>[*]a[*][*].txt"));

@@ -32,8 +32,8 @@ QRect rectOnDisplay(const QByteArray &window)
         number("Height:")};
 }
 
-/// The first and the height, in points, of the rows of the window that are darker than their surroundings in
-/// the middle, where only the line is.
+/// Start and height, in points, of the rows that differ from the window's edge in the middle column, where
+/// only the line is.
 QPair<double, double> lineOnDisplay(const QRect &window, double scale)
 {
     const QImage picture = takeScreenshot().copy(window);
@@ -76,7 +76,7 @@ TEST_P(ScaledScreen, ShowsAPointAsThatManyPixels)
     EXPECT_NEAR(lineOnDisplay(wanted, scale).second, 1, 0.4); // whole pixels
     saveScreenshot(QStringLiteral("scale-%1").arg(scale));
 
-    // Text of another size in points would not fit into what was measured at one scale.
+    // Otherwise text would not fit into sizes measured at another scale.
     const QByteArrayList size = asked("label").split(' ');
     EXPECT_NEAR(size.value(0).toDouble(), 75, 6);
     EXPECT_NEAR(size.value(1).toDouble(), 15, 2);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// ShownWindow is a window on the private display with its widget, and what the display itself says of it.
+// ShownWindow is a window on the private display with its widget, and its state according to the display.
 // Thread: main.  Owner: the test.
 #pragma once
 
@@ -14,7 +14,7 @@
 #include <QScreen>
 #include <QWindow>
 
-/// Takes the keyboard whatever its style, as the windows of the product do.
+/// Takes the focus in every style, like the windows of the product.
 class KeyWindow : public Window {
 public:
     using Window::Window;
@@ -34,7 +34,7 @@ public:
         m_widget = std::make_unique<WindowWidget>(m_window);
     }
 
-    /// Until the window manager has put it on the screen.
+    /// Returns once the window manager has put the window on the screen.
     void show() const
     {
         m_window->orderFront();
@@ -42,8 +42,8 @@ public:
         EXPECT_TRUE(waitUntil([this] { return frameOnDisplay() == m_window->frame(); })) << describe();
     }
 
-    /// What xprop and the like call the window. A new style may just have made a new one: the display answers
-    /// the question for a pixel only when it has done all that it was asked before.
+    /// The identifier for xprop and the like. Waits for the display first, by reading a pixel: a change of
+    /// style makes a new window.
     [[nodiscard]] QString identifier() const
     {
         const QString number = QString::number(m_widget->windowHandle()->winId());
@@ -51,7 +51,7 @@ public:
         return number;
     }
 
-    /// Of the window without its title bar, in points from the bottom left, as the display knows it.
+    /// The frame without the title bar, in points from the bottom left, according to the display.
     [[nodiscard]] QRectF frameOnDisplay() const
     {
         const QString info = QString::fromLatin1(
@@ -66,7 +66,7 @@ public:
             number("Width"), height};
     }
 
-    /// The place of a point of the window, from its bottom left, as xdotool wants it.
+    /// Converts a point of the window, from its bottom left, to arguments of xdotool.
     [[nodiscard]] QStringList pointerTo(double x, double y) const
     {
         const QRectF frame = m_window->frame();
@@ -100,7 +100,7 @@ public:
     [[nodiscard]] std::string describe() const
     {
         const QRectF frame = frameOnDisplay();
-        return QStringLiteral("the display has it at %1, %2 with %3 by %4")
+        return QStringLiteral("on the display at %1, %2 with %3 by %4")
             .arg(frame.x())
             .arg(frame.y())
             .arg(frame.width())

@@ -28,7 +28,7 @@ private:
 
 } // namespace
 
-TEST(TextMetrics, ALabelThatFitsShowsItsWholeText)
+TEST(TextMetrics, AFittedLabelShowsItsWholeText)
 {
     const ShownWindow shown({100, 200, 600, 150});
     Label &label = shown.add<Label>("label", {10.5, 20.5, 1, 1});
@@ -79,7 +79,7 @@ TEST(TextMetrics, ChangeWithTheFontOfTheUser)
     EXPECT_EQ(changes, 2);
 }
 
-TEST(TextMetrics, LabelsThatComeLaterAreMeasuredToo)
+TEST(TextMetrics, LabelsAddedLaterAreMeasuredToo)
 {
     const ShownWindow shown({100, 200, 300, 150});
     Label &label = shown.add<Label>("label", {10, 20, 0, 0});

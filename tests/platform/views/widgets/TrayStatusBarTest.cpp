@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Status items on a desktop without a tray, and their pictures. With a tray: tests/watching/windows.
+// Status items on a desktop without a tray, and their icons; tests/watching/windows has a tray.
 #include "platform/views/widgets/TrayStatusBar.h"
 
 #include "platform/views/widgets/SymbolIcon.h"

@@ -36,8 +36,8 @@ public:
     [[nodiscard]] bool isFlipped() const override { return true; }
 };
 
-/// As the event loop of a program does on its way back.
-void deleteWhatIsDue()
+/// Like the event loop of a program.
+void deletePendingObjects()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
@@ -60,7 +60,7 @@ QRgb pixelAt(const ShownWindow &shown, int x, int y)
 
 } // namespace
 
-TEST(ViewBinding, WidgetsLieWhereTheirViewsAre)
+TEST(ViewBinding, WidgetsHaveThePlacesOfTheirViews)
 {
     const ShownWindow shown({100, 200, 300, 150});
     View &group = shown.add<View>("group", {10, 20, 100, 60});
@@ -84,7 +84,7 @@ TEST(ViewBinding, WidgetsStayAtTheBottomLeftWhenTheWindowGrows)
     EXPECT_EQ(shown.widgetOf(label).mapTo(&shown.widget(), QPoint()), QPoint(10, 250 - 20 - 17));
 }
 
-TEST(ViewBinding, NeighboursInDifferentSuperviewsDoNotGap)
+TEST(ViewBinding, AdjacentViewsInDifferentSuperviewsLeaveNoGap)
 {
     const ShownWindow shown({100, 200, 300, 150});
     const auto addGroup = [&shown](const char *name, const QRectF &frame, const QRectF &inner) {
@@ -144,7 +144,7 @@ TEST(ViewBinding, HiddenViewsAreInvisible)
     EXPECT_TRUE(shown.widgetOf(hidden).isVisible());
 }
 
-TEST(ViewBinding, SubviewsComeAndGo)
+TEST(ViewBinding, FollowsAddedAndRemovedSubviews)
 {
     const ShownWindow shown({100, 200, 300, 150});
     shown.show();
@@ -157,7 +157,7 @@ TEST(ViewBinding, SubviewsComeAndGo)
     EXPECT_FALSE(widget->isVisible());
     label->setStringValue(QStringLiteral("nobody listens"));
     shown.window().setContentView(nullptr);
-    deleteWhatIsDue();
+    deletePendingObjects();
     EXPECT_TRUE(widget.isNull());
     EXPECT_TRUE(shown.widget().findChildren<QWidget *>().isEmpty());
 }
@@ -171,7 +171,7 @@ TEST(ViewBinding, AViewThatMovesToAnotherSuperviewIsShownThere)
     label->setIdentifier(QStringLiteral("label"));
     first.addSubview(label);
     second.addSubview(label);
-    deleteWhatIsDue();
+    deletePendingObjects();
     EXPECT_EQ(shown.widget().findChildren<QWidget *>(QStringLiteral("label")).size(), 1);
     EXPECT_EQ(shown.widgetOf(*label).parentWidget(), &shown.widgetOf(second));
 }
@@ -213,7 +213,7 @@ TEST(ViewBinding, KeepsTheWidgetsOfViewsThatStay)
     EXPECT_EQ(&shown.widgetOf(a), widgetOfA);
     EXPECT_EQ(&shown.widgetOf(b), widgetOfB);
     shown.content().subviews().front()->removeFromSuperview();
-    deleteWhatIsDue();
+    deletePendingObjects();
     EXPECT_EQ(&shown.widgetOf(a), widgetOfA);
     EXPECT_EQ(shown.widget().findChild<QWidget *>(QStringLiteral("b")), nullptr);
 }
@@ -260,7 +260,7 @@ TEST(ViewBinding, AClickReachesTheButton)
     EXPECT_FALSE(shown.widgetOf(button).isEnabled());
 }
 
-TEST(ViewBinding, AButtonShowsItsAccessibleNameWhereTheThemeHasNoSuchIcon)
+TEST(ViewBinding, AButtonShowsItsAccessibleNameIfTheThemeHasNoSuchIcon)
 {
     const ShownWindow shown({100, 200, 300, 150});
     Button &button = shown.add<Button>("button", {50, 50, 100, 30});
@@ -273,7 +273,7 @@ TEST(ViewBinding, AButtonShowsItsAccessibleNameWhereTheThemeHasNoSuchIcon)
     EXPECT_FALSE(shown.widgetOf<QPushButton>(button).isFlat());
 }
 
-TEST(ViewBinding, AClickMayTakeItsOwnButtonAway)
+TEST(ViewBinding, AClickMayRemoveItsOwnButton)
 {
     const ShownWindow shown({100, 200, 300, 150});
     Button &first = shown.add<Button>("first", {50, 50, 100, 30});

@@ -37,14 +37,14 @@ Dialog *waitForDialog()
     return dialog;
 }
 
-/// Whether the display sends the keys to the dialog. Qt takes a modal one for active as soon as it is shown.
+/// Whether the display sends keys to the dialog. Qt reports a modal dialog as active as soon as it is shown.
 bool hasKeyboard(const QDialog &dialog)
 {
     return TestDisplay::outputOf(QStringLiteral("xdotool"), {QStringLiteral("getwindowfocus")}).trimmed()
         == QByteArray::number(dialog.winId());
 }
 
-/// Has the window manager give the dialog the keyboard, as a click on its title bar does.
+/// Makes the window manager give the dialog the focus, like a click on its title bar.
 void activate(const QDialog &dialog)
 {
     EXPECT_TRUE(waitUntil([&] {
@@ -58,7 +58,7 @@ void press(const char *key)
     TestDisplay::xdotool({QStringLiteral("key"), QString::fromLatin1(key)});
 }
 
-/// Counts the keys that come to the program, before anything else sees them.
+/// Counts the keys that the program receives.
 class KeyCounter : public QObject {
 public:
     explicit KeyCounter(int &keys)
@@ -106,7 +106,7 @@ protected:
 
 } // namespace
 
-TEST_F(WidgetDesktopTest, AlertsAskWithTheirButtonsInOrder)
+TEST_F(WidgetDesktopTest, AlertsShowTheirButtonsInOrder)
 {
     runAlert();
     EXPECT_TRUE(desktop.isAskingUser());
@@ -126,7 +126,7 @@ TEST_F(WidgetDesktopTest, AlertsAskWithTheirButtonsInOrder)
     EXPECT_LT(buttons[0]->x(), buttons[1]->x());
 }
 
-TEST_F(WidgetDesktopTest, AlertsTellWhichButtonWasPressed)
+TEST_F(WidgetDesktopTest, AlertsReportThePressedButton)
 {
     const std::vector<std::pair<const char *, int>> keys{{"Return", 0}, {"Escape", 1}, {"Tab", 1}};
     for (const auto &[key, button] : keys) {
@@ -145,7 +145,7 @@ TEST_F(WidgetDesktopTest, AlertsTellWhichButtonWasPressed)
     EXPECT_EQ(endings, 3);
 }
 
-TEST_F(WidgetDesktopTest, AnAlertTakesNoKeyboardAndDemandsAttention)
+TEST_F(WidgetDesktopTest, AnAlertTakesNoFocusAndDemandsAttention)
 {
     const OtherProgram editor;
     editor.activate();
@@ -189,7 +189,7 @@ TEST_F(WidgetDesktopTest, AClickAnswersAnAlertAtOnce)
     const auto *const button = box.findChildren<QPushButton *>().at(1);
     EXPECT_TRUE(waitUntil([&] {
         if (!pressed.empty())
-            return true; // the button is no more
+            return true; // the button has been deleted
         const QPoint place = button->mapToGlobal(button->rect().center());
         TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(place.x()),
             QString::number(place.y()), QStringLiteral("click"), QStringLiteral("1")});
@@ -218,7 +218,7 @@ TEST_F(WidgetDesktopTest, AnAnswerMayAskTheNextQuestion)
     EXPECT_EQ(endings, 1);
 }
 
-TEST_F(WidgetDesktopTest, ErrorsWaitUntilTheUserHasReadThem)
+TEST_F(WidgetDesktopTest, ErrorsStayUntilTheUserClosesThem)
 {
     desktop.presentError(QStringLiteral("No such program."));
     QMessageBox *const box = waitForDialog<QMessageBox>();
@@ -248,7 +248,7 @@ TEST_F(WidgetDesktopTest, EachErrorIsReportedOnce)
     EXPECT_FALSE(desktop.isAskingUser());
 }
 
-TEST_F(WidgetDesktopTest, TheFileChooserGivesWhatTheUserChooses)
+TEST_F(WidgetDesktopTest, TheFileChooserReturnsTheChosenFile)
 {
     const QString path = writeFile(QStringLiteral("a text.txt"), "text");
     beginOpenPanel();
@@ -265,7 +265,7 @@ TEST_F(WidgetDesktopTest, TheFileChooserGivesWhatTheUserChooses)
     EXPECT_EQ(endings, 1);
 }
 
-TEST_F(WidgetDesktopTest, TheFileChooserGivesNothingWhereTheUserCancels)
+TEST_F(WidgetDesktopTest, TheFileChooserReturnsNothingIfTheUserCancels)
 {
     beginOpenPanel();
     const QFileDialog &chooser = *waitForDialog<QFileDialog>();
@@ -275,13 +275,13 @@ TEST_F(WidgetDesktopTest, TheFileChooserGivesNothingWhereTheUserCancels)
     EXPECT_THAT(chosen, ElementsAre(std::nullopt));
 }
 
-TEST_F(WidgetDesktopTest, TheFileChooserTakesSeveralFilesWhereItMay)
+TEST_F(WidgetDesktopTest, TheFileChooserAllowsSeveralFilesOnRequest)
 {
     beginOpenPanel(true);
     EXPECT_EQ(waitForDialog<QFileDialog>()->fileMode(), QFileDialog::ExistingFiles);
 }
 
-TEST_F(WidgetDesktopTest, TheFileChooserOffersTheNamesOfTheKindsAndOfTheirKinds)
+TEST_F(WidgetDesktopTest, TheFileChooserOffersTheNamesOfTheTypesAndOfDerivedTypes)
 {
     beginOpenPanel();
     const QString filter = waitForDialog<QFileDialog>()->nameFilters().join(u' ');
@@ -291,7 +291,7 @@ TEST_F(WidgetDesktopTest, TheFileChooserOffersTheNamesOfTheKindsAndOfTheirKinds)
     EXPECT_THAT(filter.toStdString(), testing::Not(testing::HasSubstr("*.png")));
 }
 
-TEST_F(WidgetDesktopTest, WhatIsOpenAtTheEndIsClosedUnanswered)
+TEST_F(WidgetDesktopTest, ClosesOpenDialogsWithoutAnswersAtTheEnd)
 {
     {
         WidgetDesktop other;
@@ -303,7 +303,7 @@ TEST_F(WidgetDesktopTest, WhatIsOpenAtTheEndIsClosedUnanswered)
     EXPECT_THAT(pressed, IsEmpty());
 }
 
-TEST_F(WidgetDesktopTest, KeepsAWindowOnTheScreenAsLongAsItIsAsked)
+TEST_F(WidgetDesktopTest, KeepsAWindowOnTheScreenAsLongAsTheResultLives)
 {
     const auto window = std::make_shared<KeyWindow>(QRectF(100, 200, 300, 150));
     std::unique_ptr<WindowOnScreen> onScreen = desktop.putOnScreen(window);
@@ -346,7 +346,7 @@ TEST(WindowKeys, EscapeAndControlWAskTheWindowToClose)
     }
 }
 
-TEST(WindowActivation, HandsTheTokenOfTheRequestToTheNextWindowOnly)
+TEST(WindowActivation, GivesTheTokenOfTheRequestToTheNextWindowOnly)
 {
     WidgetDesktop desktop;
     const auto startupIdOf = [](const ShownWindow &shown) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A program with one window, for tests that need another scale or a process of its own. It reads its window
-// from the interface file of its first argument, prints a line of facts whenever it is asked by a line of
-// input, and ends with its input.
+// from the interface file of its first argument, answers each line of input with a line of output, and exits
+// at the end of its input.
 #include "platform/views/Controls.h"
 #include "platform/views/InterfaceFile.h"
 #include "platform/views/widgets/WindowWidget.h"

@@ -36,7 +36,7 @@ TEST(WindowCopy, ControlCPutsAllFormsOnTheClipboard)
     EXPECT_EQ(clipboard().html(), QStringLiteral("<p>12 <b>words</b></p>"));
 }
 
-TEST(WindowCopy, WithoutContentTheClipboardStaysAsItIs)
+TEST(WindowCopy, WithoutContentTheClipboardIsUnchanged)
 {
     ShownWindow shown({100, 200, 300, 150});
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
@@ -47,7 +47,7 @@ TEST(WindowCopy, WithoutContentTheClipboardStaysAsItIs)
     EXPECT_EQ(clipboard().text(), QStringLiteral("before"));
 }
 
-TEST(WindowCopy, TheContextMenuOffersIt)
+TEST(WindowCopy, TheContextMenuOffersToCopy)
 {
     ShownWindow shown({100, 200, 300, 150});
     shown.add<Label>("label", {50, 50, 100, 20}).setStringValue(QStringLiteral("12 words"));

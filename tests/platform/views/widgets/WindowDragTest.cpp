@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Presses the first button at the pointer and draws the window by 120 points to the right and 40 up, as far
-/// as it comes.
+/// Presses the left button at the pointer and drags the window by 120 points to the right and 40 up, as far
+/// as it moves.
 void drag(const ShownWindow &shown, double x, double y)
 {
     TestDisplay::xdotool(
@@ -43,17 +43,17 @@ TEST(WindowDrag, MovesTheWindowByItsBackgroundOrALabel)
     }
 }
 
-TEST(WindowDrag, StaysWhereItIsNotMovable)
+TEST(WindowDrag, DoesNotMoveAWindowThatIsNotMovable)
 {
     ShownWindow shown({100, 200, 300, 150});
     shown.show();
     drag(shown, 20, 20);
-    // Any move would have come before the answer to a request of ours.
+    // A move would have arrived before the reply to this request.
     shown.window().setFrame({100, 200, 301, 150}, false, false);
     EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(100, 200, 301, 150); }));
 }
 
-TEST(WindowDrag, AButtonIsNoBackground)
+TEST(WindowDrag, AButtonDoesNotMoveTheWindow)
 {
     ShownWindow shown({100, 200, 300, 150});
     shown.add<Button>("button", {50, 50, 100, 30}).setTitle(QStringLiteral("Count"));
@@ -64,7 +64,7 @@ TEST(WindowDrag, AButtonIsNoBackground)
     EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(100, 200, 301, 150); }));
 }
 
-TEST(WindowDrag, AWindowThatTheUserMovesRightAfterAChangeKeepsItsPlaceAtTheNext)
+TEST(WindowDrag, AWindowMovedDirectlyAfterAChangeKeepsItsPlaceAtTheNextChange)
 {
     ShownWindow shown({100, 200, 300, 150});
     shown.show();
@@ -83,7 +83,7 @@ TEST(WindowDrag, AWindowThatTheUserMovesRightAfterAChangeKeepsItsPlaceAtTheNext)
     EXPECT_EQ(shown.window().frame(), QRectF(500, 800 - 50 - 170, 300, 180));
 }
 
-TEST(WindowDrag, AWindowThatChangesInTheMiddleOfADragEndsWhereTheUserDropsIt)
+TEST(WindowDrag, AWindowThatChangesDuringADragStaysWhereItIsDropped)
 {
     for (const double height : {400.0, 60.0}) {
         ShownWindow shown({100, 200, 300, 150});
@@ -92,7 +92,8 @@ TEST(WindowDrag, AWindowThatChangesInTheMiddleOfADragEndsWhereTheUserDropsIt)
         TestDisplay::xdotool(
             shown.pointerTo(20, 20) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
         const auto draw = [&] {
-            const double before = shown.frameOnDisplay().x(); // a program may not hear of it until the end
+            const double before =
+                shown.frameOnDisplay().x(); // the program may receive the place only at the end
             EXPECT_TRUE(waitUntil([&] {
                 TestDisplay::xdotool({QStringLiteral("mousemove_relative"), QStringLiteral("--"),
                     QStringLiteral("10"), QStringLiteral("-4")});
@@ -106,7 +107,7 @@ TEST(WindowDrag, AWindowThatChangesInTheMiddleOfADragEndsWhereTheUserDropsIt)
         EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay().height() == height; }));
         EXPECT_TRUE(waitUntil([&] { return shown.window().frame() == shown.frameOnDisplay(); }))
             << shown.describe();
-        // The pointer is where it was in the window, but for the way that makes a press a drag.
+        // The pointer has its former place in the window, apart from the drag distance.
         const QPoint pointer = QCursor::pos();
         const QRectF frame = shown.window().frame();
         EXPECT_NEAR(pointer.x() - frame.x(), 20, 40) << height;

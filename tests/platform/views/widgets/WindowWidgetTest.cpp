@@ -37,7 +37,7 @@ QByteArray propertyOf(const ShownWindow &shown, const char *name)
 
 } // namespace
 
-TEST(WindowWidget, PutsTheContentWhereTheFrameIs)
+TEST(WindowWidget, PutsTheContentAtTheFrame)
 {
     for (const unsigned style : {0U, Window::titled, Window::titled | Window::resizable}) {
         ShownWindow shown({100, 200, 300, 150}, style);
@@ -63,7 +63,7 @@ TEST(WindowWidget, AWindowThatChangesItsSizeKeepsItsBottomLeftCorner)
     }
 }
 
-TEST(WindowWidget, ManyChangesInARowEndAtTheLast)
+TEST(WindowWidget, AppliesTheLastOfManyChanges)
 {
     ShownWindow shown({100, 200, 300, 150});
     shown.show();
@@ -86,7 +86,7 @@ TEST(WindowWidget, FractionsOfTheFrameStayInTheWindow)
     EXPECT_EQ(shown.content().frame(), QRectF(0, 0, 300.5, 150.5));
 }
 
-TEST(WindowWidget, WhatTheUserMakesOfTheWindowIsItsFrame)
+TEST(WindowWidget, TheFrameFollowsTheUser)
 {
     ShownWindow shown({100, 200, 300, 150}, Window::titled | Window::resizable, WindowLevel::Normal);
     shown.show();
@@ -126,7 +126,7 @@ TEST(WindowWidget, AWindowStaysOnTheScreenWhoseHeightChanges)
     EXPECT_TRUE(waitUntil([&] { return shown.window().frame() == QRectF(100, 500, 300, 150); }));
 }
 
-TEST(WindowWidget, StyleAndLevelAreThoseOfTheWindow)
+TEST(WindowWidget, HasTheStyleAndLevelOfTheWindow)
 {
     ShownWindow shown({100, 200, 300, 150});
     shown.show();
@@ -154,7 +154,7 @@ TEST(WindowWidget, StyleAndLevelAreThoseOfTheWindow)
     EXPECT_TRUE(waitUntil([&] { return !propertyOf(shown, "_NET_WM_STATE").contains("ABOVE"); }));
 }
 
-TEST(WindowWidget, OnlyAKeyWindowTakesTheKeyboard)
+TEST(WindowWidget, OnlyAKeyWindowTakesTheFocus)
 {
     ShownWindow key({100, 200, 300, 150});
     key.show();
@@ -188,7 +188,7 @@ TEST(WindowWidget, ACloseRequestGoesToTheWindow)
     int requests = 0;
     QObject::connect(&shown.window(), &Window::closeRequested, &shown.widget(), [&requests] { ++requests; });
     shown.window().setClosesOnRequest(false);
-    // A window manager that is busy may not know yet that the keys are meant for it: they are pressed again.
+    // A busy window manager may not have set the focus yet: the keys are pressed repeatedly.
     const auto pressUntil = [](const std::function<bool()> &condition) {
         return waitUntil([&condition] {
             if (!condition())
