@@ -24,7 +24,7 @@ public:
         m_imageName = name;
         Q_EMIT faceDidChange();
     }
-    /// Also what a screen reader says.
+    /// Also the name for screen readers.
     [[nodiscard]] const QString &toolTip() const { return m_toolTip; }
     void setToolTip(const QString &text)
     {

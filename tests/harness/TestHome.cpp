@@ -88,7 +88,7 @@ void TestHome::setEnvironment() const
     set("FONTCONFIG_FILE", m_root + QStringLiteral("/fonts/fonts.conf"));
     set("LANG", QStringLiteral("en_US.UTF-8"));
     set("TZ", QStringLiteral("UTC"));
-    // Addresses at which nobody answers: without them the libraries would look for the user's own.
+    // Addresses without a server: without these variables the libraries would use the user's own.
     set("DBUS_SESSION_BUS_ADDRESS", busAddress(runtime() + QStringLiteral("/no-bus")));
     set("CUPS_SERVER", runtime() + QStringLiteral("/no-print-server"));
     std::setlocale(LC_ALL, "C");
@@ -96,7 +96,7 @@ void TestHome::setEnvironment() const
 
 QString TestHome::busAddress(const QString &path)
 {
-    // A D-Bus address holds most characters percent-encoded.
+    // D-Bus addresses are percent-encoded.
     return QStringLiteral("unix:path=")
         + QString::fromLatin1(QFile::encodeName(path).toPercentEncoding("/", "~"));
 }
@@ -116,7 +116,7 @@ void TestHome::reset()
     fonts.write("<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n<fontconfig>\n"
                 "<dir>/usr/share/fonts</dir>\n<cachedir>/var/cache/fontconfig</cachedir>\n"
                 "<cachedir prefix=\"xdg\">fontconfig</cachedir>\n"
-                // The desktop's font for labels; without a preference any font of the folder would do.
+                // The desktop's font for labels; without a preference fontconfig could choose any font.
                 "<alias><family>Sans Serif</family><prefer><family>DejaVu Sans</family></prefer></alias>\n"
                 "</fontconfig>\n");
 }

@@ -9,22 +9,22 @@
 
 namespace {
 
-// A machine that stands still for a while lets nobody else work either: that is no time of waiting.
-constexpr std::chrono::milliseconds longestTurn{100};
+// A machine that freezes stops the awaited process as well, so a long turn counts as a short one.
+constexpr std::chrono::milliseconds maxCountedTurn{100};
 
 } // namespace
 
-bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds limit)
+bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds timeout)
 {
     std::chrono::milliseconds waited{0};
     QElapsedTimer turn;
     turn.start();
     while (!condition()) {
-        if (waited >= limit)
+        if (waited >= timeout)
             return false;
-        // Returns at the next event; the short bound serves conditions that no event announces.
+        // Returns at the next event; the short interval is for conditions without an event.
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
-        waited += std::min(std::chrono::milliseconds(turn.restart()), longestTurn);
+        waited += std::min(std::chrono::milliseconds(turn.restart()), maxCountedTurn);
     }
     return true;
 }

@@ -86,7 +86,7 @@ public:
     /// Made on first use and reused.
     std::shared_ptr<Window> detachableWindowForPopover(Popover &popover) override;
 
-    /// Closes the views; the watcher goes on.
+    /// Closes the views; the watcher continues.
     void watchTextFileViewControllerRequestedClose(WatchTextFileViewController &panel) override;
     void watchTextFileViewControllerRequestedStop(WatchTextFileViewController *panel) override;
     Popover *popoverFromPresenterForAutoResizeOrNil(WatchTextFileViewController &panel) override;

@@ -17,19 +17,19 @@ constexpr unsigned texturedBackground = 256; // a style without a title bar
 std::shared_ptr<WatchTextFileMenuBarController> WatchTextFileMenuBarController::init(
     const WatchSurroundings &surroundings)
 {
-    const std::shared_ptr<WatchTextFileMenuBarController> made(
+    const std::shared_ptr<WatchTextFileMenuBarController> watcher(
         new WatchTextFileMenuBarController(surroundings));
-    made->setUpWithMenuItem();
-    return made;
+    watcher->setUpWithMenuItem();
+    return watcher;
 }
 
 std::shared_ptr<WatchTextFileMenuBarController> WatchTextFileMenuBarController::initWithoutMenuItem(
     const WatchSurroundings &surroundings)
 {
-    const std::shared_ptr<WatchTextFileMenuBarController> made(
+    const std::shared_ptr<WatchTextFileMenuBarController> watcher(
         new WatchTextFileMenuBarController(surroundings));
-    made->setUpWithoutMenuItem();
-    return made;
+    watcher->setUpWithoutMenuItem();
+    return watcher;
 }
 
 void WatchTextFileMenuBarController::setUpWithMenuItem()

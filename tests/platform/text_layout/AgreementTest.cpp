@@ -48,7 +48,7 @@ Ends qtLineEnds(const AgreementText &sample, double width)
     return ends;
 }
 
-std::string shown(const QString &text, const Ends &ends)
+std::string describeLines(const QString &text, const Ends &ends)
 {
     std::string lines;
     qsizetype start = 0;
@@ -86,8 +86,8 @@ TEST_P(Agreement, EndsLinesWhereQtDoes)
         const Ends ours = ourLineEnds(sample, width);
         const Ends qts = qtLineEnds(sample, width);
         EXPECT_EQ(ours, qts) << "at " << width << " points we have\n"
-                             << shown(sample.text, ours) << "and Qt has\n"
-                             << shown(sample.text, qts);
+                             << describeLines(sample.text, ours) << "and Qt has\n"
+                             << describeLines(sample.text, qts);
     }
 }
 

@@ -21,7 +21,7 @@ protected:
             QStringLiteral("NotoSansThai-Regular.ttf"), QStringLiteral("NotoSansCJK-Regular.ttc")});
     }
 
-    static AttributedString styled(const QString &text, const ParagraphStyle &style)
+    static AttributedString makeText(const QString &text, const ParagraphStyle &style)
     {
         TextAttributes attributes;
         attributes.paragraphStyle = style;
@@ -54,7 +54,7 @@ TEST_F(Bounds, HasACountForEveryNumberOfAParagraphStyle)
                 &style.lineSpacing, &style.paragraphSpacing, &style.paragraphSpacingBefore}) {
             style = {};
             *member = number;
-            const AttributedString text = styled(QStringLiteral("some words\tand\ttabs"), style);
+            const AttributedString text = makeText(QStringLiteral("some words\tand\ttabs"), style);
             const quint64 lines = LayoutEngine().countLines(text, 200);
             EXPECT_GE(lines, 1U) << number;
             EXPECT_LE(lines, 19U) << number;
@@ -63,7 +63,7 @@ TEST_F(Bounds, HasACountForEveryNumberOfAParagraphStyle)
         for (const TabAlignment alignment :
             {TabAlignment::Left, TabAlignment::Center, TabAlignment::Right, TabAlignment::Decimal})
             style.tabStops.push_back({number, alignment});
-        const AttributedString text = styled(QStringLiteral("some words\tand\ttabs\t1.5"), style);
+        const AttributedString text = makeText(QStringLiteral("some words\tand\ttabs\t1.5"), style);
         EXPECT_GE(LayoutEngine().countLines(text, 200), 1U) << number;
     }
 }

@@ -12,7 +12,7 @@ protected:
     void SetUp() override { useOnlyFonts({QStringLiteral("NimbusMonoPS-Regular.otf")}); }
 
     // 6 points per character.
-    static AttributedString typewritten(const QString &text, const ParagraphStyle &style = {})
+    static AttributedString makeCourierText(const QString &text, const ParagraphStyle &style = {})
     {
         TextAttributes attributes;
         attributes.font = FontAttributes{.family = QStringLiteral("Courier"), .pointSize = 10};
@@ -36,7 +36,7 @@ TEST_F(LayoutManagers, FindTheLineOfEveryGlyph)
     TextStorage storage;
     TextContainer container;
     container.setWidth(24);
-    storage.setAttributedString(typewritten(QStringLiteral("aa bb\r\ncc\n")));
+    storage.setAttributedString(makeCourierText(QStringLiteral("aa bb\r\ncc\n")));
     LayoutManager manager(engine, storage, container);
     ASSERT_EQ(manager.numberOfGlyphs(), 10);
     const GlyphRange expected[]{{0, 3}, {3, 4}, {7, 3}};
@@ -58,7 +58,7 @@ TEST_F(LayoutManagers, StackLinesFromTheTopDown)
     style.paragraphSpacing = 5;
     style.paragraphSpacingBefore = 3;
     style.lineSpacing = 2;
-    storage.setAttributedString(typewritten(QStringLiteral("a\u2028\nb"), style));
+    storage.setAttributedString(makeCourierText(QStringLiteral("a\u2028\nb"), style));
     LayoutManager manager(engine, storage, container);
     const auto first = manager.lineFragmentRectForGlyphAtIndex(0);
     const auto second = manager.lineFragmentRectForGlyphAtIndex(2);
@@ -80,11 +80,11 @@ TEST_F(LayoutManagers, FollowTheirStorageAndContainer)
     LayoutManager manager(engine, storage, container);
     EXPECT_EQ(walk(manager), 0U);
     container.setWidth(60);
-    storage.setAttributedString(typewritten(QStringLiteral("aaaa bbbb cccc")));
+    storage.setAttributedString(makeCourierText(QStringLiteral("aaaa bbbb cccc")));
     EXPECT_EQ(walk(manager), 2U);
     container.setWidth(30);
     EXPECT_EQ(walk(manager), 3U);
-    storage.setAttributedString(typewritten(QStringLiteral("aaaa")));
+    storage.setAttributedString(makeCourierText(QStringLiteral("aaaa")));
     EXPECT_EQ(walk(manager), 1U);
     storage.setAttributedString({});
     EXPECT_EQ(walk(manager), 0U);
@@ -97,7 +97,7 @@ TEST_F(LayoutManagers, CountWhatTheEngineCounts)
     TextContainer container;
     container.setWidth(100);
     storage.setAttributedString(
-        typewritten(QStringLiteral("some words, \n\n and\tmore\u2028of them ").repeated(50)));
+        makeCourierText(QStringLiteral("some words, \n\n and\tmore\u2028of them ").repeated(50)));
     LayoutManager manager(engine, storage, container);
     EXPECT_EQ(walk(manager), engine.countLines(storage.attributedString(), 100));
 }
@@ -105,7 +105,7 @@ TEST_F(LayoutManagers, CountWhatTheEngineCounts)
 TEST_F(LayoutManagers, RunOnEveryThreadWithAnEngineOfItsOwn)
 {
     const AttributedString text =
-        typewritten(QStringLiteral("some words and עברית العربية ไทย ").repeated(300));
+        makeCourierText(QStringLiteral("some words and עברית العربية ไทย ").repeated(300));
     const quint64 expected = LayoutEngine().countLines(text, 200);
     std::vector<std::thread> threads;
     std::vector<quint64> counts(4);

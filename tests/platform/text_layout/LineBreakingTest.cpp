@@ -13,7 +13,7 @@ protected:
     }
 
     // In Courier every character is 0.6 em wide: 6 points at 10 points, so that columns count characters.
-    static AttributedString typewritten(const QString &text, const ParagraphStyle &style = {})
+    static AttributedString makeCourierText(const QString &text, const ParagraphStyle &style = {})
     {
         TextAttributes attributes;
         attributes.font = FontAttributes{.family = QStringLiteral("Courier"), .pointSize = 10};
@@ -36,11 +36,14 @@ protected:
         return lines;
     }
 
-    QStringList linesOf(const QString &text, int count) { return linesOf(typewritten(text), columns(count)); }
+    QStringList linesOf(const QString &text, int count)
+    {
+        return linesOf(makeCourierText(text), columns(count));
+    }
 
     static quint64 count(const QString &text, int columnCount)
     {
-        return LayoutEngine().countLines(typewritten(text), columns(columnCount));
+        return LayoutEngine().countLines(makeCourierText(text), columns(columnCount));
     }
 };
 
@@ -130,8 +133,8 @@ TEST_F(LineBreaking, TakesNoRoomForControlsAndAFixedBoxForAttachments)
 {
     EXPECT_EQ(count(QStringLiteral("aaaa\u0001\u0002\u200Baaaa"), 8), 1U);
     const QString two(2, attachmentCharacter);
-    EXPECT_EQ(LayoutEngine().countLines(typewritten(two), 2 * attachmentAdvance), 1U);
-    EXPECT_EQ(LayoutEngine().countLines(typewritten(two), 2 * attachmentAdvance - 1), 2U);
+    EXPECT_EQ(LayoutEngine().countLines(makeCourierText(two), 2 * attachmentAdvance), 1U);
+    EXPECT_EQ(LayoutEngine().countLines(makeCourierText(two), 2 * attachmentAdvance - 1), 2U);
 }
 
 TEST_F(LineBreaking, SetsTextThatNamesNoFontInHelveticaOfTwelvePoints)
@@ -153,7 +156,7 @@ TEST_F(LineBreaking, AddsTrackingToEveryGrapheme)
 
 TEST_F(LineBreaking, SumsUpOverPartsOfTheText)
 {
-    const AttributedString text = typewritten(QStringLiteral("aaa bbb\nccc ddd eee\n\nfff"));
+    const AttributedString text = makeCourierText(QStringLiteral("aaa bbb\nccc ddd eee\n\nfff"));
     LayoutEngine engine;
     EXPECT_EQ(engine.countLines(text, columns(4)), 7U);
     EXPECT_EQ(engine.countLines(text, columns(4), 0, 8), 2U);

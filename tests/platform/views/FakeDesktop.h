@@ -55,7 +55,7 @@ public:
         const AlertCompletion completion = std::move(m_alerts.front().second);
         m_alerts.pop_front();
         completion(button);
-        tellWhenAskingEnded();
+        reportAskingEnded();
     }
     void confirmOpenPanel(const QList<QUrl> &urls) { endOpenPanel(urls); }
     void cancelOpenPanel() { endOpenPanel(std::nullopt); }
@@ -86,9 +86,9 @@ private:
         const OpenPanel::Completion completion = std::move(m_panels.front().second);
         m_panels.pop_front();
         completion(urls);
-        tellWhenAskingEnded();
+        reportAskingEnded();
     }
-    void tellWhenAskingEnded() const
+    void reportAskingEnded() const
     {
         if (!isAskingUser() && m_askingEnded)
             m_askingEnded();
