@@ -3,7 +3,6 @@
 
 #include "documents/Notes.h"
 #include "documents/docx/AlternativeChunk.h"
-#include "documents/docx/DocumentStyles.h"
 #include "documents/docx/PackageDocument.h"
 #include "documents/docx/PackageParts.h"
 #include "documents/docx/StoryReader.h"
@@ -13,7 +12,7 @@
 
 namespace {
 
-/// The notes of one part, in the order of their references. A reference without a note has no text.
+/// Appends the notes of one part in the order of their references. References without a note are ignored.
 std::optional<DocumentError::Cause> appendNotes(AttributedStringBuilder &text,
     const PackageDocument &document, const char *type, const NoteReferences &references, StoryNotes &notes)
 {
@@ -27,8 +26,8 @@ std::optional<DocumentError::Cause> appendNotes(AttributedStringBuilder &text,
     StoryReader reader(document.styles, notes, [&](const QByteArray &identifier) {
         return readAlternativeChunk(document, relationships.value(), identifier);
     });
-    const NoteReferences wanted = references; // notes in notes come too late
-    reader.wantNotes(&wanted);
+    const NoteReferences wanted = references; // references in notes are ignored
+    reader.setWantedNotes(&wanted);
     if (const std::optional<DocumentError::Cause> failure = readXmlPart(document.package, *part, reader))
         return failure;
     if (reader.error())

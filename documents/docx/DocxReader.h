@@ -1,31 +1,30 @@
 // SPDX-License-Identifier: MIT
 // DocxReader turns the bytes of a Word document (ECMA-376, transitional and strict: .docx, .docm, .dotx,
-// .dotm) into styled text. Nothing outside of the package is fetched, no macro is run, no stored figure is
-// believed.
+// .dotm) into styled text. Resources outside of the package are not fetched, macros are not run, and stored
+// statistics are ignored.
 // Thread: any.
 //
-// The text is what stands on the document's pages with every change accepted: the body, then its footnotes,
-// then its endnotes, in the order of their references. In detail:
-//  - Every paragraph ends in U+000A, the last one too; so an empty last paragraph is a line, as on paper.
-//    The paragraphs of a table's cells and of nested tables are paragraphs like any other.
-//  - A line break is U+2028, a page break U+000C, a column break U+000C too, a tabulator U+0009, a no-break
-//    hyphen U+2011, a soft hyphen U+00AD. Symbols of the font Symbol are the characters that they depict;
-//    those of other symbol fonts are in the private use area, as Word has them.
-//  - Of a field stands its result, of ruby its base, of a content control its content, of a formula the
-//    characters of its runs, with a space (U+0020) around each part of a fraction, cell of a matrix and
-//    equation of an array, where there is no white space already.
-//  - A text box stands once, behind the paragraph that anchors it. Of alternatives, the first one whose
-//    namespaces are understood counts.
-//  - Deleted and hidden text is no text, nor are headers, footers, comments, alternative texts of pictures,
-//    charts and diagrams, the numbers of lists and notes. A paragraph whose mark is deleted, hidden or in
-//    the instruction of a field goes on in the next one, and so does a drop cap, which Word stores as a
+// The text is that of the pages with all changes accepted: the body, then the footnotes, then the endnotes,
+// in the order of their references.
+//  - Every paragraph ends with U+000A, including the last one. An empty last paragraph is therefore a line,
+//    as on paper. The paragraphs of table cells and of nested tables are paragraphs like any other.
+//  - A line break is U+2028, a page break or column break U+000C, a tabulator U+0009, a no-break hyphen
+//    U+2011, a soft hyphen U+00AD. Symbols of the font Symbol become the characters that they show; those
+//    of other symbol fonts stay private characters.
+//  - Fields are replaced by their results, ruby by its base text, content controls by their content.
+//    Formulas are the text of their runs, with a space (U+0020) around each part of a fraction, cell of a
+//    matrix and equation of an array that has no white space there.
+//  - A text box appears once, after the paragraph that anchors it. Of alternatives, the first one whose
+//    namespaces are supported is read.
+//  - Not text are deleted and hidden text, headers, footers, comments, alternative texts of pictures,
+//    charts, diagrams, and the numbers of lists and notes. A paragraph continues in the next one if its
+//    mark is deleted, hidden or in a field instruction, or if it is a drop cap, which Word stores as a
 //    paragraph of its own.
-//  - Chunks in other formats stand in their place: Word documents, web pages and archives of them, RTF and
+//  - Chunks in other formats are read in their place: Word documents, web pages, web archives, RTF and
 //    plain text.
 //
-// Fonts and paragraph styles are those of the document's defaults, its table, paragraph and character styles,
-// its lists and its direct formatting, with the fonts of its theme; each character has the font of its
-// script.
+// Fonts and paragraph styles combine the defaults of the document, its table, paragraph and character styles,
+// its lists, its direct formatting and the fonts of its theme. Each character has the font of its script.
 #pragma once
 
 #include "documents/DocumentError.h"
@@ -35,9 +34,9 @@
 #include <QByteArrayView>
 #include <QString>
 
-/// Whether the bytes are a package whose main part is a Word document, or an encrypted package of some kind.
-/// Reads no more than the list of parts and the relationships of the package.
+/// Whether the bytes are a package with a Word document as its main part, or any encrypted package. Reads
+/// only the list of parts, the content types and the relationships of the package.
 bool looksLikeDocx(QByteArrayView bytes);
 
-/// Takes time proportional to the uncompressed parts that it reads, and memory proportional to the text.
+/// Takes time proportional to the uncompressed parts that are read, and memory proportional to the text.
 Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/Numbering.h"
 
-#include "documents/docx/Measures.h"
-
 #include <optional>
 
 class NumberingReader final : public XmlHandler {
@@ -44,7 +42,7 @@ public:
             break;
         default:
             if (m_isInProperties)
-                m_properties.take(element);
+                m_properties.read(element);
             break;
         }
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Numbering knows how the levels of a document's lists indent their paragraphs. The numbers themselves are no
+// Numbering holds the paragraph properties of the list levels of a document. The numbers themselves are not
 // text.
 // Thread: any.
 #pragma once
@@ -15,7 +15,7 @@ public:
     static Result<Numbering, DocumentError::Cause> read(
         const ZipPackage &package, const QByteArray &partName);
 
-    /// Null where the list or the level says nothing.
+    /// Null if the list or the level is not defined.
     [[nodiscard]] const ParagraphProperties *levelOf(int list, int level) const;
 
 private:
@@ -25,6 +25,6 @@ private:
     QHash<Level, ParagraphProperties> m_definitions; // by abstract list
     QHash<Level, ParagraphProperties> m_overrides; // by list
     QHash<int, int> m_abstractLists; // by list
-    QHash<int, QByteArray> m_namedLists; // abstract list to the list style that defines it
-    QHash<QByteArray, int> m_listOfStyle; // list style to the abstract list with its levels
+    QHash<int, QByteArray> m_namedLists; // from abstract list to the list style that defines it
+    QHash<QByteArray, int> m_listOfStyle; // from list style to the abstract list with its levels
 };

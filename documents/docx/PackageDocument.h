@@ -1,13 +1,31 @@
 // SPDX-License-Identifier: MIT
-// PackageDocument is a Word document whose parts are found and whose styles are read, but not yet its text.
-// Thread: one at a time.  Owner: DocxReader; refers to what it lists.
+// PackageDocument is a Word document whose parts are listed and whose styles are read. Reading its text is
+// left to StoryReader.
+// Thread: one at a time.  Owner: DocxReader.
 #pragma once
 
-#include "documents/docx/DocumentStyles.h"
+#include "documents/DocumentError.h"
+#include "documents/docx/Numbering.h"
 #include "documents/docx/PackageParts.h"
+#include "documents/docx/StyleSheet.h"
+#include "documents/docx/Theme.h"
 #include "documents/docx/ZipPackage.h"
 #include "platform/styled_text/AttributedString.h"
+#include "platform/system/Result.h"
 
+/// What the parts beside the text say about its format.
+struct DocumentStyles {
+    Theme theme;
+    Numbering numbering;
+    StyleSheet styleSheet;
+    double defaultTabInterval = 36; ///< points
+
+    /// Parts that are missing or that the main part does not refer to are ignored.
+    static Result<DocumentStyles, DocumentError::Cause> read(
+        const ZipPackage &package, const Relationships &ofMainPart);
+};
+
+/// Refers to values of its owner.
 struct PackageDocument {
     const ZipPackage &package;
     const ContentTypes &types;
@@ -16,6 +34,7 @@ struct PackageDocument {
     const DocumentStyles &styles;
 };
 
-/// readDocx() of a document that may be within another one. Throws std::bad_alloc.
+/// Reads a document that may be nested in another one; readDocx() does so with a full allowance. Throws
+/// std::bad_alloc.
 Result<AttributedString, DocumentError::Cause> readPackageDocument(
     QByteArrayView bytes, ReadAllowance &allowance);

@@ -9,15 +9,15 @@
 
 namespace {
 
-constexpr qsizetype mostFolders = 100; // of a target's path
+constexpr qsizetype maxFolders = 100; // of a target's path
 
 QByteArray folderOf(const QByteArray &partName)
 {
     return partName.first(partName.lastIndexOf('/') + 1);
 }
 
-/// The part that a target means, seen from the part that names it.
-QByteArray resolved(const QByteArray &source, QByteArrayView target)
+/// The name of a part from a relationship target. source: the part that contains the relationship.
+QByteArray resolveTarget(const QByteArray &source, QByteArrayView target)
 {
     QByteArray path = QByteArray::fromPercentEncoding(target.toByteArray());
     path =
@@ -26,7 +26,7 @@ QByteArray resolved(const QByteArray &source, QByteArrayView target)
         path.prepend(folderOf(source));
     QByteArrayList folders;
     const QByteArrayList names = path.split('/');
-    if (names.size() > mostFolders)
+    if (names.size() > maxFolders)
         return {};
     for (const QByteArray &name : names) {
         if (name == "..") {
@@ -45,7 +45,7 @@ QByteArray relationshipsPartOf(const QByteArray &source)
     return folder + "_rels/" + source.sliced(folder.size()) + ".rels";
 }
 
-QByteArray comparableType(QByteArrayView type)
+QByteArray normalizeType(QByteArrayView type)
 {
     const QByteArray lower = type.toByteArray().toLower();
     const qsizetype parameters = lower.indexOf(';');
@@ -83,7 +83,7 @@ public:
         const bool isExternal = element.attribute(plainName("TargetMode"_tag)) == "External";
         if (!identifier || !type || !target || isExternal)
             return;
-        const QByteArray part = resolved(m_source, *target);
+        const QByteArray part = resolveTarget(m_source, *target);
         const QByteArray typeName = type->sliced(type->lastIndexOf('/') + 1).toByteArray();
         m_relationships.m_byId.insert(identifier->toByteArray(), part);
         if (!m_relationships.m_byType.contains(typeName))
@@ -134,9 +134,9 @@ public:
         if (element.name().space != XmlSpace::ContentTypes || !type)
             return;
         if (const auto extension = element.attribute(plainName("Extension"_tag)))
-            m_types.m_byExtension.insert(extension->toByteArray().toLower(), comparableType(*type));
+            m_types.m_byExtension.insert(extension->toByteArray().toLower(), normalizeType(*type));
         if (const auto part = element.attribute(plainName("PartName"_tag)))
-            m_types.m_byPart.insert(resolved({}, *part).toLower(), comparableType(*type));
+            m_types.m_byPart.insert(resolveTarget({}, *part).toLower(), normalizeType(*type));
     }
     void endElement(XmlName) override { }
 

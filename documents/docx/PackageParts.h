@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// PackageParts finds the parts of a package by what the package says of them: content types and relationships
-// (ECMA-376, Open Packaging Conventions). What lies outside of the package is not to be found.
-// Thread: any.
+// PackageParts finds the parts of a package by content types and relationships (ECMA-376, Open Packaging
+// Conventions). Parts outside of the package are never found; reading a part is left to ZipPackage.
+// Thread: any; values.
 #pragma once
 
 #include "documents/docx/ZipPackage.h"
@@ -15,15 +15,15 @@
 /// The relationships of one part, or of the package itself, to other parts.
 class Relationships {
 public:
-    /// source: the name of the part; empty for the package. A part without relationships has none.
+    /// Empty if the part has no relationships. source: the name of the part; empty for the package.
     static Result<Relationships, DocumentError::Cause> read(
         const ZipPackage &package, const QByteArray &source);
 
-    /// The name of the part that a relationship leads to, whether it is there or not. Absent for an unknown
-    /// identifier and for a target outside of the package.
+    /// The name of the target of a relationship; the part may be missing. Absent for an unknown identifier
+    /// and for a target outside of the package.
     [[nodiscard]] std::optional<QByteArray> partById(const QByteArray &identifier) const;
 
-    /// The first one of a type, which is the last part of its URI: "styles", "officeDocument".
+    /// The target of the first relationship of a type. type: the last segment of its URI, such as "styles".
     [[nodiscard]] std::optional<QByteArray> partByType(const QByteArray &type) const;
 
 private:
@@ -37,7 +37,7 @@ class ContentTypes {
 public:
     static Result<ContentTypes, DocumentError::Cause> read(const ZipPackage &package);
 
-    /// Lower case, without parameters; empty where the package does not say.
+    /// Lower case, without parameters; empty if the package does not name it.
     [[nodiscard]] QByteArray typeOf(const QByteArray &partName) const;
 
 private:
@@ -46,5 +46,5 @@ private:
     QHash<QByteArray, QByteArray> m_byPart;
 };
 
-/// The name of the main part of a Word document; NotWordDocument where the package is of another kind.
+/// The name of the main part of a Word document. Fails as WrongKind if the package is of another kind.
 Result<QByteArray, DocumentError::Cause> mainPartOf(const ZipPackage &package, const ContentTypes &types);

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/ParagraphProperties.h"
 
-#include "documents/docx/Measures.h"
+#include "documents/LengthUnits.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr size_t mostTabs = 64; // Word allows no more in a paragraph
-constexpr double automaticSpace = 14; // points, before and after a paragraph of a web page
+constexpr size_t maxTabs = 64; // in a paragraph; the limit of Word
+constexpr double automaticSpace = 14; // points, before and after a paragraph in a web page
 constexpr double linesPerUnit = 240;
-constexpr double singleLine = 1.2; // heights of a font: what Word's factors of a line are seen against
+constexpr double singleLineFactor = 1.2; // line height in font sizes, to which factors of a line apply
 
 using Alignment = ParagraphProperties::Alignment;
 
@@ -44,15 +44,15 @@ TextAlignment textAlignmentOf(std::optional<Alignment> alignment, bool isRightTo
     return TextAlignment::Justified;
 }
 
-void takeEither(std::optional<double> &value, const XmlElement &element, XmlTag transitional, XmlTag strict)
+void readEither(std::optional<double> &value, const XmlElement &element, XmlTag transitional, XmlTag strict)
 {
-    overlayValue(value, pointsOf(element.attribute(transitional), twentieths));
-    overlayValue(value, pointsOf(element.attribute(strict), twentieths));
+    overlayValue(value, pointsOf(element.attribute(transitional), twipsPerPoint));
+    overlayValue(value, pointsOf(element.attribute(strict), twipsPerPoint));
 }
 
 } // namespace
 
-void ParagraphProperties::take(const XmlElement &element)
+void ParagraphProperties::read(const XmlElement &element)
 {
     if (!element.isWord())
         return;
@@ -64,16 +64,16 @@ void ParagraphProperties::take(const XmlElement &element)
         overlayValue(alignment, alignmentOf(element.value().value_or("")));
         break;
     case "bidi"_tag:
-        isRightToLeft = truthOf(element.value());
+        isRightToLeft = booleanOf(element.value());
         break;
     case "ind"_tag:
-        takeIndents(element);
+        readIndents(element);
         break;
     case "spacing"_tag:
-        takeSpacing(element);
+        readSpacing(element);
         break;
     case "tab"_tag:
-        takeTab(element);
+        readTab(element);
         break;
     case "numId"_tag:
         list = integerOf(element.value());
@@ -91,35 +91,35 @@ void ParagraphProperties::take(const XmlElement &element)
     }
 }
 
-void ParagraphProperties::takeIndents(const XmlElement &element)
+void ParagraphProperties::readIndents(const XmlElement &element)
 {
-    takeEither(leadingIndent, element, "left"_tag, "start"_tag);
-    takeEither(trailingIndent, element, "right"_tag, "end"_tag);
-    overlayValue(firstLineIndent, pointsOf(element.attribute("firstLine"_tag), twentieths));
-    if (const std::optional<double> hanging = pointsOf(element.attribute("hanging"_tag), twentieths))
+    readEither(leadingIndent, element, "left"_tag, "start"_tag);
+    readEither(trailingIndent, element, "right"_tag, "end"_tag);
+    overlayValue(firstLineIndent, pointsOf(element.attribute("firstLine"_tag), twipsPerPoint));
+    if (const std::optional<double> hanging = pointsOf(element.attribute("hanging"_tag), twipsPerPoint))
         firstLineIndent = -*hanging;
 }
 
-void ParagraphProperties::takeSpacing(const XmlElement &element)
+void ParagraphProperties::readSpacing(const XmlElement &element)
 {
-    overlayValue(spaceBefore, pointsOf(element.attribute("before"_tag), twentieths));
-    overlayValue(spaceAfter, pointsOf(element.attribute("after"_tag), twentieths));
-    if (const auto automatic = element.attribute("beforeAutospacing"_tag); automatic && truthOf(automatic))
+    overlayValue(spaceBefore, pointsOf(element.attribute("before"_tag), twipsPerPoint));
+    overlayValue(spaceAfter, pointsOf(element.attribute("after"_tag), twipsPerPoint));
+    if (const auto automatic = element.attribute("beforeAutospacing"_tag); automatic && booleanOf(automatic))
         spaceBefore = automaticSpace;
-    if (const auto automatic = element.attribute("afterAutospacing"_tag); automatic && truthOf(automatic))
+    if (const auto automatic = element.attribute("afterAutospacing"_tag); automatic && booleanOf(automatic))
         spaceAfter = automaticSpace;
     const QByteArrayView rule = element.attribute("lineRule"_tag).value_or("auto");
     const bool isFactor = rule == "auto";
-    const auto line = pointsOf(element.attribute("line"_tag), isFactor ? linesPerUnit : twentieths);
+    const auto line = pointsOf(element.attribute("line"_tag), isFactor ? linesPerUnit : twipsPerPoint);
     if (line && *line > 0) {
         lineHeight = line;
         isLineHeightFactor = isFactor;
     }
 }
 
-void ParagraphProperties::takeTab(const XmlElement &element)
+void ParagraphProperties::readTab(const XmlElement &element)
 {
-    const std::optional<double> position = pointsOf(element.attribute("pos"_tag), twentieths);
+    const std::optional<double> position = pointsOf(element.attribute("pos"_tag), twipsPerPoint);
     if (!position)
         return;
     const QByteArrayView kind = element.value().value_or("left");
@@ -140,7 +140,7 @@ void ParagraphProperties::setTab(const Tab &tab)
     const auto place = std::ranges::lower_bound(tabs, tab.position, {}, &Tab::position);
     if (place != tabs.end() && place->position == tab.position)
         *place = tab;
-    else if (tabs.size() < mostTabs)
+    else if (tabs.size() < maxTabs)
         tabs.insert(place, tab);
 }
 
@@ -179,11 +179,11 @@ ParagraphStyle ParagraphProperties::paragraphStyle(double pointSize, double defa
     result.paragraphSpacingBefore = std::max(0.0, spaceBefore.value_or(0));
     result.paragraphSpacing = std::max(0.0, spaceAfter.value_or(0));
     if (lineHeight) {
-        const double single = singleLine * pointSize;
+        const double single = singleLineFactor * pointSize;
         const double wanted = isLineHeightFactor ? *lineHeight * single : *lineHeight;
         result.lineSpacing = std::max(0.0, wanted - single);
     }
-    // The first line of a hanging paragraph has a stop where the others begin.
+    // A hanging indent has an implicit tab stop.
     const bool hangs = result.firstLineHeadIndent < result.headIndent;
     bool needsHangingStop = hangs;
     const auto addHangingStop = [&] {

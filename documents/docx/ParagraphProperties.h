@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// ParagraphProperties are what a style, a list or a paragraph says of how its lines are set (ECMA-376,
-// w:pPr); what it leaves open, others decide.
+// ParagraphProperties are the properties that a style, a list or a paragraph sets (ECMA-376, w:pPr); absent
+// ones are left to other levels. StoryAssembler combines the levels.
 // Thread: any; values.
 #pragma once
 
@@ -16,36 +16,37 @@ struct ParagraphProperties {
     enum class Alignment { Leading, Trailing, Center, Justified };
     struct Tab {
         double position;
-        std::optional<TabAlignment> alignment; ///< absent: the stop that others set here is none
+        std::optional<TabAlignment> alignment; ///< absent: clears the stop at this position
     };
 
     std::optional<Alignment> alignment;
     std::optional<bool> isRightToLeft;
-    std::optional<double> leadingIndent; // points, all of them
+    // Lengths are points.
+    std::optional<double> leadingIndent;
     std::optional<double> trailingIndent;
-    std::optional<double> firstLineIndent; ///< from the leading indent; negative: the others hang
+    std::optional<double> firstLineIndent; ///< relative to the leading indent; negative for a hanging indent
     std::optional<double> spaceBefore;
     std::optional<double> spaceAfter;
-    std::optional<double> lineHeight; ///< of a line of one point: a factor where isFactor, else points
+    std::optional<double> lineHeight; ///< a multiple of a single line if isLineHeightFactor, else points
     bool isLineHeightFactor = true;
-    std::vector<Tab> tabs; ///< ascending by position, one at each
-    std::optional<int> list; ///< 0: none
+    std::vector<Tab> tabs; ///< ascending by position; positions are distinct
+    std::optional<int> list; ///< 0 for no list
     std::optional<int> listLevel;
-    std::optional<bool> isDropCap; ///< the enlarged first letters of the paragraph that follows
+    std::optional<bool> isDropCap; ///< enlarged first letters of the paragraph that follows
     QByteArray style; ///< the identifier of a paragraph style
 
-    /// Takes in one element from within w:pPr, but for w:rPr; others than Word's are left alone.
-    void take(const XmlElement &element);
+    /// Sets the property of an element in w:pPr, except w:rPr. Ignores elements outside of Word's namespace.
+    void read(const XmlElement &element);
 
-    /// What the other properties say, replaces what these say.
+    /// Replaces the properties that the other ones set.
     void overlay(const ParagraphProperties &other);
 
-    /// pointSize: of the paragraph's font; defaultTabInterval: points.
+    /// pointSize: the font size of the paragraph mark.  defaultTabInterval: points.
     [[nodiscard]] ParagraphStyle paragraphStyle(double pointSize, double defaultTabInterval) const;
 
 private:
-    void takeTab(const XmlElement &element);
-    void takeSpacing(const XmlElement &element);
-    void takeIndents(const XmlElement &element);
+    void readTab(const XmlElement &element);
+    void readSpacing(const XmlElement &element);
+    void readIndents(const XmlElement &element);
     void setTab(const Tab &tab);
 };

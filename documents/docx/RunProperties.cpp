@@ -1,27 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/RunProperties.h"
 
-#include "documents/docx/Measures.h"
+#include "documents/LengthUnits.h"
 
 #include <algorithm>
 #include <array>
 
 namespace {
 
-constexpr double smallestSize = 1; // points; Word's own limits
-constexpr double greatestSize = 1638;
-constexpr qsizetype longestLanguage = 100; // bytes
+constexpr double minSize = 1; // points; the limits of Word
+constexpr double maxSize = 1638;
+constexpr qsizetype maxLanguageLength = 100; // bytes
 
 constexpr std::array toggles{&RunProperties::bold, &RunProperties::italic, &RunProperties::complexBold,
     &RunProperties::complexItalic, &RunProperties::hidden};
 
 std::optional<double> sizeOf(const XmlElement &element)
 {
-    const std::optional<double> size = pointsOf(element.value(), halves);
-    return size ? std::optional(std::clamp(*size, smallestSize, greatestSize)) : std::nullopt;
+    const std::optional<double> size = pointsOf(element.value(), halfPointsPerPoint);
+    return size ? std::optional(std::clamp(*size, minSize, maxSize)) : std::nullopt;
 }
 
-void takeFont(QString &font, const XmlElement &element, const Theme &theme, XmlTag name, XmlTag themeName)
+void readFont(QString &font, const XmlElement &element, const Theme &theme, XmlTag name, XmlTag themeName)
 {
     if (const auto themed = element.attribute(themeName)) {
         const QString found = theme.font(*themed);
@@ -34,10 +34,10 @@ void takeFont(QString &font, const XmlElement &element, const Theme &theme, XmlT
         font = fontNameOf(*named);
 }
 
-void takeLanguage(QString &language, const XmlElement &element, XmlTag name)
+void readLanguage(QString &language, const XmlElement &element, XmlTag name)
 {
     const auto value = element.attribute(name);
-    if (value && value->size() <= longestLanguage)
+    if (value && value->size() <= maxLanguageLength)
         language = QString::fromUtf8(*value);
 }
 
@@ -56,9 +56,69 @@ void overlayText(Text &value, const Text &other)
         value = other;
 }
 
+constexpr double defaultSize = 10; // points; applies if a document sets none
+
+// Word sets superscripts and subscripts in two thirds of the size, a third of it up or a sixth of it down.
+constexpr double scriptScale = 2.0 / 3;
+constexpr double superscriptRise = 1.0 / 3;
+constexpr double subscriptDrop = 1.0 / 6;
+
+struct Range {
+    char16_t first;
+    char16_t last;
+};
+
+// The rules of ECMA-376 for w:rFonts. Characters outside of the Basic Multilingual Plane are East Asian.
+constexpr std::array complexRanges{Range{0x0590, 0x08FF}, Range{0xFB1D, 0xFDFF}, Range{0xFE70, 0xFEFE}};
+constexpr std::array eastAsianRanges{Range{0x1100, 0x11FF}, Range{0x2E80, 0xA4CF}, Range{0xA960, 0xA97F},
+    Range{0xAC00, 0xDFFF}, Range{0xF900, 0xFAFF}, Range{0xFE30, 0xFE6F}, Range{0xFF00, 0xFFEF}};
+// East Asian only with a hint.
+constexpr std::array sharedRanges{Range{0x00A1, 0x00A1}, Range{0x00A4, 0x00A4}, Range{0x00A7, 0x00A8},
+    Range{0x00AA, 0x00AA}, Range{0x00AD, 0x00AD}, Range{0x00AF, 0x00B4}, Range{0x00B6, 0x00BA},
+    Range{0x00BC, 0x00BF}, Range{0x00D7, 0x00D7}, Range{0x00F7, 0x00F7}, Range{0x02B0, 0x04FF},
+    Range{0x2000, 0x2BFF}, Range{0xE000, 0xF8FF}};
+
+template <size_t count>
+bool isIn(const std::array<Range, count> &ranges, char16_t unit)
+{
+    return std::ranges::any_of(
+        ranges, [unit](Range range) { return unit >= range.first && unit <= range.last; });
+}
+
+QString textOr(const QString &text, const QString &otherwise)
+{
+    return text.isEmpty() ? otherwise : text;
+}
+
+struct Look {
+    double size;
+    bool isBold;
+    bool isItalic;
+};
+
+CharacterFormat makeFormat(
+    const QString &family, const Look &look, const RunProperties &properties, QString language)
+{
+    CharacterFormat format;
+    format.font.family = textOr(family, QStringLiteral("Times New Roman"));
+    format.font.pointSize = look.size;
+    format.font.weight = look.isBold ? boldFontWeight : regularFontWeight;
+    format.font.slant = look.isItalic ? FontSlant::Italic : FontSlant::Upright;
+    format.font.tracking = properties.tracking.value_or(0);
+    format.font.baselineOffset = properties.raised.value_or(0);
+    const VerticalAlignment alignment = properties.verticalAlignment.value_or(VerticalAlignment::Baseline);
+    if (alignment != VerticalAlignment::Baseline) {
+        format.font.pointSize = look.size * scriptScale;
+        format.font.baselineOffset +=
+            look.size * (alignment == VerticalAlignment::Superscript ? superscriptRise : -subscriptDrop);
+    }
+    format.language = std::move(language);
+    return format;
+}
+
 } // namespace
 
-void RunProperties::take(const XmlElement &child, const Theme &theme)
+void RunProperties::read(const XmlElement &child, const Theme &theme)
 {
     if (!child.isWord())
         return;
@@ -67,10 +127,10 @@ void RunProperties::take(const XmlElement &child, const Theme &theme)
         style = child.value().value_or("").toByteArray();
         break;
     case "rFonts"_tag:
-        takeFont(fonts.ascii, child, theme, "ascii"_tag, "asciiTheme"_tag);
-        takeFont(fonts.highAnsi, child, theme, "hAnsi"_tag, "hAnsiTheme"_tag);
-        takeFont(fonts.eastAsian, child, theme, "eastAsia"_tag, "eastAsiaTheme"_tag);
-        takeFont(fonts.complex, child, theme, "cs"_tag, "cstheme"_tag);
+        readFont(fonts.ascii, child, theme, "ascii"_tag, "asciiTheme"_tag);
+        readFont(fonts.highAnsi, child, theme, "hAnsi"_tag, "hAnsiTheme"_tag);
+        readFont(fonts.eastAsian, child, theme, "eastAsia"_tag, "eastAsiaTheme"_tag);
+        readFont(fonts.complex, child, theme, "cs"_tag, "cstheme"_tag);
         if (const auto hint = child.attribute("hint"_tag))
             prefersEastAsian = *hint == "eastAsia";
         break;
@@ -81,37 +141,37 @@ void RunProperties::take(const XmlElement &child, const Theme &theme)
         complexSize = sizeOf(child);
         break;
     case "b"_tag:
-        bold = truthOf(child.value());
+        bold = booleanOf(child.value());
         break;
     case "i"_tag:
-        italic = truthOf(child.value());
+        italic = booleanOf(child.value());
         break;
     case "bCs"_tag:
-        complexBold = truthOf(child.value());
+        complexBold = booleanOf(child.value());
         break;
     case "iCs"_tag:
-        complexItalic = truthOf(child.value());
+        complexItalic = booleanOf(child.value());
         break;
     case "vanish"_tag:
-        hidden = truthOf(child.value());
+        hidden = booleanOf(child.value());
         break;
     case "rtl"_tag:
     case "cs"_tag:
-        isComplex = truthOf(child.value());
+        isComplex = booleanOf(child.value());
         break;
     case "spacing"_tag:
-        tracking = pointsOf(child.value(), twentieths);
+        tracking = pointsOf(child.value(), twipsPerPoint);
         break;
     case "position"_tag:
-        raised = pointsOf(child.value(), halves);
+        raised = pointsOf(child.value(), halfPointsPerPoint);
         break;
     case "vertAlign"_tag:
         verticalAlignment = verticalAlignmentOf(child);
         break;
     case "lang"_tag:
-        takeLanguage(language, child, "val"_tag);
-        takeLanguage(eastAsianLanguage, child, "eastAsia"_tag);
-        takeLanguage(complexLanguage, child, "bidi"_tag);
+        readLanguage(language, child, "val"_tag);
+        readLanguage(eastAsianLanguage, child, "eastAsia"_tag);
+        readLanguage(complexLanguage, child, "bidi"_tag);
         break;
     case "del"_tag:
     case "moveFrom"_tag:
@@ -157,4 +217,45 @@ void CharacterCascade::addStyle(const RunProperties &style)
         m_properties.*toggles[i] = toggle.byDefaults || toggle.byStyles;
     }
     m_isStarted = true;
+}
+
+RunFormat::RunFormat(const RunProperties &properties)
+    : m_isHidden(properties.isHidden())
+    , m_isComplex(properties.isComplex.value_or(false))
+    , m_prefersEastAsian(properties.prefersEastAsian.value_or(false))
+{
+    const ByScript<QString> &fonts = properties.fonts;
+    const Look look{properties.size.value_or(defaultSize), properties.bold.value_or(false),
+        properties.italic.value_or(false)};
+    const Look complexLook{properties.complexSize.value_or(defaultSize),
+        properties.complexBold.value_or(false), properties.complexItalic.value_or(false)};
+    m_formats.ascii = makeFormat(fonts.ascii, look, properties, properties.language);
+    m_formats.highAnsi =
+        makeFormat(textOr(fonts.highAnsi, fonts.ascii), look, properties, properties.language);
+    m_formats.eastAsian = makeFormat(textOr(fonts.eastAsian, fonts.ascii), look, properties,
+        textOr(properties.eastAsianLanguage, properties.language));
+    m_formats.complex = makeFormat(textOr(fonts.complex, fonts.ascii), complexLook, properties,
+        textOr(properties.complexLanguage, properties.language));
+}
+
+const CharacterFormat &RunFormat::formatOf(char16_t unit) const
+{
+    constexpr char16_t firstBeyondAscii = 0x80;
+    if (m_isComplex)
+        return m_formats.complex;
+    if (unit < firstBeyondAscii)
+        return m_formats.ascii;
+    if (isIn(complexRanges, unit))
+        return m_formats.complex;
+    if (isIn(eastAsianRanges, unit) || (m_prefersEastAsian && isIn(sharedRanges, unit)))
+        return m_formats.eastAsian;
+    return m_formats.highAnsi;
+}
+
+RunFormat::Stretch RunFormat::stretchAt(QStringView text) const
+{
+    const CharacterFormat &first = formatOf(text[0].unicode());
+    const auto end = std::find_if(
+        text.begin() + 1, text.end(), [&](QChar unit) { return &formatOf(unit.unicode()) != &first; });
+    return {&first, end - text.begin()};
 }

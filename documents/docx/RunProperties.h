@@ -1,19 +1,22 @@
 // SPDX-License-Identifier: MIT
-// RunProperties are what a style or a run says of its characters (ECMA-376, w:rPr), as far as text and layout
-// need it; what it leaves open, others decide. CharacterCascade puts the levels together.
+// RunProperties are the character properties that a style or a run sets (ECMA-376, w:rPr), as far as text and
+// layout need them. CharacterCascade combines the levels; RunFormat is the result and selects the font of
+// each character by its script.
 // Thread: any; values.
 #pragma once
 
 #include "documents/docx/Theme.h"
 #include "documents/docx/XmlReader.h"
+#include "platform/styled_text/TextAttributes.h"
 
 #include <QString>
+#include <QStringView>
 
 #include <optional>
 
 enum class VerticalAlignment { Baseline, Superscript, Subscript };
 
-/// One value for each of the kinds that characters fall into by their scripts.
+/// One value for each of the font categories of characters (ECMA-376, w:rFonts).
 template <typename Value>
 struct ByScript {
     Value ascii{};
@@ -23,7 +26,7 @@ struct ByScript {
 };
 
 struct RunProperties {
-    ByScript<QString> fonts; ///< empty: left open
+    ByScript<QString> fonts; ///< empty if not set
     std::optional<double> size; ///< points
     std::optional<double> complexSize;
     std::optional<bool> bold;
@@ -34,26 +37,26 @@ struct RunProperties {
     std::optional<double> tracking; ///< points
     std::optional<double> raised; ///< points
     std::optional<VerticalAlignment> verticalAlignment;
-    std::optional<bool> isComplex; ///< of a complex script whatever its characters are
-    std::optional<bool> prefersEastAsian; ///< in what several scripts share
+    std::optional<bool> isComplex; ///< treats all characters as a complex script
+    std::optional<bool> prefersEastAsian; ///< for characters that several scripts share
     QString language;
     QString eastAsianLanguage;
     QString complexLanguage;
     QByteArray style; ///< the identifier of a character style
-    bool isRemoved = false; ///< of a paragraph's mark: deleted or moved elsewhere
+    bool isRemoved = false; ///< of a paragraph mark: deleted or moved
 
-    /// Takes in one child of w:rPr; others than Word's are left alone.
-    void take(const XmlElement &child, const Theme &theme);
+    /// Sets the property of a child of w:rPr. Ignores elements outside of Word's namespace.
+    void read(const XmlElement &child, const Theme &theme);
 
-    /// What the other properties say, replaces what these say.
+    /// Replaces the properties that the other ones set.
     void overlay(const RunProperties &other);
 
     [[nodiscard]] bool isHidden() const { return hidden.value_or(false); }
 };
 
-/// Puts together document defaults, table, paragraph and character style: a toggle (bold, italic, hidden) is
-/// on where the defaults or an odd number of the styles turn it on (ECMA-376, toggle properties). Direct
-/// formatting overlays the result.
+/// Combines document defaults, table, paragraph and character style. A toggle (bold, italic, hidden) is on if
+/// the defaults or an odd number of styles turn it on (ECMA-376, toggle properties). Direct formatting is
+/// applied to the result with overlay().
 class CharacterCascade {
 public:
     explicit CharacterCascade(const RunProperties &defaults)
@@ -73,4 +76,39 @@ private:
     RunProperties m_properties;
     bool m_isStarted = false;
     Toggle m_toggles[5];
+};
+
+struct CharacterFormat {
+    FontAttributes font;
+    QString language;
+
+    bool operator==(const CharacterFormat &) const = default;
+};
+
+/// The format of the characters in a run, with all levels applied.
+class RunFormat {
+public:
+    RunFormat() = default;
+    /// properties: with all levels applied.
+    explicit RunFormat(const RunProperties &properties);
+
+    [[nodiscard]] bool isHidden() const { return m_isHidden; }
+    /// The format of ASCII characters.
+    [[nodiscard]] const CharacterFormat &ascii() const { return m_formats.ascii; }
+
+    /// The format at the start of a text, and the number of code units (at least 1) that it applies to. text:
+    /// not empty.
+    struct Stretch {
+        const CharacterFormat *format;
+        qsizetype length;
+    };
+    [[nodiscard]] Stretch stretchAt(QStringView text) const;
+
+private:
+    [[nodiscard]] const CharacterFormat &formatOf(char16_t unit) const;
+
+    ByScript<CharacterFormat> m_formats;
+    bool m_isHidden = false;
+    bool m_isComplex = false;
+    bool m_prefersEastAsian = false;
 };

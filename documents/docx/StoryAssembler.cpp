@@ -8,11 +8,45 @@ using Kind = StyleSheet::Kind;
 
 } // namespace
 
-void StoryAssembler::endStory(bool keepsLast)
+void ParagraphText::append(QStringView text, const RunFormat &format)
+{
+    if (text.isEmpty())
+        return;
+    if (m_needsSpace && !m_text.isEmpty() && !m_text.back().isSpace() && !text.front().isSpace())
+        appendPiece(u" ", format.ascii());
+    m_needsSpace = false;
+    while (!text.isEmpty()) {
+        const RunFormat::Stretch stretch = format.stretchAt(text);
+        appendPiece(text.first(stretch.length), *stretch.format);
+        text = text.sliced(stretch.length);
+    }
+}
+
+void ParagraphText::appendPiece(QStringView text, const CharacterFormat &format)
+{
+    if (m_pieces.empty() || !(m_pieces.back().format == format))
+        m_pieces.push_back({m_text.size(), format});
+    m_text.append(text);
+}
+
+void ParagraphText::appendTo(AttributedStringBuilder &builder, const ParagraphStyle &style) const
+{
+    TextAttributes attributes;
+    attributes.paragraphStyle = style;
+    for (size_t i = 0; i < m_pieces.size(); ++i) {
+        const Piece &piece = m_pieces[i];
+        const qsizetype end = i + 1 < m_pieces.size() ? m_pieces[i + 1].start : m_text.size();
+        attributes.font = piece.format.font;
+        attributes.language = piece.format.language;
+        builder.append(QStringView(m_text).sliced(piece.start, end - piece.start), attributes);
+    }
+}
+
+void StoryAssembler::endStory(bool keepsEmptyLast)
 {
     if (isInParagraph())
         endParagraph(false);
-    finishPending(keepsLast);
+    finishPending(keepsEmptyLast);
     Story story = std::move(m_stories.back());
     m_stories.pop_back();
     if (m_stories.empty())
@@ -28,18 +62,18 @@ void StoryAssembler::beginParagraph()
     if (!story.paragraph)
         story.paragraph.emplace();
     story.isParagraphOpen = true;
-    // One that goes on from the last one is set as its own mark says.
+    // A continued paragraph has the properties of its last mark.
     story.paragraph->properties = {};
     story.paragraph->mark = {};
     story.paragraph->base.reset();
 }
 
-void StoryAssembler::endParagraph(bool goesOn)
+void StoryAssembler::endParagraph(bool continues)
 {
     Story &story = m_stories.back();
     story.isParagraphOpen = false;
     const RunProperties &mark = story.paragraph->mark;
-    if (!goesOn && !mark.isRemoved && !isDropCap() && !formatOf(mark).isHidden())
+    if (!continues && !mark.isRemoved && !isDropCap() && !formatOf(mark).isHidden())
         finishParagraph();
 }
 
@@ -182,7 +216,7 @@ void StoryAssembler::beginCell()
 
 void StoryAssembler::endCell()
 {
-    // A cell has at least one paragraph, whose mark cannot be removed.
+    // A cell has at least one paragraph; the mark of its last one cannot be removed.
     const Table *innermost = table();
     finishPending(innermost && !innermost->hasParagraphInCell);
     if (innermost)

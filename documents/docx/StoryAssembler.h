@@ -1,16 +1,42 @@
 // SPDX-License-Identifier: MIT
-// StoryAssembler puts the paragraphs of a story (the body, a note, a text box) together and in order: it
-// joins those whose mark is gone, sets text boxes behind their anchors and gives everything its attributes.
+// StoryAssembler assembles the paragraphs of a story (the body, a note, a text box): it joins paragraphs
+// whose mark is removed, places text boxes after their anchors, and resolves attributes. StoryReader feeds
+// it.
 // Thread: one at a time.  Owner: StoryReader.
 #pragma once
 
-#include "documents/docx/DocumentStyles.h"
-#include "documents/docx/ParagraphText.h"
+#include "documents/docx/PackageDocument.h"
+#include "documents/docx/RunProperties.h"
 #include "platform/styled_text/AttributedString.h"
+
+#include <QString>
 
 #include <list>
 #include <optional>
 #include <vector>
+
+/// Collects the text of a paragraph until its style is known, which may be as late as its end.
+class ParagraphText {
+public:
+    void append(QStringView text, const RunFormat &format);
+    /// Puts a space between the text so far and the text that follows, unless one of them is missing or has
+    /// white space there.
+    void requireSpace() { m_needsSpace = true; }
+    [[nodiscard]] bool isEmpty() const { return m_text.isEmpty(); }
+
+    void appendTo(AttributedStringBuilder &builder, const ParagraphStyle &style) const;
+
+private:
+    struct Piece {
+        qsizetype start;
+        CharacterFormat format;
+    };
+    void appendPiece(QStringView text, const CharacterFormat &format);
+
+    QString m_text;
+    std::vector<Piece> m_pieces; // neighbours differ
+    bool m_needsSpace = false;
+};
 
 class StoryAssembler {
 public:
@@ -19,28 +45,28 @@ public:
     {
     }
 
-    /// A story within another one is a text box; it goes behind the paragraph that is open there.
+    /// A story within another one is a text box. Its text follows the open paragraph.
     void beginStory() { m_stories.emplace_back(); }
-    /// keepsLast: a last paragraph that goes on in none is one even where it is empty.
-    void endStory(bool keepsLast);
+    /// keepsEmptyLast: whether an empty last paragraph that would continue in a next one is kept.
+    void endStory(bool keepsEmptyLast);
     [[nodiscard]] bool isInStory() const { return !m_stories.empty(); }
     [[nodiscard]] const Theme &theme() const { return m_styles.theme; }
 
-    // Within a story.
+    // For use within a story.
     void beginParagraph();
-    /// goesOn: as one whose mark is removed does.
-    void endParagraph(bool goesOn);
+    /// continues: whether the next paragraph continues this one, as if its mark were removed.
+    void endParagraph(bool continues);
     [[nodiscard]] bool isInParagraph() const { return m_stories.back().isParagraphOpen; }
-    /// Something finished that stands between paragraphs.
+    /// Inserts complete paragraphs between those of the story.
     void insert(const AttributedString &text);
 
-    // Within a paragraph. Its properties come before its text.
+    // For use within a paragraph. Set its properties before its text.
     [[nodiscard]] ParagraphProperties &paragraphProperties() { return paragraph().properties; }
     [[nodiscard]] RunProperties &markProperties() { return paragraph().mark; }
     [[nodiscard]] RunFormat formatOf(const RunProperties &direct);
     void append(QStringView text, const RunFormat &format) { paragraph().text.append(text, format); }
-    /// Keeps what follows apart from the text so far.
-    void separate() { paragraph().text.separate(); }
+    /// See ParagraphText.
+    void requireSpace() { paragraph().text.requireSpace(); }
 
     struct Table {
         QByteArray style;
@@ -52,14 +78,14 @@ public:
     };
     void beginTable() { m_stories.back().tables.emplace_back(); }
     void endTable();
-    /// The innermost one of the story; null outside of tables.
+    /// The innermost table of the story; null outside of tables.
     [[nodiscard]] Table *table();
     void beginRow();
     void endRow();
     void beginCell();
     void endCell();
 
-    /// The text of all stories that have ended since the last call.
+    /// Returns the text of all stories that have ended since the last call.
     [[nodiscard]] AttributedString takeText() { return m_builder.build(); }
 
 private:
@@ -67,14 +93,14 @@ private:
         ParagraphText text;
         ParagraphProperties properties;
         RunProperties mark;
-        std::list<AttributedString> anchored;
-        std::optional<CharacterCascade> base; // of its runs, once its properties are known
+        std::list<AttributedString> anchored; // text boxes
+        std::optional<CharacterCascade> base; // of its runs; set once its properties are known
     };
     struct Story {
-        std::optional<Paragraph> paragraph; // the open one, or one that goes on in the next
+        std::optional<Paragraph> paragraph; // the open one, or one that continues in the next
         bool isParagraphOpen = false;
         std::vector<Table> tables;
-        std::list<AttributedString> finished; // of a text box
+        std::list<AttributedString> finished; // paragraphs of a text box
     };
 
     [[nodiscard]] Paragraph &paragraph() { return *m_stories.back().paragraph; }

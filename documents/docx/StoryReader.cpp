@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/StoryReader.h"
 
-#include "documents/SymbolFont.h"
-#include "documents/docx/Measures.h"
-
 #include <array>
 
 namespace {
@@ -30,47 +27,10 @@ TableParts tablePartsOf(const XmlElement &element)
     for (size_t i = 0; i < conditionalParts.size(); ++i) {
         const auto attribute = element.attribute(conditionalAttributes[i]);
         const auto place = static_cast<qsizetype>(i);
-        if ((place < digits.size() && digits[place] == '1') || (attribute && truthOf(attribute)))
+        if ((place < digits.size() && digits[place] == '1') || (attribute && booleanOf(attribute)))
             parts |= 1U << static_cast<unsigned>(conditionalParts[i]);
     }
     return parts;
-}
-
-bool isXmlSpace(char byte)
-{
-    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
-}
-
-/// Replaces the private characters of the font Symbol by the characters that they show. Text in other fonts
-/// is unchanged.
-QString replaceSymbolGlyphs(QString text, const QString &family)
-{
-    constexpr char16_t firstGlyph = symbolGlyphBase + 0x20;
-    constexpr char16_t lastGlyph = symbolGlyphBase + 0xFF;
-    if (!isSymbolFamily(family))
-        return text;
-    for (QChar &unit : text) {
-        if (unit.unicode() >= firstGlyph && unit.unicode() <= lastGlyph)
-            unit = symbolFontCharacter(static_cast<uchar>(unit.unicode() - symbolGlyphBase));
-    }
-    return text;
-}
-
-/// The character for a code of w:sym. For a symbol font, Word stores private characters and some other
-/// programs the bare codes; in other fonts the code is the character.
-QChar symbolOfCode(char16_t code, const QString &family)
-{
-    const bool isBareCode = code >= 0x20 && code <= 0xFF && isSymbolOrPictureFamily(family);
-    return QChar(isBareCode ? static_cast<char16_t>(symbolGlyphBase + code) : code);
-}
-
-QByteArrayView trimmedXml(QByteArrayView text)
-{
-    while (!text.isEmpty() && isXmlSpace(text.front()))
-        text = text.sliced(1);
-    while (!text.isEmpty() && isXmlSpace(text.back()))
-        text.chop(1);
-    return text;
 }
 
 } // namespace
@@ -93,7 +53,7 @@ StoryReader::StoryReader(const DocumentStyles &styles, StoryNotes &notes, ReadCh
 void StoryReader::startElement(const XmlElement &element)
 {
     ++m_depth;
-    if (m_leftOutDepth > 0)
+    if (m_skippedDepth > 0)
         return;
     if (const auto space = element.attribute(XmlName{XmlSpace::Xml, "space"_tag}))
         m_spaceScopes.push_back({m_depth, *space == "preserve"});
@@ -120,9 +80,9 @@ void StoryReader::endElement(XmlName name)
 {
     if (!m_spaceScopes.empty() && m_spaceScopes.back().depth == m_depth)
         m_spaceScopes.pop_back();
-    if (m_leftOutDepth > 0) {
-        if (m_leftOutDepth == m_depth)
-            m_leftOutDepth = 0;
+    if (m_skippedDepth > 0) {
+        if (m_skippedDepth == m_depth)
+            m_skippedDepth = 0;
         --m_depth;
         return;
     }
@@ -131,11 +91,11 @@ void StoryReader::endElement(XmlName name)
             endText();
         m_scopes.pop_back();
     } else if (mode() == Mode::Content && name.space == XmlSpace::Word && m_assembler.isInStory()) {
-        // What stands within a text or within properties has not begun as a block.
+        // Elements within text or properties have not begun as blocks.
         endBlock(name.tag);
     } else if (mode() == Mode::Content && name.space == XmlSpace::Math && m_assembler.isInStory()) {
         if (m_formulaParts.endElement(name.tag, m_depth) && m_assembler.isInParagraph())
-            m_assembler.separate();
+            m_assembler.requireSpace();
     }
     if (!m_states.empty() && state().depth == m_depth)
         endStory();
@@ -144,7 +104,7 @@ void StoryReader::endElement(XmlName name)
 
 void StoryReader::endBlock(XmlTag tag)
 {
-    if (m_assembler.isInParagraph()) { // where startInline() has seen nothing of tables
+    if (m_assembler.isInParagraph()) { // startInline() ignores tables
         if (tag == "p"_tag)
             m_assembler.endParagraph(state().fieldsWithoutResult > 0);
         return;
@@ -159,7 +119,7 @@ void StoryReader::endBlock(XmlTag tag)
 
 void StoryReader::characters(QByteArrayView text)
 {
-    if (mode() == Mode::Text && m_leftOutDepth == 0)
+    if (mode() == Mode::Text && m_skippedDepth == 0)
         m_text.append(text);
 }
 
@@ -184,11 +144,11 @@ void StoryReader::startMath(XmlTag tag)
         break;
     case "rPr"_tag:
     case "ctrlPr"_tag:
-        leaveOut();
+        skipElement();
         break;
     default:
         if (m_formulaParts.startElement(tag, m_depth) && m_assembler.isInParagraph())
-            m_assembler.separate();
+            m_assembler.requireSpace();
         break;
     }
 }
@@ -204,7 +164,7 @@ void StoryReader::startWordContent(const XmlElement &element)
     }
     const StoryAssembler::Table *table = m_assembler.table();
     if (table && !m_assembler.isInParagraph() && (table->isCellRemoved || table->isRowRemoved)) {
-        leaveOut();
+        skipElement();
         return;
     }
     switch (element.tag()) {
@@ -224,7 +184,7 @@ void StoryReader::startWordContent(const XmlElement &element)
     case "sectPr"_tag:
     case "tblGrid"_tag:
     case "tblPrEx"_tag:
-        leaveOut();
+        skipElement();
         break;
     default:
         if (m_assembler.isInParagraph())
@@ -262,7 +222,7 @@ void StoryReader::startBlock(const XmlElement &element)
         break;
     case "altChunk"_tag:
         insertChunk(element);
-        leaveOut();
+        skipElement();
         break;
     default:
         break;
@@ -304,20 +264,20 @@ void StoryReader::startInline(const XmlElement &element)
         appendSymbol(element);
         break;
     case "fldChar"_tag:
-        takeField(element);
+        handleFieldCharacter(element);
         break;
     case "footnoteReference"_tag:
-        if (shows())
+        if (isShown())
             m_notes.footnotes.add(element.attribute("id"_tag).value_or("").toByteArray());
         break;
     case "endnoteReference"_tag:
-        if (shows())
+        if (isShown())
             m_notes.endnotes.add(element.attribute("id"_tag).value_or("").toByteArray());
         break;
     case "txbxContent"_tag:
-    case "p"_tag: // which belongs into no other one, but is read all the same
-        if (!shows()) {
-            leaveOut();
+    case "p"_tag: // not valid in another paragraph, but read as a text box
+        if (!isShown()) {
+            skipElement();
             break;
         }
         beginStory();
@@ -337,20 +297,20 @@ void StoryReader::startInProperties(const XmlElement &element)
     case "rPrChange"_tag:
     case "pPrChange"_tag:
     case "sectPr"_tag:
-        leaveOut();
+        skipElement();
         return;
     default:
         break;
     }
     const Theme &theme = m_assembler.theme();
     if (mode() == Mode::RunProperties)
-        state().run.direct.take(element, theme);
+        state().run.direct.read(element, theme);
     else if (mode() == Mode::MarkProperties)
-        m_assembler.markProperties().take(element, theme);
+        m_assembler.markProperties().read(element, theme);
     else if (element.tag() == "rPr"_tag)
         enter(Mode::MarkProperties);
     else
-        m_assembler.paragraphProperties().take(element);
+        m_assembler.paragraphProperties().read(element);
 }
 
 void StoryReader::startInTableProperties(const XmlElement &element)
@@ -362,7 +322,7 @@ void StoryReader::startInTableProperties(const XmlElement &element)
     case "tblPrChange"_tag:
     case "trPrChange"_tag:
     case "tcPrChange"_tag:
-        leaveOut();
+        skipElement();
         break;
     case "tblStyle"_tag:
         table->style = element.value().value_or("").toByteArray();
@@ -379,120 +339,4 @@ void StoryReader::startInTableProperties(const XmlElement &element)
     default:
         break;
     }
-}
-
-void StoryReader::beginStory()
-{
-    m_assembler.beginStory();
-    m_states.push_back({m_depth, {}, {}});
-}
-
-void StoryReader::beginNote(const XmlElement &element)
-{
-    m_note = element.attribute("id"_tag).value_or("").toByteArray();
-    if (m_wantedNotes && m_wantedNotes->contains(m_note))
-        beginStory();
-    else
-        leaveOut();
-}
-
-void StoryReader::endStory()
-{
-    m_assembler.endStory(state().fieldsWithoutResult > 0);
-    m_states.pop_back();
-    if (m_states.empty() && m_wantedNotes)
-        m_noteTexts.insert(m_note, m_assembler.takeText());
-}
-
-const RunFormat &StoryReader::format()
-{
-    Run &run = state().run;
-    if (!run.format)
-        run.format = m_assembler.formatOf(run.direct);
-    return *run.format;
-}
-
-bool StoryReader::shows()
-{
-    return state().fieldsWithoutResult == 0 && !format().isHidden();
-}
-
-void StoryReader::startText()
-{
-    if (!m_assembler.isInParagraph() || !shows()) {
-        leaveOut();
-        return;
-    }
-    m_text.clear();
-    state().keepsSpace = !m_spaceScopes.empty() && m_spaceScopes.back().isKept;
-    enter(Mode::Text);
-}
-
-void StoryReader::endText()
-{
-    QString text = QString::fromUtf8(state().keepsSpace ? QByteArrayView(m_text) : trimmedXml(m_text));
-    // A line end of the file is none of the text.
-    for (QChar &unit : text)
-        if (unit == u'\n' || unit == u'\r')
-            unit = u' ';
-    append(replaceSymbolGlyphs(text, format().ascii().font.family));
-}
-
-void StoryReader::append(QStringView text)
-{
-    if (shows())
-        m_assembler.append(text, format());
-}
-
-void StoryReader::appendBreak(const XmlElement &element)
-{
-    const QByteArrayView type = element.attribute("type"_tag).value_or("textWrapping");
-    append(type == "page" || type == "column" ? pageBreak : lineBreak);
-}
-
-void StoryReader::appendSymbol(const XmlElement &element)
-{
-    const std::optional<int> code = hexadecimalOf(element.attribute("char"_tag));
-    if (!code || *code <= 0 || *code > 0xFFFF || QChar::isSurrogate(static_cast<char32_t>(*code)))
-        return;
-    const QString font = fontNameOf(element.attribute("font"_tag).value_or(""));
-    const QString symbol =
-        replaceSymbolGlyphs(QString(symbolOfCode(static_cast<char16_t>(*code), font)), font);
-    if (!shows())
-        return;
-    RunProperties direct = state().run.direct;
-    if (!font.isEmpty())
-        direct.fonts = {font, font, font, font};
-    m_assembler.append(symbol, m_assembler.formatOf(direct));
-}
-
-void StoryReader::takeField(const XmlElement &element)
-{
-    StoryState &story = state();
-    const QByteArrayView type = element.attribute("fldCharType"_tag).value_or("");
-    if (type == "begin") {
-        story.fields.push_back(false);
-        ++story.fieldsWithoutResult;
-        return;
-    }
-    if (story.fields.empty() || (type != "separate" && type != "end"))
-        return;
-    if (!story.fields.back())
-        --story.fieldsWithoutResult;
-    if (type == "separate")
-        story.fields.back() = true;
-    else
-        story.fields.pop_back();
-}
-
-void StoryReader::insertChunk(const XmlElement &element)
-{
-    const auto identifier = element.attribute(XmlName{XmlSpace::Relationships, "id"_tag});
-    if (!identifier || m_error || state().fieldsWithoutResult > 0)
-        return;
-    Result<AttributedString, DocumentError::Cause> chunk = m_readChunk(identifier->toByteArray());
-    if (chunk)
-        m_assembler.insert(chunk.value());
-    else
-        m_error = chunk.error();
 }

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // StoryReader turns the elements of a part with text (the main part, footnotes, endnotes) into styled text:
-// it knows what of them is text, and StoryAssembler makes paragraphs of it.
+// it decides which elements are text. Assembling paragraphs is left to StoryAssembler.
 // Thread: one at a time.  Owner: DocxReader.
 #pragma once
 
-#include "documents/docx/FormulaParts.h"
 #include "documents/docx/StoryAssembler.h"
 #include "documents/docx/XmlReader.h"
 
@@ -15,7 +14,7 @@
 #include <optional>
 #include <vector>
 
-/// The notes that a story refers to, each once, in order.
+/// The identifiers of the notes that a text refers to, without repetitions, in order.
 class NoteReferences {
 public:
     void add(const QByteArray &identifier);
@@ -32,28 +31,43 @@ struct StoryNotes {
     NoteReferences endnotes;
 };
 
+/// Finds the parts of a formula (ECMA-376, Office Math) that are set apart from their neighbours on the page:
+/// the numerator and denominator of a fraction, the cells of a matrix, the lines of an equation array.
+class FormulaParts {
+public:
+    /// Call both for each element of a formula, with its depth in the document. True if a space is required
+    /// here.
+    bool startElement(XmlTag tag, int depth);
+    bool endElement(XmlTag tag, int depth);
+
+private:
+    [[nodiscard]] bool isSetApart(XmlTag tag, int depth) const;
+
+    std::vector<int> m_rows; // depths of the open rows of matrices and equation arrays, innermost last
+};
+
 class StoryReader final : public XmlHandler {
 public:
-    /// The text of a chunk in another format, by the identifier of its relationship.
+    /// Returns the text of a chunk in another format. identifier: of its relationship.
     using ReadChunk =
         std::function<Result<AttributedString, DocumentError::Cause>(const QByteArray &identifier)>;
 
-    /// notes: is told of the references in the text.
+    /// notes: receives the references in the text.
     StoryReader(const DocumentStyles &styles, StoryNotes &notes, ReadChunk readChunk);
 
     void startElement(const XmlElement &element) override;
     void endElement(XmlName name) override;
     void characters(QByteArrayView text) override;
 
-    /// The body of the main part.
+    /// Returns the body of the main part.
     [[nodiscard]] AttributedString takeBody() { return m_assembler.takeText(); }
-    /// Of a part with notes: those that the references given before contain.
-    void wantNotes(const NoteReferences *wanted) { m_wantedNotes = wanted; }
+    /// Must be called before a part with notes is read. Only these notes are read.
+    void setWantedNotes(const NoteReferences *wanted) { m_wantedNotes = wanted; }
     [[nodiscard]] AttributedString note(const QByteArray &identifier) const
     {
         return m_noteTexts.value(identifier);
     }
-    /// What went wrong with a chunk.
+    /// The first failure to read a chunk.
     [[nodiscard]] std::optional<DocumentError::Cause> error() const { return m_error; }
 
 private:
@@ -62,27 +76,27 @@ private:
         int depth;
         Mode mode;
     };
-    /// xml:space of an element, which holds for all that is in it.
+    /// An element with xml:space, which applies to its content.
     struct SpaceScope {
         int depth;
         bool isKept;
     };
     struct Run {
         RunProperties direct;
-        std::optional<RunFormat> format; // once its properties are known
+        std::optional<RunFormat> format; // set once its properties are known
     };
-    /// What a story within another one must not disturb.
+    /// State that each story has of its own.
     struct StoryState {
-        int depth; // of the element that the story is
+        int depth; // of the element of the story
         Run run;
-        std::vector<bool> fields; // of the open ones, whether the result has begun
+        std::vector<bool> fields; // open fields: whether the result has begun
         int fieldsWithoutResult = 0;
         bool keepsSpace = false;
     };
 
     [[nodiscard]] Mode mode() const { return m_scopes.empty() ? Mode::Content : m_scopes.back().mode; }
     void enter(Mode mode) { m_scopes.push_back({m_depth, mode}); }
-    void leaveOut() { m_leftOutDepth = m_depth; }
+    void skipElement() { m_skippedDepth = m_depth; }
 
     void startContent(const XmlElement &element);
     void startMath(XmlTag tag);
@@ -101,25 +115,25 @@ private:
     void append(QStringView text);
     void appendSymbol(const XmlElement &element);
     void appendBreak(const XmlElement &element);
-    void takeField(const XmlElement &element);
+    void handleFieldCharacter(const XmlElement &element);
     void insertChunk(const XmlElement &element);
     [[nodiscard]] StoryState &state() { return m_states.back(); }
     [[nodiscard]] const RunFormat &format();
-    /// Whether text at this place shows: not hidden, and not the instruction of a field.
-    [[nodiscard]] bool shows();
+    /// Whether text here is shown: not hidden, and not in a field instruction.
+    [[nodiscard]] bool isShown();
 
     StoryNotes &m_notes;
     ReadChunk m_readChunk;
     StoryAssembler m_assembler;
     int m_depth = 0;
-    int m_leftOutDepth = 0; // of the outermost element that is left out; 0: none
+    int m_skippedDepth = 0; // of the outermost skipped element; 0 if there is none
     std::vector<Scope> m_scopes; // innermost last
     std::vector<SpaceScope> m_spaceScopes; // innermost last
     std::vector<StoryState> m_states; // innermost last
     FormulaParts m_formulaParts;
-    QByteArray m_text; // of the text element that is open
+    QByteArray m_text; // of the open text element
     const NoteReferences *m_wantedNotes = nullptr;
-    QByteArray m_note; // the one that is open
+    QByteArray m_note; // identifier of the open note
     QHash<QByteArray, AttributedString> m_noteTexts;
     std::optional<DocumentError::Cause> m_error;
 };

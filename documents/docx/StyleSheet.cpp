@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/StyleSheet.h"
 
-#include "documents/docx/Measures.h"
-
 #include <algorithm>
 #include <array>
 
 namespace {
 
-constexpr size_t deepestInheritance = 50;
+constexpr size_t maxInheritanceDepth = 50;
 
 constexpr std::array<const char *, tablePartCount> tablePartNames{"band1Vert", "band2Vert", "band1Horz",
     "band2Horz", "firstRow", "lastRow", "firstCol", "lastCol", "neCell", "nwCell", "seCell", "swCell"};
@@ -40,7 +38,7 @@ public:
     void startElement(const XmlElement &element) override
     {
         ++m_depth;
-        if (!element.isWord() || m_leftOutDepth > 0)
+        if (!element.isWord() || m_skippedDepth > 0)
             return;
         switch (element.tag()) {
         case "docDefaults"_tag:
@@ -56,14 +54,14 @@ public:
             if (const auto part = tablePartOf(element.attribute("type"_tag).value_or("")))
                 m_target = &m_style.parts[*part];
             else
-                leaveOut();
+                skipElement();
             break;
         case "rPrChange"_tag:
         case "pPrChange"_tag:
         case "tblPr"_tag:
         case "trPr"_tag:
         case "tcPr"_tag:
-            leaveOut();
+            skipElement();
             break;
         case "pPr"_tag:
             m_isInParagraph = true;
@@ -72,28 +70,28 @@ public:
             m_isInRun = true;
             break;
         default:
-            takeProperty(element);
+            readProperty(element);
             break;
         }
     }
 
     void endElement(XmlName name) override
     {
-        if (m_leftOutDepth == m_depth)
-            m_leftOutDepth = 0;
-        else if (m_leftOutDepth == 0 && name.space == XmlSpace::Word)
-            end(name.tag);
+        if (m_skippedDepth == m_depth)
+            m_skippedDepth = 0;
+        else if (m_skippedDepth == 0 && name.space == XmlSpace::Word)
+            endWordElement(name.tag);
         --m_depth;
     }
 
 private:
-    void leaveOut() { m_leftOutDepth = m_depth; }
+    void skipElement() { m_skippedDepth = m_depth; }
 
     void startStyle(const XmlElement &element)
     {
         const QByteArrayView type = element.attribute("type"_tag).value_or("paragraph");
         if (type == "numbering") {
-            leaveOut();
+            skipElement();
             return;
         }
         m_style = {};
@@ -103,21 +101,21 @@ private:
             m_style.kind = StyleSheet::Kind::Table;
         m_identifier = element.attribute("styleId"_tag).value_or("").toByteArray();
         m_target = &m_style.own;
-        if (const auto isDefault = element.attribute("default"_tag); isDefault && truthOf(isDefault))
+        if (const auto isDefault = element.attribute("default"_tag); isDefault && booleanOf(isDefault))
             m_styles.m_defaultStyles.insert(static_cast<int>(m_style.kind), m_identifier);
     }
 
-    void takeProperty(const XmlElement &element)
+    void readProperty(const XmlElement &element)
     {
         if (!m_target)
             return;
         if (m_isInRun)
-            m_target->run.take(element, m_theme);
+            m_target->run.read(element, m_theme);
         else if (m_isInParagraph)
-            m_target->paragraph.take(element);
+            m_target->paragraph.read(element);
     }
 
-    void end(XmlTag tag)
+    void endWordElement(XmlTag tag)
     {
         switch (tag) {
         case "docDefaults"_tag:
@@ -145,7 +143,7 @@ private:
     StyleSheet &m_styles;
     const Theme &m_theme;
     int m_depth = 0;
-    int m_leftOutDepth = 0;
+    int m_skippedDepth = 0;
     bool m_isInParagraph = false;
     bool m_isInRun = false;
     QByteArray m_identifier;
@@ -164,7 +162,7 @@ Result<StyleSheet, DocumentError::Cause> StyleSheet::read(
     return styles;
 }
 
-/// A style that belongs to a list is indented as the list says, where it does not say so itself.
+/// A style that belongs to a list inherits the properties of the list level.
 void StyleSheet::applyLists(const Numbering &numbering)
 {
     for (Style &style : m_styles) {
@@ -185,11 +183,11 @@ QByteArray StyleSheet::knownIdentifier(Kind kind, const QByteArray &identifier) 
     return isKnown ? identifier : m_defaultStyles.value(static_cast<int>(kind));
 }
 
-StyleProperties StyleSheet::resolved(Kind kind, const QByteArray &identifier, TableParts parts) const
+StyleProperties StyleSheet::resolve(Kind kind, const QByteArray &identifier, TableParts parts) const
 {
-    std::vector<const Style *> chain; // the style, then what it is based on
+    std::vector<const Style *> chain; // the style, followed by those that it is based on
     auto found = m_styles.constFind(identifier);
-    while (found != m_styles.cend() && found->kind == kind && chain.size() < deepestInheritance) {
+    while (found != m_styles.cend() && found->kind == kind && chain.size() < maxInheritanceDepth) {
         chain.push_back(&*found);
         found = m_styles.constFind(found->basedOn);
     }
@@ -208,20 +206,20 @@ StyleProperties StyleSheet::resolved(Kind kind, const QByteArray &identifier, Ta
     return properties;
 }
 
-const StyleProperties &StyleSheet::remembered(const Key &key) const
+const StyleProperties &StyleSheet::resolvedStyle(const Key &key) const
 {
-    const auto known = m_resolved.find(key);
-    if (known != m_resolved.end())
+    const auto known = m_cache.find(key);
+    if (known != m_cache.end())
         return known->second;
-    return m_resolved.emplace(key, resolved(key.kind, key.identifier, key.parts)).first->second;
+    return m_cache.emplace(key, resolve(key.kind, key.identifier, key.parts)).first->second;
 }
 
 const StyleProperties &StyleSheet::style(Kind kind, const QByteArray &identifier) const
 {
-    return remembered({kind, 0, knownIdentifier(kind, identifier)});
+    return resolvedStyle({kind, 0, knownIdentifier(kind, identifier)});
 }
 
 const StyleProperties &StyleSheet::tableStyle(const QByteArray &identifier, TableParts parts) const
 {
-    return remembered({Kind::Table, parts, knownIdentifier(Kind::Table, identifier)});
+    return resolvedStyle({Kind::Table, parts, knownIdentifier(Kind::Table, identifier)});
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// StyleSheet knows the styles of a document, each with all that it inherits, and the document's defaults.
-// Thread: one at a time; it remembers what it has worked out.
+// StyleSheet resolves the styles of a document, each with everything that it inherits, and holds the defaults
+// of the document. Combining styles of different kinds is left to StoryAssembler.
+// Thread: one at a time; it caches resolved styles.
 #pragma once
 
 #include "documents/docx/Numbering.h"
@@ -20,7 +21,7 @@ struct StyleProperties {
     void overlay(const StyleProperties &other);
 };
 
-/// The parts of a table that a style may set apart, lowest rank first.
+/// The parts of a table that a style may format, by ascending precedence.
 enum class TablePart {
     OddColumns,
     EvenColumns,
@@ -37,7 +38,7 @@ enum class TablePart {
 };
 inline constexpr int tablePartCount = 12;
 
-/// Which parts something belongs to: bit 1 << part.
+/// A set of table parts: bit 1 << part.
 using TableParts = unsigned;
 
 class StyleSheet {
@@ -49,11 +50,11 @@ public:
 
     [[nodiscard]] const StyleProperties &defaults() const { return m_defaults; }
 
-    /// A style with what it is based on, at most 50 levels up; the default one of its kind where the
-    /// identifier is empty or unknown. Without a style, properties that leave everything open.
+    /// A style with everything that it inherits from at most 50 levels; the default style of the kind if the
+    /// identifier is empty or unknown. Properties without values if there is no such style.
     [[nodiscard]] const StyleProperties &style(Kind kind, const QByteArray &identifier) const;
 
-    /// What a table style says of text in these parts of the table.
+    /// The properties that a table style sets for text in some parts of a table.
     [[nodiscard]] const StyleProperties &tableStyle(const QByteArray &identifier, TableParts parts) const;
 
 private:
@@ -64,9 +65,9 @@ private:
         StyleProperties own;
         std::map<TablePart, StyleProperties> parts;
     };
-    /// The identifier, or that of the default style where it is unknown.
+    /// The identifier, or that of the default style if it is unknown.
     [[nodiscard]] QByteArray knownIdentifier(Kind kind, const QByteArray &identifier) const;
-    [[nodiscard]] StyleProperties resolved(Kind kind, const QByteArray &identifier, TableParts parts) const;
+    [[nodiscard]] StyleProperties resolve(Kind kind, const QByteArray &identifier, TableParts parts) const;
     void applyLists(const Numbering &numbering);
 
     QHash<QByteArray, Style> m_styles;
@@ -83,6 +84,6 @@ private:
             return parts != other.parts ? parts < other.parts : identifier < other.identifier;
         }
     };
-    const StyleProperties &remembered(const Key &key) const;
-    mutable std::map<Key, StyleProperties> m_resolved; // of known styles only
+    const StyleProperties &resolvedStyle(const Key &key) const;
+    mutable std::map<Key, StyleProperties> m_cache; // known styles only
 };

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype longestFontName = 255; // bytes
+constexpr qsizetype maxFontNameLength = 255; // bytes
 
 } // namespace
 
@@ -30,13 +30,13 @@ public:
             m_group = "minor";
             break;
         case "latin"_tag:
-            take(element, {"Ascii", "HAnsi"});
+            readTypeface(element, {"Ascii", "HAnsi"});
             break;
         case "ea"_tag:
-            take(element, {"EastAsia"});
+            readTypeface(element, {"EastAsia"});
             break;
         case "cs"_tag:
-            take(element, {"Bidi"});
+            readTypeface(element, {"Bidi"});
             break;
         default:
             break;
@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    void take(const XmlElement &element, std::initializer_list<const char *> scripts)
+    void readTypeface(const XmlElement &element, std::initializer_list<const char *> scripts)
     {
         const auto typeface = element.attribute(plainName("typeface"_tag));
         if (m_group.isEmpty() || !typeface)
@@ -73,5 +73,5 @@ Result<Theme, DocumentError::Cause> Theme::read(const ZipPackage &package, const
 
 QString fontNameOf(QByteArrayView name)
 {
-    return QString::fromUtf8(name.first(std::min(name.size(), longestFontName)));
+    return QString::fromUtf8(name.first(std::min(name.size(), maxFontNameLength)));
 }

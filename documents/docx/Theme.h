@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Theme knows the fonts that a document's theme gives for headings (major) and text (minor).
+// Theme holds the fonts of a document theme for headings (major) and text (minor). Selecting one for a
+// character is left to RunFormat.
 // Thread: any.
 #pragma once
 
@@ -14,7 +15,7 @@ class Theme {
 public:
     static Result<Theme, DocumentError::Cause> read(const ZipPackage &package, const QByteArray &partName);
 
-    /// name: as the attributes of rFonts name it: "minorHAnsi", "majorBidi". Empty where the theme has none.
+    /// Empty if the theme has no such font. name: from an attribute of w:rFonts, such as "minorHAnsi".
     [[nodiscard]] QString font(QByteArrayView name) const { return m_fonts.value(name.toByteArray()); }
 
 private:
@@ -22,5 +23,5 @@ private:
     QHash<QByteArray, QString> m_fonts;
 };
 
-/// A font's name as it may stand in attributes: a longer one than any system allows is cut.
+/// A font name from an attribute, truncated to the maximum length on any system.
 QString fontNameOf(QByteArrayView name);

@@ -1,30 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/XmlReader.h"
 
-#include "documents/docx/MarkupCompatibility.h"
-#include "documents/docx/XmlNamespaces.h"
-
 #include <expat.h>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <new>
 #include <vector>
 
 namespace {
 
-constexpr int greatestDepth = 2'000;
-// Bytes of one tag or comment; some twice as long are let through. The drawings of old shapes are attributes
-// of hundreds of kilobytes.
-constexpr qsizetype longestToken = 16'777'216;
-constexpr qsizetype shortestFeed = 65'536;
+constexpr int maxDepth = 2'000;
+// Bytes of one tag or comment; up to twice as many may pass. Drawings of old shapes are attributes of
+// hundreds of kilobytes.
+constexpr qsizetype maxTokenLength = 16'777'216;
+constexpr qsizetype minFeedLength = 65'536;
 
 struct FreeParser {
     void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
 };
 
-/// Feeds a parser and passes on what it finds. The parser keeps no state of a document's author but open tags
-/// and names; both are bounded.
+/// Feeds a parser and passes its results to the handler. The only state of the parser that a document
+/// controls are open tags and names; both are bounded.
 class ParserDriver {
 public:
     explicit ParserDriver(XmlHandler &handler)
@@ -46,17 +44,17 @@ public:
 private:
     static void XMLCALL onStart(void *self, const XML_Char *name, const XML_Char **attributes)
     {
-        static_cast<ParserDriver *>(self)->guarded(
+        static_cast<ParserDriver *>(self)->callSafely(
             [&](ParserDriver &driver) { driver.start(name, attributes); });
     }
     static void XMLCALL onEnd(void *self, const XML_Char *name)
     {
-        static_cast<ParserDriver *>(self)->guarded([&](ParserDriver &driver) { driver.end(name); });
+        static_cast<ParserDriver *>(self)->callSafely([&](ParserDriver &driver) { driver.end(name); });
     }
     static void XMLCALL onCharacters(void *self, const XML_Char *text, int length)
     {
-        static_cast<ParserDriver *>(self)->guarded([&](ParserDriver &driver) {
-            if (driver.m_leftOutDepth == 0)
+        static_cast<ParserDriver *>(self)->callSafely([&](ParserDriver &driver) {
+            if (driver.m_skippedDepth == 0)
                 driver.m_handler.characters(QByteArrayView(text, length));
         });
     }
@@ -65,9 +63,9 @@ private:
         static_cast<ParserDriver *>(self)->stop(DocumentError::Cause::Damaged);
     }
 
-    /// The parser is C and knows no exceptions.
+    /// The parser is written in C; no exception may pass through it.
     template <typename Call>
-    void guarded(Call &&call) noexcept
+    void callSafely(Call &&call) noexcept
     {
         if (m_error)
             return;
@@ -88,11 +86,11 @@ private:
     MarkupCompatibility m_compatibility;
     XmlHandler &m_handler;
     QByteArray m_pending;
-    qsizetype m_feedLength = shortestFeed;
-    qint64 m_fed = 0;
+    qsizetype m_feedLength = minFeedLength;
+    qint64 m_fedLength = 0;
     int m_depth = 0;
-    int m_leftOutDepth = 0; // of the outermost element that is left out; 0: none
-    std::vector<bool> m_isSeen; // by depth, of open elements
+    int m_skippedDepth = 0; // of the outermost element that is left out; 0: none
+    std::vector<bool> m_isKept; // by depth, of open elements
     std::optional<DocumentError::Cause> m_error;
 };
 
@@ -105,32 +103,32 @@ void ParserDriver::stop(DocumentError::Cause error)
 void ParserDriver::start(const char *name, const char *const *attributes)
 {
     ++m_depth;
-    if (m_depth > greatestDepth || m_namespaces.hasTooManyNames()) {
+    if (m_depth > maxDepth || m_namespaces.hasTooManyNames()) {
         stop(DocumentError::Cause::TooComplex);
         return;
     }
     m_namespaces.enter(m_depth, attributes);
-    bool isSeen = false;
-    if (m_leftOutDepth == 0) {
-        const MarkupCompatibility::Fate fate = m_compatibility.enter(m_depth, name, attributes);
-        if (fate == MarkupCompatibility::Fate::LeftOut)
-            m_leftOutDepth = m_depth;
-        isSeen = fate == MarkupCompatibility::Fate::Seen;
+    bool isKept = false;
+    if (m_skippedDepth == 0) {
+        const MarkupCompatibility::Treatment treatment = m_compatibility.enter(m_depth, name, attributes);
+        if (treatment == MarkupCompatibility::Treatment::Skip)
+            m_skippedDepth = m_depth;
+        isKept = treatment == MarkupCompatibility::Treatment::Keep;
     }
-    m_isSeen.push_back(isSeen);
-    if (isSeen)
+    m_isKept.push_back(isKept);
+    if (isKept)
         m_handler.startElement(XmlElement(m_namespaces.elementName(name), attributes, m_namespaces));
 }
 
 void ParserDriver::end(const char *name)
 {
-    if (m_isSeen.back())
+    if (m_isKept.back())
         m_handler.endElement(m_namespaces.elementName(name));
-    m_isSeen.pop_back();
-    if (m_leftOutDepth == 0)
+    m_isKept.pop_back();
+    if (m_skippedDepth == 0)
         m_compatibility.leave(m_depth);
-    else if (m_leftOutDepth == m_depth)
-        m_leftOutDepth = 0;
+    else if (m_skippedDepth == m_depth)
+        m_skippedDepth = 0;
     m_namespaces.leave(m_depth);
     --m_depth;
 }
@@ -152,14 +150,14 @@ bool ParserDriver::feed(bool isLast)
                 : DocumentError::Cause::Damaged;
         return false;
     }
-    m_fed += m_pending.size();
+    m_fedLength += m_pending.size();
     m_pending.clear();
-    // What is left of a token that has not ended is looked through again with every feed; feeding as much
-    // again keeps the sum proportional to its length.
-    const auto left = static_cast<qsizetype>(m_fed - XML_GetCurrentByteIndex(m_parser.get()));
-    if (left > longestToken)
+    // The parser scans an incomplete token again on every call. Doubling the input each time keeps the total
+    // proportional to the length of the token.
+    const auto left = static_cast<qsizetype>(m_fedLength - XML_GetCurrentByteIndex(m_parser.get()));
+    if (left > maxTokenLength)
         m_error = DocumentError::Cause::TooComplex;
-    m_feedLength = std::max(shortestFeed, left);
+    m_feedLength = std::max(minFeedLength, left);
     return !m_error;
 }
 
@@ -168,6 +166,30 @@ std::optional<DocumentError::Cause> ParserDriver::finish()
     if (!m_error)
         (void)feed(true);
     return m_error;
+}
+
+constexpr double maxLength = 2'834; // points; a metre
+constexpr qsizetype maxNumberLength = 40;
+
+struct Unit {
+    const char *name;
+    double points;
+};
+
+constexpr Unit units[]{
+    {"pt", 1},
+    {"in", 72},
+    {"cm", 72 / 2.54},
+    {"mm", 72 / 25.4},
+    {"pc", 12},
+    {"pi", 12},
+};
+
+std::optional<double> numberOf(QByteArrayView text)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 } // namespace
@@ -189,4 +211,47 @@ std::optional<DocumentError::Cause> readXmlPart(
     if (failure)
         return failure;
     return driver.finish();
+}
+
+std::optional<double> pointsOf(std::optional<QByteArrayView> value, double unitsPerPoint)
+{
+    if (!value || value->size() > maxNumberLength)
+        return std::nullopt;
+    const QByteArrayView text = value->trimmed();
+    std::optional<double> points = numberOf(text);
+    if (points)
+        *points /= unitsPerPoint;
+    for (const Unit &unit : units) {
+        if (!points && text.endsWith(unit.name)) {
+            points = numberOf(text.chopped(2));
+            if (points)
+                *points *= unit.points;
+        }
+    }
+    if (!points)
+        return std::nullopt;
+    return std::clamp(*points, -maxLength, maxLength);
+}
+
+std::optional<int> integerOf(std::optional<QByteArrayView> value)
+{
+    if (!value || value->size() > maxNumberLength)
+        return std::nullopt;
+    bool isNumber = false;
+    const int number = value->trimmed().toInt(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+std::optional<int> hexadecimalOf(std::optional<QByteArrayView> value)
+{
+    if (!value || value->size() > maxNumberLength)
+        return std::nullopt;
+    bool isNumber = false;
+    const int number = value->trimmed().toInt(&isNumber, 16);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+bool booleanOf(std::optional<QByteArrayView> value)
+{
+    return !value || !(*value == "0" || *value == "false" || *value == "off");
 }

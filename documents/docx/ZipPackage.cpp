@@ -9,22 +9,22 @@
 
 namespace {
 
-constexpr qint64 mostParts = 20'000;
+constexpr qint64 maxParts = 20'000;
 constexpr qsizetype pieceLength = 65'536;
-// DEFLATE reaches 1:1032 on a single repeated byte. Texts that repeat themselves reach 1:200; small parts are
-// left alone, since they do no harm.
-constexpr qint64 greatestRatio = 400;
-constexpr qint64 harmlessLength = 33'554'432;
+// DEFLATE compresses a repeated byte 1:1032 and repetitive text up to 1:200. Parts up to uncheckedLength may
+// have any ratio, because they do no harm.
+constexpr qint64 maxRatio = 400;
+constexpr qint64 uncheckedLength = 33'554'432;
 
-/// The beginning of every compound file: documents of Word 97 to 2003, and encrypted packages.
+/// Documents of Word 97 to 2003, and encrypted packages, are compound files.
 bool isCompoundFile(QByteArrayView bytes)
 {
     return bytes.startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
 }
 
-/// Whether a compound file has a stream of the name that an encrypted package has (MS-OFFCRYPTO 2.3.4.4). The
-/// entries of its directory may be anywhere in the file, at multiples of their length. They begin with the
-/// stream's name, in UTF-16 with a NUL behind it; their case says nothing (MS-CFB 2.6.4).
+/// Whether a compound file has the stream of an encrypted package (MS-OFFCRYPTO 2.3.4.4). Directory entries
+/// may be anywhere in the file, at multiples of their length. They begin with the name of the stream in
+/// UTF-16 and a NUL; names are not case-sensitive (MS-CFB 2.6.4).
 bool hasEncryptedPackage(QByteArrayView bytes)
 {
     constexpr qsizetype entryLength = 128;
@@ -61,7 +61,7 @@ struct CloseFile {
     void operator()(zip_file_t *file) const { zip_fclose(file); }
 };
 
-QByteArray comparable(const QByteArray &name)
+QByteArray normalizeName(const QByteArray &name)
 {
     QByteArray lower = name.toLower();
     lower.replace('\\', '/');
@@ -102,14 +102,14 @@ Result<ZipPackage, DocumentError::Cause> ZipPackage::open(QByteArrayView bytes, 
 std::optional<DocumentError::Cause> ZipPackage::listParts()
 {
     const zip_int64_t count = zip_get_num_entries(m_archive.get(), 0);
-    if (count > mostParts)
+    if (count > maxParts)
         return DocumentError::Cause::TooLarge;
     for (zip_int64_t i = 0; i < count; ++i) {
         const auto place = static_cast<quint64>(i);
-        const QByteArray name = comparable(zip_get_name(m_archive.get(), place, ZIP_FL_ENC_RAW));
+        const QByteArray name = normalizeName(zip_get_name(m_archive.get(), place, ZIP_FL_ENC_RAW));
         if (name.isEmpty() || name.endsWith('/'))
             continue;
-        // Which of two parts of one name is meant, nobody can know (OPC forbids it).
+        // Two parts of one name are ambiguous, and forbidden by OPC.
         if (m_parts.contains(name))
             return DocumentError::Cause::Damaged;
         m_parts.insert(name, place);
@@ -119,12 +119,12 @@ std::optional<DocumentError::Cause> ZipPackage::listParts()
 
 bool ZipPackage::contains(const QByteArray &name) const
 {
-    return m_parts.contains(comparable(name));
+    return m_parts.contains(normalizeName(name));
 }
 
-std::optional<DocumentError::Cause> ZipPackage::read(const QByteArray &name, const Take &take) const
+std::optional<DocumentError::Cause> ZipPackage::read(const QByteArray &name, const Consumer &consume) const
 {
-    const auto part = m_parts.constFind(comparable(name));
+    const auto part = m_parts.constFind(normalizeName(name));
     zip_stat_t description;
     if (part == m_parts.cend() || zip_stat_index(m_archive.get(), *part, 0, &description) != 0)
         return DocumentError::Cause::Damaged;
@@ -142,9 +142,9 @@ std::optional<DocumentError::Cause> ZipPackage::read(const QByteArray &name, con
             return std::nullopt;
         total += length;
         m_allowance->bytes -= length;
-        if (m_allowance->bytes < 0 || (total > harmlessLength && total / greatestRatio > compressed))
+        if (m_allowance->bytes < 0 || (total > uncheckedLength && total / maxRatio > compressed))
             return DocumentError::Cause::TooLarge;
-        if (!take(QByteArrayView(piece.data(), static_cast<qsizetype>(length))))
+        if (!consume(QByteArrayView(piece.data(), static_cast<qsizetype>(length))))
             return std::nullopt;
     }
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// ZipPackage reads the parts of a package, a ZIP archive in memory, by their names. What a part is for,
-// others know.
-// Thread: one at a time.  Owner: whoever opens it; the bytes must outlive it.
+// ZipPackage reads the parts of a package, a ZIP archive in memory, by name. Finding a part by its purpose is
+// left to PackageParts.
+// Thread: one at a time.  Owner: readPackageDocument(). The bytes must outlive it.
 #pragma once
 
 #include "documents/docx/DocxReader.h"
@@ -17,25 +17,26 @@
 
 struct zip;
 
-/// How much may still be read: shared by a document and those within it.
+/// How much may still be read; shared by a document and the documents nested in it.
 struct ReadAllowance {
     qint64 bytes = 536'870'912; ///< uncompressed
     int nestedDocuments = 3; ///< levels
-    int chunks = 5'000; ///< each takes time, however short it is
+    int chunks = 5'000; ///< even short ones take time
 };
 
 class ZipPackage {
 public:
-    /// Encrypted and old documents, which are no archives, are told apart by their beginnings.
+    /// Fails as Encrypted or OldFormat for such documents, which are not archives.
     static Result<ZipPackage, DocumentError::Cause> open(QByteArrayView bytes, ReadAllowance &allowance);
 
-    /// Part names are those of OPC without the leading slash, of any case: "word/document.xml".
+    /// name: of the part, without a leading slash, such as "word/document.xml". Ignores case.
     [[nodiscard]] bool contains(const QByteArray &name) const;
 
-    /// Hands a part over piece by piece, none longer than 64 KiB, until take() returns false. Absent where
-    /// the part was read to its end or to where take() stopped; a missing part is Damaged.
-    using Take = std::function<bool(QByteArrayView piece)>;
-    [[nodiscard]] std::optional<DocumentError::Cause> read(const QByteArray &name, const Take &take) const;
+    /// Passes a part to a function in pieces of at most 64 KiB, until the function returns false. Returns the
+    /// failure; absent on success. Fails as Damaged if the part is missing.
+    using Consumer = std::function<bool(QByteArrayView piece)>;
+    [[nodiscard]] std::optional<DocumentError::Cause> read(
+        const QByteArray &name, const Consumer &consume) const;
 
     [[nodiscard]] Result<QByteArray, DocumentError::Cause> contents(const QByteArray &name) const;
 
@@ -55,6 +56,6 @@ private:
     [[nodiscard]] std::optional<DocumentError::Cause> listParts();
 
     Archive m_archive;
-    QHash<QByteArray, quint64> m_parts; // lower-case names to places in the archive
+    QHash<QByteArray, quint64> m_parts; // from normalized names to indices in the archive
     ReadAllowance *m_allowance;
 };

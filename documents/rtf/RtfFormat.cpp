@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr double halfPointsPerPoint = 2;
 constexpr double quarterPointsPerPoint = 4;
 constexpr double thousandthsPerPoint = 1000;
 

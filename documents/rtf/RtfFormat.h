@@ -4,6 +4,7 @@
 // Thread: one.
 #pragma once
 
+#include "documents/LengthUnits.h"
 #include "documents/rtf/RtfWords.h"
 #include "platform/styled_text/TextAttributes.h"
 
@@ -14,8 +15,6 @@
 
 /// In a paragraph; further stops are ignored. Word processors accept 64.
 inline constexpr size_t maxTabStops = 256;
-
-inline constexpr double twipsPerPoint = 20;
 
 struct RtfCharacterFormat {
     static constexpr qint32 noFont = -1;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "documents/LengthUnits.h"
 #include "documents/rtf/RtfInterpreter.h"
 #include "documents/rtf/RtfLanguage.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/writer/FormatWords.h"
 
+#include "documents/LengthUnits.h"
 #include "documents/rtf/RtfLanguage.h"
 #include "documents/rtf/writer/ExactValues.h"
 #include "documents/rtf/writer/RtfEscapes.h"
@@ -11,9 +12,6 @@
 
 namespace {
 
-constexpr int twipsPerPoint = 20;
-constexpr int halfPointsPerPoint = 2;
-
 constexpr int minBoldWeight = 550; // halfway between regular and bold
 
 /// A length in the units in which RTF counts it.
@@ -23,11 +21,11 @@ struct NearestNumber {
 };
 
 /// NaN becomes 0.
-NearestNumber nearestNumber(double points, int unitsPerPoint)
+NearestNumber nearestNumber(double points, double unitsPerPoint)
 {
     const double units = std::isnan(points) ? 0 : std::round(points * unitsPerPoint);
     const auto number = static_cast<int>(std::clamp<double>(units, INT16_MIN, INT16_MAX));
-    return {number, static_cast<double>(number) / unitsPerPoint == points};
+    return {number, number / unitsPerPoint == points};
 }
 
 /// Word processors accept no more in a paragraph. Further stops appear in the exact value only.

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "documents/docx/DocumentStyles.h"
+#include "documents/docx/PackageDocument.h"
 
-#include "documents/docx/Measures.h"
+#include "documents/LengthUnits.h"
 
 namespace {
 
-constexpr double smallestTabInterval = 1; // points
+constexpr double minTabInterval = 1; // points
 
 class SettingsReader final : public XmlHandler {
 public:
@@ -18,8 +18,8 @@ public:
     {
         if (element.name() != wordName("defaultTabStop"_tag))
             return;
-        const std::optional<double> interval = pointsOf(element.value(), twentieths);
-        if (interval && *interval >= smallestTabInterval)
+        const std::optional<double> interval = pointsOf(element.value(), twipsPerPoint);
+        if (interval && *interval >= minTabInterval)
             m_styles.defaultTabInterval = *interval;
     }
     void endElement(XmlName) override { }
@@ -28,17 +28,17 @@ private:
     DocumentStyles &m_styles;
 };
 
-/// Absent where there is no such part.
-std::optional<QByteArray> presentPart(
+/// Absent if the package has no such part.
+std::optional<QByteArray> findPart(
     const ZipPackage &package, const Relationships &relationships, const char *type)
 {
     const std::optional<QByteArray> part = relationships.partByType(type);
     return part && package.contains(*part) ? part : std::nullopt;
 }
 
-/// Puts what was read in its place; a failure is returned.
+/// Moves a value to its place, or returns the failure.
 template <typename Value>
-std::optional<DocumentError::Cause> put(Value &place, Result<Value, DocumentError::Cause> value)
+std::optional<DocumentError::Cause> assign(Value &place, Result<Value, DocumentError::Cause> value)
 {
     if (!value)
         return value.error();
@@ -53,16 +53,16 @@ Result<DocumentStyles, DocumentError::Cause> DocumentStyles::read(
 {
     DocumentStyles styles;
     std::optional<DocumentError::Cause> failure;
-    if (const auto part = presentPart(package, ofMainPart, "theme"))
-        failure = put(styles.theme, Theme::read(package, *part));
-    const auto numbering = presentPart(package, ofMainPart, "numbering");
+    if (const auto part = findPart(package, ofMainPart, "theme"))
+        failure = assign(styles.theme, Theme::read(package, *part));
+    const auto numbering = findPart(package, ofMainPart, "numbering");
     if (numbering && !failure)
-        failure = put(styles.numbering, Numbering::read(package, *numbering));
-    const auto styleSheet = presentPart(package, ofMainPart, "styles");
+        failure = assign(styles.numbering, Numbering::read(package, *numbering));
+    const auto styleSheet = findPart(package, ofMainPart, "styles");
     if (styleSheet && !failure)
         failure =
-            put(styles.styleSheet, StyleSheet::read(package, *styleSheet, styles.theme, styles.numbering));
-    const auto settings = presentPart(package, ofMainPart, "settings");
+            assign(styles.styleSheet, StyleSheet::read(package, *styleSheet, styles.theme, styles.numbering));
+    const auto settings = findPart(package, ofMainPart, "settings");
     if (settings && !failure) {
         SettingsReader reader(styles);
         failure = readXmlPart(package, *settings, reader);
