@@ -39,7 +39,7 @@ bool LibreOffice::isInstalled()
     return !program().isEmpty();
 }
 
-QByteArray LibreOffice::converted(const Document &document, const QString &extension, const QString &folder)
+QByteArray LibreOffice::convert(const Document &document, const QString &extension, const QString &folder)
 {
     QFile source(folder + QStringLiteral("/document.fodt"));
     if (!source.open(QIODevice::WriteOnly))
@@ -63,6 +63,6 @@ QByteArray LibreOffice::converted(const Document &document, const QString &exten
 
 QString LibreOffice::textExport(const Document &document, const QString &folder)
 {
-    const QString text = QString::fromUtf8(converted(document, QStringLiteral("txt"), folder));
+    const QString text = QString::fromUtf8(convert(document, QStringLiteral("txt"), folder));
     return text.startsWith(QChar::ByteOrderMark) ? text.sliced(1) : text;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// LibreOffice as another writer of documents, where it is installed.
+// LibreOffice converts documents with LibreOffice, if it is installed.
 // Thread: one at a time.
 #pragma once
 
@@ -10,16 +10,16 @@ namespace LibreOffice {
 
 bool isInstalled();
 
-/// What LibreOffice makes of a flat OpenDocument text. body: what is within office:text; styles: what is
-/// within office:automatic-styles; masterStyles: what is within office:master-styles. extension: of the
-/// format to write: "docx", "pdf", "txt" (UTF-8, with a byte order mark). folder: to work in, with the user's
-/// files of LibreOffice. Empty where that fails.
+/// A flat OpenDocument text.
 struct Document {
-    QByteArray body;
-    QByteArray styles = {};
-    QByteArray masterStyles = {};
+    QByteArray body; ///< content of office:text
+    QByteArray styles = {}; ///< content of office:automatic-styles
+    QByteArray masterStyles = {}; ///< content of office:master-styles
 };
-QByteArray converted(const Document &document, const QString &extension, const QString &folder);
+
+/// The document in another format; empty if the conversion fails. extension: "docx", "pdf" or "txt" (UTF-8
+/// with a byte order mark).  folder: for temporary files and the settings of LibreOffice.
+QByteArray convert(const Document &document, const QString &extension, const QString &folder);
 
 /// The text export, without its byte order mark.
 QString textExport(const Document &document, const QString &folder);

@@ -39,7 +39,7 @@ QString textWithChunk(const QByteArray &contentType, const QByteArray &contents)
 
 } // namespace
 
-TEST(DocxTextBoxes, StandOnceBehindTheParagraphThatAnchorsThem)
+TEST(DocxTextBoxes, FollowTheParagraphThatAnchorsThemOnce)
 {
     EXPECT_EQ(textOfBody(paragraph(run("a") + "<w:r>" + alternatives("wps", shape("new"), oldShape("old"))
                              + "</w:r>" + run("b"))
@@ -58,7 +58,7 @@ TEST(DocxTextBoxes, InTextBoxesFollowTheParagraphThere)
         QStringLiteral("a\nbox \ninner\nend\n"));
 }
 
-TEST(DocxTextBoxes, StayWithAParagraphThatGoesOnInTheNext)
+TEST(DocxTextBoxes, StayWithAParagraphThatContinuesInTheNext)
 {
     EXPECT_EQ(textOfBody(paragraph(run("a") + "<w:r>" + oldShape("box") + "</w:r>",
                              "<w:rPr><w:del w:id='1'/></w:rPr>")
@@ -77,7 +77,7 @@ TEST(DocxTextBoxes, KeepTablesAndFieldsOfTheirOwn)
         QStringLiteral("ab\ncell\n\n\n"));
 }
 
-TEST(DocxAlternatives, CountOnceTheFirstThatIsUnderstood)
+TEST(DocxAlternatives, AreReadFromTheFirstSupportedChoice)
 {
     EXPECT_EQ(textOfBody(paragraph(alternatives("w14", run("choice"), run("fallback")))),
         QStringLiteral("choice\n"));
@@ -97,7 +97,7 @@ TEST(DocxAlternatives, AreChosenWithinTheChosenOnes)
         QStringLiteral("d\n"));
 }
 
-TEST(DocxAlternatives, LeaveOutWhatMayBeIgnoredButNotItsContentWhereThatIsWanted)
+TEST(DocxAlternatives, SkipIgnorableElementsButKeepContentToBeProcessed)
 {
     const QByteArray body = paragraph("<x:skip xmlns:x='urn:x'>" + run("a") + "</x:skip>" + run("b"));
     const auto under = [&body](const QByteArray &attributes) {
@@ -109,7 +109,7 @@ TEST(DocxAlternatives, LeaveOutWhatMayBeIgnoredButNotItsContentWhereThatIsWanted
     EXPECT_EQ(under("mc:Ignorable='w14'"), QStringLiteral("ab\n"));
 }
 
-TEST(DocxChunks, OfEveryKindStandInTheirPlace)
+TEST(DocxChunks, OfEveryKindAreReadInTheirPlace)
 {
     EXPECT_EQ(textWithChunk("text/plain", "plain"), QStringLiteral("before\nplain\nafter\n"));
     EXPECT_EQ(
@@ -157,7 +157,7 @@ TEST(DocxChunks, OfWebArchivesWithinEachOtherAreReadToABoundedDepth)
     EXPECT_EQ(readDocx(withChunk("message/rfc822", archive).bytes()).error().cause, Cause::UnsupportedPart);
 }
 
-TEST(DocxChunks, OfAnUnknownKindAreAnErrorAndNoSilentLoss)
+TEST(DocxChunks, OfAnUnknownKindAreAnError)
 {
     EXPECT_EQ(
         readDocx(withChunk("application/x-unknown", "?").bytes()).error().cause, Cause::UnsupportedPart);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Documents of others: what they hold is known from their names, or from a second document.
+// Documents of other projects; their names, or a second document, tell the expected text.
 #include "tests/documents/docx/DocxTest.h"
 
 #include <QDirIterator>
@@ -35,7 +35,7 @@ protected:
 
 } // namespace
 
-TEST_F(DocxCorpora, DocumentsWithRevisionsReadAsIfTheyWereAccepted)
+TEST_F(DocxCorpora, DocumentsWithRevisionsReadLikeAcceptedOnes)
 {
     const QString accepted = QStringLiteral("-Accepted.docx");
     int pairs = 0;
@@ -58,7 +58,7 @@ TEST_F(DocxCorpora, EveryDocumentOpens)
         textOfFile(path);
 }
 
-TEST_F(DocxCorpora, OfMammothHoldWhatTheirNamesSay)
+TEST_F(DocxCorpora, OfMammothContainWhatTheirNamesSay)
 {
     const auto mammoth = [](const char *name) {
         return textOfFile(corporaFolder() + QStringLiteral("/mammoth/test/test-data/")
@@ -84,7 +84,7 @@ TEST_F(DocxCorpora, OfMammothHoldWhatTheirNamesSay)
     EXPECT_EQ(mammoth("utf8-bom"), QStringLiteral("This XML has a byte order mark.\n"));
 }
 
-TEST_F(DocxCorpora, OfPythonDocxHoldWhatTheirNamesSay)
+TEST_F(DocxCorpora, OfPythonDocxContainWhatTheirNamesSay)
 {
     const auto feature = [](const char *name) {
         return textOfFile(corporaFolder() + QStringLiteral("/python-docx/features/steps/test_files/")
@@ -103,6 +103,6 @@ TEST_F(DocxCorpora, OfPythonDocxHoldWhatTheirNamesSay)
     EXPECT_EQ(feature("doc-add-section"), QStringLiteral("First page\n\f\nSecond page\n\f\nThird page\n"));
     EXPECT_EQ(feature("tab-stops"),
         QStringLiteral("Default\t\ttab\tstops\nAssigned\tLeft\tcenter\tright\n\t-0.5\t\t0.5\n"));
-    EXPECT_EQ(feature("tbl-2x2-table"), QStringLiteral("\n").repeated(5)); // and the paragraph behind it
+    EXPECT_EQ(feature("tbl-2x2-table"), QStringLiteral("\n").repeated(5)); // including the paragraph after it
     EXPECT_EQ(feature("sct-inner-content"), QStringLiteral("P1\nT2\n\n\n\nP3\nT4\nP5\nP6\nP7\nP8\nP9\n"));
 }

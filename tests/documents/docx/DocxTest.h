@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// What the tests of the reader of Word documents have in common.
+// DocxTest reads Word documents, and writes the elements that the tests have in common.
+// Thread: any.
 #pragma once
 
 #include "documents/docx/DocxReader.h"
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/harness/QuillbayTest.h"
 
-/// The text of a document that must be readable.
+/// The text of a document; fails the test if it cannot be read.
 inline QString textOf(const WordPackage &document)
 {
     const Result<AttributedString, DocumentError> text = readDocx(document.bytes());

@@ -59,7 +59,7 @@ TEST(DocxFields, WithAnInstructionOfSeveralParagraphsMakeOneOfThem)
         QStringLiteral("one two\nthree\n"));
 }
 
-TEST(DocxFields, ThatEndBeforeTheyBeginAreNone)
+TEST(DocxFields, ThatEndBeforeTheyBeginAreIgnored)
 {
     EXPECT_EQ(textOfBody(paragraph(end + separate + run("a"))), QStringLiteral("a\n"));
 }

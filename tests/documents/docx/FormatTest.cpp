@@ -37,7 +37,7 @@ const QByteArray defaults = "<w:docDefaults><w:rPrDefault><w:rPr>" + fonts("Defa
 
 } // namespace
 
-TEST(DocxFormat, IsTimesOfTenPointsWhereNothingIsSaid)
+TEST(DocxFormat, IsTimesOfTenPointsByDefault)
 {
     EXPECT_EQ(font({.body = textParagraph("a")}), (FontAttributes{QStringLiteral("Times New Roman"), 10}));
 }
@@ -141,7 +141,7 @@ TEST(DocxFormat, RaisesLowersAndSpreadsCharacters)
     EXPECT_EQ(moved.baselineOffset, -3);
 }
 
-TEST(DocxFormat, SetsParagraphsAsTheirPropertiesSay)
+TEST(DocxFormat, AppliesParagraphProperties)
 {
     const ParagraphStyle set =
         style("<w:ind w:left='720' w:right='360' w:hanging='240'/><w:jc w:val='right'/>"
@@ -183,7 +183,7 @@ TEST(DocxFormat, ClearsTabStopsOfTheStyle)
     EXPECT_EQ(set.tabStops, (std::vector<TabStop>{{40, TabAlignment::Center}}));
 }
 
-TEST(DocxFormat, IndentsParagraphsOfListsAsTheListSays)
+TEST(DocxFormat, IndentsParagraphsOfLists)
 {
     WordPackage document{.styles = paragraphStyle("Item",
                              "<w:pPr><w:numPr><w:numId w:val='2'/></w:numPr><w:ind w:right='200'/></w:pPr>"),
@@ -200,7 +200,7 @@ TEST(DocxFormat, IndentsParagraphsOfListsAsTheListSays)
     EXPECT_EQ(attributes(document).paragraphStyle.tailIndent, 10);
 }
 
-TEST(DocxFormat, SetsTablesAsTheirStyleSays)
+TEST(DocxFormat, AppliesTableStyles)
 {
     const QByteArray header = "<w:cnfStyle w:val='100000000000'/>";
     const WordPackage document{.body = "<w:tbl><w:tblPr><w:tblStyle w:val='Grid'/></w:tblPr><w:tr><w:trPr>"
@@ -226,7 +226,7 @@ TEST(DocxFormat, TakesTheDistanceOfTabStopsFromTheSettings)
         36);
 }
 
-TEST(DocxFormat, BoundsWhatNoPageCouldShow)
+TEST(DocxFormat, ClampsExtremeValues)
 {
     EXPECT_EQ(font({.body = paragraph(run("a", "<w:sz w:val='999999999'/>"))}).pointSize, 1638);
     EXPECT_EQ(font({.body = paragraph(run("a", "<w:sz w:val='nan'/>"))}).pointSize, 10);

@@ -31,7 +31,7 @@ TEST(DocxHiddenText, IsHiddenThroughStylesToo)
         styled(paragraph(run("a"), "<w:pStyle w:val='Child'/>") + textParagraph("b")), QStringLiteral("b\n"));
 }
 
-TEST(DocxHiddenText, ShowsWhereTwoStylesHideItOrTheRunSaysSo)
+TEST(DocxHiddenText, IsShownIfTwoStylesHideItOrTheRunShowsIt)
 {
     const QByteArray secret = "<w:pStyle w:val='Secret'/><w:rPr><w:vanish w:val='0'/></w:rPr>";
     EXPECT_EQ(styled(paragraph(run("a", "<w:rStyle w:val='Veil'/>"), secret)), QStringLiteral("a\n"));
@@ -40,7 +40,7 @@ TEST(DocxHiddenText, ShowsWhereTwoStylesHideItOrTheRunSaysSo)
         styled(paragraph(run("a", "<w:rStyle w:val='Veil'/><w:vanish/>"), secret)), QStringLiteral("\n"));
 }
 
-TEST(DocxHiddenText, StaysHiddenWhereTheDefaultsHideItAndAStyleDoesSoAgain)
+TEST(DocxHiddenText, StaysHiddenIfBothTheDefaultsAndAStyleHideIt)
 {
     EXPECT_EQ(
         textOf({.body = paragraph(
@@ -51,14 +51,14 @@ TEST(DocxHiddenText, StaysHiddenWhereTheDefaultsHideItAndAStyleDoesSoAgain)
         QStringLiteral("c\n"));
 }
 
-TEST(DocxHiddenText, JoinsParagraphsWhereTheMarkIsHidden)
+TEST(DocxHiddenText, JoinsParagraphsIfTheMarkIsHidden)
 {
     EXPECT_EQ(
         textOfBody(paragraph(run("a"), "<w:rPr><w:vanish/><w:specVanish/></w:rPr>") + textParagraph("b")),
         QStringLiteral("ab\n"));
 }
 
-TEST(DocxHiddenText, TakesTabsSymbolsNotesAndTextBoxesWithIt)
+TEST(DocxHiddenText, IncludesTabsSymbolsNotesAndTextBoxes)
 {
     EXPECT_EQ(textOf({.body = paragraph("<w:r><w:rPr><w:vanish/></w:rPr><w:tab/><w:br/><w:sym w:char='2022'/>"
                                         "<w:footnoteReference w:id='1'/><w:pict><v:textbox><w:txbxContent>"

@@ -14,7 +14,7 @@ Cause causeFor(const QByteArray &bytes)
     return text ? Cause::NotEnoughMemory : text.error().cause;
 }
 
-/// A document whose main part is these bytes.
+/// A document with these bytes as its main part.
 QByteArray withMainPart(const QByteArray &contents, ZipWriter::Entry entry = {})
 {
     const WordPackage model;
@@ -40,17 +40,17 @@ QByteArray document(const QByteArray &content, const QByteArray &attributes = {}
         + "><w:body>" + content + "</w:body></w:document>";
 }
 
-/// Without the last entry of the directory, whose name another one has.
+/// Removes the last entry of the directory, whose name is a duplicate.
 QByteArray withoutLastPart(ZipWriter zip)
 {
     zip.removeLast();
     return zip.archive();
 }
 
-/// With every chunk where the first one is, in the directory of the archive.
+/// Lets all chunks in the directory refer to the data of the first one.
 QByteArray withChunksInOnePlace(QByteArray archive)
 {
-    // Places in a header of the directory (APPNOTE.TXT of ZIP, 4.3.12).
+    // Offsets in a header of the directory (APPNOTE.TXT of ZIP, 4.3.12).
     constexpr qsizetype headerLength = 46;
     constexpr qsizetype method = 10;
     constexpr qsizetype checksumAndLengths = 16;
@@ -83,7 +83,7 @@ QByteArray soundDocument()
 
 } // namespace
 
-TEST(HostilePackage, ThatUnpacksToFarMoreThanItIsIsRefused)
+TEST(HostilePackage, ThatUnpacksToFarMoreThanItsSizeIsRefused)
 {
     const QByteArray spaces(100'000'000, ' ');
     EXPECT_EQ(
@@ -92,7 +92,7 @@ TEST(HostilePackage, ThatUnpacksToFarMoreThanItIsIsRefused)
 
 TEST(HostilePackage, ThatPacksOnePartManyTimesIsRefused)
 {
-    // 40 chunks of 20 MB each pass one by one, but not the sum of all.
+    // Each of the 40 chunks of 20 MB is acceptable, but not their sum.
     WordPackage many;
     many.others = {{"r", "aFChunk", "chunk.rtf", "text/rtf", "{\\rtf1 x}" + QByteArray(20'000'000, ' ')}};
     many.method = ZipWriter::Method::Deflated;
@@ -118,7 +118,7 @@ TEST(HostilePackage, ThatGrowsAHundredfoldWithEachLevelIsRefused)
     EXPECT_EQ(causeFor(document), Cause::TooComplex);
 }
 
-TEST(HostilePackage, ThatReadsOnePlaceAsManyPartsIsRefused)
+TEST(HostilePackage, ThatReadsOneLocationAsManyPartsIsRefused)
 {
     WordPackage overlapping;
     const auto addChunk = [&overlapping](int number, const QByteArray &contents) {
@@ -153,7 +153,7 @@ TEST(HostilePackage, WithTwoPartsOfOneNameIsRefused)
     EXPECT_EQ(causeFor(zip.archive()), Cause::Damaged);
 }
 
-TEST(HostilePackage, WhosePartsLieAboutTheirLengthIsDamagedOrWhole)
+TEST(HostilePackage, WithPartsOfAFalseLengthIsDamagedOrComplete)
 {
     const QByteArray contents = document(textParagraph("text"));
     for (const auto method : {ZipWriter::Method::Stored, ZipWriter::Method::Deflated}) {
@@ -166,7 +166,7 @@ TEST(HostilePackage, WhosePartsLieAboutTheirLengthIsDamagedOrWhole)
     }
 }
 
-TEST(HostilePackage, WithADocumentTypeIsRefusedBeforeAnyEntityGrows)
+TEST(HostilePackage, WithADocumentTypeIsRefusedBeforeEntitiesExpand)
 {
     const QByteArray main = document(paragraph(run("&b;")));
     EXPECT_EQ(causeFor(withMainPart("<!DOCTYPE x [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;&a;'>]>" + main)),
@@ -208,7 +208,7 @@ TEST(HostilePackage, WithAHundredThousandNamespacesOrAttributesIsReadOrRefusedIn
     EXPECT_EQ(causeFor(withMainPart(document("<w:p" + attributes + "/><w:p/>"))), Cause::TooComplex);
 }
 
-TEST(HostilePackage, WhoseRelationshipsLeadOutOfItFindsNothingThere)
+TEST(HostilePackage, WithExternalRelationshipsReadsNothingOutside)
 {
     WordPackage outside{.body = textParagraph("inside")};
     outside.others = {{"rId1", "styles", "../../../../../../etc/passwd", "", "", true},
@@ -228,7 +228,7 @@ TEST(HostilePackage, WhoseRelationshipsLeadOutOfItFindsNothingThere)
     EXPECT_EQ(causeFor(zip.archive()), Cause::Damaged);
 }
 
-TEST(HostilePackage, CutOffAnywhereIsAnErrorAndNoCrash)
+TEST(HostilePackage, CutOffAnywhereIsAnError)
 {
     const QByteArray sound = soundDocument();
     ASSERT_EQ(readDocx(sound).value().string(), QStringLiteral("one\nnote\n"));
@@ -247,5 +247,5 @@ TEST(HostilePackage, WithAByteChangedIsReadOrRefused)
             static_cast<char>(random());
         refused += readDocx(changed) ? 0 : 1;
     }
-    EXPECT_GT(refused, 1'000); // the checksums see to that
+    EXPECT_GT(refused, 1'000); // because of the checksums
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Documents that LibreOffice has written, held against the text that it writes itself.
+// Compares documents written by LibreOffice with its own text export.
 #include "tests/documents/LibreOffice.h"
 #include "tests/documents/docx/DocxTest.h"
 
@@ -14,12 +14,12 @@ protected:
 
     static QString read(const LibreOffice::Document &document)
     {
-        const QByteArray bytes = LibreOffice::converted(document, QStringLiteral("docx"), world().root());
+        const QByteArray bytes = LibreOffice::convert(document, QStringLiteral("docx"), world().root());
         const Result<AttributedString, DocumentError> text = readDocx(bytes);
         return text ? text.value().string() : causeText(text.error());
     }
 
-    static QString exported(const LibreOffice::Document &document)
+    static QString exportText(const LibreOffice::Document &document)
     {
         const QString text = LibreOffice::textExport(document, world().root());
         EXPECT_FALSE(text.contains(QStringLiteral("<office:"))) << "the document was not understood";
@@ -27,7 +27,7 @@ protected:
     }
 };
 
-/// What the text export writes otherwise than the document has it, and why.
+/// A difference between the text export and the document, and its reason.
 struct Deviation {
     QStringView exported;
     QStringView inDocument;
@@ -36,7 +36,7 @@ struct Deviation {
 
 } // namespace
 
-TEST_F(DocxFromLibreOffice, ReadsAsItsOwnTextExport)
+TEST_F(DocxFromLibreOffice, ReadsLikeTheTextExport)
 {
     const LibreOffice::Document document{
         "<text:h text:outline-level='1'>A heading</text:h>"
@@ -57,13 +57,13 @@ TEST_F(DocxFromLibreOffice, ReadsAsItsOwnTextExport)
         "<table:table-cell><text:p>in</text:p></table:table-cell></table:table-row></table:table>"
         "<text:p>behind</text:p></table:table-cell><table:table-cell><text:p>b2</text:p>"
         "</table:table-cell></table:table-row></table:table><text:p>The end.</text:p>"};
-    const QString text = exported(document);
+    const QString text = exportText(document);
     ASSERT_TRUE(text.startsWith(QStringLiteral("A heading\nPlain text with a link, a tab\tand")))
         << qPrintable(text);
     EXPECT_EQ(read(document), text);
 }
 
-TEST_F(DocxFromLibreOffice, DeviatesFromItsTextExportWhereThatHasNotTheTextOfThePages)
+TEST_F(DocxFromLibreOffice, DiffersFromTheTextExportIfThatLacksTextOfThePages)
 {
     const LibreOffice::Document document{
         .body =
@@ -105,7 +105,7 @@ TEST_F(DocxFromLibreOffice, DeviatesFromItsTextExportWhereThatHasNotTheTextOfThe
         {u"endnotei\n", u"endnote\n\tFoot text\n\tEnd text\n",
             "notes follow, a tabulator behind each number"},
     };
-    QString expected = exported(document);
+    QString expected = exportText(document);
     for (const Deviation &deviation : deviations) {
         EXPECT_EQ(expected.count(deviation.exported.toString()), 1)
             << deviation.reason << qPrintable(expected);

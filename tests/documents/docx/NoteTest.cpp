@@ -28,13 +28,13 @@ TEST(DocxNotes, FollowTheBodyInTheOrderOfTheirReferences)
         QStringLiteral("a\nb\nthree\nmore\ntwo\nend\n"));
 }
 
-TEST(DocxNotes, ThatNothingRefersToAreNoText)
+TEST(DocxNotes, WithoutAReferenceAreNoText)
 {
     EXPECT_EQ(textOf({.body = textParagraph("a"), .footnotes = note("footnote", "1", textParagraph("x"))}),
         QStringLiteral("a\n"));
 }
 
-TEST(DocxNotes, ThatAreReferredToTwiceStandOnce)
+TEST(DocxNotes, ThatAreReferredToTwiceAreReadOnce)
 {
     EXPECT_EQ(textOf({.body = paragraph(reference("footnote", "1") + reference("footnote", "1")),
                   .footnotes = note("footnote", "1", textParagraph("x"))}),

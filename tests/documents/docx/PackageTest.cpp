@@ -12,7 +12,7 @@ const QByteArray relationshipsStart(
 const QByteArray officeDocument(
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument");
 
-/// A package whose main part lies somewhere.
+/// A package with its main part at a given name.
 QByteArray packageWithMainPart(const QByteArray &name, const QByteArray &target, const QByteArray &contents)
 {
     ZipWriter zip;
@@ -37,7 +37,7 @@ const WordPackage hello{.body = textParagraph("hello")};
 
 } // namespace
 
-TEST(DocxPackage, IsKnownByItsMainPart)
+TEST(DocxPackage, IsRecognizedByItsMainPart)
 {
     EXPECT_TRUE(looksLikeDocx(hello.bytes()));
     WordPackage sheet = hello;
@@ -104,7 +104,7 @@ TEST(DocxPackage, MayBeCompressed)
     EXPECT_EQ(textOf(document), QStringLiteral("hello\n"));
 }
 
-TEST(DocxPackage, HasItsMainPartWhereTheRelationshipLeads)
+TEST(DocxPackage, HasItsMainPartAtTheTargetOfTheRelationship)
 {
     const QByteArray main = hello.mainPart();
     EXPECT_EQ(read(packageWithMainPart("a/b/main.xml", "a/b/main.xml", main)), QStringLiteral("hello\n"));
@@ -119,7 +119,7 @@ TEST(DocxPackage, HasItsMainPartWhereTheRelationshipLeads)
         causeText({Cause::Damaged, DocumentKind::WordDocument}));
 }
 
-TEST(DocxPackage, HasItsStylesWhereTheRelationshipLeads)
+TEST(DocxPackage, HasItsStylesAtTheTargetOfTheRelationship)
 {
     const WordPackage document{.body = textParagraph("a"),
         .others = {{"rId1", "styles", "deep/look.xml",
@@ -129,7 +129,7 @@ TEST(DocxPackage, HasItsStylesWhereTheRelationshipLeads)
     EXPECT_EQ(readDocx(document.bytes()).value().attributesAt(0).font->pointSize, 33);
 }
 
-TEST(DocxPackage, LetsPartsThatOnlyDescribeTheLookBeMissing)
+TEST(DocxPackage, ReadsWithoutPartsThatOnlyDescribeTheFormat)
 {
     WordPackage document = hello;
     document.others = {{"rId1", "styles", "missing.xml", "", "", true}};
@@ -159,7 +159,7 @@ TEST(DocxPackage, MayUseAnyPrefixes)
         QStringLiteral("one\ntwo\n"));
 }
 
-TEST(DocxPackage, ThatIsEncryptedSaysSo)
+TEST(DocxPackage, ThatIsEncryptedIsReportedAsSuch)
 {
     QByteArray compound("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     compound.resize(1024, '\0');
@@ -177,7 +177,7 @@ TEST(DocxPackage, ThatIsEncryptedSaysSo)
         QStringLiteral("is encrypted; save it without a password"));
 }
 
-TEST(DocxPackage, OfBefore2007IsNotEncryptedForAWordInItsText)
+TEST(DocxPackage, OfBefore2007IsNotEncryptedBecauseOfAWordInItsText)
 {
     QByteArray compound("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     compound.resize(1024, '\0');
@@ -188,7 +188,7 @@ TEST(DocxPackage, OfBefore2007IsNotEncryptedForAWordInItsText)
     EXPECT_EQ(readDocx(compound).error().cause, Cause::OldFormat);
 }
 
-TEST(DocxPackage, WithAnEncryptedPartSaysSo)
+TEST(DocxPackage, WithAnEncryptedPartIsReportedAsEncrypted)
 {
     ZipWriter zip;
     for (const char *name : {"[Content_Types].xml", "_rels/.rels", "word/document.xml"})
@@ -196,7 +196,7 @@ TEST(DocxPackage, WithAnEncryptedPartSaysSo)
     EXPECT_EQ(readDocx(zip.archive()).error().cause, Cause::Encrypted);
 }
 
-TEST(DocxPackage, ThatIsNoneSaysSo)
+TEST(DocxPackage, ThatIsNoWordDocumentIsReportedAsSuch)
 {
     EXPECT_EQ(readDocx({}).error().cause, Cause::WrongKind);
     EXPECT_EQ(readDocx("{\\rtf1 text}").error().cause, Cause::WrongKind);

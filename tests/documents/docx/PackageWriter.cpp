@@ -24,15 +24,15 @@ void append32(QByteArray &bytes, quint32 number)
     append16(bytes, static_cast<quint16>(number >> 16));
 }
 
-/// Without the length that qCompress() puts in front and the header and checksum of zlib.
+/// Without the length that qCompress() prepends and without the header and checksum of zlib.
 QByteArray deflatedBytes(const QByteArray &bytes)
 {
-    if (bytes.isEmpty()) // which qCompress() leaves without a header
+    if (bytes.isEmpty()) // qCompress() writes no header then
         return QByteArray("\x03\0", 2);
     return qCompress(bytes, 6).sliced(6).chopped(4);
 }
 
-/// What the local header and the directory say alike.
+/// The fields that the local header and the directory have in common.
 QByteArray description(const ZipWriter::Entry &entry, quint32 storedLength)
 {
     QByteArray bytes;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// PackageWriter makes ZIP archives and Word documents byte by byte, sound ones and others.
+// PackageWriter writes ZIP archives and Word documents, valid and invalid ones.
 // Thread: any; values.
 #pragma once
 
@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-/// CRC-32 as ZIP has it.
+/// The CRC-32 that ZIP uses.
 quint32 zipChecksum(const QByteArray &bytes);
 
 class ZipWriter {
@@ -18,8 +18,8 @@ public:
         QByteArray name = {};
         QByteArray contents = {};
         Method method = Method::Stored;
-        std::optional<quint32> claimedLength = std::nullopt; ///< of the contents, where it is a lie
-        bool isEncrypted = false; ///< flagged so; the contents are not
+        std::optional<quint32> claimedLength = std::nullopt; ///< a false length of the contents
+        bool isEncrypted = false; ///< sets the flag only
     };
 
     void add(const Entry &entry) { m_entries.push_back(entry); }
@@ -30,7 +30,8 @@ private:
     std::vector<Entry> m_entries;
 };
 
-/// A Word document of the given parts, named and related as Word does it. Empty parts are left out.
+/// A Word document with these parts, with the names and relationships that Word uses. Empty parts are left
+/// out.
 struct WordPackage {
     QByteArray body = {}; ///< what is within w:body
     QByteArray styles = {}; ///< what is within w:styles
@@ -47,11 +48,11 @@ struct WordPackage {
 
     struct Part {
         QByteArray identifier; ///< of its relationship from the main part
-        QByteArray relationshipType; ///< the last part of the URI
-        QByteArray target; ///< as the relationship names it
+        QByteArray relationshipType; ///< the last segment of the URI
+        QByteArray target; ///< as in the relationship
         QByteArray contentType;
         QByteArray contents = {};
-        bool isExternal = false; ///< related only, not in the package
+        bool isExternal = false; ///< has a relationship, but is not in the package
     };
     std::vector<Part> others = {};
     ZipWriter::Method method = ZipWriter::Method::Stored;

@@ -89,7 +89,7 @@ TEST(DocxRevisions, GiveAJoinedParagraphTheStyleOfTheMarkThatIsLeft)
     EXPECT_EQ(text.value().attributesAt(0).paragraphStyle.alignment, TextAlignment::Right);
 }
 
-TEST(DocxRevisions, LeaveTheFormerPropertiesOfChangesAside)
+TEST(DocxRevisions, IgnoreTheFormerPropertiesOfChanges)
 {
     const Result<AttributedString, DocumentError> text = readDocx(
         WordPackage{.body = paragraph("<w:r><w:rPr><w:sz w:val='40'/><w:rPrChange w:id='1'><w:rPr><w:vanish/>"

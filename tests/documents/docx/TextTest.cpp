@@ -56,13 +56,13 @@ TEST(DocxText, HasACharacterForTabsBreaksAndHyphens)
         QStringLiteral("a\tb\u2028c\u2028\f\f\u2028\u2011\u00AD\t\n"));
 }
 
-TEST(DocxText, TakesTabStopsForNoTabulators)
+TEST(DocxText, IgnoresTabStopsInProperties)
 {
     EXPECT_EQ(textOfBody(paragraph(run("a"), "<w:tabs><w:tab w:val='left' w:pos='720'/></w:tabs>")),
         QStringLiteral("a\n"));
 }
 
-TEST(DocxText, GivesSymbolsTheCharactersTheyDepict)
+TEST(DocxText, ReadsSymbolsAsTheCharactersThatTheyShow)
 {
     EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:font='Symbol' w:char='F061'/></w:r>"
                                    "<w:r><w:sym w:font='Wingdings' w:char='F0FC'/></w:r>"
@@ -72,7 +72,7 @@ TEST(DocxText, GivesSymbolsTheCharactersTheyDepict)
         QStringLiteral("\u2022\u2264\n"));
 }
 
-TEST(DocxText, ReadsCodesOfSymbolFontsWithAndWithoutTheOffsetOfThePrivateUseArea)
+TEST(DocxText, ReadsCodesOfSymbolFontsWithAndWithoutThePrivateUseOffset)
 {
     EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:font='Symbol' w:char='61'/></w:r>"
                                    "<w:r><w:sym w:font='Symbol' w:char='00A3'/></w:r>"
@@ -82,7 +82,7 @@ TEST(DocxText, ReadsCodesOfSymbolFontsWithAndWithoutTheOffsetOfThePrivateUseArea
         QStringLiteral("\u03B1\u2264\uF0FC\uF050\uF061\n"));
 }
 
-TEST(DocxText, TakesCodesOfOtherFontsAndOtherCodesOfSymbolFontsForCharacters)
+TEST(DocxText, ReadsCodesOfOtherFontsAndOtherCodesOfSymbolFontsAsCharacters)
 {
     EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:font='Arial' w:char='00E9'/></w:r>"
                                    "<w:r><w:sym w:char='0041'/></w:r>"
@@ -90,7 +90,7 @@ TEST(DocxText, TakesCodesOfOtherFontsAndOtherCodesOfSymbolFontsForCharacters)
         QStringLiteral("\u00E9A\u2713\n"));
 }
 
-TEST(DocxText, LeavesOutSymbolsThatAreNoCharacters)
+TEST(DocxText, IgnoresInvalidSymbols)
 {
     EXPECT_EQ(textOfBody(paragraph("<w:r><w:sym w:char='D800'/><w:sym w:char='0'/><w:sym w:char='12345'/>"
                                    "<w:sym w:char='x'/><w:sym/></w:r>")),
@@ -107,7 +107,7 @@ TEST(DocxText, MakesParagraphsOfCellsAndOfTablesInThem)
         QStringLiteral("before\na\nb\nin\n\nafter\n"));
 }
 
-TEST(DocxText, LooksIntoContentControlsLinksTagsAndCustomXml)
+TEST(DocxText, ReadsContentControlsLinksTagsAndCustomXml)
 {
     EXPECT_EQ(
         textOfBody("<w:sdt><w:sdtPr><w:alias w:val='x'/><w:placeholder><w:docPart w:val='y'/>"
@@ -120,7 +120,7 @@ TEST(DocxText, LooksIntoContentControlsLinksTagsAndCustomXml)
         QStringLiteral("abcde\nf\n"));
 }
 
-TEST(DocxText, TakesTheBaseOfRubyOnly)
+TEST(DocxText, ReadsOnlyTheBaseTextOfRuby)
 {
     EXPECT_EQ(textOfBody(paragraph("<w:r><w:ruby><w:rubyPr/><w:rt>" + run("ruby") + "</w:rt><w:rubyBase>"
                   + run("base") + "</w:rubyBase></w:ruby></w:r>")),
@@ -140,7 +140,7 @@ TEST(DocxText, JoinsADropCapWithTheParagraphThatFollows)
         QStringLiteral("F\nrame\n"));
 }
 
-TEST(DocxText, JoinsADropCapThatAStyleMakes)
+TEST(DocxText, JoinsADropCapFromAStyle)
 {
     const QByteArray style = "<w:style w:type='paragraph' w:styleId='C'><w:pPr><w:framePr w:dropCap='drop'/>"
                              "</w:pPr></w:style>";
@@ -163,7 +163,7 @@ TEST(DocxText, KeepsADropCapThatNothingFollows)
         QStringLiteral("D\nx\n"));
 }
 
-TEST(DocxText, TakesTheCharactersOfFormulas)
+TEST(DocxText, ReadsTheCharactersOfFormulas)
 {
     EXPECT_EQ(
         textOfBody(paragraph("<m:oMathPara><m:oMath><m:sSup><m:e><m:r><m:rPr><m:sty/></m:rPr><m:t>r</m:t>"
@@ -227,7 +227,7 @@ TEST(DocxText, HasNoHeadersFootersCommentsNorPagesOfTheProgramThatSavedIt)
         QStringLiteral("one two\n"));
 }
 
-TEST(DocxText, NeverComesFromTheStoredFigures)
+TEST(DocxText, IgnoresTheStoredStatistics)
 {
     const WordPackage document{
         .body = textParagraph("one"), .figures = "<Words>1000</Words><Lines>9</Lines>"};
@@ -237,13 +237,13 @@ TEST(DocxText, NeverComesFromTheStoredFigures)
     EXPECT_EQ(readDocx(damaged.archive()).value().string(), QStringLiteral("one\n"));
 }
 
-TEST(DocxText, ReadsAParagraphThatStandsWhereNoneBelongs)
+TEST(DocxText, ReadsAMisplacedParagraph)
 {
     EXPECT_EQ(textOfBody(paragraph(run("outer ") + textParagraph("inner") + run("on"))),
         QStringLiteral("outer on\ninner\n"));
 }
 
-TEST(DocxText, LeavesBlocksWithinTextsAndPropertiesAside)
+TEST(DocxText, IgnoresBlocksWithinTextAndProperties)
 {
     EXPECT_EQ(
         textOfBody("<w:p><w:pPr><w:p/><w:rPr><w:p/></w:rPr></w:pPr><w:r><w:rPr><w:p/></w:rPr><w:t>a<w:p>"
@@ -252,7 +252,7 @@ TEST(DocxText, LeavesBlocksWithinTextsAndPropertiesAside)
         QStringLiteral("abcd\ne\n"));
 }
 
-TEST(DocxText, SurvivesTablesAndBodiesWhereNoneBelong)
+TEST(DocxText, SurvivesMisplacedTablesAndBodies)
 {
     EXPECT_EQ(textOfBody("<w:p><w:tc/><w:tr/><w:tbl/><w:body/>" + run("a") + "</w:p><w:tc>" + run("b")
                   + textParagraph("c") + "</w:tc><w:tr><w:r/></w:tr>" + run("d") + "<w:body>"

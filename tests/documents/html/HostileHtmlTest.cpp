@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pages made to break a reader, or to make it go where it should not.
+// Pages that try to break the reader, or to make it open other files.
 #include "documents/html/HtmlReader.h"
 
 #include "tests/harness/QuillbayTest.h"
@@ -27,7 +27,7 @@ const QByteArray sample =
     "</pre><!-- c --><table><caption>C</caption><tr><td>1<td>2<tr><th>3</table><ul><li>x<li>y"
     "</ul><select><option>o</select><svg><text>t</text></svg><![CDATA[x]]></body></html>";
 
-/// What every text has, whatever its page.
+/// Expects the properties of every valid text.
 void expectSound(const QByteArray &page)
 {
     const Result<AttributedString, DocumentError> read = readHtml(page);
@@ -53,7 +53,7 @@ double processorSeconds()
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
 }
 
-/// Either a text or an error, before the limits on time have long run out.
+/// Reading returns a text or an error within the time limits.
 void expectAnswer(const QByteArray &page)
 {
     const double start = processorSeconds();
@@ -106,7 +106,7 @@ TEST(HostileHtml, AnyTagsInAnyOrderAreAPage)
     }
 }
 
-TEST(HostileHtml, AThousandElementsInsideEachOtherAreReadAndMoreAreNot)
+TEST(HostileHtml, AThousandNestedElementsAreReadAndMoreAreRefused)
 {
     for (const char *tag :
         {"<div>", "<b>", "<table><td>", "<font color=red>", "<ul><li>", "<svg>", "<blockquote>"}) {
@@ -123,9 +123,9 @@ TEST(HostileHtml, AThousandElementsInsideEachOtherAreReadAndMoreAreNot)
     }
 }
 
-TEST(HostileHtml, CommentsThatLieElsewhereHideNoDepth)
+TEST(HostileHtml, CommentsOutsideOfTheTreeHideNoDepth)
 {
-    // One of them has a comment wherever the depth is measured, at every second node.
+    // One of the pages has a comment wherever the depth is measured.
     for (const char *start : {"", "<p></p>"}) {
         const auto read = readHtml(start + QByteArray("<b></body><!-- -->").repeated(20'000));
         ASSERT_FALSE(read);
@@ -158,7 +158,7 @@ TEST(HostileHtml, DepthIsFoundWhereverItIs)
 
 TEST(HostileHtml, ADeepBodyThatAFramesetReplacesIsRefusedBeforeTheStackEnds)
 {
-    // The parser releases the body by recursion, however deep it is.
+    // The parser releases the body recursively.
     const QByteArray wide = QByteArray("<p></p>").repeated(140'000);
     const auto read = readHtml(wide + QByteArray("<span>").repeated(100'000) + "<frameset></frameset>");
     ASSERT_FALSE(read);
@@ -173,7 +173,7 @@ TEST(HostileHtml, ManyElementsBesideEachOtherAreNotDeep)
         EXPECT_TRUE(readHtml(QByteArray(piece).repeated(5'000))) << piece;
 }
 
-TEST(HostileHtml, MisnestedFormattingIsAnswered)
+TEST(HostileHtml, MisnestedFormattingIsReadOrRefused)
 {
     for (const char *piece : {"<b><p></b>", "<a><b><i>", "<b><i><u><s>x</b></i></u></s>", "<i><p></i>x",
              "<nobr>x", "<a><p>x", "</b>", "<table>x", "<table><b>x", "<div></b>", "<span></div>",
@@ -184,7 +184,7 @@ TEST(HostileHtml, MisnestedFormattingIsAnswered)
     expectAnswer(numbered("<b x=#><table><td></b>", 12'000));
 }
 
-TEST(HostileHtml, FormattingThatEveryParagraphOpensAgainIsTooIntricate)
+TEST(HostileHtml, FormattingThatEveryParagraphReopensIsTooComplex)
 {
     const auto read = readHtml(numbered("<p><b x=#></p>", 900) + QByteArray("<p>x</p>").repeated(20'000));
     ASSERT_FALSE(read);
@@ -192,7 +192,7 @@ TEST(HostileHtml, FormattingThatEveryParagraphOpensAgainIsTooIntricate)
     EXPECT_EQ(causeText(read.error()), QStringLiteral("is too complex; simplify it"));
 }
 
-TEST(HostileHtml, AMegabyteOfAttributesOfOneElementIsAnswered)
+TEST(HostileHtml, AMegabyteOfAttributesIsReadOrRefused)
 {
     expectAnswer("<p " + numbered(" a#", 130'000) + ">x");
     expectAnswer("<p style='" + QByteArray("a:(\"").repeated(50'000) + "'>x");
@@ -218,7 +218,7 @@ TEST(HostileHtml, LongRunsOfOneKindAreText)
     EXPECT_EQ(lengthOf(QByteArray("<br>").repeated(count / 8)), count / 8);
 }
 
-TEST(HostileHtml, PagesThatBrokeAReaderAreRead)
+TEST(HostileHtml, PagesThatOnceBrokeTheReaderAreRead)
 {
     // Sequences in which the parser follows references between tables, templates, foreign and misnested
     // elements.
@@ -229,9 +229,9 @@ TEST(HostileHtml, PagesThatBrokeAReaderAreRead)
         expectSound(page);
 }
 
-TEST(HostileHtml, MoreBytesThanPositionsHave32BitsForAreTooLong)
+TEST(HostileHtml, PagesOf2GibibytesAreTooLong)
 {
-    // Never read, so nothing but addresses is taken.
+    // Never read, so only address space is used.
     constexpr size_t length = INT32_MAX;
     void *memory = ::mmap(nullptr, length, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     ASSERT_NE(memory, MAP_FAILED);
@@ -243,7 +243,7 @@ TEST(HostileHtml, MoreBytesThanPositionsHave32BitsForAreTooLong)
     ::munmap(memory, length);
 }
 
-TEST(HostileHtml, NothingThatAPageNamesIsFetched)
+TEST(HostileHtml, ResourcesOfAPageAreNotFetched)
 {
     const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     ASSERT_GE(listener, 0);
@@ -256,7 +256,7 @@ TEST(HostileHtml, NothingThatAPageNamesIsFetched)
     ASSERT_EQ(::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size), 0);
     const QByteArray server = "http://127.0.0.1:" + QByteArray::number(::ntohs(address.sin_port));
 
-    // A file whose reading would wait for a writer for ever.
+    // Reading this file would block until somebody writes.
     const QString pipe = TestHome::instance().root() + QStringLiteral("/named-by-a-page");
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const QByteArray file = "file://" + QFile::encodeName(pipe);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// In which encoding a page is, and that it looks like one.
+// The encoding of a page, and the recognition of pages.
 #include "documents/html/HtmlReader.h"
 #include "platform/text_encoding/EncodingLabels.h"
 
@@ -33,7 +33,7 @@ const QString japanese = QStringLiteral("雨の日は本を読む。");
 
 } // namespace
 
-TEST(HtmlCharset, AByteOrderMarkOutweighsEveryName)
+TEST(HtmlCharset, AByteOrderMarkOverridesEveryDeclaration)
 {
     const QString page = QStringLiteral("<meta charset=koi8-r>") + accented;
     EXPECT_EQ(textOf("\xEF\xBB\xBF" + page.toUtf8(), "windows-1251"), accented);
@@ -41,7 +41,7 @@ TEST(HtmlCharset, AByteOrderMarkOutweighsEveryName)
     EXPECT_EQ(textOf("\xFE\xFF" + encoded(page, "UTF-16BE"), "windows-1251"), accented);
 }
 
-TEST(HtmlCharset, TheTransfersCharsetOutweighsThePages)
+TEST(HtmlCharset, TheCharsetOfTheTransferOverridesThatOfThePage)
 {
     const QByteArray page = "<meta charset=utf-8>" + encoded(cyrillic, "KOI8-R");
     EXPECT_EQ(textOf(page, "koi8-r"), cyrillic);
@@ -50,7 +50,7 @@ TEST(HtmlCharset, TheTransfersCharsetOutweighsThePages)
     EXPECT_EQ(textOf(page, "text/html;Charset = koi8-r; x=y"), cyrillic);
 }
 
-TEST(HtmlCharset, AnUnknownCharsetDoesNotCount)
+TEST(HtmlCharset, AnUnknownCharsetIsIgnored)
 {
     EXPECT_EQ(textOf("<meta charset=koi8-r>" + encoded(cyrillic, "KOI8-R"), "x-nonsense"), cyrillic);
     EXPECT_EQ(textOf("<meta charset=nonsense>" + cyrillic.toUtf8(), "text/html"), cyrillic);
@@ -88,7 +88,7 @@ TEST(HtmlCharset, WhatIsNoMetaElementNamesNoEncoding)
     }
 }
 
-TEST(HtmlCharset, AMetaElementBehindTheFirst1024BytesComesTooLate)
+TEST(HtmlCharset, AMetaElementAfterTheFirst1024BytesIsIgnored)
 {
     const QByteArray meta = "<meta charset=koi8-r>";
     const QByteArray early = QByteArray(1024 - meta.size(), ' ') + meta;
@@ -119,7 +119,7 @@ TEST(HtmlCharset, Latin1IsWindows1252)
             << label;
 }
 
-TEST(HtmlCharset, AnXmlDeclarationNamesTheEncodingWhereNoMetaElementDoes)
+TEST(HtmlCharset, AnXmlDeclarationNamesTheEncodingIfNoMetaElementDoes)
 {
     const QByteArray declaration = "<?xml version='1.0' encoding='koi8-r'?>";
     EXPECT_EQ(
@@ -131,7 +131,7 @@ TEST(HtmlCharset, AnXmlDeclarationNamesTheEncodingWhereNoMetaElementDoes)
     EXPECT_EQ(textOf("<?xml version='1.0'?><p>" + accented.toUtf8()), accented);
 }
 
-TEST(HtmlCharset, WithoutANameTheBytesTell)
+TEST(HtmlCharset, WithoutADeclarationTheBytesDecide)
 {
     EXPECT_EQ(textOf("<p>" + accented.toUtf8()), accented);
     EXPECT_EQ(textOf("<p>" + encoded(accented, "windows-1252")), accented);
@@ -139,13 +139,13 @@ TEST(HtmlCharset, WithoutANameTheBytesTell)
     EXPECT_EQ(textOf(encoded(QStringLiteral("<!DOCTYPE html><p>") + accented, "UTF-16BE")), accented);
 }
 
-TEST(HtmlCharset, WhatTheEncodingHasNoMeaningForIsReplaced)
+TEST(HtmlCharset, InvalidBytesAreReplaced)
 {
     EXPECT_EQ(textOf("<meta charset=utf-8>été \xFF\xC3(b à"), QStringLiteral(u"été \uFFFD\uFFFD(b à"));
     EXPECT_EQ(textOf("\xFE\xFF" + QByteArray("\0a\xD8\0\0b", 6)), QStringLiteral(u"a\uFFFDb"));
 }
 
-TEST(HtmlCharset, EveryLabelStandsForAnEncodingThatIsThere)
+TEST(HtmlCharset, EveryLabelHasAnAvailableEncoding)
 {
     for (const char *label : {"utf8", "866", "l2", "latin3", "iso-ir-110", "cyrillic", "asmo-708", "elot_928",
              "visual", "logical", "iso885910", "iso-8859-13", "iso-8859-14", "l9", "iso-8859-16", "koi",
@@ -165,7 +165,7 @@ TEST(HtmlCharset, EveryLabelStandsForAnEncodingThatIsThere)
     EXPECT_EQ(encodingOfLabel(" "), nullptr);
 }
 
-TEST(HtmlCharset, Utf8ThatIsNamedFalselyDoesNotCount)
+TEST(HtmlCharset, FalselyDeclaredUtf8IsIgnored)
 {
     const QByteArray meta = "<meta charset=utf-8>";
     EXPECT_EQ(textOf(meta + encoded(cyrillic, "windows-1251")), cyrillic);
@@ -185,7 +185,7 @@ TEST(HtmlCharset, LabelsThatBrowsersReadAsALargerEncodingAreReadAsThat)
     EXPECT_EQ(textOf("\xA1", "iso-8859-11"), QStringLiteral("ก"));
 }
 
-TEST(LooksLikeHtml, ADoctypeOrAnHtmlTagShows)
+TEST(LooksLikeHtml, ADoctypeOrAnHtmlTagIsRecognized)
 {
     for (const char *page :
         {"<!DOCTYPE html>", "<!doctype HTML PUBLIC \"x\">", "<!DOCTYPE\nhtml\n>", "<html>", "<HTML lang=en>",
@@ -195,7 +195,7 @@ TEST(LooksLikeHtml, ADoctypeOrAnHtmlTagShows)
         EXPECT_TRUE(looksLikeHtml(page)) << page;
 }
 
-TEST(LooksLikeHtml, NothingElseDoes)
+TEST(LooksLikeHtml, NothingElseIsRecognized)
 {
     for (const char *page : {"", "words", "<p>", "<htmlx>", "<!DOCTYPE svg>", "<!DOCTYPE htmlx>", "x<html>",
              "<!-- <html>", "<?xml version='1.0'?><svg>", "{\\rtf1", "<", "<!", "\xEF\xBB\xBF",
@@ -214,7 +214,7 @@ TEST(LooksLikeHtml, Utf16OfEitherOrderMayHaveAMarkOrNone)
     }
 }
 
-TEST(LooksLikeHtml, LooksNoFartherThanTheFirst64Kilobytes)
+TEST(LooksLikeHtml, ReadsOnlyTheFirst64Kilobytes)
 {
     EXPECT_TRUE(looksLikeHtml("<!--" + QByteArray(60'000, 'x') + "--><html>"));
     EXPECT_FALSE(looksLikeHtml(QByteArray(70'000, ' ') + "<html>"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the text of a page looks: fonts, paragraph styles, languages.
+// The attributes of the text of a page: fonts, paragraph styles, languages.
 #include "documents/html/HtmlReader.h"
 #include "documents/html/HtmlStyleAttribute.h"
 
@@ -12,7 +12,7 @@ AttributedString read(const QByteArray &page)
     return readHtml(page, {.charset = "utf-8"}).value();
 }
 
-/// Of the first "x" of a page.
+/// The attributes of the first "x" in a page.
 TextAttributes attributesOf(const QByteArray &page)
 {
     const AttributedString text = read(page);
@@ -39,7 +39,7 @@ TEST(HtmlStyle, TextIsInTimesOfTwelvePoints)
     EXPECT_EQ(attributesOf("<p>x"), expected);
 }
 
-TEST(HtmlStyle, HeadingsAreBoldAndOfTheStandardsSizesAndMargins)
+TEST(HtmlStyle, HeadingsAreBoldWithTheSizesAndMarginsOfTheStandard)
 {
     struct Heading {
         const char *tag;
@@ -69,7 +69,7 @@ TEST(HtmlStyle, EmphasisIsItalic)
         EXPECT_EQ(fontOf(page).slant, FontSlant::Italic) << page;
 }
 
-TEST(HtmlStyle, CodeIsInCourierOfThirteenPixelsOnceHoweverDeep)
+TEST(HtmlStyle, NestedCodeIsInCourierOfThirteenPixels)
 {
     for (const char *page : {"<code>x", "<kbd>x", "<samp>x", "<tt>x", "<pre>x", "<pre><code><tt>x"}) {
         EXPECT_EQ(fontOf(page).family, QStringLiteral("Courier")) << page;
@@ -86,7 +86,7 @@ TEST(HtmlStyle, SubscriptsAndSuperscriptsAreSmallerAndOffTheBaseline)
     EXPECT_GT(fontOf("<sup><sup>x").baselineOffset, fontOf("<sup>x").baselineOffset);
 }
 
-TEST(HtmlStyle, FontSizesOfOldMarkupAreTheStandards)
+TEST(HtmlStyle, FontElementsHaveTheSizesOfTheStandard)
 {
     EXPECT_NEAR(fontOf("<small>x").pointSize, 10, 1e-9);
     EXPECT_NEAR(fontOf("<big>x").pointSize, 14.4, 1e-9);
@@ -173,7 +173,7 @@ TEST(HtmlStyle, AStyleAttributeSetsIndents)
     EXPECT_EQ(styleOf("<p style='text-indent:-8pt'>x").firstLineHeadIndent, 0);
 }
 
-TEST(HtmlStyle, AbsurdSizesAreBounded)
+TEST(HtmlStyle, ExtremeSizesAreClamped)
 {
     EXPECT_EQ(fontOf("<p style='font-size:999999px'>x").pointSize, 1000);
     EXPECT_EQ(fontOf("<p style='font-size:0'>x").pointSize, 1);
@@ -200,7 +200,7 @@ TEST(HtmlStyle, EqualNeighboursAreOneRun)
     EXPECT_EQ(read("<p>a <b>b </b><i> c</i>").runCount(), 3);
 }
 
-TEST(HtmlStyleAttribute, ReadsTheDeclarationsThatItKnows)
+TEST(HtmlStyleAttribute, ReadsSupportedDeclarations)
 {
     const HtmlStyleAttribute style = parseStyleAttribute(
         "display: inline-block; VISIBILITY:hidden;white-space:pre ; color:red; float:left;font-weight:bold");
@@ -218,7 +218,7 @@ TEST(HtmlStyleAttribute, TheLastValidDeclarationCounts)
     EXPECT_EQ(parseStyleAttribute("display:none !important").display, Display::None);
 }
 
-TEST(HtmlStyleAttribute, SemicolonsInQuotesParenthesesAndCommentsEndNothing)
+TEST(HtmlStyleAttribute, SemicolonsInQuotesParenthesesAndCommentsEndNoDeclaration)
 {
     EXPECT_EQ(parseStyleAttribute("a:'; display:none;'; b:url(;display:none;)").display, std::nullopt);
     EXPECT_EQ(parseStyleAttribute("/* ; */display/**/:none").display, Display::None);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What text a page has: the rendered text collection steps of the HTML standard, subject by subject.
+// The text of a page: the rendered text collection steps of the HTML standard, subject by subject.
 #include "tests/documents/html/PageText.h"
 
 TEST(InnerText, APageWithoutTextHasNone)
@@ -27,7 +27,7 @@ TEST(InnerText, WhiteSpaceCollapsesToOneSpace)
     });
 }
 
-TEST(InnerText, WhiteSpaceAtEitherEndOfABlockVanishes)
+TEST(InnerText, WhiteSpaceAtEitherEndOfABlockIsDropped)
 {
     expectTexts({
         {"<div> a </div>", u"a"},
@@ -48,7 +48,7 @@ TEST(InnerText, WhiteSpaceCollapsesAcrossInlineElements)
     });
 }
 
-TEST(InnerText, WhiteSpaceAroundALineBreakVanishes)
+TEST(InnerText, WhiteSpaceAroundALineBreakIsDropped)
 {
     expectTexts({
         {"a <br> b", u"a\nb"},
@@ -56,7 +56,7 @@ TEST(InnerText, WhiteSpaceAroundALineBreakVanishes)
     });
 }
 
-TEST(InnerText, ALineBreakIsALineEndWhereverItStands)
+TEST(InnerText, ALineBreakIsAlwaysALineEnd)
 {
     expectTexts({
         {"a<br>b<br/>c", u"a\nb\nc"},
@@ -77,7 +77,7 @@ TEST(InnerText, AnEndTagOfAParagraphAloneIsAnEmptyParagraph)
     expectTexts({{"a</p>b", u"a\n\nb"}, {"</p>a", u"a"}, {"a</p></p>b", u"a\n\nb"}});
 }
 
-TEST(InnerText, BlocksStandOnLinesOfTheirOwn)
+TEST(InnerText, BlocksAreOnLinesOfTheirOwn)
 {
     expectTexts({
         {"a<div>b</div>c", u"a\nb\nc"},
@@ -94,7 +94,7 @@ TEST(InnerText, BlocksStandOnLinesOfTheirOwn)
     });
 }
 
-TEST(InnerText, ParagraphsAreSetOffByAnEmptyLine)
+TEST(InnerText, ParagraphsAreSeparatedByAnEmptyLine)
 {
     expectTexts({
         {"<p>a<p>b", u"a\n\nb"},
@@ -109,7 +109,7 @@ TEST(InnerText, ParagraphsAreSetOffByAnEmptyLine)
     });
 }
 
-TEST(InnerText, InlineElementsLeaveNoTrace)
+TEST(InnerText, InlineElementsAddNothing)
 {
     expectTexts({
         {"a<span>b</span>c<em>d</em><a href=x>e</a><code>f</code><q>g</q>", u"abcdefg"},
@@ -133,7 +133,7 @@ TEST(InnerText, SpaceAtBothSidesOfABoxInALineStays)
     });
 }
 
-TEST(InnerText, WhatReplacedElementsHoldIsNoText)
+TEST(InnerText, TheContentOfReplacedElementsIsNoText)
 {
     expectTexts({
         {"<video>a</video><audio controls>b</audio><canvas>c</canvas>", u""},
@@ -227,7 +227,7 @@ TEST(InnerText, AnElementWithoutABoxLeavesOnlyItsContents)
     });
 }
 
-TEST(InnerText, OptionsOfASelectionStandOnLinesOfTheirOwn)
+TEST(InnerText, OptionsOfASelectionAreOnLinesOfTheirOwn)
 {
     expectTexts({
         {"<select><option>a<option>b</select>", u"a\nb"},
@@ -310,7 +310,7 @@ TEST(InnerText, ListMarkersAndQuotationMarksOfTheStyleSheetAreNoText)
     expectTexts({{"<ol start=3><li value=7>a</ol><q>b</q>", u"a\nb"}});
 }
 
-TEST(InnerText, AnIndexFormOfOldIsNothing)
+TEST(InnerText, AnIndexFormIsIgnored)
 {
     expectTexts({{"a<isindex prompt=x>b", u"ab"}});
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the tests of the texts of pages have in common.
+// PageText compares the texts of pages with the expected ones.
+// Thread: any.
 #pragma once
 
 #include "documents/html/HtmlReader.h"

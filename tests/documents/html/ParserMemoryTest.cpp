@@ -7,7 +7,7 @@ namespace {
 
 constexpr size_t megabyte = 1024UL * 1024;
 
-/// Megabytes that can be had before a refusal.
+/// Megabytes that can be allocated before a refusal.
 size_t megabytesOf(ParserMemory &memory)
 {
     size_t count = 0;
@@ -18,7 +18,7 @@ size_t megabytesOf(ParserMemory &memory)
 
 } // namespace
 
-TEST(ParserMemory, IsBoundedByTheLengthOfThePage)
+TEST(ParserMemory, IsLimitedByTheLengthOfThePage)
 {
     ParserMemory ofNoPage(0);
     const size_t base = megabytesOf(ofNoPage);
@@ -32,7 +32,7 @@ TEST(ParserMemory, IsBoundedByTheLengthOfThePage)
     EXPECT_LE(more, 64U + 192U);
 }
 
-TEST(ParserMemory, WhatIsReleasedCanBeHadAgain)
+TEST(ParserMemory, ReleasedMemoryIsReused)
 {
     ParserMemory memory(0);
     for (int i = 0; i < 1000; ++i) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The text of tables, in which this reader differs from the HTML standard, and of formulas.
+// The text of tables, which differs from that of the HTML standard, and of formulas.
 #include "tests/documents/html/PageText.h"
 
 TEST(TableText, EveryCellEndsAParagraph)
@@ -27,7 +27,7 @@ TEST(TableText, AnEmptyCellIsAnEmptyParagraph)
     });
 }
 
-TEST(TableText, ARowWithoutCellsIsNothing)
+TEST(TableText, ARowWithoutCellsIsIgnored)
 {
     expectTexts({{"<table><tr><td>a<tr><tr><td>b</table>", u"a\nb"}});
 }
@@ -69,7 +69,7 @@ TEST(TableText, RowsAreReadAcrossTheGroupsOfATable)
     });
 }
 
-TEST(TableText, ACaptionStandsOnALineOfItsOwn)
+TEST(TableText, ACaptionIsOnALineOfItsOwn)
 {
     expectTexts({
         {"<table><caption>a</caption><tr><td>b</table>", u"a\nb"},
@@ -87,7 +87,7 @@ TEST(TableText, HiddenCellsAndRowsEndNothing)
     });
 }
 
-TEST(TableText, WhiteSpaceBetweenCellsIsNone)
+TEST(TableText, WhiteSpaceBetweenCellsIsIgnored)
 {
     expectTexts({{"<table style='white-space:pre'> <tr> <td>a</td> <td>b</td> </tr> </table>", u"a\nb"}});
 }

@@ -24,7 +24,7 @@ TEST_F(PdfFromLibreOffice, HasTheWordsOfItsTextExport)
                   "<style:text-properties style:text-position='super 58%'/></style:style>"};
     const QString expected = LibreOffice::textExport(document, world().root()).simplified();
     ASSERT_TRUE(expected.startsWith(QStringLiteral("One paragraph"))) << qPrintable(expected);
-    const auto text = readPdf(LibreOffice::converted(document, QStringLiteral("pdf"), world().root()));
+    const auto text = readPdf(LibreOffice::convert(document, QStringLiteral("pdf"), world().root()));
     ASSERT_TRUE(text.hasValue()) << qPrintable(causeText(text.error()));
     EXPECT_EQ(text.value().string().simplified(), expected);
 }

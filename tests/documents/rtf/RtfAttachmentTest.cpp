@@ -11,7 +11,7 @@ namespace {
 
 const QString marked = QStringLiteral(u"a\uFFFCb");
 
-/// The files that lie beside a document, and how often each was asked for.
+/// The files stored next to a document, and how often each was requested.
 class Files {
 public:
     explicit Files(std::initializer_list<QString> names)
@@ -34,7 +34,7 @@ private:
     QMap<QString, int> m_requests;
 };
 
-/// The attachment's file name in the text "a\uFFFCb" of a body; a null string without one.
+/// The file name of the attachment in the text "a\uFFFCb"; null without an attachment.
 QString nameIn(const QByteArray &body, Files &files)
 {
     const AttributedString text = read(document(body), files.source());
@@ -67,7 +67,7 @@ TEST(RtfReader, ReadsTheNameOfAnAttachmentInEveryForm)
     EXPECT_EQ(nameIn("a{{\\NeXTGraphic my \\{1\\}  f\\uc0\\u228 \\'fc.png \\width0}\\'ac}b", files), name);
 }
 
-TEST(RtfReader, LetsAnAttachmentStandAloneThatIsNotThere)
+TEST(RtfReader, KeepsTheCharacterOfAMissingAttachment)
 {
     Files files{};
     EXPECT_EQ(nameIn(R"(a{{\NeXTGraphic image.png \width0}\'ac}b)", files), QString());
@@ -83,7 +83,7 @@ TEST(RtfReader, AsksForEachNameOnce)
     EXPECT_EQ(files.requests(QStringLiteral("two")), 1);
 }
 
-TEST(RtfReader, TakesTheMarkerForACharacterWhereNoAttachmentIsNamed)
+TEST(RtfReader, ReadsTheMarkerAsACharacterWithoutAnAttachment)
 {
     EXPECT_EQ(textOf("\\'ac{\xAC}"), QStringLiteral(u"¬¬"));
     EXPECT_EQ(textOf(R"({{\NeXTGraphic a \width0}\'ac\'ac{\'ac}}\'ac)"), QStringLiteral(u"\uFFFC¬¬¬"));
@@ -91,7 +91,7 @@ TEST(RtfReader, TakesTheMarkerForACharacterWhereNoAttachmentIsNamed)
     EXPECT_EQ(textOf(R"(a{{\NeXTGraphic a \width0}}b)"), QStringLiteral("ab"));
 }
 
-TEST(RtfReader, GivesAnAttachmentTheLooksOfItsGroup)
+TEST(RtfReader, GivesAnAttachmentTheFormatOfItsGroup)
 {
     EXPECT_EQ(fontAt(R"({\b{\NeXTGraphic a \width0}\'ac})", QChar(0xFFFC)).weight, 700);
 }
@@ -101,7 +101,7 @@ TEST(RtfReader, DropsAHiddenAttachment)
     EXPECT_EQ(textOf(R"(a{\v{\NeXTGraphic a \width0}\'ac}b)"), QStringLiteral("ab"));
 }
 
-TEST(RtfReader, GivesAnAttachmentItsOwnNameWhereTheStoredOneIsAnother)
+TEST(RtfReader, RestoresTheNameOfAnAttachmentThatIsStoredUnderAnotherName)
 {
     Files files{QStringLiteral("1.png")};
     const QString own = QStringLiteral(u"ä ;.png");
@@ -113,7 +113,7 @@ TEST(RtfReader, GivesAnAttachmentItsOwnNameWhereTheStoredOneIsAnother)
         nameIn(table + R"(a{{\NeXTGraphic 1.png \width0\qbyfile3}\'ac}b)", files), QStringLiteral("1.png"));
 }
 
-TEST(RtfGraphics, MakeOneObjectOfAttachmentsOfEqualNamesAndContents)
+TEST(RtfGraphics, ShareAttachmentsWithEqualNamesAndContents)
 {
     const AttachmentSource source = [](const QString &name) {
         return std::make_shared<const Attachment>(Attachment{name, name.endsWith(u'b') ? "b" : "contents"});

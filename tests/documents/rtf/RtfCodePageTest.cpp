@@ -7,7 +7,7 @@ using namespace RtfDocuments;
 
 namespace {
 
-/// The text of bytes in a font of the charset.
+/// The text of bytes in a font with a charset.
 QString inCharset(int charset, const QByteArray &bytes)
 {
     return textOf(R"({\fonttbl{\f7\fcharset)" + QByteArray::number(charset) + " Some;}}\\f7 " + bytes);
@@ -31,7 +31,7 @@ TEST(RtfReader, ReadsRawBytesLikeEscapedOnes)
     EXPECT_EQ(read("{\\rtf1\\ansi\\ansicpg1251 \xC4\xE0!}").string(), QStringLiteral(u"Да!"));
 }
 
-TEST(RtfReader, ReplacesBytesWithoutAMeaning)
+TEST(RtfReader, ReplacesInvalidBytes)
 {
     EXPECT_EQ(read("{\\rtf1\\ansi\\ansicpg1255 a\\'d9 b}").string(), QStringLiteral(u"a\uFFFD b"));
     EXPECT_EQ(read("{\\rtf1\\ansi\\ansicpg932 a\\'83{}b}").string(), QStringLiteral(u"a\uFFFDb"));
@@ -76,7 +76,7 @@ TEST(RtfReader, ReadsBytesOfTheDefaultFontByItsCharset)
         QStringLiteral(u"ДÄД"));
 }
 
-TEST(RtfReader, ReadsBytesByTheFontTableOfTheMoment)
+TEST(RtfReader, ReadsBytesByTheCurrentFontTable)
 {
     EXPECT_EQ(textOf(R"({\fonttbl{\f7\fcharset204 A;}}\f7\'c4{\fonttbl{\f7\fcharset161 B;}}\'c4)"),
         QStringLiteral(u"ДΔ"));

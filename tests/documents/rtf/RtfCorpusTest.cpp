@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Documents of many programs, against the texts that another reader of RTF got from them.
+// Compares documents of many programs with the texts that another RTF reader extracts from them.
 #include "tests/documents/rtf/RtfDocuments.h"
 
 #include <QDir>
@@ -16,8 +16,9 @@ struct Deviation {
 };
 
 constexpr Deviation deviations[] = {
-    {"encoding", "the other reader goes on behind the brace that closes the document"},
-    {"issue_29_bad", "a cell that begins with an empty paragraph looks like a row's end there"},
+    {"encoding", "the other reader continues after the brace that closes the document"},
+    {"issue_29_bad",
+        "the other reader takes a cell that begins with an empty paragraph for the end of a row"},
     {"issue_63", "the other reader keeps the numbers of lists"},
     {"nested_table", "the other reader ends no row of a table inside a cell"},
 };
@@ -28,8 +29,8 @@ bool isDeviation(const QString &name)
         deviations, [&](const Deviation &known) { return name == QLatin1StringView(known.name); });
 }
 
-/// Words and lines: the other reader puts a pipe behind a cell, a line end behind the last one of a row too,
-/// and a link's address behind its text.
+/// Normalized lines: the other reader writes a pipe after each cell, a line end after each row too, and the
+/// address of a link after its text.
 QStringList linesOf(QString text)
 {
     static const QRegularExpression address(QStringLiteral("\\(\"[^\"]*\"\\)"));
@@ -48,11 +49,11 @@ QStringList linesOf(QString text)
 
 } // namespace
 
-TEST(RtfReader, ReadsTheDocumentsOfOthersAsAnotherReaderDoes)
+TEST(RtfReader, ReadsTheCorpusLikeAnotherReader)
 {
     const QDir folder(corporaFolder() + QStringLiteral("/striprtf/tests"));
     if (corporaFolder().isEmpty() || !folder.exists())
-        GTEST_SKIP() << "no documents of others";
+        GTEST_SKIP() << "the corpus is not installed";
     int compared = 0;
     for (const QFileInfo &file :
         QDir(folder.filePath(QStringLiteral("rtf"))).entryInfoList({QStringLiteral("*.rtf")})) {

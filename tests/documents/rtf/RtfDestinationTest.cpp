@@ -14,12 +14,12 @@ TEST(RtfReader, KeepsTheResultOfAFieldAndDropsItsInstruction)
         QStringLiteral("deep"));
 }
 
-TEST(RtfReader, TakesTheUnicodeOfTwoAlternatives)
+TEST(RtfReader, PrefersTheUnicodeAlternative)
 {
     EXPECT_EQ(textOf(R"(a{\upr{old {\b older}}{\*\ud{n\u235 ?w}}}b)"), QStringLiteral(u"anëwb"));
 }
 
-TEST(RtfReader, DropsDestinationsThatAreNoText)
+TEST(RtfReader, DropsDestinationsWithoutText)
 {
     for (const char *destination :
         {"info{\\title t}", "stylesheet{\\s1 Heading;}", "colortbl;\\red1;", "header h", "headerl h",
@@ -31,19 +31,19 @@ TEST(RtfReader, DropsDestinationsThatAreNoText)
     }
 }
 
-TEST(RtfReader, DropsStarredDestinationsThatItDoesNotKnow)
+TEST(RtfReader, DropsUnknownStarredDestinations)
 {
     EXPECT_EQ(textOf(R"(a{\*\unheardof x{y\par}\'41\u65?}b)"), QStringLiteral("ab"));
     EXPECT_EQ(textOf(R"(a{\*\b x}b)"), QStringLiteral("ab"));
     EXPECT_EQ(textOf(R"(a{\*\shppict{\pict\bin4 }}}}}}b)"), QStringLiteral("ab"));
 }
 
-TEST(RtfReader, KeepsUnstarredGroupsThatItDoesNotKnow)
+TEST(RtfReader, KeepsUnknownGroupsWithoutAStar)
 {
     EXPECT_EQ(textOf(R"(a{\unheardof x}b)"), QStringLiteral("axb"));
 }
 
-TEST(RtfReader, TakesNoDestinationForTheWholeDocument)
+TEST(RtfReader, IgnoresADestinationAtTheStartOfTheDocument)
 {
     EXPECT_EQ(textOf(R"(a\header b\*\unheardof c)"), QStringLiteral("abc"));
 }
@@ -55,7 +55,7 @@ TEST(RtfReader, SkipsBinaryDataByItsLength)
     EXPECT_EQ(textOf("a\\bin99999999999 b"), QStringLiteral("a"));
 }
 
-TEST(RtfReader, TakesAStarForTheMarkOfADestinationOnlyRightBehindTheBrace)
+TEST(RtfReader, RecognizesAStarredDestinationOnlyDirectlyAfterTheBrace)
 {
     EXPECT_EQ(textOf(R"({\pard\plain\*\cs3 one two\par}three)"), QStringLiteral("one two\nthree"));
     EXPECT_EQ(textOf(R"({one \*\unheardof two} three)"), QStringLiteral("one two three"));
@@ -71,7 +71,7 @@ TEST(RtfReader, DropsTheNumbersAndBulletsOfLists)
     EXPECT_EQ(textOf(R"({\*\pn\pnlvlbody{\pntxtb (}{\pntxta )}}one)"), QStringLiteral("one"));
 }
 
-TEST(RtfReader, PutsNotesBehindTheBodyInTheOrderOfTheirReferences)
+TEST(RtfReader, PutsNotesAfterTheBodyInTheOrderOfTheirReferences)
 {
     EXPECT_EQ(
         textOf(
@@ -87,7 +87,7 @@ TEST(RtfReader, DropsTheNoteOfADeletedReference)
     EXPECT_EQ(textOf(R"(one{\deleted two{\footnote\plain note}})"), QStringLiteral("one"));
 }
 
-TEST(RtfReader, PutsTheTextOfBoxesBehindTheBodyOnce)
+TEST(RtfReader, PutsTheTextOfBoxesAfterTheBodyOnce)
 {
     EXPECT_EQ(
         textOf(

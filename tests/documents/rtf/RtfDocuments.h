@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the tests of the RTF reader read, and how they look at what came of it.
+// RtfDocuments provides the documents of the RTF reader's tests, and reads them.
+// Thread: any.
 #pragma once
 
 #include "documents/rtf/RtfReader.h"
@@ -12,23 +13,23 @@
 
 namespace RtfDocuments {
 
-/// The document's group around it.
+/// A document with this body.
 QByteArray document(const QByteArray &body);
 
 AttributedString read(const QByteArray &rtf, const AttachmentSource &attachments = {});
 
-/// Of the document with this body.
+/// The text of the document with this body.
 QString textOf(const QByteArray &body);
 
-/// Of the document's text at a position; one whose body is "…x…", at the first x.
+// The format of a character at its first position in the document with this body.
 TextAttributes attributesAt(const QByteArray &body, QChar character = u'x');
 FontAttributes fontAt(const QByteArray &body, QChar character = u'x');
 ParagraphStyle styleAt(const QByteArray &body, QChar character = u'x');
 
-/// Documents that use everything that the reader knows, one subject each.
+/// Documents that use all features of the reader, one subject each.
 const std::vector<QByteArray> &samples();
 
-/// Runs cover the text in order, neighbours differ.
+/// Expects that the runs cover the text in order, and that neighbours differ.
 void expectSound(const AttributedString &text);
 
 } // namespace RtfDocuments

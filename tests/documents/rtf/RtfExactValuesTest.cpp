@@ -12,7 +12,7 @@ QByteArray withTable(const QByteArray &groups, const QByteArray &body)
 
 } // namespace
 
-TEST(RtfReader, TakesAFontsExactValuesFromTheirTable)
+TEST(RtfReader, ReadsExactFontsFromTheTable)
 {
     const FontAttributes exact{
         QStringLiteral("Some"), 12.300000000000001, 450, FontSlant::Oblique, 1e-300, -0.1};
@@ -21,7 +21,7 @@ TEST(RtfReader, TakesAFontsExactValuesFromTheirTable)
         exact);
 }
 
-TEST(RtfReader, TakesAParagraphsExactValuesFromTheirTable)
+TEST(RtfReader, ReadsExactParagraphsFromTheTable)
 {
     ParagraphStyle exact;
     exact.alignment = TextAlignment::Justified;
@@ -42,14 +42,14 @@ TEST(RtfReader, TakesAParagraphsExactValuesFromTheirTable)
         exact);
 }
 
-TEST(RtfReader, TakesALanguageFromTheTable)
+TEST(RtfReader, ReadsExactLanguagesFromTheTable)
 {
     EXPECT_EQ(attributesAt(withTable(R"({\qbylanguage3 gsw-u-co-\u228 ?})", R"(\lang1033\qbylanguage3 x)"))
                   .language,
         QStringLiteral(u"gsw-u-co-ä"));
 }
 
-TEST(RtfReader, LetsWordsBehindAnExactValueChangeIt)
+TEST(RtfReader, AppliesWordsThatFollowAnExactValue)
 {
     const QByteArray groups = R"({\qbyfont1 9.5;450;2;1;1}{\qbyparagraph1 0;0;1;3;0;5;0;0;0;})";
     const FontAttributes font = fontAt(withTable(groups, R"(\f0\qbyfont1\b x)"));
@@ -78,7 +78,7 @@ TEST(RtfReader, NumbersExactValuesByTheirKind)
         attributesAt(withTable(groups, R"(\qbyfont3\qbyparagraph1\qbylanguage1 x)")).font.has_value());
 }
 
-TEST(RtfReader, PassesOverAnExactValueThatMakesNoSense)
+TEST(RtfReader, IgnoresInvalidExactValues)
 {
     for (const char *value :
         {"", "12", "12;400;0;0", "12;0;0;0;0", "12;1001;0;0;0", "12;400;3;0;0", "12;400;-1;0;0",

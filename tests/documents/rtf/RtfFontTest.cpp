@@ -12,7 +12,7 @@ QString familyIn(const QByteArray &fontTable)
 
 } // namespace
 
-TEST(RtfReader, NamesNoFontWhereTheDocumentNamesNone)
+TEST(RtfReader, HasNoFontIfTheDocumentNamesNone)
 {
     EXPECT_FALSE(attributesAt("x").font.has_value());
     EXPECT_FALSE(attributesAt(R"({\fonttbl{\f0 Some;}}\pard\plain\qc\cf1\ul x)").font.has_value());
@@ -20,7 +20,7 @@ TEST(RtfReader, NamesNoFontWhereTheDocumentNamesNone)
     EXPECT_FALSE(attributesAt(R"({\b y}x)").font.has_value());
 }
 
-TEST(RtfReader, NamesAFontWithoutAFamilyWhereAWordTouchesIt)
+TEST(RtfReader, HasAFontWithoutAFamilyAfterAnyFontWord)
 {
     for (const char *word : {"\\b0", "\\i0", "\\fs24", "\\expndtw0", "\\up0", "\\nosupersub"}) {
         EXPECT_EQ(fontAt(QByteArray(word) + " x"), FontAttributes{}) << word;
@@ -43,7 +43,7 @@ TEST(RtfReader, ReadsANameWithoutItsSemicolon)
     EXPECT_EQ(familyIn(R"(\f4 Other;\f3 Some)"), QStringLiteral("Some"));
 }
 
-TEST(RtfReader, LeavesOutWhatStandsInsideAFontsGroup)
+TEST(RtfReader, IgnoresGroupsInsideOfAFont)
 {
     EXPECT_EQ(familyIn(R"({\f3{\*\panose 02}{\*\fname Untagged;}Some{\*\falt Else}{\fontemb 00};})"),
         QStringLiteral("Some00"));
@@ -65,14 +65,14 @@ TEST(RtfReader, ReadsANameInUnicodeAndInItsOwnCodePage)
     EXPECT_EQ(fontAt(symbols, QChar(0x2014)).family, QStringLiteral(u"Café"));
 }
 
-TEST(RtfReader, TakesBlanksAndSemicolonsIntoANameOnlyWhereTheyAreEscaped)
+TEST(RtfReader, KeepsBlanksAndSemicolonsInANameOnlyIfTheyAreEscaped)
 {
     EXPECT_EQ(familyIn("{\\f3\\fnil \n   {\\*\\panose 02}  Some Font  ;}"), QStringLiteral("Some Font"));
     EXPECT_EQ(familyIn(R"({\f3\fnil\uc0 \u32 a\u59 b\u32 ;})"), QStringLiteral(" a;b "));
     EXPECT_EQ(familyIn(R"({\f3\fnil a\'3bb;})"), QStringLiteral("a;b"));
 }
 
-TEST(RtfReader, NamesNoFamilyForANumberThatIsNotInTheTable)
+TEST(RtfReader, HasNoFamilyForAnUnknownFontNumber)
 {
     EXPECT_EQ(fontAt(R"({\fonttbl{\f3 Some;}}\f4 x)").family, QString());
 }
@@ -118,7 +118,7 @@ TEST(RtfReader, ReadsBaselineOffsets)
     EXPECT_EQ(fontAt(R"(\fs36\super\nosupersub x)").baselineOffset, 0);
 }
 
-TEST(RtfReader, KeepsLooksToTheirGroup)
+TEST(RtfReader, KeepsFormatsToTheirGroup)
 {
     const AttributedString text = read(document(R"(a{\b b{\i c}d}e)"));
     ASSERT_EQ(text.runCount(), 5);
@@ -128,7 +128,7 @@ TEST(RtfReader, KeepsLooksToTheirGroup)
     EXPECT_FALSE(text.attributesAt(4).font.has_value());
 }
 
-TEST(RtfReader, MakesOneRunOfTextThatLooksTheSame)
+TEST(RtfReader, MakesOneRunOfTextWithOneFormat)
 {
     EXPECT_EQ(read(document(R"(a{\b b}{\cf2\b c}\b\ul d\par{\plain\b e})")).runCount(), 2);
 }

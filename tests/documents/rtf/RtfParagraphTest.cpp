@@ -63,7 +63,7 @@ TEST(RtfReader, ReadsTailIndentsAndSpacing)
     EXPECT_EQ(styleAt(R"(\ri5\rin20 x)").tailIndent, 1);
 }
 
-TEST(RtfReader, LeavesLineSpacingThatDependsOnFontsAlone)
+TEST(RtfReader, IgnoresLineSpacingThatDependsOnFonts)
 {
     EXPECT_EQ(styleAt(R"(\sl480\slmult1 x)"), plainStyle());
 }
@@ -75,7 +75,7 @@ TEST(RtfReader, ReadsTabStopsInTheirOrder)
     EXPECT_EQ(styleAt(R"(\tqc\tx80\tqdec\tx60\tqr\tx20\tx40\tqr\tb70\tldot\tx100 x)").tabStops, stops);
 }
 
-TEST(RtfReader, PassesOverTabStopsBeyondABound)
+TEST(RtfReader, IgnoresTabStopsBeyondTheMaximum)
 {
     QByteArray stops;
     for (int i = 1; i <= 1000; ++i)
@@ -91,7 +91,7 @@ TEST(RtfReader, ReadsTabIntervals)
     EXPECT_EQ(styleAt(R"(\deftab560\pardeftab20\pard x)").defaultTabInterval, 28);
 }
 
-TEST(RtfReader, LetsNoStyleSheetChangeTheText)
+TEST(RtfReader, IgnoresTheStyleSheet)
 {
     EXPECT_EQ(styleAt(R"({\stylesheet{\s1\qc\li720 Heading;}}\pard\s1 x)"), plainStyle());
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Whatever stands in a document, reading ends, and the text it gives is sound.
+// Reading any document ends and returns a valid text.
 #include "tests/documents/rtf/RtfDocuments.h"
 
 #include <cstring>
@@ -28,7 +28,7 @@ void expectSoundOrRefused(const QByteArray &rtf)
         EXPECT_EQ(result.error().cause, Cause::WrongKind);
 }
 
-/// Long enough that anything quadratic in it would be seen.
+/// Long enough to make quadratic time noticeable.
 constexpr qsizetype longRun = 2'000'000;
 
 } // namespace
@@ -55,7 +55,7 @@ TEST(RtfReader, ReadsDocumentsWithAnyByteChanged)
     }
 }
 
-TEST(RtfReader, ReadsGroupsHoweverDeep)
+TEST(RtfReader, ReadsGroupsOfAnyDepth)
 {
     constexpr qsizetype depth = 100'000;
     const QByteArray open = QByteArray("{\\b").repeated(depth);
@@ -65,7 +65,7 @@ TEST(RtfReader, ReadsGroupsHoweverDeep)
     EXPECT_EQ(read("{\\rtf1 a" + open + " b").string(), QStringLiteral("ab"));
 }
 
-TEST(RtfReader, KeepsLooksToTheirGroupDownToABound)
+TEST(RtfReader, KeepsFormatsToTheirGroupUpToAMaximumDepth)
 {
     const auto looksBehindAGroup = [](qsizetype depth) {
         return attributesAt(QByteArray("{").repeated(depth) + R"({\b}x)").font.has_value();
@@ -74,7 +74,7 @@ TEST(RtfReader, KeepsLooksToTheirGroupDownToABound)
     EXPECT_TRUE(looksBehindAGroup(11'000));
 }
 
-TEST(RtfReader, ReadsFontsHoweverMany)
+TEST(RtfReader, ReadsAnyNumberOfFonts)
 {
     QByteArray fonts;
     QByteArray body;
@@ -90,7 +90,7 @@ TEST(RtfReader, ReadsFontsHoweverMany)
     EXPECT_EQ(text.attributesAt(65'536).font->family, QString());
 }
 
-TEST(RtfReader, BoundsTheDistinctAttributesOfADocument)
+TEST(RtfReader, LimitsTheDistinctAttributesOfADocument)
 {
     QByteArray body;
     for (int i = 1; i <= 150'000; ++i)
@@ -102,7 +102,7 @@ TEST(RtfReader, BoundsTheDistinctAttributesOfADocument)
     EXPECT_EQ(text.attributesAt(149'999).font->pointSize, 50'000);
 }
 
-TEST(RtfReader, BoundsTheTabStopsOfAllAttributes)
+TEST(RtfReader, LimitsTheTabStopsOfAllAttributes)
 {
     QByteArray stops;
     for (int i = 1; i <= 256; ++i)
@@ -116,7 +116,7 @@ TEST(RtfReader, BoundsTheTabStopsOfAllAttributes)
     EXPECT_GE(text.distinctAttributes().size() * 256, 1'900'000U);
 }
 
-TEST(RtfReader, TakesNumbersBeyond32BitsForTheNearestOnes)
+TEST(RtfReader, ClampsNumbersTo32Bits)
 {
     EXPECT_EQ(styleAt(R"(\li99999999999999999999 x)").headIndent, INT32_MAX / 20.0);
     EXPECT_EQ(styleAt(R"(\li-99999999999999999999 x)").headIndent, INT32_MIN / 20.0);
@@ -145,7 +145,7 @@ TEST(RtfReader, ReadsALongTextWhole)
     EXPECT_EQ(text.runCount(), 1);
 }
 
-TEST(RtfReader, RefusesWhatIsTooLongForThePositionsInAText)
+TEST(RtfReader, RefusesDocumentsThatAreTooLong)
 {
     constexpr size_t length = INT32_MAX;
     void *pages =
@@ -157,7 +157,7 @@ TEST(RtfReader, RefusesWhatIsTooLongForThePositionsInAText)
     ::munmap(pages, length);
 }
 
-TEST(RtfReader, SaysThatMemoryIsShort)
+TEST(RtfReader, ReportsThatMemoryHasRunOut)
 {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";

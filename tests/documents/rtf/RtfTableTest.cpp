@@ -36,12 +36,12 @@ TEST(RtfTable, ATableInsideACellHasParagraphsOfItsOwn)
         QStringLiteral("b\n\ne\n"));
 }
 
-TEST(RtfTable, InANoteStandsBehindTheBody)
+TEST(RtfTable, InANoteFollowsTheBody)
 {
     EXPECT_EQ(textOf(R"(one{\footnote a\cell b\cell\row} two)"), QStringLiteral("one two\na\nb\n"));
 }
 
-TEST(RtfTable, InADestinationWithoutTextIsNone)
+TEST(RtfTable, InADestinationWithoutTextIsIgnored)
 {
     EXPECT_EQ(textOf(R"(a{\header b\cell\row}c)"), QStringLiteral("ac"));
     EXPECT_EQ(textOf(R"(a{\listtext b\cell\row}c)"), QStringLiteral("ac"));

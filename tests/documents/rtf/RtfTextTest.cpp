@@ -5,7 +5,7 @@ using namespace RtfDocuments;
 
 using Cause = DocumentError::Cause;
 
-TEST(RtfReader, KnowsRtfByItsFirstBytes)
+TEST(RtfReader, RecognizesRtfByItsFirstBytes)
 {
     EXPECT_TRUE(looksLikeRtf("{\\rtf1 text}"));
     EXPECT_TRUE(looksLikeRtf("\xEF\xBB\xBF \r\n\t{\\rtf"));
@@ -22,7 +22,7 @@ TEST(RtfReader, NamesTheCauseOfAFailure)
     EXPECT_EQ(causeText({Cause::NotEnoughMemory, DocumentKind::Rtf}), QStringLiteral("not enough memory"));
 }
 
-TEST(RtfReader, ReadsWhatStandsInTheDocumentsGroup)
+TEST(RtfReader, ReadsTheGroupOfTheDocument)
 {
     EXPECT_EQ(textOf("one {two} three"), QStringLiteral("one two three"));
     EXPECT_EQ(read("{\\rtf1}").length(), 0);
@@ -35,7 +35,7 @@ TEST(RtfReader, IgnoresWhatFollowsTheDocumentsGroup)
     EXPECT_EQ(read("{\\rtf1 one}} two").string(), QStringLiteral("one"));
 }
 
-TEST(RtfReader, ThinksMissingBracesAtTheEnd)
+TEST(RtfReader, AssumesMissingBracesAtTheEnd)
 {
     EXPECT_EQ(read("{\\rtf1 one {\\b two").string(), QStringLiteral("one two"));
     EXPECT_EQ(read("{\\rtf1 one \\").string(), QStringLiteral("one "));
@@ -51,7 +51,7 @@ TEST(RtfReader, ReadsEscapedBackslashesAndBraces)
     EXPECT_EQ(textOf(R"(\\ \{\})"), QStringLiteral("\\ {}"));
 }
 
-TEST(RtfReader, TakesTheBlankBehindAWordForItsEnd)
+TEST(RtfReader, SkipsTheBlankAfterAWord)
 {
     EXPECT_EQ(textOf(R"(a\b b\b0  c\i-d\fs-12e)"), QStringLiteral("ab c-de"));
 }
@@ -78,12 +78,12 @@ TEST(RtfReader, ReadsTheWordsForCharacters)
         QStringLiteral(u"\u200D\u200C\u200B\u2060\u200E\u200F"));
 }
 
-TEST(RtfReader, LeavesOutWhatAProgramWouldMakeUpForTheMoment)
+TEST(RtfReader, LeavesOutGeneratedNumbersAndDates)
 {
     EXPECT_EQ(textOf(R"(a\chdate\chtime\chpgn\sectnum\chftn\chatn b)"), QStringLiteral("ab"));
 }
 
-TEST(RtfReader, PassesOverUnknownWordsAndSymbols)
+TEST(RtfReader, IgnoresUnknownWordsAndSymbols)
 {
     EXPECT_EQ(textOf(R"(a\unheardof12 b\Par c\|d\:e\;f)"), QStringLiteral("abcdef"));
 }
@@ -105,7 +105,7 @@ TEST(RtfReader, ReplacesUnicodeBeyondItsEnd)
     EXPECT_EQ(textOf(R"(\u1114112?\u-32769?\u99999999999999999999?)"), QString(3, QChar(0xFFFD)));
 }
 
-TEST(RtfReader, SkipsAsManyCharactersBehindUnicodeAsWereAnnounced)
+TEST(RtfReader, SkipsTheAnnouncedNumberOfFallbackCharacters)
 {
     EXPECT_EQ(textOf(R"(\u228?b)"), QStringLiteral(u"äb"));
     EXPECT_EQ(textOf(R"(\uc0\u228 b)"), QStringLiteral(u"äb"));
@@ -122,7 +122,7 @@ TEST(RtfReader, CountsASymbolAWordForACharacterAndBinaryDataAsOneFallback)
     EXPECT_EQ(textOf(R"(\uc2\u228\bin3 }}}xb)"), QStringLiteral(u"äb"));
 }
 
-TEST(RtfReader, NeverTakesForAFallbackWhatShapesTheText)
+TEST(RtfReader, NeverSkipsFormattingAsAFallback)
 {
     EXPECT_EQ(textOf(R"(\uc2\u228\par b)"), QStringLiteral(u"ä\nb"));
     EXPECT_EQ(textOf("\\u228\\\nb"), QStringLiteral(u"ä\nb"));

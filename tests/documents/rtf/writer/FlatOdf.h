@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// FlatOdf looks up what a flat OpenDocument text says of pieces of its text.
+// FlatOdf looks up the properties of pieces of text in a flat OpenDocument text.
 // Thread: any.
 #pragma once
 
@@ -12,11 +12,11 @@ class FlatOdf {
 public:
     explicit FlatOdf(const QByteArray &document);
 
-    /// A property of the span, or of the paragraph, that holds a piece of text: "font-size"; empty where the
-    /// document's automatic styles say nothing of it.
+    /// A property, such as "font-size", of the span or of the paragraph that contains a piece of text; empty
+    /// if the automatic styles do not set it.
     [[nodiscard]] QString ofSpan(const QString &piece, const char *property) const;
     [[nodiscard]] QString ofParagraph(const QString &piece, const char *property) const;
-    /// In points, of a paragraph; fails the test where it is no length.
+    /// A property of a paragraph in points; fails the test if it is not a length.
     [[nodiscard]] double points(const QString &piece, const char *property) const;
 
 private:
@@ -27,6 +27,6 @@ private:
     };
     [[nodiscard]] const Piece *pieceWith(const QString &text) const;
 
-    QHash<QString, QHash<QString, QString>> m_styles; ///< properties without prefix, by the name of a style
+    QHash<QString, QHash<QString, QString>> m_styles; ///< properties without prefix, by style name
     std::vector<Piece> m_pieces;
 };

@@ -21,7 +21,7 @@ bool OfficeDocuments::areConvertible()
     return !program().isEmpty();
 }
 
-QByteArray OfficeDocuments::converted(const QByteArray &document, const char *from, const char *to)
+QByteArray OfficeDocuments::convert(const QByteArray &document, const char *from, const char *to)
 {
     const QString folder = TestHome::instance().root() + QStringLiteral("/office/");
     QDir().mkpath(folder);
@@ -30,15 +30,15 @@ QByteArray OfficeDocuments::converted(const QByteArray &document, const char *fr
         ADD_FAILURE() << "cannot write " << source.fileName().toStdString();
     source.close();
 
-    const QByteArray target = QFile::encodeName(folder) + "converted";
+    const QByteArray target = QFile::encodeName(folder) + "convert";
     ChildProcess office(program());
     QByteArrayList arguments{"--headless", "--convert-to", to, "--outdir", target};
-    if (qstrcmp(from, "html") == 0) // otherwise a web page is one that only becomes another web page
+    if (qstrcmp(from, "html") == 0) // without a filter, a web page can only become another web page
         arguments += "--infilter=HTML (StarWriter)";
     const ChildProcess::Outcome outcome = office.run(arguments << QFile::encodeName(source.fileName()));
     QFile result(QFile::decodeName(target) + QStringLiteral("/document.")
         + QString::fromLatin1(to).section(QLatin1Char(':'), 0, 0));
     if (!result.open(QIODevice::ReadOnly))
-        ADD_FAILURE() << "not converted: " << outcome.output.constData() << outcome.errors.constData();
+        ADD_FAILURE() << "not convert: " << outcome.output.constData() << outcome.errors.constData();
     return result.readAll();
 }

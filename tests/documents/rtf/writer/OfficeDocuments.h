@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// OfficeDocuments has an office program convert documents, in the world of the test.
+// OfficeDocuments converts documents with an office program in the environment of the test.
 // Thread: main.
 #pragma once
 
@@ -8,11 +8,11 @@
 
 namespace OfficeDocuments {
 
-/// Whether the program is there.
+/// Whether the program is installed.
 bool areConvertible();
 
-/// The document in another format; fails the test where there is none.
-/// from, to: suffixes, "rtf"; a suffix may be followed by a colon and a filter's name.
-QByteArray converted(const QByteArray &document, const char *from, const char *to);
+/// The document in another format; fails the test if the conversion fails.
+/// from, to: suffixes, such as "rtf", optionally followed by a colon and the name of a filter.
+QByteArray convert(const QByteArray &document, const char *from, const char *to);
 
 } // namespace OfficeDocuments

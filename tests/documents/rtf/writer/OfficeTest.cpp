@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An office program reads the RTF that Quillbay writes, and writes RTF that Quillbay reads.
+// An office program reads the RTF of RtfWriter and writes RTF for RtfReader.
 #include "documents/rtf/RtfReader.h"
 #include "documents/rtf/writer/RtfWriter.h"
 
@@ -22,7 +22,7 @@ protected:
     static QByteArray rtfOf(const AttributedString &text) { return writeRtf(text, 0, text.length()).value(); }
     static AttributedString fromRtf(const QByteArray &document, const char *format)
     {
-        return readRtf(OfficeDocuments::converted(document, format, "rtf")).value();
+        return readRtf(OfficeDocuments::convert(document, format, "rtf")).value();
     }
 };
 
@@ -55,7 +55,7 @@ ParagraphStyle aligned(TextAlignment alignment)
     return style;
 }
 
-/// The attributes of a piece that the text must hold.
+/// The attributes of a piece of text, which must exist.
 TextAttributes attributesOf(const AttributedString &text, const QString &piece)
 {
     const qsizetype at = text.string().indexOf(piece);
@@ -75,11 +75,11 @@ TEST_F(Office, ReadsTheText)
     const QString text =
         QStringLiteral("Gr\u00FC\u00DFe \u4E2D\u6587 \u05D0\u05D1 \U0001F600\n\n\\{a\\} 100%;\tb\nlast");
     AttributedStringBuilder builder;
-    // Also with exact values, which it does not know.
+    // Also with exact values, which it ignores.
     builder.append(QStringView(text).first(10), fontOnly(dejaVuSerif(12.3)));
     builder.append(QStringView(text).sliced(10), {});
     const QByteArray plain =
-        OfficeDocuments::converted(rtfOf(builder.build()), "rtf", "txt:Text (encoded):UTF8");
+        OfficeDocuments::convert(rtfOf(builder.build()), "rtf", "txt:Text (encoded):UTF8");
     QString read = QString::fromUtf8(plain);
     if (read.startsWith(QChar(0xFEFF)))
         read.remove(0, 1);
@@ -101,7 +101,7 @@ TEST_F(Office, ReadsFonts)
     builder.append(u"bold ", fontOnly(bold));
     builder.append(u"italic ", fontOnly(italic));
     builder.append(u"odd", fontOnly(odd));
-    const FlatOdf document(OfficeDocuments::converted(rtfOf(builder.build()), "rtf", "fodt"));
+    const FlatOdf document(OfficeDocuments::convert(rtfOf(builder.build()), "rtf", "fodt"));
     struct Expected {
         const char *piece;
         const char *family;
@@ -128,7 +128,7 @@ TEST_F(Office, ReadsAlignmentsAndIndents)
     ParagraphStyle indented = aligned(TextAlignment::Left);
     indented.headIndent = 36;
     indented.firstLineHeadIndent = 18;
-    indented.tailIndent = 20.3; // not exactly in twentieths
+    indented.tailIndent = 20.3; // not a multiple of a twip
     indented.paragraphSpacingBefore = 6;
     indented.paragraphSpacing = 12;
     AttributedStringBuilder builder;
@@ -137,7 +137,7 @@ TEST_F(Office, ReadsAlignmentsAndIndents)
     builder.append(u"centred\n", withStyle(aligned(TextAlignment::Center)));
     builder.append(u"right\n", withStyle(aligned(TextAlignment::Right)));
     builder.append(u"justified", withStyle(aligned(TextAlignment::Justified)));
-    const FlatOdf document(OfficeDocuments::converted(rtfOf(builder.build()), "rtf", "fodt"));
+    const FlatOdf document(OfficeDocuments::convert(rtfOf(builder.build()), "rtf", "fodt"));
 
     EXPECT_NEAR(document.points(QStringLiteral("left"), "margin-left"), 36, nearly);
     EXPECT_NEAR(document.points(QStringLiteral("left"), "text-indent"), -18, nearly);
@@ -152,7 +152,7 @@ TEST_F(Office, ReadsAlignmentsAndIndents)
     EXPECT_EQ(document.ofParagraph(QStringLiteral("natural"), "text-align"), QString());
 }
 
-TEST_F(Office, WritesWebPagesAsRtfThatIsRead)
+TEST_F(Office, WritesWebPagesAsReadableRtf)
 {
     const AttributedString text = fromRtf(R"(<!DOCTYPE html>
 <html><head><meta charset="utf-8"></head><body>
@@ -162,7 +162,7 @@ TEST_F(Office, WritesWebPagesAsRtfThatIsRead)
 <p>line<br>break and {braces} \ </p>
 </body></html>)",
         "html");
-    // A line that is broken within its paragraph ends with U+2028.
+    // A line break within a paragraph is U+2028.
     EXPECT_TRUE(text.string().startsWith(
         QStringLiteral("plain bold italic Gr\u00FC\u00DFe \u4E2D\u6587 \U0001F600\ncentred\n"
                        "justified\nline\u2028break and {braces} \\")))
@@ -179,7 +179,7 @@ TEST_F(Office, WritesWebPagesAsRtfThatIsRead)
     EXPECT_NEAR(justified.firstLineHeadIndent, 18, nearly);
 }
 
-TEST_F(Office, WritesItsOwnDocumentsAsRtfThatIsRead)
+TEST_F(Office, WritesItsOwnDocumentsAsReadableRtf)
 {
     const AttributedString text = fromRtf(R"(<?xml version="1.0" encoding="UTF-8"?>
 <office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"

@@ -16,7 +16,7 @@ constexpr char16_t oddCharacters[] = {0x0000, 0x0001, 0x0007, 0x000A, 0x000A, 0x
 
 } // namespace
 
-/// Mostly one that a word of RTF says exactly, in multiples of the unit.
+/// Mostly a multiple of the unit, which RTF can express exactly.
 double RandomText::length(double unit)
 {
     using Limits = std::numeric_limits<double>;
@@ -55,7 +55,7 @@ QString RandomText::characters(size_t longest)
     return text;
 }
 
-/// Of a font or a file.
+/// The name of a font or a file.
 QString RandomText::name()
 {
     static const QString names[] = {QString(), QStringLiteral("Serif"), QStringLiteral("Sans Bold"),
@@ -127,18 +127,18 @@ TextAttributes RandomText::attributes()
     return attributes;
 }
 
-AttributedString RandomText::text(size_t mostRuns, size_t longestRun)
+AttributedString RandomText::text(size_t maxRuns, size_t maxRunLength)
 {
     std::vector<TextAttributes> pool{{}};
     for (size_t i = below(6); i > 0; --i)
         pool.push_back(attributes());
     AttributedStringBuilder builder;
-    for (size_t runs = below(mostRuns + 1); runs > 0; --runs) {
+    for (size_t runs = below(maxRuns + 1); runs > 0; --runs) {
         const TextAttributes &chosen = oneIn(20) ? pool.emplace_back(attributes()) : pool[below(pool.size())];
         if (chosen.attachment)
             builder.append(QString(static_cast<qsizetype>(1 + below(2)), QChar(attachmentCharacter)), chosen);
         else
-            builder.append(characters(longestRun), chosen);
+            builder.append(characters(maxRunLength), chosen);
     }
     return builder.build();
 }

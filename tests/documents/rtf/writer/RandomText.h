@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// RandomText makes styled texts of all that a styled text can consist of, with attachments on U+FFFC only:
-// the same ones from the same seed.
+// RandomText generates styled texts with all kinds of attributes, and with attachments on U+FFFC only. Equal
+// seeds generate equal texts.
 // Thread: one.  Owner: a test.
 #pragma once
 
@@ -15,8 +15,8 @@ public:
     {
     }
 
-    /// A text of so many runs at most; few distinct attributes in many of them.
-    AttributedString text(size_t mostRuns, size_t longestRun);
+    /// A text with few distinct attributes.
+    AttributedString text(size_t maxRuns, size_t maxRunLength);
 
 private:
     size_t below(size_t end) { return m_random() % end; }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What RtfWriter writes, RtfReader turns back into an equal text.
+// RtfReader reads what RtfWriter writes as an equal text.
 #include "documents/rtf/RtfReader.h"
 #include "documents/rtf/writer/RtfWriter.h"
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Keeps attachments under numbers.
+/// Stores attachments under numbers.
 class NumberedFiles {
 public:
     QString nameFor(const Attachment &attachment)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The written words of fonts, languages and paragraphs, held against docs/rtf.md.
+// The words for fonts, languages and paragraphs agree with docs/rtf.md.
 #include "tests/documents/rtf/writer/WrittenRtf.h"
 #include "tests/harness/QuillbayTest.h"
 
@@ -33,7 +33,7 @@ TEST(RtfStyleWords, BoldItalicTrackingAndOffsetAreWords)
     EXPECT_EQ(wordsOf(font), serifTable + "\\pard\\plain\\f0\\fs24\\dn8");
 }
 
-TEST(RtfStyleWords, WhatNoWordSaysOfAFontIsSaidTwice)
+TEST(RtfStyleWords, AFontWithoutExactWordsHasAnExactValueToo)
 {
     FontAttributes font = serif(12.3);
     font.weight = 650;
@@ -45,7 +45,7 @@ TEST(RtfStyleWords, WhatNoWordSaysOfAFontIsSaidTwice)
             + "{\\*\\qbyexact\n{\\qbyfont1 12.3;650;2;0.01;-0.1}}\n\\pard\\plain\\f0\\fs25\\b\\i\\qbyfont1");
 }
 
-TEST(RtfStyleWords, EachPartOfAFontThatNoWordSaysIsReasonEnoughForAnExactValue)
+TEST(RtfStyleWords, EachPartOfAFontWithoutAnExactWordCausesAnExactValue)
 {
     const auto exactValueOf = [](const auto &change) {
         FontAttributes font = serif();
@@ -69,7 +69,7 @@ TEST(RtfStyleWords, EachPartOfAFontThatNoWordSaysIsReasonEnoughForAnExactValue)
         exactValueOf([](FontAttributes &font) { font.baselineOffset = 0.25; }), "\\qbyfont1 12;400;0;0;0.25");
 }
 
-TEST(RtfStyleWords, ALanguageIsItsNumberAndAnExactValueWhereTheNumberMeansAnother)
+TEST(RtfStyleWords, ALanguageIsANumberAndAnExactValueIfTheNumberDiffers)
 {
     const auto wordsOfLanguage = [](const char *tag) {
         TextAttributes attributes;
@@ -121,7 +121,7 @@ TEST(RtfStyleWords, LengthsOfParagraphsAreTwentiethsOfAPoint)
         "\\sb120\\sa240\\plain");
 }
 
-TEST(RtfStyleWords, WhatNoWordSaysOfAParagraphIsSaidTwice)
+TEST(RtfStyleWords, AParagraphWithoutExactWordsHasAnExactValueToo)
 {
     ParagraphStyle style;
     style.alignment = TextAlignment::Center;
@@ -161,7 +161,7 @@ TEST(RtfStyleWords, EqualExactValuesAreInTheTableOnce)
     EXPECT_FALSE(rtf.contains("\\qbyfont2"));
 }
 
-TEST(RtfStyleWords, NoNumberAndInfinityBecomeNumbersThatOtherProgramsCanRead)
+TEST(RtfStyleWords, NanAndInfinityBecomeNumbersThatOtherProgramsCanRead)
 {
     FontAttributes font = serif(std::numeric_limits<double>::quiet_NaN());
     font.tracking = std::numeric_limits<double>::infinity();

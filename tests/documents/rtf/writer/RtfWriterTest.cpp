@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The written characters, ranges and attachments, held against docs/rtf.md.
+// Characters, ranges and attachments are written as docs/rtf.md describes.
 #include "tests/documents/rtf/writer/WrittenRtf.h"
 #include "tests/harness/QuillbayTest.h"
 
@@ -7,7 +7,7 @@ using namespace WrittenRtf;
 
 namespace {
 
-/// What stands between the words of plain text and the closing brace.
+/// The RTF between the words of plain text and the closing brace.
 QByteArray charactersOf(const QString &text)
 {
     const QByteArray before = start + "\\pard\\plain ";
@@ -30,7 +30,7 @@ TEST(RtfWriter, AnEmptyTextIsAnEmptyDocument)
     EXPECT_EQ(rtfOf({}), start + "}");
 }
 
-TEST(RtfWriter, PrintableAsciiStandsForItselfButForBackslashAndBraces)
+TEST(RtfWriter, PrintableAsciiIsWrittenLiterallyExceptBackslashAndBraces)
 {
     QString text;
     for (char16_t character = 0x20; character < 0x7F; ++character)
@@ -87,7 +87,7 @@ TEST(RtfWriter, AnAttachmentThatIsStoredUnderAnotherNameKeepsItsOwn)
               "\\pard\\plain {{\\NeXTGraphic \\u252  \\width0 \\height0\\qbyfile1}\\'ac}}");
 }
 
-TEST(RtfWriter, AnAttachmentThatIsStoredNowhereLeavesItsCharacter)
+TEST(RtfWriter, AnAttachmentThatIsNotStoredLeavesItsCharacter)
 {
     const AttributedString text(QStringLiteral("\uFFFC"), withAttachment(QStringLiteral("a")));
     EXPECT_EQ(rtfOf(text), start + "\\pard\\plain \\u-4 }");
@@ -107,7 +107,7 @@ TEST(RtfWriter, AnAttachmentOnAnotherCharacterIsLeftOut)
     EXPECT_EQ(questions, 0);
 }
 
-TEST(RtfWriter, TheNameOfAnAttachmentIsAskedForOnce)
+TEST(RtfWriter, TheNameOfAnAttachmentIsRequestedOnce)
 {
     AttributedStringBuilder builder;
     const TextAttributes attributes = withAttachment(QStringLiteral("a"));
@@ -124,7 +124,7 @@ TEST(RtfWriter, TheNameOfAnAttachmentIsAskedForOnce)
     EXPECT_EQ(rtf.count("NeXTGraphic"), 3);
 }
 
-TEST(RtfWriter, ARangeIsWrittenWithNothingOfWhatIsAroundIt)
+TEST(RtfWriter, ARangeIsWrittenWithoutItsSurroundings)
 {
     AttributedStringBuilder builder;
     FontAttributes sans = serif(9.1);
@@ -144,7 +144,7 @@ TEST(RtfWriter, ARangeIsWrittenWithNothingOfWhatIsAroundIt)
     EXPECT_EQ(writeRtf(text, text.length(), 5).value(), start + "}");
 }
 
-TEST(RtfWriter, ARangeIsCutToTheText)
+TEST(RtfWriter, ARangeIsClampedToTheText)
 {
     const AttributedString text(QStringLiteral("abc"));
     EXPECT_EQ(writeRtf(text, 1, 100).value(), start + "\\pard\\plain bc}");

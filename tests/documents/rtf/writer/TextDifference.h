@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// TextDifference tells where two styled texts differ, for readable failures.
+// TextDifference describes where two styled texts differ, for readable failures.
 // Thread: any.
 #pragma once
 
@@ -10,5 +10,5 @@
 /// Empty for equal texts.
 QString differenceBetween(const AttributedString &expected, const AttributedString &actual);
 
-/// What a text has of a range.
+/// The part of a text in a range.
 AttributedString rangeOf(const AttributedString &text, qsizetype start, qsizetype length);

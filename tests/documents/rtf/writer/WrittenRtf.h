@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// WrittenRtf is what RtfWriter makes of small texts, for the tests of its words.
+// WrittenRtf returns what RtfWriter writes for small texts.
 // Thread: any.
 #pragma once
 
@@ -7,7 +7,7 @@
 
 namespace WrittenRtf {
 
-/// What every document begins with.
+/// The beginning of every document.
 extern const QByteArray start;
 /// The font table of serif().
 extern const QByteArray serifTable;
@@ -17,8 +17,8 @@ QByteArray rtfOf(const AttributedString &text, const AttachmentNames &names = {}
 FontAttributes serif(double size = 12);
 TextAttributes withFont(const FontAttributes &font);
 
-/// What stands behind the start and before a letter of these attributes; fails the test where the rest is
-/// different.
+/// The words that are written for a letter with these attributes, without the start of the document; fails
+/// the test if the rest is not as expected.
 QByteArray wordsOf(const TextAttributes &attributes);
 QByteArray wordsOf(const FontAttributes &font);
 QByteArray wordsOf(const ParagraphStyle &style);
