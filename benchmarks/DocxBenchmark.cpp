@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Reading generated Word documents whose main part is so many bytes long: bytes a second of that part, and
-// the greatest resident size of the process while it reads.
+// Reads generated Word documents by the length of their main part: bytes of that part per second, and the
+// maximum resident size of the process.
 #include "documents/docx/DocxReader.h"
 #include "tests/documents/docx/PackageWriter.h"
 
@@ -25,7 +25,7 @@ QByteArray wordsOf(std::mt19937 &random)
     return words;
 }
 
-/// Paragraphs of a few runs, every other one formatted, as word processors write them.
+/// Paragraphs of a few runs, every other one with direct formatting, as word processors write them.
 QByteArray bodyOf(qsizetype length)
 {
     std::mt19937 random(1);
@@ -44,7 +44,7 @@ QByteArray bodyOf(qsizetype length)
     return body;
 }
 
-/// From here on the kernel remembers the greatest resident size anew.
+/// Resets the maximum resident size that the kernel records.
 void forgetGreatestSize()
 {
     QFile file(QStringLiteral("/proc/self/clear_refs"));

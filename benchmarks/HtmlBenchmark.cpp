@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Time to read a web page by its kind and size: bytes a second must not fall as pages of one kind grow.
+// Reads web pages by kind and size. Bytes per second must not decrease as pages of one kind grow.
 #include "documents/html/HtmlReader.h"
 
 #include <benchmark/benchmark.h>

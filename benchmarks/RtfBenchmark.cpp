@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reading RTF by kind of document: bytes a second must not fall as documents of one kind grow.
+// Reads RTF documents by kind. Bytes per second must not decrease as documents of one kind grow.
 #include "documents/rtf/RtfReader.h"
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// RTF and flat RTFD of texts of 20 million code units, written and read: bytes of RTF a second.
+// Writes and reads RTF and flat RTFD with 20 million code units: bytes of RTF per second.
 #include "documents/rtfd/RtfdReader.h"
 #include "documents/rtfd/RtfdWriter.h"
 
@@ -24,8 +24,8 @@ AttributedString plainAscii()
     return AttributedString(repeated(sentence.repeated(6) + u'\n'));
 }
 
-/// Sentences in several scripts; a word in another font, a paragraph in another style, a picture now and
-/// then.
+/// Sentences in several scripts, with occasional words in another font, paragraphs in another style, and
+/// pictures.
 AttributedString mixed()
 {
     const QString sentences[] = {sentence, QStringLiteral("Паром ушёл час назад. "),

@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "documents/PlainTextReader.h"
 
+#include "documents/Lengths.h"
 #include "platform/text_encoding/DeclaredEncoding.h"
 #include "platform/text_encoding/EncodingConverter.h"
 #include "platform/text_encoding/TextEncoding.h"
 
 #include <new>
 
-namespace {
-
-/// Bytes, of which there are never fewer than code units.
-constexpr qsizetype longestInput = INT32_MAX - 1;
-
-} // namespace
-
-Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes)
-{
-    return readPlainText(bytes, {});
-}
-
 Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes, const QByteArray &charset)
 {
-    if (bytes.size() > longestInput)
+    if (bytes.size() > maxDocumentLength)
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::PlainText);
     try {
         const TextEncoding encoding = encodingOfPlainText(bytes, charset);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// PlainTextReader turns the bytes of a plain text, in whatever encoding, into text. Which encoding it is,
-// platform/text_encoding finds out.
+// PlainTextReader turns the bytes of a plain text into text. Detecting its encoding is left to
+// platform/text_encoding.
 // Thread: any.
 #pragma once
 
@@ -12,14 +12,11 @@
 #include <QString>
 
 struct PlainText {
-    QString text; ///< without a byte order mark at its start
+    QString text; ///< without a leading byte order mark
     QByteArray encoding; ///< "UTF-8", "UTF-16LE", "Shift_JIS", "windows-1252" …
 };
 
-/// Every sequence of bytes is a text: NUL bytes are NUL characters, what its encoding has no meaning for is
-/// U+FFFD, and the last line need not end.
-Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes);
-/// The same where the charset parameter of a MIME type says the encoding. A byte order mark is believed over
-/// it, and a charset that is empty or not listed (EncodingLabels.h) says nothing, nor does UTF-8 that the
-/// bytes contradict.
-Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes, const QByteArray &charset);
+/// Accepts any sequence of bytes: NUL bytes become NUL characters, bytes that are no character in the
+/// encoding U+FFFD. Fails as TooLong or NotEnoughMemory. charset: of a MIME type. A byte order mark overrides
+/// it. Ignored if it is empty or not listed in EncodingLabels.h, or if it is UTF-8 and the bytes are not.
+Result<PlainText, DocumentError> readPlainText(QByteArrayView bytes, const QByteArray &charset = {});

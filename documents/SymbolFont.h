@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// SymbolFont knows the fonts that have symbols in place of letters, and the characters that their codes mean.
+// SymbolFont recognizes fonts with symbols in place of letters, and maps the codes of the font Symbol to
+// characters.
 // Thread: any.
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/RunProperties.h"
 
-#include "documents/LengthUnits.h"
+#include "documents/Lengths.h"
 
 #include <algorithm>
 #include <array>

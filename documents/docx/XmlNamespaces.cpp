@@ -33,21 +33,21 @@ constexpr KnownNamespace knownNamespaces[]{
     {"http://schemas.openxmlformats.org/package/2006/content-types", XmlSpace::ContentTypes},
     {"http://schemas.openxmlformats.org/markup-compatibility/2006", XmlSpace::Compatibility},
     {"http://www.w3.org/XML/1998/namespace", XmlSpace::Xml},
-    {"http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing", XmlSpace::Understood},
-    {"http://purl.oclc.org/ooxml/drawingml/wordprocessingDrawing", XmlSpace::Understood},
-    {"http://schemas.openxmlformats.org/drawingml/2006/picture", XmlSpace::Understood},
-    {"http://purl.oclc.org/ooxml/drawingml/picture", XmlSpace::Understood},
-    {"http://schemas.microsoft.com/office/drawing/2010/main", XmlSpace::Understood},
-    {"http://schemas.microsoft.com/office/word/2010/wordprocessingShape", XmlSpace::Understood},
-    {"http://schemas.microsoft.com/office/word/2010/wordprocessingGroup", XmlSpace::Understood},
-    {"http://schemas.microsoft.com/office/word/2010/wordprocessingCanvas", XmlSpace::Understood},
-    {"http://schemas.microsoft.com/office/word/2010/wordprocessingDrawing", XmlSpace::Understood},
-    {"http://schemas.microsoft.com/office/word/2010/wordml", XmlSpace::Understood},
-    {"http://schemas.microsoft.com/office/word/2012/wordml", XmlSpace::Understood},
-    {"http://schemas.microsoft.com/office/word/2006/wordml", XmlSpace::Understood},
-    {"urn:schemas-microsoft-com:vml", XmlSpace::Understood},
-    {"urn:schemas-microsoft-com:office:office", XmlSpace::Understood},
-    {"urn:schemas-microsoft-com:office:word", XmlSpace::Understood},
+    {"http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing", XmlSpace::Supported},
+    {"http://purl.oclc.org/ooxml/drawingml/wordprocessingDrawing", XmlSpace::Supported},
+    {"http://schemas.openxmlformats.org/drawingml/2006/picture", XmlSpace::Supported},
+    {"http://purl.oclc.org/ooxml/drawingml/picture", XmlSpace::Supported},
+    {"http://schemas.microsoft.com/office/drawing/2010/main", XmlSpace::Supported},
+    {"http://schemas.microsoft.com/office/word/2010/wordprocessingShape", XmlSpace::Supported},
+    {"http://schemas.microsoft.com/office/word/2010/wordprocessingGroup", XmlSpace::Supported},
+    {"http://schemas.microsoft.com/office/word/2010/wordprocessingCanvas", XmlSpace::Supported},
+    {"http://schemas.microsoft.com/office/word/2010/wordprocessingDrawing", XmlSpace::Supported},
+    {"http://schemas.microsoft.com/office/word/2010/wordml", XmlSpace::Supported},
+    {"http://schemas.microsoft.com/office/word/2012/wordml", XmlSpace::Supported},
+    {"http://schemas.microsoft.com/office/word/2006/wordml", XmlSpace::Supported},
+    {"urn:schemas-microsoft-com:vml", XmlSpace::Supported},
+    {"urn:schemas-microsoft-com:office:office", XmlSpace::Supported},
+    {"urn:schemas-microsoft-com:office:word", XmlSpace::Supported},
 };
 
 XmlSpace spaceOf(const QByteArray &uri)
@@ -232,7 +232,7 @@ MarkupCompatibility::Treatment MarkupCompatibility::treatmentOfAlternative(
     const bool isAlternative = (tag == "Choice"_tag || tag == "Fallback"_tag) && !m_alternatives.empty()
         && m_alternatives.back().depth == depth - 1;
     if (isAlternative && !m_alternatives.back().isChosen
-        && (tag == "Fallback"_tag || isUnderstood(attributes))) {
+        && (tag == "Fallback"_tag || isSupported(attributes))) {
         m_alternatives.back().isChosen = true;
         return Treatment::Unwrap;
     }
@@ -240,7 +240,7 @@ MarkupCompatibility::Treatment MarkupCompatibility::treatmentOfAlternative(
     return Treatment::Skip;
 }
 
-bool MarkupCompatibility::isUnderstood(const char *const *attributes)
+bool MarkupCompatibility::isSupported(const char *const *attributes)
 {
     for (; *attributes; attributes += 2) {
         if (m_namespaces.attributeName(attributes[0]) != plainName("Requires"_tag))

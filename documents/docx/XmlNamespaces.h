@@ -22,7 +22,7 @@ enum class XmlSpace : quint8 {
     ContentTypes,
     Compatibility, ///< mc:AlternateContent
     Xml, ///< xml:space
-    Understood, ///< of pictures, shapes and extensions: supported, but without text
+    Supported, ///< of pictures, shapes and extensions: supported, but without text
     Unknown,
 };
 
@@ -150,7 +150,7 @@ private:
     void addPermission(int depth, XmlNamespaces::Index uri, XmlTag tag);
     [[nodiscard]] bool isPermitted(XmlNamespaces::Index uri, XmlTag tag) const;
     [[nodiscard]] Treatment treatmentOfAlternative(int depth, XmlTag tag, const char *const *attributes);
-    [[nodiscard]] bool isUnderstood(const char *const *attributes);
+    [[nodiscard]] bool isSupported(const char *const *attributes);
 
     XmlNamespaces &m_namespaces;
     std::vector<Alternatives> m_alternatives; // innermost last

@@ -89,7 +89,7 @@ private:
     qsizetype m_feedLength = minFeedLength;
     qint64 m_fedLength = 0;
     int m_depth = 0;
-    int m_skippedDepth = 0; // of the outermost element that is left out; 0: none
+    int m_skippedDepth = 0; // of the outermost skipped element; 0 if there is none
     std::vector<bool> m_isKept; // by depth, of open elements
     std::optional<DocumentError::Cause> m_error;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/html/HtmlReader.h"
 
+#include "documents/Lengths.h"
 #include "documents/html/HtmlText.h"
 #include "documents/html/HtmlTree.h"
 #include "platform/text_encoding/AsciiBytes.h"
@@ -12,9 +13,6 @@
 #include <new>
 
 namespace {
-
-/// Bytes. The text never has more code units than the page has bytes.
-constexpr qsizetype maxInputLength = INT32_MAX - 1;
 
 Result<AttributedString, DocumentError> readUtf8(QByteArrayView page)
 {
@@ -100,7 +98,7 @@ bool looksLikeHtml(QByteArrayView bytes)
 
 Result<AttributedString, DocumentError> readHtml(QByteArrayView bytes, const HtmlOptions &options)
 {
-    if (bytes.size() > maxInputLength)
+    if (bytes.size() > maxDocumentLength)
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Html);
     try {
         const TextEncoding encoding = encodingOfPage(bytes, options.charset);

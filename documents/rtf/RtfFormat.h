@@ -4,7 +4,7 @@
 // Thread: one.
 #pragma once
 
-#include "documents/LengthUnits.h"
+#include "documents/Lengths.h"
 #include "documents/rtf/RtfWords.h"
 #include "platform/styled_text/TextAttributes.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/LengthUnits.h"
+#include "documents/Lengths.h"
 #include "documents/rtf/RtfInterpreter.h"
 #include "documents/rtf/RtfLanguage.h"
 

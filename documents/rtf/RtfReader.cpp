@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/RtfReader.h"
 
+#include "documents/Lengths.h"
 #include "documents/rtf/RtfInterpreter.h"
 
 #include <new>
 
 namespace {
-
-/// Bytes. The text never has more code units than the input has bytes.
-constexpr qsizetype maxInputLength = INT32_MAX - 1;
 
 QByteArrayView skipLead(QByteArrayView bytes)
 {
@@ -31,7 +29,7 @@ Result<AttributedString, DocumentError> readRtf(QByteArrayView bytes, const Atta
 {
     if (!looksLikeRtf(bytes))
         return DocumentError(DocumentError::Cause::WrongKind, DocumentKind::Rtf);
-    if (bytes.size() > maxInputLength)
+    if (bytes.size() > maxDocumentLength)
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtf);
     try {
         return RtfInterpreter(attachments).readText(RtfTokenizer(skipLead(bytes)));

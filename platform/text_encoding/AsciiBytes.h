@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// AsciiBytes holds the checks on bytes that hold in every encoding that contains ASCII.
+// AsciiBytes classifies bytes of text in any superset of ASCII.
 // Thread: any.
 #pragma once
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// EncodingEvidence says how likely it is that some bytes are text in one encoding. LegacyEncoding compares.
+// EncodingEvidence says how likely it is that some bytes are text in one encoding. Comparing is left to
+// LegacyEncoding.
 // Thread: any; values.
 #pragma once
 

@@ -57,8 +57,8 @@ char16_t syllableOfCode(int code)
     return static_cast<char16_t>(0xAC00 + (initialOf(initial) * 21 + vowelOf(vowel)) * 28 + finalOf(final));
 }
 
-/// Two rows of KS X 1001 share a first byte: signs from row 1 at D9, hanja from row 42 at E0. 0 if there is
-/// none.
+/// 0 for an invalid pair. Two rows of KS X 1001 share a first byte: signs from row 1 at D9, hanja from row 42
+/// at E0.
 char16_t signOrHanja(uchar first, uchar second, const EncodingConverter &eucKr)
 {
     const bool isSign = first >= 0xD9 && first <= 0xDE;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/writer/FormatWords.h"
 
-#include "documents/LengthUnits.h"
+#include "documents/Lengths.h"
 #include "documents/rtf/RtfLanguage.h"
 #include "documents/rtf/writer/ExactValues.h"
 #include "documents/rtf/writer/RtfEscapes.h"

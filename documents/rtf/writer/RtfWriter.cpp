@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/writer/RtfWriter.h"
 
+#include "documents/Lengths.h"
 #include "documents/rtf/writer/ExactValues.h"
 #include "documents/rtf/writer/FormatWords.h"
 #include "documents/rtf/writer/RtfEscapes.h"
@@ -11,7 +12,6 @@
 
 namespace {
 
-constexpr qsizetype maxRtfLength = INT32_MAX - 1; // bytes
 /// The length is checked after each piece, which bounds how far the RTF can exceed the maximum: no code unit
 /// takes more bytes than an attachment with the longest name.
 constexpr qsizetype pieceLength = 65'536; // code units
@@ -68,7 +68,7 @@ private:
 
     QByteArray m_rtf;
     qsizetype m_paragraph = noWords; ///< at the end of the RTF; an index into m_words
-    qsizetype m_character = noWords; ///< likewise
+    qsizetype m_character = noWords; ///< at the end of the RTF; an index into m_words
     bool m_isTooLong = false;
 };
 
@@ -172,7 +172,7 @@ void RtfDocument::writeRun(const AttributedString::Run &run)
     writeWords(style);
     for (qsizetype at = 0; at < text.size() && !m_isTooLong; at += pieceLength) {
         writePiece(text.sliced(at, std::min(pieceLength, text.size() - at)), style.attachment);
-        m_isTooLong = m_rtf.size() > maxRtfLength;
+        m_isTooLong = m_rtf.size() > maxDocumentLength;
     }
 }
 
@@ -182,7 +182,7 @@ Result<QByteArray, DocumentError> RtfDocument::write()
     writeHeader();
     forEachRun([this](const AttributedString::Run &run) { writeRun(run); });
     m_rtf += '}';
-    if (m_isTooLong || m_rtf.size() > maxRtfLength)
+    if (m_isTooLong || m_rtf.size() > maxDocumentLength)
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtf);
     return std::move(m_rtf);
 }

@@ -86,10 +86,10 @@ TEST(RtfRoundTrip, EveryCodeUnitStaysEqual)
 
 TEST(RtfRoundTrip, EveryCodeUnitStaysEqualInNames)
 {
-    constexpr int longestName = 1024;
-    for (int first = 0; first <= 0xFFFF; first += longestName) {
+    constexpr int nameLength = 1024;
+    for (int first = 0; first <= 0xFFFF; first += nameLength) {
         TextAttributes attributes;
-        for (int unit = first; unit < first + longestName; ++unit)
+        for (int unit = first; unit < first + nameLength; ++unit)
             attributes.language += QChar(static_cast<char16_t>(unit));
         attributes.font = FontAttributes{attributes.language};
         attributes.attachment = std::make_shared<const Attachment>(Attachment{attributes.language, "data"});
