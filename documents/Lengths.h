@@ -4,7 +4,9 @@
 // Thread: any; constants.
 #pragma once
 
-#include <QtTypes>
+#include <QtGlobal>
+
+#include <cstdint>
 
 inline constexpr double twipsPerPoint = 20;
 inline constexpr double halfPointsPerPoint = 2;

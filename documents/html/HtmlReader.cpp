@@ -56,7 +56,7 @@ QByteArray asciiStart(QByteArrayView bytes)
     return start.toByteArray();
 }
 
-QByteArrayView withoutLeadingSpace(QByteArrayView text)
+QByteArrayView skipLeadingSpace(QByteArrayView text)
 {
     return text.sliced(std::find_if_not(text.begin(), text.end(), isHtmlSpace) - text.begin());
 }
@@ -65,7 +65,7 @@ QByteArrayView withoutLeadingSpace(QByteArrayView text)
 QByteArrayView textFromFirstTag(QByteArrayView text)
 {
     while (true) {
-        text = withoutLeadingSpace(text);
+        text = skipLeadingSpace(text);
         const bool isComment = text.startsWith("<!--");
         if (!isComment && !text.startsWith("<?"))
             return text;
@@ -86,7 +86,7 @@ bool looksLikeHtml(QByteArrayView bytes)
     constexpr QByteArrayView doctype = "<!doctype";
     constexpr QByteArrayView html = "<html";
     if (startsWithWord(tag, doctype)) {
-        tag = withoutLeadingSpace(tag.sliced(doctype.size()));
+        tag = skipLeadingSpace(tag.sliced(doctype.size()));
         return startsWithWord(tag, html.sliced(1))
             && (tag.size() == html.size() - 1 || isHtmlSpace(tag[html.size() - 1])
                 || tag[html.size() - 1] == '>');

@@ -220,7 +220,7 @@ QByteArrayView trim(QByteArrayView bytes)
     return {start, end};
 }
 
-QByteArray withoutComments(QByteArrayView declarations)
+QByteArray removeComments(QByteArrayView declarations)
 {
     QByteArray text = declarations.first(std::min(declarations.size(), maxAttributeLength)).toByteArray();
     for (qsizetype start = text.indexOf("/*"); start >= 0; start = text.indexOf("/*", start)) {
@@ -259,7 +259,7 @@ qsizetype endOfDeclaration(QByteArrayView text, qsizetype start)
 HtmlStyleAttribute parseStyleAttribute(QByteArrayView declarations)
 {
     HtmlStyleAttribute style;
-    const QByteArray text = withoutComments(declarations);
+    const QByteArray text = removeComments(declarations);
     for (qsizetype start = 0; start < text.size();) {
         const qsizetype end = endOfDeclaration(text, start);
         const QByteArrayView declaration = QByteArrayView(text).sliced(start, end - start);

@@ -40,7 +40,7 @@ TEST(PlainTextReader, AByteOrderMarkSaysTheEncodingAndIsNoPartOfTheText)
 {
     const QString text = QStringLiteral("Aé€😀\n");
     for (const Unicode &unicode : unicodes) {
-        const QByteArray bytes = unicode.mark + encoded(text, unicode.encoding);
+        const QByteArray bytes = unicode.mark + encodeText(text, unicode.encoding);
         EXPECT_EQ(encodingOf(bytes), unicode.encoding);
         EXPECT_EQ(textOf(bytes), text);
     }
@@ -73,7 +73,7 @@ TEST(PlainTextReader, EveryLanguageIsReadInEveryUnicodeEncoding)
     for (const QString *text :
         {&english, &russian, &hebrew, &hindi, &japanese, &simplifiedChinese, &korean}) {
         for (const Unicode &unicode : unicodes) {
-            const QByteArray bytes = encoded(*text, unicode.encoding);
+            const QByteArray bytes = encodeText(*text, unicode.encoding);
             EXPECT_EQ(textOf(bytes), *text) << unicode.encoding;
             EXPECT_EQ(textOf(unicode.mark + bytes), *text) << unicode.encoding;
         }
@@ -133,15 +133,15 @@ TEST(PlainTextReader, MoreBrokenSequencesThanWellFormedOnesAreNoUtf8)
 {
     // The third character is also a well-formed sequence of UTF-8.
     const QString text = QStringLiteral("été à Ã©té déjà là");
-    EXPECT_EQ(textOf(encoded(text, "windows-1252")), text);
+    EXPECT_EQ(textOf(encodeText(text, "windows-1252")), text);
 }
 
 TEST(PlainTextReader, AnOddLastByteIsReplaced)
 {
-    EXPECT_EQ(textOf(encoded(german, "UTF-16LE") + 'x'), german + QChar(QChar::ReplacementCharacter));
-    EXPECT_EQ(textOf(encoded(german, "UTF-16BE") + 'x'), german + QChar(QChar::ReplacementCharacter));
+    EXPECT_EQ(textOf(encodeText(german, "UTF-16LE") + 'x'), german + QChar(QChar::ReplacementCharacter));
+    EXPECT_EQ(textOf(encodeText(german, "UTF-16BE") + 'x'), german + QChar(QChar::ReplacementCharacter));
     EXPECT_EQ(textOf(QByteArray("\xFF\xFE") + 'x'), QString(QChar(QChar::ReplacementCharacter)));
-    EXPECT_EQ(textOf(encoded(german, "UTF-32LE") + "x"), german + QChar(QChar::ReplacementCharacter));
+    EXPECT_EQ(textOf(encodeText(german, "UTF-32LE") + "x"), german + QChar(QChar::ReplacementCharacter));
 }
 
 TEST(PlainTextReader, HalfASurrogatePairIsReplaced)
@@ -160,7 +160,7 @@ TEST(PlainTextReader, EveryPrefixOfAMarkedTextIsAPrefixOfIt)
 {
     const QString text = QStringLiteral("Aé€😀 ") + russian + japanese;
     for (const Unicode &unicode : unicodes) {
-        const QByteArray bytes = encoded(text, unicode.encoding);
+        const QByteArray bytes = encodeText(text, unicode.encoding);
         for (qsizetype length = 0; length <= bytes.size(); ++length) {
             QString read = textOf(unicode.mark + bytes.first(length));
             if (read.endsWith(QChar::ReplacementCharacter))
@@ -173,7 +173,7 @@ TEST(PlainTextReader, EveryPrefixOfAMarkedTextIsAPrefixOfIt)
 TEST(PlainTextReader, EveryPrefixOfAnUnmarkedTextIsAText)
 {
     for (const Unicode &unicode : unicodes) {
-        const QByteArray bytes = unicode.mark + encoded(german + korean, unicode.encoding);
+        const QByteArray bytes = unicode.mark + encodeText(german + korean, unicode.encoding);
         for (qsizetype length = 0; length <= bytes.size(); ++length) {
             ASSERT_TRUE(readPlainText(bytes.first(length)));
             ASSERT_TRUE(readPlainText(bytes.last(length)));

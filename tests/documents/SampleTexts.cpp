@@ -117,7 +117,7 @@ const QString korean = QStringLiteral(
     "갈지도 "
     "모릅니다.\n");
 
-QByteArray encoded(const QString &text, const char *encoding)
+QByteArray encodeText(const QString &text, const char *encoding)
 {
     UErrorCode status = U_ZERO_ERROR;
     UConverter *converter = ucnv_open(encoding, &status);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// SampleTexts are a few sentences in each of several languages, and their bytes in an encoding, for the tests
+// SampleTexts provides a few sentences in several languages, and their bytes in an encoding, for the tests
 // of the readers.
 // Thread: any.
 #pragma once
@@ -30,8 +30,8 @@ extern const QString simplifiedChinese;
 extern const QString traditionalChinese;
 extern const QString korean;
 
-/// The text in an encoding that ICU knows, without a byte order mark; fails the test where a character of the
-/// text has no place in it.
-QByteArray encoded(const QString &text, const char *encoding);
+/// The bytes of a text without a byte order mark; fails the test if the encoding lacks a character of the
+/// text. encoding: a name ICU knows.
+QByteArray encodeText(const QString &text, const char *encoding);
 
 } // namespace SampleTexts

@@ -11,7 +11,7 @@
 
 namespace {
 
-QByteArray encoded(const QString &text, const char *encoding)
+QByteArray encodeText(const QString &text, const char *encoding)
 {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<UConverter, void (*)(UConverter *)> converter(
@@ -37,13 +37,13 @@ TEST(HtmlCharset, AByteOrderMarkOverridesEveryDeclaration)
 {
     const QString page = QStringLiteral("<meta charset=koi8-r>") + accented;
     EXPECT_EQ(textOf("\xEF\xBB\xBF" + page.toUtf8(), "windows-1251"), accented);
-    EXPECT_EQ(textOf("\xFF\xFE" + encoded(page, "UTF-16LE"), "windows-1251"), accented);
-    EXPECT_EQ(textOf("\xFE\xFF" + encoded(page, "UTF-16BE"), "windows-1251"), accented);
+    EXPECT_EQ(textOf("\xFF\xFE" + encodeText(page, "UTF-16LE"), "windows-1251"), accented);
+    EXPECT_EQ(textOf("\xFE\xFF" + encodeText(page, "UTF-16BE"), "windows-1251"), accented);
 }
 
 TEST(HtmlCharset, TheCharsetOfTheTransferOverridesThatOfThePage)
 {
-    const QByteArray page = "<meta charset=utf-8>" + encoded(cyrillic, "KOI8-R");
+    const QByteArray page = "<meta charset=utf-8>" + encodeText(cyrillic, "KOI8-R");
     EXPECT_EQ(textOf(page, "koi8-r"), cyrillic);
     EXPECT_EQ(textOf(page, " KOI8-R\t"), cyrillic);
     EXPECT_EQ(textOf(page, "text/html; charset=\"koi8-r\""), cyrillic);
@@ -52,15 +52,15 @@ TEST(HtmlCharset, TheCharsetOfTheTransferOverridesThatOfThePage)
 
 TEST(HtmlCharset, AnUnknownCharsetIsIgnored)
 {
-    EXPECT_EQ(textOf("<meta charset=koi8-r>" + encoded(cyrillic, "KOI8-R"), "x-nonsense"), cyrillic);
+    EXPECT_EQ(textOf("<meta charset=koi8-r>" + encodeText(cyrillic, "KOI8-R"), "x-nonsense"), cyrillic);
     EXPECT_EQ(textOf("<meta charset=nonsense>" + cyrillic.toUtf8(), "text/html"), cyrillic);
     EXPECT_EQ(textOf(cyrillic.toUtf8(), QByteArray(100'000, 'x')), cyrillic);
 }
 
 TEST(HtmlCharset, AUtf16CharsetOfTheTransferIsLittleEndianUnlessItSaysOtherwise)
 {
-    EXPECT_EQ(textOf(encoded(accented, "UTF-16LE"), "utf-16"), accented);
-    EXPECT_EQ(textOf(encoded(accented, "UTF-16BE"), "utf-16be"), accented);
+    EXPECT_EQ(textOf(encodeText(accented, "UTF-16LE"), "utf-16"), accented);
+    EXPECT_EQ(textOf(encodeText(accented, "UTF-16BE"), "utf-16be"), accented);
 }
 
 TEST(HtmlCharset, AMetaElementNamesTheEncoding)
@@ -74,7 +74,7 @@ TEST(HtmlCharset, AMetaElementNamesTheEncoding)
              "<a title='<meta charset=koi8-r>'><?x <meta?><meta charset=sjis>",
              "<meta http-equiv=refresh content='0; charset=koi8-r'><meta charset=sjis>",
              "<meta charset=sjis http-equiv=content-type content='text/html; charset=koi8-r'>"}) {
-        EXPECT_EQ(textOf(meta + encoded(japanese, "Shift_JIS")), japanese) << meta;
+        EXPECT_EQ(textOf(meta + encodeText(japanese, "Shift_JIS")), japanese) << meta;
     }
 }
 
@@ -92,7 +92,7 @@ TEST(HtmlCharset, AMetaElementAfterTheFirst1024BytesIsIgnored)
 {
     const QByteArray meta = "<meta charset=koi8-r>";
     const QByteArray early = QByteArray(1024 - meta.size(), ' ') + meta;
-    EXPECT_EQ(textOf(early + encoded(cyrillic, "KOI8-R")), cyrillic);
+    EXPECT_EQ(textOf(early + encodeText(cyrillic, "KOI8-R")), cyrillic);
     const QByteArray late = QByteArray(1024, ' ') + meta;
     EXPECT_EQ(textOf(late + cyrillic.toUtf8()), cyrillic);
 }
@@ -122,11 +122,11 @@ TEST(HtmlCharset, Latin1IsWindows1252)
 TEST(HtmlCharset, AnXmlDeclarationNamesTheEncodingIfNoMetaElementDoes)
 {
     const QByteArray declaration = "<?xml version='1.0' encoding='koi8-r'?>";
-    EXPECT_EQ(
-        textOf(declaration + "<html xmlns='http://www.w3.org/1999/xhtml'><p>" + encoded(cyrillic, "KOI8-R")),
+    EXPECT_EQ(textOf(declaration + "<html xmlns='http://www.w3.org/1999/xhtml'><p>"
+                  + encodeText(cyrillic, "KOI8-R")),
         cyrillic);
     EXPECT_EQ(
-        textOf(declaration + "<meta charset=windows-1251>" + encoded(cyrillic, "windows-1251")), cyrillic);
+        textOf(declaration + "<meta charset=windows-1251>" + encodeText(cyrillic, "windows-1251")), cyrillic);
     EXPECT_EQ(textOf("<?xml version=\"1.0\" encoding=\"utf-16\"?><p>" + accented.toUtf8()), accented);
     EXPECT_EQ(textOf("<?xml version='1.0'?><p>" + accented.toUtf8()), accented);
 }
@@ -134,9 +134,9 @@ TEST(HtmlCharset, AnXmlDeclarationNamesTheEncodingIfNoMetaElementDoes)
 TEST(HtmlCharset, WithoutADeclarationTheBytesDecide)
 {
     EXPECT_EQ(textOf("<p>" + accented.toUtf8()), accented);
-    EXPECT_EQ(textOf("<p>" + encoded(accented, "windows-1252")), accented);
-    EXPECT_EQ(textOf(encoded(QStringLiteral("<!DOCTYPE html><p>") + accented, "UTF-16LE")), accented);
-    EXPECT_EQ(textOf(encoded(QStringLiteral("<!DOCTYPE html><p>") + accented, "UTF-16BE")), accented);
+    EXPECT_EQ(textOf("<p>" + encodeText(accented, "windows-1252")), accented);
+    EXPECT_EQ(textOf(encodeText(QStringLiteral("<!DOCTYPE html><p>") + accented, "UTF-16LE")), accented);
+    EXPECT_EQ(textOf(encodeText(QStringLiteral("<!DOCTYPE html><p>") + accented, "UTF-16BE")), accented);
 }
 
 TEST(HtmlCharset, InvalidBytesAreReplaced)
@@ -168,13 +168,13 @@ TEST(HtmlCharset, EveryLabelHasAnAvailableEncoding)
 TEST(HtmlCharset, FalselyDeclaredUtf8IsIgnored)
 {
     const QByteArray meta = "<meta charset=utf-8>";
-    EXPECT_EQ(textOf(meta + encoded(cyrillic, "windows-1251")), cyrillic);
-    EXPECT_EQ(textOf(meta + encoded(accented, "windows-1252")), accented);
-    EXPECT_EQ(textOf(meta + encoded(japanese, "Shift_JIS")), japanese);
-    EXPECT_EQ(textOf("<p>" + encoded(cyrillic, "KOI8-R"), "utf-8"), cyrillic);
+    EXPECT_EQ(textOf(meta + encodeText(cyrillic, "windows-1251")), cyrillic);
+    EXPECT_EQ(textOf(meta + encodeText(accented, "windows-1252")), accented);
+    EXPECT_EQ(textOf(meta + encodeText(japanese, "Shift_JIS")), japanese);
+    EXPECT_EQ(textOf("<p>" + encodeText(cyrillic, "KOI8-R"), "utf-8"), cyrillic);
     EXPECT_EQ(
-        textOf("<?xml version='1.0' encoding='utf-8'?><p>" + encoded(cyrillic, "windows-1251")), cyrillic);
-    EXPECT_EQ(textOf("<meta charset=koi8-r>" + encoded(cyrillic, "KOI8-R"), "utf-8"), cyrillic);
+        textOf("<?xml version='1.0' encoding='utf-8'?><p>" + encodeText(cyrillic, "windows-1251")), cyrillic);
+    EXPECT_EQ(textOf("<meta charset=koi8-r>" + encodeText(cyrillic, "KOI8-R"), "utf-8"), cyrillic);
 }
 
 TEST(HtmlCharset, LabelsThatBrowsersReadAsALargerEncodingAreReadAsThat)
@@ -207,10 +207,10 @@ TEST(LooksLikeHtml, Utf16OfEitherOrderMayHaveAMarkOrNone)
 {
     for (const char *encoding : {"UTF-16LE", "UTF-16BE"}) {
         const QByteArray mark = QByteArray(encoding).endsWith("LE") ? "\xFF\xFE" : "\xFE\xFF";
-        const QByteArray page = encoded(QStringLiteral("\n<!DOCTYPE html><p>é"), encoding);
+        const QByteArray page = encodeText(QStringLiteral("\n<!DOCTYPE html><p>é"), encoding);
         EXPECT_TRUE(looksLikeHtml(page)) << encoding;
         EXPECT_TRUE(looksLikeHtml(mark + page)) << encoding;
-        EXPECT_FALSE(looksLikeHtml(encoded(QStringLiteral("words <html>"), encoding))) << encoding;
+        EXPECT_FALSE(looksLikeHtml(encodeText(QStringLiteral("words <html>"), encoding))) << encoding;
     }
 }
 

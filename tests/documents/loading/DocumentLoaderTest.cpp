@@ -41,7 +41,7 @@ TEST_F(DocumentLoader, AnEmptyFileIsAnEmptyText)
 
 TEST_F(DocumentLoader, AnyEncodingIsRead)
 {
-    const QByteArray path = written("text.txt", SampleTexts::encoded(SampleTexts::japanese, "Shift_JIS"));
+    const QByteArray path = written("text.txt", SampleTexts::encodeText(SampleTexts::japanese, "Shift_JIS"));
     EXPECT_EQ(loadDocument(path).value().string(), SampleTexts::japanese);
 }
 

@@ -24,7 +24,7 @@ TEST(DeclaredEncoding, IsThatOfAnXmlDeclaration)
         const QString text =
             QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?>\n<feed><title>%2</title></feed>\n")
                 .arg(QString::fromLatin1(encoding), greeting);
-        EXPECT_EQ(decodedText(encoded(text, encoding)), text);
+        EXPECT_EQ(decodedText(encodeText(text, encoding)), text);
     }
 }
 
@@ -33,7 +33,7 @@ TEST(DeclaredEncoding, IsThatOfAMetaElement)
     for (const char *start : {"<!DOCTYPE html>\n", "<?php echo 1; ?>\n", "<!-- template -->", "\n <head>"}) {
         const QString text = QString::fromLatin1(start)
             + QStringLiteral("<meta http-equiv=content-type content='text/html; charset=koi8-r'>") + greeting;
-        EXPECT_EQ(decodedText(encoded(text, "KOI8-R")), text);
+        EXPECT_EQ(decodedText(encodeText(text, "KOI8-R")), text);
     }
 }
 
@@ -41,7 +41,7 @@ TEST(DeclaredEncoding, IsIgnoredInATextThatOnlyQuotesOne)
 {
     const QString text =
         QStringLiteral("Ein <meta charset=koi8-r> gehört über jede ältere russische Seite, schön früh.\n");
-    EXPECT_EQ(decodedText(encoded(text, "windows-1252")), text);
+    EXPECT_EQ(decodedText(encodeText(text, "windows-1252")), text);
 }
 
 TEST(DeclaredEncoding, DoesNotOverrideUtf8)
@@ -55,11 +55,11 @@ TEST(DeclaredEncoding, IsIgnoredWhereItDeclaresUtf8Falsely)
 {
     const QString text =
         QStringLiteral("<?xml version='1.0' encoding='utf-8'?><a>") + russian + QStringLiteral("</a>");
-    EXPECT_EQ(decodedText(encoded(text, "windows-1251")), text);
+    EXPECT_EQ(decodedText(encodeText(text, "windows-1251")), text);
 }
 
 TEST(DeclaredEncoding, IsOverriddenByTheCharsetOfTheTransfer)
 {
     const QString text = QStringLiteral("<?xml version='1.0' encoding='windows-1251'?><a>") + greeting;
-    EXPECT_EQ(readPlainText(encoded(text, "KOI8-R"), "koi8-r").value().text, text);
+    EXPECT_EQ(readPlainText(encodeText(text, "KOI8-R"), "koi8-r").value().text, text);
 }

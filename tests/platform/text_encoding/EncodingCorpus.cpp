@@ -224,7 +224,8 @@ std::vector<EncodedSample> encodedSamples(SampleLength length)
                 if (isOfAscii(plain))
                     continue;
                 for (const QString &text : {plain, asPage(plain), asSubtitles(plain)})
-                    samples.push_back({language.name, encoding, text, encoded(text, encoding.constData())});
+                    samples.push_back(
+                        {language.name, encoding, text, encodeText(text, encoding.constData())});
             }
         }
     }

@@ -71,20 +71,20 @@ QByteArray encodingOf(const QByteArray &bytes)
 
 TEST_P(LegacyEncoding, IsFoundByAFewSentences)
 {
-    const QByteArray bytes = encoded(*GetParam().text, GetParam().encoding);
+    const QByteArray bytes = encodeText(*GetParam().text, GetParam().encoding);
     EXPECT_EQ(textOf(bytes), *GetParam().text);
 }
 
 TEST_P(LegacyEncoding, IsFoundBehindAnyLengthOfAscii)
 {
     const QString text = QStringLiteral("/* nothing but ASCII */\n").repeated(20'000) + *GetParam().text;
-    EXPECT_EQ(textOf(encoded(text, GetParam().encoding)), text);
+    EXPECT_EQ(textOf(encodeText(text, GetParam().encoding)), text);
 }
 
 TEST_P(LegacyEncoding, IsFoundByTheBeginningOfALongText)
 {
     const QString text = GetParam().text->repeated(3000);
-    EXPECT_EQ(textOf(encoded(text, GetParam().encoding)), text);
+    EXPECT_EQ(textOf(encodeText(text, GetParam().encoding)), text);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, LegacyEncoding, ::testing::ValuesIn(legacyTexts),
@@ -93,20 +93,20 @@ INSTANTIATE_TEST_SUITE_P(Languages, LegacyEncoding, ::testing::ValuesIn(legacyTe
 TEST(LegacyEncodings, TheWordsBeforeTheFirstAccentCount)
 {
     const QString text = QStringLiteral("Moja siostra czyta teraz bardzo dobra powie i mieszka nad rzeką.");
-    EXPECT_EQ(textOf(encoded(text, "ISO-8859-2")), text);
+    EXPECT_EQ(textOf(encodeText(text, "ISO-8859-2")), text);
 }
 
 TEST(WesternEncoding, OneWordIsEnoughForTheLastResort)
 {
     for (const char *word : {"café", "Voilà", "Müller", "naïve\n", "£5", "Größe", "It’s late.", "20 °C"}) {
         const QString text = QString::fromUtf8(word);
-        EXPECT_EQ(textOf(encoded(text, "windows-1252")), text);
+        EXPECT_EQ(textOf(encodeText(text, "windows-1252")), text);
     }
 }
 
 TEST(WesternEncoding, IsReportedAsTheSupersetOfIso8859_1)
 {
-    EXPECT_EQ(encodingOf(encoded(french, "ISO-8859-1")), "windows-1252");
+    EXPECT_EQ(encodingOf(encodeText(french, "ISO-8859-1")), "windows-1252");
 }
 
 TEST(WesternEncoding, EveryByteIsACharacter)
@@ -122,7 +122,7 @@ TEST(WesternEncoding, EveryByteIsACharacter)
 TEST(KoreanEncoding, SyllablesOutsideTheStandardAreRead)
 {
     const QString text = korean + QStringLiteral("똠방각하 펲시");
-    EXPECT_EQ(textOf(encoded(text, "windows-949")), text);
+    EXPECT_EQ(textOf(encodeText(text, "windows-949")), text);
 }
 
 TEST(Iso2022, IsNotDetectedFromEscapeSequencesOfTerminals)
@@ -165,7 +165,7 @@ TEST_F(LocaleOfTheUser, DoesNotOutweighASentence)
 {
     for (const char *locale : {"ru_RU.UTF-8", "he_IL.UTF-8", "ja_JP.UTF-8", "pl_PL.UTF-8"}) {
         setLocale(locale);
-        EXPECT_EQ(textOf(encoded(german, "windows-1252")), german) << locale;
-        EXPECT_EQ(textOf(encoded(ukrainian, "KOI8-U")), ukrainian) << locale;
+        EXPECT_EQ(textOf(encodeText(german, "windows-1252")), german) << locale;
+        EXPECT_EQ(textOf(encodeText(ukrainian, "KOI8-U")), ukrainian) << locale;
     }
 }

@@ -25,7 +25,7 @@ TEST(UnmarkedUnicode, EveryLanguageIsFoundInEveryByteOrder)
 {
     for (const QString *text : texts) {
         for (const char *encoding : encodings)
-            EXPECT_EQ(detectEncoding(encoded(*text, encoding)), encoding) << text->toStdString();
+            EXPECT_EQ(detectEncoding(encodeText(*text, encoding)), encoding) << text->toStdString();
     }
 }
 
@@ -34,7 +34,7 @@ TEST(UnmarkedUnicode, EveryFirstLineIsFoundInEveryByteOrder)
     for (const QString *text : texts) {
         const QString line = text->section(u'\n', 0, 0);
         for (const char *encoding : encodings)
-            EXPECT_EQ(detectEncoding(encoded(line, encoding)), encoding) << line.toStdString();
+            EXPECT_EQ(detectEncoding(encodeText(line, encoding)), encoding) << line.toStdString();
     }
 }
 
@@ -42,52 +42,53 @@ TEST(UnmarkedUnicode, AlphabetsAndIdeographsMayBeMixed)
 {
     const QString mixed = english + simplifiedChinese + russian + japanese + QStringLiteral("😀 2008年。");
     for (const char *encoding : encodings)
-        EXPECT_EQ(detectEncoding(encoded(mixed, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encodeText(mixed, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, ChineseWithoutSpacesOrLineEndsIsFoundByItsPunctuation)
 {
     const QString text = QString(simplifiedChinese).remove(u'\n');
     for (const char *encoding : encodings)
-        EXPECT_EQ(detectEncoding(encoded(text, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encodeText(text, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, ChineseWithoutPunctuationIsFoundByItsLineEnds)
 {
     const QString text = QStringLiteral("昨天晚上\n我们沿着河边散步\n天已经黑了\n但是月亮很亮\n");
     for (const char *encoding : encodings)
-        EXPECT_EQ(detectEncoding(encoded(text, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encodeText(text, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, OneWordInAnAlphabetIsFound)
 {
     for (const char *word : {"hello", "Grüße", "Привет", "Ελλάδα", "שלום"}) {
         for (const char *encoding : encodings)
-            EXPECT_EQ(detectEncoding(encoded(QString::fromUtf8(word), encoding)), encoding) << word;
+            EXPECT_EQ(detectEncoding(encodeText(QString::fromUtf8(word), encoding)), encoding) << word;
     }
 }
 
 TEST(UnmarkedUnicode, AnIncompleteLastCodeUnitDoesNotMatter)
 {
     for (const char *encoding : encodings)
-        EXPECT_EQ(detectEncoding(encoded(german, encoding).chopped(1)), encoding);
+        EXPECT_EQ(detectEncoding(encodeText(german, encoding).chopped(1)), encoding);
 }
 
 TEST(UnmarkedUnicode, AFewBrokenCharactersDoNotMatter)
 {
     const QByteArray halfPair = QByteArray("\xD8\0", 2);
-    EXPECT_EQ(detectEncoding(encoded(korean, "UTF-16BE") + halfPair + halfPair + encoded(german, "UTF-16BE")),
+    EXPECT_EQ(
+        detectEncoding(encodeText(korean, "UTF-16BE") + halfPair + halfPair + encodeText(german, "UTF-16BE")),
         "UTF-16BE");
     const QByteArray noCharacter("\0\0\xD8\0", 4);
-    EXPECT_EQ(
-        detectEncoding(encoded(korean, "UTF-32BE") + noCharacter + encoded(german, "UTF-32BE")), "UTF-32BE");
+    EXPECT_EQ(detectEncoding(encodeText(korean, "UTF-32BE") + noCharacter + encodeText(german, "UTF-32BE")),
+        "UTF-32BE");
 }
 
 TEST(UnmarkedUnicode, CharactersOutsideTheFirstPlaneAreFound)
 {
     const QString text = QStringLiteral("😀😀 😀😀😀，𠀀𠀁𠀂。\n").repeated(5);
     for (const char *encoding : encodings)
-        EXPECT_EQ(detectEncoding(encoded(text, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encodeText(text, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, TheByteOrderIsTheOneWithTheMoreProbableText)
@@ -95,7 +96,7 @@ TEST(UnmarkedUnicode, TheByteOrderIsTheOneWithTheMoreProbableText)
     // In the other byte order, these characters are letters too.
     const QString text = QStringLiteral("АБВГД ЕЖЗИЙ КЛМНОП\n");
     for (const char *encoding : encodings)
-        EXPECT_EQ(detectEncoding(encoded(text, encoding)), encoding);
+        EXPECT_EQ(detectEncoding(encodeText(text, encoding)), encoding);
 }
 
 TEST(UnmarkedUnicode, NoTextInUtf8IsTakenForIt)
@@ -121,7 +122,7 @@ TEST(UnmarkedUnicode, StrayNulsDoNotMakeIt)
 TEST(UnmarkedUnicode, ALegacyTextWithStrayNulsIsNotIt)
 {
     for (qsizetype at = 0; at < french.size(); ++at) {
-        QByteArray bytes = encoded(french, "windows-1252");
+        QByteArray bytes = encodeText(french, "windows-1252");
         bytes.insert(at, QByteArray(4, '\0'));
         EXPECT_EQ(detectEncoding(bytes), "none") << at;
     }
@@ -129,7 +130,7 @@ TEST(UnmarkedUnicode, ALegacyTextWithStrayNulsIsNotIt)
 
 TEST(UnmarkedUnicode, ALegacyTextWithNulsAtItsSpacesIsNotIt)
 {
-    const QByteArray bytes = encoded(french, "windows-1252");
+    const QByteArray bytes = encodeText(french, "windows-1252");
     EXPECT_EQ(detectEncoding(QByteArray(bytes).replace(" ", QByteArray(" \0", 2))), "none");
     EXPECT_EQ(detectEncoding(QByteArray(bytes).replace(" ", QByteArray("\0 ", 2))), "none");
 }
