@@ -2,7 +2,7 @@
 #include "command/NamedDocument.h"
 
 #include "command/FileNames.h"
-#include "documents/loading/PdfLoader.h"
+#include "documents/loading/DocumentLoader.h"
 
 #include <unistd.h>
 
@@ -10,7 +10,8 @@
 
 Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name)
 {
-    return name == standardInputName ? loadDocumentOrPdf(STDIN_FILENO) : loadDocumentOrPdf(name);
+    const ReadOptions options{.readsPdf = true};
+    return name == standardInputName ? loadDocument(STDIN_FILENO, options) : loadDocument(name, options);
 }
 
 void tellDocumentFailure(const QByteArray &name, const QString &cause)

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-// DocumentKind names the formats of documents, each of which has a reader of its own.
+// DocumentKind names the formats of documents, each of which has a reader of its own, and their MIME types.
 // Thread: any; a value.
 #pragma once
 
-#include <QtGlobal>
+#include <QAnyStringView>
+#include <QStringList>
+
+#include <optional>
 
 /// The numbers travel between processes.
 enum class DocumentKind : quint32 {
@@ -15,3 +18,9 @@ enum class DocumentKind : quint32 {
     Pdf,
 };
 inline constexpr DocumentKind lastDocumentKind = DocumentKind::Pdf;
+
+/// The MIME types of a kind, the preferred one first.
+QStringList mimeTypes(DocumentKind kind);
+
+/// Absent for a type that no kind has. type: in lower case, without parameters.
+std::optional<DocumentKind> kindOfMimeType(QAnyStringView type);

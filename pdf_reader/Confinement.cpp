@@ -20,11 +20,11 @@ constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of addre
 constexpr bool isMemoryLimited = true;
 #endif
 
-// Where Qt Pdf looks for the fonts that a file names and does not bring along. It does not ask fontconfig.
+// Where Qt Pdf looks for fonts that a file does not embed. It does not use fontconfig.
 const QByteArrayList fontFolders{
     "/usr/share/fonts", "/usr/share/X11/fonts/Type1", "/usr/share/X11/fonts/TTF", "/usr/local/share/fonts"};
 
-/// Bytes of writable memory that this process has.
+/// The writable memory of this process in bytes.
 qint64 memoryInUse()
 {
     QFile file(QStringLiteral("/proc/self/statm"));
@@ -42,14 +42,14 @@ void limit(__rlimit_resource resource, qint64 value)
 
 } // namespace
 
-SandboxReport confine(const PdfReaderOrder &order)
+SandboxReport confine(const PdfReaderRequest &request)
 {
-    constexpr qint64 longestAlarm = std::numeric_limits<int>::max();
-    ::alarm(static_cast<unsigned>(std::min<qint64>(order.realTime.count(), longestAlarm)));
-    limit(RLIMIT_CPU, order.processorTime.count());
+    constexpr qint64 maxAlarm = std::numeric_limits<int>::max();
+    ::alarm(static_cast<unsigned>(std::min<qint64>(request.realTime.count(), maxAlarm)));
+    limit(RLIMIT_CPU, request.processorTime.count());
     const QByteArrayList fonts = FontSources::below(fontFolders).readable;
     if (isMemoryLimited)
-        limit(RLIMIT_DATA, memoryInUse() + order.memory);
+        limit(RLIMIT_DATA, memoryInUse() + request.memory);
     limit(RLIMIT_NPROC, 0);
     return enterDocumentSandbox(fonts);
 }

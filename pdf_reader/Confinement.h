@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Confinement is all that holds the program that reads PDF files: the limits of its order, and the sandbox.
-// Thread: main, before there is another.
+// Confinement puts the limits of a request and the sandbox in force for the program that reads PDF files.
+// Thread: main, before any other thread.
 #pragma once
 
-#include "documents/pdf/PdfReaderOrder.h"
+#include "documents/pdf/PdfReaderRequest.h"
 #include "platform/sandbox/Sandbox.h"
 
-/// Puts them in force, for good. The system ends the process when a limit of time is reached.
-SandboxReport confine(const PdfReaderOrder &order);
+/// Irrevocable. The system kills the process when it reaches a limit of time.
+SandboxReport confine(const PdfReaderRequest &request);

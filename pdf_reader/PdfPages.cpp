@@ -11,9 +11,9 @@
 namespace {
 
 constexpr QByteArrayView signature("%PDF-");
-constexpr qsizetype signatureReach = 1024; // bytes; what readers of PDF look through
+constexpr qsizetype signatureReach = 1024; // bytes at the start of a file, as in other readers of PDF
 
-/// Stands where a hyphen divides a word at the end of a line (PDFium's own mark, no character).
+/// A hyphen that divides a word at the end of a line: a mark of PDFium, not a character.
 constexpr char16_t dividingHyphen = 0xFFFE;
 constexpr char16_t softHyphen = 0x00AD;
 constexpr QStringView lineEnd(u"\r\n"); // as Qt Pdf ends lines
@@ -23,8 +23,8 @@ bool isWhiteSpace(char byte)
     return byte == ' ' || byte == '\n' || byte == '\r' || byte == '\t' || byte == '\f' || byte == '\0';
 }
 
-/// Whether a file has a tree of pages and there are none in it. Qt Pdf opens no such file. Object streams,
-/// which are compressed, are not looked into.
+/// Whether a file has a page tree without pages, which Qt Pdf does not open. Object streams, which are
+/// compressed, are not searched.
 bool isWithoutPages(QByteArrayView bytes)
 {
     constexpr QByteArrayView children("/Kids");
@@ -72,7 +72,7 @@ std::optional<DocumentError::Cause> forEachPdfPage(QByteArrayView bytes, const T
         QString text = pages.textOfPage(page);
         text.replace(QChar(dividingHyphen), QChar(softHyphen));
         if (!text.isEmpty() && !text.endsWith(u'\n'))
-            text.append(lineEnd); // which Qt Pdf leaves out behind the last line
+            text.append(lineEnd); // Qt Pdf omits it after the last line
         if (!take(text))
             break;
     }

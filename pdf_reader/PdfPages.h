@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// PdfPages goes through the pages of a PDF file with Qt Pdf, which may take any time and memory, or end the
-// process; for others than its own program, it is PdfReader that reads PDF files.
-// Thread: any; Qt Pdf works on one document at a time.  Owner: main.
+// PdfPages reads the pages of a PDF file with Qt Pdf, which may take any time and memory and may abort the
+// process. Only its own program uses it; all others use PdfReader.
+// Thread: any; Qt Pdf works on one document at a time.
 #pragma once
 
 #include "documents/DocumentError.h"
@@ -12,7 +12,7 @@
 #include <functional>
 #include <optional>
 
-/// Hands over the text of each page in order until take() returns false. What went wrong is returned, before
-/// there was any page.
+/// Passes the text of each page, first to last, to take() until that returns false. Returns why the file
+/// cannot be opened; absent where it could be.
 using TakePage = std::function<bool(const QString &text)>;
 std::optional<DocumentError::Cause> forEachPdfPage(QByteArrayView bytes, const TakePage &take);

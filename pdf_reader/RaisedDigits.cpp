@@ -6,15 +6,15 @@
 namespace {
 
 constexpr QStringView lineEnd(u"\r\n");
-constexpr size_t maxObjects = 1'000; // of a page: each is looked at for each of its lines
+constexpr size_t maxObjects = 1'000; // on a page: every line is compared with each of them
 
 // In heights of a raised digit.
-constexpr double widestOverlap = 0.4;
-constexpr double widestGapBefore = 0.5;
-constexpr double widestGapBehind = 2.5; // a word space and more
+constexpr double maxOverlap = 0.4;
+constexpr double maxGapBefore = 0.5;
+constexpr double maxGapBehind = 2.5; // a word space and more
 constexpr double wordSpace = 0.35;
-constexpr double leastRise = 0.15;
-constexpr double greatestRise = 0.8; // of its foot above the head of its neighbour
+constexpr double minRise = 0.15;
+constexpr double maxRise = 0.8; // of its lower edge above the upper edge of its neighbour
 
 bool isDigit(QChar unit)
 {
@@ -25,17 +25,17 @@ bool isDigit(QChar unit)
 bool isRaisedAbove(const QRectF &digit, const QRectF &neighbour)
 {
     const double height = digit.height();
-    return digit.bottom() < neighbour.bottom() - leastRise * height
-        && digit.bottom() > neighbour.top() - greatestRise * height;
+    return digit.bottom() < neighbour.bottom() - minRise * height
+        && digit.bottom() > neighbour.top() - maxRise * height;
 }
 
-bool isGapWithin(double gap, double height, double widest)
+bool isGapWithin(double gap, double height, double maxGap)
 {
-    return gap > -widestOverlap * height && gap < widest * height;
+    return gap > -maxOverlap * height && gap < maxGap * height;
 }
 
 struct LineEnds {
-    std::vector<qsizetype> places; // of those with a digit before or behind them
+    std::vector<qsizetype> places; // of line ends with a digit before or after them
     QString digits; // each once
 };
 
@@ -68,14 +68,14 @@ std::vector<RaisedDigits::Raised> RaisedDigits::raisedObjects(const QList<QPolyg
         const QRectF before = bounds[i - 1].boundingRect();
         const QRectF place = bounds[i].boundingRect();
         const double height = place.height();
-        if (!isGapWithin(place.left() - before.right(), height, widestGapBefore)
+        if (!isGapWithin(place.left() - before.right(), height, maxGapBefore)
             || !isRaisedAbove(place, before))
             continue;
         Raised raised{place};
         if (i + 1 < bounds.size()) {
             const QRectF behind = bounds[i + 1].boundingRect();
             const double gap = behind.left() - place.right();
-            raised.isFollowed = isGapWithin(gap, height, widestGapBehind) && isRaisedAbove(place, behind);
+            raised.isFollowed = isGapWithin(gap, height, maxGapBehind) && isRaisedAbove(place, behind);
             raised.hasSpaceBehind = gap > wordSpace * height;
         }
         result.push_back(raised);
@@ -92,7 +92,7 @@ RaisedDigits::DigitPlaces RaisedDigits::placesOfDigits(const QString &text, cons
         m_search.setSearchString(QString(digit));
         const QList<QPdfLink> results = m_search.resultsOnPage(page);
         if (results.size() != text.count(digit))
-            continue; // there is no telling which of them is which
+            continue; // the results cannot be assigned to the digits of the text
         qsizetype index = -1;
         for (const QPdfLink &result : results) {
             index = text.indexOf(digit, index + 1);

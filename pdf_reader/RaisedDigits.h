@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // RaisedDigits takes the text of a page from Qt Pdf and keeps raised digits (m², footnote marks) in their
-// line and word: Qt Pdf, seeing another baseline, often ends the line before them, behind them or both.
+// line and word: as their baseline differs, Qt Pdf often ends the line before them, after them or both.
 // Thread: as Qt Pdf.  Owner: forEachPdfPage().
 #pragma once
 
@@ -24,13 +24,13 @@ public:
     QString textOfPage(int page);
 
 private:
-    /// A text object of the page that stands raised behind its neighbour on the left.
+    /// A text object of the page that is raised above its neighbour on the left.
     struct Raised {
         QRectF place;
-        bool isFollowed = false; ///< by something in the same line
+        bool isFollowed = false; ///< by an object in the same line
         bool hasSpaceBehind = false;
     };
-    /// On the page, by the digit's index in its text.
+    /// Places on the page, by the index of the digit in the text.
     using DigitPlaces = QHash<qsizetype, QRectF>;
 
     static std::vector<Raised> raisedObjects(const QList<QPolygonF> &bounds);
@@ -38,6 +38,6 @@ private:
 
     QPdfDocument &m_document;
     QPdfSearchModel m_search;
-    int m_searchesLeft =
-        2'000; // each takes as long as the text of a page: a book of formulas is left as it is
+    int m_searchesLeft = 2'000; ///< a search takes as long as the text of a page: long books of formulas stay
+                                ///< as they are
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// quillbay-pdf-reader: the program that PdfReader starts for every PDF file, and the only one with Qt Pdf in
-// it. It writes the text of the file to standard output; PdfReaderOrder tells what it is given.
+// quillbay-pdf-reader: PdfReader starts this program for each PDF file. It is the only one that links Qt Pdf,
+// and writes the text of the file to standard output; PdfReaderRequest describes its arguments.
 #include "pdf_reader/Confinement.h"
 #include "pdf_reader/PdfPages.h"
 #include "platform/system/Processes.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-bool writeWhole(QByteArrayView bytes)
+bool writeAll(QByteArrayView bytes)
 {
     while (!bytes.isEmpty()) {
         const ssize_t written = ::write(STDOUT_FILENO, bytes.data(), static_cast<size_t>(bytes.size()));
@@ -35,7 +35,7 @@ std::optional<DocumentError::Cause> writePages(QByteArrayView document, qint64 l
         isTooLong = length < 0;
         const auto *units = reinterpret_cast<const char *>(text.constData());
         const auto size = text.size() * static_cast<qsizetype>(sizeof(QChar));
-        return !isTooLong && writeWhole(QByteArrayView(units, size));
+        return !isTooLong && writeAll(QByteArrayView(units, size));
     };
     try {
         const std::optional<DocumentError::Cause> error = forEachPdfPage(document, take);
@@ -47,19 +47,19 @@ std::optional<DocumentError::Cause> writePages(QByteArrayView document, qint64 l
 
 } // namespace
 
-// Ends without the ends of the libraries: theirs are as little to be trusted as the rest of them, and a
-// sanitizer's is not allowed in the sandbox.
+// Exits by _exit(): library destructors are not trusted, and the sandbox does not allow those of a sanitizer.
 int main(int argumentCount, char **arguments)
 {
     keepMemoryPrivate();
     const auto words = std::span<char *const>(arguments, static_cast<size_t>(argumentCount));
-    const std::optional<PdfReaderOrder> order = orderFrom(words.subspan(std::min<size_t>(1, words.size())));
-    if (order) {
-        // Before it sees a byte of the document.
-        (void)confine(*order);
+    const std::optional<PdfReaderRequest> request =
+        requestFrom(words.subspan(std::min<size_t>(1, words.size())));
+    if (request) {
+        // Before it reads a byte of the document.
+        (void)confine(*request);
         const auto document = SealedMemory::receive(STDIN_FILENO);
         if (document)
-            ::_exit(exitStatusFor(writePages(document.value().bytes(), order->length)));
+            ::_exit(exitStatusFor(writePages(document.value().bytes(), request->length)));
     }
     std::fputs(
         "quillbay-pdf-reader: is started by Quillbay's other programs, for one PDF file each time\n", stderr);

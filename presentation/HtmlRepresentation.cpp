@@ -2,7 +2,7 @@
 // What the labels of WordCounterViewController show, for other programs.
 #include "presentation/WordCounterViewController.h"
 
-#include "documents/html/HtmlReader.h"
+#include "documents/loading/DocumentReader.h"
 
 QString WordCounterViewController::htmlRepresentationWithTitle(
     const std::optional<QString> &title, bool fullHTMLDocument) const
@@ -32,7 +32,7 @@ std::optional<AttributedString> WordCounterViewController::attributedStringRepre
     const QString html = htmlRepresentationWithTitle(title, true);
     if (!html.isValidUtf16())
         return std::nullopt;
-    auto text = readHtml(html.toUtf8(), {.charset = "utf-8"});
+    auto text = readDocument(DocumentKind::Html, html.toUtf8(), {.charset = "utf-8"});
     if (!text)
         return std::nullopt;
     return std::move(text).value();

@@ -85,17 +85,17 @@ void ServiceObject::countWordsForAttributedStringRTFDData(const QDBusUnixFileDes
     qulonglong length, bool absent, const QVariantMap &options, qulonglong &, qulonglong &, qulonglong &,
     qulonglong &, qulonglong &, qulonglong &, qulonglong &, qulonglong &)
 {
-    receive(PayloadKind::FlatRtfd, payload, length, absent, options);
+    receive(DocumentKind::Rtfd, payload, length, absent, options);
 }
 
 void ServiceObject::countWordsForDocX(const QDBusUnixFileDescriptor &payload, qulonglong length, bool absent,
     const QVariantMap &options, qulonglong &, qulonglong &, qulonglong &, qulonglong &, qulonglong &,
     qulonglong &, qulonglong &, qulonglong &)
 {
-    receive(PayloadKind::WordDocument, payload, length, absent, options);
+    receive(DocumentKind::WordDocument, payload, length, absent, options);
 }
 
-void ServiceObject::receive(PayloadKind kind, const QDBusUnixFileDescriptor &payload, quint64 length,
+void ServiceObject::receive(DocumentKind kind, const QDBusUnixFileDescriptor &payload, quint64 length,
     bool absent, const QVariantMap &options)
 {
     setDelayedReply(true);

@@ -22,7 +22,7 @@
 struct ReceivedRequest {
     using Outcome = Result<QBYWordCounterStats, CountFailure>;
 
-    PayloadKind kind;
+    DocumentKind kind;
     QDBusUnixFileDescriptor payload;
     quint64 length;
     bool isAbsent;
@@ -69,7 +69,7 @@ public Q_SLOTS:
     // NOLINTEND(readability-non-const-parameter)
 
 private:
-    void receive(PayloadKind kind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
+    void receive(DocumentKind kind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
         const QVariantMap &options);
     void reply(quint64 number, const ReceivedRequest::Outcome &outcome);
 

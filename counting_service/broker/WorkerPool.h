@@ -17,7 +17,7 @@
 struct CountJob {
     using Outcome = Result<QBYWordCounterStats, CountFailure>;
 
-    PayloadKind kind;
+    DocumentKind kind;
     SealedMemory document;
     RulesSnapshot rules;
     std::function<void(const Outcome &)> answer; ///< called once

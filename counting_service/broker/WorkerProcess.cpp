@@ -116,7 +116,7 @@ WorkerProcess::~WorkerProcess()
     ::waitpid(m_process, nullptr, 0);
 }
 
-bool WorkerProcess::count(PayloadKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
+bool WorkerProcess::count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
 {
     const std::chrono::milliseconds time = m_program.countLimitFor(length);
     limitResources(length, time);

@@ -69,7 +69,7 @@ public:
 
     /// Only while Idle. The descriptor stays the caller's. False where the worker is no more; ended()
     /// follows.
-    [[nodiscard]] bool count(PayloadKind kind, quint64 length, const RulesSnapshot &rules, int descriptor);
+    [[nodiscard]] bool count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor);
 
     /// Ends it now, whatever it does; ended() follows.
     void end(WorkerEnd reason);

@@ -139,8 +139,8 @@ QDataStream &operator>>(QDataStream &stream, FailureNumbers &numbers)
 
 bool isKnown(quint32 kind)
 {
-    return kind == static_cast<quint32>(PayloadKind::FlatRtfd)
-        || kind == static_cast<quint32>(PayloadKind::WordDocument);
+    return kind == static_cast<quint32>(DocumentKind::Rtfd)
+        || kind == static_cast<quint32>(DocumentKind::WordDocument);
 }
 
 } // namespace
@@ -179,7 +179,7 @@ std::optional<WorkerRequest> decodedRequest(const QByteArray &message)
     reader.stream() >> request.number >> kind >> request.length >> request.rules;
     if (!reader.isWhole() || !isKnown(kind))
         return std::nullopt;
-    request.kind = static_cast<PayloadKind>(kind);
+    request.kind = static_cast<DocumentKind>(kind);
     return request;
 }
 

@@ -25,11 +25,6 @@ inline constexpr qsizetype longestMessage = 512;
 
 } // namespace WorkerMessages
 
-enum class PayloadKind : quint32 {
-    FlatRtfd = 1, ///< styled text as one block of RTF with attachments
-    WordDocument = 2,
-};
-
 /// The counting rules in the form that travels: the locale is a name.
 struct RulesSnapshot {
     /// Bytes; names of locales are shorter.
@@ -45,7 +40,7 @@ struct RulesSnapshot {
 
 struct WorkerRequest {
     quint64 number = 0; ///< of the broker's choice; the reply has the same
-    PayloadKind kind = PayloadKind::FlatRtfd;
+    DocumentKind kind = DocumentKind::Rtfd; ///< or WordDocument; no other is taken
     quint64 length = 0; ///< of the document, in bytes
     RulesSnapshot rules;
 };

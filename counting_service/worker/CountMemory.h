@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// CountMemory remembers what documents were counted to, so that one that comes again as it was, as that of a
-// watcher who polls, is not counted again. It knows documents by their bytes and the rules of the count
-// alone, never by a name or a time, and keeps nothing of what they say. Thread: one at a time.  Owner:
-// CountingWorker, whose fonts stay the same as long as it lives.
+// CountMemory remembers the counts of documents, so that an unchanged document, such as that of a polling
+// watcher, is not counted again. It identifies documents by a hash of their bytes and of the counting rules,
+// never by a name or a time, and does not store their content.
+// Thread: one at a time.  Owner: CountingWorker, whose fonts do not change during its life.
 #pragma once
 
 #include "counting_service/protocol/WorkerMessages.h"
@@ -14,11 +14,11 @@
 
 class CountMemory {
 public:
-    /// How many documents; of more, those are forgotten that have not come for the longest time.
+    /// Documents. Beyond that, the least recently used are forgotten.
     static constexpr qsizetype capacity = 256;
 
-    /// Names a document under the rules of its request: bytes that differ have names that differ (BLAKE2b,
-    /// RFC 7693).
+    /// A name for a document under the rules of its request: different bytes or rules have different names
+    /// (BLAKE2b, RFC 7693).
     static QByteArray nameOf(const WorkerRequest &request, QByteArrayView document);
 
     [[nodiscard]] std::optional<QBYWordCounterStats> countsOf(const QByteArray &name) const;

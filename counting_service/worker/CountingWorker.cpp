@@ -2,7 +2,7 @@
 #include "counting_service/worker/CountingWorker.h"
 
 #include "counting_service/protocol/PacketSocket.h"
-#include "counting_service/worker/DocumentReading.h"
+#include "documents/loading/DocumentReader.h"
 #include "platform/locale/CurrentLocale.h"
 #include "platform/system/SealedMemory.h"
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-// The identifier that a process has whose user logged in with this locale. Nobody else reads the environment
+// The identifier in a process whose user has logged in with this locale. Nothing else reads the environment
 // of a worker between two documents.
 QString identifierOfLocale(const QByteArray &name)
 {
@@ -54,13 +54,13 @@ int CountingWorker::run(const SandboxReport &sandbox)
         const WorkerReply reply = replyTo(*request, packet.value().descriptor.get());
         if (!sendPacket(socket, encoded(reply)))
             return 1;
-        // Memory in pieces might fail the next document, too.
+        // Fragmented memory might fail the next document, too.
         if (!reply.counts && reply.counts.error().isOutOfMemory())
             return 1;
     }
 }
 
-// A count of a few letters makes all that counts are made with.
+// A count of a few letters creates everything that counts need.
 void CountingWorker::loadFonts()
 {
     m_model.setAttributedStringToCount(AttributedString(QStringLiteral("One. Two.")));
@@ -71,8 +71,8 @@ WorkerReply CountingWorker::replyTo(const WorkerRequest &request, int descriptor
     try {
         return {request.number, count(request, descriptor)};
     } catch (const std::bad_alloc &) {
-        return {request.number,
-            CountFailure(DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::PlainText))};
+        return {
+            request.number, CountFailure(DocumentError(DocumentError::Cause::NotEnoughMemory, request.kind))};
     }
 }
 
@@ -89,11 +89,11 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
         return CountFailure(text.error());
     m_rules = rulesFrom(request.rules);
     m_model.setAttributedStringToCount(text.value());
-    // The counts of a record stand in another order than those of a reply; the model has the latter.
-    if (request.kind == PayloadKind::WordDocument)
+    // A record has the counts in another order than a reply; the model gives the latter.
+    if (request.kind == DocumentKind::WordDocument)
         m_model.setDocXMetaDataToFormat(QBYDocxMetaData::ofText(m_model.statsRepresentation()));
     const QBYWordCounterStats stats = m_model.statsRepresentation();
-    // The text of one document does not lie about while the next is read.
+    // The text of one document must not stay in memory while the next is read.
     m_model.setAttributedStringToCount(std::nullopt);
     m_memory.remember(name, stats);
     return stats;

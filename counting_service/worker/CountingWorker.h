@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// CountingWorker counts the documents that the broker hands it, one after the other, through the statistics
-// model. It needs no preferences, no print server and no bus: all that a count rests on comes with the
-// request. Thread: main.  Owner: the worker's main().
+// CountingWorker counts documents for the broker, one after the other, with the statistics model. It needs no
+// preferences, no print server and no bus: everything that a count depends on comes with the request.
+// Thread: main.  Owner: the worker's main().
 #pragma once
 
 #include "counting_service/protocol/WorkerMessages.h"
@@ -11,15 +11,15 @@
 
 class CountingWorker {
 public:
-    /// The descriptor of the worker's end of its connection, from its start on.
+    /// The descriptor of the worker's end of the connection, open when the worker starts.
     static constexpr int socket = 3;
 
     CountingWorker();
     CountingWorker(const CountingWorker &) = delete;
     CountingWorker &operator=(const CountingWorker &) = delete;
 
-    /// Loads the fonts, greets, and serves until the broker is gone. Returns the exit status: 0, or 1 where
-    /// the connection is not what it should be or the memory is exhausted.
+    /// Loads the fonts, sends the greeting, and serves until the broker closes the connection. Returns the
+    /// exit status: 0, or 1 where the connection fails, a message is not a request, or memory runs out.
     int run(const SandboxReport &sandbox);
 
 private:

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/AlternativeChunk.h"
 
-#include "documents/PlainTextReader.h"
 #include "documents/html/HtmlReader.h"
 #include "documents/rtf/RtfReader.h"
 
@@ -135,7 +134,7 @@ std::optional<WebArchivePage> findPage(QByteArrayView bytes, int depth)
     const Part whole = partOf(bytes);
     const QByteArray type = typeOf(whole);
     if (!type.startsWith("multipart/")) {
-        const bool isPage = type == "text/html" || type == "application/xhtml+xml";
+        const bool isPage = kindOfMimeType(type) == DocumentKind::Html;
         return isPage ? std::optional(WebArchivePage{decodeBody(whole), parameterOf(whole, "charset")})
                       : std::nullopt;
     }
@@ -190,45 +189,39 @@ Chunk convertCause(Result<AttributedString, DocumentError> text)
     }
 }
 
-Chunk readPlainChunk(QByteArrayView bytes)
+Chunk readNestedDocument(const PackageDocument &document, QByteArrayView bytes)
 {
-    const Result<PlainText, DocumentError> text = readPlainText(bytes);
-    if (!text)
-        return convertCause(text.error());
-    return AttributedString(text.value().text);
-}
-
-Chunk readNestedDocument(QByteArrayView bytes, ReadAllowance &allowance)
-{
+    ReadAllowance &allowance = document.package.allowance();
     if (allowance.nestedDocuments == 0)
         return DocumentError::Cause::TooComplex;
     --allowance.nestedDocuments;
-    Chunk chunk = readPackageDocument(bytes, allowance);
+    Chunk chunk = readPackageDocument(bytes, allowance, document.readChunk);
     ++allowance.nestedDocuments;
     return chunk;
 }
 
 /// An archive without a page is not supported. A page without text is empty.
-Chunk readWebArchive(QByteArrayView bytes)
+Chunk readWebArchive(const PackageDocument &document, QByteArrayView bytes)
 {
     const std::optional<WebArchivePage> page = pageOfWebArchive(bytes);
-    return page ? convertCause(readHtml(page->contents, {.charset = page->charset}))
+    return page ? convertCause(document.readChunk(DocumentKind::Html, page->contents, page->charset))
                 : DocumentError::Cause::UnsupportedPart;
 }
 
 /// The first bytes are more reliable than the content type, which some programs set carelessly.
-Chunk readChunkOfType(const QByteArray &type, QByteArrayView bytes, ReadAllowance &allowance)
+Chunk readChunkOfType(const PackageDocument &document, const QByteArray &type, QByteArrayView bytes)
 {
     if (bytes.startsWith("PK\x03\x04"))
-        return readNestedDocument(bytes, allowance);
+        return readNestedDocument(document, bytes);
     if (looksLikeRtf(bytes))
-        return convertCause(readRtf(bytes));
+        return convertCause(document.readChunk(DocumentKind::Rtf, bytes, {}));
     if (type == "message/rfc822" || type == "multipart/related" || looksLikeWebArchive(bytes))
-        return readWebArchive(bytes);
-    if (type == "text/html" || type == "application/xhtml+xml" || looksLikeHtml(bytes))
-        return convertCause(readHtml(bytes));
-    if (type == "text/plain")
-        return readPlainChunk(bytes);
+        return readWebArchive(document, bytes);
+    const std::optional<DocumentKind> kind = kindOfMimeType(type);
+    if (kind == DocumentKind::Html || looksLikeHtml(bytes))
+        return convertCause(document.readChunk(DocumentKind::Html, bytes, {}));
+    if (kind == DocumentKind::PlainText)
+        return convertCause(document.readChunk(DocumentKind::PlainText, bytes, {}));
     return DocumentError::Cause::UnsupportedPart;
 }
 
@@ -245,7 +238,7 @@ Chunk readAlternativeChunk(
     const Result<QByteArray, DocumentError::Cause> bytes = document.package.contents(*part);
     if (!bytes)
         return bytes.error();
-    Chunk chunk = readChunkOfType(document.types.typeOf(*part), bytes.value(), document.package.allowance());
+    Chunk chunk = readChunkOfType(document, document.types.typeOf(*part), bytes.value());
     if (!chunk || chunk.value().isEmpty() || chunk.value().string().endsWith(u'\n'))
         return chunk;
     const AttributedString &text = chunk.value();

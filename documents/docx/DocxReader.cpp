@@ -79,7 +79,7 @@ bool looksLikeDocx(QByteArrayView bytes)
 }
 
 Result<AttributedString, DocumentError::Cause> readPackageDocument(
-    QByteArrayView bytes, ReadAllowance &allowance)
+    QByteArrayView bytes, ReadAllowance &allowance, const ChunkReader &readChunk)
 {
     const Result<ZipPackage, DocumentError::Cause> package = ZipPackage::open(bytes, allowance);
     if (!package)
@@ -98,14 +98,16 @@ Result<AttributedString, DocumentError::Cause> readPackageDocument(
         DocumentStyles::read(package.value(), relationships.value());
     if (!styles)
         return styles.error();
-    return textOf({package.value(), types.value(), mainPart.value(), relationships.value(), styles.value()});
+    return textOf(
+        {package.value(), types.value(), mainPart.value(), relationships.value(), styles.value(), readChunk});
 }
 
-Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes)
+Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes, const ChunkReader &readChunk)
 {
     try {
         ReadAllowance allowance;
-        Result<AttributedString, DocumentError::Cause> text = readPackageDocument(bytes, allowance);
+        Result<AttributedString, DocumentError::Cause> text =
+            readPackageDocument(bytes, allowance, readChunk);
         if (text)
             return std::move(text).value();
         return DocumentError(text.error(), DocumentKind::WordDocument);

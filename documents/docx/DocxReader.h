@@ -31,12 +31,19 @@
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
+#include <QByteArray>
 #include <QByteArrayView>
-#include <QString>
+
+#include <functional>
 
 /// Whether the bytes are a package with a Word document as its main part, or any encrypted package. Reads
 /// only the list of parts, the content types and the relationships of the package.
 bool looksLikeDocx(QByteArrayView bytes);
 
+/// Reads a chunk of another kind that a Word document holds. charset: of a web page from an archive; empty
+/// where it is not known.
+using ChunkReader = std::function<Result<AttributedString, DocumentError>(
+    DocumentKind kind, QByteArrayView bytes, const QByteArray &charset)>;
+
 /// Takes time proportional to the uncompressed parts that are read, and memory proportional to the text.
-Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes);
+Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes, const ChunkReader &readChunk);

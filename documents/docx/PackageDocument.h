@@ -5,6 +5,7 @@
 #pragma once
 
 #include "documents/DocumentError.h"
+#include "documents/docx/DocxReader.h"
 #include "documents/docx/Numbering.h"
 #include "documents/docx/PackageParts.h"
 #include "documents/docx/StyleSheet.h"
@@ -32,9 +33,10 @@ struct PackageDocument {
     const QByteArray &mainPart;
     const Relationships &relationships; ///< of the main part
     const DocumentStyles &styles;
+    const ChunkReader &readChunk;
 };
 
 /// Reads a document that may be nested in another one; readDocx() does so with a full allowance. Throws
 /// std::bad_alloc.
 Result<AttributedString, DocumentError::Cause> readPackageDocument(
-    QByteArrayView bytes, ReadAllowance &allowance);
+    QByteArrayView bytes, ReadAllowance &allowance, const ChunkReader &readChunk);

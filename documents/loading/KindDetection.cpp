@@ -8,11 +8,13 @@
 
 #include <QMimeDatabase>
 
+#include <algorithm>
+#include <array>
 #include <optional>
 
 namespace {
 
-/// The header of PDF, and one of the objects that any file has.
+/// The header of PDF and at least one object, which every file has.
 bool looksLikePdf(QByteArrayView bytes)
 {
     constexpr QByteArrayView header("%PDF-");
@@ -20,26 +22,31 @@ bool looksLikePdf(QByteArrayView bytes)
         && bytes[header.size()] <= '9' && bytes.contains(" obj");
 }
 
-/// Absent where the name tells nothing.
+/// The name of an RTF or an RTFD file decides nothing: their bytes do.
+constexpr std::array kindsToldByName{DocumentKind::Html, DocumentKind::WordDocument, DocumentKind::Pdf};
+
+bool inherits(const QMimeType &type, DocumentKind kind)
+{
+    const QStringList names = mimeTypes(kind);
+    return std::any_of(names.begin(), names.end(), [&](const QString &name) { return type.inherits(name); });
+}
+
+/// Absent where the MIME database does not know the name.
 std::optional<DocumentKind> kindByName(const QByteArray &path)
 {
     const QList<QMimeType> types = QMimeDatabase().mimeTypesForFileName(QString::fromLocal8Bit(path));
     if (types.isEmpty())
         return std::nullopt;
     for (const QMimeType &type : types) {
-        if (type.inherits(QStringLiteral("text/html"))
-            || type.inherits(QStringLiteral("application/xhtml+xml")))
-            return DocumentKind::Html;
-        if (type.inherits(
-                QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.document")))
-            return DocumentKind::WordDocument;
-        if (type.inherits(QStringLiteral("application/pdf")))
-            return DocumentKind::Pdf;
+        for (const DocumentKind kind : kindsToldByName) {
+            if (inherits(type, kind))
+                return kind;
+        }
     }
     return DocumentKind::PlainText;
 }
 
-/// The beginning of every compound file: documents of Word 97 to 2003, and encrypted ones of Word.
+/// The start of every compound file: documents of Word 97 to 2003, and encrypted Word documents.
 bool looksLikeCompoundFile(QByteArrayView bytes)
 {
     return bytes.startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");

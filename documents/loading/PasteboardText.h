@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The content of a pasteboard as styled text.
+// PasteboardText reads the content of a pasteboard as styled text.
 // Thread: any.
 #pragma once
 
@@ -8,6 +8,6 @@
 
 #include <optional>
 
-/// The richest form that can be read as styled text: flat RTFD, then RTF, HTML, plain text; absent where
-/// there is none. A damaged form is passed over for the next one.
+/// The richest form that can be read: flat RTFD, then RTF, HTML, plain text. Damaged forms are skipped;
+/// absent where no form is left.
 [[nodiscard]] std::optional<AttributedString> readAttributedString(const Pasteboard &pasteboard);

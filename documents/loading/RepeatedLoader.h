@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: MIT
-// RepeatedLoader loads a document as DocumentLoader does, again and again: as long as its bytes stay the
-// same, the text made of them is handed on once more instead of being made anew. Thread: one at a time.
-// Owner: whoever follows a document.
+// RepeatedLoader loads a document as DocumentLoader does, again and again. While the bytes stay the same, it
+// returns the text that it has made of them before.
+// Thread: one at a time.  Owner: whoever follows a document.
 #pragma once
 
 #include "documents/loading/DocumentLoader.h"
 
 #include <QByteArray>
 
-/// Remembers the last text and the bytes that it was made of. All bytes are read at every loading; neither
-/// times nor sizes are relied on.
+/// Remembers the last text and the bytes that it was made of. Every load reads all bytes; times and sizes of
+/// files are not trusted.
 class RepeatedLoader {
 public:
-    /// Bytes, those of all files of a package together. The text of a larger document is not kept but made
-    /// anew each time, so that memory stays bounded.
-    static constexpr qint64 largestKept = 16 * 1024 * 1024;
+    /// Bytes, those of all files of a package together. The text of a larger document is not remembered, so
+    /// that memory stays bounded.
+    static constexpr qint64 maxRememberedBytes = 16 * 1024 * 1024;
 
-    explicit RepeatedLoader(qint64 mostKept = largestKept)
-        : m_mostKept(mostKept)
+    explicit RepeatedLoader(qint64 maxBytes = maxRememberedBytes)
+        : m_maxBytes(maxBytes)
     {
     }
 
@@ -32,9 +32,9 @@ private:
     [[nodiscard]] bool remembers(const QByteArray &path, const QByteArray &bytes) const;
     void remember(const QByteArray &path, const QByteArray &bytes, const AttributedString &text);
 
-    qint64 m_mostKept;
+    qint64 m_maxBytes;
     bool m_remembers = false;
-    QByteArray m_path; // its name is part of what tells the kind
+    QByteArray m_path; // the kind may depend on its name
     QByteArray m_bytes;
     AttributedString m_text;
 };

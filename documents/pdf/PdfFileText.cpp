@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Empty where the file cannot be read. Never waits, as opening a pipe by its name would.
+/// Empty where the file cannot be read. Never blocks, unlike opening a pipe by its name.
 QByteArray contentsOf(const QUrl &url)
 {
     Result<QByteArray, FileError> contents = readFile(pathOfFileURL(url));

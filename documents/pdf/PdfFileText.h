@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The text of PDF files on disk.
+// PdfFileText reads the text of a PDF file on disk, for callers that need no cause of a failure.
 // Thread: any.
 #pragma once
 
@@ -11,9 +11,9 @@
 
 namespace QBYExtension {
 
-/// The text of every page as readPdf() gives it. Where there are no pages, because the file cannot be read,
-/// is encrypted, damaged or none of PDF, or has none, this is logged and absent. url: of a local file; any
-/// other counts as one that cannot be read.
+/// The text of all pages, as readPdf() returns it. Absent, and logged, where there are no pages: the file
+/// cannot be read, is encrypted, damaged, not a PDF file or empty. url: of a local file; any other counts as
+/// one that cannot be read.
 std::optional<AttributedString> attributedStringFromPDFFileURL(const QUrl &url);
 
 } // namespace QBYExtension

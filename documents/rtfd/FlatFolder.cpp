@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtfd/FlatFolder.h"
 
-#include "documents/rtfd/FlatFormat.h"
-
 #include <QtEndian>
 
 #include <vector>
@@ -83,7 +81,7 @@ bool FlatFolder::hasMagic(QByteArrayView bytes)
     return skipMagic(rest);
 }
 
-std::optional<FlatFolder> FlatFolder::parsed(QByteArrayView bytes)
+std::optional<FlatFolder> FlatFolder::parse(QByteArrayView bytes)
 {
     FlatBytes rest(bytes);
     if (!skipMagic(rest))

@@ -46,7 +46,7 @@ TEST(CountMemory, TakesNoCountUnderOtherRulesForIt)
         change(changed);
         return CountMemory::nameOf(changed, "text");
     };
-    EXPECT_NE(nameWith([](WorkerRequest &changed) { changed.kind = PayloadKind::WordDocument; }), name);
+    EXPECT_NE(nameWith([](WorkerRequest &changed) { changed.kind = DocumentKind::WordDocument; }), name);
     EXPECT_NE(nameWith([](WorkerRequest &changed) { changed.rules.localeName = "en_GB"; }), name);
     EXPECT_NE(nameWith([](WorkerRequest &changed) { changed.rules.minimumSentencesOfParagraph = 2; }), name);
     EXPECT_NE(

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the counting service counts.
-#include "documents/docx/DocxReader.h"
+#include "documents/loading/DocumentReader.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/counting_service/CountingServiceTest.h"
@@ -184,7 +184,8 @@ TEST_F(CountTest, TheCountsOfAWordDocumentComeInTheOrderOfAReplyAndAreNotTheStor
     const SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
     const auto size = static_cast<quint64>(bytes.size());
     const QBYWordCounterStats stats = count(message(docxRequest, memory.value().descriptor(), size));
-    EXPECT_EQ(stats, countInProcess(readDocx(bytes).value(), QStringLiteral("en_US")));
+    EXPECT_EQ(stats,
+        countInProcess(readDocument(DocumentKind::WordDocument, bytes).value(), QStringLiteral("en_US")));
     EXPECT_EQ(stats.numberOfWords, 96U);
     EXPECT_EQ(stats.numberOfCharacters, 384U);
     EXPECT_EQ(stats.numberOfCharactersIncludingWhitespace, 486U);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Whoever counts a document, in whatever process, gets the same eight numbers.
-#include "documents/loading/PdfLoader.h"
+#include "documents/loading/DocumentLoader.h"
 #include "presentation/WordCounterViewController.h"
 #include "tests/counting_service/CountingServiceTest.h"
 #include "tests/documents/SampleTexts.h"
@@ -68,7 +68,8 @@ protected:
         if (path.endsWith(".docx"))
             panel->asyncUpdateStatsDocXFileURL(QUrl::fromLocalFile(QFile::decodeName(path)), completion);
         else
-            panel->asyncUpdateStatsWithAttributedString(loadDocumentOrPdf(path).value(), completion);
+            panel->asyncUpdateStatsWithAttributedString(
+                loadDocument(path, {.readsPdf = true}).value(), completion);
         EXPECT_TRUE(waitUntil([&] { return isCounted && !panel->isAsyncCountOperationInProgress(); }));
         return panel->wordCounter()->statsRepresentation();
     }

@@ -28,7 +28,7 @@ WorkerRequest sampleRequest()
 {
     WorkerRequest request;
     request.number = 77;
-    request.kind = PayloadKind::WordDocument;
+    request.kind = DocumentKind::WordDocument;
     request.length = 1ULL << 40;
     request.rules.localeName = QByteArray(RulesSnapshot::longestLocaleName, 'l');
     request.rules.minimumSentencesOfParagraph = 5;
@@ -84,8 +84,12 @@ TEST(WorkerMessages, ARequestArrivesAsItWasSent)
 TEST(WorkerMessages, ARequestOfAnUnknownKindIsNoRequest)
 {
     WorkerRequest request = sampleRequest();
-    request.kind = static_cast<PayloadKind>(3);
-    EXPECT_FALSE(decodedRequest(encoded(request)));
+    for (quint32 kind = 0; kind <= static_cast<quint32>(lastDocumentKind) + 1; ++kind) {
+        request.kind = static_cast<DocumentKind>(kind);
+        const bool isCounted =
+            request.kind == DocumentKind::Rtfd || request.kind == DocumentKind::WordDocument;
+        EXPECT_EQ(decodedRequest(encoded(request)).has_value(), isCounted) << kind;
+    }
 }
 
 TEST(WorkerMessages, AReplyArrivesAsItWasSent)

@@ -41,7 +41,7 @@ protected:
     {
         const auto answer = std::make_shared<Answer>();
         m_answers.push_back(answer);
-        pool.add({PayloadKind::FlatRtfd, SealedMemory::copyOf(document).value(), RulesSnapshot(),
+        pool.add({DocumentKind::Rtfd, SealedMemory::copyOf(document).value(), RulesSnapshot(),
             [answer](const CountJob::Outcome &outcome) {
                 ++answer->times;
                 answer->outcome = outcome;

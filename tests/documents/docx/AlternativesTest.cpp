@@ -138,8 +138,8 @@ TEST(DocxChunks, OfArchivesOfWebPagesAreThePage)
                   "Content-Type: text/html\nContent-Transfer-Encoding: base64\n\n"
                       + QByteArray("<p>page").toBase64()),
         QStringLiteral("before\npage\nafter\n"));
-    EXPECT_EQ(
-        readDocx(withChunk("message/rfc822", start + picture).bytes()).error().cause, Cause::UnsupportedPart);
+    EXPECT_EQ(readWordDocument(withChunk("message/rfc822", start + picture).bytes()).error().cause,
+        Cause::UnsupportedPart);
 }
 
 TEST(DocxChunks, OfWebArchivesWithinEachOtherAreReadToABoundedDepth)
@@ -154,14 +154,16 @@ TEST(DocxChunks, OfWebArchivesWithinEachOtherAreReadToABoundedDepth)
         wrap(level);
     EXPECT_EQ(textWithChunk("message/rfc822", archive), QStringLiteral("before\ncore\nafter\n"));
     wrap(4);
-    EXPECT_EQ(readDocx(withChunk("message/rfc822", archive).bytes()).error().cause, Cause::UnsupportedPart);
+    EXPECT_EQ(
+        readWordDocument(withChunk("message/rfc822", archive).bytes()).error().cause, Cause::UnsupportedPart);
 }
 
 TEST(DocxChunks, OfAnUnknownKindAreAnError)
 {
-    EXPECT_EQ(
-        readDocx(withChunk("application/x-unknown", "?").bytes()).error().cause, Cause::UnsupportedPart);
-    EXPECT_EQ(readDocx(withChunk("application/rtf", "no RTF").bytes()).error().cause, Cause::UnsupportedPart);
+    EXPECT_EQ(readWordDocument(withChunk("application/x-unknown", "?").bytes()).error().cause,
+        Cause::UnsupportedPart);
+    EXPECT_EQ(readWordDocument(withChunk("application/rtf", "no RTF").bytes()).error().cause,
+        Cause::UnsupportedPart);
 }
 
 TEST(DocxChunks, OutsideOfThePackageAreNotFollowed)
@@ -180,7 +182,7 @@ TEST(DocxChunks, AreReadWithinEachOtherToABoundedDepth)
         document = wrapped().bytes();
     EXPECT_EQ(textOf(wrapped()), QStringLiteral("core\n"));
     document = wrapped().bytes();
-    EXPECT_EQ(readDocx(wrapped().bytes()).error().cause, Cause::TooComplex);
+    EXPECT_EQ(readWordDocument(wrapped().bytes()).error().cause, Cause::TooComplex);
 }
 
 TEST(DocxChunks, AreReadUpToABoundedNumber)
@@ -189,5 +191,5 @@ TEST(DocxChunks, AreReadUpToABoundedNumber)
     document.body = QByteArray("<w:altChunk r:id='rId7'/>").repeated(5'000);
     EXPECT_EQ(textOf(document).size(), 10'000);
     document.body += "<w:altChunk r:id='rId7'/>";
-    EXPECT_EQ(readDocx(document.bytes()).error().cause, Cause::TooComplex);
+    EXPECT_EQ(readWordDocument(document.bytes()).error().cause, Cause::TooComplex);
 }

@@ -27,7 +27,7 @@ protected:
 
     static QString textOfFile(const QString &path)
     {
-        const Result<AttributedString, DocumentError> text = readDocx(readFile(path));
+        const Result<AttributedString, DocumentError> text = readWordDocument(readFile(path));
         EXPECT_TRUE(text.hasValue()) << qPrintable(path);
         return text ? text.value().string() : QStringLiteral("(unreadable)");
     }

@@ -4,13 +4,20 @@
 #pragma once
 
 #include "documents/docx/DocxReader.h"
+#include "documents/loading/DocumentReader.h"
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/harness/QuillbayTest.h"
+
+/// With readers of the chunks in other formats.
+inline Result<AttributedString, DocumentError> readWordDocument(QByteArrayView bytes)
+{
+    return readDocument(DocumentKind::WordDocument, bytes);
+}
 
 /// The text of a document; fails the test if it cannot be read.
 inline QString textOf(const WordPackage &document)
 {
-    const Result<AttributedString, DocumentError> text = readDocx(document.bytes());
+    const Result<AttributedString, DocumentError> text = readWordDocument(document.bytes());
     EXPECT_TRUE(text.hasValue()) << (text ? "" : qPrintable(causeText(text.error())));
     return text ? text.value().string() : QStringLiteral("(unreadable)");
 }

@@ -6,7 +6,7 @@ namespace {
 /// The attributes of a document's text at a position.
 TextAttributes attributes(const WordPackage &document, qsizetype position = 0)
 {
-    const Result<AttributedString, DocumentError> text = readDocx(document.bytes());
+    const Result<AttributedString, DocumentError> text = readWordDocument(document.bytes());
     EXPECT_TRUE(text.hasValue());
     return text ? text.value().attributesAt(position) : TextAttributes{};
 }

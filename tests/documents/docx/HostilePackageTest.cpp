@@ -9,7 +9,7 @@ using Cause = DocumentError::Cause;
 
 Cause causeFor(const QByteArray &bytes)
 {
-    const Result<AttributedString, DocumentError> text = readDocx(bytes);
+    const Result<AttributedString, DocumentError> text = readWordDocument(bytes);
     EXPECT_FALSE(text.hasValue());
     return text ? Cause::NotEnoughMemory : text.error().cause;
 }
@@ -130,7 +130,8 @@ TEST(HostilePackage, ThatReadsOneLocationAsManyPartsIsRefused)
     addChunk(0, "{\\rtf1 x}" + QByteArray(20'000'000, ' '));
     addChunk(1, "{\\rtf1 y}");
     overlapping.method = ZipWriter::Method::Deflated;
-    EXPECT_EQ(readDocx(withChunksInOnePlace(overlapping.bytes())).value().string(), QStringLiteral("x\nx\n"));
+    EXPECT_EQ(readWordDocument(withChunksInOnePlace(overlapping.bytes())).value().string(),
+        QStringLiteral("x\nx\n"));
     for (int number = 2; number < 40; ++number)
         addChunk(number, {});
     const QByteArray archive = withChunksInOnePlace(overlapping.bytes());
@@ -158,7 +159,8 @@ TEST(HostilePackage, WithPartsOfAFalseLengthIsDamagedOrComplete)
     const QByteArray contents = document(textParagraph("text"));
     for (const auto method : {ZipWriter::Method::Stored, ZipWriter::Method::Deflated}) {
         for (const quint32 claimed : {0U, 10U, 100'000U, 0xFFFFFFFEU}) {
-            const auto text = readDocx(withMainPart(contents, {.method = method, .claimedLength = claimed}));
+            const auto text =
+                readWordDocument(withMainPart(contents, {.method = method, .claimedLength = claimed}));
             EXPECT_TRUE(text ? text.value().string() == QStringLiteral("text\n")
                              : text.error().cause == Cause::Damaged)
                 << claimed;
@@ -182,7 +184,7 @@ TEST(HostilePackage, NestedTooDeeplyIsRefused)
         return withMainPart(
             document(open + textParagraph("core") + QByteArray("</w:tc></w:tr></w:tbl>").repeated(depth)));
     };
-    EXPECT_EQ(readDocx(nested(600)).value().string(), QStringLiteral("core\n"));
+    EXPECT_EQ(readWordDocument(nested(600)).value().string(), QStringLiteral("core\n"));
     EXPECT_EQ(causeFor(nested(100'000)), Cause::TooComplex);
 }
 
@@ -231,9 +233,9 @@ TEST(HostilePackage, WithExternalRelationshipsReadsNothingOutside)
 TEST(HostilePackage, CutOffAnywhereIsAnError)
 {
     const QByteArray sound = soundDocument();
-    ASSERT_EQ(readDocx(sound).value().string(), QStringLiteral("one\nnote\n"));
+    ASSERT_EQ(readWordDocument(sound).value().string(), QStringLiteral("one\nnote\n"));
     for (qsizetype length = 0; length < sound.size(); ++length)
-        EXPECT_FALSE(readDocx(sound.first(length)).hasValue()) << length;
+        EXPECT_FALSE(readWordDocument(sound.first(length)).hasValue()) << length;
 }
 
 TEST(HostilePackage, WithAByteChangedIsReadOrRefused)
@@ -245,7 +247,7 @@ TEST(HostilePackage, WithAByteChangedIsReadOrRefused)
         QByteArray changed = sound;
         changed[static_cast<qsizetype>(random() % static_cast<size_t>(sound.size()))] =
             static_cast<char>(random());
-        refused += readDocx(changed) ? 0 : 1;
+        refused += readWordDocument(changed) ? 0 : 1;
     }
     EXPECT_GT(refused, 1'000); // because of the checksums
 }

@@ -15,7 +15,7 @@ protected:
     static QString read(const LibreOffice::Document &document)
     {
         const QByteArray bytes = LibreOffice::convert(document, QStringLiteral("docx"), world().root());
-        const Result<AttributedString, DocumentError> text = readDocx(bytes);
+        const Result<AttributedString, DocumentError> text = readWordDocument(bytes);
         return text ? text.value().string() : causeText(text.error());
     }
 

@@ -29,7 +29,7 @@ QByteArray packageWithMainPart(const QByteArray &name, const QByteArray &target,
 
 QString read(const QByteArray &bytes)
 {
-    const Result<AttributedString, DocumentError> text = readDocx(bytes);
+    const Result<AttributedString, DocumentError> text = readWordDocument(bytes);
     return text ? text.value().string() : causeText(text.error());
 }
 
@@ -43,7 +43,7 @@ TEST(DocxPackage, IsRecognizedByItsMainPart)
     WordPackage sheet = hello;
     sheet.mainType = "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml";
     EXPECT_FALSE(looksLikeDocx(sheet.bytes()));
-    EXPECT_EQ(readDocx(sheet.bytes()).error().cause, Cause::WrongKind);
+    EXPECT_EQ(readWordDocument(sheet.bytes()).error().cause, Cause::WrongKind);
     ZipWriter zip;
     zip.add({"word/document.xml", hello.mainPart()});
     EXPECT_FALSE(looksLikeDocx(zip.archive()));
@@ -70,7 +70,7 @@ TEST(DocxPackage, MayBeStrict)
     WordPackage document{.body = paragraph(run("strict", "<w:sz w:val='14pt'/>"), "<w:ind w:start='1cm'/>")};
     document.wordNamespace = "http://purl.oclc.org/ooxml/wordprocessingml/main";
     document.relationshipsNamespace = "http://purl.oclc.org/ooxml/officeDocument/relationships";
-    const Result<AttributedString, DocumentError> text = readDocx(document.bytes());
+    const Result<AttributedString, DocumentError> text = readWordDocument(document.bytes());
     ASSERT_EQ(text.value().string(), QStringLiteral("strict\n"));
     EXPECT_EQ(text.value().attributesAt(0).font->pointSize, 14);
     EXPECT_NEAR(text.value().attributesAt(0).paragraphStyle.headIndent, 28.35, 0.01);
@@ -126,7 +126,7 @@ TEST(DocxPackage, HasItsStylesAtTheTargetOfTheRelationship)
             "application/vnd.openxmlformats-officedocument.wordprocessingml.styles+xml",
             "<w:styles xmlns:w='http://schemas.openxmlformats.org/wordprocessingml/2006/main'><w:docDefaults>"
             "<w:rPrDefault><w:rPr><w:sz w:val='66'/></w:rPr></w:rPrDefault></w:docDefaults></w:styles>"}}};
-    EXPECT_EQ(readDocx(document.bytes()).value().attributesAt(0).font->pointSize, 33);
+    EXPECT_EQ(readWordDocument(document.bytes()).value().attributesAt(0).font->pointSize, 33);
 }
 
 TEST(DocxPackage, ReadsWithoutPartsThatOnlyDescribeTheFormat)
@@ -163,15 +163,15 @@ TEST(DocxPackage, ThatIsEncryptedIsReportedAsSuch)
 {
     QByteArray compound("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     compound.resize(1024, '\0');
-    EXPECT_EQ(readDocx(compound).error().cause, Cause::OldFormat);
+    EXPECT_EQ(readWordDocument(compound).error().cause, Cause::OldFormat);
     EXPECT_FALSE(looksLikeDocx(compound));
     const char16_t name[] = u"EncryptedPackage";
     compound.append(reinterpret_cast<const char *>(name), sizeof name);
-    EXPECT_EQ(readDocx(compound).error().cause, Cause::Encrypted);
+    EXPECT_EQ(readWordDocument(compound).error().cause, Cause::Encrypted);
     EXPECT_TRUE(looksLikeDocx(compound));
     for (const char16_t *otherCase : {u"ENCRYPTEDPACKAGE", u"encryptedPackage"}) {
         compound.replace(1024, sizeof name, reinterpret_cast<const char *>(otherCase), sizeof name);
-        EXPECT_EQ(readDocx(compound).error().cause, Cause::Encrypted);
+        EXPECT_EQ(readWordDocument(compound).error().cause, Cause::Encrypted);
     }
     EXPECT_EQ(causeText({Cause::Encrypted, DocumentKind::WordDocument}),
         QStringLiteral("is encrypted; save it without a password"));
@@ -185,7 +185,7 @@ TEST(DocxPackage, OfBefore2007IsNotEncryptedBecauseOfAWordInItsText)
     const char16_t name[] = u"EncryptedPackageOfMine";
     compound.append(reinterpret_cast<const char *>(text), sizeof text).resize(2048, '\0');
     compound.append(reinterpret_cast<const char *>(name), sizeof name);
-    EXPECT_EQ(readDocx(compound).error().cause, Cause::OldFormat);
+    EXPECT_EQ(readWordDocument(compound).error().cause, Cause::OldFormat);
 }
 
 TEST(DocxPackage, WithAnEncryptedPartIsReportedAsEncrypted)
@@ -193,12 +193,12 @@ TEST(DocxPackage, WithAnEncryptedPartIsReportedAsEncrypted)
     ZipWriter zip;
     for (const char *name : {"[Content_Types].xml", "_rels/.rels", "word/document.xml"})
         zip.add({.name = name, .contents = "0123456789ABCDEF", .isEncrypted = true});
-    EXPECT_EQ(readDocx(zip.archive()).error().cause, Cause::Encrypted);
+    EXPECT_EQ(readWordDocument(zip.archive()).error().cause, Cause::Encrypted);
 }
 
 TEST(DocxPackage, ThatIsNoWordDocumentIsReportedAsSuch)
 {
-    EXPECT_EQ(readDocx({}).error().cause, Cause::WrongKind);
-    EXPECT_EQ(readDocx("{\\rtf1 text}").error().cause, Cause::WrongKind);
-    EXPECT_EQ(readDocx("PK\x03\x04").error().cause, Cause::Damaged);
+    EXPECT_EQ(readWordDocument({}).error().cause, Cause::WrongKind);
+    EXPECT_EQ(readWordDocument("{\\rtf1 text}").error().cause, Cause::WrongKind);
+    EXPECT_EQ(readWordDocument("PK\x03\x04").error().cause, Cause::Damaged);
 }

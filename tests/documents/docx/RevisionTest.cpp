@@ -82,16 +82,16 @@ TEST(DocxRevisions, DropDeletedRowsAndCells)
 TEST(DocxRevisions, GiveAJoinedParagraphTheStyleOfTheMarkThatIsLeft)
 {
     const Result<AttributedString, DocumentError> text =
-        readDocx(WordPackage{.body = paragraph(run("one "), "<w:jc w:val='center'/>" + deletedMark)
+        readWordDocument(WordPackage{.body = paragraph(run("one "), "<w:jc w:val='center'/>" + deletedMark)
                 + paragraph(run("two"), "<w:jc w:val='right'/>")}
-                     .bytes());
+                             .bytes());
     ASSERT_EQ(text.value().string(), QStringLiteral("one two\n"));
     EXPECT_EQ(text.value().attributesAt(0).paragraphStyle.alignment, TextAlignment::Right);
 }
 
 TEST(DocxRevisions, IgnoreTheFormerPropertiesOfChanges)
 {
-    const Result<AttributedString, DocumentError> text = readDocx(
+    const Result<AttributedString, DocumentError> text = readWordDocument(
         WordPackage{.body = paragraph("<w:r><w:rPr><w:sz w:val='40'/><w:rPrChange w:id='1'><w:rPr><w:vanish/>"
                                       "<w:sz w:val='20'/></w:rPr></w:rPrChange></w:rPr><w:t>a</w:t></w:r>",
                         "<w:jc w:val='center'/><w:pPrChange w:id='2'><w:pPr><w:jc w:val='right'/></w:pPr>"

@@ -234,7 +234,7 @@ TEST(DocxText, IgnoresTheStoredStatistics)
     EXPECT_EQ(textOf(document), QStringLiteral("one\n"));
     ZipWriter damaged = WordPackage{.body = textParagraph("one")}.writer();
     damaged.add({.name = "docProps/app.xml", .contents = "<Properties><Words>"});
-    EXPECT_EQ(readDocx(damaged.archive()).value().string(), QStringLiteral("one\n"));
+    EXPECT_EQ(readWordDocument(damaged.archive()).value().string(), QStringLiteral("one\n"));
 }
 
 TEST(DocxText, ReadsAMisplacedParagraph)

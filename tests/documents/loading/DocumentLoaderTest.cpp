@@ -20,7 +20,7 @@ constexpr qint64 mebibyte = 1'048'576;
 
 class DocumentLoader : public QuillbayTest {
 protected:
-    static QByteArray written(const char *name, const QByteArray &contents)
+    static QByteArray writeDocument(const char *name, const QByteArray &contents)
     {
         return QFile::encodeName(writeFile(QString::fromLatin1(name), contents));
     }
@@ -30,24 +30,26 @@ protected:
 
 TEST_F(DocumentLoader, APlainTextBecomesOneRunWithoutAttributes)
 {
-    const QByteArray path = written("text.txt", SampleTexts::german.toUtf8());
+    const QByteArray path = writeDocument("text.txt", SampleTexts::german.toUtf8());
     EXPECT_EQ(loadDocument(path).value(), AttributedString(SampleTexts::german));
 }
 
 TEST_F(DocumentLoader, AnEmptyFileIsAnEmptyText)
 {
-    EXPECT_TRUE(loadDocument(written("empty.txt", {})).value().isEmpty());
+    EXPECT_TRUE(loadDocument(writeDocument("empty.txt", {})).value().isEmpty());
 }
 
 TEST_F(DocumentLoader, AnyEncodingIsRead)
 {
-    const QByteArray path = written("text.txt", SampleTexts::encodeText(SampleTexts::japanese, "Shift_JIS"));
+    const QByteArray path =
+        writeDocument("text.txt", SampleTexts::encodeText(SampleTexts::japanese, "Shift_JIS"));
     EXPECT_EQ(loadDocument(path).value().string(), SampleTexts::japanese);
 }
 
 TEST_F(DocumentLoader, AnOpenDescriptorIsReadFromItsPosition)
 {
-    const int descriptor = ::open(written("text.txt", "first\nsecond\n").constData(), O_RDONLY | O_CLOEXEC);
+    const int descriptor =
+        ::open(writeDocument("text.txt", "first\nsecond\n").constData(), O_RDONLY | O_CLOEXEC);
     ASSERT_EQ(::lseek(descriptor, 6, SEEK_SET), 6);
     EXPECT_EQ(loadDocument(descriptor).value().string(), QStringLiteral("second\n"));
     ::close(descriptor);
@@ -55,8 +57,8 @@ TEST_F(DocumentLoader, AnOpenDescriptorIsReadFromItsPosition)
 
 TEST_F(DocumentLoader, BytesInMemoryAreADocumentToo)
 {
-    EXPECT_EQ(documentFromBytes("one two").value(), AttributedString(QStringLiteral("one two")));
-    EXPECT_TRUE(documentFromBytes({}).value().isEmpty());
+    EXPECT_EQ(readBytes("one two").value(), AttributedString(QStringLiteral("one two")));
+    EXPECT_TRUE(readBytes({}).value().isEmpty());
 }
 
 TEST_F(DocumentLoader, AFileThatCannotBeReadSaysWhy)
@@ -68,17 +70,17 @@ TEST_F(DocumentLoader, AFileThatCannotBeReadSaysWhy)
 
 TEST_F(DocumentLoader, RtfIsReadWithItsStyles)
 {
-    const AttributedString text = loadDocument(written("text.rtf", R"({\rtf1 one {\b two}})")).value();
+    const AttributedString text = loadDocument(writeDocument("text.rtf", R"({\rtf1 one {\b two}})")).value();
     EXPECT_EQ(text.string(), QStringLiteral("one two"));
     EXPECT_EQ(text.attributesAt(5).font->weight, 700);
-    EXPECT_EQ(documentFromBytes(R"({\rtf1 one})").value().string(), QStringLiteral("one"));
+    EXPECT_EQ(readBytes(R"({\rtf1 one})").value().string(), QStringLiteral("one"));
 }
 
 TEST_F(DocumentLoader, AnRtfdFolderIsReadWithItsAttachments)
 {
-    written("text.rtfd/sun.png", "bytes of a picture");
+    writeDocument("text.rtfd/sun.png", "bytes of a picture");
     const QByteArray rtf =
-        written("text.rtfd/TXT.rtf", R"({\rtf1 a{{\NeXTGraphic sun.png \width0\height0}\'ac}b})");
+        writeDocument("text.rtfd/TXT.rtf", R"({\rtf1 a{{\NeXTGraphic sun.png \width0\height0}\'ac}b})");
     const AttributedString text = loadDocument(rtf.chopped(qstrlen("/TXT.rtf"))).value();
     EXPECT_EQ(text.string(), QStringLiteral("a\uFFFCb"));
     ASSERT_NE(text.attributesAt(1).attachment, nullptr);
@@ -88,27 +90,28 @@ TEST_F(DocumentLoader, AnRtfdFolderIsReadWithItsAttachments)
 TEST_F(DocumentLoader, AFileOfFlatRtfdIsRead)
 {
     const AttributedString text(QStringLiteral("one two"));
-    const QByteArray path = written("text.rtfd", RTFDFromRange(text, 0, text.length()).value());
+    const QByteArray path = writeDocument("text.rtfd", RTFDFromRange(text, 0, text.length()).value());
     EXPECT_EQ(loadDocument(path).value(), text);
 }
 
 TEST_F(DocumentLoader, AWebPageIsRead)
 {
     const QByteArray page = "<!DOCTYPE html><p>one<p>two";
-    EXPECT_EQ(loadDocument(written("page.html", page)).value().string(), QStringLiteral("one\n\ntwo"));
-    EXPECT_EQ(documentFromBytes(page).value().string(), QStringLiteral("one\n\ntwo"));
+    EXPECT_EQ(loadDocument(writeDocument("page.html", page)).value().string(), QStringLiteral("one\n\ntwo"));
+    EXPECT_EQ(readBytes(page).value().string(), QStringLiteral("one\n\ntwo"));
 }
 
 TEST_F(DocumentLoader, AWordDocumentIsRead)
 {
     const QByteArray document = WordPackage{.body = "<w:p><w:r><w:t>one two</w:t></w:r></w:p>"}.bytes();
-    EXPECT_EQ(loadDocument(written("report.docx", document)).value().string(), QStringLiteral("one two\n"));
-    EXPECT_EQ(documentFromBytes(document).value().string(), QStringLiteral("one two\n"));
+    EXPECT_EQ(
+        loadDocument(writeDocument("report.docx", document)).value().string(), QStringLiteral("one two\n"));
+    EXPECT_EQ(readBytes(document).value().string(), QStringLiteral("one two\n"));
 }
 
 TEST_F(DocumentLoader, ANameOfAWordDocumentWithOtherBytesFailsWithTheCause)
 {
-    const auto error = loadDocument(written("report.docx", "Some words.")).error();
+    const auto error = loadDocument(writeDocument("report.docx", "Some words.")).error();
     EXPECT_EQ(error, DocumentError(Cause::WrongKind, DocumentKind::WordDocument));
     EXPECT_EQ(causeText(error), QStringLiteral("is not a Word document"));
 }
@@ -116,7 +119,7 @@ TEST_F(DocumentLoader, ANameOfAWordDocumentWithOtherBytesFailsWithTheCause)
 TEST_F(DocumentLoader, AFailureOfAReaderComesWithItsCause)
 {
     const QByteArray damaged = QByteArray("rtfd\0\0\0\0\3\0\0\0\xff\xff\xff\xff", 16);
-    const auto error = documentFromBytes(damaged).error();
+    const auto error = readBytes(damaged).error();
     EXPECT_EQ(error, DocumentError(Cause::Damaged, DocumentKind::Rtfd));
     EXPECT_EQ(causeText(error), QStringLiteral("is a damaged RTFD; save it again"));
 }
@@ -126,7 +129,7 @@ TEST_F(DocumentLoader, AProcessThatHasMemoryForTheBytesOnlySaysSo)
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";
 #endif
-    const QByteArray path = written("sparse", {});
+    const QByteArray path = writeDocument("sparse", {});
     ASSERT_EQ(::truncate(path.constData(), 150 * mebibyte), 0);
     const auto loadUnder = [&](qint64 mebibytes) {
         ChildProcess loader(testProgram(QStringLiteral("load_document")));

@@ -22,7 +22,7 @@ const QByteArray rtfWithPicture = "{\\rtf1 seen {{\\NeXTGraphic a.png \\width10 
 
 class RepeatedLoaderTest : public QuillbayTest {
 protected:
-    static QByteArray written(const char *name, const QByteArray &contents)
+    static QByteArray writeDocument(const char *name, const QByteArray &contents)
     {
         return QFile::encodeName(writeFile(QString::fromLatin1(name), contents));
     }
@@ -33,20 +33,20 @@ protected:
 
 TEST_F(RepeatedLoaderTest, UnchangedBytesAreMadeATextOnce)
 {
-    const QByteArray path = written("f.txt", "one");
+    const QByteArray path = writeDocument("f.txt", "one");
     const AttributedString first = load(path);
-    written("f.txt", "one");
+    writeDocument("f.txt", "one");
     EXPECT_TRUE(isSameText(load(path), first));
     EXPECT_EQ(first, loadDocument(path).value());
 }
 
 TEST_F(RepeatedLoaderTest, OtherBytesAreLoadedThoughTheirSizeAndTimesAreTheSame)
 {
-    const QByteArray path = written("f.txt", "one");
+    const QByteArray path = writeDocument("f.txt", "one");
     struct stat status;
     ASSERT_EQ(::stat(path.constData(), &status), 0);
     load(path);
-    written("f.txt", "two");
+    writeDocument("f.txt", "two");
     const timespec times[] = {status.st_atim, status.st_mtim};
     ASSERT_EQ(::utimensat(AT_FDCWD, path.constData(), times, 0), 0);
     EXPECT_EQ(load(path).string(), QStringLiteral("two"));
@@ -55,25 +55,25 @@ TEST_F(RepeatedLoaderTest, OtherBytesAreLoadedThoughTheirSizeAndTimesAreTheSame)
 TEST_F(RepeatedLoaderTest, TheSameBytesUnderAnotherNameMayBeAnotherKind)
 {
     const QByteArray contents = "<p>one";
-    EXPECT_EQ(load(written("f.txt", contents)).string(), QStringLiteral("<p>one"));
-    const QByteArray page = written("f.html", contents);
+    EXPECT_EQ(load(writeDocument("f.txt", contents)).string(), QStringLiteral("<p>one"));
+    const QByteArray page = writeDocument("f.html", contents);
     EXPECT_EQ(load(page), loadDocument(page).value());
     EXPECT_NE(load(page).string(), QStringLiteral("<p>one"));
 }
 
 TEST_F(RepeatedLoaderTest, AFailureIsNoText)
 {
-    const QByteArray path = written("f.txt", "one");
+    const QByteArray path = writeDocument("f.txt", "one");
     load(path);
     ASSERT_TRUE(QFile::remove(QFile::decodeName(path)));
     EXPECT_EQ(causeText(m_loader.load(path).error()), QStringLiteral("no such file"));
-    written("f.txt", "two");
+    writeDocument("f.txt", "two");
     EXPECT_EQ(load(path).string(), QStringLiteral("two"));
 }
 
 TEST_F(RepeatedLoaderTest, WhatIsForgottenIsLoadedAnew)
 {
-    const QByteArray path = written("f.txt", "one");
+    const QByteArray path = writeDocument("f.txt", "one");
     const AttributedString first = load(path);
     m_loader.forget();
     EXPECT_FALSE(isSameText(load(path), first));
@@ -82,10 +82,10 @@ TEST_F(RepeatedLoaderTest, WhatIsForgottenIsLoadedAnew)
 TEST_F(RepeatedLoaderTest, TheTextOfALargeDocumentIsNotKept)
 {
     m_loader = RepeatedLoader(4);
-    const QByteArray path = written("f.txt", "1234");
+    const QByteArray path = writeDocument("f.txt", "1234");
     const AttributedString small = load(path);
     EXPECT_TRUE(isSameText(load(path), small));
-    written("f.txt", "12345");
+    writeDocument("f.txt", "12345");
     const AttributedString large = load(path);
     EXPECT_EQ(large.string(), QStringLiteral("12345"));
     EXPECT_FALSE(isSameText(load(path), large));
@@ -93,13 +93,13 @@ TEST_F(RepeatedLoaderTest, TheTextOfALargeDocumentIsNotKept)
 
 TEST_F(RepeatedLoaderTest, APackageIsTheSameAsLongAsAllItsFilesAre)
 {
-    written("f.rtfd/TXT.rtf", rtfWithPicture);
-    const QByteArray picture = written("f.rtfd/a.png", "one");
+    writeDocument("f.rtfd/TXT.rtf", rtfWithPicture);
+    const QByteArray picture = writeDocument("f.rtfd/a.png", "one");
     const QByteArray path = picture.first(picture.lastIndexOf('/'));
     const AttributedString first = load(path);
     EXPECT_EQ(first, loadDocument(path).value());
     EXPECT_TRUE(isSameText(load(path), first));
-    written("f.rtfd/a.png", "two");
+    writeDocument("f.rtfd/a.png", "two");
     const AttributedString second = load(path);
     EXPECT_EQ(second, loadDocument(path).value());
     EXPECT_NE(second, first);
@@ -112,9 +112,9 @@ TEST_F(RepeatedLoaderTest, APackageIsTheSameAsLongAsAllItsFilesAre)
 
 TEST_F(RepeatedLoaderTest, ThePictureBehindASymbolicLinkCountsByWhereItLies)
 {
-    written("f.rtfd/TXT.rtf", rtfWithPicture);
-    const QByteArray inside = written("f.rtfd/b.png", "one");
-    const QByteArray outside = written("b.png", "one");
+    writeDocument("f.rtfd/TXT.rtf", rtfWithPicture);
+    const QByteArray inside = writeDocument("f.rtfd/b.png", "one");
+    const QByteArray outside = writeDocument("b.png", "one");
     const QByteArray path = inside.first(inside.lastIndexOf('/'));
     const QString link = QFile::decodeName(path) + QStringLiteral("/a.png");
     ASSERT_TRUE(QFile::link(QFile::decodeName(inside), link));
@@ -128,12 +128,12 @@ TEST_F(RepeatedLoaderTest, ThePictureBehindASymbolicLinkCountsByWhereItLies)
 TEST_F(RepeatedLoaderTest, TheTextOfALargePackageIsNotKept)
 {
     m_loader = RepeatedLoader(rtfWithPicture.size() + 2);
-    const QByteArray rtf = written("f.rtfd/TXT.rtf", rtfWithPicture);
+    const QByteArray rtf = writeDocument("f.rtfd/TXT.rtf", rtfWithPicture);
     const QByteArray path = rtf.first(rtf.lastIndexOf('/'));
-    written("f.rtfd/a.png", "12");
+    writeDocument("f.rtfd/a.png", "12");
     const AttributedString small = load(path);
     EXPECT_TRUE(isSameText(load(path), small));
-    written("f.rtfd/a.png", "123");
+    writeDocument("f.rtfd/a.png", "123");
     const AttributedString large = load(path);
     EXPECT_EQ(large, loadDocument(path).value());
     EXPECT_FALSE(isSameText(load(path), large));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The same content in every format that has tables and lists has the same text.
-#include "documents/docx/DocxReader.h"
 #include "documents/html/HtmlReader.h"
+#include "documents/loading/DocumentReader.h"
 #include "documents/rtf/RtfReader.h"
 
 #include "tests/documents/docx/PackageWriter.h"
@@ -37,7 +37,10 @@ struct SameContent {
 void expectSameTexts(const SameContent &content)
 {
     EXPECT_EQ(readRtf("{\\rtf1 " + content.rtf + "}").value().string(), content.text + u'\n');
-    EXPECT_EQ(readDocx(WordPackage{.body = content.wordBody}.bytes()).value().string(), content.text + u'\n');
+    EXPECT_EQ(readDocument(DocumentKind::WordDocument, WordPackage{.body = content.wordBody}.bytes())
+                  .value()
+                  .string(),
+        content.text + u'\n');
     EXPECT_EQ(readHtml(content.htmlBody).value().string(), content.text);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// PDF files that LibreOffice has written, held against the text that it writes itself.
+// PDF files of LibreOffice, compared with its own text export.
 #include "tests/documents/LibreOffice.h"
 #include "documents/pdf/PdfReader.h"
 #include "tests/harness/QuillbayTest.h"

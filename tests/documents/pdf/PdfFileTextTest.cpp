@@ -14,7 +14,7 @@ using QBYExtension::attributedStringFromPDFFileURL;
 
 class PdfFileText : public QuillbayTest {
 protected:
-    static QUrl written(const QByteArray &bytes)
+    static QUrl writePdf(const QByteArray &bytes)
     {
         return QUrl::fromLocalFile(writeFile(QStringLiteral("file.pdf"), bytes));
     }
@@ -30,19 +30,19 @@ protected:
 
 } // namespace
 
-TEST_F(PdfFileText, IsThatOfItsPagesWithNothingBetweenThem)
+TEST_F(PdfFileText, IsThatOfItsPagesWithoutSeparators)
 {
     const RecordingLogSink log;
     const auto text =
-        attributedStringFromPDFFileURL(written(PdfWriter{{"one\ntwo", "three", "four"}}.bytes()));
+        attributedStringFromPDFFileURL(writePdf(PdfWriter{{"one\ntwo", "three", "four"}}.bytes()));
     ASSERT_TRUE(text.has_value());
     EXPECT_EQ(*text, AttributedString(QStringLiteral("one\r\ntwo\r\nthree\r\nfour\r\n")));
     EXPECT_TRUE(log.messages().isEmpty());
 }
 
-TEST_F(PdfFileText, IsEmptyWhereItsPagesAre)
+TEST_F(PdfFileText, IsEmptyWhereThePagesAreEmpty)
 {
-    const auto text = attributedStringFromPDFFileURL(written(PdfWriter{{"", ""}}.bytes()));
+    const auto text = attributedStringFromPDFFileURL(writePdf(PdfWriter{{"", ""}}.bytes()));
     ASSERT_TRUE(text.has_value());
     EXPECT_TRUE(text->isEmpty());
 }
@@ -55,14 +55,14 @@ TEST_F(PdfFileText, HasItsPagesInOrderHoweverManyThereAre)
         book.pages.append("page " + QByteArray::number(page) + ".");
         expected += QStringLiteral("page %1.\r\n").arg(page);
     }
-    const auto text = attributedStringFromPDFFileURL(written(book.bytes()));
+    const auto text = attributedStringFromPDFFileURL(writePdf(book.bytes()));
     ASSERT_TRUE(text.has_value());
     EXPECT_TRUE(text->string() == expected);
 }
 
 TEST_F(PdfFileText, IsAbsentWithoutPages)
 {
-    expectNoPages(written(PdfWriter{}.bytes()));
+    expectNoPages(writePdf(PdfWriter{}.bytes()));
 }
 
 TEST_F(PdfFileText, IsAbsentWhereTheFileCannotBeRead)
@@ -79,14 +79,14 @@ TEST_F(PdfFileText, IsAbsentWhereTheFileCannotBeRead)
 TEST_F(PdfFileText, IsAbsentWhereTheFileIsEncrypted)
 {
     expectNoPages(
-        written(PdfWriter{.pages = {"secret"}, .encryption = PdfWriter::Encryption::WithPassword}.bytes()));
+        writePdf(PdfWriter{.pages = {"secret"}, .encryption = PdfWriter::Encryption::WithPassword}.bytes()));
 }
 
-TEST_F(PdfFileText, IsAbsentWhereTheFileIsNoneOfPdf)
+TEST_F(PdfFileText, IsAbsentWhereTheFileIsNotPdf)
 {
-    expectNoPages(written({}));
-    expectNoPages(written("{\\rtf1 text}"));
-    expectNoPages(written("%PDF-1.4\n"));
+    expectNoPages(writePdf({}));
+    expectNoPages(writePdf("{\\rtf1 text}"));
+    expectNoPages(writePdf("%PDF-1.4\n"));
 }
 
 TEST_F(PdfFileText, OfADamagedFileIsWhatIsLeftOrAbsent)
@@ -94,13 +94,13 @@ TEST_F(PdfFileText, OfADamagedFileIsWhatIsLeftOrAbsent)
     const RecordingLogSink log;
     const QByteArray whole = PdfWriter{{"some text"}}.bytes();
     for (qsizetype length = 0; length < whole.size(); length += 7) {
-        const auto text = attributedStringFromPDFFileURL(written(whole.first(length)));
+        const auto text = attributedStringFromPDFFileURL(writePdf(whole.first(length)));
         EXPECT_TRUE(!text || QStringLiteral("some text\r\n").startsWith(text->string())) << length;
     }
     QByteArray withoutTable = whole;
     withoutTable.replace("xref", "xxxx");
     EXPECT_EQ(
-        attributedStringFromPDFFileURL(written(withoutTable))->string(), QStringLiteral("some text\r\n"));
+        attributedStringFromPDFFileURL(writePdf(withoutTable))->string(), QStringLiteral("some text\r\n"));
 }
 
 TEST_F(PdfFileText, NeedsNoApplicationAndNoScreen)

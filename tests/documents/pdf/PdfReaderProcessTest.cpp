@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program that reads PDF files as a process: how it runs, and what becomes of a reading when it does not.
+// The process that reads a PDF file: how it runs, and what a failure of it means.
 #include "documents/pdf/PdfReader.h"
 #include "tests/documents/pdf/PdfWriter.h"
 #include "tests/harness/QuillbayTest.h"
@@ -23,7 +23,7 @@ class PdfReaderProcess : public QuillbayTest {
 protected:
     using Text = Result<AttributedString, DocumentError>;
 
-    /// A file that takes seconds.
+    /// A file that takes seconds to read.
     static QByteArray longFile()
     {
         const QByteArray page = QByteArray("a\n").repeated(200'000);
@@ -45,8 +45,8 @@ protected:
         return text ? std::nullopt : std::optional(text.error().cause);
     }
 
-    /// What the system tells of a process that may end meanwhile; then it is empty.
-    static QByteArray told(pid_t process, const char *name)
+    /// A file of the process below /proc; empty where the process has ended.
+    static QByteArray procFile(pid_t process, const char *name)
     {
         QFile file(QStringLiteral("/proc/%1/%2").arg(process).arg(QLatin1String(name)));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -54,13 +54,13 @@ protected:
 
     static QByteArray statusOf(pid_t process, const QByteArray &name)
     {
-        for (const QByteArray &line : told(process, "status").split('\n'))
+        for (const QByteArray &line : procFile(process, "status").split('\n'))
             if (line.startsWith(name + ":\t"))
                 return line.sliced(name.size() + 2);
         return {};
     }
 
-    /// The reader that the process has started, once it is in its sandbox; 0 where none comes.
+    /// The reader that the process has started, once it is in its sandbox; 0 after a timeout.
     static pid_t confinedReader(qint64 parent = ::getpid())
     {
         pid_t reader = 0;
@@ -77,7 +77,7 @@ protected:
         return reader;
     }
 
-    static std::future<Text> readingOf(const QByteArray &file, const PdfLimits &limits = {})
+    static std::future<Text> startReading(const QByteArray &file, const PdfLimits &limits = {})
     {
         return std::async(std::launch::async, [file, limits] { return readPdf(file, limits); });
     }
@@ -92,13 +92,13 @@ TEST_F(PdfReaderProcess, LiesBesideTheProgramThatRuns)
 
 TEST_F(PdfReaderProcess, IsConfinedWhileItReads)
 {
-    std::future<Text> reading = readingOf(longFile());
+    std::future<Text> reading = startReading(longFile());
     const pid_t reader = confinedReader();
     ASSERT_NE(reader, 0);
     EXPECT_EQ(statusOf(reader, "NoNewPrivs"), "1");
     EXPECT_EQ(statusOf(reader, "Name"), "quillbay-pdf-re");
     EXPECT_EQ(statusOf(reader, "Threads"), "1");
-    const QByteArray limits = told(reader, "limits").simplified();
+    const QByteArray limits = procFile(reader, "limits").simplified();
     EXPECT_TRUE(limits.contains("Max file size 0 0")) << limits.constData();
     EXPECT_TRUE(limits.contains("Max processes 0 0"));
     EXPECT_TRUE(limits.contains("Max core file size 0 0"));
@@ -110,11 +110,11 @@ TEST_F(PdfReaderProcess, IsConfinedWhileItReads)
     reading.wait();
 }
 
-TEST_F(PdfReaderProcess, KilledInTheMiddleGivesNoHalfText)
+TEST_F(PdfReaderProcess, KilledInTheMiddleGivesNoText)
 {
-    std::future<Text> reading = readingOf(longFile());
+    std::future<Text> reading = startReading(longFile());
     const pid_t reader = confinedReader();
-    ASSERT_NE(reader, 0); // which would be this group of processes
+    ASSERT_NE(reader, 0); // kill(0) would end this group of processes
     ASSERT_EQ(::kill(reader, SIGKILL), 0);
     const Text text = reading.get();
     ASSERT_FALSE(text.hasValue());
@@ -128,7 +128,7 @@ TEST_F(PdfReaderProcess, EndsWithTheProgramThatStartedIt)
     program.start({QFile::encodeName(file)});
     const pid_t reader = confinedReader(program.processIdentifier());
     ASSERT_NE(reader, 0);
-    ASSERT_EQ(::kill(reader, SIGSTOP), 0); // it does not come to an end by itself
+    ASSERT_EQ(::kill(reader, SIGSTOP), 0); // it cannot exit by itself
     program.kill();
     EXPECT_TRUE(waitUntil([reader] {
         const QByteArray state = statusOf(reader, "State");
@@ -138,7 +138,7 @@ TEST_F(PdfReaderProcess, EndsWithTheProgramThatStartedIt)
 
 TEST_F(PdfReaderProcess, ThatHangsIsKilled)
 {
-    std::future<Text> reading = readingOf(longFile(), {.time = 4s, .timeout = 1});
+    std::future<Text> reading = startReading(longFile(), {.time = 4s, .timeout = 1});
     const pid_t reader = confinedReader();
     ASSERT_NE(reader, 0);
     ASSERT_EQ(::kill(reader, SIGSTOP), 0);
@@ -148,7 +148,7 @@ TEST_F(PdfReaderProcess, ThatHangsIsKilled)
     EXPECT_EQ(::kill(reader, 0), -1);
 }
 
-TEST_F(PdfReaderProcess, ThatHangsBehindItsTextIsKilled)
+TEST_F(PdfReaderProcess, ThatHangsAfterItsTextIsKilled)
 {
     const QByteArray program = script("printf 'h\\0'; exec sleep 1000 >&-");
     EXPECT_EQ(causeWith(program, {.time = 1s, .timeout = 1}), Cause::TooComplex);
@@ -181,7 +181,7 @@ TEST_F(PdfReaderProcess, HasNothingOpenButItsStandardStreams)
     EXPECT_EQ(readFile(open.fileName()), "0\n1\n2\n3\n");
 }
 
-TEST_F(PdfReaderProcess, GetsTheFileAsMemoryThatNobodyCanChange)
+TEST_F(PdfReaderProcess, GetsTheFileAsMemoryThatCannotChange)
 {
     const QByteArray copy = QFile::encodeName(world().root() + QStringLiteral("/copy"));
     const QByteArray program = script("cat /proc/self/fd/0 >'" + copy

@@ -26,7 +26,7 @@ QString textOf(const PdfWriter &file)
     return text ? text.value().string() : causeText(text.error());
 }
 
-/// Of a page that these operators draw.
+/// The text of a page that these operators draw.
 QString textOfDrawing(const QByteArray &operators)
 {
     return textOf({.pages = {operators}, .arePagesDrawn = true});
@@ -68,7 +68,7 @@ TEST(PdfReader, EndsTheLastLineOfEveryPageThatHasText)
     EXPECT_EQ(textOf({{"", ""}}), QString());
 }
 
-TEST(PdfReader, KeepsWordsApartThatATabulatorDivides)
+TEST(PdfReader, KeepsWordsApartThatATabDivides)
 {
     EXPECT_EQ(textOfDrawing("BT /F1 12 Tf 72 720 Td (one\\ttwo) Tj ET"), QStringLiteral("one\ttwo\r\n"));
     EXPECT_EQ(textOfDrawing("BT /F1 12 Tf 72 720 Td (one) Tj 36 0 Td (two) Tj 200 0 Td (three) Tj ET"),
@@ -83,7 +83,7 @@ TEST(PdfReader, JoinsAWordThatAHyphenDividesAtTheEndOfALine)
         QStringLiteral("a hyphen\u00ADated word - and\r\nmore\r\n"));
 }
 
-TEST(PdfReader, ReadsWhatIsEncryptedWithoutAPasswordToOpenIt)
+TEST(PdfReader, ReadsAnEncryptedFileThatOpensWithoutAPassword)
 {
     EXPECT_EQ(textOf({.pages = {"open to all"}, .encryption = Encryption::WithEmptyPassword}),
         QStringLiteral("open to all\r\n"));
@@ -101,7 +101,7 @@ TEST(PdfReader, NamesTheCauseOfAFailure)
         Cause::Encrypted);
 }
 
-TEST(PdfReader, TellsCausesInOneLineWithARemedy)
+TEST(PdfReader, ReportsEveryCauseInOneLineWithARemedy)
 {
     for (const Cause cause : {Cause::Encrypted, Cause::Damaged, Cause::NoPages, Cause::NoText,
              Cause::UnmappedText, Cause::TooComplex, Cause::PdfNotSupported, Cause::NoPdfReader}) {
@@ -111,7 +111,7 @@ TEST(PdfReader, TellsCausesInOneLineWithARemedy)
     }
 }
 
-TEST(PdfReader, EndsWithACauseWhereAFileTakesTooMuchMemory)
+TEST(PdfReader, FailsWhereAFileTakesTooMuchMemory)
 {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "a sanitized program cannot run under a limit of its memory";
@@ -121,21 +121,21 @@ TEST(PdfReader, EndsWithACauseWhereAFileTakesTooMuchMemory)
     EXPECT_EQ(causeFor(bomb, {.memory = 100'000'000}), Cause::TooComplex);
 }
 
-TEST(PdfReader, EndsWithACauseWhereAFileTakesTooMuchTime)
+TEST(PdfReader, FailsWhereAFileTakesTooMuchTime)
 {
     PdfWriter file = pageOfTexts(200'000);
     file.pages = QByteArrayList(20, file.pages.first());
     EXPECT_EQ(causeFor(file.bytes(), {.time = std::chrono::seconds(1)}), Cause::TooComplex);
 }
 
-TEST(PdfReader, EndsWithACauseWhereTheTextIsTooLong)
+TEST(PdfReader, FailsWhereTheTextIsTooLong)
 {
     const QByteArray file = PdfWriter{{"0123456789", "0123456789"}}.bytes();
     EXPECT_EQ(causeFor(file, {.length = 23}), Cause::TooComplex);
     EXPECT_EQ(readPdf(file, {.length = 24}).value().length(), 24);
 }
 
-TEST(PdfReader, BelievesNoNumberOfPages)
+TEST(PdfReader, DoesNotTrustTheNumberOfPages)
 {
     for (const int claimed : {0, 1, 3, 1'000'000, 2'000'000'000}) {
         const Result<AttributedString, DocumentError> text =
@@ -173,15 +173,15 @@ TEST(PdfReader, LeavesNoDescriptorAndNoProcessBehind)
 
 TEST(PdfReader, ReadsInAProgramWhoseStandardStreamsAreClosed)
 {
-    std::array<int, 3> kept{};
+    std::array<int, 3> saved{};
     for (int stream = 0; stream < 3; ++stream) {
-        kept[static_cast<size_t>(stream)] = ::fcntl(stream, F_DUPFD_CLOEXEC, 10);
+        saved[static_cast<size_t>(stream)] = ::fcntl(stream, F_DUPFD_CLOEXEC, 10);
         ::close(stream);
     }
     const QString text = textOf({{"no streams"}});
     for (int stream = 0; stream < 3; ++stream) {
-        ::dup2(kept[static_cast<size_t>(stream)], stream);
-        ::close(kept[static_cast<size_t>(stream)]);
+        ::dup2(saved[static_cast<size_t>(stream)], stream);
+        ::close(saved[static_cast<size_t>(stream)]);
     }
     EXPECT_EQ(text, QStringLiteral("no streams\r\n"));
 }

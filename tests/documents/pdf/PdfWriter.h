@@ -15,7 +15,7 @@ struct PdfWriter {
     bool isCompressed = false;
     bool arePagesDrawn =
         false; ///< pages are the operators that draw them, with the font F1, in place of text
-    int claimedPages = -1; ///< what the file says of their number, where it is a lie
+    int claimedPages = -1; ///< a false number of pages for the file to state; -1: the true one
 
     [[nodiscard]] QByteArray bytes() const;
 };

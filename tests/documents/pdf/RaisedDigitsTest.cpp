@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Raised digits as typesetting programs draw them: smaller, above the line, and the line goes on behind them.
+// Raised digits as typesetting programs draw them: smaller, above the line, and the line continues after
+// them.
 #include "documents/pdf/PdfReader.h"
 #include "tests/documents/pdf/PdfWriter.h"
 #include "tests/harness/QuillbayTest.h"
@@ -65,7 +66,7 @@ TEST(PdfRaisedDigits, StayInTheirLineOnEveryPage)
     EXPECT_EQ(textOf({page, line("(2) Tj"), page}), QStringLiteral("106 grains\r\n2\r\n106 grains\r\n"));
 }
 
-TEST(PdfRaisedDigits, OfAPageWithMoreThanAnyHasAreReadInTime)
+TEST(PdfRaisedDigits, OnAPageWithTooManyOfThemAreReadInTime)
 {
     QByteArray page;
     for (int i = 0; i < 3'000; ++i)

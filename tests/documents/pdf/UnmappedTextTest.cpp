@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/pdf/UnmappedText.h"
+#include "documents/pdf/PdfReader.h"
 
 #include <gtest/gtest.h>
 

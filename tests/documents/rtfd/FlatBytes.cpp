@@ -9,12 +9,12 @@ QByteArray FlatBytes::word(quint32 value)
     return bytes;
 }
 
-QByteArray FlatBytes::counted(const QByteArray &bytes)
+QByteArray FlatBytes::withLength(const QByteArray &bytes)
 {
     return word(static_cast<quint32>(bytes.size())) + bytes;
 }
 
-QByteArray FlatBytes::padded(const QByteArray &bytes, quint32 padding)
+QByteArray FlatBytes::withPaddedLength(const QByteArray &bytes, quint32 padding)
 {
     return word(0x80000000) + word(static_cast<quint32>(bytes.size())) + word(padding)
         + QByteArray(padding, '\0') + bytes;
@@ -22,7 +22,7 @@ QByteArray FlatBytes::padded(const QByteArray &bytes, quint32 padding)
 
 QByteArray FlatBytes::file(const QByteArray &contents)
 {
-    return word(1) + counted(contents);
+    return word(1) + withLength(contents);
 }
 
 QByteArray FlatBytes::folder(const Entries &entries)
@@ -31,7 +31,7 @@ QByteArray FlatBytes::folder(const Entries &entries)
     QByteArray sizes;
     QByteArray blocks;
     for (const auto &[name, block] : entries) {
-        names += counted(name);
+        names += withLength(name);
         sizes += word(static_cast<quint32>(block.size()));
         blocks += block;
     }

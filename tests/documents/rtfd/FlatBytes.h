@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// FlatBytes puts flat RTFDs together word by word, honest ones and others.
+// FlatBytes assembles flat RTFDs word by word, valid ones and damaged ones.
 // Thread: any.
 #pragma once
 
@@ -11,14 +11,14 @@
 namespace FlatBytes {
 
 QByteArray word(quint32 value);
-/// With its length in front.
-QByteArray counted(const QByteArray &bytes);
-/// With its length in front in the long form, so many zeros behind it.
-QByteArray padded(const QByteArray &bytes, quint32 padding);
+/// The bytes after their length.
+QByteArray withLength(const QByteArray &bytes);
+/// The bytes after their length in the long form, with so many bytes of padding.
+QByteArray withPaddedLength(const QByteArray &bytes, quint32 padding);
 
 using Entries = std::initializer_list<std::pair<QByteArray, QByteArray>>;
 
-/// Blocks, to be entries of a folder.
+/// Blocks for the entries of a folder.
 QByteArray file(const QByteArray &contents);
 /// entries: names and blocks.
 QByteArray folder(const Entries &entries);

@@ -52,14 +52,14 @@ TEST(FlatRtfd, TheOrderOfTheEntriesDoesNotMatter)
         textOf(rtfd({{"TXT.rtf", file(rtf)}, {"one.png", file("first")}})));
 }
 
-TEST(FlatRtfd, TheFileOfAttributesIsNotLookedAt)
+TEST(FlatRtfd, TheFileOfAttributesIsIgnored)
 {
     EXPECT_EQ(textOf(rtfd({{"TXT.rtf", file("{\\rtf1 abc}")}, {".", file("nonsense")}})).string(),
         QStringLiteral("abc"));
     EXPECT_EQ(textOf(rtfd({{"TXT.rtf", file("{\\rtf1 abc}")}, {".", {}}})).string(), QStringLiteral("abc"));
 }
 
-TEST(FlatRtfd, BytesBehindTheLastBlockAreNotLookedAt)
+TEST(FlatRtfd, BytesAfterTheLastBlockAreIgnored)
 {
     EXPECT_EQ(textOf(rtfd({{"TXT.rtf", file("{\\rtf1 abc}") + "xyz"}}) + QByteArray(7, '\0')).string(),
         QStringLiteral("abc"));
@@ -68,13 +68,13 @@ TEST(FlatRtfd, BytesBehindTheLastBlockAreNotLookedAt)
 TEST(FlatRtfd, ALengthMayBePadded)
 {
     for (const quint32 padding : {0U, 1U, 5U, 4096U}) {
-        const AttributedString text = textOf(rtfd(
-            {{"TXT.rtf", word(1) + padded(rtf, padding)}, {"one.png", word(1) + padded("first", padding)}}));
+        const AttributedString text = textOf(rtfd({{"TXT.rtf", word(1) + withPaddedLength(rtf, padding)},
+            {"one.png", word(1) + withPaddedLength("first", padding)}}));
         ASSERT_TRUE(attachmentIn(text));
         EXPECT_EQ(attachmentIn(text)->contents, "first");
     }
     const QByteArray block = file("{\\rtf1 abc}");
-    EXPECT_EQ(textOf("rtfd" + word(0) + word(3) + word(1) + padded("TXT.rtf", 3)
+    EXPECT_EQ(textOf("rtfd" + word(0) + word(3) + word(1) + withPaddedLength("TXT.rtf", 3)
                   + word(static_cast<quint32>(block.size())) + block)
                   .string(),
         QStringLiteral("abc"));
@@ -184,9 +184,9 @@ TEST(FlatRtfd, LengthsThatReachBeyondTheEndAreRefused)
     const auto size = static_cast<quint32>(block.size());
     for (const quint32 value : {0x80000000U, 0x7FFFFFFFU, 0xFFFFFFFFU, 0xFFFFFFFCU, 0xFFFFFFF0U}) {
         EXPECT_EQ(causeFor(begin + word(value)), damaged); // entries
-        EXPECT_EQ(causeFor(begin + word(value) + counted("TXT.rtf") + word(size) + block), damaged);
+        EXPECT_EQ(causeFor(begin + word(value) + withLength("TXT.rtf") + word(size) + block), damaged);
         EXPECT_EQ(causeFor(begin + word(1) + word(value) + "TXT.rtf" + word(size) + block), damaged); // name
-        EXPECT_EQ(causeFor(begin + word(1) + counted("TXT.rtf") + word(value) + block), damaged); // block
+        EXPECT_EQ(causeFor(begin + word(1) + withLength("TXT.rtf") + word(value) + block), damaged); // block
         EXPECT_EQ(causeFor(rtfd({{"TXT.rtf", word(1) + word(value) + "{\\rtf1 abc}"}})), damaged); // contents
         EXPECT_EQ(causeFor(rtfd(
                       {{"TXT.rtf", word(1) + word(0x80000000) + word(value) + word(0) + "{\\rtf1 abc}"}})),
@@ -202,19 +202,19 @@ TEST(FlatRtfd, ABlockIsNoLongerThanItsSizeSays)
     const QByteArray first = file("{\\rtf1 abc}");
     const QByteArray second = file("second");
     // The size of the first block covers half of it: its contents would overlap the next one.
-    const QByteArray bytes = "rtfd" + word(0) + word(3) + word(2) + counted("TXT.rtf") + counted("one.png")
-        + word(static_cast<quint32>(first.size()) - 5) + word(static_cast<quint32>(second.size()) + 5) + first
-        + second;
+    const QByteArray bytes = "rtfd" + word(0) + word(3) + word(2) + withLength("TXT.rtf")
+        + withLength("one.png") + word(static_cast<quint32>(first.size()) - 5)
+        + word(static_cast<quint32>(second.size()) + 5) + first + second;
     EXPECT_EQ(causeFor(bytes), damaged);
 }
 
-TEST(FlatRtfd, FoldersWithinFoldersWithoutEndAreNoMoreThanTheirBytes)
+TEST(FlatRtfd, DeeplyNestedFoldersCostNoMoreThanTheirBytes)
 {
     constexpr int depth = 100'000;
     QByteArray begins;
     // Each folder holds the next; all sizes are as large as can be.
     for (int i = 0; i < depth; ++i)
-        begins += word(3) + word(1) + counted("one.png") + word(0x7FFFFFFF);
+        begins += word(3) + word(1) + withLength("one.png") + word(0x7FFFFFFF);
     const AttributedString text = textOf(rtfd({{"one.png", begins}, {"TXT.rtf", file(rtf)}}));
     ASSERT_TRUE(attachmentIn(text));
     EXPECT_EQ(attachmentIn(text)->contents, QByteArray());
@@ -225,9 +225,9 @@ TEST(FlatRtfd, AMillionEntriesTakeAMoment)
 {
     constexpr quint32 count = 1'000'000;
     const QByteArray block = file("{\\rtf1 abc}");
-    QByteArray names = counted("TXT.rtf");
+    QByteArray names = withLength("TXT.rtf");
     for (quint32 i = 1; i < count; ++i)
-        names += counted(QByteArray::number(i % 2 == 0 ? i : 1));
+        names += withLength(QByteArray::number(i % 2 == 0 ? i : 1));
     const QByteArray bytes = "rtfd" + word(0) + word(3) + word(count) + names
         + word(static_cast<quint32>(block.size())) + QByteArray((count - 1) * 4, '\0') + block;
     const auto before = std::chrono::steady_clock::now();

@@ -121,7 +121,7 @@ TEST_F(RtfdPackage, NothingOutsideTheFolderIsOpened)
     EXPECT_EQ(attachment(), nullptr);
 }
 
-TEST_F(RtfdPackage, AFolderWhoseNameGoesOnIsAnotherFolder)
+TEST_F(RtfdPackage, AFolderWhoseNameBeginsTheSameIsAnotherFolder)
 {
     put("TXT.rtf", rtfWithPicture);
     link(outside("letter.rtfd-other/secret", "secret"), "one.png");
@@ -177,7 +177,7 @@ TEST_F(RtfdPackage, ItIsNoLargerThanADocumentMayBe)
 {
     put("TXT.rtf", rtfWithPicture);
     put("one.png", {});
-    // Takes no room on the disk, and is never read.
+    // A sparse file; it is never read.
     ASSERT_EQ(::truncate(inPackage("one.png").constData(), INT32_MAX - rtf.size()), 0);
     EXPECT_EQ(attachment(), nullptr);
 }

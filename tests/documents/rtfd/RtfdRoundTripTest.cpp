@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What RTFDFromRange() writes, readFlatRtfd() turns back into an equal text.
+// readFlatRtfd() reads an equal text from the bytes that RTFDFromRange() writes.
 #include "documents/rtfd/RtfdReader.h"
 #include "documents/rtfd/RtfdWriter.h"
 
@@ -9,14 +9,14 @@
 
 namespace {
 
-AttributedString writtenAndRead(const AttributedString &text, qsizetype start, qsizetype length)
+AttributedString writeAndRead(const AttributedString &text, qsizetype start, qsizetype length)
 {
     return readFlatRtfd(RTFDFromRange(text, start, length).value()).value();
 }
 
-AttributedString writtenAndRead(const AttributedString &text)
+AttributedString writeAndRead(const AttributedString &text)
 {
-    return writtenAndRead(text, 0, text.length());
+    return writeAndRead(text, 0, text.length());
 }
 
 } // namespace
@@ -25,7 +25,7 @@ TEST(RtfdRoundTrip, SmallRandomTextsStayEqual)
 {
     for (unsigned seed = 10'000; seed < 13'000; ++seed) {
         const AttributedString text = RandomText(seed).text(8, 12);
-        ASSERT_EQ(differenceBetween(text, writtenAndRead(text)), QString()) << "seed " << seed;
+        ASSERT_EQ(differenceBetween(text, writeAndRead(text)), QString()) << "seed " << seed;
     }
 }
 
@@ -33,7 +33,7 @@ TEST(RtfdRoundTrip, LargeRandomTextsStayEqual)
 {
     for (unsigned seed = 10; seed < 14; ++seed) {
         const AttributedString text = RandomText(seed).text(20'000, 40);
-        ASSERT_EQ(differenceBetween(text, writtenAndRead(text)), QString()) << "seed " << seed;
+        ASSERT_EQ(differenceBetween(text, writeAndRead(text)), QString()) << "seed " << seed;
     }
 }
 
@@ -46,7 +46,7 @@ TEST(RtfdRoundTrip, RangesStayEqual)
         const auto start = static_cast<qsizetype>(random() % bound);
         const auto length = static_cast<qsizetype>(random() % bound);
         ASSERT_EQ(
-            differenceBetween(rangeOf(text, start, length), writtenAndRead(text, start, length)), QString())
+            differenceBetween(rangeOf(text, start, length), writeAndRead(text, start, length)), QString())
             << "seed " << seed;
     }
 }
@@ -61,7 +61,7 @@ TEST(RtfdRoundTrip, AttachmentsOfOneNameAndSizeStayApart)
         builder.append(QStringLiteral("\uFFFC"), attributes);
     }
     const AttributedString text = builder.build();
-    EXPECT_EQ(differenceBetween(text, writtenAndRead(text)), QString());
+    EXPECT_EQ(differenceBetween(text, writeAndRead(text)), QString());
 }
 
 TEST(RtfdRoundTrip, AttachmentsOnOtherCharactersAreLeftOut)
@@ -70,6 +70,6 @@ TEST(RtfdRoundTrip, AttachmentsOnOtherCharactersAreLeftOut)
     attributes.language = QStringLiteral("de");
     const AttributedString without(QStringLiteral("abc"), attributes);
     attributes.attachment = std::make_shared<const Attachment>(Attachment{QStringLiteral("a.png"), "data"});
-    EXPECT_EQ(differenceBetween(without, writtenAndRead(AttributedString(QStringLiteral("abc"), attributes))),
+    EXPECT_EQ(differenceBetween(without, writeAndRead(AttributedString(QStringLiteral("abc"), attributes))),
         QString());
 }

@@ -30,7 +30,7 @@ QByteArray datesOf(std::initializer_list<QByteArray> names)
 {
     QByteArray dates = word(1);
     for (const QByteArray &name : names)
-        dates += counted(name) + word(16) + word(0) + word(0644) + word(0) + word(0);
+        dates += withLength(name) + word(16) + word(0) + word(0644) + word(0) + word(0);
     return dates;
 }
 
@@ -100,13 +100,13 @@ TEST(RtfdWriter, OfARangeOnlyItsOwnAttachmentsAreStored)
     EXPECT_FALSE(bytes.contains("third"));
 }
 
-TEST(RtfdWriter, UnknownDocumentAttributesAreLeftUnheeded)
+TEST(RtfdWriter, DocumentAttributesAreIgnored)
 {
     const AttributedString text(QStringLiteral("abc"));
     EXPECT_EQ(RTFDFromRange(text, 0, 3, {{QStringLiteral("Title"), 5}}).value(), flatOf(text));
 }
 
-TEST(RtfdWriter, UsualNamesAreKept)
+TEST(RtfdWriter, PortableNamesAreKept)
 {
     const QStringList names{QStringLiteral("a.png"), QStringLiteral("My picture (2).jpeg"),
         QStringLiteral("M\u00FCller \u4E2D\u6587"), QStringLiteral("a..b"), QStringLiteral("\U0001F600.png")};
@@ -146,7 +146,7 @@ TEST(RtfdWriter, OtherNamesGetSubstitutesOfTheSameSuffix)
     EXPECT_EQ(storedNames({QStringLiteral("x").repeated(255)}).first(), QByteArray(255, 'x'));
 }
 
-TEST(RtfdWriter, NoTwoNamesAreEqualOnAFileSystemThatKnowsNoCase)
+TEST(RtfdWriter, NoTwoNamesAreEqualOnAFileSystemWithoutCase)
 {
     EXPECT_EQ(storedNames({QStringLiteral("attachment-2.png"), QStringLiteral("a.png"),
                   QStringLiteral("a.png"), QStringLiteral("A.PNG"), QStringLiteral("\u00E9"),

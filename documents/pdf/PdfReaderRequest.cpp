@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/pdf/PdfReaderOrder.h"
+#include "documents/pdf/PdfReaderRequest.h"
 
 #include <array>
 #include <charconv>
@@ -25,14 +25,14 @@ std::optional<qint64> numberFrom(std::string_view word)
 
 } // namespace
 
-QByteArrayList argumentsOf(const PdfReaderOrder &order)
+QByteArrayList argumentsOf(const PdfReaderRequest &request)
 {
-    return {QByteArray::number(qint64(order.processorTime.count())),
-        QByteArray::number(qint64(order.realTime.count())), QByteArray::number(order.memory),
-        QByteArray::number(order.length)};
+    return {QByteArray::number(qint64(request.processorTime.count())),
+        QByteArray::number(qint64(request.realTime.count())), QByteArray::number(request.memory),
+        QByteArray::number(request.length)};
 }
 
-std::optional<PdfReaderOrder> orderFrom(std::span<char *const> arguments)
+std::optional<PdfReaderRequest> requestFrom(std::span<char *const> arguments)
 {
     std::array<qint64, numberCount> numbers{};
     if (arguments.size() != numberCount)
@@ -43,7 +43,7 @@ std::optional<PdfReaderOrder> orderFrom(std::span<char *const> arguments)
             return std::nullopt;
         numbers[i] = *number;
     }
-    return PdfReaderOrder{.processorTime = std::chrono::seconds(numbers[0]),
+    return PdfReaderRequest{.processorTime = std::chrono::seconds(numbers[0]),
         .realTime = std::chrono::seconds(numbers[1]),
         .memory = numbers[2],
         .length = numbers[3]};

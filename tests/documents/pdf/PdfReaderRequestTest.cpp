@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/pdf/PdfReaderOrder.h"
+#include "documents/pdf/PdfReaderRequest.h"
 
 #include <gtest/gtest.h>
 
@@ -9,35 +9,35 @@ namespace {
 
 using Cause = DocumentError::Cause;
 
-std::optional<PdfReaderOrder> orderFromWords(QByteArrayList words)
+std::optional<PdfReaderRequest> requestFromWords(QByteArrayList words)
 {
     std::vector<char *> arguments;
     for (QByteArray &word : words)
         arguments.push_back(word.data());
-    return orderFrom(arguments);
+    return requestFrom(arguments);
 }
 
-const PdfReaderOrder order{.processorTime = std::chrono::seconds(70),
+const PdfReaderRequest request{.processorTime = std::chrono::seconds(70),
     .realTime = std::chrono::seconds(1'400),
     .memory = 1'073'741'824,
     .length = 5'000'000'000};
 
 } // namespace
 
-TEST(PdfReaderOrder, ArrivesAsItWasGiven)
+TEST(PdfReaderRequest, ArrivesAsItWasSent)
 {
-    EXPECT_EQ(orderFromWords(argumentsOf(order)), order);
+    EXPECT_EQ(requestFromWords(argumentsOf(request)), request);
 }
 
-TEST(PdfReaderOrder, IsNoneWithOtherArguments)
+TEST(PdfReaderRequest, IsAbsentWithOtherArguments)
 {
     for (const QByteArrayList &words : {QByteArrayList{}, {"1"}, {"1", "1", "1"}, {"1", "1", "1", "1", "1"},
              {"1", "0", "1", "1"}, {"1", "-1", "1", "1"}, {"1", "1", "1", "1x"}, {"1", "", "1", "1"},
              {"1", "1", "1", "99999999999999999999"}, {"--help"}})
-        EXPECT_EQ(orderFromWords(words), std::nullopt) << words.join(' ').constData();
+        EXPECT_EQ(requestFromWords(words), std::nullopt) << words.join(' ').constData();
 }
 
-TEST(PdfReaderOrder, EveryErrorHasAnExitStatusOfItsOwn)
+TEST(PdfReaderRequest, EveryErrorHasAnExitStatusOfItsOwn)
 {
     EXPECT_EQ(errorOfExitStatus(exitStatusFor(std::nullopt)), std::nullopt);
     for (quint32 number = 1; number <= static_cast<quint32>(DocumentError::lastCause); ++number) {
@@ -46,7 +46,7 @@ TEST(PdfReaderOrder, EveryErrorHasAnExitStatusOfItsOwn)
     }
 }
 
-TEST(PdfReaderOrder, AnotherExitStatusIsACrashOrTellsThatTheProgramDidNotStart)
+TEST(PdfReaderRequest, AnotherExitStatusIsACrashOrAProgramThatDidNotStart)
 {
     EXPECT_EQ(errorOfExitStatus(127), Cause::NoPdfReader);
     EXPECT_EQ(errorOfExitStatus(wrongUsageStatus), Cause::NoPdfReader);

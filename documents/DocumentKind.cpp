@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "documents/DocumentKind.h"
+
+#include <array>
+
+namespace {
+
+struct KindType {
+    DocumentKind kind;
+    QStringView type;
+};
+
+constexpr std::array kindTypes{
+    KindType{DocumentKind::PlainText, u"text/plain"},
+    KindType{DocumentKind::Rtf, u"text/rtf"},
+    KindType{DocumentKind::Rtf, u"application/rtf"},
+    KindType{DocumentKind::Rtf, u"text/richtext"},
+    KindType{DocumentKind::Rtfd, u"application/x-flat-rtfd"},
+    KindType{DocumentKind::Html, u"text/html"},
+    KindType{DocumentKind::Html, u"application/xhtml+xml"},
+    KindType{DocumentKind::WordDocument,
+        u"application/vnd.openxmlformats-officedocument.wordprocessingml.document"},
+    KindType{DocumentKind::Pdf, u"application/pdf"},
+};
+
+} // namespace
+
+QStringList mimeTypes(DocumentKind kind)
+{
+    QStringList types;
+    for (const KindType &kindType : kindTypes) {
+        if (kindType.kind == kind)
+            types.append(kindType.type.toString());
+    }
+    return types;
+}
+
+std::optional<DocumentKind> kindOfMimeType(QAnyStringView type)
+{
+    for (const KindType &kindType : kindTypes) {
+        if (QAnyStringView::compare(kindType.type, type) == 0)
+            return kindType.kind;
+    }
+    return std::nullopt;
+}
