@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Reads generated Word documents by the length of their main part: bytes of that part per second, and the
-// maximum resident size of the process.
-#include "documents/docx/DocxReader.h"
+// Reads generated Word documents by the size of their main part in bytes: reports bytes of that part per
+// second, and the peak resident size of the process.
+#include "documents/loading/DocumentReader.h"
 #include "tests/documents/docx/PackageWriter.h"
 
 #include <benchmark/benchmark.h>
@@ -44,15 +44,15 @@ QByteArray bodyOf(qsizetype length)
     return body;
 }
 
-/// Resets the maximum resident size that the kernel records.
-void forgetGreatestSize()
+/// Resets the peak resident size of the process.
+void resetPeakSize()
 {
     QFile file(QStringLiteral("/proc/self/clear_refs"));
     if (file.open(QIODevice::WriteOnly))
         file.write("5");
 }
 
-double greatestMebibytes()
+double peakMebibytes()
 {
     QFile file(QStringLiteral("/proc/self/status"));
     if (!file.open(QIODevice::ReadOnly))
@@ -62,7 +62,7 @@ double greatestMebibytes()
     return status.sliced(start, status.indexOf("kB", start) - start).trimmed().toDouble() / 1024;
 }
 
-void readDocument(benchmark::State &state)
+void readGeneratedDocument(benchmark::State &state)
 {
     const auto length = static_cast<qsizetype>(state.range(0));
     WordPackage document{.body = bodyOf(length),
@@ -73,14 +73,14 @@ void readDocument(benchmark::State &state)
     const QByteArray bytes = document.bytes();
     document = {};
     qsizetype units = 0;
-    forgetGreatestSize();
+    resetPeakSize();
     for ([[maybe_unused]] auto _ : state)
-        benchmark::DoNotOptimize(units = readDocx(bytes).value().length());
+        benchmark::DoNotOptimize(units = readDocument(DocumentKind::WordDocument, bytes).value().length());
     state.SetBytesProcessed(state.iterations() * length);
     state.counters["units"] = static_cast<double>(units);
-    state.counters["residentMiB"] = greatestMebibytes();
+    state.counters["residentMiB"] = peakMebibytes();
 }
 
 } // namespace
 
-BENCHMARK(readDocument)->Arg(5 * megabyte)->Arg(50 * megabyte)->Unit(benchmark::kMillisecond);
+BENCHMARK(readGeneratedDocument)->Arg(5 * megabyte)->Arg(50 * megabyte)->Unit(benchmark::kMillisecond);

@@ -63,7 +63,7 @@ void openGroups(benchmark::State &state)
     readDocument(state, "{");
 }
 
-void distinctLooks(benchmark::State &state)
+void distinctFormats(benchmark::State &state)
 {
     QByteArray piece;
     for (int size = 2; size < 2000; ++size)
@@ -81,4 +81,4 @@ BENCHMARK(doubleBytes)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMi
 BENCHMARK(skippedPicture)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMillisecond);
 BENCHMARK(emptyGroups)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMillisecond);
 BENCHMARK(openGroups)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMillisecond);
-BENCHMARK(distinctLooks)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMillisecond);
+BENCHMARK(distinctFormats)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMillisecond);

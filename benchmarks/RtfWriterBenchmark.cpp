@@ -9,7 +9,7 @@ namespace {
 
 constexpr qsizetype length = 20'000'000;
 
-QString repeated(const QString &piece)
+QString repeatPiece(const QString &piece)
 {
     QString text = piece.repeated(length / piece.size() + 1);
     text.truncate(length);
@@ -21,7 +21,7 @@ const QString sentence = QStringLiteral(
 
 AttributedString plainAscii()
 {
-    return AttributedString(repeated(sentence.repeated(6) + u'\n'));
+    return AttributedString(repeatPiece(sentence.repeated(6) + u'\n'));
 }
 
 /// Sentences in several scripts, with occasional words in another font, paragraphs in another style, and

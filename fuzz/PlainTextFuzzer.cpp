@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Feeds the reader of plain text with any bytes. The first line, if it begins with "charset ", is the charset
-// of their MIME type.
+// Reads any bytes as plain text, which never fails. A first line that begins with "charset " is the charset
+// of the MIME type.
 #include "documents/PlainTextReader.h"
 
 #include <cstdint>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Flat RTFDs of any bytes: none breaks the reader, and the text of one, written and read again, stays equal.
+// Reads any bytes as a flat RTFD; a text that is written and read again must stay equal.
 #include "documents/rtfd/RtfdReader.h"
 #include "documents/rtfd/RtfdWriter.h"
 

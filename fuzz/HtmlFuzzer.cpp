@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Feeds the reader of web pages with any bytes. The first line, if it begins with "charset ", is the charset
-// that the transfer names.
+// Reads any bytes as a web page; reading must end with a sound text or an error. A first line that begins
+// with "charset " is the charset that the transfer names.
 #include "documents/html/HtmlReader.h"
 #include "documents/html/HtmlStyleAttribute.h"
 

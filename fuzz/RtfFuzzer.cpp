@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as an RTF document: reading ends, the text is sound, and every attachment in it was found.
+// Reads any bytes as RTF; reading must end, the text must be sound and its attachments must come from the
+// source.
 #include "documents/rtf/RtfReader.h"
 
 #include <cstdint>
-#include <cstdlib>
 
 namespace {
 
-void require(bool isTrue)
+void require(bool holds)
 {
-    if (!isTrue)
-        std::abort();
+    if (!holds)
+        __builtin_trap();
 }
 
 void requireSound(const AttributedString &text)
