@@ -51,6 +51,6 @@ struct DocumentError {
     bool operator==(const DocumentError &) const = default;
 };
 
-/// What is wrong and, where there is a remedy, what to do, in English on one line, to stand behind the name
-/// of the document and a colon: "is encrypted; save it without a password".
+/// What is wrong and, where there is a remedy, what to do, in English on one line. Callers print it after the
+/// name of the document and a colon: "is encrypted; save it without a password".
 QString causeText(const DocumentError &error);

@@ -55,13 +55,14 @@ int main(int argumentCount, char **arguments)
     const std::optional<PdfReaderRequest> request =
         requestFrom(words.subspan(std::min<size_t>(1, words.size())));
     if (request) {
-        // Before it reads a byte of the document.
+        // Before the process reads a byte of the document.
         (void)confine(*request);
         const auto document = SealedMemory::receive(STDIN_FILENO);
         if (document)
             ::_exit(exitStatusFor(writePages(document.value().bytes(), request->length)));
     }
     std::fputs(
-        "quillbay-pdf-reader: is started by Quillbay's other programs, for one PDF file each time\n", stderr);
+        "quillbay-pdf-reader: is started by Quillbay's other programs only; use 'quillbay count FILE'\n",
+        stderr);
     ::_exit(wrongUsageStatus);
 }

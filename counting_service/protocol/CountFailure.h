@@ -47,6 +47,6 @@ struct CountFailure {
     bool operator==(const CountFailure &) const = default;
 };
 
-/// What is wrong, in English on one line, to stand behind a colon: "is encrypted; save it without a
+/// What is wrong, in English on one line, to be printed after a colon: "is encrypted; save it without a
 /// password".
 QString causeText(const CountFailure &failure);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// DocumentReader is the one entrance to the readers of all kinds: whoever has the bytes of a document reads
-// them here, wherever they come from. Which kind they are is KindDetection's to find out.
+// DocumentReader is the one entrance to the readers of all kinds: all code that has the bytes of a document
+// reads them here, wherever they come from. KindDetection finds out their kind.
 // Thread: any.
 #pragma once
 

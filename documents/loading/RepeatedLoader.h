@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RepeatedLoader loads a document as DocumentLoader does, again and again. While the bytes stay the same, it
 // returns the text that it has made of them before.
-// Thread: one at a time.  Owner: whoever follows a document.
+// Thread: one at a time.  Owner: a follower of the document.
 #pragma once
 
 #include "documents/loading/DocumentLoader.h"

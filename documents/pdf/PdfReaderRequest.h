@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // PdfReaderRequest is what PdfReader passes to its program, quillbay-pdf-reader: the limits as arguments, and
 // the file as sealed memory on standard input. The program answers with the text on standard output, in
-// UTF-16 of the machine's byte order, and with its exit status. Thread: any; values.
+// UTF-16 of the machine's byte order, and with its exit status.
+// Thread: any; values.
 #pragma once
 
 #include "documents/DocumentError.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // FlatFolder finds the files in the flat form of an RTFD; FlatFormat names what that form consists of.
-// Folders among the entries are never opened, so that their depth does not matter. Thread: any; a value that
-// refers to the bytes.
+// Folders among the entries are never opened, so that their depth does not matter.
+// Thread: any; a value that refers to the bytes.
 //
 // The form is little-endian words of 32 bits, names and contents, without gaps:
 //   "rtfd", 0, block

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // RtfdReader turns RTFD, an RTF with the files of its attachments, into styled text: packages, which are
-// folders on disk, and the flat form, which is one block of data. RtfReader reads the RTF itself. Thread:
-// any.
+// folders on disk, and the flat form, which is one block of data. RtfReader reads the RTF itself.
+// Thread: any.
 #pragma once
 
 #include "documents/DocumentError.h"

@@ -121,6 +121,6 @@ TEST_F(CountDocumentsTest, AHostileFileLeavesTheOthersCounted)
     EXPECT_EQ(outcome.exitStatus, 1);
     EXPECT_EQ(outcome.errors,
         "quillbay: " + hostile
-            + ": takes more time or memory than any PDF file; print it to a new one first\n");
+            + ": takes too much time or memory to read; print it to a new PDF file first\n");
     EXPECT_THAT(outcome.output.toStdString(), HasSubstr("2\t9\t10\t"));
 }
