@@ -69,7 +69,7 @@ int main(int argumentCount, char **arguments)
     execlp("espeak-ng", "espeak-ng", "--", arguments[1], static_cast<char *>(nullptr));
     std::fprintf(stderr,
         "say: cannot speak: spd-say failed and espeak-ng cannot be started (%s); install the package "
-        "speech-dispatcher or espeak-ng\n",
+        "espeak-ng or speech-dispatcher\n",
         ::strerrordesc_np(errno)); // always English, unlike strerror()
     return 1;
 }
