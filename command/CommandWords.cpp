@@ -11,7 +11,7 @@
 std::optional<CommandWords> CommandWords::parse(
     const char *command, const QByteArrayList &known, int wordCount, char **words)
 {
-    // getopt_long() takes the first word for the program's name, which its messages begin with.
+    // getopt_long() expects the program's name first.
     char programName[] = "quillbay";
     std::vector<char *> argumentVector{programName};
     argumentVector.insert(argumentVector.end(), words, words + wordCount);
@@ -24,13 +24,13 @@ std::optional<CommandWords> CommandWords::parse(
 
     CommandWords parsed;
     opterr = 0;
-    optind = 0; // begin anew, should the process have parsed other words before
+    optind = 0; // resets the state of an earlier call
     int index = 0;
     for (int word;
          (word = getopt_long(wordCount + 1, argumentVector.data(), "h", options.data(), &index)) != -1;) {
         if (word == '?') {
             reportWrongOption(word, argumentVector.data());
-            tellWrongUsage(command, nullptr);
+            reportWrongUsage(command, nullptr);
             return std::nullopt;
         }
         parsed.switches.append(word == 'h' ? "help" : options[static_cast<size_t>(index)].name);
@@ -42,16 +42,15 @@ std::optional<CommandWords> CommandWords::parse(
 
 void reportWrongOption(int result, char *const *words)
 {
-    // Of several letters behind one dash, optind does not tell which.
+    // In a group of letters such as -xyz, optopt has the letter, while optind only has the group.
     const bool isLetter = optopt > 0 && optopt < 0x80;
     const QByteArray word =
         isLetter ? '-' + QByteArray(1, static_cast<char>(optopt)) : QByteArray(words[optind - 1]);
     std::fprintf(stderr, "quillbay: %s '%s'\n",
-        result == ':' ? "an argument is missing behind option" : "cannot understand option",
-        printableName(word).constData());
+        result == ':' ? "missing argument for option" : "invalid option", printableName(word).constData());
 }
 
-int tellWrongUsage(const char *command, const char *message)
+int reportWrongUsage(const char *command, const char *message)
 {
     if (message)
         std::fprintf(stderr, "quillbay: %s\n", message);
@@ -59,7 +58,7 @@ int tellWrongUsage(const char *command, const char *message)
     return wrongUsageStatus;
 }
 
-int printed(const char *text)
+int printText(const char *text)
 {
     std::fputs(text, stdout);
     return std::fflush(stdout) == 0 ? 0 : 1;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// CommandWords are the words behind "quillbay COMMAND" of a command that has switches and operands only.
-// Thread: any; a value.
+// CommandWords are the words after "quillbay COMMAND", for commands that have only switches and operands;
+// with them the messages for wrong usage, for all commands.
+// Thread: main; a value.
 #pragma once
 
 #include <QByteArray>
@@ -8,28 +9,29 @@
 
 #include <optional>
 
-/// Exit status of a command that was called wrongly.
+/// The exit status after wrong usage.
 inline constexpr int wrongUsageStatus = 2;
 
 struct CommandWords {
-    QByteArrayList switches; ///< without dashes, as "clipboard"; "help" for -h too
-    QByteArrayList operands; ///< "-" too, in their order
+    QByteArrayList switches; ///< without dashes, as "clipboard"; "help" also for -h
+    QByteArrayList operands; ///< in their order, including "-"
 
     [[nodiscard]] bool wantsHelp() const { return switches.contains("help"); }
 
-    /// known: the switches of the command besides --help. Others are told on standard error and give nothing.
+    /// known: the switches of the command besides --help. Absent after an unknown switch, which is reported
+    /// on standard error.
     static std::optional<CommandWords> parse(
         const char *command, const QByteArrayList &known, int wordCount, char **words);
 };
 
-/// Prints to standard error what getopt_long(), told to be silent, has found wrong with a word: it prints
-/// words as they are, and they may hold what controls a terminal. result: its result, ':' where an argument
-/// is missing.
+/// Reports an error of getopt_long() on standard error. getopt_long() must not do so itself (opterr is 0): it
+/// prints words as they are, even with control characters for the terminal. result: its result, ':' if an
+/// argument is missing.
 void reportWrongOption(int result, char *const *words);
 
-/// Tells on standard error what is wrong, unless message is null, and where to find help; gives
-/// wrongUsageStatus.
-int tellWrongUsage(const char *command, const char *message);
+/// Reports wrong usage on standard error and points to the help. message: null if it has been reported
+/// already. Returns wrongUsageStatus.
+int reportWrongUsage(const char *command, const char *message);
 
-/// Prints to standard output and gives the exit status: 1 where that cannot be written.
-int printed(const char *text);
+/// Prints to standard output. Returns the exit status: 1 if standard output cannot be written.
+int printText(const char *text);

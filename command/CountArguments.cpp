@@ -24,9 +24,7 @@ constexpr option options[] = {
 
 std::nullopt_t wrongUsage(const char *message)
 {
-    if (message)
-        std::fprintf(stderr, "quillbay: %s\n", message);
-    std::fputs("Try 'quillbay count --help' for more.\n", stderr);
+    reportWrongUsage("count", message);
     return std::nullopt;
 }
 
@@ -37,36 +35,37 @@ const char *CountArguments::helpText()
     return R"(Usage: quillbay count [--json | --tsv | --explain-rules] [--service]
                       [--files-from LIST] [FILE…]
 
-Counts words, characters, sentences, lines on your paper, hard line breaks,
-paragraphs and indented paragraphs of each FILE, under your preferences: plain
-text, RTF, RTFD, web pages, Word documents and PDF files. Reads standard input
-where FILE is - or where no file is named at all.
+Counts the words, characters, sentences, lines on your paper, hard line breaks,
+paragraphs and indented paragraphs of each FILE by your preferences. FILE can be
+plain text, RTF, RTFD, a web page, a Word document or a PDF file. Without FILE, or
+if FILE is -, reads standard input.
 
-  --json             one JSON object a line for each file
-  --tsv              tab-separated columns, the first line naming them
-  --files-from LIST  count the files named in LIST too, behind those of the
+  --json             print a JSON object on a line of its own for each file
+  --tsv              print tab-separated columns, with their names on the first
+                     line
+  --files-from LIST  also count the files named in LIST, after those of the
                      command line; the names are separated by line ends, or by
-                     NUL bytes if there is one; LIST may be - for standard input
-  --explain-rules    print what the counts of the files rest on instead: locale,
+                     NUL bytes if there are any; LIST may be - for standard input
+  --explain-rules    instead of the counts, print what they depend on: locale,
                      preferences, paper, margins, and the fonts that the files
                      need (without a file, the font of plain text)
-  --service          count in the counting service, in a process that may do
-                     nothing else, as Quillbay's windows do; the counts are the
-                     same
-  -h, --help         show this and leave
+  --service          count in the counting service, in a sandboxed process, as
+                     Quillbay's windows do; the counts are the same
+  -h, --help         print this help and exit
 
-The table counts together what is in several files; the other two forms have
-no such row. Control characters of names are escaped: as \x1b in the table, as
-\u001b in JSON; with --tsv as \t, \n, \r or byte by byte as \x1b, like bytes that
-are no UTF-8, and a backslash as \\.
+For several files, the table ends with a row of totals; the other two formats
+have no such row. Control characters in names are escaped: as \x1b in the table
+and as \u001b in JSON. With --tsv, tabs, line feeds, carriage returns and
+backslashes become \t, \n, \r and \\; other control characters and bytes that
+are not valid UTF-8 become one \x1b per byte.
 
-Exit status: 0 if all files were counted, 1 if any was not, 2 for wrong usage.
+Exit status: 0 if all files were counted, 1 if any was not, 2 after wrong usage.
 )";
 }
 
 std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **words)
 {
-    // getopt_long() takes the first word for the program's name, which its messages begin with.
+    // getopt_long() expects the program's name first.
     char programName[] = "quillbay";
     std::vector<char *> argumentVector{programName};
     argumentVector.insert(argumentVector.end(), words, words + wordCount);
@@ -74,13 +73,13 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
     const int argumentCount = wordCount + 1;
 
     CountArguments arguments;
-    const auto chooseForm = [&arguments](CountForm form) {
-        const bool isOther = arguments.form != CountForm::Table && arguments.form != form;
-        arguments.form = form;
+    const auto chooseFormat = [&arguments](CountFormat format) {
+        const bool isOther = arguments.format != CountFormat::Table && arguments.format != format;
+        arguments.format = format;
         return !isOther;
     };
     opterr = 0;
-    optind = 0; // begin anew, should the process have parsed other words before
+    optind = 0; // resets the state of an earlier call
     for (int word;
          (word = getopt_long(argumentCount, argumentVector.data(), ":h", options, nullptr)) != -1;) {
         switch (word) {
@@ -89,8 +88,8 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
             break;
         case Json:
         case Tsv:
-            if (!chooseForm(word == Json ? CountForm::Json : CountForm::Tsv))
-                return wrongUsage("--json and --tsv exclude each other");
+            if (!chooseFormat(word == Json ? CountFormat::Json : CountFormat::Tsv))
+                return wrongUsage("--json and --tsv cannot be combined");
             break;
         case FilesFrom:
             if (arguments.listName)
@@ -112,9 +111,9 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
         arguments.fileNames.append(argumentVector[static_cast<size_t>(i)]);
 
     if (arguments.wantsService && arguments.wantsRules)
-        return wrongUsage("--service and --explain-rules exclude each other");
+        return wrongUsage("--service and --explain-rules cannot be combined");
     if (arguments.listName == "-" && arguments.fileNames.contains("-"))
-        return wrongUsage("standard input cannot be both a text and the list of files");
+        return wrongUsage("standard input cannot be both a document and the list of files");
     if (!arguments.listName && arguments.fileNames.isEmpty() && !arguments.wantsRules)
         arguments.fileNames.append("-");
     return arguments;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// CountArguments is what the user asked of "quillbay count".
-// Thread: any; a value.
+// CountArguments are the options and files of "quillbay count".
+// Thread: main; a value.
 #pragma once
 
 #include <QByteArray>
@@ -8,18 +8,18 @@
 
 #include <optional>
 
-enum class CountForm { Table, Json, Tsv };
+enum class CountFormat { Table, Json, Tsv };
 
 struct CountArguments {
-    CountForm form = CountForm::Table;
+    CountFormat format = CountFormat::Table;
     bool wantsHelp = false;
-    bool wantsRules = false; ///< what the counts rest on, instead of the counts
-    bool wantsService = false; ///< counting in the counting service instead of in this process
-    std::optional<QByteArray> listName; ///< of a file with names, "-" for standard input
+    bool wantsRules = false; ///< print the rules of the counts instead of the counts
+    bool wantsService = false; ///< count in the counting service instead of in this process
+    std::optional<QByteArray> listName; ///< the file that lists names; "-" for standard input
     QByteArrayList fileNames; ///< "-" for standard input
 
-    /// Understands the words behind "quillbay count". Wrong usage is told on standard error and gives
-    /// nothing.
+    /// Parses the words after "quillbay count". Absent after wrong usage, which is reported on standard
+    /// error.
     static std::optional<CountArguments> fromWords(int wordCount, char **words);
 
     static const char *helpText();

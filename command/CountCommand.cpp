@@ -1,15 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include "command/CountCommand.h"
-
+// "quillbay count": counts files one after the other, and prints the counts. A file that cannot be counted is
+// reported on standard error; the others are still counted.
+#include "command/CommandWords.h"
+#include "command/Commands.h"
+#include "command/CountArguments.h"
+#include "command/CountReport.h"
 #include "command/FileNames.h"
 #include "command/NamedDocument.h"
-#include "command/RulesExplanation.h"
+#include "command/ProgressLine.h"
+#include "command/ServiceCounter.h"
 #include "documents/loading/KindDetection.h"
 #include "platform/files/FileContents.h"
 #include "platform/system/OwnedDescriptor.h"
+#include "platform/system/Result.h"
 #include "platform/system/SystemError.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/MeasuringSurface.h"
+#include "text_statistics/WordCounterModel.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -33,7 +40,7 @@ qint64 sizeOfAll(const QByteArrayList &names)
     return sum;
 }
 
-// A list may be a pipe, unlike a document: shells make one of "--files-from <(find …)".
+// Unlike a document, a list may be a pipe: shells pass one for "--files-from <(find …)".
 Result<QByteArray, FileError> readList(const QByteArray &name)
 {
     if (name == standardInputName)
@@ -45,7 +52,7 @@ Result<QByteArray, FileError> readList(const QByteArray &name)
     return pipe ? readDescriptor(pipe.get()) : list;
 }
 
-/// A Word document goes to the service as it is; absent for any other.
+/// Absent unless the file is a Word document, which the service takes as it is.
 std::optional<QByteArray> bytesOfWordDocument(const QByteArray &name)
 {
     if (name == standardInputName)
@@ -56,7 +63,31 @@ std::optional<QByteArray> bytesOfWordDocument(const QByteArray &name)
     return std::move(contents).value();
 }
 
-} // namespace
+class CountCommand {
+public:
+    explicit CountCommand(CountArguments arguments)
+        : m_arguments(std::move(arguments))
+    {
+    }
+
+    /// The exit status: 1 if a file could not be counted or the counts could not be printed, otherwise 0.
+    int run();
+
+private:
+    [[nodiscard]] QByteArrayList inputNames();
+    void countAll(const QByteArrayList &names);
+    void explainRules(const QByteArrayList &names);
+    std::optional<QBYWordCounterStats> count(const QByteArray &name, ProgressLine &progress);
+    Result<QBYWordCounterStats, QString> countHere(const QByteArray &name, ProgressLine &progress);
+    Result<QBYWordCounterStats, QString> countInService(const QByteArray &name, ProgressLine &progress);
+    void fail(const QByteArray &name, const QString &cause);
+    static void print(const QByteArray &text);
+
+    const CountArguments m_arguments;
+    WordCounterModel m_model;
+    std::optional<ServiceCounter> m_service; ///< created when first needed
+    bool m_hasFailed = false;
+};
 
 int CountCommand::run()
 {
@@ -73,7 +104,7 @@ int CountCommand::run()
 
 void CountCommand::countAll(const QByteArrayList &names)
 {
-    const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.form, sizeOfAll(names));
+    const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.format, sizeOfAll(names));
     QBYWordCounterStats total;
     bool hasRows = false;
     ProgressLine progress(names.size());
@@ -92,7 +123,7 @@ void CountCommand::countAll(const QByteArrayList &names)
         print(report->total(total));
 }
 
-// The fonts are known only after the texts have been laid out.
+// Counts first: the fonts in use are known only after the texts have been laid out.
 void CountCommand::explainRules(const QByteArrayList &names)
 {
     ProgressLine progress(names.size());
@@ -103,7 +134,7 @@ void CountCommand::explainRules(const QByteArrayList &names)
     if (names.isEmpty())
         m_model.setAttributedStringToCount(AttributedString(QStringLiteral("a")));
     progress.hide();
-    print(rulesExplanation(currentCountingRules(), MeasuringSurface::shared().engine().fontFilesInUse()));
+    print(explanationOfRules(currentCountingRules(), MeasuringSurface::shared().engine().fontFilesInUse()));
 }
 
 QByteArrayList CountCommand::inputNames()
@@ -122,7 +153,7 @@ QByteArrayList CountCommand::inputNames()
 std::optional<QBYWordCounterStats> CountCommand::count(const QByteArray &name, ProgressLine &progress)
 {
     Result<QBYWordCounterStats, QString> stats = causeText(FileError{FileError::Cause::NotEnoughMemory});
-    // Every step makes buffers as large as the document.
+    // Every step allocates buffers as large as the document.
     try {
         stats = m_arguments.wantsService ? countInService(name, progress) : countHere(name, progress);
     } catch (const std::bad_alloc &) {
@@ -150,7 +181,7 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
 {
     if (!m_service)
         m_service.emplace();
-    // A Word document is read here too, so that one which cannot be counted says why.
+    // Word documents are read here too, because the service does not report why it could not count one.
     const Result<AttributedString, DocumentError> text = loadNamedDocument(name);
     if (!text)
         return causeText(text.error());
@@ -166,10 +197,22 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
 void CountCommand::fail(const QByteArray &name, const QString &cause)
 {
     m_hasFailed = true;
-    tellDocumentFailure(name, cause);
+    reportDocumentFailure(name, cause);
 }
 
 void CountCommand::print(const QByteArray &text)
 {
     std::fwrite(text.constData(), 1, static_cast<size_t>(text.size()), stdout);
+}
+
+} // namespace
+
+int runCountCommand(int wordCount, char **words)
+{
+    const std::optional<CountArguments> arguments = CountArguments::fromWords(wordCount, words);
+    if (!arguments)
+        return wrongUsageStatus;
+    if (arguments->wantsHelp)
+        return printText(CountArguments::helpText());
+    return CountCommand(*arguments).run();
 }

@@ -8,23 +8,9 @@
 
 namespace {
 
-struct Column {
-    QByteArrayView key; ///< in JSON and TSV
-    QByteArrayView title; ///< in the table
-    quint64 QBYWordCounterStats::*count;
-};
-
-constexpr std::array columns{
-    Column{"words", "Words", &QBYWordCounterStats::numberOfWords},
-    Column{"characters", "Characters", &QBYWordCounterStats::numberOfCharacters},
-    Column{"charactersIncludingWhitespace", "+Whitespace",
-        &QBYWordCounterStats::numberOfCharactersIncludingWhitespace},
-    Column{"sentences", "Sentences", &QBYWordCounterStats::numberOfSentences},
-    Column{"lines", "Lines", &QBYWordCounterStats::numberOfLines},
-    Column{"hardLineBreaks", "Hard breaks", &QBYWordCounterStats::numberOfHardLineBreaks},
-    Column{"paragraphs", "Paragraphs", &QBYWordCounterStats::numberOfParagraphs},
-    Column{"indentedParagraphs", "Indented", &QBYWordCounterStats::numberOfIndentedParagraphs},
-};
+/// Of the table's columns, by Statistic.
+constexpr std::array<const char *, statisticCount> titles{
+    "Words", "Characters", "+Whitespace", "Sentences", "Lines", "Hard breaks", "Paragraphs", "Indented"};
 
 class TableReport final : public CountReport {
 public:
@@ -36,16 +22,16 @@ public:
     [[nodiscard]] QByteArray header() const override
     {
         QByteArray line;
-        for (const Column &column : columns)
-            line += column.title.toByteArray().rightJustified(width(column)) + "  ";
+        for (const StatisticRow &row : statisticTable)
+            line += titleOf(row).rightJustified(widthOf(row)) + "  ";
         return line + "File\n";
     }
 
     [[nodiscard]] QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
     {
         QByteArray line;
-        for (const Column &column : columns)
-            line += QByteArray::number(stats.*column.count).rightJustified(width(column)) + "  ";
+        for (const StatisticRow &row : statisticTable)
+            line += QByteArray::number(stats.*row.count).rightJustified(widthOf(row)) + "  ";
         return line + printableName(fileName) + '\n';
     }
 
@@ -55,9 +41,13 @@ public:
     }
 
 private:
-    [[nodiscard]] qsizetype width(const Column &column) const
+    static QByteArray titleOf(const StatisticRow &row)
     {
-        return std::max(column.title.size(), m_digits);
+        return titles.at(static_cast<std::size_t>(row.statistic));
+    }
+    [[nodiscard]] qsizetype widthOf(const StatisticRow &row) const
+    {
+        return std::max(titleOf(row).size(), m_digits);
     }
 
     qsizetype m_digits;
@@ -68,8 +58,8 @@ public:
     [[nodiscard]] QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
     {
         QByteArray line = "{\"file\":" + jsonName(fileName);
-        for (const Column &column : columns)
-            line += ",\"" + column.key.toByteArray() + "\":" + QByteArray::number(stats.*column.count);
+        for (const StatisticRow &row : statisticTable)
+            line += QByteArray(",\"") + row.name + "\":" + QByteArray::number(stats.*row.count);
         return line + "}\n";
     }
 };
@@ -79,31 +69,64 @@ public:
     [[nodiscard]] QByteArray header() const override
     {
         QByteArray line = "file";
-        for (const Column &column : columns)
-            line += '\t' + column.key.toByteArray();
+        for (const StatisticRow &row : statisticTable)
+            line += QByteArray("\t") + row.name;
         return line + '\n';
     }
 
     [[nodiscard]] QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
     {
         QByteArray line = tsvName(fileName);
-        for (const Column &column : columns)
-            line += '\t' + QByteArray::number(stats.*column.count);
+        for (const StatisticRow &row : statisticTable)
+            line += '\t' + QByteArray::number(stats.*row.count);
         return line + '\n';
     }
 };
 
+QByteArray inPoints(double length)
+{
+    return QByteArray::number(length, 'g', 6) + " points";
+}
+
+QByteArray ruleLine(const char *name, const QByteArray &value)
+{
+    return QByteArray(name).leftJustified(38) + value + '\n';
+}
+
 } // namespace
 
-std::unique_ptr<CountReport> CountReport::make(CountForm form, qint64 expectedSize)
+std::unique_ptr<CountReport> CountReport::make(CountFormat format, qint64 expectedSize)
 {
-    switch (form) {
-    case CountForm::Json:
+    switch (format) {
+    case CountFormat::Json:
         return std::make_unique<JsonReport>();
-    case CountForm::Tsv:
+    case CountFormat::Tsv:
         return std::make_unique<TsvReport>();
-    case CountForm::Table:
+    case CountFormat::Table:
         break;
     }
     return std::make_unique<TableReport>(expectedSize);
+}
+
+QByteArray explanationOfRules(const CountingRules &rules, const QByteArrayList &fontFiles)
+{
+    const PageRules &page = rules.page;
+    const std::optional<double> columnWidth = columnWidthOf(page);
+    QByteArray text = ruleLine("Locale", printableName(rules.text.localeIdentifier().toUtf8()))
+        + ruleLine("Sentences end in punctuation", rules.text.sentencesNeedTerminalPunctuation ? "yes" : "no")
+        + ruleLine(
+            "Sentences of a paragraph, at least", QByteArray::number(rules.text.minimumSentencesOfParagraph))
+        + ruleLine(
+            "Paper", page.paperName ? printableName(page.paperName->toUtf8()) : "of the print settings")
+        + ruleLine("Paper width", inPoints(page.paperSize.width()))
+        + ruleLine("Paper height", inPoints(page.paperSize.height()))
+        + ruleLine("Left margin", inPoints(page.leftMargin))
+        + ruleLine("Right margin", inPoints(page.rightMargin))
+        + ruleLine("Column", columnWidth ? inPoints(*columnWidth) : "none: the margins leave no width")
+        + ruleLine("Pixels per point", QByteArray::number(page.scale));
+    for (const QByteArray &file : fontFiles)
+        text += ruleLine("Font", printableName(file));
+    if (fontFiles.isEmpty())
+        text += ruleLine("Font", "none: lines are measured with a fixed character width");
+    return text;
 }

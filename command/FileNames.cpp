@@ -29,7 +29,7 @@ QString hexadecimal(uint number, int digits)
     return QStringLiteral("%1").arg(number, digits, 16, QLatin1Char('0'));
 }
 
-/// The bytes of the first character; of one that is no UTF-8, the first byte, and false.
+/// The bytes of the first character, and true; if it is not valid UTF-8, its first byte, and false.
 std::pair<QByteArray, bool> firstCharacter(QByteArrayView bytes)
 {
     const auto lead = static_cast<uchar>(bytes[0]);
@@ -40,7 +40,7 @@ std::pair<QByteArray, bool> firstCharacter(QByteArrayView bytes)
     return {character.first(1), false};
 }
 
-QByteArray escapedBytes(const QByteArray &bytes)
+QByteArray hexEscapes(const QByteArray &bytes)
 {
     QByteArray escaped;
     for (const char byte : bytes)
@@ -79,7 +79,7 @@ QByteArray tsvName(const QByteArray &name)
         else if (character == "\r")
             escaped += "\\r";
         else if (!isUtf8 || controlsTerminal(QString::fromUtf8(character).front()))
-            escaped += escapedBytes(character);
+            escaped += hexEscapes(character);
         else
             escaped += character;
     }
@@ -90,7 +90,7 @@ QByteArray jsonName(const QByteArray &name)
 {
     const QByteArray array =
         QJsonDocument(QJsonArray{QString::fromUtf8(name)}).toJson(QJsonDocument::Compact);
-    // JSON itself escapes no more than the control characters below U+0020.
+    // Qt escapes only the control characters below U+0020.
     QString escaped;
     for (const QChar unit : QString::fromUtf8(array.sliced(1, array.size() - 2))) {
         if (controlsTerminal(unit))

@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: MIT
-// File names as bytes, which on Linux need not be UTF-8, and the forms in which they are shown and listed.
+// File names as bytes, which on Linux need not be UTF-8, and the formats in which they are printed and
+// listed.
 // Thread: any.
 #pragma once
 
 #include <QByteArray>
 #include <QByteArrayList>
 
-// What controls a terminal stands raw in none of these forms: control characters of ASCII and the 32 behind
-// it (C1), line and paragraph separators, and what turns the direction of writing.
+// All three formats escape what controls a terminal: the control characters of ASCII and C1, line and
+// paragraph separators, and the controls of the writing direction.
 
-/// For a terminal, and for any message that may hold a name: such characters as "\x1b" or "\u202e", bytes
-/// that are no UTF-8 as U+FFFD.
+/// For a terminal, and for any message that contains a name: those characters become "\x1b" or "\u202e", and
+/// bytes that are not valid UTF-8 become U+FFFD.
 QByteArray printableName(const QByteArray &name);
 
-/// For a column of a TSV file, from which the name can be had back byte by byte: backslash, tab, LF and CR as
-/// "\\", "\t", "\n" and "\r", each byte of such characters, and of what is no UTF-8, as "\x1b".
+/// For a column of a TSV file; reversible: backslash, tab, LF and CR become "\\", "\t", "\n" and "\r"; every
+/// byte of the other characters, and every byte that is not valid UTF-8, becomes "\x1b".
 QByteArray tsvName(const QByteArray &name);
 
-/// As a JSON string with its quotes, in which such characters are "\u001b"; bytes that are no UTF-8 as
+/// A JSON string with its quotes: those characters become "\u001b", and bytes that are not valid UTF-8 become
 /// U+FFFD.
 QByteArray jsonName(const QByteArray &name);
 
-/// The names in a list: separated by NUL bytes if there is one in it, else by LF; empty names are left out.
+/// The names in a list: separated by NUL bytes if it contains any, otherwise by LF. Empty names are skipped.
 QByteArrayList namesInList(const QByteArray &list);

@@ -14,9 +14,9 @@ Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name
     return name == standardInputName ? loadDocument(STDIN_FILENO, options) : loadDocument(name, options);
 }
 
-void tellDocumentFailure(const QByteArray &name, const QString &cause)
+void reportDocumentFailure(const QByteArray &name, const QString &cause)
 {
-    // What was printed so far comes first where both streams end in one place.
+    // Keeps the order where both streams go to the same terminal or file.
     std::fflush(stdout);
     std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(),
         printableName(cause.toUtf8()).constData());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The documents that the words of a command name: files, and standard input as "-". Thread: any.
+// The documents that are named on the command line: files, and standard input as "-".
+// Thread: any.
 #pragma once
 
 #include "documents/loading/DocumentLoader.h"
@@ -8,8 +9,8 @@
 
 inline constexpr char standardInputName[] = "-";
 
-/// Standard input is read to its end.
+/// Reads standard input to its end.
 Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name);
 
-/// Tells on standard error why a document was not taken, behind its name.
-void tellDocumentFailure(const QByteArray &name, const QString &cause);
+/// Reports on standard error why a document was not read or counted.
+void reportDocumentFailure(const QByteArray &name, const QString &cause);

@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto timeout = 1s;
+constexpr auto delay = 1s;
 constexpr auto interval = 200ms;
 
 void writeToStandardError(const QByteArray &text)
@@ -23,7 +23,7 @@ void writeToStandardError(const QByteArray &text)
         ::write(STDERR_FILENO, text.constData(), static_cast<size_t>(text.size()));
 }
 
-// A line longer than the terminal is wide would wrap, and wiping would leave its first part.
+// A longer line would wrap, and erasing it would leave its first part.
 qsizetype terminalWidth()
 {
     winsize size{};
@@ -39,7 +39,7 @@ ProgressLine::ProgressLine(qsizetype fileCount)
         return;
     try {
         m_thread = std::thread([this] { drawUntilStopped(); });
-    } catch (const std::system_error &) { // the system has no thread left: nobody sees the progress
+    } catch (const std::system_error &) { // no thread available: work without showing the progress
     }
 }
 
@@ -53,7 +53,7 @@ ProgressLine::~ProgressLine()
     }
     m_stop.notify_one();
     m_thread.join();
-    wipe();
+    erase();
 }
 
 void ProgressLine::startReading(const QByteArray &fileName, qsizetype index)
@@ -74,14 +74,14 @@ void ProgressLine::startCounting(qsizetype length)
 void ProgressLine::hide()
 {
     const std::lock_guard lock(m_mutex);
-    wipe();
+    erase();
 }
 
 void ProgressLine::drawUntilStopped()
 {
     std::unique_lock lock(m_mutex);
     const auto isStopped = [this] { return m_isStopped; };
-    if (m_stop.wait_for(lock, timeout, isStopped))
+    if (m_stop.wait_for(lock, delay, isStopped))
         return;
     do {
         draw();
@@ -101,7 +101,7 @@ void ProgressLine::draw()
     m_isShown = true;
 }
 
-void ProgressLine::wipe()
+void ProgressLine::erase()
 {
     if (m_isShown)
         writeToStandardError("\r\033[K");

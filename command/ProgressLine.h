@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// ProgressLine tells on standard error how far the work has come, once it takes over a second and where
-// standard error is a terminal; otherwise it does nothing. Thread: its operations belong to one thread; it
-// draws from a thread of its own.  Owner: a command.
+// ProgressLine shows the progress of a command on standard error, if that is a terminal and the work takes
+// longer than a second.
+// Thread: one; draws on a thread of its own.  Owner: a command.
 #pragma once
 
 #include <QByteArray>
@@ -16,27 +16,27 @@ public:
     explicit ProgressLine(qsizetype fileCount);
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;
-    /// Wipes the line.
+    /// Erases the line.
     ~ProgressLine();
 
-    /// A file is being read now; index counts from 0.
+    /// A file is being read; index: from 0.
     void startReading(const QByteArray &fileName, qsizetype index);
-    /// It is read and being counted; length and positions in any unit.
+    /// The file has been read and is being counted; length and positions in the same unit.
     void startCounting(qsizetype length);
     void setPosition(qsizetype position) { m_position.store(position, std::memory_order_relaxed); }
 
-    /// Wipes the line, so that other output can be printed; it comes back with the next change.
+    /// Erases the line, so that other output can be printed; it reappears when it is next drawn.
     void hide();
 
 private:
     void drawUntilStopped();
     void draw();
-    void wipe();
+    void erase();
 
     const qsizetype m_fileCount;
     std::atomic<qsizetype> m_position = 0;
 
-    std::mutex m_mutex; // guards all below
+    std::mutex m_mutex; ///< guards all below
     std::condition_variable m_stop;
     bool m_isStopped = false;
     bool m_isShown = false;

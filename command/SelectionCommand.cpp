@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "command/SelectionCommand.h"
-
+// "quillbay selection": opens a window with the counts of the text that is selected in any application.
 #include "command/CommandWords.h"
+#include "command/Commands.h"
 #include "command/ServiceCommand.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
@@ -10,29 +10,29 @@ namespace {
 
 constexpr char selectionHelp[] = R"(Usage: quillbay selection [--clipboard]
 
-Opens a small window with the counts of the text that is selected in whatever
-application. Made for a shortcut of the keyboard: what goes wrong is told in a
-notification of the desktop as well as on standard error.
+Opens a small window with the counts of the text that is selected in any
+application. Meant for a keyboard shortcut: errors are reported in a desktop
+notification as well as on standard error.
 
-Some Wayland desktops show selections to X11 programs, such as this one, only
-while one of those has the focus. There wl-paste is asked, if it is installed
+Some Wayland desktops pass selections to X11 programs, such as this one, only
+while an X11 program has the focus. On those, wl-paste is used if it is installed
 (package wl-clipboard).
 
-  --clipboard  the text that was copied last instead
-  -h, --help   show this and leave
+  --clipboard  use the text that was copied last instead
+  -h, --help   print this help and exit
 
-Exit status: 0 once the window is there, 1 if there is none, 2 for wrong usage.
+Exit status: 0 if the window has opened, 1 if not, 2 after wrong usage.
 )";
 
 int openWindow(SelectionName name)
 {
     constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
-    // Before anything that takes time: the user goes on working.
+    // First, before the user selects something else.
     const Result<Pasteboard, SelectionFailure> pasteboard =
         readSelection(name, SelectionContent::Text, PasteboardWire::maxPasteboardSize);
     if (!pasteboard)
-        return tellFailure(causeText(pasteboard.error()), report);
-    return deliverServiceMessage(QStringLiteral("wordCountSelectedTextService"), pasteboard.value(), report);
+        return reportFailure(causeText(pasteboard.error()), report);
+    return performService(QStringLiteral("wordCountSelectedTextService"), pasteboard.value(), report);
 }
 
 } // namespace
@@ -44,9 +44,9 @@ int runSelectionCommand(int wordCount, char **words)
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printed(selectionHelp);
+        return printText(selectionHelp);
     if (!wanted->operands.isEmpty())
-        return tellWrongUsage("selection", "it takes no file; 'quillbay text FILE' does");
+        return reportWrongUsage("selection", "selection takes no file; use 'quillbay text FILE'");
     return openWindow(
         wanted->switches.contains("clipboard") ? SelectionName::Clipboard : SelectionName::Primary);
 }

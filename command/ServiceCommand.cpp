@@ -11,8 +11,8 @@
 
 namespace {
 
-/// The token by which a window of this request may take the focus; that of X11 where there are two, as the
-/// windows are X11's. It serves once: whoever comes after this process must not find it.
+/// The token that allows the new window to take the focus; that of X11 if there are two, as the windows use
+/// X11. Tokens are valid once, so child processes must not inherit it.
 QString takeActivationToken()
 {
     QString token;
@@ -24,7 +24,7 @@ QString takeActivationToken()
     return token;
 }
 
-QString asSentence(const QString &cause)
+QString sentenceOf(const QString &cause)
 {
     QString sentence = cause.left(1).toUpper() + cause.mid(1);
     if (!sentence.endsWith(u'.') && !sentence.endsWith(u'!') && !sentence.endsWith(u'?'))
@@ -34,7 +34,7 @@ QString asSentence(const QString &cause)
 
 } // namespace
 
-int deliverServiceMessage(const QString &message, const Pasteboard &pasteboard, FailureReport report)
+int performService(const QString &service, const Pasteboard &pasteboard, FailureReport report)
 {
     const QString token = takeActivationToken();
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
@@ -42,14 +42,14 @@ int deliverServiceMessage(const QString &message, const Pasteboard &pasteboard, 
     QVariantMap options;
     if (!token.isEmpty())
         options.insert(ServiceInterface::activationTokenOption(), token);
-    const std::optional<ServiceMessageFailure> failure = sendServiceMessage(message, pasteboard, options);
-    return failure ? tellFailure(causeText(*failure), report) : 0;
+    const std::optional<ServiceMessageFailure> failure = sendServiceMessage(service, pasteboard, options);
+    return failure ? reportFailure(causeText(*failure), report) : 0;
 }
 
-int tellFailure(const QString &cause, FailureReport report)
+int reportFailure(const QString &cause, FailureReport report)
 {
     std::fprintf(stderr, "quillbay: %s\n", printableName(cause.toUtf8()).constData());
     if (report == FailureReport::StandardErrorAndNotification)
-        showUserNotification(QStringLiteral("Quillbay"), asSentence(cause));
+        showUserNotification(QStringLiteral("Quillbay"), sentenceOf(cause));
     return 1;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the commands have in common that open a window: they send a service message to the program that
-// provides the services, as a menu of services does.
+// Asks the service provider for a service, as a desktop's menu of services does: the common part of the
+// commands that open windows.
 // Thread: main.
 #pragma once
 
@@ -8,13 +8,13 @@
 
 #include <QString>
 
-/// Who hears of a failure. A command that a shortcut has started has no terminal to tell it in.
+/// Where a failure is reported. A command started by a keyboard shortcut has no terminal.
 enum class FailureReport { StandardError, StandardErrorAndNotification };
 
-/// Does what must come before a service message (the first-launch step, the display and the locale for the
-/// bus, the activation token of this process), sends it and waits until it is done. Gives the exit status of
-/// the command: 0, or 1 once the failure is told. message: as "wordCountSelectedTextService".
-int deliverServiceMessage(const QString &message, const Pasteboard &pasteboard, FailureReport report);
+/// Prepares the session (first-launch step, display and locale of the bus, activation token), has the service
+/// performed and waits until it is done. Returns the exit status: 0, or 1 after reporting the failure.
+/// service: as "wordCountSelectedTextService".
+int performService(const QString &service, const Pasteboard &pasteboard, FailureReport report);
 
-/// Tells a failure, in a sentence with or without capital and full stop; gives the exit status 1.
-int tellFailure(const QString &cause, FailureReport report);
+/// cause: with or without capital and full stop; the notification adds them. Returns the exit status 1.
+int reportFailure(const QString &cause, FailureReport report);

@@ -10,11 +10,11 @@ QString causeText(CountServiceFailure failure)
 {
     switch (failure) {
     case CountServiceFailure::NoAnswer:
-        return QStringLiteral("the counting service does not answer; count without --service");
+        return QStringLiteral("the counting service does not answer; run again without --service");
     case CountServiceFailure::NotEnoughMemory:
         break;
     }
-    return QStringLiteral("not enough memory to hand it to the counting service");
+    return QStringLiteral("not enough memory to send it to the counting service");
 }
 
 ServiceCounter::ServiceCounter()
@@ -38,21 +38,19 @@ Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::countWordDocume
 }
 
 Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::count(
-    Request request, QByteArrayView payload)
+    CountRequest request, QByteArrayView payload)
 {
     SealedMemory::MemoryResult memory = SealedMemory::copyOf(payload);
     if (!memory)
         return CountServiceFailure::NotEnoughMemory;
-    // A connection that gives a request up lets its handler go, and with it the promise.
-    auto promise = std::make_shared<std::promise<RemoteReply>>();
-    std::future<RemoteReply> answer = promise->get_future();
+    // A connection that gives up a request destroys its handler, which breaks the promise.
+    auto promise = std::make_shared<std::promise<QBYWordCounterStats>>();
+    std::future<QBYWordCounterStats> answer = promise->get_future();
     const WordCounterServiceProtocol service(m_connection.remoteObjectProxy());
     (service.*request)(std::make_shared<const SealedMemory>(std::move(memory).value()),
-        [promise = std::move(promise)](const RemoteReply &reply) { promise->set_value(reply); });
+        [promise = std::move(promise)](const QBYWordCounterStats &stats) { promise->set_value(stats); });
     try {
-        const RemoteReply counts = answer.get();
-        return QBYWordCounterStats{
-            counts[0], counts[1], counts[2], counts[3], counts[4], counts[5], counts[6], counts[7]};
+        return answer.get();
     } catch (const std::future_error &) {
         return CountServiceFailure::NoAnswer;
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// ServiceCounter counts documents in the counting service, as the windows of the product do, and waits for
-// the answers. Thread: one, not that of the connections.  Owner: the count command.
+// ServiceCounter counts documents in the counting service, as the windows do, and blocks until each answer.
+// Thread: one, other than that of the connections.  Owner: the count command.
 #pragma once
 
 #include "platform/session_bus/RemoteObjectConnection.h"
@@ -12,26 +12,26 @@
 #include <QByteArrayView>
 
 enum class CountServiceFailure {
-    NoAnswer, ///< there is no service, or it failed twice; the log tells more
-    NotEnoughMemory, ///< to hand the document over
+    NoAnswer, ///< the service does not exist or failed twice; see the log
+    NotEnoughMemory, ///< for the copy of the document that is sent
 };
 
-/// The cause in English, on one line, to stand behind the document's name.
+/// The cause in English, on one line, for use after "document: ".
 QString causeText(CountServiceFailure failure);
 
 class ServiceCounter {
 public:
     ServiceCounter();
 
-    // Wait for the answer as long as the count takes. What the service could not count has eight zeros.
+    // Block without a timeout. A document that the service cannot count has eight zeros.
     Result<QBYWordCounterStats, CountServiceFailure> countText(const AttributedString &text);
     /// bytes: of a .docx file.
     Result<QBYWordCounterStats, CountServiceFailure> countWordDocument(QByteArrayView bytes);
 
 private:
-    using Request = void (WordCounterServiceProtocol::*)(
+    using CountRequest = void (WordCounterServiceProtocol::*)(
         WordCounterServiceProtocol::Data, WordCounterServiceProtocol::Results) const;
-    Result<QBYWordCounterStats, CountServiceFailure> count(Request request, QByteArrayView payload);
+    Result<QBYWordCounterStats, CountServiceFailure> count(CountRequest request, QByteArrayView payload);
 
     RemoteObjectConnection m_connection;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "command/TextCommand.h"
-
+// "quillbay text": opens a window with the counts of a document or of standard input.
 #include "command/CommandWords.h"
+#include "command/Commands.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
 #include "documents/rtfd/RtfdWriter.h"
@@ -12,16 +12,16 @@ namespace {
 
 constexpr char textHelp[] = R"(Usage: quillbay text [FILE]
 
-Opens a small window with the counts of FILE, or of standard input where FILE is
-- or not named. Reads what 'quillbay count' reads: plain text of any encoding,
-RTF and RTFD, web pages, Word documents and PDF files.
+Opens a small window with the counts of FILE. Without FILE, or if FILE is -, reads
+standard input. FILE can be plain text in any encoding, RTF, RTFD, a web page, a
+Word document or a PDF file, as for 'quillbay count'.
 
-  -h, --help  show this and leave
+  -h, --help  print this help and exit
 
-Exit status: 0 once the window is there, 1 if there is none, 2 for wrong usage.
+Exit status: 0 if the window has opened, 1 if not, 2 after wrong usage.
 )";
 
-/// As every window takes it, attributes and attachments included.
+/// As flat RTFD, which keeps attributes and attachments.
 Result<Pasteboard, QString> pasteboardOf(const QByteArray &name)
 {
     const Result<AttributedString, DocumentError> text = loadNamedDocument(name);
@@ -37,10 +37,10 @@ int openWindow(const QByteArray &name)
 {
     const Result<Pasteboard, QString> pasteboard = pasteboardOf(name);
     if (!pasteboard) {
-        tellDocumentFailure(name, pasteboard.error());
+        reportDocumentFailure(name, pasteboard.error());
         return 1;
     }
-    return deliverServiceMessage(
+    return performService(
         QStringLiteral("wordCountSelectedTextService"), pasteboard.value(), FailureReport::StandardError);
 }
 
@@ -52,15 +52,15 @@ int runTextCommand(int wordCount, char **words)
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printed(textHelp);
+        return printText(textHelp);
     if (wanted->operands.size() > 1)
-        return tellWrongUsage("text", "one file at a time");
+        return reportWrongUsage("text", "one file at a time");
     const QByteArray name = wanted->operands.isEmpty() ? standardInputName : wanted->operands.first();
-    // Every step makes buffers as large as the document.
+    // Every step allocates buffers as large as the document.
     try {
         return openWindow(name);
     } catch (const std::bad_alloc &) {
-        tellDocumentFailure(name, causeText(FileError{FileError::Cause::NotEnoughMemory}));
+        reportDocumentFailure(name, causeText(FileError{FileError::Cause::NotEnoughMemory}));
         return 1;
     }
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "command/WatchCommand.h"
-
+// "quillbay watch": opens a window for each file, whose counts follow every save.
 #include "command/CommandWords.h"
+#include "command/Commands.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
 #include "platform/pasteboard/Selection.h"
@@ -21,20 +21,20 @@ constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
 constexpr char watchHelp[] = R"(Usage: quillbay watch FILE…
        quillbay watch --clipboard
 
-Opens a small window for each FILE, whose counts follow every save, or brings
-forward the window that FILE has. Watches text, RTF and RTFD, web pages and Word
-documents; other files are passed over. A failure is told in a notification of
-the desktop as well as on standard error.
+Opens a small window for each FILE, whose counts follow every save, or raises the
+window that FILE already has. Watches plain text, RTF, RTFD, web pages and Word
+documents; other files are skipped. Errors are reported in a desktop notification
+as well as on standard error.
 
-  --clipboard  the files that were copied last in a file manager
-  -h, --help   show this and leave
+  --clipboard  watch the files that were copied last in a file manager
+  -h, --help   print this help and exit
 
-Exit status: 0 once the windows are there, 1 if a FILE does not exist or none can
-be watched, 2 for wrong usage.
+Exit status: 0 if the windows have opened, 1 if a FILE does not exist or no FILE
+can be watched, 2 after wrong usage.
 )";
 
-/// From the root of the file system on, without empty and "." components. ".." stays: what it leads to behind
-/// a symbolic link, only the file system knows.
+/// An absolute path without empty and "." components. Keeps "..": after a symbolic link only the file system
+/// can resolve it.
 QByteArray absolutePath(const QByteArray &name)
 {
     std::error_code error;
@@ -47,14 +47,14 @@ QByteArray absolutePath(const QByteArray &name)
     return absolute.isEmpty() ? "/" : absolute;
 }
 
-/// A list of URLs (RFC 2483) of the files that exist; the others are told.
-QByteArray listOfFiles(const QByteArrayList &names, bool &isComplete)
+/// A list of URLs (RFC 2483) of the files that exist; reports the others and sets isComplete to false.
+QByteArray urlListOfFiles(const QByteArrayList &names, bool &isComplete)
 {
     QByteArray list;
     for (const QByteArray &name : names) {
         struct stat status { };
         if (::stat(name.constData(), &status) != 0) {
-            tellDocumentFailure(name, systemErrorText(errno));
+            reportDocumentFailure(name, systemErrorText(errno));
             isComplete = false;
             continue;
         }
@@ -65,20 +65,20 @@ QByteArray listOfFiles(const QByteArrayList &names, bool &isComplete)
 
 int send(const Pasteboard &pasteboard)
 {
-    return deliverServiceMessage(QStringLiteral("watchTheTextFileService"), pasteboard, report);
+    return performService(QStringLiteral("watchTheTextFileService"), pasteboard, report);
 }
 
 int watchCopiedFiles()
 {
     const Result<Pasteboard, SelectionFailure> files =
         readSelection(SelectionName::Clipboard, SelectionContent::Files, PasteboardWire::maxPasteboardSize);
-    return files ? send(files.value()) : tellFailure(causeText(files.error()), report);
+    return files ? send(files.value()) : reportFailure(causeText(files.error()), report);
 }
 
 int watch(const QByteArrayList &names)
 {
     bool isComplete = true;
-    const QByteArray list = listOfFiles(names, isComplete);
+    const QByteArray list = urlListOfFiles(names, isComplete);
     if (list.isEmpty())
         return 1;
     const int status = send(Pasteboard({{QString::fromUtf16(Pasteboard::urlListType), list}}));
@@ -93,10 +93,10 @@ int runWatchCommand(int wordCount, char **words)
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printed(watchHelp);
+        return printText(watchHelp);
     const bool fromClipboard = wanted->switches.contains("clipboard");
     if (wanted->operands.isEmpty() != fromClipboard)
-        return tellWrongUsage(
-            "watch", fromClipboard ? "either --clipboard or files, not both" : "no file named");
+        return reportWrongUsage(
+            "watch", fromClipboard ? "either --clipboard or files, not both" : "no file given");
     return fromClipboard ? watchCopiedFiles() : watch(wanted->operands);
 }

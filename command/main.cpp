@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The quillbay command: the counts in a terminal, and the ways to its windows.
+// The quillbay command: counts in a terminal, and commands that open Quillbay's windows.
 #include "command/CommandWords.h"
-#include "command/CountArguments.h"
-#include "command/CountCommand.h"
+#include "command/Commands.h"
 #include "command/FileNames.h"
-#include "command/SelectionCommand.h"
-#include "command/TextCommand.h"
-#include "command/WatchCommand.h"
 #include "platform/system/Processes.h"
 
 #include <QCoreApplication>
@@ -22,31 +18,21 @@ constexpr char helpText[] = R"(Usage: quillbay COMMAND …
 Counts text for people who write.
 
 Commands:
-  count      the counts of files or of standard input
-  selection  the counts of the selected text of any application, in a window
-  text       the counts of one file or of a pipe, in a window
-  watch      the counts of files after every save, in windows
+  count      print the counts of files or of standard input
+  selection  show the counts of the text selected in any application
+  text       show the counts of one file or of standard input
+  watch      show the counts of files, and update them at every save
 
 Options:
-  -h, --help  show this and leave
-  --version   show the version and leave
+  -h, --help  print this help and exit
+  --version   print the version and exit
 
-'quillbay COMMAND --help' tells more about a command.
+Run 'quillbay COMMAND --help' for the options of a command.
 )";
-
-int runCountCommand(int wordCount, char **words)
-{
-    const std::optional<CountArguments> wanted = CountArguments::fromWords(wordCount, words);
-    if (!wanted)
-        return wrongUsageStatus;
-    if (wanted->wantsHelp)
-        return printed(CountArguments::helpText());
-    return CountCommand(*wanted).run();
-}
 
 struct Command {
     std::string_view name;
-    int (*run)(int wordCount, char **words); ///< words: those behind the name
+    int (*run)(int wordCount, char **words); ///< words: those after the name
 };
 
 constexpr Command commands[] = {
@@ -63,15 +49,14 @@ int main(int argumentCount, char **arguments)
     keepMemoryPrivate();
     const std::string_view name = argumentCount > 1 ? arguments[1] : "";
     if (name == "--help" || name == "-h")
-        return printed(helpText);
+        return printText(helpText);
     if (name == "--version")
-        return printed("quillbay " QUILLBAY_VERSION "\n");
+        return printText("quillbay " QUILLBAY_VERSION "\n");
     for (const Command &command : commands) {
         if (command.name == name) {
             const QCoreApplication application(argumentCount, arguments);
             const int status = command.run(argumentCount - 2, arguments + 2);
-            // At once: Qt's thread for the bus may still take a message while an ordinary end clears away
-            // what it needs for that.
+            // Not exit(): static destructors would race with Qt's thread for the bus.
             std::fflush(nullptr);
             std::_Exit(status);
         }
@@ -79,7 +64,7 @@ int main(int argumentCount, char **arguments)
     if (name.empty())
         std::fputs("quillbay: no command given\n", stderr);
     else
-        std::fprintf(stderr, "quillbay: no command '%s'\n", printableName(arguments[1]).constData());
+        std::fprintf(stderr, "quillbay: unknown command '%s'\n", printableName(arguments[1]).constData());
     std::fputs("Try 'quillbay --help' for more.\n", stderr);
     return wrongUsageStatus;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The one table of the preferences: their keys, which of them a change is announced of, and what they are at
-// the first launch. Reading and writing them is left to QBYUserDefaultsController. Thread: any.
+// the first launch. Reading and writing them is left to QBYUserDefaultsController.
+// Thread: any.
 #pragma once
 
 #include "platform/defaults/DefaultsValue.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // QBYPaper is one paper of the current printer, as the preferences and the line count see it. It converts
-// lengths at the scale of the print settings; which papers there are is theirs to say. Thread: main; a value.
+// lengths at the scale of the print settings; which papers there are is theirs to say.
+// Thread: main; a value.
 #pragma once
 
 #include "platform/printing/Paper.h"

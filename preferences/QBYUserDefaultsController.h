@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // QBYUserDefaultsController is how the whole product reads and writes the user's preferences; it keeps none
-// itself. Thread: any.
+// itself.
+// Thread: any.
 #pragma once
 
 #include "platform/defaults/UserDefaults.h"
@@ -27,7 +28,8 @@ public:
     static UserDefaults &sharedUserDefaults();
 
     /// The first-launch step: gives a user who has no preferences yet the product's. Does nothing at all
-    /// after that, and never posts. Thread: main, as it asks the print settings for the default paper.
+    /// after that, and never posts.
+    /// Thread: main, as it asks the print settings for the default paper.
     static void configureUserDefaultsOnApplicationLaunch();
 
     static void postPreferencesChangedNotification();

@@ -1,12 +1,49 @@
 // SPDX-License-Identifier: MIT
-// The asynchronous counts of WordCounterViewController: from the request over the service to the labels.
+// The asynchronous counts of WordCounterViewController: from the document over the service to the labels.
 #include "presentation/WordCounterViewController.h"
 
+#include "documents/rtfd/RtfdWriter.h"
+#include "platform/files/FileContents.h"
+#include "platform/logging/LogChannel.h"
 #include "platform/system/DispatchQueue.h"
+#include "platform/system/FileURL.h"
 #include "platform/system/MainQueue.h"
-#include "presentation/CountPayload.h"
 
 #include <utility>
+
+namespace {
+
+using Data = WordCounterServiceProtocol::Data;
+
+// On failure the functions below return null, which the service answers with zeros.
+
+Data sealBytes(const QByteArray &bytes)
+{
+    SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
+    if (!memory) {
+        LogChannel::standard().error(
+            u"Could not pass a document to the counting service: {}", {publicly(causeText(memory.error()))});
+        return nullptr;
+    }
+    return std::make_shared<const SealedMemory>(std::move(memory).value());
+}
+
+Data sealText(const AttributedString &text)
+{
+    const auto rtfd = RTFDFromRange(text, 0, text.length(), {});
+    return rtfd ? sealBytes(rtfd.value()) : nullptr;
+}
+
+Data sealFile(const QUrl &url)
+{
+    const QByteArray path = pathOfFileURL(url);
+    if (path.isEmpty())
+        return nullptr;
+    const auto contents = readFile(path);
+    return contents ? sealBytes(contents.value()) : nullptr;
+}
+
+} // namespace
 
 void WordCounterViewController::openConnectionToWordCounterService()
 {
@@ -22,15 +59,14 @@ void WordCounterViewController::asyncUpdateStatsWithAttributedString(
     const AttributedString &attributedString, Completion completion)
 {
     asyncUpdateStats(
-        QStringLiteral("com.rtfdCreatorQueue"),
-        [attributedString] { return CountPayload::ofText(attributedString); },
+        QStringLiteral("com.rtfdCreatorQueue"), [attributedString] { return sealText(attributedString); },
         &WordCounterServiceProtocol::countWordsForAttributedStringRTFDData, std::move(completion));
 }
 
 void WordCounterViewController::asyncUpdateStatsDocXFileURL(const QUrl &fileURL, Completion completion)
 {
     asyncUpdateStats(
-        QStringLiteral("com.docxCreatorQueue"), [fileURL] { return CountPayload::ofFile(fileURL); },
+        QStringLiteral("com.docxCreatorQueue"), [fileURL] { return sealFile(fileURL); },
         &WordCounterServiceProtocol::countWordsForDocX, std::move(completion));
 }
 
@@ -41,7 +77,7 @@ void WordCounterViewController::asyncUpdateStats(const QString &queueLabel,
     if (m_isAsyncCountOperationInProgress)
         return;
     setIsAsyncCountOperationInProgress(true);
-    // The queue's thread may be the last to let them go.
+    // The queue's thread may release the last reference to either.
     const auto panel = releaseOnMainThread(shared_from_this());
     const HeldCompletion held = releaseOnMainThread(std::move(completion));
     DispatchQueue(queueLabel).async([panel, held, makeData, request] {
@@ -49,23 +85,23 @@ void WordCounterViewController::asyncUpdateStats(const QString &queueLabel,
     });
 }
 
-// Over the connection of this moment: a request that was stopped while its data were made is sent after all
-// where another one has opened a connection since.
+// Uses the current connection: a request that was stopped before it was sent is sent after all if a later
+// request has opened a connection.
 void WordCounterViewController::send(CountRequest request, const Data &data, const HeldCompletion &completion)
 {
     const std::shared_ptr<RemoteObjectConnection> connection = _connectionToWordCounterService;
     if (!connection)
         return;
     const WordCounterServiceProtocol service(connection->remoteObjectProxy());
-    // The handler owns the connection too, so that an answer arrives that the panel does not live to see.
+    // The handler shares the connection, so that the answer arrives even if the panel is destroyed first.
     (service.*request)(
-        data, [weakPanel = weak_from_this(), connection, completion](const RemoteReply &reply) {
+        data, [weakPanel = weak_from_this(), connection, completion](const QBYWordCounterStats &stats) {
             MainQueue::async([panel = releaseOnMainThread(weakPanel.lock()),
-                                 sentOver = std::weak_ptr(connection), completion, reply] {
+                                 sentOver = std::weak_ptr(connection), completion, stats] {
                 if (!*panel)
                     (*completion)();
-                else if ((*panel)->isOpen(sentOver)) // otherwise it was stopped meanwhile
-                    (*panel)->showReply(reply, *completion);
+                else if ((*panel)->isOpen(sentOver)) // otherwise the count has been stopped
+                    (*panel)->showReply(stats, *completion);
             });
         });
 }
@@ -75,22 +111,11 @@ bool WordCounterViewController::isOpen(const std::weak_ptr<RemoteObjectConnectio
     return _connectionToWordCounterService && _connectionToWordCounterService == connection.lock();
 }
 
-void WordCounterViewController::showReply(const RemoteReply &reply, const Completion &completion)
+void WordCounterViewController::showReply(const QBYWordCounterStats &stats, const Completion &completion)
 {
-    m_wordCounter->updateModelWithPrepopulatedStats({
-        .numberOfWords = reply[0],
-        .numberOfCharacters = reply[1],
-        .numberOfCharactersIncludingWhitespace = reply[2],
-        .numberOfSentences = reply[3],
-        .numberOfLines = reply[4],
-        .numberOfHardLineBreaks = reply[5],
-        .numberOfParagraphs = reply[6],
-        .numberOfIndentedParagraphs = reply[7],
-    });
-    updateLabels();
-    repositionLabels();
+    updateInterfaceWithPrepopulatedStats(stats);
     completion();
-    // Only now, so that a count which the completion starts is refused.
+    // After the completion, so that a count which the completion starts is refused.
     setIsAsyncCountOperationInProgress(false);
 }
 

@@ -12,10 +12,10 @@ namespace {
 
 // Points.
 constexpr double gapBetweenLabels = 11;
-constexpr double roomBelowLastLabel = 5.5;
+constexpr double gapBelowLastLabel = 5.5;
 
-// In canonical order.
-constexpr std::array<QLatin1StringView, 8> outletNames{QLatin1StringView("wordCountTextField"),
+/// By Statistic.
+constexpr std::array<QLatin1StringView, statisticCount> outletNames{QLatin1StringView("wordCountTextField"),
     QLatin1StringView("characterCountTextField"),
     QLatin1StringView("characterCountTextFieldIncludingWhiteSpace"),
     QLatin1StringView("numberOfSentecesTextField"), QLatin1StringView("numberOfLinesTextField"),
@@ -45,8 +45,8 @@ BaseWordCounterViewController::~BaseWordCounterViewController() = default;
 void BaseWordCounterViewController::loadView()
 {
     const auto interface = InterfaceFile::load(m_interfaceFile);
-    for (size_t index = 0; index < numberOfLabels; ++index)
-        m_outlets[index] = interface.outlet<Label>(QString(outletNames.at(index)));
+    for (std::size_t i = 0; i < statisticCount; ++i)
+        m_outlets[i] = interface.outlet<Label>(QString(outletNames[i]));
     const std::shared_ptr<View> &root = interface.rootView();
     const auto policy = interface.integerProperty(root->identifier(), QStringLiteral("labelPositionPolicy"));
     if (policy)
@@ -59,16 +59,16 @@ void BaseWordCounterViewController::viewDidLoad()
     ViewController::viewDidLoad();
     m_labelPositions.clear();
     m_allTextfieldsForLayout.clear();
-    for (size_t index = 0; index < numberOfLabels; ++index) {
-        const std::shared_ptr<Label> label = outlet(index);
+    for (std::size_t i = 0; i < statisticCount; ++i) {
+        const std::shared_ptr<Label> label = m_outlets[i].lock();
         if (!label)
-            qFatal("The interface file of the statistics panel connects no label to outlet %zu of %zu.",
-                index + 1, numberOfLabels);
+            qFatal("The interface file of the statistics panel connects no label to the outlet %s.",
+                outletNames[i].data());
         m_labelPositions.push_back(label->frame().topLeft());
         m_allTextfieldsForLayout.push_back(label);
-        nameForScreenReaders(*label);
+        updateAccessibleName(*label);
         connect(label.get(), &Label::stringValueDidChange, this,
-            [this, label = label.get()] { nameForScreenReaders(*label); });
+            [this, label = label.get()] { updateAccessibleName(*label); });
     }
     m_visibleTextfieldsForLayout = m_allTextfieldsForLayout;
 
@@ -82,8 +82,8 @@ void BaseWordCounterViewController::viewDidLoad()
         &BaseWordCounterViewController::_ourViewsFrameDidChangeNotification);
 }
 
-// The bullet that the texts begin with is for the eye.
-void BaseWordCounterViewController::nameForScreenReaders(Label &label)
+// Without the bullet, which screen readers would read out.
+void BaseWordCounterViewController::updateAccessibleName(Label &label)
 {
     QString name = label.stringValue();
     if (name.startsWith(u'•'))
@@ -111,8 +111,7 @@ void BaseWordCounterViewController::hideLabelsByPreferences()
 {
     using Preferences = QBYUserDefaultsController;
     setHidden(characterCountTextField(), !Preferences::isShowCharacterCountPreferenceOn());
-    // Without the character count there is none including white space either, whatever its own preference
-    // says.
+    // Hidden together with the character count, whatever its own preference.
     setHidden(characterCountTextFieldIncludingWhiteSpace(),
         !Preferences::isShowCharacterCountPreferenceOn()
             || !Preferences::isShowCharacterCountIncludingWhitespacePreferenceOn());
@@ -127,16 +126,16 @@ void BaseWordCounterViewController::hideLabelsByPreferences()
 void BaseWordCounterViewController::repositionLabels()
 {
     if (m_labelPositionPolicy == WordCounterLabelPositionPolicySlots)
-        putLabelsIntoSlots();
+        placeLabelsInSlots();
     else
         stackLabelsVertically();
     if (layoutDelegate())
         layoutDelegate()->wordCounterViewControllerDidRelayoutLabels();
 }
 
-void BaseWordCounterViewController::putLabelsIntoSlots()
+void BaseWordCounterViewController::placeLabelsInSlots()
 {
-    // The count is read anew at each step: who follows a label's frame may change what is visible.
+    // Not a range loop: a slot connected to a label's frame may change the visible labels.
     for (size_t i = 0; i < std::min(m_visibleTextfieldsForLayout.size(), m_labelPositions.size()); ++i) {
         const std::shared_ptr<Label> label = m_visibleTextfieldsForLayout[i];
         label->setFrameOrigin(m_labelPositions[i]);
@@ -147,12 +146,12 @@ void BaseWordCounterViewController::stackLabelsVertically()
 {
     const Labels labels = m_visibleTextfieldsForLayout;
     const View *superview = labels.empty() ? nullptr : labels.front()->superview();
-    const QSizeF room = superview ? superview->frame().size() : QSizeF(0, 0);
-    const double middle = room.width() * 0.5;
+    const QSizeF available = superview ? superview->frame().size() : QSizeF(0, 0);
+    const double middle = available.width() * 0.5;
     double y = 0;
     for (size_t i = 0; i < labels.size(); ++i) {
         const QSizeF size = labels[i]->frame().size();
-        y = std::floor(i == 0 ? room.height() - size.height() : y - (size.height() + gapBetweenLabels));
+        y = std::floor(i == 0 ? available.height() - size.height() : y - (size.height() + gapBetweenLabels));
         labels[i]->setFrameOrigin({std::floor(middle - size.width() * 0.5), y});
     }
 }
@@ -162,7 +161,7 @@ void BaseWordCounterViewController::adjustViewHeightToFitVisibleLabels()
     const Labels &visible = m_visibleTextfieldsForLayout;
     const double lastLabelsY = visible.empty() ? 0 : visible.back()->frame().y();
     const QSizeF size = view()->frame().size();
-    view()->setFrameSize({size.width(), std::floor(size.height() + roomBelowLastLabel - lastLabelsY)});
+    view()->setFrameSize({size.width(), std::floor(size.height() + gapBelowLastLabel - lastLabelsY)});
 }
 
 void BaseWordCounterViewController::fitLabels()
@@ -190,5 +189,5 @@ void BaseWordCounterViewController::_ourViewsFrameDidChangeNotification()
 void BaseWordCounterViewController::preferencesDidChange()
 {
     updateArray();
-    repositionLabels(); // the second placement of each change is intended
+    repositionLabels(); // deliberately the second placement
 }

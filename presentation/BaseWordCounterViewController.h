@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 // BaseWordCounterViewController is the layout half of the statistics panel: it shows those of its eight
-// labels that the user wants to see, and places them. What the labels say, and how large the window around
-// them is, it leaves to others. Thread: main.  Owner: the panel's host, which is also its layout delegate;
-// refers back to it weakly.
+// labels that the user wants to see, and places them. The texts of the labels and the size of the window
+// around them are left to others.
+// Thread: main.  Owner: the panel's host, which is also its layout delegate; refers back to it weakly.
 #pragma once
 
 #include "platform/system/WeakDelegate.h"
 #include "platform/views/Controls.h"
 #include "platform/views/ViewController.h"
 #include "presentation/WordCounterViewControllerLayoutDelegate.h"
+#include "text_statistics/QBYWordCounterStats.h"
 
 #include <QPointF>
 
@@ -18,23 +19,23 @@
 
 class NotificationObserver;
 
-/// Any other value than 0 stacks.
+/// Any value other than 0 stacks.
 enum WordCounterLabelPositionPolicy : qint64 {
     WordCounterLabelPositionPolicySlots = 0, ///< the i-th visible label takes the i-th design-time place
     WordCounterLabelPositionPolicyStacked = 1, ///< from the top of the panel down, each centred
 };
 
-/// Follows the preferences of every process of the product, and the frame of its own view. Frames are points,
-/// with the origin at the bottom left.
+/// Follows the preferences, whichever process changes them, and the frame of its own view. Frames are in
+/// points, with the origin at the bottom left.
 class BaseWordCounterViewController : public ViewController {
 public:
     using Labels = std::vector<std::shared_ptr<Label>>;
 
-    /// The interface file of the panel that comes with the program, a resource. Its labels have the tags 1 to
-    /// 8 in canonical order; labelPositionPolicy is 0.
+    /// The resource name of the product's own interface file. Its labels have the tags 1 to 8 in canonical
+    /// order; its labelPositionPolicy is 0.
     static QString panelInterfaceFile();
 
-    /// interfaceFile: of the panel, with the eight labels under the names of their outlets.
+    /// interfaceFile: contains the eight labels under the names of their outlets.
     explicit BaseWordCounterViewController(QString interfaceFile = panelInterfaceFile());
     BaseWordCounterViewController(const BaseWordCounterViewController &) = delete;
     BaseWordCounterViewController &operator=(const BaseWordCounterViewController &) = delete;
@@ -44,31 +45,76 @@ public:
     /// Takes effect at the next placement.
     void setLabelPositionPolicy(WordCounterLabelPositionPolicy policy) { m_labelPositionPolicy = policy; }
 
-    // The eight outlets, in canonical order. They are weak: the views above the labels own them.
-    [[nodiscard]] std::shared_ptr<Label> wordCountTextField() const { return outlet(0); }
-    [[nodiscard]] std::shared_ptr<Label> characterCountTextField() const { return outlet(1); }
+    /// The label that shows this statistic; null if it is not connected or has been destroyed. The outlets
+    /// are weak: the views above the labels own them. The accessors below get and set the same outlets.
+    [[nodiscard]] std::shared_ptr<Label> textField(Statistic statistic) const
+    {
+        return m_outlets.at(static_cast<std::size_t>(statistic)).lock();
+    }
+    void setTextField(Statistic statistic, const std::shared_ptr<Label> &label)
+    {
+        m_outlets.at(static_cast<std::size_t>(statistic)) = label;
+    }
+    [[nodiscard]] std::shared_ptr<Label> wordCountTextField() const { return textField(Statistic::Words); }
+    [[nodiscard]] std::shared_ptr<Label> characterCountTextField() const
+    {
+        return textField(Statistic::Characters);
+    }
     [[nodiscard]] std::shared_ptr<Label> characterCountTextFieldIncludingWhiteSpace() const
     {
-        return outlet(2);
+        return textField(Statistic::CharactersIncludingWhitespace);
     }
-    [[nodiscard]] std::shared_ptr<Label> numberOfSentecesTextField() const { return outlet(3); }
-    [[nodiscard]] std::shared_ptr<Label> numberOfLinesTextField() const { return outlet(4); }
-    [[nodiscard]] std::shared_ptr<Label> numberOfHardLineBreaksTextField() const { return outlet(5); }
-    [[nodiscard]] std::shared_ptr<Label> numberOfParagraphsTextField() const { return outlet(6); }
-    [[nodiscard]] std::shared_ptr<Label> numberOfIndentedParagraphsTextField() const { return outlet(7); }
-    void setWordCountTextField(const std::shared_ptr<Label> &label) { m_outlets[0] = label; }
-    void setCharacterCountTextField(const std::shared_ptr<Label> &label) { m_outlets[1] = label; }
+    [[nodiscard]] std::shared_ptr<Label> numberOfSentecesTextField() const
+    {
+        return textField(Statistic::Sentences);
+    }
+    [[nodiscard]] std::shared_ptr<Label> numberOfLinesTextField() const
+    {
+        return textField(Statistic::Lines);
+    }
+    [[nodiscard]] std::shared_ptr<Label> numberOfHardLineBreaksTextField() const
+    {
+        return textField(Statistic::HardLineBreaks);
+    }
+    [[nodiscard]] std::shared_ptr<Label> numberOfParagraphsTextField() const
+    {
+        return textField(Statistic::Paragraphs);
+    }
+    [[nodiscard]] std::shared_ptr<Label> numberOfIndentedParagraphsTextField() const
+    {
+        return textField(Statistic::IndentedParagraphs);
+    }
+    void setWordCountTextField(const std::shared_ptr<Label> &label) { setTextField(Statistic::Words, label); }
+    void setCharacterCountTextField(const std::shared_ptr<Label> &label)
+    {
+        setTextField(Statistic::Characters, label);
+    }
     void setCharacterCountTextFieldIncludingWhiteSpace(const std::shared_ptr<Label> &label)
     {
-        m_outlets[2] = label;
+        setTextField(Statistic::CharactersIncludingWhitespace, label);
     }
-    void setNumberOfSentecesTextField(const std::shared_ptr<Label> &label) { m_outlets[3] = label; }
-    void setNumberOfLinesTextField(const std::shared_ptr<Label> &label) { m_outlets[4] = label; }
-    void setNumberOfHardLineBreaksTextField(const std::shared_ptr<Label> &label) { m_outlets[5] = label; }
-    void setNumberOfParagraphsTextField(const std::shared_ptr<Label> &label) { m_outlets[6] = label; }
-    void setNumberOfIndentedParagraphsTextField(const std::shared_ptr<Label> &label) { m_outlets[7] = label; }
+    void setNumberOfSentecesTextField(const std::shared_ptr<Label> &label)
+    {
+        setTextField(Statistic::Sentences, label);
+    }
+    void setNumberOfLinesTextField(const std::shared_ptr<Label> &label)
+    {
+        setTextField(Statistic::Lines, label);
+    }
+    void setNumberOfHardLineBreaksTextField(const std::shared_ptr<Label> &label)
+    {
+        setTextField(Statistic::HardLineBreaks, label);
+    }
+    void setNumberOfParagraphsTextField(const std::shared_ptr<Label> &label)
+    {
+        setTextField(Statistic::Paragraphs, label);
+    }
+    void setNumberOfIndentedParagraphsTextField(const std::shared_ptr<Label> &label)
+    {
+        setTextField(Statistic::IndentedParagraphs, label);
+    }
 
-    /// The labels that are not hidden, by their tags. Empty before viewDidLoad(), as the next two.
+    /// The labels that are not hidden, by their tags. Like the next two, empty before viewDidLoad().
     [[nodiscard]] const Labels &visibleTextfieldsForLayout() const { return m_visibleTextfieldsForLayout; }
     void setVisibleTextfieldsForLayout(Labels labels) { m_visibleTextfieldsForLayout = std::move(labels); }
     /// All eight, in canonical order.
@@ -84,24 +130,23 @@ public:
     }
     void setLayoutDelegate(WordCounterViewControllerLayoutDelegate *delegate) { m_layoutDelegate = delegate; }
 
-    /// Makes view and outlets from the interface file, and takes the label position policy from it where it
-    /// has one. The process ends where the file cannot be used: it is a part of the program.
+    /// Creates view and outlets from the interface file, and reads the label position policy from it if it
+    /// has one. Ends the process if the file is unusable, as the file is part of the program.
     void loadView() override;
 
-    /// Takes the slots, shows and places the labels, and begins to follow preferences and frame. All eight
-    /// outlets must be connected: the process ends where one is not, since an interface file without it is a
-    /// broken build.
+    /// Reads the slots, shows and places the labels, and starts to follow preferences and frame. Ends the
+    /// process if an outlet is not connected: the interface file is then broken.
     void viewDidLoad() override;
 
-    /// Shows and hides the labels as the preferences have it now, and places them.
+    /// Shows and hides the labels by the current preferences, and places them.
     void updateArray();
-    /// Places the visible labels by the policy and tells the delegate. Before viewDidLoad() there are none to
-    /// place, but the delegate is told.
+    /// Places the visible labels by the policy and notifies the delegate; the delegate alone before
+    /// viewDidLoad().
     void repositionLabels();
-    /// Places the visible labels from the top of the superview of the first one down, 11 points apart.
+    /// Places the visible labels from the top of the first one's superview down, 11 points apart.
     void stackLabelsVertically();
     /// Makes the panel's view end 5.5 points below the last visible label, rounded down to whole points; its
-    /// width and its origin stay. The panel leaves it to its host to ask for this.
+    /// width and origin stay. Only hosts call it.
     void adjustViewHeightToFitVisibleLabels();
     /// Sizes every label to its text and places them. Hosts call it when the text metrics of their window
     /// change.
@@ -110,18 +155,15 @@ public:
     void viewsFrameDidChange();
 
 private:
-    static constexpr size_t numberOfLabels = 8;
-
-    [[nodiscard]] std::shared_ptr<Label> outlet(size_t index) const { return m_outlets[index].lock(); }
     void hideLabelsByPreferences();
-    void putLabelsIntoSlots();
-    void nameForScreenReaders(Label &label);
+    void placeLabelsInSlots();
+    void updateAccessibleName(Label &label);
     void preferencesDidChange();
     void _ourViewsFrameDidChangeNotification();
 
     const QString m_interfaceFile;
     WordCounterLabelPositionPolicy m_labelPositionPolicy = WordCounterLabelPositionPolicySlots;
-    std::array<std::weak_ptr<Label>, numberOfLabels> m_outlets;
+    std::array<std::weak_ptr<Label>, statisticCount> m_outlets; ///< by Statistic
     Labels m_visibleTextfieldsForLayout;
     Labels m_allTextfieldsForLayout;
     std::vector<QPointF> m_labelPositions;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the labels of WordCounterViewController show, for other programs.
+// The statistics of WordCounterViewController as HTML and styled text, for the clipboard and other programs.
 #include "presentation/WordCounterViewController.h"
 
 #include "documents/loading/DocumentReader.h"

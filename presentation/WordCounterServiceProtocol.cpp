@@ -29,5 +29,6 @@ void WordCounterServiceProtocol::send(const QString &method, Data data, Results 
     m_proxy.send({.method = method,
                      .payload = std::move(data),
                      .options = {{QStringLiteral("locale"), currentLocaleIdentifier()}}},
-        std::move(withResults));
+        [withResults = std::move(withResults)](
+            const RemoteReply &reply) { withResults(statsFromCounts(reply)); });
 }

@@ -1,30 +1,33 @@
 // SPDX-License-Identifier: MIT
-// WordCounterServiceProtocol is what the counting service can be asked, as docs/dbus/ describes it: to count
-// a document that the sender hands over. Thread: that of its connection's owner.  Owner: whoever asks.
+// WordCounterServiceProtocol sends the requests of the counting service, which docs/dbus/ describes, and
+// converts its replies.
+// Thread: that of the connection's owner.  Owner: the client; short-lived.
 #pragma once
 
 #include "platform/session_bus/RemoteObjectConnection.h"
+#include "text_statistics/QBYWordCounterStats.h"
 
+#include <functional>
 #include <memory>
 #include <utility>
 
 class WordCounterServiceProtocol {
 public:
-    /// Null: the document could not be had.
+    /// Null: the document is not available.
     using Data = std::shared_ptr<const SealedMemory>;
-    /// Given the eight counts in the order of QBYWordCounterStats, on the thread of the connections.
-    using Results = RemoteReplyHandler;
+    /// Called on the thread of the connections.
+    using Results = std::function<void(const QBYWordCounterStats &stats)>;
 
     static QString serviceName();
     static RemoteObjectInterface interface();
 
-    /// proxy: made under interface().
+    /// proxy: of a connection with interface().
     explicit WordCounterServiceProtocol(RemoteObjectProxy proxy)
         : m_proxy(std::move(proxy))
     {
     }
 
-    // Under the locale that the process has at the call.
+    // Count under the current locale of this process.
     /// data: a styled text as flat RTFD.
     void countWordsForAttributedStringRTFDData(Data data, Results withResults) const;
     /// data: the bytes of a Word document (.docx).

@@ -66,22 +66,11 @@ void WordCounterViewController::updateInterfaceWithPrepopulatedStats(const QBYWo
 
 void WordCounterViewController::updateLabels()
 {
-    const WordCounterModel &model = *m_wordCounter;
-    const std::pair<std::shared_ptr<Label>, QString> texts[] = {
-        {wordCountTextField(), model.wordCountFormattedString()},
-        {characterCountTextField(), model.characterCountFormattedString()},
-        {characterCountTextFieldIncludingWhiteSpace(),
-            model.characterCountFormattedStringIncludingWhiteSpace()},
-        {numberOfSentecesTextField(), model.numberOfSentencesCountFormattedString()},
-        {numberOfLinesTextField(), model.numberOfLinesFormattedString()},
-        {numberOfHardLineBreaksTextField(), model.numberOfHardLineBreaksFormattedString()},
-        {numberOfParagraphsTextField(), model.numberOfParagraphsFormattedString()},
-        {numberOfIndentedParagraphsTextField(), model.numberOfIndentedParagraphsFormattedString()},
-    };
-    for (const auto &[label, text] : texts) {
+    for (const StatisticRow &row : statisticTable) {
+        const std::shared_ptr<Label> label = textField(row.statistic);
         if (!label)
             continue; // the view is not loaded yet
-        label->setStringValue(text);
+        label->setStringValue(m_wordCounter->formattedString(row.statistic));
         label->sizeToFit();
     }
 }

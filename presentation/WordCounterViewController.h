@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-// WordCounterViewController is the statistics panel that counts: it feeds its model, asks the counting
-// service, and writes what the model says into the eight labels. Where the labels lie is its base class's
-// business. Thread: main; made by any.  Owner: the panel's host, and the work that has not yet been sent to
-// the service. Made with std::make_shared; wherever the last reference is let go in here, the panel ends its
-// life on the main thread.
+// WordCounterViewController is the statistics panel that counts: it fills its model, here or through the
+// counting service, and shows the model's strings in the eight labels. Its base class places the labels.
+// Create it with std::make_shared; a count in progress releases its references on the main thread.
+// Thread: main; may be created on any.  Owner: the panel's host, and a count that has not been sent yet.
 #pragma once
 
 #include "platform/session_bus/RemoteObjectConnection.h"
@@ -27,15 +26,15 @@ class WordCounterViewController : public BaseWordCounterViewController,
             setIsAsyncCountOperationInProgress NOTIFY isAsyncCountOperationInProgressChanged)
 
 public:
-    /// Runs on the main thread. Required: an empty one ends the process when it is due.
+    /// Called on the main thread. Must not be empty: calling it then ends the process.
     using Completion = std::function<void()>;
 
     /// interfaceFile: as for the base class.
     explicit WordCounterViewController(QString interfaceFile = panelInterfaceFile());
     WordCounterViewController(const WordCounterViewController &) = delete;
     WordCounterViewController &operator=(const WordCounterViewController &) = delete;
-    /// Lets the connection go. A count that has been sent is still answered: its completion runs, and nothing
-    /// else happens. The connection is invalidated with the last answer.
+    /// Releases the connection, which is invalidated after the last pending answer. For a count that has been
+    /// sent, the completion still runs, and nothing else happens.
     ~WordCounterViewController() override;
 
     /// Never null, and always the same one.
@@ -46,8 +45,8 @@ public:
     [[nodiscard]] bool isAsyncCountOperationInProgress() const { return m_isAsyncCountOperationInProgress; }
     void setIsAsyncCountOperationInProgress(bool isInProgress);
 
-    // Counts here, in a later turn of the event loop.
-    /// In Helvetica of 12 points, and two turns later, with a warning in the log every time.
+    // Count in this process, in the next turn of the event loop.
+    /// Counts as text in Helvetica of 12 points, two turns later, and logs a warning every time.
     void updateStatsWithString(const QString &string);
     void updateStatsWithAttributedString(const AttributedString &attributedString);
     void updateStatsWithDocXMetaData(const QBYDocxMetaData &docXMetaData);
@@ -55,34 +54,33 @@ public:
     /// Shows the record before it returns.
     void updateInterfaceWithPrepopulatedStats(const QBYWordCounterStats &stats);
 
-    /// Writes the model's strings into the labels, hidden ones too, and lets each take the size of its text.
-    /// Where the labels lie stays: see repositionLabels().
+    /// Writes the model's strings into the labels, including hidden ones, and sizes each to its text. Does
+    /// not move the labels: see repositionLabels().
     void updateLabels();
 
-    // Count in the service. While a count is in progress another one is dropped without a trace, its
-    // completion is never called; so is one that a completion starts. A service that never answers keeps the
-    // panel busy until stopAsyncOperation().
+    // Count in the service. While a count is in progress, and while its completion runs, another one is
+    // silently dropped: its completion is never called. A service that never answers keeps the panel busy
+    // until stopAsyncOperation().
     void asyncUpdateStatsWithAttributedString(
         const AttributedString &attributedString, Completion completion);
-    /// A file that cannot be read is sent as an absent one; the panel shows what the service says to that.
+    /// A file that cannot be read is sent as an absent document; the panel shows what the service answers.
     void asyncUpdateStatsDocXFileURL(const QUrl &fileURL, Completion completion);
 
-    /// Abandons the count in progress: once it has been sent, its counts are not shown and its completion is
-    /// not called. One that has not been sent is not sent without a connection; the next count opens one.
+    /// Abandons the count in progress. If it has been sent, its counts are not shown and its completion is
+    /// not called. If not, it is sent only if another count opens a connection first.
     void stopAsyncOperation();
 
-    /// What the visible labels show, a line each, with "-" for every bullet, below the title. Neither title
-    /// nor texts are escaped. The line break is "</br>", byte for byte.
+    /// The title, then the texts of the visible labels on a line each, with "-" for every bullet. Neither
+    /// title nor texts are escaped. The line break is "</br>".
     [[nodiscard]] QString htmlRepresentationWithTitle(
         const std::optional<QString> &title, bool fullHTMLDocument) const;
-    /// The full document of the above as styled text; absent where UTF-8 has no form for it (half a surrogate
-    /// pair) or the reader refuses it.
+    /// The full HTML document as styled text; absent if it contains an unpaired surrogate or the reader
+    /// rejects it.
     [[nodiscard]] std::optional<AttributedString> attributedStringRepresentationWithTitle(
         const std::optional<QString> &title) const;
 
-    /// Puts the panel to use in that window: the statistics are what the user copies from it, once they have
-    /// been counted, and the labels are fitted whenever texts take another size on its screen. The host fits
-    /// them itself before it shows the window.
+    /// Connects the panel to its window: Copy copies the statistics once there are any, and the labels are
+    /// fitted when the window's text metrics change. The host fits them itself before it shows the window.
     void serve(Window &window);
 
 Q_SIGNALS:
@@ -92,7 +90,7 @@ private:
     using Data = WordCounterServiceProtocol::Data;
     using CountRequest = void (WordCounterServiceProtocol::*)(
         Data, WordCounterServiceProtocol::Results) const;
-    using HeldCompletion = std::shared_ptr<Completion>; // ends its life on the main thread
+    using HeldCompletion = std::shared_ptr<Completion>; // destroyed on the main thread
 
     void _setUpOnInit();
     void openConnectionToWordCounterService();
@@ -101,12 +99,12 @@ private:
     /// Whether this is still the panel's connection.
     [[nodiscard]] bool isOpen(const std::weak_ptr<RemoteObjectConnection> &connection) const;
     void send(CountRequest request, const Data &data, const HeldCompletion &completion);
-    void showReply(const RemoteReply &reply, const Completion &completion);
+    void showReply(const QBYWordCounterStats &stats, const Completion &completion);
 
     [[nodiscard]] MimeContent statisticsToCopy() const;
 
     std::shared_ptr<WordCounterModel> m_wordCounter;
     bool m_isAsyncCountOperationInProgress = false;
     std::shared_ptr<RemoteObjectConnection>
-        _connectionToWordCounterService; // shared with the pending answers
+        _connectionToWordCounterService; ///< shared with the pending answers
 };

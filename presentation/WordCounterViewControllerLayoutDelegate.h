@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// WordCounterViewControllerLayoutDelegate hears when a statistics panel has placed its labels; the panel's
-// host is one. Thread: main.  Owner: itself; the panel refers to it weakly.
+// WordCounterViewControllerLayoutDelegate is notified when a statistics panel has placed its labels; the
+// panel's host implements it.
+// Thread: main.  Owner: the host; the panel refers to it weakly.
 #pragma once
 
 #include "platform/system/WeakDelegate.h"
@@ -9,6 +10,6 @@ class WordCounterViewControllerLayoutDelegate : public Delegate {
 public:
     /// At the end of every placement.
     virtual void wordCounterViewControllerDidRelayoutLabels() = 0;
-    /// After a placement that shows more labels, or fewer, than the one before.
+    /// After a placement that changed the number of visible labels.
     virtual void wordCounterViewControllerDidChangeVisibleLabelsCount() { }
 };

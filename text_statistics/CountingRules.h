@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// CountingRules is everything besides the text and the fonts that a count rests on, as a value: whoever has
-// the same rules and the same text gets the same numbers, in any process and on any thread. Thread: any;
-// values. localeIdentifier must be callable from the thread that counts.
+// CountingRules is everything that a count depends on besides the text and the fonts. The same rules and the
+// same text give the same numbers in any process and on any thread.
+// Thread: any; values. localeIdentifier must be callable from the thread that counts.
 #pragma once
 
 #include <QSizeF>
@@ -10,12 +10,12 @@
 #include <functional>
 #include <optional>
 
-/// What words, sentences and paragraphs are.
+/// The rules for words, sentences and paragraphs.
 struct TextRules {
-    /// Asked anew for every word that it may decide about, so that a count follows a locale changed
-    /// meanwhile. A snapshot for another process gives a fixed identifier.
+    /// Called for every word that the locale may decide about, so that a count follows a change of locale. A
+    /// snapshot for another process returns a fixed identifier.
     std::function<QString()> localeIdentifier;
-    /// How many sentences make a paragraph; 0 or more.
+    /// The minimum number of sentences in a paragraph that counts; 0 or more.
     qint64 minimumSentencesOfParagraph = 0;
     /// Whether a sentence counts only if it ends in a full stop, question mark or exclamation mark.
     bool sentencesNeedTerminalPunctuation = false;
@@ -23,17 +23,17 @@ struct TextRules {
 
 /// The page on which lines are measured, in points of the measuring surface.
 struct PageRules {
-    std::optional<QString> paperName; ///< as printer descriptions call it; absent where the paper has no name
+    std::optional<QString> paperName; ///< as in printer descriptions; absent if the paper has no name
     QSizeF paperSize;
     double leftMargin = 0;
     double rightMargin = 0;
-    double scale = 1; ///< the surface's backing scale factor, by which the margins are divided already
-    /// The width of the column that is in force where the margins leave none. Absent: that of the surface's
-    /// own count before.
+    double scale = 1; ///< the surface's backing scale factor; the margins have already been divided by it
+    /// Points; the width of the column to use if the margins leave none. Absent: the column of the surface's
+    /// previous count.
     std::optional<double> columnBefore{};
 };
 
-/// The width of the column between the margins, in points; absent where they leave none.
+/// The width of the column between the margins, in points; absent if they leave none.
 std::optional<double> columnWidthOf(const PageRules &page);
 
 struct CountingRules {
@@ -41,11 +41,11 @@ struct CountingRules {
     PageRules page;
 };
 
-/// The user's preferences and current locale, as they are now.
+/// From the user's current preferences and locale.
 TextRules currentTextRules();
 
-/// The paper and the margins of the user's preferences, as they are now. May ask the printing system, and may
-/// repair the preference where it names a paper that the printer lacks. Main thread.
+/// The paper and the margins of the user's current preferences. May ask the printing system, and may replace
+/// a preferred paper that the printer lacks. Main thread.
 PageRules currentPageRules();
 
 /// Both of them. Main thread.

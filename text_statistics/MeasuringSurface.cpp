@@ -66,6 +66,6 @@ quint64 MeasuringSurface::numberOfLines(
     setPage(page);
     TextView &textView = *m_preview.previewTextView();
     textView.textStorage().setAttributedString(text);
-    // The layout manager would keep every line; here only their number is wanted.
+    // Counted by the engine, as the layout manager would store every line.
     return m_engine->countLines(text, textView.textContainer().width(), progress);
 }

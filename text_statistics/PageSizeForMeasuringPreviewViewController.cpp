@@ -2,8 +2,9 @@
 #include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
 
 #include "common_views/ViewExtension.h"
-#include "text_statistics/SampleText.h"
 #include "text_statistics/TrimTrailingNumbersOffDecimal.h"
+
+#include <QStringList>
 
 #include <limits>
 
@@ -12,7 +13,7 @@ using QBYExtension::scrollToTop;
 
 namespace {
 
-std::shared_ptr<QBYScrollView> madeScrollView()
+std::shared_ptr<QBYScrollView> makeScrollView()
 {
     auto scrollView = std::make_shared<QBYScrollView>();
     scrollView->setDisableScrolling(true);
@@ -20,18 +21,18 @@ std::shared_ptr<QBYScrollView> madeScrollView()
     return scrollView;
 }
 
-std::shared_ptr<FlippedView> madePage()
+std::shared_ptr<FlippedView> makePage()
 {
     auto page = std::make_shared<FlippedView>();
     page->setBackgroundColor(Color::white());
     return page;
 }
 
-std::shared_ptr<TextView> madeTextView(const std::shared_ptr<LayoutEngine> &engine)
+std::shared_ptr<TextView> makeTextView(const std::shared_ptr<LayoutEngine> &engine)
 {
-    constexpr double endless = std::numeric_limits<double>::max();
-    auto textView = std::make_shared<TextView>(QRectF(0, 0, 0, endless), engine);
-    textView->setAppearance(Appearance::Light); // the page is white in a dark desktop too
+    constexpr double unlimited = std::numeric_limits<double>::max();
+    auto textView = std::make_shared<TextView>(QRectF(0, 0, 0, unlimited), engine);
+    textView->setAppearance(Appearance::Light); // the page is white on a dark desktop too
     textView->setEditable(false);
     textView->setSelectable(false);
     textView->textStorage().setAttributedString(AttributedString(pagePreviewSampleText()));
@@ -46,6 +47,17 @@ QString inches(double points)
 
 } // namespace
 
+QString pagePreviewSampleText()
+{
+    const QString paragraph = QStringLiteral(
+        "Lorem ipsum dolor sit amet, consectetur adipiscing elit, sed do eiusmod tempor incididunt ut "
+        "labore et dolore magna aliqua. Ut enim ad minim veniam, quis nostrud exercitation ullamco "
+        "laboris nisi ut aliquip ex ea commodo consequat. Duis aute irure dolor in reprehenderit in "
+        "voluptate velit esse cillum dolore eu fugiat nulla pariatur. Excepteur sint occaecat cupidatat "
+        "non proident, sunt in culpa qui officia deserunt mollit anim id est laborum.");
+    return u'\n' + QStringList(4, paragraph).join(u'\n');
+}
+
 PageSizeForMeasuringPreviewViewController::PageSizeForMeasuringPreviewViewController(
     std::shared_ptr<LayoutEngine> engine)
     : m_engine(std::move(engine))
@@ -55,17 +67,17 @@ PageSizeForMeasuringPreviewViewController::PageSizeForMeasuringPreviewViewContro
 void PageSizeForMeasuringPreviewViewController::loadView()
 {
     if (!m_mainScrollView) {
-        const std::shared_ptr<QBYScrollView> scrollView = madeScrollView();
+        const std::shared_ptr<QBYScrollView> scrollView = makeScrollView();
         m_mainScrollView = scrollView.get();
         setView(scrollView);
     }
     if (!m_wrapperView) {
-        const std::shared_ptr<FlippedView> page = madePage();
+        const std::shared_ptr<FlippedView> page = makePage();
         m_wrapperView = page.get();
         m_mainScrollView->setDocumentView(page);
     }
     if (!m_previewTextView)
-        m_previewTextView = madeTextView(m_engine);
+        m_previewTextView = makeTextView(m_engine);
     m_wrapperView->addSubview(m_previewTextView);
     scrollToTop(*m_mainScrollView);
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-// QBYDocxMetaData is the statistics record of a Word document; whoever reads the document makes it, from the
-// document's text.
+// QBYDocxMetaData is the statistics record of a Word document. Its counts are declared in another order than
+// those of QBYWordCounterStats.
 // Thread: any; a value.
 #pragma once
-
-#include "text_statistics/QBYWordCounterStats.h"
 
 #include <QtGlobal>
 
@@ -17,20 +15,4 @@ struct QBYDocxMetaData {
     quint64 numberOfParagraphs = 0;
     quint64 numberOfHardLineBreaks = 0;
     quint64 numberOfIndentedParagraphs = 0;
-
-    /// The record of the document with this text; counts: those of the text, made by the rules of any text.
-    /// The figures that the document itself carries are the estimates of the program that saved it.
-    static QBYDocxMetaData ofText(const QBYWordCounterStats &counts)
-    {
-        return {
-            .numberOfWords = counts.numberOfWords,
-            .numberOfCharacters = counts.numberOfCharacters,
-            .numberOfCharactersWithWhitespace = counts.numberOfCharactersIncludingWhitespace,
-            .numberOfLines = counts.numberOfLines,
-            .numberOfSentences = counts.numberOfSentences,
-            .numberOfParagraphs = counts.numberOfParagraphs,
-            .numberOfHardLineBreaks = counts.numberOfHardLineBreaks,
-            .numberOfIndentedParagraphs = counts.numberOfIndentedParagraphs,
-        };
-    }
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/StringStatistics.h"
 
+#include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/TextCounter.h"
 
 namespace {
@@ -20,7 +21,7 @@ quint64 QBYExtension::numberOfWords(QStringView text)
 
 quint64 QBYExtension::numberOfCharactersNotIncludingWhiteSpace(QStringView text)
 {
-    return ::numberOfCharactersNotIncludingWhiteSpace(text);
+    return FixedRules::numberOfCharactersNotIncludingWhiteSpace(text);
 }
 
 quint64 QBYExtension::numberOfSentences(QStringView text)
@@ -30,7 +31,7 @@ quint64 QBYExtension::numberOfSentences(QStringView text)
 
 quint64 QBYExtension::numberOfHardLineBreaks(QStringView text)
 {
-    return ::numberOfHardLineBreaks(text);
+    return FixedRules::numberOfHardLineBreaks(text);
 }
 
 quint64 QBYExtension::numberOfParagraphs(QStringView text)
@@ -45,20 +46,25 @@ quint64 QBYExtension::numberOfParagraphsIndented(QStringView text)
 
 bool QBYExtension::endsWithPeriod(QStringView text)
 {
-    return ::endsWithPeriod(text);
+    return FixedRules::endsWithPeriod(text);
 }
 
 bool QBYExtension::endsWithQuestionMark(QStringView text)
 {
-    return ::endsWithQuestionMark(text);
+    return FixedRules::endsWithQuestionMark(text);
 }
 
 bool QBYExtension::endsWithExclamationPoint(QStringView text)
 {
-    return ::endsWithExclamationPoint(text);
+    return FixedRules::endsWithExclamationPoint(text);
 }
 
 bool QBYExtension::endsWithTerminalPunctuationMark(QStringView text)
 {
-    return ::endsWithTerminalPunctuationMark(text);
+    return FixedRules::endsWithTerminalPunctuationMark(text);
+}
+
+quint64 QBYExtension::numberOfLines(const AttributedString &text)
+{
+    return MeasuringSurface::shared().numberOfLines(text, currentPageRules());
 }

@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The statistics of a string under the preferences and the locale of the moment: TextCounter bound to them.
-// Thread: any.
+// The statistics of strings, plain and styled, under the current preferences and locale. TextCounter and
+// MeasuringSurface do the counting.
+// Thread: any for plain strings; main for styled ones.
 #pragma once
+
+#include "platform/styled_text/AttributedString.h"
 
 #include <QStringView>
 #include <QtGlobal>
 
 namespace QBYExtension {
 
-/// Unicode word segments that hold a letter, digit or ideograph; in the locale en_US without those of one
-/// UTF-16 code unit other than A, I, O and X in either case.
+/// Unicode word segments (UAX #29) that hold a letter, digit or ideograph; in the locale en_US without those
+/// of one UTF-16 code unit, except A, I, O and X in either case.
 quint64 numberOfWords(QStringView text);
 
-/// UTF-16 code units that are no white space (general category Z, U+0009 to U+000D, U+0085).
+/// UTF-16 code units that are not white space (general category Z, U+0009 to U+000D, U+0085).
 quint64 numberOfCharactersNotIncludingWhiteSpace(QStringView text);
 
-/// Unicode sentences with at least one counted word and, where the preference asks for it, terminal
+/// Unicode sentences (UAX #29) with at least one counted word and, if the preference requires it, terminal
 /// punctuation.
 quint64 numberOfSentences(QStringView text);
 
@@ -28,11 +31,15 @@ quint64 numberOfParagraphs(QStringView text);
 /// Those of numberOfParagraphs() that begin with a tab.
 quint64 numberOfParagraphsIndented(QStringView text);
 
-// Whether the text, white space at both ends left out, ends in the mark or in the mark and a straight double
+// Whether the text, without white space at both ends, ends in the mark or in the mark and a straight double
 // quote.
 bool endsWithPeriod(QStringView text);
 bool endsWithQuestionMark(QStringView text);
 bool endsWithExclamationPoint(QStringView text);
 bool endsWithTerminalPunctuationMark(QStringView text);
+
+/// The lines of the text as laid out, in its own fonts and paragraph styles, on the paper and between the
+/// margins of the preferences.
+quint64 numberOfLines(const AttributedString &text);
 
 } // namespace QBYExtension

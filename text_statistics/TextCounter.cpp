@@ -3,7 +3,7 @@
 
 namespace {
 
-// In American English a lone letter or digit is no word, but for the words a, I and O and the letter x.
+// In American English a single letter or digit is not a word, except a, I, O and x.
 bool isWordCounted(QStringView word, const TextRules &rules)
 {
     constexpr QStringView countedLetters = u"aAiIoOxX";
@@ -37,21 +37,9 @@ bool endsWithMark(QStringView text, char16_t mark)
 
 } // namespace
 
-TextCounts &TextCounts::operator+=(const TextCounts &other)
+QBYWordCounterStats TextCounter::count(QStringView text, const TextRules &rules, const Progress &progress)
 {
-    words += other.words;
-    charactersNotIncludingWhiteSpace += other.charactersNotIncludingWhiteSpace;
-    characters += other.characters;
-    sentences += other.sentences;
-    hardLineBreaks += other.hardLineBreaks;
-    paragraphs += other.paragraphs;
-    paragraphsIndented += other.paragraphsIndented;
-    return *this;
-}
-
-TextCounts TextCounter::count(QStringView text, const TextRules &rules, const Progress &progress)
-{
-    TextCounts counts;
+    QBYWordCounterStats counts;
     forEachParagraph(text, [&](const Paragraph &paragraph) {
         counts += countParagraph(text, paragraph, rules);
         if (progress)
@@ -60,18 +48,19 @@ TextCounts TextCounter::count(QStringView text, const TextRules &rules, const Pr
     return counts;
 }
 
-TextCounts TextCounter::countParagraph(QStringView text, const Paragraph &paragraph, const TextRules &rules)
+QBYWordCounterStats TextCounter::countParagraph(
+    QStringView text, const Paragraph &paragraph, const TextRules &rules)
 {
     const QStringView content = paragraph.content(text);
     const QStringView whole = text.sliced(paragraph.start, paragraph.length);
-    TextCounts counts;
-    counts.words = wordsOf(content, rules);
-    counts.charactersNotIncludingWhiteSpace = ::numberOfCharactersNotIncludingWhiteSpace(content);
-    counts.characters = static_cast<quint64>(whole.size());
-    counts.sentences = sentencesOf(content, rules);
-    counts.hardLineBreaks = ::numberOfHardLineBreaks(whole);
-    counts.paragraphs = isParagraphCounted(content, counts.sentences, rules) ? 1 : 0;
-    counts.paragraphsIndented = isIndented(content) ? counts.paragraphs : 0;
+    QBYWordCounterStats counts;
+    counts.numberOfWords = wordsOf(content, rules);
+    counts.numberOfCharacters = FixedRules::numberOfCharactersNotIncludingWhiteSpace(content);
+    counts.numberOfCharactersIncludingWhitespace = static_cast<quint64>(whole.size());
+    counts.numberOfSentences = sentencesOf(content, rules);
+    counts.numberOfHardLineBreaks = FixedRules::numberOfHardLineBreaks(whole);
+    counts.numberOfParagraphs = isParagraphCounted(content, counts.numberOfSentences, rules) ? 1 : 0;
+    counts.numberOfIndentedParagraphs = isIndented(content) ? counts.numberOfParagraphs : 0;
     return counts;
 }
 
@@ -114,7 +103,7 @@ quint64 TextCounter::numberOfParagraphsIndented(QStringView text, const TextRule
 
 bool TextCounter::isSentenceCounted(QStringView sentence, const TextRules &rules)
 {
-    if (rules.sentencesNeedTerminalPunctuation && !endsWithTerminalPunctuationMark(sentence))
+    if (rules.sentencesNeedTerminalPunctuation && !FixedRules::endsWithTerminalPunctuationMark(sentence))
         return false;
     bool hasWord = false;
     m_segmenter.forEachWord(sentence, [&](QStringView word) {
@@ -144,7 +133,7 @@ quint64 TextCounter::sentencesOf(QStringView content, const TextRules &rules)
     return sentences;
 }
 
-quint64 numberOfCharactersNotIncludingWhiteSpace(QStringView text)
+quint64 FixedRules::numberOfCharactersNotIncludingWhiteSpace(QStringView text)
 {
     quint64 characters = 0;
     for (const QChar unit : text)
@@ -152,7 +141,7 @@ quint64 numberOfCharactersNotIncludingWhiteSpace(QStringView text)
     return characters;
 }
 
-quint64 numberOfHardLineBreaks(QStringView text)
+quint64 FixedRules::numberOfHardLineBreaks(QStringView text)
 {
     quint64 lines = 0;
     const char16_t *units = text.utf16();
@@ -165,22 +154,22 @@ quint64 numberOfHardLineBreaks(QStringView text)
     return lines + (isLineOpen ? 1 : 0);
 }
 
-bool endsWithPeriod(QStringView text)
+bool FixedRules::endsWithPeriod(QStringView text)
 {
     return endsWithMark(text, u'.');
 }
 
-bool endsWithQuestionMark(QStringView text)
+bool FixedRules::endsWithQuestionMark(QStringView text)
 {
     return endsWithMark(text, u'?');
 }
 
-bool endsWithExclamationPoint(QStringView text)
+bool FixedRules::endsWithExclamationPoint(QStringView text)
 {
     return endsWithMark(text, u'!');
 }
 
-bool endsWithTerminalPunctuationMark(QStringView text)
+bool FixedRules::endsWithTerminalPunctuationMark(QStringView text)
 {
     return endsWithPeriod(text) || endsWithQuestionMark(text) || endsWithExclamationPoint(text);
 }

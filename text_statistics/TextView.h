@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// TextView is a column of text: a view with the storage of its text and the layout of it in lines.
-// Thread: main.  Owner: its superview and whoever else shares it; shares the ownership of the layout engine.
+// TextView is a column of text: a view with the storage of its text and the layout of that text in lines.
+// Thread: main.  Owner: its superview, and a controller that shares it; shares ownership of the layout
+// engine.
 #pragma once
 
 #include "platform/text_layout/LayoutManager.h"
@@ -10,11 +11,11 @@ enum class Appearance { System, Light };
 
 class TextView : public View {
 public:
-    /// engine: not null; may serve others of the same thread as well.
+    /// engine: not null; may be shared within the thread.
     TextView(const QRectF &frame, std::shared_ptr<LayoutEngine> engine);
 
     [[nodiscard]] TextStorage &textStorage() { return m_textStorage; }
-    /// As wide as the view, at every moment: there is no inset and no padding.
+    /// Always as wide as the view: there is no inset and no padding.
     [[nodiscard]] const TextContainer &textContainer() const { return m_textContainer; }
     [[nodiscard]] LayoutManager &layoutManager() { return m_layoutManager; }
 
@@ -23,7 +24,7 @@ public:
     [[nodiscard]] bool isSelectable() const { return m_isSelectable; }
     void setSelectable(bool selectable) { m_isSelectable = selectable; }
 
-    /// Light: dark text on a light ground, whatever the desktop looks like.
+    /// Light: dark text on a light background, in a dark desktop too.
     [[nodiscard]] Appearance appearance() const { return m_appearance; }
     void setAppearance(Appearance appearance) { m_appearance = appearance; }
 

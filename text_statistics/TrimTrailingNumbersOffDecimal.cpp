@@ -5,7 +5,7 @@
 
 QString TrimTrailingNumbersOffDecimal::trimTrailingNumbersOffFloatingPointNumber(double number)
 {
-    constexpr int mostFractionDigits = 3;
-    const QString text = decimalText(number, mostFractionDigits);
+    constexpr int maxFractionDigits = 3;
+    const QString text = decimalText(number, maxFractionDigits);
     return text.contains(u'.') ? text : text + QStringLiteral(".0");
 }

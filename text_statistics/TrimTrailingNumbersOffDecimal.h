@@ -7,7 +7,7 @@
 
 class TrimTrailingNumbersOffDecimal {
 public:
-    /// At most three digits behind the point, ties to the even digit, and always a point: 8.5 is "8.5", 11 is
+    /// At most three digits after the point, rounded half to even, and always a point: 8.5 is "8.5", 11 is
     /// "11.0", 8.2677 is "8.268". No grouping; the same in every locale.
     static QString trimTrailingNumbersOffFloatingPointNumber(double number);
 };

@@ -4,6 +4,20 @@
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/WordCounterStatStringFormatter.h"
 
+namespace {
+
+using Formatter = WordCounterStatStringFormatter;
+
+/// By Statistic.
+constexpr std::array<QString (*)(qint64 style, quint64 count), statisticCount> formatters{
+    Formatter::formattedWordCountStringForStyle, Formatter::formattedCharacterCountStringForStyle,
+    Formatter::formattedCharacterCountIncludingWhitespaceStringForStyle,
+    Formatter::formattedSentencesCountStringForStyle, Formatter::formattedLineCountStringForStyle,
+    Formatter::formattedHardLineBreakCountStringForStyle, Formatter::formattedParagraphCountStringForStyle,
+    Formatter::formattedIndentedParagraphCountStringForStyle};
+
+} // namespace
+
 void WordCounterModel::setAttributedStringToCount(
     const std::optional<AttributedString> &attributedStringToCount)
 {
@@ -31,20 +45,11 @@ void WordCounterModel::countAttributedString()
     const AttributedString text = m_attributedStringToCount.value_or(AttributedString());
     const CountingRules rules = m_rules();
     const quint64 lines = MeasuringSurface::shared().numberOfLines(text, rules.page, halfOfProgress(0));
-    const TextCounts counts = m_counter.count(text.string(), rules.text, halfOfProgress(text.length()));
-    m_stats = {
-        .numberOfWords = counts.words,
-        .numberOfCharacters = counts.charactersNotIncludingWhiteSpace,
-        .numberOfCharactersIncludingWhitespace = counts.characters,
-        .numberOfSentences = counts.sentences,
-        .numberOfLines = lines,
-        .numberOfHardLineBreaks = counts.hardLineBreaks,
-        .numberOfParagraphs = counts.paragraphs,
-        .numberOfIndentedParagraphs = counts.paragraphsIndented,
-    };
+    m_stats = m_counter.count(text.string(), rules.text, halfOfProgress(text.length()));
+    m_stats.numberOfLines = lines;
 }
 
-// Laying out and counting are two passes over the text, told as one.
+// Layout and counting are two passes over the text; each reports half of the progress.
 TextCounter::Progress WordCounterModel::halfOfProgress(qsizetype done) const
 {
     if (!m_progress)
@@ -77,21 +82,9 @@ void WordCounterModel::updateModelWithPrepopulatedStats(const QBYWordCounterStat
 
 void WordCounterModel::doUpdateDisplayStrings()
 {
-    using Formatter = WordCounterStatStringFormatter;
     const qint64 style = m_formattedStringStyle;
-    if (style != 0 && style != 1)
+    if (style != 0 && style != shortStyle)
         return;
-    m_strings = {
-        .words = Formatter::formattedWordCountStringForStyle(style, m_stats.numberOfWords),
-        .characters = Formatter::formattedCharacterCountStringForStyle(style, m_stats.numberOfCharacters),
-        .charactersIncludingWhiteSpace = Formatter::formattedCharacterCountIncludingWhitespaceStringForStyle(
-            style, m_stats.numberOfCharactersIncludingWhitespace),
-        .sentences = Formatter::formattedSentencesCountStringForStyle(style, m_stats.numberOfSentences),
-        .lines = Formatter::formattedLineCountStringForStyle(style, m_stats.numberOfLines),
-        .hardLineBreaks =
-            Formatter::formattedHardLineBreakCountStringForStyle(style, m_stats.numberOfHardLineBreaks),
-        .paragraphs = Formatter::formattedParagraphCountStringForStyle(style, m_stats.numberOfParagraphs),
-        .indentedParagraphs = Formatter::formattedIndentedParagraphCountStringForStyle(
-            style, m_stats.numberOfIndentedParagraphs),
-    };
+    for (std::size_t i = 0; i < statisticCount; ++i)
+        m_strings[i] = formatters[i](style, m_stats.*statisticTable[i].count);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// WordCounterModel holds the eight statistics of one text and the eight strings that show them. It counts a
-// styled text itself and copies what others counted; where the strings are shown is not its business. Thread:
-// one at a time, the main thread in a program with windows.  Owner: a statistics panel, or a command.
+// WordCounterModel holds the eight statistics of one text and the eight strings that show them. It counts
+// styled text itself and copies counts made elsewhere; displaying the strings is left to others.
+// Thread: one at a time; main in a program with windows.  Owner: a statistics panel, a command, a worker.
 #pragma once
 
 #include "platform/styled_text/AttributedString.h"
@@ -11,24 +11,25 @@
 
 #include <QString>
 
+#include <array>
 #include <functional>
 #include <optional>
 
-/// Empty at first: counts 0, strings null. Every filling replaces all eight strings.
+/// Empty at first: counts 0, strings null. Every update replaces all eight strings.
 class WordCounterModel {
 public:
-    /// Counts under the user's preferences and locale, read anew for every count.
+    /// Counts under the user's preferences and locale, which are read for every count.
     WordCounterModel()
         : WordCounterModel(currentCountingRules)
     {
     }
-    /// Counts under the rules that the function gives, asked for every count.
+    /// rules: called for every count.
     explicit WordCounterModel(std::function<CountingRules()> rules)
         : m_rules(std::move(rules))
     {
     }
 
-    /// Stores the text and counts it, at once; without a text all counts become 0.
+    /// Stores the text and counts it before returning; without a text all counts become 0.
     void setAttributedStringToCount(const std::optional<AttributedString> &attributedStringToCount);
     [[nodiscard]] const std::optional<AttributedString> &attributedStringToCount() const
     {
@@ -49,21 +50,22 @@ public:
     [[nodiscard]] QBYWordCounterStats statsRepresentation() const { return m_stats; }
 
     /// Makes the strings from the counts: long ones in style 0, short ones in style 1. In any other style the
-    /// old strings stay - unlike in WordCounterStatStringFormatter, on purpose.
+    /// old strings stay; deliberately unlike WordCounterStatStringFormatter.
     void doUpdateDisplayStrings();
 
-    /// Takes effect at the next filling.
-    static constexpr qint64 shortStyle = 1; ///< as in "Words: 12"
+    static constexpr qint64 shortStyle = 1; ///< as in "•Words: 12"
+    /// Takes effect at the next update.
     void setFormattedStringStyle(qint64 formattedStringStyle)
     {
         m_formattedStringStyle = formattedStringStyle;
     }
     [[nodiscard]] qint64 formattedStringStyle() const { return m_formattedStringStyle; }
 
-    /// Told how far a count of styled text has come, in UTF-16 code units up to the text's length.
+    /// progress: called while styled text is counted, with a position in UTF-16 code units up to the text's
+    /// length.
     void setProgress(TextCounter::Progress progress) { m_progress = std::move(progress); }
 
-    // The counts: plain stores, in the record.
+    // The counts. The setters only store.
     [[nodiscard]] quint64 numberOfWords() const { return m_stats.numberOfWords; }
     [[nodiscard]] quint64 numberOfCharacters() const { return m_stats.numberOfCharacters; }
     [[nodiscard]] quint64 numberOfCharactersIncludingWhitespace() const
@@ -87,51 +89,64 @@ public:
     void setNumberOfParagraphs(quint64 count) { m_stats.numberOfParagraphs = count; }
     void setNumberOfIndentedParagraphs(quint64 count) { m_stats.numberOfIndentedParagraphs = count; }
 
-    // The strings: plain stores, null before the first filling.
-    [[nodiscard]] QString wordCountFormattedString() const { return m_strings.words; }
-    [[nodiscard]] QString characterCountFormattedString() const { return m_strings.characters; }
+    /// The string of one statistic; null before the first update. The accessors below read and store the same
+    /// strings.
+    [[nodiscard]] const QString &formattedString(Statistic statistic) const
+    {
+        return m_strings.at(static_cast<std::size_t>(statistic));
+    }
+    [[nodiscard]] QString wordCountFormattedString() const { return formattedString(Statistic::Words); }
+    [[nodiscard]] QString characterCountFormattedString() const
+    {
+        return formattedString(Statistic::Characters);
+    }
     [[nodiscard]] QString characterCountFormattedStringIncludingWhiteSpace() const
     {
-        return m_strings.charactersIncludingWhiteSpace;
+        return formattedString(Statistic::CharactersIncludingWhitespace);
     }
-    [[nodiscard]] QString numberOfSentencesCountFormattedString() const { return m_strings.sentences; }
-    [[nodiscard]] QString numberOfLinesFormattedString() const { return m_strings.lines; }
-    [[nodiscard]] QString numberOfHardLineBreaksFormattedString() const { return m_strings.hardLineBreaks; }
-    [[nodiscard]] QString numberOfParagraphsFormattedString() const { return m_strings.paragraphs; }
+    [[nodiscard]] QString numberOfSentencesCountFormattedString() const
+    {
+        return formattedString(Statistic::Sentences);
+    }
+    [[nodiscard]] QString numberOfLinesFormattedString() const { return formattedString(Statistic::Lines); }
+    [[nodiscard]] QString numberOfHardLineBreaksFormattedString() const
+    {
+        return formattedString(Statistic::HardLineBreaks);
+    }
+    [[nodiscard]] QString numberOfParagraphsFormattedString() const
+    {
+        return formattedString(Statistic::Paragraphs);
+    }
     [[nodiscard]] QString numberOfIndentedParagraphsFormattedString() const
     {
-        return m_strings.indentedParagraphs;
+        return formattedString(Statistic::IndentedParagraphs);
     }
-    void setWordCountFormattedString(const QString &text) { m_strings.words = text; }
-    void setCharacterCountFormattedString(const QString &text) { m_strings.characters = text; }
+    void setWordCountFormattedString(const QString &text) { store(Statistic::Words, text); }
+    void setCharacterCountFormattedString(const QString &text) { store(Statistic::Characters, text); }
     void setCharacterCountFormattedStringIncludingWhiteSpace(const QString &text)
     {
-        m_strings.charactersIncludingWhiteSpace = text;
+        store(Statistic::CharactersIncludingWhitespace, text);
     }
-    void setNumberOfSentencesCountFormattedString(const QString &text) { m_strings.sentences = text; }
-    void setNumberOfLinesFormattedString(const QString &text) { m_strings.lines = text; }
-    void setNumberOfHardLineBreaksFormattedString(const QString &text) { m_strings.hardLineBreaks = text; }
-    void setNumberOfParagraphsFormattedString(const QString &text) { m_strings.paragraphs = text; }
+    void setNumberOfSentencesCountFormattedString(const QString &text) { store(Statistic::Sentences, text); }
+    void setNumberOfLinesFormattedString(const QString &text) { store(Statistic::Lines, text); }
+    void setNumberOfHardLineBreaksFormattedString(const QString &text)
+    {
+        store(Statistic::HardLineBreaks, text);
+    }
+    void setNumberOfParagraphsFormattedString(const QString &text) { store(Statistic::Paragraphs, text); }
     void setNumberOfIndentedParagraphsFormattedString(const QString &text)
     {
-        m_strings.indentedParagraphs = text;
+        store(Statistic::IndentedParagraphs, text);
     }
 
 private:
-    struct DisplayStrings {
-        QString words;
-        QString characters;
-        QString charactersIncludingWhiteSpace;
-        QString sentences;
-        QString lines;
-        QString hardLineBreaks;
-        QString paragraphs;
-        QString indentedParagraphs;
-    };
-
     void countAttributedString();
     void copyDocXMetaData();
     [[nodiscard]] TextCounter::Progress halfOfProgress(qsizetype done) const;
+    void store(Statistic statistic, const QString &text)
+    {
+        m_strings.at(static_cast<std::size_t>(statistic)) = text;
+    }
 
     std::function<CountingRules()> m_rules;
     TextCounter m_counter;
@@ -140,5 +155,5 @@ private:
     std::optional<QBYDocxMetaData> m_docXMetaDataToFormat;
     qint64 m_formattedStringStyle = 0;
     QBYWordCounterStats m_stats;
-    DisplayStrings m_strings;
+    std::array<QString, statisticCount> m_strings; ///< by Statistic
 };

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
-// WordCounterStatStringFormatter makes the text that shows one statistic; it neither counts nor chooses a
-// style. Thread: any.
+// WordCounterStatStringFormatter makes the text that shows one statistic; counting and choosing a style are
+// left to others.
+// Thread: any.
 #pragma once
 
 #include <QString>
 #include <QtGlobal>
 
 /// In every operation style 0 is the long form ("•Word Count: 7"), any other style the short one ("•Words:
-/// 7"). Counts appear as signed decimal numbers without grouping: one of 2^63 or more shows as negative.
+/// 7"). Counts appear as signed decimal numbers without grouping: counts of 2^63 or more appear as negative
+/// numbers.
 class WordCounterStatStringFormatter {
 public:
     static QString formattedWordCountStringForStyle(qint64 style, quint64 wordCount);

@@ -19,18 +19,18 @@ std::optional<QByteArray> localeNameIn(const QVariantMap &options)
     const QString name = value.toString();
     if (value.metaType() != QMetaType::fromType<QString>() || name.isEmpty())
         return std::nullopt;
-    const bool isPossible = name.size() <= RulesSnapshot::longestLocaleName
+    const bool isPossible = name.size() <= RulesSnapshot::maxLocaleNameLength
         && std::all_of(
             name.begin(), name.end(), [](QChar unit) { return unit > u' ' && unit < QChar(0x7F); });
     return isPossible ? name.toLatin1() : QByteArray("C");
 }
 
-// In the order of the interface.
 QVariantList argumentsOf(const QBYWordCounterStats &stats)
 {
-    return {stats.numberOfWords, stats.numberOfCharacters, stats.numberOfCharactersIncludingWhitespace,
-        stats.numberOfSentences, stats.numberOfLines, stats.numberOfHardLineBreaks, stats.numberOfParagraphs,
-        stats.numberOfIndentedParagraphs};
+    QVariantList arguments;
+    for (const StatisticRow &row : statisticTable)
+        arguments.append(stats.*row.count);
+    return arguments;
 }
 
 } // namespace

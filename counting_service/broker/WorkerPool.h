@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // WorkerPool gets documents counted: it keeps them in a queue, hands each to a worker, starts workers and
 // replaces them. Every document gets its counts or the cause of why it has none, once, whatever becomes of
-// the workers. Thread: main.  Owner: CountingService.
+// the workers.
+// Thread: main.  Owner: CountingService.
 #pragma once
 
 #include "counting_service/broker/WorkerProcess.h"

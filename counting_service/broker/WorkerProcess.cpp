@@ -121,7 +121,7 @@ bool WorkerProcess::count(DocumentKind kind, quint64 length, const RulesSnapshot
     const std::chrono::milliseconds time = m_program.countLimitFor(length);
     limitResources(length, time);
     const WorkerRequest request{m_requests + 1, kind, length, rules};
-    if (!sendPacket(m_socket.get(), encoded(request), descriptor)) {
+    if (!sendPacket(m_socket.get(), encode(request), descriptor)) {
         end(WorkerEnd::KilledFromOutside);
         return false;
     }
@@ -172,14 +172,14 @@ void WorkerProcess::readPackets()
 void WorkerProcess::take(const QByteArray &message)
 {
     if (m_state == State::Starting) {
-        const std::optional<WorkerGreeting> greeting = decodedGreeting(message);
+        const std::optional<WorkerGreeting> greeting = decodeGreeting(message);
         if (!greeting)
             return end(WorkerEnd::SpokeNonsense);
         m_timer.stop();
         m_state = State::Idle;
         return m_callbacks.ready(*this, greeting->sandbox);
     }
-    const std::optional<WorkerReply> reply = decodedReply(message);
+    const std::optional<WorkerReply> reply = decodeReply(message);
     if (m_state != State::Busy || !reply || reply->number != m_requests)
         return end(WorkerEnd::SpokeNonsense);
     if (!reply->counts && reply->counts.error().isOutOfMemory())

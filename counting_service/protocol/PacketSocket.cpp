@@ -38,7 +38,7 @@ std::vector<OwnedDescriptor> descriptorsOf(msghdr &header)
 
 Result<Packet, PacketError> receive(int socket, int flags)
 {
-    std::array<char, WorkerMessages::longestMessage> buffer{};
+    std::array<char, WorkerMessages::maxLength> buffer{};
     ControlSpace control;
     iovec vector{buffer.data(), buffer.size()};
     msghdr header = {};

@@ -32,42 +32,28 @@ private:
 class Reader {
 public:
     Reader(const QByteArray &message, Type type)
-        : m_stream(message.first(std::min(message.size(), WorkerMessages::longestMessage + 1)))
+        : m_stream(message.first(std::min(message.size(), WorkerMessages::maxLength + 1)))
     {
         m_stream.setVersion(QDataStream::Qt_6_4);
-        quint32 sign = 0;
+        quint32 signature = 0;
         quint16 version = 0;
         quint16 number = 0;
-        m_stream >> sign >> version >> number;
-        m_isExpected = message.size() <= WorkerMessages::longestMessage && sign == magic
+        m_stream >> signature >> version >> number;
+        m_hasExpectedHeader = message.size() <= WorkerMessages::maxLength && signature == magic
             && version == WorkerMessages::version && number == static_cast<quint16>(type);
     }
 
     QDataStream &stream() { return m_stream; }
-    /// Read to its end, and not beyond.
-    [[nodiscard]] bool isWhole() const
+    /// Whether the message has the expected header and was read exactly to its end.
+    [[nodiscard]] bool isComplete() const
     {
-        return m_isExpected && m_stream.status() == QDataStream::Ok && m_stream.atEnd();
+        return m_hasExpectedHeader && m_stream.status() == QDataStream::Ok && m_stream.atEnd();
     }
 
 private:
     QDataStream m_stream;
-    bool m_isExpected;
+    bool m_hasExpectedHeader;
 };
-
-// In the order in which they travel, as in the answer on the bus.
-template <typename Stream, typename Stats>
-void transfer(Stream &&each, Stats &stats)
-{
-    each(stats.numberOfWords);
-    each(stats.numberOfCharacters);
-    each(stats.numberOfCharactersIncludingWhitespace);
-    each(stats.numberOfSentences);
-    each(stats.numberOfLines);
-    each(stats.numberOfHardLineBreaks);
-    each(stats.numberOfParagraphs);
-    each(stats.numberOfIndentedParagraphs);
-}
 
 QDataStream &operator<<(QDataStream &stream, const RulesSnapshot &rules)
 {
@@ -145,7 +131,7 @@ bool isKnown(quint32 kind)
 
 } // namespace
 
-QByteArray encoded(const WorkerRequest &request)
+QByteArray encode(const WorkerRequest &request)
 {
     Writer writer(Type::Request);
     writer.stream() << request.number << static_cast<quint32>(request.kind) << request.length
@@ -153,7 +139,7 @@ QByteArray encoded(const WorkerRequest &request)
     return writer.bytes();
 }
 
-QByteArray encoded(const WorkerGreeting &greeting)
+QByteArray encode(const WorkerGreeting &greeting)
 {
     Writer writer(Type::Greeting);
     writer.stream() << greeting.sandbox.hasNoNewPrivileges << qint32(greeting.sandbox.landlockVersion)
@@ -161,50 +147,52 @@ QByteArray encoded(const WorkerGreeting &greeting)
     return writer.bytes();
 }
 
-QByteArray encoded(const WorkerReply &reply)
+QByteArray encode(const WorkerReply &reply)
 {
     Writer writer(Type::Reply);
     const QBYWordCounterStats stats = reply.counts ? reply.counts.value() : QBYWordCounterStats();
     writer.stream() << reply.number;
     writer.stream() << (reply.counts ? FailureNumbers() : FailureNumbers::of(reply.counts.error()));
-    transfer([&](quint64 count) { writer.stream() << count; }, stats);
+    for (const StatisticRow &row : statisticTable)
+        writer.stream() << stats.*row.count;
     return writer.bytes();
 }
 
-std::optional<WorkerRequest> decodedRequest(const QByteArray &message)
+std::optional<WorkerRequest> decodeRequest(const QByteArray &message)
 {
     Reader reader(message, Type::Request);
     WorkerRequest request;
     quint32 kind = 0;
     reader.stream() >> request.number >> kind >> request.length >> request.rules;
-    if (!reader.isWhole() || !isKnown(kind))
+    if (!reader.isComplete() || !isKnown(kind))
         return std::nullopt;
     request.kind = static_cast<DocumentKind>(kind);
     return request;
 }
 
-std::optional<WorkerGreeting> decodedGreeting(const QByteArray &message)
+std::optional<WorkerGreeting> decodeGreeting(const QByteArray &message)
 {
     Reader reader(message, Type::Greeting);
     WorkerGreeting greeting;
     qint32 landlock = 0;
     reader.stream() >> greeting.sandbox.hasNoNewPrivileges >> landlock
         >> greeting.sandbox.hasSystemCallFilter;
-    if (!reader.isWhole())
+    if (!reader.isComplete())
         return std::nullopt;
     greeting.sandbox.landlockVersion = landlock;
     return greeting;
 }
 
-std::optional<WorkerReply> decodedReply(const QByteArray &message)
+std::optional<WorkerReply> decodeReply(const QByteArray &message)
 {
     Reader reader(message, Type::Reply);
     quint64 number = 0;
     FailureNumbers failure;
     QBYWordCounterStats stats;
     reader.stream() >> number >> failure;
-    transfer([&](quint64 &count) { reader.stream() >> count; }, stats);
-    if (!reader.isWhole())
+    for (const StatisticRow &row : statisticTable)
+        reader.stream() >> stats.*row.count;
+    if (!reader.isComplete())
         return std::nullopt;
     if (failure == FailureNumbers())
         return WorkerReply{number, stats};

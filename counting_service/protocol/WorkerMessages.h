@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What broker and worker say to each other, as bytes: the worker's greeting, then requests and, to each, one
-// reply. Each message is one packet, and short: the document travels beside it, as a descriptor.
+// The messages between broker and worker, as bytes: the worker's greeting, then requests and one reply to
+// each. A message is one short packet; the document is sent with it as a descriptor (PacketSocket.h).
 // Thread: any; values.
 #pragma once
 
@@ -17,30 +17,29 @@
 
 namespace WorkerMessages {
 
-/// In every message; messages of other versions are not understood. Broker and workers are the same program,
-/// so there is nothing to be compatible with.
+/// Part of every message. Broker and workers are the same program, so other versions are rejected.
 inline constexpr quint16 version = 1;
-/// Bytes; longer messages are not taken.
-inline constexpr qsizetype longestMessage = 512;
+/// Bytes; longer messages are rejected.
+inline constexpr qsizetype maxLength = 512;
 
 } // namespace WorkerMessages
 
-/// The counting rules in the form that travels: the locale is a name.
+/// The counting rules as they are sent to a worker: with the locale as a name.
 struct RulesSnapshot {
-    /// Bytes; names of locales are shorter.
-    static constexpr qsizetype longestLocaleName = 156;
+    /// Bytes; real names of locales are shorter.
+    static constexpr qsizetype maxLocaleNameLength = 156;
 
     QByteArray localeName; ///< as in LANG, or as ICU names locales
     qint64 minimumSentencesOfParagraph = 0;
     bool sentencesNeedTerminalPunctuation = false;
-    /// Its paper's name does not travel: no count rests on it. The column before always does, as 0 where
-    /// there is none: that of the service, not of the worker.
+    /// Sent without the name of the paper, which no count depends on. columnBefore is that of the service; it
+    /// is sent as 0 if there is none, so that a worker never uses the column of its own previous count.
     PageRules page;
 };
 
 struct WorkerRequest {
-    quint64 number = 0; ///< of the broker's choice; the reply has the same
-    DocumentKind kind = DocumentKind::Rtfd; ///< or WordDocument; no other is taken
+    quint64 number = 0; ///< chosen by the broker; the reply repeats it
+    DocumentKind kind = DocumentKind::Rtfd; ///< or WordDocument; other kinds are refused
     quint64 length = 0; ///< of the document, in bytes
     RulesSnapshot rules;
 };
@@ -55,11 +54,11 @@ struct WorkerReply {
     Result<QBYWordCounterStats, CountFailure> counts;
 };
 
-QByteArray encoded(const WorkerRequest &request);
-QByteArray encoded(const WorkerGreeting &greeting);
-QByteArray encoded(const WorkerReply &reply);
+QByteArray encode(const WorkerRequest &request);
+QByteArray encode(const WorkerGreeting &greeting);
+QByteArray encode(const WorkerReply &reply);
 
-// Absent for everything that is not exactly such a message.
-std::optional<WorkerRequest> decodedRequest(const QByteArray &message);
-std::optional<WorkerGreeting> decodedGreeting(const QByteArray &message);
-std::optional<WorkerReply> decodedReply(const QByteArray &message);
+// Absent unless the bytes are exactly one message of that type.
+std::optional<WorkerRequest> decodeRequest(const QByteArray &message);
+std::optional<WorkerGreeting> decodeGreeting(const QByteArray &message);
+std::optional<WorkerReply> decodeReply(const QByteArray &message);

@@ -8,7 +8,7 @@ QByteArray CountMemory::nameOf(const WorkerRequest &request, QByteArrayView docu
     WorkerRequest rules = request;
     rules.number = 0;
     QCryptographicHash hash(QCryptographicHash::Blake2b_256);
-    hash.addData(encoded(rules)); // the same length for every document under rules of the same length
+    hash.addData(encode(rules)); // the same length for every document under rules of the same length
     hash.addData(document);
     return hash.result();
 }

@@ -42,17 +42,17 @@ CountingWorker::CountingWorker()
 int CountingWorker::run(const SandboxReport &sandbox)
 {
     loadFonts();
-    if (!sendPacket(socket, encoded(WorkerGreeting{sandbox})))
+    if (!sendPacket(socket, encode(WorkerGreeting{sandbox})))
         return 1;
     for (;;) {
         const Result<Packet, PacketError> packet = receivePacket(socket);
         if (!packet)
             return packet.error() == PacketError::Closed ? 0 : 1;
-        const std::optional<WorkerRequest> request = decodedRequest(packet.value().message);
+        const std::optional<WorkerRequest> request = decodeRequest(packet.value().message);
         if (!request || !packet.value().descriptor)
             return 1;
         const WorkerReply reply = replyTo(*request, packet.value().descriptor.get());
-        if (!sendPacket(socket, encoded(reply)))
+        if (!sendPacket(socket, encode(reply)))
             return 1;
         // Fragmented memory might fail the next document, too.
         if (!reply.counts && reply.counts.error().isOutOfMemory())
@@ -89,9 +89,6 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
         return CountFailure(text.error());
     m_rules = rulesFrom(request.rules);
     m_model.setAttributedStringToCount(text.value());
-    // A record has the counts in another order than a reply; the model gives the latter.
-    if (request.kind == DocumentKind::WordDocument)
-        m_model.setDocXMetaDataToFormat(QBYDocxMetaData::ofText(m_model.statsRepresentation()));
     const QBYWordCounterStats stats = m_model.statsRepresentation();
     // The text of one document must not stay in memory while the next is read.
     m_model.setAttributedStringToCount(std::nullopt);

@@ -21,13 +21,13 @@ TEST_F(CountUsageTest, HelpAndVersionGoToStandardOutput)
     EXPECT_THAT(quillbay({"--version"}).output.toStdString(), ::testing::MatchesRegex("quillbay [0-9.]+\n"));
 }
 
-TEST_F(CountUsageTest, WrongUsageEndsWithTwoAndAHintOnStandardError)
+TEST_F(CountUsageTest, WrongUsageExitsWithTwoAndAHintOnStandardError)
 {
     const std::vector<std::pair<QByteArrayList, const char *>> cases{
         {{}, "no command given"},
-        {{"frobnicate"}, "no command 'frobnicate'"},
+        {{"frobnicate"}, "unknown command 'frobnicate'"},
         {{"count", "--nonsense"}, "--nonsense"},
-        {{"count", "--json", "--tsv"}, "--json and --tsv exclude each other"},
+        {{"count", "--json", "--tsv"}, "--json and --tsv cannot be combined"},
         {{"count", "--files-from"}, "--files-from"},
         {{"count", "--files-from", "a", "--files-from", "b"}, "only once"},
         {{"count", "--files-from", "-", "-"}, "standard input cannot be both"},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ServiceCommandTest is the fixture of tests that run the commands which open windows: on a private bus that
-// starts a provider which records what it is asked, and on the private display. Thread: main.
+// starts a provider which records what it is asked, and on the private display.
+// Thread: main.
 #pragma once
 
 #include "tests/command/CommandTest.h"

@@ -30,7 +30,7 @@ WorkerRequest sampleRequest()
     request.number = 77;
     request.kind = DocumentKind::WordDocument;
     request.length = 1ULL << 40;
-    request.rules.localeName = QByteArray(RulesSnapshot::longestLocaleName, 'l');
+    request.rules.localeName = QByteArray(RulesSnapshot::maxLocaleNameLength, 'l');
     request.rules.minimumSentencesOfParagraph = 5;
     request.rules.sentencesNeedTerminalPunctuation = true;
     request.rules.page.paperSize = {612.5, 0.1};
@@ -49,7 +49,7 @@ void expectOnlyWhole(const QByteArray &message, Decode decode)
     for (qsizetype length = 0; length < message.size(); ++length)
         EXPECT_FALSE(decode(message.first(length))) << length;
     EXPECT_FALSE(decode(message + '\0'));
-    EXPECT_FALSE(decode(message + QByteArray(WorkerMessages::longestMessage, '\0')));
+    EXPECT_FALSE(decode(message + QByteArray(WorkerMessages::maxLength, '\0')));
     for (qsizetype i = 0; i < 8; ++i) { // what it is, its version, its kind
         QByteArray changed = message;
         changed[i] = static_cast<char>(changed[i] + 1);
@@ -62,9 +62,9 @@ void expectOnlyWhole(const QByteArray &message, Decode decode)
 TEST(WorkerMessages, ARequestArrivesAsItWasSent)
 {
     const WorkerRequest sent = sampleRequest();
-    const QByteArray message = encoded(sent);
-    EXPECT_LE(message.size(), WorkerMessages::longestMessage);
-    const std::optional<WorkerRequest> arrived = decodedRequest(message);
+    const QByteArray message = encode(sent);
+    EXPECT_LE(message.size(), WorkerMessages::maxLength);
+    const std::optional<WorkerRequest> arrived = decodeRequest(message);
     ASSERT_TRUE(arrived);
     EXPECT_EQ(arrived->number, sent.number);
     EXPECT_EQ(arrived->kind, sent.kind);
@@ -78,7 +78,7 @@ TEST(WorkerMessages, ARequestArrivesAsItWasSent)
     EXPECT_EQ(arrived->rules.page.rightMargin, sent.rules.page.rightMargin);
     EXPECT_EQ(arrived->rules.page.scale, sent.rules.page.scale);
     EXPECT_EQ(arrived->rules.page.columnBefore, sent.rules.page.columnBefore);
-    expectOnlyWhole(message, decodedRequest);
+    expectOnlyWhole(message, decodeRequest);
 }
 
 TEST(WorkerMessages, ARequestOfAnUnknownKindIsNoRequest)
@@ -88,19 +88,19 @@ TEST(WorkerMessages, ARequestOfAnUnknownKindIsNoRequest)
         request.kind = static_cast<DocumentKind>(kind);
         const bool isCounted =
             request.kind == DocumentKind::Rtfd || request.kind == DocumentKind::WordDocument;
-        EXPECT_EQ(decodedRequest(encoded(request)).has_value(), isCounted) << kind;
+        EXPECT_EQ(decodeRequest(encode(request)).has_value(), isCounted) << kind;
     }
 }
 
 TEST(WorkerMessages, AReplyArrivesAsItWasSent)
 {
-    const QByteArray message = encoded(WorkerReply{9, eight});
-    const std::optional<WorkerReply> counted = decodedReply(message);
+    const QByteArray message = encode(WorkerReply{9, eight});
+    const std::optional<WorkerReply> counted = decodeReply(message);
     ASSERT_TRUE(counted && counted->counts);
     EXPECT_EQ(counted->number, 9U);
     EXPECT_EQ(counted->counts.value(), eight);
-    expectOnlyWhole(message, decodedReply);
-    const std::optional<WorkerReply> failed = decodedReply(encoded(
+    expectOnlyWhole(message, decodeReply);
+    const std::optional<WorkerReply> failed = decodeReply(encode(
         WorkerReply{10, CountFailure(DocumentError(DocumentError::Cause::Damaged, DocumentKind::Rtfd))}));
     ASSERT_TRUE(failed && !failed->counts);
     EXPECT_EQ(failed->counts.error(),
@@ -110,7 +110,7 @@ TEST(WorkerMessages, AReplyArrivesAsItWasSent)
 TEST(WorkerMessages, AFailureWithoutANameIsNoReply)
 {
     const auto isReply = [](const CountFailure &failure) {
-        return decodedReply(encoded(WorkerReply{1, failure})).has_value();
+        return decodeReply(encode(WorkerReply{1, failure})).has_value();
     };
     const auto beyond = static_cast<CountFailure::Cause>(static_cast<quint32>(CountFailure::lastCause) + 1);
     EXPECT_TRUE(isReply(CountFailure::Cause::WorkerFailed));
@@ -129,10 +129,10 @@ TEST(WorkerMessages, AGreetingSaysWhatTheSandboxIsMadeOf)
 {
     const WorkerGreeting sent{
         {.hasNoNewPrivileges = true, .landlockVersion = 6, .hasSystemCallFilter = true}};
-    const std::optional<WorkerGreeting> arrived = decodedGreeting(encoded(sent));
+    const std::optional<WorkerGreeting> arrived = decodeGreeting(encode(sent));
     ASSERT_TRUE(arrived);
     EXPECT_EQ(arrived->sandbox, sent.sandbox);
-    expectOnlyWhole(encoded(sent), decodedGreeting);
+    expectOnlyWhole(encode(sent), decodeGreeting);
 }
 
 TEST(WorkerMessages, EveryFailureHasItsOwnWords)
@@ -180,9 +180,9 @@ TEST(PacketSocket, APacketThatIsTooLongIsGarbage)
 {
     const auto ends = connectedSockets();
     ASSERT_TRUE(ends);
-    ASSERT_TRUE(sendPacket(ends->first.get(), QByteArray(WorkerMessages::longestMessage, 'x')));
+    ASSERT_TRUE(sendPacket(ends->first.get(), QByteArray(WorkerMessages::maxLength, 'x')));
     EXPECT_TRUE(receivePacket(ends->second.get()));
-    ASSERT_TRUE(sendPacket(ends->first.get(), QByteArray(WorkerMessages::longestMessage + 1, 'x')));
+    ASSERT_TRUE(sendPacket(ends->first.get(), QByteArray(WorkerMessages::maxLength + 1, 'x')));
     EXPECT_EQ(receivePacket(ends->second.get()).error(), PacketError::Garbage);
 }
 

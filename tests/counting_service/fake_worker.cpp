@@ -44,7 +44,7 @@ QByteArray countOf(const WorkerRequest &request, quint64 number)
     stats.numberOfWords = request.length;
     stats.numberOfCharacters = static_cast<quint64>(::getpid());
     stats.numberOfLines = requests;
-    return encoded(WorkerReply{number, stats});
+    return encode(WorkerReply{number, stats});
 }
 
 // Until there is no more.
@@ -53,7 +53,7 @@ void eatMemory()
     constexpr size_t bite = 64 * 1024 * 1024;
     while (char *memory = static_cast<char *>(std::malloc(bite)))
         std::memset(memory, 1, 1);
-    send(encoded(WorkerReply{requests, outOfMemory}));
+    send(encode(WorkerReply{requests, outOfMemory}));
 }
 
 void obey(QByteArrayList words, const WorkerRequest &request)
@@ -77,13 +77,13 @@ void obey(QByteArrayList words, const WorkerRequest &request)
     else if (word == "garbage")
         send("garbage");
     else if (word == "long")
-        send(answer + QByteArray(WorkerMessages::longestMessage, 'x'));
+        send(answer + QByteArray(WorkerMessages::maxLength, 'x'));
     else if (word == "descriptor")
         send(answer, broker);
     else if (word == "other")
         send(countOf(request, request.number + 1));
     else if (word == "memory")
-        send(encoded(WorkerReply{request.number, outOfMemory}));
+        send(encode(WorkerReply{request.number, outOfMemory}));
     else if (word == "eat")
         eatMemory();
     else if (word == "hung-up") {
@@ -106,10 +106,10 @@ int main(int argumentCount, char **arguments)
         return 3;
     if (beginning == "hang")
         hang();
-    send(beginning == "nonsense" ? QByteArray("nonsense") : encoded(WorkerGreeting{}));
+    send(beginning == "nonsense" ? QByteArray("nonsense") : encode(WorkerGreeting{}));
     for (;;) {
         const Result<Packet, PacketError> packet = receivePacket(broker);
-        const auto request = packet ? decodedRequest(packet.value().message) : std::nullopt;
+        const auto request = packet ? decodeRequest(packet.value().message) : std::nullopt;
         if (!request)
             return 0;
         ++requests;

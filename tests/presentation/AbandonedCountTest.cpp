@@ -116,7 +116,7 @@ TEST_F(AbandonedCountTest, AnAnswerThatIsOnItsWayToTheMainThreadIsDroppedByAStop
     std::promise<void> answered;
     service->release();
     WordCounterServiceProtocol(probe.remoteObjectProxy())
-        .countWordsForDocX(nullptr, [&answered](const RemoteReply &) { answered.set_value(); });
+        .countWordsForDocX(nullptr, [&answered](const QBYWordCounterStats &) { answered.set_value(); });
     answered.get_future().wait(); // without the event loop: the answer to the panel has come before
     panel.controller->stopAsyncOperation();
     EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; }));

@@ -29,14 +29,7 @@ public:
             view->addSubview(label);
             labels.push_back(std::move(label));
         }
-        controller->setWordCountTextField(labels[0]);
-        controller->setCharacterCountTextField(labels[1]);
-        controller->setCharacterCountTextFieldIncludingWhiteSpace(labels[2]);
-        controller->setNumberOfSentecesTextField(labels[3]);
-        controller->setNumberOfLinesTextField(labels[4]);
-        controller->setNumberOfHardLineBreaksTextField(labels[5]);
-        controller->setNumberOfParagraphsTextField(labels[6]);
-        controller->setNumberOfIndentedParagraphsTextField(labels[7]);
+        connectOutlets(*controller, labels);
         controller->setView(view);
         controller->setLayoutDelegate(&delegate);
         controller->wordCounter()->setFormattedStringStyle(1);

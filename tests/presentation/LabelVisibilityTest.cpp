@@ -156,7 +156,7 @@ TEST_F(LabelVisibility, AnInterfaceFileThatLacksALabelEndsTheProcess)
     GTEST_FLAG_SET(death_test_style, "threadsafe"); // the bus connection has a thread
     StatsPanel panel;
     panel.controller.setNumberOfSentecesTextField(nullptr);
-    EXPECT_DEATH(panel.controller.viewDidLoad(), "outlet 4 of 8");
+    EXPECT_DEATH(panel.controller.viewDidLoad(), "outlet numberOfSentecesTextField");
 }
 
 TEST_F(LabelVisibility, ScreenReadersNameALabelByItsTextWithoutTheBullet)

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <initializer_list>
+#include <span>
 #include <vector>
 
 /// Switches these statistics on and all others off, without telling anyone.
@@ -39,6 +40,20 @@ public:
     std::vector<std::string> calls;
 };
 
+/// labels: in canonical order.
+inline void connectOutlets(
+    BaseWordCounterViewController &controller, std::span<const std::shared_ptr<Label>> labels)
+{
+    controller.setWordCountTextField(labels[0]);
+    controller.setCharacterCountTextField(labels[1]);
+    controller.setCharacterCountTextFieldIncludingWhiteSpace(labels[2]);
+    controller.setNumberOfSentecesTextField(labels[3]);
+    controller.setNumberOfLinesTextField(labels[4]);
+    controller.setNumberOfHardLineBreaksTextField(labels[5]);
+    controller.setNumberOfParagraphsTextField(labels[6]);
+    controller.setNumberOfIndentedParagraphsTextField(labels[7]);
+}
+
 class StatsPanel {
 public:
     static constexpr size_t numberOfLabels = 8;
@@ -53,7 +68,7 @@ public:
             labels[i]->setTag(static_cast<qint64>(i + 1));
             view->addSubview(labels[i]);
         }
-        connectOutlets();
+        connectOutlets(controller, labels);
         controller.setView(view);
         controller.setLayoutDelegate(&delegate);
     }
@@ -77,17 +92,4 @@ public:
         void loadView() override { }
     };
     Controller controller;
-
-private:
-    void connectOutlets()
-    {
-        controller.setWordCountTextField(labels[0]);
-        controller.setCharacterCountTextField(labels[1]);
-        controller.setCharacterCountTextFieldIncludingWhiteSpace(labels[2]);
-        controller.setNumberOfSentecesTextField(labels[3]);
-        controller.setNumberOfLinesTextField(labels[4]);
-        controller.setNumberOfHardLineBreaksTextField(labels[5]);
-        controller.setNumberOfParagraphsTextField(labels[6]);
-        controller.setNumberOfIndentedParagraphsTextField(labels[7]);
-    }
 };

@@ -66,13 +66,8 @@ private:
         WordCounterModel model;
         model.setFormattedStringStyle(1);
         model.updateModelWithPrepopulatedStats(madeUpCounts);
-        const std::array texts{model.wordCountFormattedString(), model.characterCountFormattedString(),
-            model.characterCountFormattedStringIncludingWhiteSpace(),
-            model.numberOfSentencesCountFormattedString(), model.numberOfLinesFormattedString(),
-            model.numberOfHardLineBreaksFormattedString(), model.numberOfParagraphsFormattedString(),
-            model.numberOfIndentedParagraphsFormattedString()};
-        for (size_t i = 0; i < texts.size(); ++i)
-            m_panel.allTextfieldsForLayout().at(i)->setStringValue(texts[i]);
+        for (const StatisticRow &row : statisticTable)
+            m_panel.textField(row.statistic)->setStringValue(model.formattedString(row.statistic));
     }
 
     [[nodiscard]] MimeContent statisticsToCopy() const

@@ -5,7 +5,7 @@
 #include "platform/text_layout/LayoutEngine.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/QuillbayTest.h"
-#include "text_statistics/AttributedStringStatistics.h"
+#include "text_statistics/StringStatistics.h"
 
 #include <vector>
 

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/Window.h"
 #include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
-#include "text_statistics/SampleText.h"
 
 #include "tests/harness/QuillbayTest.h"
+
+#include <QStringList>
 
 #include <limits>
 
 namespace {
 
 constexpr QSizeF letter{612, 792};
-constexpr double endless = std::numeric_limits<double>::max();
+constexpr double unlimited = std::numeric_limits<double>::max();
 
 } // namespace
 
@@ -50,9 +51,9 @@ TEST_F(PagePreview, ThePageIsWhiteAndHasItsOriginAtTheTopLeft)
     EXPECT_EQ(page().frame(), QRectF(0, 0, 0, 0));
 }
 
-TEST_F(PagePreview, TheColumnIsLightReadOnlyTextOfNoWidthAndEndlessHeight)
+TEST_F(PagePreview, TheColumnIsLightReadOnlyTextOfNoWidthAndUnlimitedHeight)
 {
-    EXPECT_EQ(column().frame(), QRectF(0, 0, 0, endless));
+    EXPECT_EQ(column().frame(), QRectF(0, 0, 0, unlimited));
     EXPECT_EQ(column().appearance(), Appearance::Light);
     EXPECT_FALSE(column().isEditable());
     EXPECT_FALSE(column().isSelectable());
@@ -78,7 +79,7 @@ TEST_F(PagePreview, LoadingAgainOnlyPutsTheColumnOnTopAndScrollsToTheTop)
     EXPECT_EQ(page().subviews().size(), 2U);
     EXPECT_EQ(scrollPosition(), QPointF(0, 0));
     EXPECT_EQ(column().textStorage().attributedString().string(), QStringLiteral("other"));
-    EXPECT_EQ(column().frame(), QRectF(72, 0, 450, endless));
+    EXPECT_EQ(column().frame(), QRectF(72, 0, 450, unlimited));
     EXPECT_EQ(page().frame(), QRectF(0, 0, 612, 792));
     EXPECT_EQ(scrollView().magnification(), 0.5);
 }
@@ -113,7 +114,7 @@ TEST_F(PagePreview, TheColumnFillsThePageBetweenTheInsetsAndKeepsItsHeight)
 {
     m_preview.setPreviewContentFrameSize(letter, 72, 90);
     EXPECT_EQ(page().frame(), QRectF(0, 0, 612, 792));
-    EXPECT_EQ(column().frame(), QRectF(72, 0, 450, endless));
+    EXPECT_EQ(column().frame(), QRectF(72, 0, 450, unlimited));
     EXPECT_EQ(column().textContainer().width(), 450);
 
     column().setFrameSize({450, 5000});
@@ -142,7 +143,7 @@ TEST_F(PagePreview, InsetsThatLeaveTheColumnNoWidthChangeNothing)
              {400, 195}, {595, 0}, {0, 595}, {400, 400}, {notANumber, 0}}) {
         m_preview.setPreviewContentFrameSize({595, 842}, left, right);
         EXPECT_EQ(page().frame(), QRectF(0, 0, 612, 792)) << left;
-        EXPECT_EQ(column().frame(), QRectF(72, 0, 450, endless)) << left;
+        EXPECT_EQ(column().frame(), QRectF(72, 0, 450, unlimited)) << left;
         EXPECT_EQ(scrollView().magnification(), 0.5) << left;
         EXPECT_EQ(scrollPosition(), QPointF(3, 4)) << left;
     }
@@ -151,7 +152,7 @@ TEST_F(PagePreview, InsetsThatLeaveTheColumnNoWidthChangeNothing)
 TEST_F(PagePreview, InsetsThatLeaveTheColumnHalfAPointAreTaken)
 {
     m_preview.setPreviewContentFrameSize(letter, 300, 311.5);
-    EXPECT_EQ(column().frame(), QRectF(300, 0, 0.5, endless));
+    EXPECT_EQ(column().frame(), QRectF(300, 0, 0.5, unlimited));
 }
 
 TEST_F(PagePreview, TellsHowMuchRoomIsLeftBesideTheShrunkPage)
@@ -198,4 +199,19 @@ TEST(PagePreviewBeforeLoading, LoadsItsViewsForTheFirstLayout)
     EXPECT_FALSE(preview.isViewLoaded());
     preview.setPreviewContentFrameSize(letter, 72, 72);
     EXPECT_EQ(preview.previewTextView()->frame().width(), 468);
+}
+
+TEST(SampleText, HasALineEndAndFourEqualParagraphsOf445CharactersWithoutAFinalLineEnd)
+{
+    const QString text = pagePreviewSampleText();
+    EXPECT_EQ(text.size(), 1784);
+    const QStringList paragraphs = text.split(u'\n');
+    ASSERT_EQ(paragraphs.size(), 5);
+    EXPECT_TRUE(paragraphs[0].isEmpty());
+    EXPECT_EQ(paragraphs[1].size(), 445);
+    EXPECT_TRUE(
+        paragraphs[1].startsWith(QStringLiteral("Lorem ipsum dolor sit amet, consectetur adipiscing elit")));
+    EXPECT_TRUE(paragraphs[1].endsWith(QStringLiteral("id est laborum.")));
+    for (int i = 2; i < 5; ++i)
+        EXPECT_EQ(paragraphs[i], paragraphs[1]);
 }

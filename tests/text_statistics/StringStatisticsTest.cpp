@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The operations on strings follow the preferences and the locale as they are at the moment of the call.
+// The statistics of strings follow the preferences and the locale at the time of the call.
 #include "text_statistics/StringStatistics.h"
 
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/QuillbayTest.h"
+#include "text_statistics/TextCounter.h"
 
 using namespace QBYExtension;
 using Preferences = QBYUserDefaultsController;
@@ -41,7 +42,7 @@ TEST_F(StringStatisticsTest, ParagraphsFollowTheMinimumOfSentences)
     EXPECT_EQ(numberOfParagraphs(text), 3U);
 }
 
-TEST_F(StringStatisticsTest, TheRestRestsOnTheTextAlone)
+TEST_F(StringStatisticsTest, TheOthersDependOnTheTextAlone)
 {
     EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(u"a b\U0001F600"), 4U);
     EXPECT_EQ(numberOfHardLineBreaks(u"a\nb"), 2U);
@@ -50,4 +51,17 @@ TEST_F(StringStatisticsTest, TheRestRestsOnTheTextAlone)
     EXPECT_TRUE(endsWithExclamationPoint(u"a!"));
     EXPECT_TRUE(endsWithTerminalPunctuationMark(u"a!"));
     EXPECT_FALSE(endsWithTerminalPunctuationMark(u"a"));
+}
+
+// Some functions have the same name there; both headers can be used in one file.
+TEST_F(StringStatisticsTest, AgreeWithTheFixedRulesOfTheTextCounter)
+{
+    const QString text = QStringLiteral("a b\r\nc d.\" ");
+    EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(text),
+        FixedRules::numberOfCharactersNotIncludingWhiteSpace(text));
+    EXPECT_EQ(numberOfHardLineBreaks(text), FixedRules::numberOfHardLineBreaks(text));
+    EXPECT_EQ(endsWithPeriod(text), FixedRules::endsWithPeriod(text));
+    EXPECT_EQ(endsWithQuestionMark(text), FixedRules::endsWithQuestionMark(text));
+    EXPECT_EQ(endsWithExclamationPoint(text), FixedRules::endsWithExclamationPoint(text));
+    EXPECT_EQ(endsWithTerminalPunctuationMark(text), FixedRules::endsWithTerminalPunctuationMark(text));
 }

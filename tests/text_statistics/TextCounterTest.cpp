@@ -5,6 +5,7 @@
 
 #include <vector>
 
+using namespace FixedRules;
 using ::testing::ElementsAre;
 
 namespace {
@@ -29,7 +30,7 @@ protected:
 
 TEST_F(TextCounterTest, TheEmptyTextHasNothing)
 {
-    EXPECT_EQ(m_counter.count(u"", m_rules), TextCounts());
+    EXPECT_EQ(m_counter.count(u"", m_rules), QBYWordCounterStats());
     EXPECT_EQ(numberOfHardLineBreaks(u""), 0U);
     EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(u""), 0U);
     EXPECT_FALSE(endsWithPeriod(u""));
@@ -88,7 +89,7 @@ TEST_F(TextCounterTest, CharactersAreUtf16CodeUnits)
 {
     EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(u"\U0001F600"), 2U);
     EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(u"e\u0301 \u00A0x"), 3U);
-    EXPECT_EQ(m_counter.count(u"e\u0301 \u00A0x\r\n", m_rules).characters, 7U);
+    EXPECT_EQ(m_counter.count(u"e\u0301 \u00A0x\r\n", m_rules).numberOfCharactersIncludingWhitespace, 7U);
 }
 
 TEST_F(TextCounterTest, ASentenceNeedsACountedWord)
@@ -149,9 +150,10 @@ TEST_F(TextCounterTest, HardLineBreaksAreLines)
 
 TEST_F(TextCounterTest, WhiteSpaceOnlyHasLinesAndNothingElse)
 {
-    const TextCounts counts = m_counter.count(u"  \n\t ", m_rules);
-    EXPECT_EQ(counts, (TextCounts{.characters = 5, .hardLineBreaks = 2}));
-    EXPECT_EQ(m_counter.count(u" \t \t", m_rules).hardLineBreaks, 1U);
+    const QBYWordCounterStats counts = m_counter.count(u"  \n\t ", m_rules);
+    EXPECT_EQ(counts,
+        (QBYWordCounterStats{.numberOfCharactersIncludingWhitespace = 5, .numberOfHardLineBreaks = 2}));
+    EXPECT_EQ(m_counter.count(u" \t \t", m_rules).numberOfHardLineBreaks, 1U);
 }
 
 TEST_F(TextCounterTest, ParagraphsEndAtParagraphSeparatorsOnly)
@@ -190,22 +192,22 @@ TEST_F(TextCounterTest, CountsAllAtOnceAsOneByOne)
 {
     m_rules.minimumSentencesOfParagraph = 1;
     const QString text = QStringLiteral("\tOne b two. Three?\r\n\nfour\u2028five!\u2029 \t\nSix");
-    const TextCounts counts = m_counter.count(text, m_rules);
-    EXPECT_EQ(counts.words, 6U);
-    EXPECT_EQ(counts.words, words(text));
-    EXPECT_EQ(counts.charactersNotIncludingWhiteSpace, numberOfCharactersNotIncludingWhiteSpace(text));
-    EXPECT_EQ(counts.characters, static_cast<quint64>(text.size()));
-    EXPECT_EQ(counts.sentences, sentences(text));
-    EXPECT_EQ(counts.hardLineBreaks, numberOfHardLineBreaks(text));
-    EXPECT_EQ(counts.paragraphs, paragraphs(text));
-    EXPECT_EQ(counts.paragraphsIndented, indented(text));
+    const QBYWordCounterStats counts = m_counter.count(text, m_rules);
+    EXPECT_EQ(counts.numberOfWords, 6U);
+    EXPECT_EQ(counts.numberOfWords, words(text));
+    EXPECT_EQ(counts.numberOfCharacters, numberOfCharactersNotIncludingWhiteSpace(text));
+    EXPECT_EQ(counts.numberOfCharactersIncludingWhitespace, static_cast<quint64>(text.size()));
+    EXPECT_EQ(counts.numberOfSentences, sentences(text));
+    EXPECT_EQ(counts.numberOfHardLineBreaks, numberOfHardLineBreaks(text));
+    EXPECT_EQ(counts.numberOfParagraphs, paragraphs(text));
+    EXPECT_EQ(counts.numberOfIndentedParagraphs, indented(text));
 }
 
 TEST_F(TextCounterTest, TellsHowFarItHasComeAfterEveryParagraph)
 {
     std::vector<qsizetype> positions;
-    const TextCounts counts =
+    const QBYWordCounterStats counts =
         m_counter.count(u"one\n\r\ntwo", m_rules, [&](qsizetype position) { positions.push_back(position); });
-    EXPECT_EQ(counts.words, 2U);
+    EXPECT_EQ(counts.numberOfWords, 2U);
     EXPECT_THAT(positions, ElementsAre(4, 6, 9));
 }

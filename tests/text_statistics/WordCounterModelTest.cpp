@@ -113,17 +113,6 @@ TEST_F(WordCounterModelTest, CopiesAWordRecord)
     EXPECT_EQ(m_model.numberOfHardLineBreaksFormattedString(), QStringLiteral("•Lines (Hard Break): 17"));
 }
 
-TEST_F(WordCounterModelTest, AWordRecordOfATextHasTheCountsOfTheText)
-{
-    const QBYWordCounterStats stats{1, 2, 3, 4, 5, 6, 7, 8};
-    const QBYDocxMetaData ofText = QBYDocxMetaData::ofText(stats);
-    EXPECT_EQ(ofText.numberOfCharactersWithWhitespace, 3U);
-    EXPECT_EQ(ofText.numberOfLines, 5U);
-    EXPECT_EQ(ofText.numberOfHardLineBreaks, 6U);
-    m_model.setDocXMetaDataToFormat(ofText);
-    EXPECT_EQ(m_model.statsRepresentation(), stats);
-}
-
 TEST_F(WordCounterModelTest, AStyledTextAfterAWordRecordReplacesTheCountsAndKeepsTheRecord)
 {
     m_model.setDocXMetaDataToFormat(record);
@@ -196,4 +185,21 @@ TEST_F(WordCounterModelTest, TellsHowFarACountHasCome)
     m_model.setProgress([&](qsizetype position) { positions.push_back(position); });
     m_model.setAttributedStringToCount(text(QStringLiteral("One\nTwo\n")));
     EXPECT_THAT(positions, ::testing::ElementsAre(2, 4, 6, 8));
+}
+
+TEST(StatisticTable, ListsTheCountsInTheOrderOfTheRecord)
+{
+    const QBYWordCounterStats stats{1, 2, 3, 4, 5, 6, 7, 8};
+    EXPECT_EQ(statsFromCounts({1, 2, 3, 4, 5, 6, 7, 8}), stats);
+    for (quint64 i = 0; i < statisticCount; ++i) {
+        EXPECT_EQ(static_cast<quint64>(statisticTable.at(i).statistic), i);
+        EXPECT_EQ(stats.*statisticTable.at(i).count, i + 1);
+    }
+}
+
+TEST(StatisticTable, AddsAllCounts)
+{
+    QBYWordCounterStats stats{1, 2, 3, 4, 5, 6, 7, 8};
+    stats += stats;
+    EXPECT_EQ(stats, (QBYWordCounterStats{2, 4, 6, 8, 10, 12, 14, 16}));
 }

@@ -172,7 +172,7 @@ TEST_F(WatchWindowOnScreen, TheCommandReportsFilesThatCannotBeWatched)
 {
     ChildProcess::Outcome outcome = watch({});
     EXPECT_EQ(outcome.exitStatus, 2);
-    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("no file named"));
+    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("no file given"));
     outcome = watch({"/nonexistent/novel.txt"});
     EXPECT_EQ(outcome.exitStatus, 1);
     EXPECT_EQ(outcome.errors, "quillbay: /nonexistent/novel.txt: No such file or directory\n");
