@@ -7,16 +7,16 @@
 
 namespace {
 
-/// Of an open request: in its message, in the arguments that Qt makes of that, and of our own.
+/// In the message, in Qt's arguments of the message, and in our sealed memory.
 constexpr rlim_t descriptorsPerRequest = 3;
-/// For all else - the bus, the workers, the print server, the libraries - where there are few, and where
-/// there are many: then also for what a message brings that is no request.
+/// For everything else: the bus, the workers, the print server, the libraries, messages that are not
+/// requests.
 constexpr rlim_t minOthers = 40;
 constexpr rlim_t maxOthers = 256;
 constexpr rlim_t maxDescriptors = 1'000'000;
-constexpr long maxBytesOfMessages = 1L << 30;
+constexpr long maxMessageBytes = 1L << 30;
 
-rlim_t raisedDescriptorLimit()
+rlim_t raiseDescriptorLimit()
 {
     rlimit limit = {};
     if (::getrlimit(RLIMIT_NOFILE, &limit) != 0)
@@ -27,15 +27,15 @@ rlim_t raisedDescriptorLimit()
 
 } // namespace
 
-std::size_t roomForRequests(rlim_t descriptorLimit)
+std::size_t maxRequestsFor(rlim_t descriptorLimit)
 {
     const rlim_t descriptors = std::min(descriptorLimit, maxDescriptors);
     const rlim_t others = std::clamp(descriptors / 2, minOthers, maxOthers);
-    const rlim_t room = descriptors > others ? (descriptors - others) / descriptorsPerRequest : 0;
-    return std::max<rlim_t>(room, 1);
+    const rlim_t requests = descriptors > others ? (descriptors - others) / descriptorsPerRequest : 0;
+    return std::max<rlim_t>(requests, 1);
 }
 
-// Qt lends its connection, but not the library's functions.
+// Qt exposes its libdbus connection, but not the functions of libdbus.
 bool limitRequestsToDescriptors(const QDBusConnection &bus)
 {
     using SetLimit = void (*)(void *connection, long limit);
@@ -47,7 +47,7 @@ bool limitRequestsToDescriptors(const QDBusConnection &bus)
     void *connection = bus.internalPointer();
     if (!setDescriptors || !setBytes || !connection)
         return false;
-    setDescriptors(connection, static_cast<long>(roomForRequests(raisedDescriptorLimit())));
-    setBytes(connection, maxBytesOfMessages);
+    setDescriptors(connection, static_cast<long>(maxRequestsFor(raiseDescriptorLimit())));
+    setBytes(connection, maxMessageBytes);
     return true;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The descriptors that requests may take: each of them waits with its message and its document.
+// The number of requests that the service reads at a time: each holds file descriptors until it is answered.
 // Thread: main.
 #pragma once
 
@@ -9,13 +9,13 @@
 
 #include <cstddef>
 
-/// How many requests fit at a time where a process may have so many descriptors; 1 or more.
-std::size_t roomForRequests(rlim_t descriptorLimit);
+/// How many requests a process with this descriptor limit can hold at a time; 1 or more.
+std::size_t maxRequestsFor(rlim_t descriptorLimit);
 
-/// Raises the descriptor limit of the process as far as the system lets it, and keeps the connection from
-/// reading more requests than fit: the others wait in the bus. A process that runs out of descriptors loses
-/// what it reads and, with it, its connection. False where the connection does not take the limit.
+/// Raises the descriptor limit of the process to its hard limit, and keeps the connection from reading more
+/// requests than that allows; the others wait in the bus. A process that runs out of descriptors loses the
+/// message that it reads, and with it its connection. False if the limit cannot be set.
 ///
-/// The bus's library goes on reading when a message is let go, and tells Qt so on the thread that does this.
-/// Qt takes note only on its own thread for the bus, so ServiceObject lets every message go there.
+/// libdbus resumes reading when a message is released, and notifies Qt on the releasing thread. Qt handles
+/// this only on its own thread for the bus, so ServiceObject releases every message there.
 [[nodiscard]] bool limitRequestsToDescriptors(const QDBusConnection &bus);

@@ -32,7 +32,7 @@ Result<SealedMemory, CountFailure> documentOf(const ReceivedRequest &request)
 {
     if (request.isAbsent)
         return CountFailure(CountFailure::Cause::DocumentMissing);
-    if (request.length > CountingService::largestDocument)
+    if (request.length > CountingService::maxDocumentSize)
         return CountFailure(CountFailure::Cause::TooLarge);
     SealedMemory::MemoryResult memory =
         SealedMemory::receive(request.payload.fileDescriptor(), request.length);
@@ -43,12 +43,12 @@ Result<SealedMemory, CountFailure> documentOf(const ReceivedRequest &request)
 
 void logMissingName(const QString &cause)
 {
-    countingServiceLog().error(u"The bus name {} cannot be acquired: {}",
+    countingServiceLog().error(u"Cannot acquire bus name {}: {}",
         {publicly(ServiceObject::serviceName()),
             publicly(cause.isEmpty() ? QStringLiteral("another process has it") : cause)});
 }
 
-QDBusMessage callOfBus(const QString &method, const QVariantList &arguments)
+QDBusMessage busCall(const QString &method, const QVariantList &arguments)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"), method);
@@ -61,56 +61,56 @@ QDBusMessage callOfBus(const QString &method, const QVariantList &arguments)
 CountingService::CountingService(WorkerProgram workers, std::chrono::milliseconds idleTime)
     : m_bus(QDBusConnection::sessionBus())
     , m_object(m_bus, [this](const ReceivedRequest &request) { receive(request); })
-    , m_pool(std::move(workers), WorkerPool::workersOfThisMachine())
+    , m_pool(std::move(workers), WorkerPool::defaultWorkerCount())
 {
     m_idleTimer.setInterval(idleTime);
     m_idleTimer.setSingleShot(true);
-    connect(&m_idleTimer, &QTimer::timeout, this, [this] { leave(); });
+    connect(&m_idleTimer, &QTimer::timeout, this, [this] { stop(); });
 }
 
 bool CountingService::start()
 {
-    m_pool.setFontGeneration(m_rules.fontGeneration()); // starts the first worker, too
-    m_rules.ask([](const RulesSource::Snapshot &) {}); // so that the print server is asked early
+    m_pool.setFontGeneration(m_rules.fontGeneration()); // also starts the first worker
+    m_rules.requestSnapshot([](const RulesSource::Snapshot &) {}); // asks the print server early
     m_bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
-        SLOT(leaveAtOnce()));
-    // The object comes before the name: requests may be waiting for it.
+        SLOT(exitWithoutBus()));
+    // Before the name: requests may already be waiting for it.
     if (!m_bus.isConnected() || !limitRequestsToDescriptors(m_bus) || !m_object.registerOnBus()) {
         logMissingName(m_bus.lastError().message());
         return false;
     }
-    askForName();
+    requestName();
     return true;
 }
 
-// The event loop runs meanwhile: requests may come before the bus's answer, more than fit at a time, and the
-// answer is not read until some of them are done.
-void CountingService::askForName()
+// Asynchronous: more requests than can be held may arrive before the bus's reply, which is then not read
+// until some of them are answered.
+void CountingService::requestName()
 {
-    constexpr uint doNotQueue = 4; // a flag and an answer of the bus, as D-Bus numbers them
+    constexpr uint doNotQueue = 4; // flag and reply code of RequestName in D-Bus
     constexpr uint isPrimaryOwner = 1;
-    whenAnswered(callOfBus(QStringLiteral("RequestName"), {ServiceObject::serviceName(), doNotQueue}),
-        [this](const QDBusMessage &answer) {
-            if (answer.type() == QDBusMessage::ReplyMessage
-                && answer.arguments().value(0).toUInt() == isPrimaryOwner) {
+    callAsync(busCall(QStringLiteral("RequestName"), {ServiceObject::serviceName(), doNotQueue}),
+        [this](const QDBusMessage &reply) {
+            if (reply.type() == QDBusMessage::ReplyMessage
+                && reply.arguments().value(0).toUInt() == isPrimaryOwner) {
                 if (m_openRequests == 0)
                     m_idleTimer.start();
                 return;
             }
-            logMissingName(answer.errorMessage());
+            logMissingName(reply.errorMessage());
             QCoreApplication::exit(1);
         });
 }
 
-void CountingService::whenAnswered(
-    const QDBusMessage &call, const std::function<void(const QDBusMessage &)> &take)
+void CountingService::callAsync(
+    const QDBusMessage &call, const std::function<void(const QDBusMessage &)> &takeReply)
 {
     auto *const watcher =
         new QDBusPendingCallWatcher(m_bus.asyncCall(call, std::numeric_limits<int>::max()), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, take] {
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, takeReply] {
         watcher->deleteLater();
-        take(watcher->reply());
+        takeReply(watcher->reply());
     });
 }
 
@@ -122,17 +122,17 @@ void CountingService::receive(const ReceivedRequest &request)
     if (!document)
         return finish(request, document.error());
     const auto memory = std::make_shared<SealedMemory>(std::move(document).value());
-    ReceivedRequest kept = request;
-    kept.payload = {}; // one descriptor is enough
-    m_rules.ask([this, kept, memory](const RulesSource::Snapshot &snapshot) {
+    ReceivedRequest pending = request;
+    pending.payload = {}; // the sealed memory has its own descriptor
+    m_rules.requestSnapshot([this, pending, memory](const RulesSource::Snapshot &snapshot) {
         m_pool.setFontGeneration(snapshot.fontGeneration);
         RulesSnapshot rules = snapshot.rules;
-        if (kept.localeName)
-            rules.localeName = *kept.localeName;
+        if (pending.localeName)
+            rules.localeName = *pending.localeName;
         m_columnInForce = columnWidthOf(rules.page).value_or(m_columnInForce);
         rules.page.columnBefore = m_columnInForce;
-        m_pool.add({kept.kind, std::move(*memory), rules,
-            [this, kept](const CountJob::Outcome &outcome) { finish(kept, outcome); }});
+        m_pool.add({pending.kind, std::move(*memory), rules,
+            [this, pending](const CountJob::Outcome &outcome) { finish(pending, outcome); }});
     });
 }
 
@@ -142,39 +142,34 @@ void CountingService::finish(const ReceivedRequest &request, const ReceivedReque
         countingServiceLog().notice(u"Could not count a document ({} bytes): {}",
             {request.length, publicly(causeText(outcome.error()))});
     }
-    request.answer(outcome);
-    noteEndOfRequest();
-}
-
-void CountingService::noteEndOfRequest()
-{
+    request.reply(outcome);
     if (--m_openRequests > 0)
         return;
-    if (m_hasGivenNameAway)
+    if (m_hasReleasedName)
         quit();
-    else if (!m_isLeaving)
+    else if (!m_isStopping)
         m_idleTimer.start();
 }
 
-void CountingService::leave()
+void CountingService::stop()
 {
-    if (std::exchange(m_isLeaving, true))
+    if (std::exchange(m_isStopping, true))
         return;
     m_idleTimer.stop();
-    whenAnswered(callOfBus(QStringLiteral("ReleaseName"), {ServiceObject::serviceName()}),
-        [this](const QDBusMessage &) {
-            // No request comes behind the bus's answer, and all before it have been read.
-            m_object.settle();
-            m_hasGivenNameAway = true;
+    callAsync(
+        busCall(QStringLiteral("ReleaseName"), {ServiceObject::serviceName()}), [this](const QDBusMessage &) {
+            // The bus's reply follows the last request: all of them have been read.
+            m_object.flush();
+            m_hasReleasedName = true;
             if (m_openRequests == 0)
                 quit();
         });
 }
 
-// The bus handles the messages of one connection in their order: its answer says that it has the replies.
+// The bus handles the messages of one connection in order: its reply to the ping confirms that it has ours.
 void CountingService::quit()
 {
-    m_object.settle();
+    m_object.flush();
     const QDBusMessage ping = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus.Peer"),
         QStringLiteral("Ping"));
@@ -182,10 +177,10 @@ void CountingService::quit()
     QCoreApplication::exit(0);
 }
 
-void CountingService::leaveAtOnce()
+void CountingService::exitWithoutBus()
 {
     countingServiceLog().notice(u"The session bus was lost");
-    m_isLeaving = true;
+    m_isStopping = true;
     m_idleTimer.stop();
     QCoreApplication::exit(0);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // CountingService is the broker: it owns the service's name on the session bus, answers every request once,
-// and leaves when nobody has asked for a while. It passes documents on without looking into them. Who counts
-// is WorkerPool's business, what a count rests on RulesSource's.
+// and exits when it has been idle for a while. It never reads documents: WorkerPool has them counted, under
+// the rules of RulesSource.
 // Thread: main.  Owner: main().
 #pragma once
 
@@ -20,39 +20,38 @@ class CountingService : public QObject {
     Q_OBJECT
 
 public:
-    /// How long it stays without a request.
-    static constexpr std::chrono::milliseconds usualIdleTime = std::chrono::minutes(1);
-    /// Bytes of a document; longer ones are not counted. No text could be longer than this.
-    static constexpr quint64 largestDocument = (1ULL << 31) - 1;
+    static constexpr std::chrono::milliseconds defaultIdleTime = std::chrono::minutes(1);
+    /// Bytes; larger documents are not counted. No text can be longer than this.
+    static constexpr quint64 maxDocumentSize = (1ULL << 31) - 1;
 
+    /// idleTime: after the last answer, until the service exits.
     CountingService(WorkerProgram workers, std::chrono::milliseconds idleTime);
 
-    /// Asks the bus for the name. False, with a line in the log, where there is no bus. Where the name is
-    /// somebody else's, the event loop ends with exit status 1 and such a line.
+    /// Requests the name from the bus. False, with a line in the log, if there is no bus. If another process
+    /// has the name, the event loop later ends with exit status 1, also with a line in the log.
     [[nodiscard]] bool start();
 
-    /// Gives the name away, answers all that were sent before, and ends the event loop. What is sent once the
-    /// name is free the bus gives to the next service.
-    void leave();
+    /// Releases the name, answers all requests sent before that, and ends the event loop. The bus passes
+    /// later requests to the next service.
+    void stop();
 
 private Q_SLOTS:
-    void leaveAtOnce();
+    void exitWithoutBus();
 
 private:
     void receive(const ReceivedRequest &request);
     void finish(const ReceivedRequest &request, const ReceivedRequest::Outcome &outcome);
-    void noteEndOfRequest();
-    void askForName();
-    void whenAnswered(const QDBusMessage &call, const std::function<void(const QDBusMessage &)> &take);
+    void requestName();
+    void callAsync(const QDBusMessage &call, const std::function<void(const QDBusMessage &)> &takeReply);
     void quit();
 
     QDBusConnection m_bus;
-    ServiceObject m_object; ///< outlives the requests, which answer through it
+    ServiceObject m_object; ///< outlives the requests, which reply through it
     RulesSource m_rules;
     WorkerPool m_pool;
     QTimer m_idleTimer;
-    double m_columnInForce = 0; ///< points; of the request before, whichever worker counts it
+    double m_columnInForce = 0; ///< points; of the previous request, whichever worker counts it
     size_t m_openRequests = 0;
-    bool m_isLeaving = false;
-    bool m_hasGivenNameAway = false;
+    bool m_isStopping = false;
+    bool m_hasReleasedName = false;
 };

@@ -10,8 +10,9 @@
 RulesSource::RulesSource()
 {
     m_onThread.moveToThread(&m_thread);
-    connect(this, &RulesSource::wanted, &m_onThread, [this] { Q_EMIT taken(take()); });
-    connect(this, &RulesSource::taken, this, &RulesSource::hand, Qt::QueuedConnection);
+    connect(
+        this, &RulesSource::snapshotRequested, &m_onThread, [this] { Q_EMIT snapshotTaken(takeSnapshot()); });
+    connect(this, &RulesSource::snapshotTaken, this, &RulesSource::deliver, Qt::QueuedConnection);
     m_thread.setObjectName(QStringLiteral("rules"));
     m_thread.start();
 }
@@ -22,27 +23,27 @@ RulesSource::~RulesSource()
     m_thread.wait();
 }
 
-void RulesSource::ask(const Receiver &receiver)
+void RulesSource::requestSnapshot(const Receiver &receiver)
 {
     m_waiting.push_back(receiver);
     if (!m_isTaking)
-        takeNext();
+        startNext();
 }
 
-void RulesSource::takeNext()
+void RulesSource::startNext()
 {
     m_isTaking = true;
-    m_served = std::exchange(m_waiting, {});
-    Q_EMIT wanted();
+    m_current = std::exchange(m_waiting, {});
+    Q_EMIT snapshotRequested();
 }
 
-RulesSource::Snapshot RulesSource::take()
+RulesSource::Snapshot RulesSource::takeSnapshot()
 {
     Snapshot snapshot;
     snapshot.fontGeneration = m_fonts.generation();
-    // Workers may write nothing: the list of the fonts is cached here, or each of them would read them all.
+    // Fills the font cache: workers cannot write it, and each of them would read all fonts otherwise.
     if (std::exchange(m_generation, snapshot.fontGeneration) != snapshot.fontGeneration)
-        const FontCatalogue listed;
+        const FontCatalogue catalogue;
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
     const CountingRules rules = currentCountingRules();
     snapshot.rules = {.localeName = rules.text.localeIdentifier().toUtf8(),
@@ -52,12 +53,12 @@ RulesSource::Snapshot RulesSource::take()
     return snapshot;
 }
 
-void RulesSource::hand(const Snapshot &snapshot)
+void RulesSource::deliver(const Snapshot &snapshot)
 {
     m_isTaking = false;
-    const std::vector<Receiver> served = std::exchange(m_served, {});
+    const std::vector<Receiver> receivers = std::exchange(m_current, {});
     if (!m_waiting.empty())
-        takeNext();
-    for (const Receiver &receiver : served)
+        startNext();
+    for (const Receiver &receiver : receivers)
         receiver(snapshot);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// RulesSource takes snapshots of what counts rest on: the preferences, the page, the fonts. The print server
-// may let it wait for a second, so it works on a thread of its own; the print settings, the measuring surface
-// and the preferences of the process belong to that thread.
+// RulesSource takes snapshots of what counts depend on: the preferences, the page, the fonts. It works on a
+// thread of its own, because the print server may take a second to answer; the print settings, the measuring
+// surface and the preferences of the process belong to that thread.
 // Thread: main.  Owner: CountingService.
 #pragma once
 
@@ -19,36 +19,36 @@ class RulesSource : public QObject {
 
 public:
     struct Snapshot {
-        RulesSnapshot rules; ///< with the broker's own locale
+        RulesSnapshot rules; ///< with the broker's locale
         quint64 fontGeneration = 0; ///< as of FontWatch
     };
     using Receiver = std::function<void(const Snapshot &)>;
 
     RulesSource();
-    /// Waits for a snapshot that is being taken, and tells nobody.
+    /// Waits for a snapshot in progress; calls no receiver any more.
     ~RulesSource() override;
 
-    /// Looks at the fonts alone, at once; to be called before the first snapshot is asked for.
+    /// As of FontWatch. Only before the first snapshot is requested.
     [[nodiscard]] quint64 fontGeneration() { return m_fonts.generation(); }
 
-    /// Later calls the receiver, on the thread of the caller, with a snapshot that was begun after this call.
-    /// All that wait for the same one are called in the order in which they asked.
-    void ask(const Receiver &receiver);
+    /// Calls the receiver later, on the calling thread, with a snapshot that was begun after this call.
+    /// Receivers are called in the order of the requests.
+    void requestSnapshot(const Receiver &receiver);
 
 Q_SIGNALS:
-    void wanted(); ///< for the thread
-    void taken(const RulesSource::Snapshot &snapshot); ///< for us
+    void snapshotRequested(); ///< to the thread
+    void snapshotTaken(const RulesSource::Snapshot &snapshot); ///< from the thread
 
 private:
-    void takeNext();
-    [[nodiscard]] Snapshot take();
-    void hand(const Snapshot &snapshot);
+    void startNext();
+    [[nodiscard]] Snapshot takeSnapshot();
+    void deliver(const Snapshot &snapshot);
 
     QThread m_thread;
     QObject m_onThread; ///< lives on the thread
-    FontWatch m_fonts; ///< the thread's, once it runs
-    quint64 m_generation = 0; ///< the thread's
+    FontWatch m_fonts; ///< used by the thread once it runs
+    quint64 m_generation = 0; ///< used by the thread
     bool m_isTaking = false;
-    std::vector<Receiver> m_served; ///< by the snapshot that is being taken
-    std::vector<Receiver> m_waiting; ///< for the next
+    std::vector<Receiver> m_current; ///< of the snapshot in progress
+    std::vector<Receiver> m_waiting; ///< for the next snapshot
 };

@@ -6,4 +6,8 @@
 #include "platform/logging/LogChannel.h"
 
 /// Subsystem "com.quillbay", category "counting-service"; the same object at every call.
-LogChannel &countingServiceLog();
+inline LogChannel &countingServiceLog()
+{
+    static LogChannel channel(QStringLiteral("com.quillbay"), QStringLiteral("counting-service"));
+    return channel;
+}

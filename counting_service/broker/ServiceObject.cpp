@@ -12,7 +12,7 @@ namespace {
 
 using Outcome = ReceivedRequest::Outcome;
 
-// A name that no locale has leaves the count without one, as such a name in LANG does.
+// As with LANG, an impossible name stands for the locale "C".
 std::optional<QByteArray> localeNameIn(const QVariantMap &options)
 {
     const QVariant value = options.value(QStringLiteral("locale"));
@@ -39,7 +39,7 @@ ServiceObject::ServiceObject(QDBusConnection bus, Receiver receiver)
     : m_bus(std::move(bus))
     , m_receiver(std::move(receiver))
 {
-    // Until then the bus's library does not know the type by its name.
+    // Qt finds the type of the slots' parameters by this name.
     qRegisterMetaType<QDBusUnixFileDescriptor>("QDBusUnixFileDescriptor");
     if (const QDBusConnectionInterface *const daemon = m_bus.interface())
         moveToThread(daemon->thread());
@@ -51,11 +51,11 @@ ServiceObject::~ServiceObject()
     QThread *const mainThread = QThread::currentThread();
     if (thread() == mainThread)
         return;
-    const auto comeBack = [this, mainThread] {
+    const auto moveBack = [this, mainThread] {
         m_replies.clear();
         moveToThread(mainThread);
     };
-    QMetaObject::invokeMethod(this, comeBack, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(this, moveBack, Qt::BlockingQueuedConnection);
 }
 
 bool ServiceObject::registerOnBus()
@@ -63,7 +63,7 @@ bool ServiceObject::registerOnBus()
     return m_bus.registerObject(path(), this, QDBusConnection::ExportScriptableSlots);
 }
 
-void ServiceObject::settle()
+void ServiceObject::flush()
 {
     if (thread() != QThread::currentThread())
         QMetaObject::invokeMethod(
@@ -100,18 +100,18 @@ void ServiceObject::receive(DocumentKind kind, const QDBusUnixFileDescriptor &pa
 {
     setDelayedReply(true);
     if (!message().isReplyRequired())
-        return; // nobody waits for the counts
+        return;
     const quint64 number = ++m_requests;
     m_replies.emplace(number, message().createReply());
-    const auto answer = [this, number](const Outcome &outcome) {
-        QMetaObject::invokeMethod(this, [this, number, outcome] { reply(number, outcome); });
+    const auto reply = [this, number](const Outcome &outcome) {
+        QMetaObject::invokeMethod(this, [this, number, outcome] { sendReply(number, outcome); });
     };
-    const ReceivedRequest request{kind, payload, length, absent, localeNameIn(options), answer};
+    const ReceivedRequest request{kind, payload, length, absent, localeNameIn(options), reply};
     QMetaObject::invokeMethod(
         &m_onMainThread, [this, request] { m_receiver(request); }, Qt::QueuedConnection);
 }
 
-void ServiceObject::reply(quint64 number, const Outcome &outcome)
+void ServiceObject::sendReply(quint64 number, const Outcome &outcome)
 {
     auto reply = m_replies.extract(number);
     reply.mapped().setArguments(argumentsOf(outcome ? outcome.value() : QBYWordCounterStats()));

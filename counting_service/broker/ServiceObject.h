@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-// ServiceObject is the counting service as the bus sees it: the interface of
-// docs/dbus/Brisklane.QBYServiceProviderXPC.xml. It turns a message into a request and an outcome into the
-// reply; how documents are counted is not its business.
-// Thread: lives on that on which Qt reads the bus, where messages come and end (BusLimits.h tells why); its
-// public functions, main.  Owner: CountingService.
+// ServiceObject is the counting service on the bus: the interface of
+// docs/dbus/Brisklane.QBYServiceProviderXPC.xml. It turns messages into requests and outcomes into replies;
+// the counting is left to CountingService.
+// Thread: that of Qt's bus connection (see BusLimits.h); public functions: main.  Owner: CountingService.
 #pragma once
 
 #include "counting_service/protocol/WorkerMessages.h"
@@ -18,7 +17,7 @@
 #include <functional>
 #include <map>
 
-/// One request, not yet looked into.
+/// A request as it was received; nothing about it has been checked.
 struct ReceivedRequest {
     using Outcome = Result<QBYWordCounterStats, CountFailure>;
 
@@ -26,8 +25,8 @@ struct ReceivedRequest {
     QDBusUnixFileDescriptor payload;
     quint64 length;
     bool isAbsent;
-    std::optional<QByteArray> localeName; ///< absent: the service's own
-    std::function<void(const Outcome &)> answer; ///< replies; to be called once, on the main thread
+    std::optional<QByteArray> localeName; ///< absent: use that of the service
+    std::function<void(const Outcome &)> reply; ///< to be called once, on the main thread
 };
 
 class ServiceObject : public QObject, protected QDBusContext {
@@ -43,18 +42,17 @@ public:
     ServiceObject(QDBusConnection bus, Receiver receiver);
     ServiceObject(const ServiceObject &) = delete;
     ServiceObject &operator=(const ServiceObject &) = delete;
-    /// Waits for the bus's thread to be done with it; requests without an answer get none.
+    /// Waits until the bus's thread no longer uses it; open requests get no reply.
     ~ServiceObject() override;
 
-    /// Puts it on the bus. Requests come once the service has its name.
+    /// Registers the object. Requests arrive once the service has its name.
     [[nodiscard]] bool registerOnBus();
 
-    /// Hands over every request that the bus's thread has read before, and waits until it has sent every
-    /// answer.
-    void settle();
+    /// Delivers every request that the bus's thread has read, and waits until it has sent every reply.
+    void flush();
 
 public Q_SLOTS:
-    // The counts are never set here: the reply follows when they are known.
+    // The counts are never set here: the reply is sent when they are known.
     // NOLINTBEGIN(readability-non-const-parameter)
     Q_SCRIPTABLE void countWordsForAttributedStringRTFDData(const QDBusUnixFileDescriptor &payload,
         qulonglong length, bool absent, const QVariantMap &options, qulonglong &numberOfWords,
@@ -71,11 +69,11 @@ public Q_SLOTS:
 private:
     void receive(DocumentKind kind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
         const QVariantMap &options);
-    void reply(quint64 number, const ReceivedRequest::Outcome &outcome);
+    void sendReply(quint64 number, const ReceivedRequest::Outcome &outcome);
 
     QDBusConnection m_bus;
     Receiver m_receiver;
-    QObject m_onMainThread; ///< where requests are handed over
-    std::map<quint64, QDBusMessage> m_replies; ///< each holds its request's message; of the bus's thread
-    quint64 m_requests = 0; ///< so far; of the bus's thread
+    QObject m_onMainThread; ///< receives requests
+    std::map<quint64, QDBusMessage> m_replies; ///< each holds its request's message; used by the bus's thread
+    quint64 m_requests = 0; ///< so far; used by the bus's thread
 };

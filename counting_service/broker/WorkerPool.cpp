@@ -16,29 +16,29 @@ using State = WorkerProcess::State;
 
 WorkerPool::WorkerPool(WorkerProgram program, int workers)
     : m_program(std::move(program))
-    , m_mostBusy(static_cast<size_t>(workers))
+    , m_maxBusy(static_cast<size_t>(workers))
 {
 }
 
 WorkerPool::~WorkerPool() = default;
 
-int WorkerPool::workersOfThisMachine()
+int WorkerPool::defaultWorkerCount()
 {
-    return std::clamp(QThread::idealThreadCount(), 1, mostWorkers);
+    return std::clamp(QThread::idealThreadCount(), 1, maxWorkers);
 }
 
 void WorkerPool::setFontGeneration(quint64 generation)
 {
     if (std::exchange(m_fontGeneration, generation) != generation)
-        arrange();
+        schedule();
 }
 
 void WorkerPool::add(CountJob job)
 {
-    if (m_failedStarts >= mostFailedStarts)
-        m_failedStarts = 0; // whatever was wrong may be over
+    if (m_failedStarts >= maxFailedStarts)
+        m_failedStarts = 0; // the cause may have disappeared
     m_queue.push_back(std::make_unique<CountJob>(std::move(job)));
-    arrange();
+    schedule();
 }
 
 std::vector<pid_t> WorkerPool::workers() const
@@ -53,9 +53,9 @@ std::vector<pid_t> WorkerPool::workers() const
 
 size_t WorkerPool::jobCount() const
 {
-    const auto atWork = std::count_if(
+    const auto busy = std::count_if(
         m_places.begin(), m_places.end(), [](const Place &place) { return place.job != nullptr; });
-    return m_queue.size() + static_cast<size_t>(atWork);
+    return m_queue.size() + static_cast<size_t>(busy);
 }
 
 size_t WorkerPool::countOf(State state) const
@@ -73,32 +73,32 @@ WorkerPool::Place &WorkerPool::placeOf(const WorkerProcess &worker)
 WorkerProcess::Callbacks WorkerPool::callbacks()
 {
     return {
-        .ready = [this](WorkerProcess &, const SandboxReport &sandbox) { welcome(sandbox); },
-        .answered = [this](WorkerProcess &worker,
+        .onReady = [this](WorkerProcess &, const SandboxReport &sandbox) { takeGreeting(sandbox); },
+        .onAnswer = [this](WorkerProcess &worker,
                         const CountJob::Outcome &outcome) { takeAnswer(worker, outcome); },
-        .ended = [this](WorkerProcess &worker, WorkerEnd end) { replace(worker, end); },
+        .onEnd = [this](WorkerProcess &worker, WorkerEnd end) { replace(worker, end); },
     };
 }
 
-void WorkerPool::arrange()
+void WorkerPool::schedule()
 {
     dismissOutdatedWorkers();
-    handOutJobs();
+    assignJobs();
     startWorkers();
 }
 
 void WorkerPool::dismissOutdatedWorkers()
 {
     for (const Place &place : m_places) {
-        const bool isAtWork = place.worker->state() == State::Busy;
-        if (place.fontGeneration != m_fontGeneration && !isAtWork)
+        const bool isBusy = place.worker->state() == State::Busy;
+        if (place.fontGeneration != m_fontGeneration && !isBusy)
             place.worker->end(WorkerEnd::Dismissed);
     }
 }
 
-void WorkerPool::handOutJobs()
+void WorkerPool::assignJobs()
 {
-    while (!m_queue.empty() && countOf(State::Busy) < m_mostBusy) {
+    while (!m_queue.empty() && countOf(State::Busy) < m_maxBusy) {
         Place *place = placeFor(*m_queue.front());
         if (!place)
             return;
@@ -106,21 +106,21 @@ void WorkerPool::handOutJobs()
         const bool isTaken = place->worker->count(
             job.kind, static_cast<quint64>(job.document.size()), job.rules, job.document.descriptor());
         if (!isTaken)
-            continue; // it has just ended, which is none of the document's doing
+            continue; // the worker has just ended, not because of the document
         place->job = std::move(m_queue.front());
         m_queue.pop_front();
     }
 }
 
-// A document over which a worker has ended gets a fresh one, since what the worker had counted before may
-// have had its part in it.
+// After a failure a document gets a worker that has counted nothing yet, because an earlier document may have
+// damaged the old one.
 WorkerPool::Place *WorkerPool::placeFor(const CountJob &job)
 {
     Place *used = nullptr;
     for (Place &place : m_places) {
         if (place.worker->state() != State::Idle)
             continue;
-        if (job.failures == 0 || !place.worker->hasWorked())
+        if (job.failures == 0 || !place.worker->hasCounted())
             return &place;
         used = &place;
     }
@@ -131,42 +131,43 @@ WorkerPool::Place *WorkerPool::placeFor(const CountJob &job)
 
 void WorkerPool::startWorkers()
 {
-    size_t living = m_places.size() - countOf(State::Ending);
-    while (living < wantedWorkers() && m_failedStarts < mostFailedStarts) {
+    size_t running = m_places.size() - countOf(State::Ending);
+    while (running < wantedWorkers() && m_failedStarts < maxFailedStarts) {
         if (std::unique_ptr<WorkerProcess> worker = WorkerProcess::start(m_program, callbacks())) {
             m_places.push_back({std::move(worker), m_fontGeneration});
-            ++living;
+            ++running;
         } else {
-            noteFailedStart();
+            countFailedStart();
         }
     }
 }
 
-// One for each document that may be counted now, and a spare one. That one waits until the first answer is
-// out: before, it would only hinder the worker that others wait for.
+// One for each document that can be counted now, and a spare one. The spare one is started after the first
+// answer, so that it does not slow that down.
 size_t WorkerPool::wantedWorkers() const
 {
-    const size_t needed = std::min(jobCount(), m_mostBusy);
+    const size_t needed = std::min(jobCount(), m_maxBusy);
     return m_hasAnswered ? needed + 1 : std::max<size_t>(needed, 1);
 }
 
-void WorkerPool::noteFailedStart()
+void WorkerPool::countFailedStart()
 {
-    if (++m_failedStarts < mostFailedStarts)
+    if (++m_failedStarts < maxFailedStarts)
         return;
-    countingServiceLog().error(u"No worker stays alive until it has counted something");
-    const auto given = std::exchange(m_queue, {});
-    for (const std::unique_ptr<CountJob> &job : given)
+    countingServiceLog().error(
+        u"Workers keep ending before their first count; giving up until the next document");
+    const auto jobs = std::exchange(m_queue, {});
+    for (const std::unique_ptr<CountJob> &job : jobs)
         job->answer(CountFailure(CountFailure::Cause::NoWorker));
 }
 
-void WorkerPool::welcome(const SandboxReport &sandbox)
+void WorkerPool::takeGreeting(const SandboxReport &sandbox)
 {
     if (!m_queue.empty())
         m_failedStarts = 0;
     if (std::exchange(m_sandbox, sandbox) != sandbox)
-        countingServiceLog().info(u"The workers' sandbox: {}", {publicly(sandboxDescription(sandbox))});
-    arrange();
+        countingServiceLog().info(u"Sandbox of the workers: {}", {publicly(sandboxDescription(sandbox))});
+    schedule();
 }
 
 void WorkerPool::takeAnswer(WorkerProcess &worker, const CountJob::Outcome &outcome)
@@ -174,9 +175,9 @@ void WorkerPool::takeAnswer(WorkerProcess &worker, const CountJob::Outcome &outc
     m_hasAnswered = true;
     m_failedStarts = 0;
     const std::unique_ptr<CountJob> job = std::move(placeOf(worker).job);
-    if (job->document.size() > largestWithoutReplacement)
+    if (job->document.size() > maxSizeWithoutReplacement)
         worker.end(WorkerEnd::Dismissed);
-    arrange();
+    schedule();
     job->answer(outcome);
 }
 
@@ -184,23 +185,23 @@ void WorkerPool::replace(WorkerProcess &worker, WorkerEnd end)
 {
     Place &place = placeOf(worker);
     std::unique_ptr<CountJob> job = std::move(place.job);
-    const bool isFailedStart = !worker.hasWorked() && end != WorkerEnd::Dismissed;
-    place.worker.release()->deleteLater(); // it is its own function that called
+    const bool isFailedStart = !worker.hasCounted() && end != WorkerEnd::Dismissed;
+    place.worker.release()->deleteLater(); // called from one of its own functions
     m_places.erase(m_places.begin() + (&place - m_places.data()));
     if (isFailedStart)
-        noteFailedStart();
+        countFailedStart();
     if (job)
-        tryAgain(std::move(job), end);
-    arrange();
+        retry(std::move(job), end);
+    schedule();
 }
 
-void WorkerPool::tryAgain(std::unique_ptr<CountJob> job, WorkerEnd end)
+void WorkerPool::retry(std::unique_ptr<CountJob> job, WorkerEnd end)
 {
     if (end == WorkerEnd::KilledFromOutside)
         ++job->interruptions;
     else
         ++job->failures;
-    if (job->failures < mostFailures && job->interruptions < mostInterruptions)
+    if (job->failures < maxFailures && job->interruptions < maxInterruptions)
         m_queue.push_front(std::move(job));
     else
         job->answer(CountFailure(CountFailure::Cause::WorkerFailed));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// WorkerPool gets documents counted: it keeps them in a queue, hands each to a worker, starts workers and
-// replaces them. Every document gets its counts or the cause of why it has none, once, whatever becomes of
-// the workers.
+// WorkerPool has documents counted: it queues them, gives each to a worker, and starts and replaces workers.
+// Each document gets its counts or the cause of the failure exactly once, even if workers fail.
 // Thread: main.  Owner: CountingService.
 #pragma once
 
@@ -14,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-/// A document that waits for its counts.
+/// A document to count.
 struct CountJob {
     using Outcome = Result<QBYWordCounterStats, CountFailure>;
 
@@ -22,70 +21,67 @@ struct CountJob {
     SealedMemory document;
     RulesSnapshot rules;
     std::function<void(const Outcome &)> answer; ///< called once
-    int failures = 0; ///< workers that ended over it
-    int interruptions = 0; ///< workers that were killed from outside meanwhile
+    int failures = 0; ///< workers that failed while counting it
+    int interruptions = 0; ///< workers that were killed from outside while counting it
 };
 
 class WorkerPool : public QObject {
 public:
-    /// Workers that count at the same time: one for each processor, but no more than these.
-    static constexpr int mostWorkers = 4;
-    /// A document is given up when so many workers have ended over it.
-    static constexpr int mostFailures = 2;
-    /// Or have been killed from outside, which says nothing about it but may be the system's way to get back
-    /// the memory that it takes.
-    static constexpr int mostInterruptions = 5;
-    /// When so many workers in a row have ended before they counted anything, all that wait are given up, and
-    /// no worker is started until the next document comes.
-    static constexpr int mostFailedStarts = 8;
-    /// Bytes; a worker that has counted a larger document is replaced, which gives its memory back.
-    static constexpr qsizetype largestWithoutReplacement = 32 * 1024 * 1024;
+    /// Workers that count at the same time: one for each processor, up to this number.
+    static constexpr int maxWorkers = 4;
+    /// A document is given up after this number of failures.
+    static constexpr int maxFailures = 2;
+    /// A document is also given up after this number of interruptions. A few are no fault of the document;
+    /// many may mean that the system kills workers to free the memory that it takes.
+    static constexpr int maxInterruptions = 5;
+    /// After this number of workers in a row that end before their first count, all queued documents are
+    /// given up, and no worker is started until the next document arrives.
+    static constexpr int maxFailedStarts = 8;
+    /// Bytes; a worker that has counted a larger document is replaced to release its memory.
+    static constexpr qsizetype maxSizeWithoutReplacement = 32 * 1024 * 1024;
 
-    /// workers: how many count at the same time, 1 or more.
+    /// workers: how many may count at the same time; 1 or more.
     WorkerPool(WorkerProgram program, int workers);
     ~WorkerPool() override;
 
-    static int workersOfThisMachine();
+    static int defaultWorkerCount();
 
-    /// Makes sure that a worker is getting ready.
-    void warmUp() { arrange(); }
-
-    /// A worker that was started under another generation of fonts counts nothing more.
+    /// Replaces the workers that were started with another generation of fonts; busy ones finish first. A new
+    /// generation also starts a worker if there is none.
     void setFontGeneration(quint64 generation);
 
     void add(CountJob job);
 
-    /// In the queue and with workers.
-    [[nodiscard]] size_t jobCount() const;
-    /// Those that have not ended.
+    /// The workers that have not ended.
     [[nodiscard]] std::vector<pid_t> workers() const;
 
 private:
     struct Place {
         std::unique_ptr<WorkerProcess> worker;
         quint64 fontGeneration;
-        std::unique_ptr<CountJob> job{}; ///< null while it counts nothing
+        std::unique_ptr<CountJob> job{}; ///< null unless the worker is busy
     };
 
     [[nodiscard]] size_t countOf(WorkerProcess::State state) const;
+    [[nodiscard]] size_t jobCount() const; ///< in the queue and with workers
     [[nodiscard]] Place &placeOf(const WorkerProcess &worker);
     [[nodiscard]] WorkerProcess::Callbacks callbacks();
 
-    void arrange();
+    void schedule();
     void dismissOutdatedWorkers();
-    void handOutJobs();
+    void assignJobs();
     [[nodiscard]] Place *placeFor(const CountJob &job);
     void startWorkers();
     [[nodiscard]] size_t wantedWorkers() const;
-    void noteFailedStart();
+    void countFailedStart();
 
-    void welcome(const SandboxReport &sandbox);
+    void takeGreeting(const SandboxReport &sandbox);
     void takeAnswer(WorkerProcess &worker, const CountJob::Outcome &outcome);
     void replace(WorkerProcess &worker, WorkerEnd end);
-    void tryAgain(std::unique_ptr<CountJob> job, WorkerEnd end);
+    void retry(std::unique_ptr<CountJob> job, WorkerEnd end);
 
     const WorkerProgram m_program;
-    const size_t m_mostBusy;
+    const size_t m_maxBusy;
     quint64 m_fontGeneration = 0;
     std::vector<Place> m_places;
     std::deque<std::unique_ptr<CountJob>> m_queue;

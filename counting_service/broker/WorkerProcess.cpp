@@ -2,9 +2,13 @@
 #include "counting_service/broker/WorkerProcess.h"
 
 #include "counting_service/broker/ServiceLog.h"
-#include "counting_service/broker/WorkerLaunch.h"
+#include "counting_service/worker/CountingWorker.h"
+#include "platform/system/Processes.h"
 #include "platform/system/SystemError.h"
 
+#include <fcntl.h>
+
+#include <cerrno>
 #include <csignal>
 #include <ctime>
 #include <sys/resource.h>
@@ -18,23 +22,23 @@ namespace {
 constexpr qint64 mebibyte = 1 << 20;
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of addresses
+constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of address space
 #else
 constexpr bool isMemoryLimited = true;
 #endif
-/// Bytes of addresses: the program, its libraries, all fonts of a machine, a heap for each thread.
-constexpr quint64 memoryOfAWorker = quint64(4096) * mebibyte;
-/// Of each byte of a document, as text, attributes, lines, and all of them once more while they grow.
+/// Bytes of address space for the program, its libraries, all fonts of a machine, and a heap for each thread.
+constexpr quint64 baseMemory = quint64(4096) * mebibyte;
+/// Bytes for each byte of a document: text, attributes, lines, and a copy of them while they grow.
 constexpr quint64 memoryPerByte = 24;
 
-bool isFromOutside(int signal)
+bool isSentFromOutside(int signal)
 {
     return signal == SIGKILL || signal == SIGTERM || signal == SIGHUP || signal == SIGINT;
 }
 
 void limit(pid_t process, __rlimit_resource resource, quint64 value)
 {
-    // The hard limit stays: it could never be raised again for the next document.
+    // Only the soft limit: a lowered hard limit could not be raised again for the next document.
     rlimit old = {};
     if (::prlimit(process, resource, nullptr, &old) != 0)
         return;
@@ -42,13 +46,37 @@ void limit(pid_t process, __rlimit_resource resource, quint64 value)
     ::prlimit(process, resource, &wanted, nullptr);
 }
 
-quint64 secondsUsed(pid_t process)
+quint64 processorSeconds(pid_t process)
 {
     clockid_t clock = 0;
     timespec used = {};
     if (::clock_getcpuclockid(process, &clock) != 0 || ::clock_gettime(clock, &used) != 0)
         return 0;
     return static_cast<quint64>(used.tv_sec);
+}
+
+struct LaunchedWorker {
+    LaunchedChild child;
+    OwnedDescriptor socket; ///< the broker's end
+};
+
+/// The worker inherits only standard error, for the log, and its end of the connection. Absent if the system
+/// cannot start it; errno says why.
+std::optional<LaunchedWorker> launchWorker(const WorkerProgram &program)
+{
+    auto sockets = makeSocketPair();
+    if (!sockets)
+        return std::nullopt;
+    ChildFiles files;
+    files.open(STDIN_FILENO, "/dev/null", O_RDONLY)
+        .duplicate(STDERR_FILENO, STDOUT_FILENO)
+        .duplicate(sockets->second.get(), CountingWorker::socket)
+        .closeFrom(CountingWorker::socket + 1);
+    std::optional<LaunchedChild> child =
+        launchChild(program.path, QByteArrayList{program_invocation_name} + program.arguments, files);
+    if (!child)
+        return std::nullopt;
+    return LaunchedWorker{std::move(*child), std::move(sockets->first)};
 }
 
 } // namespace
@@ -62,28 +90,28 @@ QString causeText(WorkerEnd end)
         return QStringLiteral("was killed from outside");
     case WorkerEnd::Crashed:
         return QStringLiteral("crashed");
-    case WorkerEnd::Left:
-        return QStringLiteral("left");
-    case WorkerEnd::TooSlow:
-        return QStringLiteral("took too long");
-    case WorkerEnd::SpokeNonsense:
-        return QStringLiteral("sent what it was not asked for");
+    case WorkerEnd::Exited:
+        return QStringLiteral("exited");
+    case WorkerEnd::TimedOut:
+        return QStringLiteral("timed out");
+    case WorkerEnd::SentGarbage:
+        return QStringLiteral("sent an invalid message");
     case WorkerEnd::OutOfMemory:
         return QStringLiteral("ran out of memory");
     }
     return QStringLiteral("ended");
 }
 
-std::chrono::milliseconds WorkerProgram::countLimitFor(quint64 length) const
+std::chrono::milliseconds WorkerProgram::timeoutFor(quint64 length) const
 {
-    return countLimit + countLimitPerMebibyte * static_cast<qint64>(length) / mebibyte;
+    return baseTimeout + timeoutPerMebibyte * static_cast<qint64>(length) / mebibyte;
 }
 
 std::unique_ptr<WorkerProcess> WorkerProcess::start(const WorkerProgram &program, Callbacks callbacks)
 {
-    std::optional<LaunchedWorker> worker = launchWorker(program.path, program.arguments);
+    std::optional<LaunchedWorker> worker = launchWorker(program);
     if (!worker) {
-        countingServiceLog().error(u"A worker cannot be started: {}", {publicly(systemErrorText(errno))});
+        countingServiceLog().error(u"Cannot start a worker: {}", {publicly(systemErrorText(errno))});
         return nullptr;
     }
     return std::unique_ptr<WorkerProcess>(new WorkerProcess(program, std::move(callbacks),
@@ -100,12 +128,12 @@ WorkerProcess::WorkerProcess(WorkerProgram program, Callbacks callbacks, pid_t p
     , m_processNotifier(m_processFile.get(), QSocketNotifier::Read)
     , m_socketNotifier(m_socket.get(), QSocketNotifier::Read)
 {
-    connect(&m_processNotifier, &QSocketNotifier::activated, this, [this] { collect(); });
+    connect(&m_processNotifier, &QSocketNotifier::activated, this, [this] { reap(); });
     connect(&m_socketNotifier, &QSocketNotifier::activated, this, [this] { readPackets(); });
-    connect(&m_timer, &QTimer::timeout, this, [this] { end(WorkerEnd::TooSlow); });
+    connect(&m_timer, &QTimer::timeout, this, [this] { end(WorkerEnd::TimedOut); });
     m_timer.setSingleShot(true);
-    limitResources(0, m_program.startLimit);
-    m_timer.start(m_program.startLimit);
+    limitResources(0, m_program.startTimeout);
+    m_timer.start(m_program.startTimeout);
 }
 
 WorkerProcess::~WorkerProcess()
@@ -118,8 +146,8 @@ WorkerProcess::~WorkerProcess()
 
 bool WorkerProcess::count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
 {
-    const std::chrono::milliseconds time = m_program.countLimitFor(length);
-    limitResources(length, time);
+    const std::chrono::milliseconds timeout = m_program.timeoutFor(length);
+    limitResources(length, timeout);
     const WorkerRequest request{m_requests + 1, kind, length, rules};
     if (!sendPacket(m_socket.get(), encode(request), descriptor)) {
         end(WorkerEnd::KilledFromOutside);
@@ -127,7 +155,7 @@ bool WorkerProcess::count(DocumentKind kind, quint64 length, const RulesSnapshot
     }
     m_state = State::Busy;
     ++m_requests;
-    m_timer.start(time);
+    m_timer.start(timeout);
     return true;
 }
 
@@ -142,56 +170,56 @@ void WorkerProcess::end(WorkerEnd reason)
     ::kill(m_process, SIGKILL);
 }
 
-void WorkerProcess::limitResources(quint64 length, std::chrono::milliseconds time) const
+void WorkerProcess::limitResources(quint64 length, std::chrono::milliseconds timeout) const
 {
     if (isMemoryLimited)
-        limit(m_process, RLIMIT_AS, memoryOfAWorker + memoryPerByte * length);
-    const auto seconds = static_cast<quint64>(std::chrono::ceil<std::chrono::seconds>(time).count());
-    limit(m_process, RLIMIT_CPU, secondsUsed(m_process) + seconds + 1);
+        limit(m_process, RLIMIT_AS, baseMemory + memoryPerByte * length);
+    const auto seconds = static_cast<quint64>(std::chrono::ceil<std::chrono::seconds>(timeout).count());
+    limit(m_process, RLIMIT_CPU, processorSeconds(m_process) + seconds + 1);
 }
 
 void WorkerProcess::readPackets()
 {
     while (m_state != State::Ending) {
-        const Result<Packet, PacketError> packet = receivePacketWithoutWaiting(m_socket.get());
+        const Result<Packet, PacketError> packet = tryReceivePacket(m_socket.get());
         if (packet) {
-            take(packet.value().message);
+            takeMessage(packet.value().message);
         } else if (packet.error() == PacketError::Closed) {
-            // It is ending, and how it does says why; one that only hung up ends now.
+            // A worker that is ending is reaped with its status; one that only closed its socket is killed.
             m_socketNotifier.setEnabled(false);
             ::kill(m_process, SIGKILL);
             return;
-        } else if (packet.error() == PacketError::NothingYet) {
+        } else if (packet.error() == PacketError::WouldBlock) {
             return;
         } else {
-            end(WorkerEnd::SpokeNonsense);
+            end(WorkerEnd::SentGarbage);
         }
     }
 }
 
-void WorkerProcess::take(const QByteArray &message)
+void WorkerProcess::takeMessage(const QByteArray &message)
 {
     if (m_state == State::Starting) {
         const std::optional<WorkerGreeting> greeting = decodeGreeting(message);
         if (!greeting)
-            return end(WorkerEnd::SpokeNonsense);
+            return end(WorkerEnd::SentGarbage);
         m_timer.stop();
         m_state = State::Idle;
-        return m_callbacks.ready(*this, greeting->sandbox);
+        return m_callbacks.onReady(*this, greeting->sandbox);
     }
     const std::optional<WorkerReply> reply = decodeReply(message);
     if (m_state != State::Busy || !reply || reply->number != m_requests)
-        return end(WorkerEnd::SpokeNonsense);
+        return end(WorkerEnd::SentGarbage);
     if (!reply->counts && reply->counts.error().isOutOfMemory())
         return end(WorkerEnd::OutOfMemory);
     m_timer.stop();
     m_state = State::Idle;
-    m_callbacks.answered(*this, reply->counts);
+    m_callbacks.onAnswer(*this, reply->counts);
 }
 
-void WorkerProcess::collect()
+void WorkerProcess::reap()
 {
-    readPackets(); // its last words
+    readPackets(); // messages sent before it ended
     int status = 0;
     if (m_process == 0 || ::waitpid(m_process, &status, WNOHANG) != m_process)
         return;
@@ -200,14 +228,13 @@ void WorkerProcess::collect()
     m_timer.stop();
     m_processNotifier.setEnabled(false);
     m_socketNotifier.setEnabled(false);
-    WorkerEnd end = WorkerEnd::Left;
+    WorkerEnd end = WorkerEnd::Exited;
     if (m_reason)
         end = *m_reason;
     else if (WIFSIGNALED(status))
-        end = isFromOutside(WTERMSIG(status)) ? WorkerEnd::KilledFromOutside : WorkerEnd::Crashed;
+        end = isSentFromOutside(WTERMSIG(status)) ? WorkerEnd::KilledFromOutside : WorkerEnd::Crashed;
     if (end != WorkerEnd::Dismissed) {
-        countingServiceLog().notice(
-            u"A worker {}; its wait status is {}", {publicly(causeText(end)), status});
+        countingServiceLog().notice(u"A worker {} (wait status {})", {publicly(causeText(end)), status});
     }
-    m_callbacks.ended(*this, end);
+    m_callbacks.onEnd(*this, end);
 }

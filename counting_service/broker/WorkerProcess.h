@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// WorkerProcess is one worker as the broker sees it: a child that is started, greets, counts one document at
-// a time, and ends, by itself or because it is ended. What to do then is WorkerPool's to decide. The broker
-// believes a worker nothing but the numbers that it asked for.
+// WorkerProcess is one worker as the broker sees it: a child process that starts, greets, counts one document
+// at a time, and ends by itself or is ended. WorkerPool decides what happens next. The broker trusts nothing
+// that a worker sends but the counts that it asked for.
 // Thread: main, which must be the thread that started the process.  Owner: WorkerPool.
 #pragma once
 
@@ -20,30 +20,30 @@
 #include <memory>
 #include <optional>
 
-/// The program that workers are, and how long they may take.
+/// The program of the workers, and their timeouts.
 struct WorkerProgram {
     QByteArray path;
     QByteArrayList arguments; ///< without the program's name
-    std::chrono::milliseconds startLimit = std::chrono::minutes(1); ///< from the start to the greeting
-    std::chrono::milliseconds countLimit = std::chrono::seconds(5); ///< of an empty document
-    std::chrono::milliseconds countLimitPerMebibyte = std::chrono::seconds(30); ///< for each of a document's
+    std::chrono::milliseconds startTimeout = std::chrono::minutes(1); ///< from the start to the greeting
+    std::chrono::milliseconds baseTimeout = std::chrono::seconds(5); ///< for an empty document
+    std::chrono::milliseconds timeoutPerMebibyte = std::chrono::seconds(30); ///< in addition
 
     /// length: of a document, in bytes.
-    [[nodiscard]] std::chrono::milliseconds countLimitFor(quint64 length) const;
+    [[nodiscard]] std::chrono::milliseconds timeoutFor(quint64 length) const;
 };
 
-/// Why a worker is no more.
+/// Why a worker has ended.
 enum class WorkerEnd {
-    Dismissed, ///< it was not needed any more
-    KilledFromOutside, ///< by a signal that says nothing about what it was doing
+    Dismissed, ///< no longer needed
+    KilledFromOutside, ///< by a signal that says nothing about its work
     Crashed,
-    Left, ///< by itself
-    TooSlow,
-    SpokeNonsense,
-    OutOfMemory, ///< as it said itself
+    Exited, ///< by itself
+    TimedOut,
+    SentGarbage,
+    OutOfMemory, ///< as reported by the worker
 };
 
-/// In English, to stand behind "A worker ".
+/// In English, for use after "A worker ".
 QString causeText(WorkerEnd end);
 
 class WorkerProcess : public QObject {
@@ -51,41 +51,40 @@ public:
     enum class State { Starting, Idle, Busy, Ending };
 
     struct Callbacks {
-        std::function<void(WorkerProcess &, const SandboxReport &)> ready; ///< Starting became Idle
+        std::function<void(WorkerProcess &, const SandboxReport &)> onReady; ///< Starting became Idle
         std::function<void(WorkerProcess &, const Result<QBYWordCounterStats, CountFailure> &)>
-            answered; ///< Busy became Idle
-        std::function<void(WorkerProcess &, WorkerEnd)>
-            ended; ///< the last word; it may be deleted later then
+            onAnswer; ///< Busy became Idle
+        std::function<void(WorkerProcess &, WorkerEnd)> onEnd; ///< called last; may only use deleteLater()
     };
 
-    /// Null, with a line in the log, where the system cannot start it.
+    /// Null, with a line in the log, if the process cannot be started.
     static std::unique_ptr<WorkerProcess> start(const WorkerProgram &program, Callbacks callbacks);
-    /// Kills it and waits for its end, where it has not come yet.
+    /// Kills the process and waits for it, unless it has ended.
     ~WorkerProcess() override;
 
     [[nodiscard]] State state() const { return m_state; }
-    [[nodiscard]] bool hasWorked() const { return m_requests > 0; }
+    [[nodiscard]] bool hasCounted() const { return m_requests > 0; }
     [[nodiscard]] pid_t processIdentifier() const { return m_process; }
 
-    /// Only while Idle. The descriptor stays the caller's. False where the worker is no more; ended()
+    /// Only while Idle. Does not take over the descriptor. False if the worker has just ended; onEnd()
     /// follows.
     [[nodiscard]] bool count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor);
 
-    /// Ends it now, whatever it does; ended() follows.
+    /// Kills the process; onEnd() follows.
     void end(WorkerEnd reason);
 
 private:
     WorkerProcess(WorkerProgram program, Callbacks callbacks, pid_t process, OwnedDescriptor processFile,
         OwnedDescriptor socket);
 
-    void limitResources(quint64 length, std::chrono::milliseconds time) const;
+    void limitResources(quint64 length, std::chrono::milliseconds timeout) const;
     void readPackets();
-    void take(const QByteArray &message);
-    void collect();
+    void takeMessage(const QByteArray &message);
+    void reap();
 
     const WorkerProgram m_program;
     const Callbacks m_callbacks;
-    pid_t m_process; ///< 0 once it is collected
+    pid_t m_process; ///< 0 once it has been reaped
     OwnedDescriptor m_processFile;
     OwnedDescriptor m_socket;
     QSocketNotifier m_processNotifier;

@@ -13,11 +13,11 @@
 
 namespace {
 
-// More than one, so that a second one is seen, and closed.
-constexpr size_t mostDescriptors = 4;
+// More than one, so that a surplus descriptor is noticed and closed.
+constexpr size_t maxDescriptors = 4;
 
 struct ControlSpace {
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(mostDescriptors * sizeof(int))> bytes{};
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(maxDescriptors * sizeof(int))> bytes{};
 };
 
 std::vector<OwnedDescriptor> descriptorsOf(msghdr &header)
@@ -51,12 +51,12 @@ Result<Packet, PacketError> receive(int socket, int flags)
         length = ::recvmsg(socket, &header, flags | MSG_CMSG_CLOEXEC);
     } while (length < 0 && errno == EINTR);
     if (length < 0 && (errno == EAGAIN || errno == EWOULDBLOCK))
-        return PacketError::NothingYet;
+        return PacketError::WouldBlock;
     if (length < 0)
         return errno == ECONNRESET ? PacketError::Closed : PacketError::SystemError;
     std::vector<OwnedDescriptor> descriptors = descriptorsOf(header);
     if (length == 0)
-        return PacketError::Closed; // nobody sends empty packets
+        return PacketError::Closed; // empty packets are never sent
     if ((header.msg_flags & (MSG_TRUNC | MSG_CTRUNC)) != 0 || descriptors.size() > 1)
         return PacketError::Garbage;
     Packet packet{QByteArray(buffer.data(), length), {}};
@@ -67,7 +67,7 @@ Result<Packet, PacketError> receive(int socket, int flags)
 
 } // namespace
 
-std::optional<std::pair<OwnedDescriptor, OwnedDescriptor>> connectedSockets()
+std::optional<std::pair<OwnedDescriptor, OwnedDescriptor>> makeSocketPair()
 {
     std::array<int, 2> ends{};
     if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0)
@@ -103,7 +103,7 @@ Result<Packet, PacketError> receivePacket(int socket)
     return receive(socket, 0);
 }
 
-Result<Packet, PacketError> receivePacketWithoutWaiting(int socket)
+Result<Packet, PacketError> tryReceivePacket(int socket)
 {
     return receive(socket, MSG_DONTWAIT);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Packets with a descriptor on a socket between two processes; what they say is WorkerMessages' business.
+// Packets on a socket between two processes, each with at most one file descriptor. WorkerMessages.h defines
+// their contents.
 // Thread: any, one at a time for each socket.
 #pragma once
 
@@ -13,22 +14,23 @@
 
 struct Packet {
     QByteArray message;
-    OwnedDescriptor descriptor; ///< none where none came with it
+    OwnedDescriptor descriptor; ///< invalid if the packet had none
 };
 
 enum class PacketError {
-    NothingYet, ///< on a socket that does not wait
-    Closed, ///< the other side is gone
-    Garbage, ///< longer than a message, or with more than a descriptor
-    SystemError, ///< errno tells it
+    WouldBlock, ///< no packet yet; only from tryReceivePacket()
+    Closed, ///< by the other side
+    Garbage, ///< longer than a message, or with several descriptors
+    SystemError, ///< see errno
 };
 
-/// Two ends of one connection, closed at exec; absent where the system has none left.
-std::optional<std::pair<OwnedDescriptor, OwnedDescriptor>> connectedSockets();
+/// The two ends of a connection, closed at exec; absent if the system has no descriptors left.
+std::optional<std::pair<OwnedDescriptor, OwnedDescriptor>> makeSocketPair();
 
-/// Whether the packet was taken over. descriptor: sent along; -1 for none.
+/// False if the packet could not be sent. descriptor: sent with the packet; -1 for none.
 [[nodiscard]] bool sendPacket(int socket, const QByteArray &message, int descriptor = -1);
 
-/// The next packet; waits for it where the socket does.
+/// Blocks until the next packet.
 Result<Packet, PacketError> receivePacket(int socket);
-Result<Packet, PacketError> receivePacketWithoutWaiting(int socket);
+/// Never blocks.
+Result<Packet, PacketError> tryReceivePacket(int socket);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Margins that leave no width leave the column of the count before in force: of the whole service, whichever
-// worker counts, and whatever it remembers.
+// Margins that leave no width keep the column of the previous count: that of the whole service, whichever
+// worker counts or remembers.
 #include "documents/rtfd/RtfdReader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/counting_service/CountingServiceTest.h"
@@ -31,7 +31,7 @@ protected:
         Preferences::setRightMarginForPaperSizeLineMeasuring(right);
     }
 
-    /// As the model counts it, which does so for the command.
+    /// The command counts with the model.
     [[nodiscard]] quint64 linesOfModel() const
     {
         m_model->setAttributedStringToCount(readFlatRtfd(m_document).value());
@@ -86,6 +86,6 @@ TEST_F(ColumnInForceTest, AFirstCountWithoutAColumnHasOneOfNoWidth)
     EXPECT_LT(linesOfService(), lines);
     setMargins(5, 5);
     EXPECT_LT(linesOfService(), lines);
-    killService(); // the next one has counted nothing yet
+    killService(); // the next service has counted nothing yet
     EXPECT_EQ(linesOfService(), lines);
 }

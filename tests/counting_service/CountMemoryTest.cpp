@@ -17,7 +17,7 @@ WorkerRequest requestFor(QByteArrayView document)
 
 } // namespace
 
-TEST(CountMemory, KnowsADocumentThatComesAgain)
+TEST(CountMemory, RecognisesADocumentThatComesAgain)
 {
     CountMemory memory;
     WorkerRequest request = requestFor("text");
@@ -27,7 +27,7 @@ TEST(CountMemory, KnowsADocumentThatComesAgain)
     EXPECT_EQ(memory.countsOf(CountMemory::nameOf(request, "text")), counts);
 }
 
-TEST(CountMemory, TakesNoOtherDocumentForIt)
+TEST(CountMemory, DoesNotConfuseDocuments)
 {
     const WorkerRequest request = requestFor("text");
     CountMemory memory;
@@ -37,7 +37,7 @@ TEST(CountMemory, TakesNoOtherDocumentForIt)
     EXPECT_FALSE(memory.countsOf(CountMemory::nameOf(requestFor(""), "")));
 }
 
-TEST(CountMemory, TakesNoCountUnderOtherRulesForIt)
+TEST(CountMemory, DoesNotConfuseRules)
 {
     const WorkerRequest request = requestFor("text");
     const QByteArray name = CountMemory::nameOf(request, "text");
@@ -56,7 +56,7 @@ TEST(CountMemory, TakesNoCountUnderOtherRulesForIt)
     EXPECT_NE(nameWith([](WorkerRequest &changed) { changed.rules.page.columnBefore = 400; }), name);
 }
 
-TEST(CountMemory, ForgetsWhatHasNotComeForTheLongestTime)
+TEST(CountMemory, ForgetsTheDocumentThatWasNotUsedForTheLongestTime)
 {
     CountMemory memory;
     const auto nameOf = [](qsizetype number) { return QByteArray::number(number); };
@@ -65,7 +65,7 @@ TEST(CountMemory, ForgetsWhatHasNotComeForTheLongestTime)
         EXPECT_TRUE(memory.countsOf(nameOf(0)));
         memory.remember(nameOf(number), counts);
     }
-    EXPECT_TRUE(memory.countsOf(nameOf(0))) << "it has come all the time";
+    EXPECT_TRUE(memory.countsOf(nameOf(0))) << "it was used all the time";
     EXPECT_FALSE(memory.countsOf(nameOf(1)));
     EXPECT_TRUE(memory.countsOf(nameOf(2)));
 }

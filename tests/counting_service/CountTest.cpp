@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the counting service counts.
+// The counts of the counting service, of every kind of document.
 #include "documents/loading/DocumentReader.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "preferences/QBYUserDefaultsController.h"
@@ -19,7 +19,7 @@ namespace {
 
 class CountTest : public CountingServiceTest {
 protected:
-    /// What the model counts in this process, under the preferences and with the fonts of the test.
+    /// The counts of the model in this process, with the preferences and fonts of the test.
     static QBYWordCounterStats countInProcess(const QByteArray &payload, const QString &locale)
     {
         const Result<AttributedString, DocumentError> text = readFlatRtfd(payload);
@@ -94,9 +94,9 @@ TEST_F(CountTest, LaysStyledTextOutInItsOwnFonts)
     EXPECT_NE(stats.numberOfLines, count(message(flatRtfd(styledText().string()))).numberOfLines);
 }
 
-TEST_F(CountTest, CountsUnderTheLocaleOfTheRequestWhateverThatOfTheBus)
+TEST_F(CountTest, CountsUnderTheLocaleOfTheRequest)
 {
-    // English alone leaves words of one letter out.
+    // Only English skips words of one letter.
     const QByteArray payload = flatRtfd(QStringLiteral("y e z a b. c d e f g h."));
     const quint64 inEnglish = count(message(payload, locale("en_US"))).numberOfWords;
     const quint64 elsewhere = count(message(payload, locale("de_DE"))).numberOfWords;
@@ -109,7 +109,7 @@ TEST_F(CountTest, CountsUnderTheLocaleOfTheRequestWhateverThatOfTheBus)
     EXPECT_EQ(count(message(payload, locale("de_DE"))), countInProcess(payload, QStringLiteral("de_DE")));
 }
 
-TEST_F(CountTest, CountsUnderItsOwnLocaleWhereTheRequestNamesNone)
+TEST_F(CountTest, CountsUnderItsOwnLocaleIfTheRequestNamesNone)
 {
     const QByteArray payload = flatRtfd(QStringLiteral("y e z a b."));
     const quint64 inEnglish = count(message(payload, locale("en_US"))).numberOfWords;
@@ -244,7 +244,7 @@ TEST_F(CountTest, ManyRequestsAtOnceGetTheirOwnCounts)
         EXPECT_EQ(counts[static_cast<size_t>(i)].value_or(zeros).numberOfWords, static_cast<quint64>(i));
 }
 
-// The bus shows what an object takes; the description of the interface says what it must.
+// The introspection of the live object against the file that describes the interface.
 TEST_F(CountTest, TheObjectHasTheDescribedInterface)
 {
     const auto argumentsIn = [](const QString &xml) {

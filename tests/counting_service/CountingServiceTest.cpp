@@ -23,7 +23,7 @@ QString newConnectionName()
     return QStringLiteral("client-%1").arg(++number);
 }
 
-std::optional<SeenProcess> look(pid_t process)
+std::optional<SeenProcess> readProcess(pid_t process)
 {
     QFile file(QStringLiteral("/proc/%1/stat").arg(process));
     if (process <= 0 || !file.open(QIODevice::ReadOnly))
@@ -54,7 +54,7 @@ std::vector<SeenProcess> childrenOf(pid_t process)
 {
     std::vector<SeenProcess> children;
     for (const QString &name : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
-        const std::optional<SeenProcess> seen = look(name.toInt());
+        const std::optional<SeenProcess> seen = readProcess(name.toInt());
         if (seen && seen->parent == process)
             children.push_back(*seen);
     }
@@ -63,7 +63,7 @@ std::vector<SeenProcess> childrenOf(pid_t process)
 
 bool isRunning(pid_t process)
 {
-    const std::optional<SeenProcess> seen = look(process);
+    const std::optional<SeenProcess> seen = readProcess(process);
     return seen && !seen->isZombie;
 }
 
@@ -81,7 +81,7 @@ CountingServiceTest::CountingServiceTest()
 
 CountingServiceTest::~CountingServiceTest()
 {
-    // One that leaves may have been replaced meanwhile.
+    // In a loop: the bus may have started another one.
     while (const pid_t process = service()) {
         ::kill(process, SIGKILL);
         EXPECT_TRUE(waitUntil([&] { return service() != process && !isRunning(process); }));
@@ -112,7 +112,7 @@ void CountingServiceTest::writeServiceFile(const QString &command) const
     EXPECT_TRUE(installed.open(QIODevice::WriteOnly));
     installed.write(file.toUtf8());
     installed.close();
-    // The bus itself looks at the times of the files, in seconds.
+    // Explicitly, as the bus compares modification times in seconds.
     m_bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("ReloadConfig")));
@@ -168,13 +168,13 @@ QBYWordCounterStats CountingServiceTest::count(const QDBusMessage &message) cons
 std::vector<std::optional<QBYWordCounterStats>> CountingServiceTest::countAll(
     const std::vector<QDBusMessage> &messages) const
 {
-    constexpr size_t mostAtOnce = 100;
+    constexpr size_t maxPending = 100;
     std::vector<std::optional<QBYWordCounterStats>> counts;
     std::deque<QDBusPendingCall> waiting;
     for (size_t i = 0; counts.size() < messages.size(); ++i) {
         if (i < messages.size())
             waiting.push_back(send(messages[i]));
-        if (waiting.size() < mostAtOnce && i < messages.size())
+        if (waiting.size() < maxPending && i < messages.size())
             continue;
         counts.push_back(statsOf(waiting.front()));
         waiting.pop_front();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// CountingServiceTest is the fixture of tests that talk to the real counting service on a private bus, as any
-// program would: the bus starts it by its service file.
+// CountingServiceTest is the fixture of tests that use the real counting service on a private bus, which
+// starts it by its service file.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include "platform/styled_text/AttributedString.h"
@@ -18,7 +19,7 @@
 #include <optional>
 #include <vector>
 
-/// The flat RTFD of a text; fails the test where none can be made.
+/// The flat RTFD of a text; fails the test if it cannot be written.
 QByteArray flatRtfd(const AttributedString &text);
 QByteArray flatRtfd(const QString &text);
 
@@ -29,7 +30,7 @@ struct SeenProcess {
     bool isZombie;
 };
 std::vector<SeenProcess> childrenOf(pid_t process);
-/// Neither gone nor a zombie.
+/// Neither ended nor a zombie.
 bool isRunning(pid_t process);
 qsizetype openDescriptors(pid_t process);
 
@@ -39,12 +40,12 @@ protected:
     static inline const QString docxRequest = QStringLiteral("countWordsForDocX");
 
     CountingServiceTest();
-    /// Ends the service, and waits until it is gone.
+    /// Kills the service and waits until it has ended.
     ~CountingServiceTest() override;
 
-    /// Writes the service file, from the one that is installed; arguments: further words of its Exec line.
+    /// Writes the service file from that of the package. arguments: appended to its Exec line.
     void installService(const QString &arguments = {}) const;
-    /// The same; the service may have no more than so many descriptors.
+    /// The same, with a limit on the descriptors of the service.
     void installServiceWithDescriptors(int limit) const;
 
     [[nodiscard]] QDBusMessage message(const QByteArray &payload, const QVariantMap &options = {}) const;
@@ -52,17 +53,17 @@ protected:
         bool absent = false, const QVariantMap &options = {}) const;
 
     [[nodiscard]] QDBusPendingCall send(const QDBusMessage &message) const;
-    /// Absent where an error came back, which does not fail the test.
+    /// Waits; absent after an error, which does not fail the test.
     static std::optional<QBYWordCounterStats> statsOf(QDBusPendingCall call);
     /// Sends and waits; an error fails the test.
     [[nodiscard]] QBYWordCounterStats count(const QDBusMessage &message) const;
 
-    /// Sends all of them, but lets no more wait at a time than the bus of the tests allows; the counts in the
-    /// order of the messages, absent for an error.
+    /// Sends all of them, with no more pending at a time than the bus of the tests allows. The counts are in
+    /// the order of the messages; absent after an error.
     [[nodiscard]] std::vector<std::optional<QBYWordCounterStats>> countAll(
         const std::vector<QDBusMessage> &messages) const;
 
-    /// The process that owns the service's name; 0 where nobody does.
+    /// The process that owns the service's name; 0 if there is none.
     [[nodiscard]] pid_t service() const { return serviceOn(m_bus); }
     [[nodiscard]] static pid_t serviceOn(const QDBusConnection &bus);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A service that may have few descriptors, and more requests at a time than fit.
+// More requests at a time than the service has descriptors for.
 #include "counting_service/broker/BusLimits.h"
 #include "tests/counting_service/CountingServiceTest.h"
 #include "tests/harness/PrivateBus.h"
@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(With, DescriptorLimitTest, ::testing::Values(64, 1024),
 
 } // namespace
 
-TEST_P(DescriptorLimitTest, AThousandRequestsThatStartTheServiceAreAllCountedAndItGoesWithItsBus)
+TEST_P(DescriptorLimitTest, CountsAThousandRequestsThatStartTheServiceAndExitsWithItsBus)
 {
     const std::vector<QDBusPendingCall> calls = sendRequests(20);
     EXPECT_EQ(countedOf(calls), 1000U);
@@ -62,7 +62,7 @@ TEST_P(DescriptorLimitTest, AThousandRequestsThatStartTheServiceAreAllCountedAnd
     EXPECT_TRUE(waitUntil([process] { return !isRunning(process); }));
 }
 
-TEST_P(DescriptorLimitTest, ARequestWithoutADocumentTakesNoRoomFromTheNext)
+TEST_P(DescriptorLimitTest, ARequestWithoutADocumentKeepsNoDescriptors)
 {
     const QDBusMessage absent = message(rtfdRequest, STDERR_FILENO, 0, true);
     const QDBusMessage wrong = message(QStringLiteral("count"), STDERR_FILENO, 0);
@@ -74,26 +74,26 @@ TEST_P(DescriptorLimitTest, ARequestWithoutADocumentTakesNoRoomFromTheNext)
     EXPECT_EQ(countedOf(sendRequests(2)), 100U);
 }
 
-TEST_P(DescriptorLimitTest, AServiceThatIsToldToEndAnswersWhatTheBusStillKeepsForIt)
+TEST_P(DescriptorLimitTest, ATerminatedServiceAnswersTheRequestsThatWaitInTheBus)
 {
     sendRequests(1).front().waitForFinished();
     const pid_t process = serviceOn(m_clients.front());
     const std::vector<QDBusPendingCall> calls = sendRequests(10);
-    ASSERT_EQ(serviceOn(m_clients.back()), process); // behind the requests
+    ASSERT_EQ(serviceOn(m_clients.back()), process); // answered after the requests were passed on
     ::kill(process, SIGTERM);
     EXPECT_EQ(countedOf(calls), 500U);
     EXPECT_TRUE(waitUntil([process] { return !isRunning(process); }));
 }
 
-TEST(DescriptorLimit, RequestsLeaveRoomForEverythingElse)
+TEST(DescriptorLimit, RequestsLeaveDescriptorsForEverythingElse)
 {
-    EXPECT_EQ(roomForRequests(1024), 256U);
-    EXPECT_EQ(roomForRequests(64), 8U);
-    EXPECT_EQ(roomForRequests(10), 1U);
-    EXPECT_EQ(roomForRequests(0), 1U);
-    EXPECT_LT(roomForRequests(RLIM_INFINITY), 1'000'000U);
+    EXPECT_EQ(maxRequestsFor(1024), 256U);
+    EXPECT_EQ(maxRequestsFor(64), 8U);
+    EXPECT_EQ(maxRequestsFor(10), 1U);
+    EXPECT_EQ(maxRequestsFor(0), 1U);
+    EXPECT_LT(maxRequestsFor(RLIM_INFINITY), 1'000'000U);
     for (rlim_t limit = 64; limit < 5000; ++limit) {
-        EXPECT_LE(3 * roomForRequests(limit) + 40, limit);
-        EXPECT_LE(roomForRequests(limit), roomForRequests(limit + 1));
+        EXPECT_LE(3 * maxRequestsFor(limit) + 40, limit);
+        EXPECT_LE(maxRequestsFor(limit), maxRequestsFor(limit + 1));
     }
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Whoever counts a document, in whatever process, gets the same eight numbers.
+// Every way to count a document, in any process, gives the same eight numbers.
 #include "documents/loading/DocumentLoader.h"
 #include "presentation/WordCounterViewController.h"
 #include "tests/counting_service/CountingServiceTest.h"

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A printer that answers when it is told to.
+/// A printer that answers when the test lets it.
 class SlowPrinter : public PrinterSource {
 public:
     Result<Printer, PrinterFailure> ask() override
@@ -56,7 +56,7 @@ protected:
 
 } // namespace
 
-TEST_F(RulesSourceTest, TakesThePreferencesOfTheMoment)
+TEST_F(RulesSourceTest, TakesTheCurrentPreferences)
 {
     QBYUserDefaultsController::setMinNumberOfSentencesForParagraphCount(3);
     QBYUserDefaultsController::setShouldEnforceTrailingPeriodForSentencesCount(true);
@@ -64,7 +64,7 @@ TEST_F(RulesSourceTest, TakesThePreferencesOfTheMoment)
     QBYUserDefaultsController::setLeftMarginForPaperSizeLineMeasuring(2);
     RulesSource source;
     std::optional<RulesSource::Snapshot> taken;
-    source.ask([&](const RulesSource::Snapshot &snapshot) { taken = snapshot; });
+    source.requestSnapshot([&](const RulesSource::Snapshot &snapshot) { taken = snapshot; });
     ASSERT_TRUE(waitUntil([&] { return taken.has_value(); }));
     EXPECT_EQ(taken->rules.localeName, "en_US");
     EXPECT_EQ(taken->rules.minimumSentencesOfParagraph, 3);
@@ -74,40 +74,40 @@ TEST_F(RulesSourceTest, TakesThePreferencesOfTheMoment)
     EXPECT_EQ(taken->fontGeneration, 1U);
 }
 
-TEST_F(RulesSourceTest, AnswersInTheOrderOfTheQuestions)
+TEST_F(RulesSourceTest, AnswersInTheOrderOfTheRequests)
 {
     RulesSource source;
     std::vector<int> order;
     for (int i = 0; i < 20; ++i)
-        source.ask([&order, i](const RulesSource::Snapshot &) { order.push_back(i); });
+        source.requestSnapshot([&order, i](const RulesSource::Snapshot &) { order.push_back(i); });
     ASSERT_TRUE(waitUntil([&] { return order.size() == 20; }));
     EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
 }
 
-TEST_F(RulesSourceTest, BlocksNobodyWhileThePrinterKeepsItWaiting)
+TEST_F(RulesSourceTest, DoesNotBlockWhileThePrinterIsSlow)
 {
     const ScopedPrintSettings scope(m_settings);
     RulesSource source;
     bool isTaken = false;
-    source.ask([&](const RulesSource::Snapshot &) { isTaken = true; });
-    EXPECT_TRUE(waitUntil([&] { return m_printer->isAsked(); })); // events are handled meanwhile
+    source.requestSnapshot([&](const RulesSource::Snapshot &) { isTaken = true; });
+    EXPECT_TRUE(waitUntil([&] { return m_printer->isAsked(); })); // handles events meanwhile
     EXPECT_FALSE(isTaken);
     m_printer->answer();
     EXPECT_TRUE(waitUntil([&] { return isTaken; }));
 }
 
-TEST_F(RulesSourceTest, GivesNobodyASnapshotThatWasBegunBeforeTheQuestion)
+TEST_F(RulesSourceTest, NeverAnswersWithASnapshotThatWasBegunBeforeTheRequest)
 {
     const ScopedPrintSettings scope(m_settings);
     RulesSource source;
     qint64 first = -1;
     qint64 second = -1;
     QBYUserDefaultsController::setLeftMarginForPaperSizeLineMeasuring(1);
-    source.ask(
+    source.requestSnapshot(
         [&](const RulesSource::Snapshot &snapshot) { first = snapshot.rules.minimumSentencesOfParagraph; });
     ASSERT_TRUE(waitUntil([&] { return m_printer->isAsked(); }));
     QBYUserDefaultsController::setMinNumberOfSentencesForParagraphCount(9);
-    source.ask(
+    source.requestSnapshot(
         [&](const RulesSource::Snapshot &snapshot) { second = snapshot.rules.minimumSentencesOfParagraph; });
     m_printer->answer();
     ASSERT_TRUE(waitUntil([&] { return second >= 0; }));

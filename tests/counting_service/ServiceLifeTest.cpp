@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the counting service comes and goes, and what becomes of requests meanwhile.
+// Start and exit of the counting service, and the requests that arrive meanwhile.
 #include "tests/counting_service/CountingServiceTest.h"
 #include "tests/documents/SampleTexts.h"
 #include "tests/harness/PrivateBus.h"
@@ -29,10 +29,10 @@ protected:
         return message(flatRtfd(QStringLiteral("word ").repeated(number)));
     }
 
-    /// A text that takes a worker a while.
+    /// Takes a worker a while.
     static QByteArray largeDocument() { return flatRtfd(SampleTexts::english.repeated(8000)); }
 
-    [[nodiscard]] bool waitUntilGone(pid_t process) const
+    [[nodiscard]] bool waitForExit(pid_t process) const
     {
         return waitUntil([&] { return service() != process && !isRunning(process); });
     }
@@ -57,7 +57,7 @@ TEST_F(ServiceLifeTest, TheBusStartsItWithTheFirstRequest)
     EXPECT_NE(service(), 0);
 }
 
-TEST_F(ServiceLifeTest, LeavesWhenNobodyHasAskedForAWhileAndComesBack)
+TEST_F(ServiceLifeTest, ExitsWhenIdleAndIsStartedAgain)
 {
     installService(QStringLiteral("--idle-time=30"));
     EXPECT_EQ(count(words(3)).numberOfWords, 3U);
@@ -65,20 +65,20 @@ TEST_F(ServiceLifeTest, LeavesWhenNobodyHasAskedForAWhileAndComesBack)
     EXPECT_EQ(count(words(4)).numberOfWords, 4U);
 }
 
-TEST_F(ServiceLifeTest, TakesItsWorkersAlongWhenItLeaves)
+TEST_F(ServiceLifeTest, EndsItsWorkersWhenItExits)
 {
     installService(QStringLiteral("--idle-time=500"));
     EXPECT_EQ(count(words(3)).numberOfWords, 3U);
     const pid_t process = service();
     const std::vector<pid_t> workers = workersOf(process);
     EXPECT_FALSE(workers.empty());
-    EXPECT_TRUE(waitUntilGone(process));
+    EXPECT_TRUE(waitForExit(process));
     for (const pid_t worker : workers)
         EXPECT_FALSE(isRunning(worker));
 }
 
-// It wants to leave at every pause, and the next requests come while it does.
-TEST_F(ServiceLifeTest, LosesNoRequestByLeaving)
+// With such idle times it exits at every pause, while the next requests arrive.
+TEST_F(ServiceLifeTest, LosesNoRequestWhenItExits)
 {
     QDBusServiceWatcher watcher(QStringLiteral("Brisklane.QBYServiceProviderXPC"), m_bus);
     int arrivals = 0;
@@ -102,7 +102,7 @@ TEST_F(ServiceLifeTest, LosesNoRequestByLeaving)
     EXPECT_GT(arrivals, 10);
 }
 
-TEST_F(ServiceLifeTest, FinishesItsRequestsWhenItIsToldToEnd)
+TEST_F(ServiceLifeTest, FinishesItsRequestsWhenItIsTerminated)
 {
     EXPECT_EQ(count(words(3)).numberOfWords, 3U);
     const pid_t process = service();
@@ -116,10 +116,10 @@ TEST_F(ServiceLifeTest, FinishesItsRequestsWhenItIsToldToEnd)
     for (size_t i = 0; i < 50; ++i)
         EXPECT_EQ(statsOf(calls[i]).value_or(QBYWordCounterStats()).numberOfWords, i);
     EXPECT_GT(statsOf(calls.back()).value_or(QBYWordCounterStats()).numberOfWords, 100'000U);
-    EXPECT_TRUE(waitUntilGone(process));
+    EXPECT_TRUE(waitForExit(process));
 }
 
-TEST_F(ServiceLifeTest, GoesWithTheBus)
+TEST_F(ServiceLifeTest, ExitsWithTheBus)
 {
     PrivateBus bus;
     const QDBusConnection client = QDBusConnection::connectToBus(
@@ -135,7 +135,7 @@ TEST_F(ServiceLifeTest, GoesWithTheBus)
         EXPECT_FALSE(isRunning(worker));
 }
 
-TEST_F(ServiceLifeTest, EndsWhereThereIsNoBus)
+TEST_F(ServiceLifeTest, ExitsWithoutABus)
 {
     const ChildProcess::Outcome outcome =
         ChildProcess(program()).withVariable(busVariable.constData(), "unix:path=/nowhere").run({});
@@ -164,7 +164,7 @@ TEST_F(ServiceLifeTest, WorkersEndWithABrokerThatIsKilled)
     ::kill(process, SIGKILL);
     for (const pid_t worker : workers)
         EXPECT_TRUE(waitUntil([&] { return !isRunning(worker); }));
-    EXPECT_FALSE(statsOf(call)); // lost with the broker, which the client learns at once
+    EXPECT_FALSE(statsOf(call)); // lost with the broker; the client gets an error
 }
 
 TEST_F(ServiceLifeTest, LosesNothingWhenWorkersAreKilledAtRandom)
@@ -193,8 +193,8 @@ TEST_F(ServiceLifeTest, LosesNothingWhenWorkersAreKilledAtRandom)
     EXPECT_EQ(service(), process);
 }
 
-// One descriptor left behind by each request would soon be too many.
-TEST_F(ServiceLifeTest, LeavesNeitherDescriptorsNorZombies)
+// With so few descriptors, one leaked by each request would soon be too many.
+TEST_F(ServiceLifeTest, LeaksNeitherDescriptorsNorZombies)
 {
     installServiceWithDescriptors(64);
     std::vector<QDBusMessage> messages;
@@ -207,7 +207,7 @@ TEST_F(ServiceLifeTest, LeavesNeitherDescriptorsNorZombies)
     EXPECT_TRUE(waitUntil([process] { return workersOf(process).size() == childrenOf(process).size(); }));
 }
 
-// More than the bus's library keeps in the service at a time; the bus keeps the others.
+// More than the service reads at a time; the others wait in the bus.
 TEST_F(ServiceLifeTest, ThousandsOfRequestsMayWait)
 {
     const PrivateBus bus; // with the limits of a user's session
@@ -235,7 +235,7 @@ TEST_F(ServiceLifeTest, ThousandsOfRequestsMayWait)
         QDBusConnection::disconnectFromBus(client.name());
 }
 
-TEST_F(ServiceLifeTest, CountsWithAFontThatWasInstalledWhileItWaited)
+TEST_F(ServiceLifeTest, CountsWithAFontThatWasInstalledWhileItWasIdle)
 {
     const QString folder = world().root() + QStringLiteral("/own-fonts");
     QDir().mkpath(folder);
@@ -261,7 +261,7 @@ TEST_F(ServiceLifeTest, CountsWithAFontThatWasInstalledWhileItWaited)
     EXPECT_NE(with, without);
     EXPECT_EQ(service(), process);
     ::kill(process, SIGKILL);
-    ASSERT_TRUE(waitUntilGone(process));
+    ASSERT_TRUE(waitForExit(process));
     EXPECT_EQ(count(request), with);
 }
 
@@ -289,7 +289,7 @@ TEST_F(ServiceLifeTest, ExplainsItselfOnTheCommandLine)
     }
 }
 
-TEST_F(ServiceLifeTest, AWorkerWithoutABrokerEnds)
+TEST_F(ServiceLifeTest, AWorkerWithoutABrokerExits)
 {
     EXPECT_EQ(ChildProcess(program()).run({"--worker"}).exitStatus, 1);
 }

@@ -41,16 +41,16 @@ WorkerRequest sampleRequest()
     return request;
 }
 
-/// Nothing but the whole message is taken: no part, no more, no other kind.
+/// Only the complete message is accepted: no part, no surplus, no other type.
 template <typename Decode>
-void expectOnlyWhole(const QByteArray &message, Decode decode)
+void expectOnlyComplete(const QByteArray &message, Decode decode)
 {
     EXPECT_TRUE(decode(message));
     for (qsizetype length = 0; length < message.size(); ++length)
         EXPECT_FALSE(decode(message.first(length))) << length;
     EXPECT_FALSE(decode(message + '\0'));
     EXPECT_FALSE(decode(message + QByteArray(WorkerMessages::maxLength, '\0')));
-    for (qsizetype i = 0; i < 8; ++i) { // what it is, its version, its kind
+    for (qsizetype i = 0; i < 8; ++i) { // signature, version, type
         QByteArray changed = message;
         changed[i] = static_cast<char>(changed[i] + 1);
         EXPECT_FALSE(decode(changed)) << i;
@@ -78,10 +78,10 @@ TEST(WorkerMessages, ARequestArrivesAsItWasSent)
     EXPECT_EQ(arrived->rules.page.rightMargin, sent.rules.page.rightMargin);
     EXPECT_EQ(arrived->rules.page.scale, sent.rules.page.scale);
     EXPECT_EQ(arrived->rules.page.columnBefore, sent.rules.page.columnBefore);
-    expectOnlyWhole(message, decodeRequest);
+    expectOnlyComplete(message, decodeRequest);
 }
 
-TEST(WorkerMessages, ARequestOfAnUnknownKindIsNoRequest)
+TEST(WorkerMessages, ARequestOfAnUnknownKindIsRejected)
 {
     WorkerRequest request = sampleRequest();
     for (quint32 kind = 0; kind <= static_cast<quint32>(lastDocumentKind) + 1; ++kind) {
@@ -99,7 +99,7 @@ TEST(WorkerMessages, AReplyArrivesAsItWasSent)
     ASSERT_TRUE(counted && counted->counts);
     EXPECT_EQ(counted->number, 9U);
     EXPECT_EQ(counted->counts.value(), eight);
-    expectOnlyWhole(message, decodeReply);
+    expectOnlyComplete(message, decodeReply);
     const std::optional<WorkerReply> failed = decodeReply(encode(
         WorkerReply{10, CountFailure(DocumentError(DocumentError::Cause::Damaged, DocumentKind::Rtfd))}));
     ASSERT_TRUE(failed && !failed->counts);
@@ -107,7 +107,7 @@ TEST(WorkerMessages, AReplyArrivesAsItWasSent)
         CountFailure(DocumentError(DocumentError::Cause::Damaged, DocumentKind::Rtfd)));
 }
 
-TEST(WorkerMessages, AFailureWithoutANameIsNoReply)
+TEST(WorkerMessages, AnUnknownFailureIsRejected)
 {
     const auto isReply = [](const CountFailure &failure) {
         return decodeReply(encode(WorkerReply{1, failure})).has_value();
@@ -125,14 +125,14 @@ TEST(WorkerMessages, AFailureWithoutANameIsNoReply)
     EXPECT_FALSE(isReply(DocumentError(DocumentError::lastCause, kindBeyond)));
 }
 
-TEST(WorkerMessages, AGreetingSaysWhatTheSandboxIsMadeOf)
+TEST(WorkerMessages, AGreetingReportsTheSandbox)
 {
     const WorkerGreeting sent{
         {.hasNoNewPrivileges = true, .landlockVersion = 6, .hasSystemCallFilter = true}};
     const std::optional<WorkerGreeting> arrived = decodeGreeting(encode(sent));
     ASSERT_TRUE(arrived);
     EXPECT_EQ(arrived->sandbox, sent.sandbox);
-    expectOnlyWhole(encode(sent), decodeGreeting);
+    expectOnlyComplete(encode(sent), decodeGreeting);
 }
 
 TEST(WorkerMessages, EveryFailureHasItsOwnWords)
@@ -149,7 +149,7 @@ TEST(WorkerMessages, EveryFailureHasItsOwnWords)
 
 TEST(PacketSocket, APacketArrivesWithItsDescriptor)
 {
-    const auto ends = connectedSockets();
+    const auto ends = makeSocketPair();
     ASSERT_TRUE(ends);
     const OwnedDescriptor file(::open("/dev/null", O_RDONLY | O_CLOEXEC));
     ASSERT_TRUE(sendPacket(ends->first.get(), "one", file.get()));
@@ -159,26 +159,26 @@ TEST(PacketSocket, APacketArrivesWithItsDescriptor)
     EXPECT_TRUE(first.value().descriptor);
     EXPECT_NE(first.value().descriptor.get(), file.get());
     EXPECT_TRUE(::fcntl(first.value().descriptor.get(), F_GETFD) & FD_CLOEXEC);
-    const auto second = receivePacketWithoutWaiting(ends->second.get());
+    const auto second = tryReceivePacket(ends->second.get());
     EXPECT_EQ(second.value().message, "two");
     EXPECT_FALSE(second.value().descriptor);
-    EXPECT_EQ(receivePacketWithoutWaiting(ends->second.get()).error(), PacketError::NothingYet);
+    EXPECT_EQ(tryReceivePacket(ends->second.get()).error(), PacketError::WouldBlock);
 }
 
-TEST(PacketSocket, AnEndThatIsGoneIsSeenAtTheOther)
+TEST(PacketSocket, AClosedEndIsNoticedAtTheOther)
 {
-    auto ends = connectedSockets();
+    auto ends = makeSocketPair();
     ASSERT_TRUE(ends);
     {
-        const OwnedDescriptor gone = std::move(ends->first);
+        const OwnedDescriptor closed = std::move(ends->first);
     }
     EXPECT_EQ(receivePacket(ends->second.get()).error(), PacketError::Closed);
-    EXPECT_FALSE(sendPacket(ends->second.get(), "to nobody"));
+    EXPECT_FALSE(sendPacket(ends->second.get(), "lost"));
 }
 
 TEST(PacketSocket, APacketThatIsTooLongIsGarbage)
 {
-    const auto ends = connectedSockets();
+    const auto ends = makeSocketPair();
     ASSERT_TRUE(ends);
     ASSERT_TRUE(sendPacket(ends->first.get(), QByteArray(WorkerMessages::maxLength, 'x')));
     EXPECT_TRUE(receivePacket(ends->second.get()));
@@ -188,7 +188,7 @@ TEST(PacketSocket, APacketThatIsTooLongIsGarbage)
 
 TEST(PacketSocket, SeveralDescriptorsAreGarbageAndAreClosed)
 {
-    const auto ends = connectedSockets();
+    const auto ends = makeSocketPair();
     ASSERT_TRUE(ends);
     const qsizetype before = QDir(QStringLiteral("/proc/self/fd")).count();
     for (const size_t number : {2U, 3U, 9U}) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the broker makes of workers that misbehave.
+// How the broker handles workers that misbehave.
 #include "counting_service/broker/WorkerPool.h"
 #include "tests/counting_service/CountingServiceTest.h"
 
@@ -27,8 +27,8 @@ protected:
     {
         return {.path = testProgram(QStringLiteral("fake_worker")).toUtf8(),
             .arguments = {beginning},
-            .startLimit = std::chrono::seconds(10),
-            .countLimit = std::chrono::seconds(20)};
+            .startTimeout = std::chrono::seconds(10),
+            .baseTimeout = std::chrono::seconds(20)};
     }
 
     /// A pool with two workers at a time.
@@ -75,7 +75,7 @@ protected:
         return answer->outcome->error();
     }
 
-    /// A document that misbehaves once, whoever counts it.
+    /// A document that makes its first worker misbehave.
     QByteArray once(const char *misdeed)
     {
         const QString file = world().root() + QStringLiteral("/first-%1").arg(++m_files);
@@ -109,7 +109,7 @@ TEST_F(WorkerPoolTest, CountsManyDocumentsWithFewWorkers)
 TEST_F(WorkerPoolTest, KeepsASpareWorkerOnceItHasAnswered)
 {
     const auto pool = this->pool();
-    pool->warmUp();
+    pool->setFontGeneration(1); // starts the first worker
     EXPECT_EQ(pool->workers().size(), 1U);
     statsOf(add(*pool, "count"));
     add(*pool, "hang");
@@ -120,7 +120,7 @@ TEST_F(WorkerPoolTest, KeepsASpareWorkerOnceItHasAnswered)
     EXPECT_EQ(pool->workers().size(), 3U);
 }
 
-TEST_F(WorkerPoolTest, TriesAgainWithAFreshWorkerWhenOneFails)
+TEST_F(WorkerPoolTest, RetriesWithAFreshWorkerWhenOneFails)
 {
     for (const char *misdeed : misdeeds) {
         const auto pool = this->pool();
@@ -131,7 +131,7 @@ TEST_F(WorkerPoolTest, TriesAgainWithAFreshWorkerWhenOneFails)
     }
 }
 
-TEST_F(WorkerPoolTest, GivesADocumentUpOverWhichTwoWorkersFail)
+TEST_F(WorkerPoolTest, GivesUpADocumentThatFailsTwice)
 {
     for (const char *misdeed : misdeeds) {
         const auto pool = this->pool();
@@ -158,21 +158,21 @@ TEST_F(WorkerPoolTest, LosesNoOtherDocumentWhenAWorkerFails)
         EXPECT_EQ(failureOf(answer), CountFailure::Cause::WorkerFailed);
 }
 
-TEST_F(WorkerPoolTest, EndsAWorkerThatTakesTooLong)
+TEST_F(WorkerPoolTest, EndsAWorkerThatTimesOut)
 {
-    WorkerProgram impatient = program();
-    impatient.countLimit = std::chrono::milliseconds(200);
-    const auto pool = this->pool(impatient);
+    WorkerProgram strict = program();
+    strict.baseTimeout = std::chrono::milliseconds(200);
+    const auto pool = this->pool(strict);
     EXPECT_EQ(failureOf(add(*pool, "hang")), CountFailure::Cause::WorkerFailed);
     EXPECT_EQ(statsOf(add(*pool, once("hang"))).numberOfLines, 1U);
 }
 
-TEST_F(WorkerPoolTest, TheTimeLimitGrowsWithTheDocument)
+TEST_F(WorkerPoolTest, TheTimeoutGrowsWithTheDocument)
 {
-    WorkerProgram impatient = program();
-    impatient.countLimit = std::chrono::milliseconds(100);
-    impatient.countLimitPerMebibyte = std::chrono::hours(1);
-    const auto pool = this->pool(impatient);
+    WorkerProgram strict = program();
+    strict.baseTimeout = std::chrono::milliseconds(100);
+    strict.timeoutPerMebibyte = std::chrono::hours(1);
+    const auto pool = this->pool(strict);
     const auto small = add(*pool, "hang");
     const auto large = add(*pool, "hang " + QByteArray(1024 * 1024, ' '));
     EXPECT_TRUE(waitUntil([&] { return small->outcome.has_value(); }));
@@ -182,15 +182,15 @@ TEST_F(WorkerPoolTest, TheTimeLimitGrowsWithTheDocument)
 TEST_F(WorkerPoolTest, AHungWorkerCostsAShortDocumentFiveSeconds)
 {
     using namespace std::chrono_literals;
-    const WorkerProgram usual;
-    EXPECT_EQ(usual.countLimitFor(0), 5s);
-    EXPECT_LT(usual.countLimitFor(60), 6s);
-    EXPECT_LT(usual.countLimitFor(20'000), 6s);
-    EXPECT_EQ(usual.countLimitFor(1 << 20), 35s);
-    EXPECT_GE(usual.countLimitFor(100ULL << 20), 1000s);
+    const WorkerProgram worker;
+    EXPECT_EQ(worker.timeoutFor(0), 5s);
+    EXPECT_LT(worker.timeoutFor(60), 6s);
+    EXPECT_LT(worker.timeoutFor(20'000), 6s);
+    EXPECT_EQ(worker.timeoutFor(1 << 20), 35s);
+    EXPECT_GE(worker.timeoutFor(100ULL << 20), 1000s);
 }
 
-TEST_F(WorkerPoolTest, AnAnswerNobodyAskedForEndsTheWorkerAndHarmsNobody)
+TEST_F(WorkerPoolTest, AnUnexpectedAnswerEndsTheWorkerAndLosesNothing)
 {
     const auto pool = this->pool();
     std::set<quint64> workers;
@@ -215,7 +215,7 @@ TEST_F(WorkerPoolTest, TakesNoDescriptorFromAWorker)
     EXPECT_EQ(openDescriptors(::getpid()), before);
 }
 
-TEST_F(WorkerPoolTest, CountsOnHoweverOftenIdleWorkersAreKilled)
+TEST_F(WorkerPoolTest, KeepsCountingWhenIdleWorkersAreKilled)
 {
     const auto pool = this->pool();
     for (int i = 0; i < 30; ++i) {
@@ -225,11 +225,11 @@ TEST_F(WorkerPoolTest, CountsOnHoweverOftenIdleWorkersAreKilled)
     }
 }
 
-TEST_F(WorkerPoolTest, ADocumentMayOutliveSeveralWorkersThatAreKilled)
+TEST_F(WorkerPoolTest, RetriesADocumentWhoseWorkersAreKilled)
 {
     const QString file = world().root() + QStringLiteral("/worker");
     const QByteArray document = "first " + QFile::encodeName(file) + " hang";
-    for (int kills = 1; kills <= WorkerPool::mostInterruptions; ++kills) {
+    for (int kills = 1; kills <= WorkerPool::maxInterruptions; ++kills) {
         const auto pool = this->pool();
         const auto answer = add(*pool, document);
         for (int i = 1; i <= kills; ++i) {
@@ -239,7 +239,7 @@ TEST_F(WorkerPoolTest, ADocumentMayOutliveSeveralWorkersThatAreKilled)
                 QFile::remove(file);
             ::kill(worker, SIGKILL);
         }
-        if (kills < WorkerPool::mostInterruptions)
+        if (kills < WorkerPool::maxInterruptions)
             EXPECT_EQ(statsOf(answer).numberOfWords, static_cast<quint64>(document.size()));
         else
             EXPECT_EQ(failureOf(answer), CountFailure::Cause::WorkerFailed);
@@ -251,22 +251,22 @@ TEST_F(WorkerPoolTest, GivesUpWhereNoWorkerStarts)
 {
     WorkerProgram missing = program();
     missing.path = "/no/such/program";
-    for (const WorkerProgram &worker : {program("leave"), program("nonsense"), missing}) {
+    for (const WorkerProgram &worker : {program("exit"), program("garbage"), missing}) {
         const auto pool = this->pool(worker);
         EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::Cause::NoWorker);
         EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::Cause::NoWorker);
     }
 }
 
-TEST_F(WorkerPoolTest, EndsAWorkerThatDoesNotGetReady)
+TEST_F(WorkerPoolTest, EndsAWorkerThatDoesNotGreet)
 {
     WorkerProgram silent = program("hang");
-    silent.startLimit = std::chrono::milliseconds(20);
+    silent.startTimeout = std::chrono::milliseconds(20);
     const auto pool = this->pool(silent);
     EXPECT_EQ(failureOf(add(*pool, "count")), CountFailure::Cause::NoWorker);
 }
 
-TEST_F(WorkerPoolTest, WorkersOfOldFontsCountNothingMore)
+TEST_F(WorkerPoolTest, WorkersWithOldFontsCountNoMore)
 {
     const auto pool = this->pool();
     pool->setFontGeneration(1);
@@ -295,14 +295,14 @@ TEST_F(WorkerPoolTest, AWorkerThatHasCountedALargeDocumentIsReplaced)
 {
     const auto pool = this->pool();
     const quint64 first =
-        statsOf(add(*pool, QByteArray(WorkerPool::largestWithoutReplacement, 'x'))).numberOfCharacters;
+        statsOf(add(*pool, QByteArray(WorkerPool::maxSizeWithoutReplacement, 'x'))).numberOfCharacters;
     EXPECT_EQ(
-        statsOf(add(*pool, QByteArray(WorkerPool::largestWithoutReplacement + 1, 'x'))).numberOfCharacters,
+        statsOf(add(*pool, QByteArray(WorkerPool::maxSizeWithoutReplacement + 1, 'x'))).numberOfCharacters,
         first);
     EXPECT_NE(statsOf(add(*pool, "count")).numberOfCharacters, first);
 }
 
-TEST_F(WorkerPoolTest, AWorkerIsEndedThatTakesMoreMemoryThanADocumentNeeds)
+TEST_F(WorkerPoolTest, EndsAWorkerThatTakesTooMuchMemory)
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     GTEST_SKIP() << "the sanitizers need the memory themselves";
@@ -312,7 +312,7 @@ TEST_F(WorkerPoolTest, AWorkerIsEndedThatTakesMoreMemoryThanADocumentNeeds)
     EXPECT_EQ(statsOf(add(*pool, "count")).numberOfWords, 5U);
 }
 
-TEST_F(WorkerPoolTest, LeavesNeitherDescriptorsNorZombies)
+TEST_F(WorkerPoolTest, LeaksNeitherDescriptorsNorZombies)
 {
     const size_t others = childrenOf(::getpid()).size(); // the bus of another test
     const auto pool = this->pool();
@@ -329,7 +329,7 @@ TEST_F(WorkerPoolTest, LeavesNeitherDescriptorsNorZombies)
     EXPECT_EQ(openDescriptors(::getpid()) - 2 * static_cast<qsizetype>(pool->workers().size()), before);
 }
 
-TEST_F(WorkerPoolTest, TakesItsWorkersWithIt)
+TEST_F(WorkerPoolTest, KillsItsWorkersWhenItIsDestroyed)
 {
     const size_t others = childrenOf(::getpid()).size(); // the bus of another test
     auto pool = this->pool();
@@ -342,7 +342,7 @@ TEST_F(WorkerPoolTest, TakesItsWorkersWithIt)
     EXPECT_EQ(childrenOf(::getpid()).size(), others);
 }
 
-TEST_F(WorkerPoolTest, TheLogSaysWhatBecameOfAWorkerAndNothingOfTheDocument)
+TEST_F(WorkerPoolTest, TheLogNamesTheCauseAndNothingOfTheDocument)
 {
     const RecordingLogSink log;
     const auto pool = this->pool();

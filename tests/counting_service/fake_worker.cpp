@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// A worker that does what the document says, word by word:
+// A worker that does what the document says:
 //   count         answers: words are the document's bytes, characters the process, lines the requests so far
 //   crash, exit, hang, garbage, long, descriptor, twice, other, hung-up, memory, eat
-//   first FILE …  does the rest only the first time, and counts the other times; the file remembers, and
-//                 has the worker's process
-// Its first argument says how it begins: greet, leave, hang, nonsense.
+//   first FILE …  does the rest only the first time, and counts the other times; the file records the first
+//                 time and contains the worker's process
+// Its first argument is how it begins: greet, exit, hang, garbage.
 #include "counting_service/protocol/PacketSocket.h"
 #include "counting_service/protocol/WorkerMessages.h"
 #include "counting_service/worker/CountingWorker.h"
@@ -47,7 +47,6 @@ QByteArray countOf(const WorkerRequest &request, quint64 number)
     return encode(WorkerReply{number, stats});
 }
 
-// Until there is no more.
 void eatMemory()
 {
     constexpr size_t bite = 64 * 1024 * 1024;
@@ -102,11 +101,11 @@ int main(int argumentCount, char **arguments)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     const QByteArray beginning = argumentCount > 1 ? arguments[1] : "";
-    if (beginning == "leave")
+    if (beginning == "exit")
         return 3;
     if (beginning == "hang")
         hang();
-    send(beginning == "nonsense" ? QByteArray("nonsense") : encode(WorkerGreeting{}));
+    send(beginning == "garbage" ? QByteArray("garbage") : encode(WorkerGreeting{}));
     for (;;) {
         const Result<Packet, PacketError> packet = receivePacket(broker);
         const auto request = packet ? decodeRequest(packet.value().message) : std::nullopt;
