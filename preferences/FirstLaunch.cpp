@@ -40,7 +40,7 @@ void writeFirstLaunchDefaults(UserDefaults &defaults, const DefaultPaperLookup &
         LogChannel::standard().error(u"{}", {paper.error().code});
     }
     entries.push_back({hasAppBeenOpened, true});
-    // Looked at again inside the transaction: another process may have launched meanwhile, and its user may
-    // have changed a preference since.
+    // Checked again inside the transaction: another process may have written the defaults meanwhile, and the
+    // user may have changed a preference since.
     defaults.setObjectsUnless(hasAppBeenOpened, entries);
 }

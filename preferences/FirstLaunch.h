@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The first-launch step: the preferences of a user who has never had any.
-// Thread: main, as the print settings are.
+// The first-launch step: writes the default preferences of a new user.
+// Thread: main, like the print settings.
 #pragma once
 
 #include "platform/defaults/UserDefaults.h"
@@ -16,10 +16,10 @@ struct PrintingStatus {
 
 using DefaultPaperLookup = std::function<Result<Paper, PrintingStatus>()>;
 
-/// The paper that new users get: the default of the shared print settings. ETIMEDOUT where a printer does not
-/// answer within their limit.
+/// The paper of new users: the default of the shared print settings. ETIMEDOUT if the printer does not answer
+/// within their timeout.
 Result<Paper, PrintingStatus> systemDefaultPaper();
 
-/// Writes the defaults in one transaction, unless they have been written before, by this process or by any
-/// other: then it changes nothing. Without a paper its keys stay unwritten, and the standard log says so.
+/// Writes the defaults in one transaction. Does nothing if any process has written them before. Without a
+/// paper, does not write the keys of the paper, and logs an error.
 void writeFirstLaunchDefaults(UserDefaults &defaults, const DefaultPaperLookup &lookUpDefaultPaper);

@@ -11,7 +11,7 @@ struct Row {
     Preference preference;
     const char16_t *key;
     bool isAnnounced;
-    std::optional<std::variant<bool, qint64>> firstLaunchDefault; // absent where the paper decides it
+    std::optional<std::variant<bool, qint64>> firstLaunchDefault; // absent if it depends on the paper
 };
 
 constexpr std::array table{
@@ -40,7 +40,7 @@ constexpr const Row &rowOf(Preference preference)
     return table[static_cast<std::size_t>(preference)];
 }
 
-constexpr bool isInTheOrderOfTheEnumeration()
+constexpr bool isInEnumerationOrder()
 {
     for (std::size_t i = 0; i < table.size(); ++i) {
         if (static_cast<std::size_t>(table[i].preference) != i)
@@ -48,7 +48,7 @@ constexpr bool isInTheOrderOfTheEnumeration()
     }
     return table.size() == static_cast<std::size_t>(Preference::HasAppBeenOpened) + 1;
 }
-static_assert(isInTheOrderOfTheEnumeration());
+static_assert(isInEnumerationOrder());
 
 } // namespace
 

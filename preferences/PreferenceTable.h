@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The one table of the preferences: their keys, which of them a change is announced of, and what they are at
-// the first launch. Reading and writing them is left to QBYUserDefaultsController.
+// The table of the preferences: their keys, whether changes are announced, and their first-launch values.
+// QBYUserDefaultsController reads and writes them.
 // Thread: any.
 #pragma once
 
@@ -30,9 +30,9 @@ enum class Preference {
 /// The key in the suite.
 QString keyOf(Preference preference);
 
-/// Whether its setter posts the change notification. The rule on the end of a sentence and the margins
-/// deliberately do not: other processes see those at their next count.
+/// Whether the setter posts the change notification. Those of the sentence rule and the margins deliberately
+/// do not: other processes read these preferences at their next count.
 bool isAnnounced(Preference preference);
 
-/// The first-launch values that do not depend on a printer, in the order in which they are written.
+/// The first-launch values that do not depend on the paper, in the order in which they are written.
 std::vector<DefaultsEntry> fixedFirstLaunchDefaults();

@@ -38,15 +38,15 @@ std::optional<QBYPaper> QBYExtension::currentPaperObject(PrintSettings &printSet
         LogChannel::standard().error(u"Error retrieving current paper name. Defaulting to Letter.");
         name = QStringLiteral("Letter");
     }
-    // One answer for both looks: between two the printer could begin to answer, with a list that has the
-    // paper.
+    // A single answer for both lookups: between two, the printer could start to answer, with a list that has
+    // the paper.
     const PrinterAnswer printer = printSettings.printer();
     if (std::optional<QBYPaper> paper = paperNamed(printer.papers, *name))
         return paper;
     LogChannel::standard().error(u"Error instantiating paper object...attempt to restore default.");
     if (!printer.defaultPaper || !printer.defaultPaper->ppdName)
         return std::nullopt;
-    // A preference that could not be read may well name an available paper.
+    // A preference that could not be read may name an available paper, so it is not replaced.
     if (preference)
         QBYUserDefaultsController::setCurrentPaperNamePreference(*printer.defaultPaper->ppdName);
     return paperNamed(printer.papers, *printer.defaultPaper->ppdName);

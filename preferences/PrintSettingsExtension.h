@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the product asks of print settings: the papers to choose from, and the one that the preferences name.
+// Extensions of PrintSettings: the papers to choose from, and the paper of the preferences.
 // Thread: main.
 #pragma once
 
@@ -11,19 +11,19 @@ class PrintSettings;
 
 namespace QBYExtension {
 
-/// The current printer's papers in its own order; the built-in catalogue where there is no printer, or while
-/// it is not answering.
+/// The current printer's papers in its own order; the built-in catalogue if there is no printer or it does
+/// not answer.
 std::vector<QBYPaper> getAllPaperObjects(PrintSettings &printSettings);
 
 /// The first of those papers with exactly that name; absent if there is none.
 std::optional<QBYPaper> paperObjectForPaperName(PrintSettings &printSettings, const QString &paperName);
 
-/// The paper that the preferences name, "Letter" where they name none.
+/// The paper that the preferences name; "Letter" if they name none.
 ///
-/// If the printer lacks it, the printer's default paper becomes the preference, which is announced, and the
-/// result; absent if that has no name. While the printer is not answering nobody knows what it lacks: then
-/// nothing is stored, and the result is absent unless the built-in catalogue has the paper. Nor is anything
-/// stored where the preference cannot be read, which counts as none for this call.
+/// If the printer lacks that paper, its default paper becomes the preference, which is announced, and the
+/// result; absent if the default paper has no name. If the printer does not answer, nothing is stored, and
+/// the result is absent unless the built-in catalogue has the paper. If the preference cannot be read, it
+/// counts as none, and nothing is stored either.
 std::optional<QBYPaper> currentPaperObject(PrintSettings &printSettings);
 
 } // namespace QBYExtension

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// QBYLogger owns the log channel of the rooms that watch files.
+// QBYLogger owns the log channel of the code that watches files.
 // Thread: any.
 #pragma once
 
@@ -10,5 +10,10 @@ public:
     QBYLogger() = delete;
 
     /// Subsystem "com.QBY.watchFileLog", category "WatchFileModelLog"; the same object at every call.
-    static LogChannel &watchFileModelLog();
+    static LogChannel &watchFileModelLog()
+    {
+        static LogChannel channel(
+            QStringLiteral("com.QBY.watchFileLog"), QStringLiteral("WatchFileModelLog"));
+        return channel;
+    }
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// QBYPaper is one paper of the current printer, as the preferences and the line count see it. It converts
-// lengths at the scale of the print settings; which papers there are is theirs to say.
+// QBYPaper is one paper of the current printer, for the preferences and the line count. It converts lengths
+// at the page scale of the print settings, which also list the papers.
 // Thread: main; a value.
 #pragma once
 
@@ -11,11 +11,11 @@ class QBYPaper {
 public:
     explicit QBYPaper(Paper pmPaper);
 
-    /// Of the shared print settings' papers, as their extension of the same name finds it.
+    /// Looks in the shared print settings, with their extension of the same name.
     static std::optional<QBYPaper> paperObjectForPaperName(const QString &paperName);
 
     [[nodiscard]] bool isCustom() const { return m_pmPaper.isCustom; }
-    /// A copy, so that it stays valid when the printer's list is read anew.
+    /// A copy, which stays valid when the printer's list is read again.
     [[nodiscard]] const Paper &pmPaper() const { return m_pmPaper; }
     /// In the form of printer descriptions, such as "Letter"; absent if the printing system has none.
     [[nodiscard]] const std::optional<QString> &paperName() const { return m_pmPaper.ppdName; }
@@ -31,15 +31,15 @@ public:
     [[nodiscard]] double topMarginInScreen() const { return m_pmPaper.margins.top; }
     [[nodiscard]] double bottomMarginInScreen() const { return m_pmPaper.margins.bottom; }
 
-    // Inches on a page of the print settings' scale.
+    // Inches, at the page scale of the print settings.
     [[nodiscard]] double leftMarginInInches() const { return screenNumberToInch(leftMarginInScreen()); }
     [[nodiscard]] double rightMarginInInches() const { return screenNumberToInch(rightMarginInScreen()); }
 
-    /// The scale at which the shared print settings print a page of this paper, 1.0 for 100 per cent; 1.0 too
-    /// where the printing system does not say.
+    /// The page scale of the shared print settings: 1.0 for 100 per cent, and if the printing system has
+    /// none.
     [[nodiscard]] double getScreenScaleFactor() const;
 
-    // Each other's inverse.
+    // Inverse functions.
     [[nodiscard]] double screenNumberToInch(double points) const;
     [[nodiscard]] double inchToScreenNumber(double inches) const;
 

@@ -25,7 +25,7 @@ double numberOf(Preference preference)
     return value ? doubleValue(*value) : 0;
 }
 
-// A failed write is announced like any other: whoever shows the preference then shows what it still is.
+// A failed write is announced too, so that observers show the old value again.
 void set(Preference preference, const DefaultsValue &value)
 {
     suite().setObject(value, keyOf(preference));
@@ -37,7 +37,7 @@ void set(Preference preference, const DefaultsValue &value)
 
 UserDefaults &QBYUserDefaultsController::sharedUserDefaults()
 {
-    // Never destroyed: other threads may still read preferences while the process ends.
+    // Never destroyed: other threads may still read preferences while the process exits.
     static auto &defaults = *new UserDefaults(QStringLiteral("K7Q2M9X4T1.com.quillbay"));
     return defaults;
 }

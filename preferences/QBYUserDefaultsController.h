@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// QBYUserDefaultsController is how the whole product reads and writes the user's preferences; it keeps none
-// itself.
+// QBYUserDefaultsController reads and writes the user's preferences for the whole product; it caches none.
 // Thread: any.
 #pragma once
 
@@ -11,31 +10,28 @@
 
 #include <optional>
 
-/// Posted on the DistributedNotificationCenter when a preference has changed; carries nothing, so observers
+/// Posted on the DistributedNotificationCenter when a preference has changed. It carries no values: observers
 /// read the preferences again.
 inline constexpr QLatin1StringView QBYPreferencesChangedNotification("QBYPreferencesChangedNotification");
 
-/// Every getter reads the disk, so it sees what any process of the product wrote last. There are no fallback
-/// values: what was never written reads as false, 0, 0.0 or absent. Every setter returns when the value is on
-/// the disk; a value that cannot be written is reported in the log alone. All setters but three then post
-/// QBYPreferencesChangedNotification, once.
+/// Every getter reads from disk, and so gets what any process wrote last. There are no fallback values: a
+/// missing preference reads as false, 0, 0.0 or absent. Every setter returns when the value is on disk; a
+/// write error is only logged. All setters but three then post QBYPreferencesChangedNotification once.
 class QBYUserDefaultsController {
 public:
     QBYUserDefaultsController() = delete;
 
-    /// The suite "K7Q2M9X4T1.com.quillbay": one object for the life of the process, opened at the first
-    /// access.
+    /// The suite "K7Q2M9X4T1.com.quillbay": one object, opened at the first access and never destroyed.
     static UserDefaults &sharedUserDefaults();
 
-    /// The first-launch step: gives a user who has no preferences yet the product's. Does nothing at all
-    /// after that, and never posts.
-    /// Thread: main, as it asks the print settings for the default paper.
+    /// The first-launch step: writes the default preferences of a new user, once. Never posts. Main thread,
+    /// as it asks the print settings for the default paper.
     static void configureUserDefaultsOnApplicationLaunch();
 
     static void postPreferencesChangedNotification();
 
-    // Which statistics are shown. Switching the character count on or off takes the one including white space
-    // along; that one can then be set alone.
+    // Which statistics are shown. Setting the character count also sets the one including white space, which
+    // can then be set alone.
     static bool isShowCharacterCountPreferenceOn();
     static void setShowCharacterCountPreference(bool isOn);
     static bool isShowCharacterCountIncludingWhitespacePreferenceOn();
@@ -51,12 +47,12 @@ public:
     static bool isShowHardIndentParagraphCountPreferenceOn();
     static void setShowHardIndentParagraphCountPreference(bool isOn);
 
-    /// How many sentences make a paragraph; never negative, whatever is stored.
+    /// The minimum number of sentences in a paragraph that counts; never negative, whatever is stored.
     static qint64 minNumberOfSentencesForParagraphCount();
     static void setMinNumberOfSentencesForParagraphCount(qint64 number);
 
-    /// Whether a sentence must end with terminal punctuation to be counted. The setter posts nothing,
-    /// deliberately.
+    /// Whether a sentence must end with terminal punctuation to be counted. The setter deliberately posts
+    /// nothing.
     static bool shouldEnforceTrailingPeriodForSentencesCount();
     static void setShouldEnforceTrailingPeriodForSentencesCount(bool shouldEnforce);
 
@@ -65,11 +61,11 @@ public:
 
     /// The printing system's name of the paper on which lines are counted, such as "Letter".
     static std::optional<QString> paperNameForLineMeasuring();
-    /// The same, with a fault where nobody can tell whether there is such a name.
+    /// The same, with an error if the suite cannot be read.
     static Result<std::optional<QString>, SuiteFault> readPaperNameForLineMeasuring();
     static void setCurrentPaperNamePreference(const QString &paperName);
 
-    // In inches; always finite, but not checked against any paper. The setters post nothing, deliberately.
+    // Inches; always finite, but not checked against any paper. The setters deliberately post nothing.
     static double leftMarginForPaperSizeLineMeasuring();
     static void setLeftMarginForPaperSizeLineMeasuring(double inches);
     static double rightMarginForPaperSizeLineMeasuring();

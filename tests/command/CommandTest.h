@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // CommandTest is the fixture of tests that run the real quillbay command.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include "tests/harness/QuillbayTest.h"
@@ -14,13 +15,13 @@ protected:
         return ChildProcess(productProgram(QStringLiteral("quillbay"))).run(words, input);
     }
 
-    /// "quillbay count" with further words.
+    /// Runs "quillbay count" with these words.
     static ChildProcess::Outcome count(const QByteArrayList &words, const QByteArray &input = {})
     {
         return quillbay(QByteArrayList{"count"} + words, input);
     }
 
-    /// The path of a new file below the test's folder.
+    /// Creates a file in the test's folder and returns its path.
     static QByteArray file(const char *name, const QByteArray &contents)
     {
         return QFile::encodeName(writeFile(QString::fromUtf8(name), contents));

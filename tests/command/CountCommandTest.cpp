@@ -43,7 +43,7 @@ TEST_F(CountCommandTest, SeveralFilesComeInTheOrderGivenWithATotalBelow)
             QByteArrayList{"5", "22", "26", "3", "3", "3", "3", "0", "total"}));
 }
 
-TEST_F(CountCommandTest, StandardInputIsReadForADashAndWhereNoFileIsNamed)
+TEST_F(CountCommandTest, StandardInputIsReadForADashAndWithoutFiles)
 {
     EXPECT_THAT(tableRows(count({"-"}, "One two.").output),
         ElementsAre(QByteArrayList{"2", "7", "8", "1", "1", "1", "1", "0", "-"}));
@@ -51,7 +51,7 @@ TEST_F(CountCommandTest, StandardInputIsReadForADashAndWhereNoFileIsNamed)
         ElementsAre(QByteArrayList{"2", "7", "8", "1", "1", "1", "1", "0", "-"}));
 }
 
-TEST_F(CountCommandTest, JsonIsOneObjectALineInTheOrderOfTheFiles)
+TEST_F(CountCommandTest, JsonHasOneObjectPerLineInTheOrderOfTheFiles)
 {
     const QByteArray name = file("a \"quoted\"\n\xC3\xA4.txt", "One two.\n");
     const QByteArray other = file("other", "");
@@ -74,7 +74,7 @@ TEST_F(CountCommandTest, JsonIsOneObjectALineInTheOrderOfTheFiles)
     EXPECT_EQ(object[u"words"].toInt(-1), 0);
 }
 
-TEST_F(CountCommandTest, TsvNamesItsColumnsAndEscapesWhatWouldBreakThem)
+TEST_F(CountCommandTest, TsvNamesItsColumnsAndEscapesSeparators)
 {
     const QByteArray name = file("tab\there\\line\nend", "One two.\n");
     const QByteArrayList lines = count({"--tsv", name}).output.split('\n');
@@ -117,7 +117,7 @@ TEST_F(CountCommandTest, ListsAreSeparatedByLineEndsOrByNulBytes)
     EXPECT_THAT(output.toStdString(), HasSubstr("/t\\nwo\t2\t"));
 }
 
-TEST_F(CountCommandTest, FilesOfTheListComeBehindThoseOfTheCommandLine)
+TEST_F(CountCommandTest, FilesOfTheListFollowThoseOfTheCommandLine)
 {
     const QByteArray one = file("one", "One.");
     const QByteArray two = file("two", "Two words.");
@@ -141,7 +141,7 @@ TEST_F(CountCommandTest, AMissingListIsAnErrorAndNamesItself)
     EXPECT_EQ(outcome.errors, QByteArray("quillbay: /no/such/list: no such file\n"));
 }
 
-TEST_F(CountCommandTest, WhatCannotBeReadIsToldInALineAndTheOthersAreStillCounted)
+TEST_F(CountCommandTest, AnUnreadableFileIsReportedOnOneLineAndTheOthersAreStillCounted)
 {
     const QByteArray good = file("good", "One.");
     const QByteArray folder = QFile::encodeName(world().home());
@@ -159,7 +159,7 @@ TEST_F(CountCommandTest, WhatCannotBeReadIsToldInALineAndTheOthersAreStillCounte
     EXPECT_EQ(lines[3], QByteArray("quillbay: /dev/zero: is a device"));
 }
 
-TEST_F(CountCommandTest, WhereNoFileIsCountedThereIsNoTotal)
+TEST_F(CountCommandTest, WithoutACountedFileThereIsNoTotal)
 {
     const ChildProcess::Outcome outcome = count({"/no/such/file", "/no/such/other"});
     EXPECT_EQ(outcome.exitStatus, 1);
@@ -213,13 +213,13 @@ TEST_F(CountCommandTest, TheFirstCountOfAUserWritesTheFirstLaunchDefaults)
 {
     const QByteArray name = file("heading", "A heading\nA sentence.");
     EXPECT_FALSE(QBYUserDefaultsController::isShowLineCountPreferenceOn());
-    // With the default rules the heading is no sentence.
+    // By the default rules the heading is not a sentence.
     EXPECT_THAT(tableRows(count({name}).output).front()[3], QByteArray("1"));
     EXPECT_TRUE(QBYUserDefaultsController::isShowLineCountPreferenceOn());
     EXPECT_TRUE(QBYUserDefaultsController::shouldEnforceTrailingPeriodForSentencesCount());
 }
 
-TEST_F(CountCommandTest, CountsUnderThePreferencesAndTheLocaleOfTheMoment)
+TEST_F(CountCommandTest, CountsUnderTheCurrentPreferencesAndLocale)
 {
     const QByteArray name = file("text", "A heading\nb sentence.");
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
@@ -233,7 +233,7 @@ TEST_F(CountCommandTest, CountsUnderThePreferencesAndTheLocaleOfTheMoment)
         (QByteArrayList{"4", "18", "21", "2", "2", "2", "0"}));
 }
 
-TEST_F(CountCommandTest, WithoutAUsableConfigurationFolderItStillCountsWithOneLineOfWarning)
+TEST_F(CountCommandTest, WithoutAUsableConfigurationFolderItCountsAndLogsOneWarning)
 {
     const QByteArray name = file("text", "One. Two.");
     ASSERT_TRUE(QDir(world().configuration()).removeRecursively());
@@ -256,7 +256,7 @@ TEST_F(CountCommandTest, LinesAreThoseOfTheUsersPaper)
     EXPECT_GT(lines(), onA4);
 }
 
-TEST_F(CountCommandTest, ExplainedRulesNameWhatTheCountsRestOn)
+TEST_F(CountCommandTest, ExplainedRulesNameEverythingThatTheCountsDependOn)
 {
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
     QBYUserDefaultsController::setCurrentPaperNamePreference(QStringLiteral("Legal"));

@@ -95,9 +95,9 @@ TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedSaysWhyAndWhatToDo)
     expectFailure(file("words.docx", "Some words."), "is not a Word document");
 }
 
-TEST_F(CountDocumentsTest, PdfFilesBringNoMoreOfQtIntoTheCommand)
+TEST_F(CountDocumentsTest, PdfFilesAddNoLibrariesToTheCommand)
 {
-    // The dynamic linker's own list, of what it loads for others too.
+    // The dynamic linker's list, which includes indirect dependencies.
     const auto librariesOf = [](const char *name) {
         ChildProcess program(productProgram(QString::fromLatin1(name)));
         return program.withVariable("LD_TRACE_LOADED_OBJECTS", "1").run({}).output;

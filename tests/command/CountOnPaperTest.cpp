@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The counts on the papers of a real print server, and of one that never answers.
+// Counts on the papers of a real print server, and of one that never answers.
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/command/CommandTest.h"
 #include "tests/platform/printing/PrintServer.h"
@@ -38,7 +38,7 @@ TEST_F(CountOnPaperTest, APaperThatThePrinterLacksIsReplacedByItsDefault)
     EXPECT_EQ(Preferences::paperNameForLineMeasuring(), QStringLiteral("A4"));
 }
 
-TEST_F(CountOnPaperTest, WhileThePrinterIsSilentThePreferredPaperHoldsAndStays)
+TEST_F(CountOnPaperTest, WhileThePrinterDoesNotAnswerThePreferredPaperIsUsedAndKept)
 {
     Preferences::configureUserDefaultsOnApplicationLaunch();
     Preferences::setCurrentPaperNamePreference(QStringLiteral("Tabloid"));

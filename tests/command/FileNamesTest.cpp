@@ -15,7 +15,7 @@ TEST(FileNames, AListWithANulByteIsSeparatedByNulBytesOnly)
     EXPECT_THAT(namesInList(""), IsEmpty());
 }
 
-TEST(FileNames, PrintableNamesHoldNoControlCharacters)
+TEST(FileNames, PrintableNamesContainNoControlCharacters)
 {
     EXPECT_EQ(printableName("caf\xC3\xA9 \xF0\x9F\x98\x80"), QByteArray("caf\xC3\xA9 \xF0\x9F\x98\x80"));
     EXPECT_EQ(printableName("a\x1B[1m\x7F\n\xC2\x9B"), QByteArray("a\\x1b[1m\\x7f\\x0a\\x9b"));
@@ -23,7 +23,7 @@ TEST(FileNames, PrintableNamesHoldNoControlCharacters)
     EXPECT_EQ(printableName("\xFF"), QByteArray("\xEF\xBF\xBD"));
 }
 
-TEST(FileNames, JsonNamesAreStringsOfJson)
+TEST(FileNames, JsonNamesAreJsonStrings)
 {
     EXPECT_EQ(jsonName("a\"b\\c\n\x01"), QByteArray("\"a\\\"b\\\\c\\n\\u0001\""));
     EXPECT_EQ(jsonName("\xFF"), QByteArray("\"\xEF\xBF\xBD\""));
@@ -45,7 +45,7 @@ TEST(FileNames, TsvNamesEscapeEveryByteThatControlsATerminal)
     EXPECT_EQ(tsvName("caf\xC3\xA9 \xF0\x9F\x98\x80"), QByteArray("caf\xC3\xA9 \xF0\x9F\x98\x80"));
 }
 
-TEST(FileNames, TsvNamesCanBeHadBack)
+TEST(FileNames, TsvNamesAreReversible)
 {
     QByteArray name;
     for (int byte = 1; byte < 0x100; ++byte)

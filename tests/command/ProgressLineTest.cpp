@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Progress on a real pseudo-terminal: standard input that does not end makes the work take as long as the
-// test likes.
+// Progress on a real pseudo-terminal: the work takes as long as the test keeps standard input open.
 #include "tests/command/CommandTest.h"
 
 #include <fcntl.h>
@@ -41,7 +40,7 @@ protected:
 
 } // namespace
 
-TEST_F(ProgressLineTest, ATerminalIsToldWhatIsBeingReadAndTheLineIsWipedAtTheEnd)
+TEST_F(ProgressLineTest, ShowsTheFileThatIsBeingReadAndErasesTheLineAtTheEnd)
 {
     ChildProcess process(productProgram(QStringLiteral("quillbay")));
     process.afterFork([this] { ::dup2(m_end, STDERR_FILENO); });

@@ -16,7 +16,7 @@ protected:
         return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
     }
 
-    /// Runs the command, which fails, and gives what it says on standard error and in a notification.
+    /// Runs the command, which must fail; returns its standard error and the notification.
     static std::pair<QByteArray, QByteArray> failure(const QByteArrayList &words)
     {
         ChildProcess server(testProgram(QStringLiteral("notification_server")));
@@ -38,7 +38,7 @@ Told told(const QByteArray &cause, const QByteArray &sentence)
 
 } // namespace
 
-TEST_F(SelectionCommand, HandsTheSelectedTextOverInItsRichestFormAndAsPlainText)
+TEST_F(SelectionCommand, SendsTheSelectedTextInItsRichestFormAndAsPlainText)
 {
     const SelectionOwner owner(
         "PRIMARY", {{"text/html", "<b>page"}, {"text/rtf", "{\\rtf1 rich}"}, {"UTF8_STRING", "plain"}});
@@ -53,7 +53,7 @@ TEST_F(SelectionCommand, HandsTheSelectedTextOverInItsRichestFormAndAsPlainText)
     EXPECT_EQ(request()[u"text"].toString(), QStringLiteral("rich"));
 }
 
-TEST_F(SelectionCommand, TakesTheClipboardWhereItIsAskedTo)
+TEST_F(SelectionCommand, SendsTheClipboardOnRequest)
 {
     const SelectionOwner selected("PRIMARY", {{"UTF8_STRING", "selected"}});
     const SelectionOwner copied("CLIPBOARD", {{"UTF8_STRING", "copied"}});
@@ -61,7 +61,7 @@ TEST_F(SelectionCommand, TakesTheClipboardWhereItIsAskedTo)
     EXPECT_EQ(request()[u"text"].toString(), QStringLiteral("copied"));
 }
 
-TEST_F(SelectionCommand, HandsTwentyMegabytesOver)
+TEST_F(SelectionCommand, SendsTwentyMegabytes)
 {
     const QByteArray contents(20 << 20, 'x');
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", contents}});
@@ -70,14 +70,14 @@ TEST_F(SelectionCommand, HandsTwentyMegabytesOver)
         (QJsonObject{{QStringLiteral("text/plain;charset=utf-8"), hashOf(contents)}}));
 }
 
-TEST_F(SelectionCommand, WritesTheFirstPreferencesBeforeItSendsTheMessage)
+TEST_F(SelectionCommand, WritesTheFirstLaunchDefaultsBeforeItSendsTheMessage)
 {
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});
     EXPECT_EQ(quillbay({"selection"}).exitStatus, 0);
     EXPECT_TRUE(request()[u"hasDefaults"].toBool());
 }
 
-TEST_F(SelectionCommand, TellsTheBusDisplayAndLocaleSoThatTheProviderHasThem)
+TEST_F(SelectionCommand, PassesDisplayAndLocaleToTheProviderThroughTheBus)
 {
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});
     ChildProcess command(productProgram(QStringLiteral("quillbay")));
@@ -90,7 +90,7 @@ TEST_F(SelectionCommand, TellsTheBusDisplayAndLocaleSoThatTheProviderHasThem)
     EXPECT_EQ(environment[u"XDG_CURRENT_DESKTOP"].toString(), QStringLiteral("Harbour"));
 }
 
-TEST_F(SelectionCommand, HandsItsActivationTokenOverAndToNobodyElse)
+TEST_F(SelectionCommand, PassesItsActivationTokenToTheProviderOnly)
 {
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});
     for (const bool isX11 : {false, true}) {
@@ -111,7 +111,7 @@ TEST_F(SelectionCommand, HandsItsActivationTokenOverAndToNobodyElse)
     }
 }
 
-TEST_F(SelectionCommand, SaysWhereNothingIsSelectedOrCopied)
+TEST_F(SelectionCommand, ReportsThatNothingIsSelectedOrCopied)
 {
     EXPECT_EQ(failure({"selection"}), told("nothing is selected", "Nothing is selected."));
     EXPECT_EQ(
@@ -119,7 +119,7 @@ TEST_F(SelectionCommand, SaysWhereNothingIsSelectedOrCopied)
     EXPECT_EQ(requests().size(), 0);
 }
 
-TEST_F(SelectionCommand, SaysWhereTheApplicationDoesNotAnswer)
+TEST_F(SelectionCommand, ReportsAnApplicationThatDoesNotAnswer)
 {
     SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});
     owner.stop();
@@ -129,7 +129,7 @@ TEST_F(SelectionCommand, SaysWhereTheApplicationDoesNotAnswer)
     EXPECT_EQ(requests().size(), 0);
 }
 
-TEST_F(SelectionCommand, SaysWhereThereIsNoDisplay)
+TEST_F(SelectionCommand, ReportsAMissingDisplay)
 {
     qunsetenv("DISPLAY");
     const auto [errors, notification] = failure({"selection"});
@@ -137,14 +137,14 @@ TEST_F(SelectionCommand, SaysWhereThereIsNoDisplay)
     EXPECT_THAT(notification.toStdString(), HasSubstr("There is no display"));
 }
 
-TEST_F(SelectionCommand, SaysWhatTheProviderSaysWordForWord)
+TEST_F(SelectionCommand, ReportsTheProvidersErrorWordForWord)
 {
     installProvider("No_such_text.");
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});
     EXPECT_EQ(failure({"selection"}), told("No_such_text.", "No_such_text."));
 }
 
-TEST_F(SelectionCommand, SaysWhereTheBusHasNoProvider)
+TEST_F(SelectionCommand, ReportsAMissingProvider)
 {
     removeProvider();
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});
@@ -153,7 +153,7 @@ TEST_F(SelectionCommand, SaysWhereTheBusHasNoProvider)
     EXPECT_THAT(notification.toStdString(), HasSubstr("com.quillbay.ServiceProvider"));
 }
 
-TEST_F(SelectionCommand, SaysItOnStandardErrorAloneWhereNobodyShowsNotifications)
+TEST_F(SelectionCommand, ReportsOnStandardErrorAloneWithoutANotificationServer)
 {
     const Outcome withBus = quillbay({"selection"});
     EXPECT_EQ(withBus.exitStatus, 1);
@@ -163,7 +163,7 @@ TEST_F(SelectionCommand, SaysItOnStandardErrorAloneWhereNobodyShowsNotifications
     EXPECT_EQ(withoutBus.run({"selection"}).errors, QByteArray("quillbay: nothing is selected\n"));
 }
 
-TEST_F(SelectionCommand, SaysWhatItTakes)
+TEST_F(SelectionCommand, ExplainsItsArguments)
 {
     EXPECT_THAT(quillbay({"selection", "--help"}).output.toStdString(), HasSubstr("--clipboard"));
     for (const QByteArrayList &words : {QByteArrayList{"selection", "file"}, {"selection", "--json"}}) {

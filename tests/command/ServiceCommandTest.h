@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-// ServiceCommandTest is the fixture of tests that run the commands which open windows: on a private bus that
-// starts a provider which records what it is asked, and on the private display.
-// Thread: main.
+// ServiceCommandTest is the fixture of tests of the commands that open windows. They run on a private display
+// and a private bus, which starts a provider that records its requests.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include "tests/command/CommandTest.h"
 #include "tests/harness/Display.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,7 +23,7 @@ protected:
         installProvider();
     }
 
-    /// refusal: what the provider says to every request, without blanks.
+    /// refusal: the error with which the provider answers every request; one word.
     static void installProvider(const QByteArray &refusal = {})
     {
         const QString folder = world().data() + QStringLiteral("/dbus-1/services");
@@ -34,9 +36,13 @@ protected:
         file.close();
         reloadServices();
     }
-    static void removeProvider();
+    static void removeProvider()
+    {
+        QDir(world().data() + QStringLiteral("/dbus-1/services")).removeRecursively();
+        reloadServices();
+    }
 
-    /// The requests that have come so far.
+    /// The requests so far.
     static QList<QJsonObject> requests()
     {
         QList<QJsonObject> objects;
@@ -46,7 +52,7 @@ protected:
         }
         return objects;
     }
-    /// The only one; fails the test if there are none or others.
+    /// The only request; fails the test if there are none or several.
     static QJsonObject request()
     {
         EXPECT_EQ(requests().size(), 1);
@@ -55,5 +61,11 @@ protected:
 
 private:
     static QString recordFile() { return world().root() + QStringLiteral("/files/requests"); }
-    static void reloadServices();
+    static void reloadServices()
+    {
+        // Explicitly, as the bus compares modification times in seconds.
+        QDBusConnection::sessionBus().call(QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ReloadConfig")));
+    }
 };

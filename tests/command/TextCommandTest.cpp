@@ -6,7 +6,7 @@ using Outcome = ChildProcess::Outcome;
 
 class TextCommand : public ServiceCommandTest { };
 
-TEST_F(TextCommand, HandsAFileOverAsFlatRtfd)
+TEST_F(TextCommand, SendsAFileAsFlatRtfd)
 {
     const Outcome outcome = quillbay({"text", file("story.txt", "\xff\xfeO\0n\0e\0.\0")});
     EXPECT_EQ(outcome.exitStatus, 0);
@@ -16,7 +16,7 @@ TEST_F(TextCommand, HandsAFileOverAsFlatRtfd)
     EXPECT_TRUE(request()[u"hasDefaults"].toBool());
 }
 
-TEST_F(TextCommand, ReadsWhatCountReads)
+TEST_F(TextCommand, ReadsTheSameDocumentsAsCount)
 {
     const std::vector<std::pair<QByteArray, QString>> documents{
         {"caf\xc3\xa9\n", QStringLiteral("café\n")},
@@ -40,7 +40,7 @@ TEST_F(TextCommand, OpensAWindowForAnEmptyText)
     EXPECT_EQ(request()[u"text"].toString(), QString());
 }
 
-TEST_F(TextCommand, FailsAsCountDoes)
+TEST_F(TextCommand, FailsLikeCount)
 {
     const QByteArray folder = QFile::encodeName(world().home());
     for (const QByteArray &name :
@@ -53,7 +53,7 @@ TEST_F(TextCommand, FailsAsCountDoes)
     EXPECT_EQ(requests().size(), 0);
 }
 
-TEST_F(TextCommand, SaysOnStandardErrorWhatTheProviderSays)
+TEST_F(TextCommand, ReportsTheProvidersErrorOnStandardError)
 {
     installProvider("No_such_text.");
     const Outcome outcome = quillbay({"text"}, "text");
@@ -61,7 +61,7 @@ TEST_F(TextCommand, SaysOnStandardErrorWhatTheProviderSays)
     EXPECT_EQ(outcome.errors, QByteArray("quillbay: No_such_text.\n"));
 }
 
-TEST_F(TextCommand, TakesOneFile)
+TEST_F(TextCommand, AcceptsOneFile)
 {
     const Outcome outcome = quillbay({"text", "a", "b"});
     EXPECT_EQ(outcome.exitStatus, 2);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// service_recorder FILE [REFUSAL]: the provider of the services as the session bus starts it. Appends what it
-// is asked to FILE, as a JSON object on a line, says REFUSAL if there is one, and leaves.
+// service_recorder FILE [REFUSAL]: a service provider, started by the session bus. Appends each request to
+// FILE as a JSON object on a line, answers with the error REFUSAL if it is given, and exits.
 #include "documents/loading/PasteboardText.h"
 #include "platform/services/ServicesRegistration.h"
 #include "preferences/QBYUserDefaultsController.h"
@@ -51,7 +51,7 @@ private:
             {QStringLiteral("forms"), forms},
             {QStringLiteral("text"), text ? text->string().left(1000) : QString()},
             {QStringLiteral("environment"), environment},
-            // A default of the first launch, which is false where there was none.
+            // True only after the first-launch step.
             {QStringLiteral("hasDefaults"),
                 QBYUserDefaultsController::shouldEnforceTrailingPeriodForSentencesCount()},
         };

@@ -50,7 +50,7 @@ TEST_F(FirstLaunchTest, EveryKeyIsWrittenWithItsOwnType)
     EXPECT_EQ(stored(Preference::HasAppBeenOpened), DefaultsValue(true));
 }
 
-TEST_F(FirstLaunchTest, ThePaperIsThatOfTheUsersSurroundingsWithItsMarginsInInches)
+TEST_F(FirstLaunchTest, ThePaperIsTheDefaultPaperWithItsMarginsInInches)
 {
     Controller::configureUserDefaultsOnApplicationLaunch();
     const Paper paper = builtInDefaultPaper();
@@ -59,7 +59,7 @@ TEST_F(FirstLaunchTest, ThePaperIsThatOfTheUsersSurroundingsWithItsMarginsInInch
     EXPECT_EQ(Controller::rightMarginForPaperSizeLineMeasuring(), 0.25);
 }
 
-TEST_F(FirstLaunchTest, LeftAndRightMarginsAreNotMixedUpAndAPaperWithoutANameGivesMarginsOnly)
+TEST_F(FirstLaunchTest, LeftAndRightMarginsAreDistinctAndAPaperWithoutANameGivesMarginsOnly)
 {
     writeFirstLaunchDefaults(m_defaults, [] {
         Paper paper;
@@ -84,7 +84,7 @@ TEST_F(FirstLaunchTest, APaperThatCannotBeReadIsLoggedWithItsStatusAndLeavesTheP
     EXPECT_EQ(stored(Preference::HasAppBeenOpened), DefaultsValue(true));
 }
 
-TEST_F(FirstLaunchTest, ASecondTimeItChangesNothingAndLooksForNoPaper)
+TEST_F(FirstLaunchTest, TheSecondTimeItChangesNothingAndLooksUpNoPaper)
 {
     Controller::configureUserDefaultsOnApplicationLaunch();
     m_defaults.setObject(false, keyOf(Preference::ShowLineCount));
@@ -100,7 +100,7 @@ TEST_F(FirstLaunchTest, ASecondTimeItChangesNothingAndLooksForNoPaper)
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("Tabloid"));
 }
 
-TEST_F(FirstLaunchTest, AnotherProcessThatLaunchesWhileThePaperIsLookedForIsNotOverwritten)
+TEST_F(FirstLaunchTest, AnotherProcessThatLaunchesDuringThePaperLookupIsNotOverwritten)
 {
     writeFirstLaunchDefaults(m_defaults, [] {
         Controller::configureUserDefaultsOnApplicationLaunch();
@@ -112,7 +112,7 @@ TEST_F(FirstLaunchTest, AnotherProcessThatLaunchesWhileThePaperIsLookedForIsNotO
     EXPECT_TRUE(Controller::paperNameForLineMeasuring().has_value());
 }
 
-TEST_F(FirstLaunchTest, ProcessesThatLaunchAtOnceKeepWhatTheUserChangesInEither)
+TEST_F(FirstLaunchTest, ProcessesThatLaunchTogetherKeepTheChangesOfBoth)
 {
     SessionBus::start();
     ChildProcess first(testProgram(QStringLiteral("preference_user")));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// PaperTestPrinter makes the shared print settings those of a printer that the test describes.
+// PaperTestPrinter is a printer that the test describes; PaperTestSettings make it that of the shared
+// settings.
 // Thread: main.  Owner: the test.
 #pragma once
 
@@ -12,8 +13,8 @@ public:
     Result<Printer, PrinterFailure> answer = PrinterFailure::NoPrinter;
 };
 
-/// Papers of 100 x 200 points and margins of 10 points on top, 18 left, 20 at the bottom, 36 right; the first
-/// is the default.
+/// Papers of 100 x 200 points with margins of 10 points at the top, 18 left, 20 at the bottom and 36 right.
+/// The first paper is the default.
 inline Printer printerWith(std::initializer_list<const char *> names, double pageScale = 100)
 {
     Printer printer;
@@ -27,15 +28,15 @@ inline Printer printerWith(std::initializer_list<const char *> names, double pag
     return printer;
 }
 
-/// The shared print settings, with a clock of their own, for as long as this lives.
+/// Replaces the shared print settings, with a clock of their own, until it is destroyed.
 struct PaperTestSettings {
     std::shared_ptr<PaperTestPrinter> printer = std::make_shared<PaperTestPrinter>();
     std::chrono::steady_clock::time_point now{};
     PrintSettings settings{printer, [this] { return now; }};
     ScopedPrintSettings scope{settings};
 
-    /// What the printing system says from now on; asked again at once.
-    void answer(Result<Printer, PrinterFailure> newAnswer)
+    /// Sets the answer of the printing system, and lets the settings ask again at once.
+    void setAnswer(Result<Printer, PrinterFailure> newAnswer)
     {
         printer->answer = std::move(newAnswer);
         now += PrintSettings::queryInterval;

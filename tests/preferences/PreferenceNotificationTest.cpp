@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which change of a preference tells the other processes, and how often.
+// Which changes of preferences notify other processes, and how often.
 #include "platform/session_bus/DistributedNotificationCenter.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/CallingLogSink.h"
@@ -14,9 +14,8 @@ class PreferenceNotificationTest : public QuillbayTest {
 protected:
     void SetUp() override { SessionBus::start(); }
 
-    // The change notification and the marker, as "change" and "write", in the order in which other processes
-    // hear of them. The marker is posted when the setter's write is under way: it fails, and says so in the
-    // log.
+    // The change notification and a marker, as "change" and "write", in the order in which other processes
+    // receive them. The marker is posted while the setter writes: the write fails, which is logged.
     static QStringList postsAroundAWriteBy(const std::function<void()> &setter)
     {
         const QString marker = QStringLiteral("QBYMarkerNotification");
@@ -40,12 +39,12 @@ protected:
         }
         DistributedNotificationCenter::post(last);
         EXPECT_TRUE(waitUntil([&isOver] { return isOver; }));
-        Controller::setLeftMarginForPaperSizeLineMeasuring(0); // the next failure is logged anew
+        Controller::setLeftMarginForPaperSizeLineMeasuring(0); // so that the next failure is logged again
         return posts;
     }
 
-    // How many change notifications other processes hear of a piece of work. The bus keeps the order, so none
-    // is on its way any more when the marker that is posted after it has come.
+    // The number of change notifications that other processes receive. The bus keeps the order, so all of
+    // them arrive before the marker that is posted last.
     static int postsDuring(const std::function<void()> &work)
     {
         const QString marker = QStringLiteral("QBYMarkerNotification");
@@ -96,7 +95,7 @@ TEST_F(PreferenceNotificationTest, TheFirstLaunchStepPostsNothing)
     EXPECT_EQ(postsDuring(Controller::configureUserDefaultsOnApplicationLaunch), 0);
 }
 
-TEST_F(PreferenceNotificationTest, ReadingPostsNothingAndPostingByHandPostsOnce)
+TEST_F(PreferenceNotificationTest, ReadingPostsNothingAndAnExplicitPostPostsOnce)
 {
     EXPECT_EQ(postsDuring([] { Controller::paperNameForLineMeasuring(); }), 0);
     EXPECT_EQ(postsDuring(Controller::postPreferencesChangedNotification), 1);
@@ -139,7 +138,7 @@ TEST_F(PreferenceNotificationTest, EverySetterWritesBeforeItPosts)
             << "setter " << i;
 }
 
-TEST_F(PreferenceNotificationTest, AChangeThatIsNotAnnouncedIsReadByOtherProcessesAllTheSame)
+TEST_F(PreferenceNotificationTest, AChangeThatIsNotAnnouncedIsStillReadByOtherProcesses)
 {
     Controller::configureUserDefaultsOnApplicationLaunch();
     EXPECT_TRUE(Controller::shouldEnforceTrailingPeriodForSentencesCount());
@@ -147,7 +146,7 @@ TEST_F(PreferenceNotificationTest, AChangeThatIsNotAnnouncedIsReadByOtherProcess
     EXPECT_FALSE(Controller::shouldEnforceTrailingPeriodForSentencesCount());
 }
 
-TEST_F(PreferenceNotificationTest, WithoutABusPreferencesAreKeptAllTheSameAndOneLineIsLogged)
+TEST_F(PreferenceNotificationTest, WithoutABusPreferencesAreStoredAndOneLineIsLogged)
 {
     ChildProcess user(testProgram(QStringLiteral("preference_user")));
     user.withoutVariable("DBUS_SESSION_BUS_ADDRESS");

@@ -50,7 +50,7 @@ protected:
 
 TEST_F(PrintSettingsExtensionTest, PapersComeInThePrintersOwnOrder)
 {
-    m_print.answer(printerWith({"Legal", "A4", "Card", "Letter"}));
+    m_print.setAnswer(printerWith({"Legal", "A4", "Card", "Letter"}));
     EXPECT_THAT(names(QBYExtension::getAllPaperObjects(m_print.settings)),
         ElementsAre(
             QStringLiteral("Legal"), QStringLiteral("A4"), QStringLiteral("Card"), QStringLiteral("Letter")));
@@ -67,7 +67,7 @@ TEST_F(PrintSettingsExtensionTest, TheFirstPaperWithExactlyTheNameIsFound)
     Printer printer = printerWith({"Letter", "Card", "Card"});
     printer.papers[0].ppdName.reset();
     printer.papers[1].identifier = QStringLiteral("first");
-    m_print.answer(printer);
+    m_print.setAnswer(printer);
     const auto find = [this](const char *name) {
         return QBYExtension::paperObjectForPaperName(m_print.settings, QString::fromLatin1(name));
     };
@@ -79,7 +79,7 @@ TEST_F(PrintSettingsExtensionTest, TheFirstPaperWithExactlyTheNameIsFound)
 
 TEST_F(PrintSettingsExtensionTest, ThePreferredPaperIsTheCurrentOne)
 {
-    m_print.answer(printerWith({"Letter", "Card"}));
+    m_print.setAnswer(printerWith({"Letter", "Card"}));
     Controller::setCurrentPaperNamePreference(QStringLiteral("Card"));
     EXPECT_EQ(currentName(), QStringLiteral("Card"));
     EXPECT_THAT(m_log.messages(), IsEmpty());
@@ -87,7 +87,7 @@ TEST_F(PrintSettingsExtensionTest, ThePreferredPaperIsTheCurrentOne)
 
 TEST_F(PrintSettingsExtensionTest, WithoutAPreferenceLetterIsTakenAndLoggedAndNothingStored)
 {
-    m_print.answer(printerWith({"A4", "Letter"}));
+    m_print.setAnswer(printerWith({"A4", "Letter"}));
     EXPECT_EQ(currentName(), QStringLiteral("Letter"));
     EXPECT_THAT(m_log.messages(), ElementsAre(noNameLine));
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), std::nullopt);
@@ -95,7 +95,7 @@ TEST_F(PrintSettingsExtensionTest, WithoutAPreferenceLetterIsTakenAndLoggedAndNo
 
 TEST_F(PrintSettingsExtensionTest, APaperThatThePrinterLacksIsReplacedByItsDefaultAndTheChangePostedOnce)
 {
-    m_print.answer(printerWith({"Letter", "A4"}));
+    m_print.setAnswer(printerWith({"Letter", "A4"}));
     Controller::setCurrentPaperNamePreference(QStringLiteral("A5"));
     int posts = 0;
     const NotificationObserver observer(QBYPreferencesChangedNotification);
@@ -106,7 +106,7 @@ TEST_F(PrintSettingsExtensionTest, APaperThatThePrinterLacksIsReplacedByItsDefau
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("Letter"));
     EXPECT_EQ(currentName(), QStringLiteral("Letter")) << "repaired for good";
 
-    // The bus keeps the order, so what was posted before this post has come before it.
+    // The bus keeps the order: all earlier posts arrive before this one.
     Controller::postPreferencesChangedNotification();
     EXPECT_TRUE(waitUntil([&posts] { return posts >= 2; }));
     EXPECT_EQ(posts, 2);
@@ -114,7 +114,7 @@ TEST_F(PrintSettingsExtensionTest, APaperThatThePrinterLacksIsReplacedByItsDefau
 
 TEST_F(PrintSettingsExtensionTest, WithoutAPreferenceAndWithoutLetterTheDefaultIsStored)
 {
-    m_print.answer(printerWith({"A4", "A5"}));
+    m_print.setAnswer(printerWith({"A4", "A5"}));
     EXPECT_EQ(currentName(), QStringLiteral("A4"));
     EXPECT_THAT(m_log.messages(), ElementsAre(noNameLine, noPaperLine));
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("A4"));
@@ -122,11 +122,11 @@ TEST_F(PrintSettingsExtensionTest, WithoutAPreferenceAndWithoutLetterTheDefaultI
 
 TEST_F(PrintSettingsExtensionTest, AfterAReadThatFailedNothingIsStored)
 {
-    m_print.answer(printerWith({"A4", "A5"}));
+    m_print.setAnswer(printerWith({"A4", "A5"}));
     Controller::setCurrentPaperNamePreference(QStringLiteral("A5"));
     UnreachableSuite obstacle;
     {
-        // From the failed read on, the suite can be read and written.
+        // After the failed read, the suite works again.
         const CallingLogSink sink([&obstacle](const LogRecord &) { obstacle.end(); });
         EXPECT_EQ(currentName(), QStringLiteral("A4")) << "for this call";
     }
@@ -134,13 +134,13 @@ TEST_F(PrintSettingsExtensionTest, AfterAReadThatFailedNothingIsStored)
     EXPECT_EQ(currentName(), QStringLiteral("A5"));
 }
 
-TEST_F(PrintSettingsExtensionTest, OfTwoPapersOfOneNameTheFirstIsTheDefaultWhicheverThePrinterMeant)
+TEST_F(PrintSettingsExtensionTest, OfTwoDefaultPapersWithOneNameTheFirstIsTaken)
 {
     Printer printer = printerWith({"Letter", "Card", "Card"});
     printer.papers[1].identifier = QStringLiteral("first");
     printer.papers[2].identifier = QStringLiteral("second");
     printer.defaultPaper = printer.papers[2];
-    m_print.answer(printer);
+    m_print.setAnswer(printer);
     Controller::setCurrentPaperNamePreference(QStringLiteral("A5"));
     const std::optional<QBYPaper> paper = currentPaper();
     ASSERT_TRUE(paper);
@@ -161,29 +161,29 @@ TEST_F(PrintSettingsExtensionTest, ADefaultPaperWithoutANameRepairsNothing)
     Printer printer = printerWith({"Card", "A4"});
     printer.papers[0].ppdName.reset();
     printer.defaultPaper = printer.papers[0];
-    m_print.answer(printer);
+    m_print.setAnswer(printer);
     Controller::setCurrentPaperNamePreference(QStringLiteral("A5"));
     EXPECT_FALSE(currentPaper());
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("A5"));
 }
 
-TEST_F(PrintSettingsExtensionTest, WhileThePrinterIsNotAnsweringTheCatalogueIsLookedInAndNothingIsStored)
+TEST_F(PrintSettingsExtensionTest, WhileThePrinterDoesNotAnswerTheCatalogueIsUsedAndNothingIsStored)
 {
-    m_print.answer(PrinterFailure::NotAnswering);
+    m_print.setAnswer(PrinterFailure::NotAnswering);
     Controller::setCurrentPaperNamePreference(QStringLiteral("OddCard"));
     EXPECT_FALSE(currentPaper());
     EXPECT_THAT(m_log.messages(), ElementsAre(noPaperLine));
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("OddCard"));
 
-    m_print.answer(printerWith({"A4", "OddCard"}));
+    m_print.setAnswer(printerWith({"A4", "OddCard"}));
     EXPECT_EQ(currentName(), QStringLiteral("OddCard")) << "the user's choice has outlived the silence";
 
-    m_print.answer(PrinterFailure::NotAnswering);
+    m_print.setAnswer(PrinterFailure::NotAnswering);
     Controller::setCurrentPaperNamePreference(QStringLiteral("EnvDL"));
     EXPECT_EQ(currentName(), QStringLiteral("EnvDL"));
 }
 
-// With a real print server and the settings that ask it.
+// With a real print server.
 class PrintServerPreferencesTest : public QuillbayTest {
 protected:
     void SetUp() override
@@ -196,7 +196,7 @@ protected:
         return Controller::sharedUserDefaults().objectForKey(keyOf(preference));
     }
 
-    // A query holds its source until it ends, which it must before the next test changes the environment.
+    // A query must end, and release its source, before the next test changes the environment.
     void TearDown() override
     {
         EXPECT_TRUE(waitUntil([this] { return m_source.use_count() == 2; }));
@@ -219,7 +219,7 @@ TEST_F(PrintServerPreferencesTest, TheFirstLaunchTakesNameAndMarginsOfThePrinter
     EXPECT_EQ(Controller::rightMarginForPaperSizeLineMeasuring(), 40 / 72.0);
 }
 
-TEST_F(PrintServerPreferencesTest, TheFirstLaunchReckonsMarginsAtThePageScale)
+TEST_F(PrintServerPreferencesTest, TheFirstLaunchComputesMarginsAtThePageScale)
 {
     PrintServer server;
     server.addQueue("odd");

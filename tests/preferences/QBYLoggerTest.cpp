@@ -5,7 +5,7 @@
 
 using QBYLoggerTest = QuillbayTest;
 
-TEST_F(QBYLoggerTest, TheChannelOfTheWatchedFilesIsMadeOnceAndHasItsSubsystemAndCategory)
+TEST_F(QBYLoggerTest, TheChannelOfWatchedFilesIsCreatedOnceWithItsSubsystemAndCategory)
 {
     LogChannel &channel = QBYLogger::watchFileModelLog();
     EXPECT_EQ(channel.subsystem(), QStringLiteral("com.QBY.watchFileLog"));

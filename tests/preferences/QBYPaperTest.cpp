@@ -15,7 +15,7 @@ protected:
     PaperTestSettings m_print;
 };
 
-TEST_F(QBYPaperTest, ARecordHoldsWhatThePrintingSystemSaysOfThePaper)
+TEST_F(QBYPaperTest, HoldsTheDataOfThePrintingSystem)
 {
     const QBYPaper paper(card());
     EXPECT_TRUE(paper.isCustom());
@@ -29,7 +29,7 @@ TEST_F(QBYPaperTest, ARecordHoldsWhatThePrintingSystemSaysOfThePaper)
     EXPECT_EQ(paper.rightMarginInScreen(), 36);
 }
 
-TEST_F(QBYPaperTest, NameAndIdentifierAreAbsentWhereThePrintingSystemHasNone)
+TEST_F(QBYPaperTest, NameAndIdentifierAreAbsentIfThePrintingSystemHasNone)
 {
     const QBYPaper paper{Paper()};
     EXPECT_EQ(paper.paperName(), std::nullopt);
@@ -39,7 +39,7 @@ TEST_F(QBYPaperTest, NameAndIdentifierAreAbsentWhereThePrintingSystemHasNone)
 
 TEST_F(QBYPaperTest, AtAHundredPerCentAnInchIs72Points)
 {
-    m_print.answer(printerWith({"Letter"}, 100));
+    m_print.setAnswer(printerWith({"Letter"}, 100));
     const QBYPaper paper(card());
     EXPECT_EQ(paper.getScreenScaleFactor(), 1);
     EXPECT_EQ(paper.leftMarginInInches(), 1);
@@ -50,7 +50,7 @@ TEST_F(QBYPaperTest, AtAHundredPerCentAnInchIs72Points)
 
 TEST_F(QBYPaperTest, AtFiftyPerCentAMarginOf72PointsIsHalfAnInchAndAnInchIs144Points)
 {
-    m_print.answer(printerWith({"Letter"}, 50));
+    m_print.setAnswer(printerWith({"Letter"}, 50));
     const QBYPaper paper(card());
     EXPECT_EQ(paper.getScreenScaleFactor(), 0.5);
     EXPECT_EQ(paper.leftMarginInInches(), 0.5);
@@ -63,7 +63,7 @@ TEST_F(QBYPaperTest, AtFiftyPerCentAMarginOf72PointsIsHalfAnInchAndAnInchIs144Po
 TEST_F(QBYPaperTest, WithoutAPrinterOrAnAnswerTheFactorIsOne)
 {
     for (const PrinterFailure failure : {PrinterFailure::NoPrinter, PrinterFailure::NotAnswering}) {
-        m_print.answer(failure);
+        m_print.setAnswer(failure);
         EXPECT_EQ(QBYPaper(card()).getScreenScaleFactor(), 1);
         EXPECT_EQ(QBYPaper(card()).leftMarginInInches(), 1);
     }
@@ -71,7 +71,7 @@ TEST_F(QBYPaperTest, WithoutAPrinterOrAnAnswerTheFactorIsOne)
 
 TEST_F(QBYPaperTest, APaperIsFoundByNameInTheSharedPrintSettings)
 {
-    m_print.answer(printerWith({"Letter", "Card"}));
+    m_print.setAnswer(printerWith({"Letter", "Card"}));
     const std::optional<QBYPaper> paper = QBYPaper::paperObjectForPaperName(QStringLiteral("Card"));
     ASSERT_TRUE(paper);
     EXPECT_EQ(paper->paperID(), QStringLiteral("Card-id"));

@@ -65,7 +65,7 @@ class QBYUserDefaultsControllerTest : public QuillbayTest {
     RecordingLogSink m_log; // there is no bus here, and that is logged
 };
 
-TEST_F(QBYUserDefaultsControllerTest, OnAFreshSuiteEverythingIsOffZeroOrAbsentAndNothingIsWrittenByReading)
+TEST_F(QBYUserDefaultsControllerTest, InANewSuiteEverythingIsOffZeroOrAbsentAndReadingWritesNothing)
 {
     for (const Switch &one : switches())
         EXPECT_FALSE(one.get()) << one.key;
@@ -93,7 +93,7 @@ TEST_F(QBYUserDefaultsControllerTest, EverySwitchReadsAndWritesItsOwnKeyAsABoole
     }
 }
 
-TEST_F(QBYUserDefaultsControllerTest, TheCharacterCountTakesTheOneWithWhiteSpaceAlongAndNotTheOtherWayRound)
+TEST_F(QBYUserDefaultsControllerTest, SettingTheCharacterCountSetsTheOneWithWhiteSpaceButNotViceVersa)
 {
     Controller::setShowCharacterCountPreference(true);
     EXPECT_TRUE(Controller::isShowCharacterCountPreferenceOn());
@@ -116,7 +116,7 @@ TEST_F(QBYUserDefaultsControllerTest, TheMinimumOfSentencesIsAnIntegerAndNeverRe
     EXPECT_EQ(stored("MinNumberOfSentencesToEnforceForParagraphCountDefaultsKey"), DefaultsValue(qint64(-3)));
 }
 
-TEST_F(QBYUserDefaultsControllerTest, ThePaperNameComesBackAsItWasWritten)
+TEST_F(QBYUserDefaultsControllerTest, ThePaperNameIsReadAsItWasWritten)
 {
     Controller::setCurrentPaperNamePreference(QStringLiteral("A4"));
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), QStringLiteral("A4"));
@@ -125,7 +125,7 @@ TEST_F(QBYUserDefaultsControllerTest, ThePaperNameComesBackAsItWasWritten)
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), QString()) << "empty is not absent";
 }
 
-TEST_F(QBYUserDefaultsControllerTest, APaperNameThatIsNoTextReadsAsAbsent)
+TEST_F(QBYUserDefaultsControllerTest, APaperNameThatIsNotTextReadsAsAbsent)
 {
     store(qint64(4), "PaperNameForPageToLineMeasureUserDefaultsKey");
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), std::nullopt);

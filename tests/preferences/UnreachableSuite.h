@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// UnreachableSuite keeps the preferences from being read and written, at once and without any waiting: a file
-// stands in the place of their folder.
+// UnreachableSuite makes reading and writing preferences fail immediately: it replaces their folder by a
+// file.
 // Thread: main.  Owner: the test.
 #pragma once
 
@@ -22,7 +22,7 @@ public:
     UnreachableSuite &operator=(const UnreachableSuite &) = delete;
     ~UnreachableSuite() { end(); }
 
-    /// As before, from now on.
+    /// Restores the folder.
     void end()
     {
         if (!QFileInfo(m_folder).isFile())

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// A second process of the product. It says "ready", and "done" for each request that it reads as a line:
-//   launch-and-hide STATISTIC   runs the first-launch step, then switches a statistic off, as its user would
-//   hide STATISTIC              lines or sentences
+// A second process of the product. It prints "ready", then reads requests, one a line, and prints "done" for
+// each:
+//   launch-and-hide STATISTIC   runs the first-launch step, then hides the statistic
+//   hide STATISTIC              hides "lines" or "sentences"
 //   ignore-endings              switches off the rule on the end of a sentence
 #include "preferences/QBYUserDefaultsController.h"
 

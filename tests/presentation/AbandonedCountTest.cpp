@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Counts that nobody answers, that are stopped, and whose panel goes away.
+// Counts that are never answered, that are stopped, and whose panel is released.
 #include "presentation/WordCounterViewController.h"
 
 #include "tests/presentation/AsyncCount.h"
@@ -15,7 +15,7 @@ namespace {
 
 const std::thread::id mainThread = std::this_thread::get_id();
 
-// Tells where and when it ends.
+// Reports when it is destroyed, and on which thread.
 class WatchedPanel : public WordCounterViewController {
 public:
     explicit WatchedPanel(std::function<void()> atItsEnd)
@@ -63,7 +63,7 @@ TEST_F(AbandonedCountTest, AfterAStopNoCompletionFollowsAndTheNextCountHasANewCo
     service->waitForRequests(1);
     panel.controller->stopAsyncOperation();
     EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
-    service->release(); // its answer comes before the next one
+    service->release(); // its answer arrives before the next one
     count(panel);
     waitForCompletions(1);
     EXPECT_FALSE(isCalled);
@@ -80,10 +80,10 @@ TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentIsNotSentWithoutACon
     CountingPanel panel;
     count(panel);
     panel.controller->stopAsyncOperation();
-    EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; })); // nothing is underway
+    EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; })); // nothing is pending
     EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
     CountingPanel next;
-    count(next); // behind what would have been sent
+    count(next); // would arrive after the stopped one
     waitForCompletions(1);
     EXPECT_THAT(service->requests(), SizeIs(1));
     EXPECT_EQ(panel.texts(), untouched);
@@ -100,7 +100,7 @@ TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentGoesOverTheConnectio
     const auto requests = service->requests();
     ASSERT_THAT(requests, SizeIs(2));
     EXPECT_EQ(requests[0].client, requests[1].client);
-    EXPECT_EQ(panel.texts(), textsFor({8, 7, 6, 5, 4, 3, 2, 1})); // of the answer that came last
+    EXPECT_EQ(panel.texts(), textsFor({8, 7, 6, 5, 4, 3, 2, 1})); // of the last answer
     EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
 }
 
@@ -117,7 +117,7 @@ TEST_F(AbandonedCountTest, AnAnswerThatIsOnItsWayToTheMainThreadIsDroppedByAStop
     service->release();
     WordCounterServiceProtocol(probe.remoteObjectProxy())
         .countWordsForDocX(nullptr, [&answered](const QBYWordCounterStats &) { answered.set_value(); });
-    answered.get_future().wait(); // without the event loop: the answer to the panel has come before
+    answered.get_future().wait(); // without the event loop: the answer to the panel has arrived by now
     panel.controller->stopAsyncOperation();
     EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; }));
     EXPECT_EQ(completions(), 0U);
@@ -160,7 +160,7 @@ TEST_F(AbandonedCountTest, AnAnswerToAPanelThatWasReleasedRunsTheCompletionAndNo
     service->release();
     waitForCompletions(1);
     EXPECT_EQ(model->statsRepresentation(), QBYWordCounterStats());
-    EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(client); })); // with the last answer
+    EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(client); })); // after the last answer
 }
 
 TEST_F(AbandonedCountTest, APanelThatIsReleasedBeforeItsCountIsSentLivesUntilThenAndTheCompletionRuns)
@@ -189,7 +189,7 @@ TEST_F(AbandonedCountTest, APanelThatIsReleasedWithoutACountLeavesTheBus)
     EXPECT_TRUE(waitUntil([&] { return !service->isOnTheBus(client); }));
 }
 
-TEST_F(AbandonedCountTest, ThePanelAndWhatItsCompletionHoldsEndTheirLivesOnTheMainThread)
+TEST_F(AbandonedCountTest, ThePanelAndItsCompletionAreDestroyedOnTheMainThread)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     int panels = 0;
@@ -201,7 +201,7 @@ TEST_F(AbandonedCountTest, ThePanelAndWhatItsCompletionHoldsEndTheirLivesOnTheMa
             EXPECT_EQ(std::this_thread::get_id(), mainThread);
             ++held;
         });
-        // The completion holds the panel too, so that whoever lets it go last ends the panel's life.
+        // The completion holds the panel too, so that releasing it may destroy the panel.
         panel->asyncUpdateStatsWithAttributedString(text, [panel, holder] {});
         if (i % 3 == 1) {
             EXPECT_TRUE(waitUntil([&] { return !panel->isAsyncCountOperationInProgress(); }));
@@ -212,7 +212,7 @@ TEST_F(AbandonedCountTest, ThePanelAndWhatItsCompletionHoldsEndTheirLivesOnTheMa
     EXPECT_TRUE(waitUntil([&] { return panels == rounds && held == rounds; })) << panels << " " << held;
 }
 
-TEST_F(AbandonedCountTest, WithoutABusThePanelStaysBusyAndTheLogHasOneLine)
+TEST_F(AbandonedCountTest, WithoutABusThePanelStaysBusyAndOneLineIsLogged)
 {
     CountingPanel panel;
     const long owners = panel.controller.use_count();
@@ -221,7 +221,7 @@ TEST_F(AbandonedCountTest, WithoutABusThePanelStaysBusyAndTheLogHasOneLine)
     EXPECT_TRUE(panel.controller->isAsyncCountOperationInProgress());
     EXPECT_THAT(m_log.messages(LogLevel::Error), SizeIs(1));
     EXPECT_EQ(completions(), 0U);
-    // Until it is sent, the request owns the panel; before that it would go over the next connection.
+    // The request owns the panel until it is sent; unsent, it would use the next connection.
     EXPECT_TRUE(waitUntil([&] { return panel.controller.use_count() == owners; }));
     panel.controller->stopAsyncOperation();
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});

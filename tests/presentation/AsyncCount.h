@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What the tests of asynchronous counts share: a service that does as planned, a text, completions.
+// AsyncCountTest is the fixture of tests of asynchronous counts: a stand-in for the service, a text,
+// completions.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include "tests/platform/session_bus/ServiceStandIn.h"
@@ -14,7 +16,7 @@ protected:
         return std::make_unique<ServiceStandIn>(WordCounterServiceProtocol::serviceName(), plan);
     }
 
-    /// Counts its calls.
+    /// Increments completions().
     WordCounterViewController::Completion completion()
     {
         return [completions = m_completions] { ++*completions; };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Counts that the panel has made by a service, which here does as the test has planned.
+// Counts through a service, here a stand-in that follows the plan of the test.
 #include "presentation/WordCounterViewController.h"
 
 #include "documents/rtfd/RtfdWriter.h"
@@ -56,7 +56,7 @@ TEST_F(AsyncCountTest, CountsAreCopiedWithoutAnyCheck)
     EXPECT_EQ(panel.controller->wordCounter()->numberOfCharacters(), 9223372036854775808U);
 }
 
-TEST_F(AsyncCountTest, TheServiceIsAskedAsItsDocumentationSays)
+TEST_F(AsyncCountTest, RequestsFollowTheDocumentationOfTheService)
 {
     QXmlStreamReader description(
         readFile(QStringLiteral(BUS_DOCUMENTATION "/Brisklane.QBYServiceProviderXPC.xml")));
@@ -92,7 +92,7 @@ TEST_F(AsyncCountTest, TheServiceIsAskedAsItsDocumentationSays)
     EXPECT_EQ(requests[1].method, names[2]);
 }
 
-TEST_F(AsyncCountTest, AStyledTextTravelsWholeAsFlatRtfd)
+TEST_F(AsyncCountTest, AStyledTextIsSentWholeAsFlatRtfd)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     AttributedStringBuilder builder;
@@ -111,7 +111,7 @@ TEST_F(AsyncCountTest, AStyledTextTravelsWholeAsFlatRtfd)
     EXPECT_FALSE(service->requests().front().isAbsent);
 }
 
-TEST_F(AsyncCountTest, AWordDocumentTravelsAsItsBytesUnopened)
+TEST_F(AsyncCountTest, AWordDocumentIsSentUnopened)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     const QByteArray bytes("no Word document \0 at all", 25);
@@ -177,7 +177,7 @@ TEST_F(AsyncCountTest, TheCompletionRunsOnTheMainThreadBetweenTheLabelsAndTheFla
     EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
 }
 
-TEST_F(AsyncCountTest, ObserversHearOfTheFlagWhenItRisesAndWhenItFalls)
+TEST_F(AsyncCountTest, ObserversAreNotifiedWhenTheFlagIsSetAndCleared)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     CountingPanel panel;
@@ -194,7 +194,7 @@ TEST_F(AsyncCountTest, ObserversHearOfTheFlagWhenItRisesAndWhenItFalls)
     EXPECT_THAT(heard, ElementsAre(true, false, true, false));
 }
 
-TEST_F(AsyncCountTest, ACountDuringACountIsDroppedWithoutATrace)
+TEST_F(AsyncCountTest, ACountDuringACountIsSilentlyDropped)
 {
     const auto service = standIn({"hold", "answer 0 0 0 0 0 0 0 0"});
     CountingPanel panel;
@@ -208,7 +208,7 @@ TEST_F(AsyncCountTest, ACountDuringACountIsDroppedWithoutATrace)
     service->release();
     waitForCompletions(1);
     EXPECT_EQ(panel.texts(), oneToEight);
-    count(panel); // behind what would have been sent
+    count(panel); // would arrive after the dropped one
     waitForCompletions(2);
     EXPECT_THAT(service->requests(), SizeIs(2));
     EXPECT_FALSE(isDropped);
@@ -232,7 +232,7 @@ TEST_F(AsyncCountTest, ACountThatACompletionStartsIsDropped)
     EXPECT_FALSE(isDropped);
 }
 
-TEST_F(AsyncCountTest, BothKindsOfCountsGoOverOneConnectionAndEveryPanelHasItsOwn)
+TEST_F(AsyncCountTest, BothKindsOfCountsShareOneConnectionAndEveryPanelHasItsOwn)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     CountingPanel panel;
@@ -249,7 +249,7 @@ TEST_F(AsyncCountTest, BothKindsOfCountsGoOverOneConnectionAndEveryPanelHasItsOw
     EXPECT_NE(requests[1].client, requests[2].client);
 }
 
-TEST_F(AsyncCountTest, AServiceThatDiesIsAskedOnceMore)
+TEST_F(AsyncCountTest, ARequestThatIsLostWithTheServiceIsSentAgain)
 {
     const auto service = standIn({"crash", "answer 1 2 3 4 5 6 7 8"});
     CountingPanel panel;

@@ -11,11 +11,11 @@
 
 #include <memory>
 
-/// The texts of a panel that nothing was counted for.
+/// The texts of the labels before the first count.
 inline const QStringList untouched(8, QString());
 
-/// In the short style, as the hosts of panels set it. All eight labels are visible unless the test prefers
-/// otherwise before it makes the panel.
+/// Uses the short style, like the hosts of panels. All eight labels are visible unless the test changes the
+/// preferences before it creates the panel.
 class CountingPanel {
 public:
     explicit CountingPanel(
@@ -37,7 +37,7 @@ public:
         delegate.calls.clear();
     }
 
-    /// What the eight labels show.
+    /// The texts of the eight labels.
     [[nodiscard]] QStringList texts() const
     {
         QStringList texts;
@@ -52,7 +52,7 @@ public:
     RecordingLayoutDelegate delegate;
 };
 
-/// What the labels show for these counts.
+/// The texts of the labels for these counts.
 inline QStringList textsFor(const std::vector<int> &counts)
 {
     return {QStringLiteral("•Words: %1").arg(counts.at(0)),

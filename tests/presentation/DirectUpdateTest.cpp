@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the panel counts or shows by itself.
+// Updates of the panel without the counting service.
 #include "presentation/WordCounterViewController.h"
 
 #include "platform/system/MainQueue.h"
@@ -16,9 +16,8 @@ const QStringList zeros = textsFor({0, 0, 0, 0, 0, 0, 0, 0});
 const AttributedString twoWords(QStringLiteral("Two words."));
 const QStringList twoWordsCounted = textsFor({2, 9, 10, 1, 1, 1, 1, 0});
 
-/// Runs the event loop and looks after every turn: after what is scheduled now, after what that has
-/// scheduled.
-void lookAfterEachTurn(const std::vector<std::function<void()>> &looks)
+/// Runs the event loop and makes one check after each turn.
+void checkAfterEachTurn(const std::vector<std::function<void()>> &looks)
 {
     size_t taken = 0;
     std::function<void()> look = [&] {
@@ -32,7 +31,7 @@ void lookAfterEachTurn(const std::vector<std::function<void()>> &looks)
 
 void runOneTurn()
 {
-    lookAfterEachTurn({[] {}});
+    checkAfterEachTurn({[] {}});
 }
 
 class FixedMeasurer : public TextMeasurer {
@@ -47,7 +46,7 @@ public:
 
 class DirectUpdateTest : public QuillbayTest { };
 
-TEST_F(DirectUpdateTest, AModelIsThereFromTheStartAndEmpty)
+TEST_F(DirectUpdateTest, HasAnEmptyModelFromTheStart)
 {
     const auto controller = std::make_shared<WordCounterViewController>();
     ASSERT_NE(controller->wordCounter(), nullptr);
@@ -100,7 +99,7 @@ TEST_F(DirectUpdateTest, AStringIsCountedTwoTurnsLaterInHelveticaOf12Points)
     CountingPanel panel;
     panel.controller->updateStatsWithString(twoWords.string());
     EXPECT_EQ(panel.texts(), untouched);
-    lookAfterEachTurn({[&panel] { EXPECT_EQ(panel.texts(), untouched); },
+    checkAfterEachTurn({[&panel] { EXPECT_EQ(panel.texts(), untouched); },
         [&panel] { EXPECT_EQ(panel.texts(), twoWordsCounted); }});
     TextAttributes helvetica;
     helvetica.font = FontAttributes{.family = QStringLiteral("Helvetica"), .pointSize = 12};
@@ -108,7 +107,7 @@ TEST_F(DirectUpdateTest, AStringIsCountedTwoTurnsLaterInHelveticaOf12Points)
         AttributedString(twoWords.string(), helvetica));
 }
 
-TEST_F(DirectUpdateTest, EveryStringIsWarnedOfInTheLog)
+TEST_F(DirectUpdateTest, EveryStringLogsAWarning)
 {
     CountingPanel panel;
     const RecordingLogSink log;
@@ -121,7 +120,7 @@ TEST_F(DirectUpdateTest, EveryStringIsWarnedOfInTheLog)
     EXPECT_THAT(log.messages(), ElementsAre(warning));
     panel.controller->updateStatsWithString({});
     EXPECT_THAT(log.messages(), ElementsAre(warning, warning));
-    lookAfterEachTurn({[] {}, [] {}});
+    checkAfterEachTurn({[] {}, [] {}});
     EXPECT_EQ(panel.texts(), zeros);
 }
 
@@ -165,7 +164,7 @@ TEST_F(DirectUpdateTest, LabelsTakeTheSizeOfTheirTextsAndStayWhereTheyAre)
     std::vector<QPointF> origins;
     for (const auto &label : panel.labels) {
         label->setTextMeasurer(std::make_shared<FixedMeasurer>());
-        label->setFrameOrigin(label->frame().topLeft() + QPointF(1, 1)); // out of its place
+        label->setFrameOrigin(label->frame().topLeft() + QPointF(1, 1)); // to a wrong place
         origins.push_back(label->frame().topLeft());
     }
     panel.delegate.calls.clear();
@@ -178,7 +177,7 @@ TEST_F(DirectUpdateTest, LabelsTakeTheSizeOfTheirTextsAndStayWhereTheyAre)
     EXPECT_THAT(panel.delegate.calls, IsEmpty());
 }
 
-TEST_F(DirectUpdateTest, APanelWithoutAViewCountsAllTheSame)
+TEST_F(DirectUpdateTest, APanelWithoutAViewCountsToo)
 {
     const auto controller = std::make_shared<WordCounterViewController>();
     controller->updateStatsWithAttributedString(twoWords);
@@ -186,14 +185,14 @@ TEST_F(DirectUpdateTest, APanelWithoutAViewCountsAllTheSame)
     EXPECT_EQ(controller->wordCounter()->numberOfWords(), 2U);
 }
 
-TEST_F(DirectUpdateTest, WhatIsScheduledKeepsThePanelAlive)
+TEST_F(DirectUpdateTest, AScheduledUpdateKeepsThePanelAlive)
 {
     auto controller = std::make_shared<WordCounterViewController>();
     const std::weak_ptr<WordCounterViewController> watched = controller;
     const std::shared_ptr<WordCounterModel> model = controller->wordCounter();
     controller->updateStatsWithString(twoWords.string());
     controller.reset();
-    lookAfterEachTurn({[&watched] { EXPECT_FALSE(watched.expired()); }, [] {}});
+    checkAfterEachTurn({[&watched] { EXPECT_FALSE(watched.expired()); }, [] {}});
     EXPECT_EQ(model->numberOfWords(), 2U);
     EXPECT_TRUE(watched.expired());
 }

@@ -83,7 +83,7 @@ TEST_F(HtmlRepresentationTest, BulletsOfTheTitleStay)
     EXPECT_EQ(fragment(*panelOfNone(), QStringLiteral("•")), QStringLiteral("<strong>•</strong></br>"));
 }
 
-TEST_F(HtmlRepresentationTest, ALabelWithoutTextAddsNotEvenALineBreak)
+TEST_F(HtmlRepresentationTest, ALabelWithoutTextAddsNoLineBreak)
 {
     const auto panel = panelOfTwo();
     panel->labels[0]->setStringValue({});
@@ -127,19 +127,19 @@ TEST_F(HtmlRepresentationTest, AsStyledTextItHasALineForEveryLabelAndABoldTitle)
     EXPECT_EQ(styled->attributesAt(styled->length() - 1).font->weight, 400);
 }
 
-TEST_F(HtmlRepresentationTest, AsStyledTextNothingIsAnEmptyText)
+TEST_F(HtmlRepresentationTest, WithoutLabelsTheStyledTextIsEmpty)
 {
     const auto styled = panelOfNone()->controller->attributedStringRepresentationWithTitle(std::nullopt);
     ASSERT_TRUE(styled);
     EXPECT_TRUE(styled->isEmpty());
 }
 
-TEST_F(HtmlRepresentationTest, HalfASurrogatePairHasNoStyledText)
+TEST_F(HtmlRepresentationTest, AnUnpairedSurrogateHasNoStyledText)
 {
     EXPECT_FALSE(panelOfTwo()->controller->attributedStringRepresentationWithTitle(QString(QChar(0xD83D))));
 }
 
-TEST_F(HtmlRepresentationTest, WhatTheReaderOfWebPagesRefusesHasNoStyledText)
+TEST_F(HtmlRepresentationTest, HtmlThatTheReaderRejectsHasNoStyledText)
 {
     const QString deep = QStringLiteral("<div>").repeated(2000);
     EXPECT_FALSE(panelOfTwo()->controller->attributedStringRepresentationWithTitle(deep));

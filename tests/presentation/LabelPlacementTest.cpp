@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the panel places its labels. All numbers are points.
+// The placement of the labels. All numbers are points.
 #include "tests/harness/QuillbayTest.h"
 #include "tests/presentation/StatsPanel.h"
 
@@ -19,7 +19,7 @@ protected:
     }
 };
 
-/// As the hosts of the panel do it.
+/// Fits the panel at every placement, like its hosts.
 class FittingHost : public WordCounterViewControllerLayoutDelegate {
 public:
     explicit FittingHost(BaseWordCounterViewController &panel)
@@ -126,7 +126,7 @@ TEST_F(LabelPlacement, FittingEndsThePanelFiveAndAHalfPointsBelowTheLastLabel)
     EXPECT_TRUE(panel->delegate.calls.empty()) << "the same size again is no frame change";
 }
 
-TEST_F(LabelPlacement, AHostThatFitsAtEveryPlacementComesToRest)
+TEST_F(LabelPlacement, FittingAtEveryPlacementTerminates)
 {
     preferOnly({Preference::ShowLineCount});
     const auto panel = stackedPanel();
@@ -152,7 +152,7 @@ TEST_F(LabelPlacement, WithoutAVisibleLabelEachFittingGrowsThePanelByFivePoints)
     EXPECT_EQ(panel->view->frame().size(), QSizeF(200, 130));
 }
 
-TEST_F(LabelPlacement, AFrameChangePlacesTheLabelsAnewAndSnapsEverySubviewDownToWholePoints)
+TEST_F(LabelPlacement, AFrameChangePlacesTheLabelsAgainAndRoundsEverySubviewDownToWholePoints)
 {
     preferOnly({});
     StatsPanel panel;
@@ -193,7 +193,7 @@ TEST_F(LabelPlacement, LabelsTakeTheSizesOfTheirTextsAndArePlacedOnce)
     EXPECT_EQ(panel->delegate.calls, std::vector<std::string>{"relayout"});
 }
 
-TEST_F(LabelPlacement, APanelThatHasGoneFollowsItsViewNoLonger)
+TEST_F(LabelPlacement, ADestroyedPanelNoLongerFollowsItsView)
 {
     preferOnly({});
     std::shared_ptr<View> view;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which labels the panel shows, in which order, and what it tells its delegate of it.
+// Which labels the panel shows, in which order, and how it notifies its delegate.
 #include "tests/harness/QuillbayTest.h"
 #include "tests/presentation/StatsPanel.h"
 
@@ -12,7 +12,7 @@ using Calls = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(LabelVisibility, BeforeLoadingThereAreNoListsAndTheDelegateIsToldOfAPlacementOfNothing)
+TEST_F(LabelVisibility, BeforeLoadingTheListsAreEmptyAndTheDelegateIsNotifiedOfAPlacement)
 {
     StatsPanel panel;
     EXPECT_TRUE(panel.controller.visibleTextfieldsForLayout().empty());
@@ -100,7 +100,7 @@ TEST_F(LabelVisibility, LabelsAreShownInTheOrderOfTheirTags)
     EXPECT_EQ(panel.label(8)->frame().topLeft(), QPointF(10, 90)) << "the lowest tag takes the first slot";
 }
 
-TEST_F(LabelVisibility, AChangeOfTheNumberIsToldAfterThePlacement)
+TEST_F(LabelVisibility, AChangeOfTheNumberIsNotifiedAfterThePlacement)
 {
     preferOnly(everyStatistic);
     StatsPanel panel;
@@ -127,7 +127,7 @@ TEST_F(LabelVisibility, OneLabelForAnotherIsNoChangeOfTheNumber)
     EXPECT_EQ(panel.delegate.calls, Calls{"relayout"});
 }
 
-TEST_F(LabelVisibility, ADelegateMayHearOfPlacementsOnlyAndMayBeAbsentOrGone)
+TEST_F(LabelVisibility, ADelegateMayImplementPlacementsOnlyAndMayBeAbsentOrDestroyed)
 {
     class Host : public WordCounterViewControllerLayoutDelegate {
     public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The interface file of the panel, and what the panel takes from one.
+// The interface file of the panel, and what the panel reads from it.
 #include "tests/harness/QuillbayTest.h"
 #include "tests/presentation/StatsPanel.h"
 
@@ -40,7 +40,7 @@ TEST_F(PanelInterfaceFile, GivesEightLabelsWithTagsInCanonicalOrderInSlots)
         QStringLiteral("numberOfIndentedParagraphsTextField"));
 }
 
-TEST_F(PanelInterfaceFile, MaySayHowTheLabelsArePlaced)
+TEST_F(PanelInterfaceFile, MaySetTheLabelPositionPolicy)
 {
     preferOnly({});
     BaseWordCounterViewController panel(changedFile("<number>0</number>", "<number>7</number>"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The statistics panel in a real window of a program of its own, as the user sees it.
+// The statistics panel on the screen, in a real window of another program.
 #include "tests/harness/Display.h"
 #include "tests/harness/FakePortal.h"
 #include "tests/harness/QuillbayTest.h"
@@ -21,7 +21,7 @@ const char *const hostInterface = R"(<ui version="4.0"><widget class="QWidget" n
 constexpr uint darkScheme = 1;
 constexpr uint lightScheme = 2;
 
-/// A host in a process of its own, and what the display says of its window.
+/// A host in a process of its own, and its window on the display.
 class HostProgram {
 public:
     explicit HostProgram(const QString &interfaceFile, double scale = 1)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel follows the preferences that any process of the product changes.
+// The panel follows changes of the preferences by any process.
 #include "tests/harness/QuillbayTest.h"
 #include "tests/presentation/StatsPanel.h"
 
@@ -24,7 +24,7 @@ protected:
     using Calls = std::vector<std::string>;
 
 private:
-    std::optional<ChildProcess> m_otherProcess; // made in SetUp(): it takes the environment of that moment
+    std::optional<ChildProcess> m_otherProcess; // created in SetUp(), with the environment of the test
 };
 
 } // namespace
@@ -42,7 +42,7 @@ TEST_F(PreferenceChange, AnotherProcessThatHidesAStatisticHasTheLabelsPlacedTwic
     EXPECT_TRUE(panel.label(5)->isHidden());
 }
 
-TEST_F(PreferenceChange, AChangeThatHidesOneAndShowsAnotherIsToldOfAsTwoPlacementsOnly)
+TEST_F(PreferenceChange, AChangeThatHidesOneAndShowsAnotherIsNotifiedAsTwoPlacementsOnly)
 {
     preferOnly({Preference::ShowSentencesCount});
     StatsPanel panel;
@@ -55,7 +55,7 @@ TEST_F(PreferenceChange, AChangeThatHidesOneAndShowsAnotherIsToldOfAsTwoPlacemen
     EXPECT_EQ(panel.visibleTags(), (std::vector<qint64>{1, 7}));
 }
 
-TEST_F(PreferenceChange, APanelThatHasGoneHearsNothing)
+TEST_F(PreferenceChange, ADestroyedPanelIsNotNotified)
 {
     preferOnly(everyStatistic);
     StatsPanel witness;

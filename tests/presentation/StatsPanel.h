@@ -14,7 +14,7 @@
 #include <span>
 #include <vector>
 
-/// Switches these statistics on and all others off, without telling anyone.
+/// Switches these statistics on and all others off, without a notification.
 inline void preferOnly(std::initializer_list<Preference> statistics)
 {
     UserDefaults &defaults = QBYUserDefaultsController::sharedUserDefaults();
@@ -31,7 +31,7 @@ inline constexpr std::initializer_list<Preference> everyStatistic = {Preference:
     Preference::ShowLineCount, Preference::ShowHardLineBreaksCount, Preference::ShowParagraphCount,
     Preference::ShowHardIndentParagraphCount};
 
-/// Notes down what it hears.
+/// Records its calls.
 class RecordingLayoutDelegate : public WordCounterViewControllerLayoutDelegate {
 public:
     void wordCounterViewControllerDidRelayoutLabels() override { calls.push_back("relayout"); }

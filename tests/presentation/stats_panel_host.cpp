@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// A program with one window that shows a statistics panel with made-up counts, as the hosts of the product
-// do. Its argument is its own interface file: a root view with a place for the panel named "statsPanel",
-// whose property labelPositionPolicy says how the labels are placed. It prints the identifier of its window,
-// then its frame in points for every line of input, and ends with its input.
+// A program that shows a statistics panel with made-up counts in a window, like the hosts of the product. Its
+// argument is an interface file: a root view with a placeholder for the panel named "statsPanel", whose
+// property labelPositionPolicy selects the placement. It prints the identifier of its window, then the frame
+// in points for every line of input, and exits at the end of its input.
 #include "common_views/QBYWindow.h"
 #include "common_views/WindowExtension.h"
 #include "platform/views/InterfaceFile.h"

@@ -14,7 +14,7 @@ using Preferences = QBYUserDefaultsController;
 
 namespace {
 
-// The oracle: the lines that the layout manager of the text view shows, one glyph after the other.
+// The oracle: walks through the line fragments of the text view's layout manager.
 quint64 linesByGlyphs(LayoutManager &layoutManager)
 {
     quint64 lines = 0;
@@ -61,7 +61,7 @@ TEST_F(MeasuringSurfaceTest, AnEmptyTextHasNoLines)
     EXPECT_EQ(lines(QString()), 0U);
 }
 
-TEST_F(MeasuringSurfaceTest, EveryLineEndMakesALineAndTheEmptyLineBehindTheLastDoesNotCount)
+TEST_F(MeasuringSurfaceTest, EveryLineEndEndsALineAndTheEmptyLineAfterTheLastDoesNotCount)
 {
     EXPECT_EQ(lines(QStringLiteral("a")), 1U);
     EXPECT_EQ(lines(QStringLiteral("a\n")), 1U);
@@ -69,7 +69,7 @@ TEST_F(MeasuringSurfaceTest, EveryLineEndMakesALineAndTheEmptyLineBehindTheLastD
     EXPECT_EQ(lines(QStringLiteral("a\r\nb\u2028c\u2029d\re")), 5U);
 }
 
-TEST_F(MeasuringSurfaceTest, ALongParagraphHasSeveralLinesAndMoreOfThemBetweenWiderMargins)
+TEST_F(MeasuringSurfaceTest, ALongParagraphHasSeveralLinesAndMoreWithWiderMargins)
 {
     const quint64 wide = lines(longParagraph);
     const quint64 narrow = lines(longParagraph, withMargins(150, 150));
@@ -78,7 +78,7 @@ TEST_F(MeasuringSurfaceTest, ALongParagraphHasSeveralLinesAndMoreOfThemBetweenWi
     EXPECT_EQ(lines(longParagraph, withMargins(200, 100)), narrow);
 }
 
-TEST_F(MeasuringSurfaceTest, MarginsWithoutWidthLeaveTheColumnOfTheCallBefore)
+TEST_F(MeasuringSurfaceTest, MarginsThatLeaveNoWidthKeepTheColumnOfThePreviousCall)
 {
     const quint64 narrow = lines(longParagraph, withMargins(150, 150));
     EXPECT_EQ(lines(longParagraph, withMargins(306, 306)), narrow);
@@ -86,7 +86,7 @@ TEST_F(MeasuringSurfaceTest, MarginsWithoutWidthLeaveTheColumnOfTheCallBefore)
     EXPECT_EQ(m_surface.preview().previewTextView()->frame().width(), 312);
 }
 
-TEST_F(MeasuringSurfaceTest, MarginsWithoutWidthAtTheFirstCallGiveEveryGraphemeALine)
+TEST_F(MeasuringSurfaceTest, MarginsThatLeaveNoWidthAtTheFirstCallGiveEveryGraphemeALine)
 {
     EXPECT_EQ(lines(QStringLiteral("abc"), withMargins(306, 306)), 3U);
 }
@@ -104,7 +104,7 @@ TEST_F(MeasuringSurfaceTest, TheWindowsFrameIsSetOnlyWhenThePaperHasChanged)
 {
     lines(QStringLiteral("a"));
     EXPECT_EQ(m_surface.window().frame(), QRectF(0, 0, 612, 792));
-    // Whoever sets the frame moves the window back.
+    // Setting the frame again would move the window back.
     const QRectF elsewhere(30, 40, 612, 792);
     m_surface.window().setFrame(elsewhere, true, false);
     lines(QStringLiteral("b"), withMargins(100, 100));
@@ -143,7 +143,7 @@ TEST_F(MeasuringSurfaceTest, OnASurfaceWithTwoPixelsAPointMarginsAreHalfAsWideAn
     EXPECT_EQ(page.paperSize, QSizeF(612, 792));
 }
 
-TEST_F(MeasuringSurfaceTest, WithoutAPaperTheSizeAndMarginsOfThePrintSettingsHoldAndOneLineIsLogged)
+TEST_F(MeasuringSurfaceTest, WithoutAPaperTheSizeAndMarginsOfThePrintSettingsAreUsedAndAnErrorIsLogged)
 {
     PrintSettings settings(std::make_shared<SilentPrinter>());
     Preferences::setCurrentPaperNamePreference(QStringLiteral("NoSuchPaper"));
@@ -159,7 +159,7 @@ TEST_F(MeasuringSurfaceTest, WithoutAPaperTheSizeAndMarginsOfThePrintSettingsHol
     EXPECT_EQ(Preferences::paperNameForLineMeasuring(), QStringLiteral("NoSuchPaper"));
 }
 
-TEST_F(MeasuringSurfaceTest, TheLinesOfAStyledTextFollowThePreferencesOfTheMoment)
+TEST_F(MeasuringSurfaceTest, TheLinesOfAStyledTextFollowTheCurrentPreferences)
 {
     Preferences::setCurrentPaperNamePreference(QStringLiteral("A3"));
     const AttributedString text(longParagraph);
@@ -171,7 +171,7 @@ TEST_F(MeasuringSurfaceTest, TheLinesOfAStyledTextFollowThePreferencesOfTheMomen
     EXPECT_GT(QBYExtension::numberOfLines(text), onA6);
 }
 
-TEST_F(MeasuringSurfaceTest, TheTextsOwnFontsGovernTheLayout)
+TEST_F(MeasuringSurfaceTest, TheLayoutUsesTheFontsOfTheText)
 {
     TextAttributes large;
     large.font = FontAttributes{.family = QStringLiteral("Helvetica"), .pointSize = 36};
@@ -179,7 +179,7 @@ TEST_F(MeasuringSurfaceTest, TheTextsOwnFontsGovernTheLayout)
         m_surface.numberOfLines(AttributedString(longParagraph), letter));
 }
 
-TEST_F(MeasuringSurfaceTest, TellsHowFarItHasComeAfterEveryParagraph)
+TEST_F(MeasuringSurfaceTest, ReportsProgressAfterEveryParagraph)
 {
     std::vector<qsizetype> positions;
     m_surface.numberOfLines(AttributedString(QStringLiteral("one\n\r\ntwo")), letter,

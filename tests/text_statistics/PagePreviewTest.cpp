@@ -36,7 +36,7 @@ TEST_F(PagePreview, ThePageIsTheDocumentOfTheControllersViewAndHoldsTheColumn)
     EXPECT_EQ(page().subviews()[0].get(), &column());
 }
 
-TEST_F(PagePreview, DoesNotScrollAndShrinksTo15PerCentAtMost)
+TEST_F(PagePreview, DoesNotScrollAndShrinksToNoLessThan15PerCent)
 {
     EXPECT_TRUE(scrollView().disableScrolling());
     EXPECT_EQ(scrollView().minMagnification(), 0.15);
@@ -84,7 +84,7 @@ TEST_F(PagePreview, LoadingAgainOnlyPutsTheColumnOnTopAndScrollsToTheTop)
     EXPECT_EQ(scrollView().magnification(), 0.5);
 }
 
-TEST_F(PagePreview, LoadingMakesAMissingPageAndKeepsTheColumn)
+TEST_F(PagePreview, LoadingCreatesAMissingPageAndKeepsTheColumn)
 {
     const std::shared_ptr<TextView> columnBefore = m_preview.previewTextView();
     scrollView().setDocumentView(nullptr);
@@ -97,7 +97,7 @@ TEST_F(PagePreview, LoadingMakesAMissingPageAndKeepsTheColumn)
     EXPECT_EQ(columnBefore->superview(), &page());
 }
 
-TEST_F(PagePreview, LoadingMakesAMissingScrollViewWithAPage)
+TEST_F(PagePreview, LoadingCreatesAMissingScrollViewWithAPage)
 {
     const std::shared_ptr<TextView> columnBefore = m_preview.previewTextView();
     m_preview.setView(nullptr);
@@ -149,13 +149,13 @@ TEST_F(PagePreview, InsetsThatLeaveTheColumnNoWidthChangeNothing)
     }
 }
 
-TEST_F(PagePreview, InsetsThatLeaveTheColumnHalfAPointAreTaken)
+TEST_F(PagePreview, InsetsThatLeaveTheColumnHalfAPointAreUsed)
 {
     m_preview.setPreviewContentFrameSize(letter, 300, 311.5);
     EXPECT_EQ(column().frame(), QRectF(300, 0, 0.5, unlimited));
 }
 
-TEST_F(PagePreview, TellsHowMuchRoomIsLeftBesideTheShrunkPage)
+TEST_F(PagePreview, ReportsTheSpaceBesideTheShrunkPage)
 {
     m_preview.setPreviewContentFrameSize(letter, 72, 90);
     EXPECT_EQ(m_preview.embeddedTextViewOffsetMagnifiedWidth(), 0);
@@ -173,7 +173,7 @@ TEST_F(PagePreview, NamesThePageSizeInInches)
     EXPECT_EQ(m_preview.formattedPageSizeInInches(), QStringLiteral("8.264 x 11.694 inches"));
 }
 
-TEST_F(PagePreview, NamesThePageSizeInInchesWhateverTheScreensScaleFactor)
+TEST_F(PagePreview, NamesThePageSizeInInchesAtEveryScaleFactor)
 {
     Window window;
     window.setBackingScaleFactor(2);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The counts of a text by paragraphs against a count over the whole text at once, on random texts.
+// The counts of random texts, added up over their paragraphs, against counts of the whole text.
 #include "tests/harness/QuillbayTest.h"
 #include "text_statistics/TextCounter.h"
 
@@ -7,7 +7,7 @@
 
 namespace {
 
-// One segmentation over the whole text, the rules in the order of their definition.
+// Segments the whole text, and applies the rules in the order of their definition.
 class WholeTextOracle {
 public:
     explicit WholeTextOracle(const TextRules &rules)

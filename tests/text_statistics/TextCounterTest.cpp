@@ -5,7 +5,6 @@
 
 #include <vector>
 
-using namespace FixedRules;
 using ::testing::ElementsAre;
 
 namespace {
@@ -28,15 +27,15 @@ protected:
 
 } // namespace
 
-TEST_F(TextCounterTest, TheEmptyTextHasNothing)
+TEST_F(TextCounterTest, TheEmptyTextHasZeros)
 {
     EXPECT_EQ(m_counter.count(u"", m_rules), QBYWordCounterStats());
-    EXPECT_EQ(numberOfHardLineBreaks(u""), 0U);
-    EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(u""), 0U);
-    EXPECT_FALSE(endsWithPeriod(u""));
-    EXPECT_FALSE(endsWithQuestionMark(u""));
-    EXPECT_FALSE(endsWithExclamationPoint(u""));
-    EXPECT_FALSE(endsWithTerminalPunctuationMark(u""));
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u""), 0U);
+    EXPECT_EQ(FixedRules::numberOfCharactersNotIncludingWhiteSpace(u""), 0U);
+    EXPECT_FALSE(FixedRules::endsWithPeriod(u""));
+    EXPECT_FALSE(FixedRules::endsWithQuestionMark(u""));
+    EXPECT_FALSE(FixedRules::endsWithExclamationPoint(u""));
+    EXPECT_FALSE(FixedRules::endsWithTerminalPunctuationMark(u""));
 }
 
 TEST_F(TextCounterTest, DropsALoneLetterOtherThanAIOXInAmericanEnglish)
@@ -48,7 +47,7 @@ TEST_F(TextCounterTest, DropsALoneLetterOtherThanAIOXInAmericanEnglish)
     EXPECT_EQ(words(QStringLiteral("55")), 1U);
     EXPECT_EQ(words(QStringLiteral("I saw a b c x")), 4U);
     EXPECT_EQ(words(QStringLiteral("a A i I o O x X")), 8U);
-    // Letters whose lower-case or compatibility form is one of the four are still others.
+    // Letters whose lower-case or compatibility form is one of the four are not counted.
     EXPECT_EQ(words(QStringLiteral("\u0130 \u0131 \u00AA \u00BA \uFF21 \u00E4")), 0U);
     EXPECT_EQ(words(QStringLiteral("\u5B57")), 0U);
     EXPECT_EQ(words(QStringLiteral("\U00020000")), 1U); // two code units
@@ -63,7 +62,7 @@ TEST_F(TextCounterTest, CountsLoneLettersInEveryOtherLocale)
     }
 }
 
-TEST_F(TextCounterTest, AsksForTheLocaleAnewForEveryWordItMayDecideAbout)
+TEST_F(TextCounterTest, ReadsTheLocaleForEveryWordThatItMayDecideAbout)
 {
     int asked = 0;
     m_rules.localeIdentifier = [&asked] {
@@ -80,15 +79,16 @@ TEST_F(TextCounterTest, WhiteSpaceIsTheSeparatorsAndFiveControlsAndNextLine)
             || character.category() == QChar::Separator_Line
             || character.category() == QChar::Separator_Paragraph;
         const bool isWhiteSpace = isSeparator || (unit >= 0x09 && unit <= 0x0D) || unit == 0x85;
-        EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(QString(character)), isWhiteSpace ? 0U : 1U)
+        EXPECT_EQ(
+            FixedRules::numberOfCharactersNotIncludingWhiteSpace(QString(character)), isWhiteSpace ? 0U : 1U)
             << unit;
     }
 }
 
 TEST_F(TextCounterTest, CharactersAreUtf16CodeUnits)
 {
-    EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(u"\U0001F600"), 2U);
-    EXPECT_EQ(numberOfCharactersNotIncludingWhiteSpace(u"e\u0301 \u00A0x"), 3U);
+    EXPECT_EQ(FixedRules::numberOfCharactersNotIncludingWhiteSpace(u"\U0001F600"), 2U);
+    EXPECT_EQ(FixedRules::numberOfCharactersNotIncludingWhiteSpace(u"e\u0301 \u00A0x"), 3U);
     EXPECT_EQ(m_counter.count(u"e\u0301 \u00A0x\r\n", m_rules).numberOfCharactersIncludingWhitespace, 7U);
 }
 
@@ -99,7 +99,7 @@ TEST_F(TextCounterTest, ASentenceNeedsACountedWord)
     EXPECT_EQ(sentences(QStringLiteral("Hello there. ... ??? b. It is.")), 3U);
 }
 
-TEST_F(TextCounterTest, WithTheRuleOnASentenceNeedsTerminalPunctuation)
+TEST_F(TextCounterTest, WithTheRuleASentenceNeedsTerminalPunctuation)
 {
     EXPECT_EQ(sentences(QStringLiteral("Hello world")), 1U);
     m_rules.sentencesNeedTerminalPunctuation = true;
@@ -114,38 +114,38 @@ TEST_F(TextCounterTest, WithTheRuleOnASentenceNeedsTerminalPunctuation)
 
 TEST_F(TextCounterTest, TerminalPunctuationIsTheMarkOrTheMarkAndAStraightQuote)
 {
-    EXPECT_TRUE(endsWithPeriod(u"Hi. \n"));
-    EXPECT_TRUE(endsWithPeriod(u"Hi.\""));
-    EXPECT_FALSE(endsWithPeriod(u"Hi.\u201D"));
-    EXPECT_FALSE(endsWithPeriod(u"Hi.'"));
-    EXPECT_FALSE(endsWithPeriod(u"Hi.\"\""));
-    EXPECT_FALSE(endsWithPeriod(u"Hi. \""));
-    EXPECT_FALSE(endsWithPeriod(u"Hi?"));
-    EXPECT_FALSE(endsWithPeriod(u"\""));
-    EXPECT_TRUE(endsWithPeriod(u"."));
-    EXPECT_TRUE(endsWithPeriod(u".\""));
-    EXPECT_TRUE(endsWithQuestionMark(u"Hi?\" "));
-    EXPECT_FALSE(endsWithQuestionMark(u"Hi!"));
-    EXPECT_TRUE(endsWithExclamationPoint(u"Hi!\u2029"));
-    EXPECT_FALSE(endsWithExclamationPoint(u"Hi."));
-    EXPECT_TRUE(endsWithTerminalPunctuationMark(u"Hi."));
-    EXPECT_TRUE(endsWithTerminalPunctuationMark(u"Hi?"));
-    EXPECT_TRUE(endsWithTerminalPunctuationMark(u"Hi!"));
-    EXPECT_FALSE(endsWithTerminalPunctuationMark(u"Hi;"));
+    EXPECT_TRUE(FixedRules::endsWithPeriod(u"Hi. \n"));
+    EXPECT_TRUE(FixedRules::endsWithPeriod(u"Hi.\""));
+    EXPECT_FALSE(FixedRules::endsWithPeriod(u"Hi.\u201D"));
+    EXPECT_FALSE(FixedRules::endsWithPeriod(u"Hi.'"));
+    EXPECT_FALSE(FixedRules::endsWithPeriod(u"Hi.\"\""));
+    EXPECT_FALSE(FixedRules::endsWithPeriod(u"Hi. \""));
+    EXPECT_FALSE(FixedRules::endsWithPeriod(u"Hi?"));
+    EXPECT_FALSE(FixedRules::endsWithPeriod(u"\""));
+    EXPECT_TRUE(FixedRules::endsWithPeriod(u"."));
+    EXPECT_TRUE(FixedRules::endsWithPeriod(u".\""));
+    EXPECT_TRUE(FixedRules::endsWithQuestionMark(u"Hi?\" "));
+    EXPECT_FALSE(FixedRules::endsWithQuestionMark(u"Hi!"));
+    EXPECT_TRUE(FixedRules::endsWithExclamationPoint(u"Hi!\u2029"));
+    EXPECT_FALSE(FixedRules::endsWithExclamationPoint(u"Hi."));
+    EXPECT_TRUE(FixedRules::endsWithTerminalPunctuationMark(u"Hi."));
+    EXPECT_TRUE(FixedRules::endsWithTerminalPunctuationMark(u"Hi?"));
+    EXPECT_TRUE(FixedRules::endsWithTerminalPunctuationMark(u"Hi!"));
+    EXPECT_FALSE(FixedRules::endsWithTerminalPunctuationMark(u"Hi;"));
 }
 
 TEST_F(TextCounterTest, HardLineBreaksAreLines)
 {
-    EXPECT_EQ(numberOfHardLineBreaks(u"a"), 1U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"a\nb"), 2U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"a\n"), 1U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"a\n\n"), 2U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"\n"), 1U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"a\r\nb"), 2U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"a\n\rb"), 3U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"a\u2028b\u2029c\rd"), 4U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"\r\n"), 1U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"a\u000Bb\u000Cc\u0085d"), 1U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a"), 1U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a\nb"), 2U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a\n"), 1U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a\n\n"), 2U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"\n"), 1U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a\r\nb"), 2U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a\n\rb"), 3U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a\u2028b\u2029c\rd"), 4U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"\r\n"), 1U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a\u000Bb\u000Cc\u0085d"), 1U);
 }
 
 TEST_F(TextCounterTest, WhiteSpaceOnlyHasLinesAndNothingElse)
@@ -160,7 +160,7 @@ TEST_F(TextCounterTest, ParagraphsEndAtParagraphSeparatorsOnly)
 {
     EXPECT_EQ(paragraphs(QStringLiteral("a\r\nb")), 2U);
     EXPECT_EQ(paragraphs(QStringLiteral("a\u2028b")), 1U);
-    EXPECT_EQ(numberOfHardLineBreaks(u"a\u2028b"), 2U);
+    EXPECT_EQ(FixedRules::numberOfHardLineBreaks(u"a\u2028b"), 2U);
     EXPECT_EQ(paragraphs(QStringLiteral("a\n\n \u00A0\u2029b\rc")), 3U);
 }
 
@@ -188,22 +188,22 @@ TEST_F(TextCounterTest, OnlyATabIndents)
     EXPECT_EQ(indented(QStringLiteral("\t   ")), 0U);
 }
 
-TEST_F(TextCounterTest, CountsAllAtOnceAsOneByOne)
+TEST_F(TextCounterTest, CountsAllTogetherAsOneByOne)
 {
     m_rules.minimumSentencesOfParagraph = 1;
     const QString text = QStringLiteral("\tOne b two. Three?\r\n\nfour\u2028five!\u2029 \t\nSix");
     const QBYWordCounterStats counts = m_counter.count(text, m_rules);
     EXPECT_EQ(counts.numberOfWords, 6U);
     EXPECT_EQ(counts.numberOfWords, words(text));
-    EXPECT_EQ(counts.numberOfCharacters, numberOfCharactersNotIncludingWhiteSpace(text));
+    EXPECT_EQ(counts.numberOfCharacters, FixedRules::numberOfCharactersNotIncludingWhiteSpace(text));
     EXPECT_EQ(counts.numberOfCharactersIncludingWhitespace, static_cast<quint64>(text.size()));
     EXPECT_EQ(counts.numberOfSentences, sentences(text));
-    EXPECT_EQ(counts.numberOfHardLineBreaks, numberOfHardLineBreaks(text));
+    EXPECT_EQ(counts.numberOfHardLineBreaks, FixedRules::numberOfHardLineBreaks(text));
     EXPECT_EQ(counts.numberOfParagraphs, paragraphs(text));
     EXPECT_EQ(counts.numberOfIndentedParagraphs, indented(text));
 }
 
-TEST_F(TextCounterTest, TellsHowFarItHasComeAfterEveryParagraph)
+TEST_F(TextCounterTest, ReportsProgressAfterEveryParagraph)
 {
     std::vector<qsizetype> positions;
     const QBYWordCounterStats counts =

@@ -28,7 +28,7 @@ TEST_F(TextViewTest, ItsTextContainerIsAsWideAsItsFrame)
     EXPECT_EQ(widthSeenByListeners, 70);
 }
 
-TEST_F(TextViewTest, LaysItsTextOutAnewInTheWidthOfItsFrame)
+TEST_F(TextViewTest, LaysItsTextOutAgainInANewWidth)
 {
     m_view.textStorage().setAttributedString(AttributedString(QStringLiteral("abc")));
     EXPECT_EQ(numberOfLines(), 1);
@@ -36,7 +36,7 @@ TEST_F(TextViewTest, LaysItsTextOutAnewInTheWidthOfItsFrame)
     EXPECT_EQ(numberOfLines(), 3);
 }
 
-TEST_F(TextViewTest, LaysANewTextOutInPlaceOfTheOld)
+TEST_F(TextViewTest, LaysANewTextOut)
 {
     m_view.textStorage().setAttributedString(AttributedString(QStringLiteral("a\nb\nc\n")));
     EXPECT_EQ(numberOfLines(), 3);
@@ -44,7 +44,7 @@ TEST_F(TextViewTest, LaysANewTextOutInPlaceOfTheOld)
     EXPECT_EQ(numberOfLines(), 0);
 }
 
-TEST_F(TextViewTest, MayBeEditedAndSelectedAndLooksAsTheSystemDoesUntilToldOtherwise)
+TEST_F(TextViewTest, IsEditableSelectableAndFollowsTheSystemByDefault)
 {
     EXPECT_TRUE(m_view.isEditable());
     EXPECT_TRUE(m_view.isSelectable());

@@ -44,7 +44,7 @@ TEST_F(WordCounterModelTest, IsEmptyAtFirst)
     EXPECT_FALSE(model.docXMetaDataToFormat());
 }
 
-TEST_F(WordCounterModelTest, WithoutContentAnUpdateShowsZeros)
+TEST_F(WordCounterModelTest, AnUpdateWithoutContentShowsZeros)
 {
     m_model.updateStatsUsingAttributedString(true);
     EXPECT_EQ(m_model.wordCountFormattedString(), QStringLiteral("•Words: 0"));
@@ -58,7 +58,7 @@ TEST_F(WordCounterModelTest, WithoutContentAnUpdateShowsZeros)
     EXPECT_EQ(m_model.numberOfIndentedParagraphsFormattedString(), QStringLiteral("•Indented Paragraphs: 0"));
 }
 
-TEST_F(WordCounterModelTest, CountsAStyledTextAtOnce)
+TEST_F(WordCounterModelTest, CountsAStyledTextBeforeReturning)
 {
     m_model.setAttributedStringToCount(text(QStringLiteral("\tOne two. Three!\nFour\n")));
     EXPECT_EQ(m_model.numberOfWords(), 4U);
@@ -97,7 +97,7 @@ TEST_F(WordCounterModelTest, CountsUnderGivenRulesWithoutPreferences)
     EXPECT_GT(model.numberOfLines(), 2U); // in a column of ten points
 }
 
-TEST_F(WordCounterModelTest, TakingTheTextAwayMakesAllCountsZero)
+TEST_F(WordCounterModelTest, RemovingTheTextMakesAllCountsZero)
 {
     m_model.setAttributedStringToCount(text(QStringLiteral("One two.")));
     m_model.setAttributedStringToCount(std::nullopt);
@@ -123,7 +123,7 @@ TEST_F(WordCounterModelTest, AStyledTextAfterAWordRecordReplacesTheCountsAndKeep
     EXPECT_EQ(m_model.numberOfWords(), 11U);
 }
 
-TEST_F(WordCounterModelTest, WithoutAWordRecordTheCountsStayAndTheStringsAreMadeAnew)
+TEST_F(WordCounterModelTest, WithoutAWordRecordTheCountsStayAndTheStringsAreUpdated)
 {
     m_model.setDocXMetaDataToFormat(record);
     m_model.setFormattedStringStyle(longStyle);
@@ -133,7 +133,7 @@ TEST_F(WordCounterModelTest, WithoutAWordRecordTheCountsStayAndTheStringsAreMade
     EXPECT_FALSE(m_model.docXMetaDataToFormat());
 }
 
-TEST_F(WordCounterModelTest, TakesAReadyRecordAndGivesItBack)
+TEST_F(WordCounterModelTest, TakesARecordOfCountsAndReturnsIt)
 {
     const QBYWordCounterStats stats{1, 2, 3, 4, 5, 6, 7, UINT64_MAX};
     m_model.setFormattedStringStyle(longStyle);
@@ -179,7 +179,7 @@ TEST_F(WordCounterModelTest, SettersOfCountsAndStringsOnlyStore)
     EXPECT_EQ(m_model.wordCountFormattedString(), QStringLiteral("nine"));
 }
 
-TEST_F(WordCounterModelTest, TellsHowFarACountHasCome)
+TEST_F(WordCounterModelTest, ReportsTheProgressOfACount)
 {
     std::vector<qsizetype> positions;
     m_model.setProgress([&](qsizetype position) { positions.push_back(position); });
