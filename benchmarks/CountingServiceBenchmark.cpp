@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The real counting service on a private bus: how long its first answer takes and every later one, what
-// memory it holds, and what becomes of requests while broker and workers are killed at random.
+// The real counting service on a private bus: the time to its first and to later answers, its memory, and
+// whether requests are lost while broker and workers are killed at random.
 #include "documents/rtfd/RtfdWriter.h"
 #include "platform/system/SealedMemory.h"
 
@@ -81,7 +81,7 @@ public:
         return m_connection.asyncCall(message, timeout);
     }
 
-    /// The answer; empty for an error.
+    /// The answer; empty after an error.
     [[nodiscard]] QVariantList count(const SealedMemory &document) const
     {
         QDBusPendingCall call = send(document);
@@ -194,17 +194,17 @@ void measureMemory(const Bus &bus)
     (void)bus.count(documentOf(10'000));
     const pid_t service = bus.service();
     std::printf(
-        "broker: %d kB resident, %d kB of it its share\n", memory(service, "Rss:"), memory(service, "Pss:"));
+        "broker: %d kB resident, %d kB proportional\n", memory(service, "Rss:"), memory(service, "Pss:"));
     for (const pid_t worker : workersOf(service))
-        std::printf("worker: %d kB resident, %d kB of it its share\n", memory(worker, "Rss:"),
-            memory(worker, "Pss:"));
+        std::printf(
+            "worker: %d kB resident, %d kB proportional\n", memory(worker, "Rss:"), memory(worker, "Pss:"));
 }
 
-/// A client as ours are: a request that was lost with the service is sent again.
-void kill(const Bus &bus)
+/// Like the product's clients, sends a request again that was lost with the service.
+void countWhileKilling(const Bus &bus)
 {
     constexpr int requests = 1000;
-    constexpr size_t atOnce = 20;
+    constexpr size_t maxPending = 20;
     const SealedMemory document = documentOf(100'000);
     const QVariantList right = bus.count(document);
     std::mt19937 random(1);
@@ -217,7 +217,7 @@ void kill(const Bus &bus)
     int brokers = 0;
     int workers = 0;
     while (answered < requests) {
-        for (; waiting.size() < atOnce && sent < requests; ++sent)
+        for (; waiting.size() < maxPending && sent < requests; ++sent)
             waiting.push_back(bus.send(document));
         if (random() % 4 == 0) {
             const pid_t service = bus.service();
@@ -257,7 +257,7 @@ int main(int argumentCount, char **arguments)
     measureRoundTrips(bus);
     bus.endService();
     measureMemory(bus);
-    kill(bus);
+    countWhileKilling(bus);
     bus.endService();
     return 0;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long the statistics panel takes to place its eight labels, in views without a screen.
+// The time in which the statistics panel places its eight labels, in views without a screen.
 #include "presentation/BaseWordCounterViewController.h"
 
 #include <QCoreApplication>
@@ -33,7 +33,7 @@ BENCHMARK_CAPTURE(placeLabels, Stacked, WordCounterLabelPositionPolicyStacked);
 
 int main(int argumentCount, char **arguments)
 {
-    const QTemporaryDir home; // the user's own preferences stay out of it
+    const QTemporaryDir home; // keeps the user's preferences out
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     const QCoreApplication application(argumentCount, arguments);
     benchmark::Initialize(&argumentCount, arguments);

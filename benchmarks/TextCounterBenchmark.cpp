@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Counting time by kind of text and by size: bytes a second must not fall as texts of one kind grow.
+// Counting time by kind and size of text: bytes per second must not fall as a text grows.
 #include "text_statistics/TextCounter.h"
 
 #include <benchmark/benchmark.h>
@@ -83,7 +83,7 @@ void thai(benchmark::State &state)
 
 } // namespace
 
-// Counted in UTF-16 code units, which for these texts in English are the bytes of the file.
+// Lengths are in UTF-16 code units.
 BENCHMARK(english)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMillisecond);
 BENCHMARK(oneParagraph)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMillisecond);
 BENCHMARK(oneSentence)->Arg(2 * million)->Arg(20 * million)->Unit(benchmark::kMillisecond);

@@ -143,7 +143,7 @@ TEST_F(CountTest, AnEmptyTextHasZeros)
     EXPECT_EQ(count(message(payload)), zeros);
 }
 
-TEST_F(CountTest, WhatCannotBeCountedHasZeros)
+TEST_F(CountTest, ADamagedDocumentHasZeros)
 {
     const QByteArray whole = flatRtfd(SampleTexts::english);
     EXPECT_EQ(count(message(QByteArray())), zeros);
@@ -174,7 +174,7 @@ TEST_F(CountTest, AWordDocumentIsCountedByItsText)
     EXPECT_EQ(stats.numberOfHardLineBreaks, 2U);
 }
 
-TEST_F(CountTest, TheCountsOfAWordDocumentComeInTheOrderOfAReplyAndAreNotTheStoredOnes)
+TEST_F(CountTest, TheCountsOfAWordDocumentAreInReplyOrderAndNotTheStoredOnes)
 {
     const QByteArray sentence = "<w:r><w:t xml:space='preserve'>Eels swim far. </w:t></w:r>";
     const WordPackage document{.body = "<w:p><w:r><w:tab/></w:r>" + sentence.repeated(30)
@@ -196,7 +196,7 @@ TEST_F(CountTest, TheCountsOfAWordDocumentComeInTheOrderOfAReplyAndAreNotTheStor
     EXPECT_EQ(stats.numberOfIndentedParagraphs, 1U);
 }
 
-TEST_F(CountTest, WhatIsNoWordDocumentHasZerosAndIsCountedAgainNextTime)
+TEST_F(CountTest, ADamagedWordDocumentHasZerosAndIsReadAgainNextTime)
 {
     const SealedMemory::MemoryResult memory = SealedMemory::copyOf("PK and the rest");
     EXPECT_EQ(count(message(docxRequest, memory.value().descriptor(), 15)), zeros);
@@ -223,7 +223,7 @@ TEST_F(CountTest, ADocumentThatIsNotSealedOrOfAnotherLengthHasZeros)
     ::close(file);
 }
 
-TEST_F(CountTest, AGigabyteTravels)
+TEST_F(CountTest, AGigabyteIsReceived)
 {
     constexpr quint64 gigabyte = 1ULL << 30;
     const SealedMemory::MemoryResult memory = SealedMemory::fillAndSeal(

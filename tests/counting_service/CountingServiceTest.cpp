@@ -10,6 +10,8 @@
 #include <csignal>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <deque>
 
 namespace {
@@ -147,14 +149,9 @@ std::optional<QBYWordCounterStats> CountingServiceTest::statsOf(QDBusPendingCall
     const QVariantList values = call.reply().arguments();
     if (call.isError() || call.reply().signature() != QStringLiteral("tttttttt"))
         return std::nullopt;
-    return QBYWordCounterStats{.numberOfWords = values[0].toULongLong(),
-        .numberOfCharacters = values[1].toULongLong(),
-        .numberOfCharactersIncludingWhitespace = values[2].toULongLong(),
-        .numberOfSentences = values[3].toULongLong(),
-        .numberOfLines = values[4].toULongLong(),
-        .numberOfHardLineBreaks = values[5].toULongLong(),
-        .numberOfParagraphs = values[6].toULongLong(),
-        .numberOfIndentedParagraphs = values[7].toULongLong()};
+    std::array<quint64, statisticCount> counts{};
+    std::ranges::transform(values, counts.begin(), [](const QVariant &value) { return value.toULongLong(); });
+    return statsFromCounts(counts);
 }
 
 QBYWordCounterStats CountingServiceTest::count(const QDBusMessage &message) const

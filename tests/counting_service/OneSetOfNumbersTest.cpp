@@ -18,12 +18,10 @@ namespace {
 QBYWordCounterStats statsFromJson(const QByteArray &line)
 {
     const QJsonObject counts = QJsonDocument::fromJson(line).object();
-    const auto number = [&counts](const char *key) {
-        return static_cast<quint64>(counts.value(QLatin1StringView(key)).toInteger());
-    };
-    return {number("words"), number("characters"), number("charactersIncludingWhitespace"),
-        number("sentences"), number("lines"), number("hardLineBreaks"), number("paragraphs"),
-        number("indentedParagraphs")};
+    QBYWordCounterStats stats;
+    for (const StatisticRow &row : statisticTable)
+        stats.*row.count = static_cast<quint64>(counts.value(QLatin1StringView(row.name)).toInteger());
+    return stats;
 }
 
 } // namespace
@@ -90,7 +88,7 @@ TEST_F(OneSetOfNumbers, ForCommandServiceAndPanel)
     expectOneSetOfNumbers();
 }
 
-TEST_F(OneSetOfNumbers, InALocaleThatIsNotTheBuss)
+TEST_F(OneSetOfNumbers, InALocaleOtherThanThatOfTheBus)
 {
     setLocale("de_DE.UTF-8");
     expectOneSetOfNumbers();

@@ -135,7 +135,7 @@ TEST(WorkerMessages, AGreetingReportsTheSandbox)
     expectOnlyComplete(encode(sent), decodeGreeting);
 }
 
-TEST(WorkerMessages, EveryFailureHasItsOwnWords)
+TEST(WorkerMessages, EveryFailureHasItsOwnText)
 {
     std::set<QString> texts;
     for (quint32 cause = 1; cause <= static_cast<quint32>(CountFailure::lastCause); ++cause)

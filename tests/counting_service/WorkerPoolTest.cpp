@@ -204,7 +204,7 @@ TEST_F(WorkerPoolTest, AnUnexpectedAnswerEndsTheWorkerAndLosesNothing)
     EXPECT_EQ(workers.size(), 20U);
 }
 
-TEST_F(WorkerPoolTest, TakesNoDescriptorFromAWorker)
+TEST_F(WorkerPoolTest, ClosesADescriptorThatAWorkerSends)
 {
     const auto pool = this->pool();
     EXPECT_EQ(statsOf(add(*pool, "descriptor")).numberOfWords, 10U);
@@ -247,7 +247,7 @@ TEST_F(WorkerPoolTest, RetriesADocumentWhoseWorkersAreKilled)
     }
 }
 
-TEST_F(WorkerPoolTest, GivesUpWhereNoWorkerStarts)
+TEST_F(WorkerPoolTest, GivesUpIfNoWorkerStarts)
 {
     WorkerProgram missing = program();
     missing.path = "/no/such/program";
