@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // TextCounter applies the counting rules to plain text, paragraph by paragraph; words, sentences and
 // paragraphs are counted nowhere else. It does not count lines as laid out on paper.
-// Thread: one at a time. Owner: the code that counts; expensive to create, so keep it for the next text.
+// Thread: one at a time.  Owner: the code that counts; expensive to create, so keep it for the next text.
 #pragma once
 
 #include "platform/segmentation/Paragraphs.h"

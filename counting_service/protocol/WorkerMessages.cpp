@@ -73,13 +73,12 @@ QDataStream &operator>>(QDataStream &stream, RulesSnapshot &rules)
 }
 
 template <typename Enum>
-bool isIn(quint32 number, Enum last)
+bool isInRange(quint32 number, Enum last)
 {
     return number >= 1 && number <= static_cast<quint32>(last);
 }
 
-/// A failure as it travels; all 0 where there is none. The errors of files do not travel: a worker opens
-/// none.
+/// A failure as it is sent; all 0 if there is none. File errors are not sent, as workers open no files.
 struct FailureNumbers {
     quint32 cause = 0;
     quint32 documentCause = 0;
@@ -95,16 +94,16 @@ struct FailureNumbers {
         return numbers;
     }
 
-    /// Absent for numbers without a name.
+    /// Absent if a number is unknown.
     [[nodiscard]] std::optional<CountFailure> failure() const
     {
-        if (!isIn(cause, CountFailure::lastCause))
+        if (!isInRange(cause, CountFailure::lastCause))
             return std::nullopt;
         const auto known = static_cast<CountFailure::Cause>(cause);
         if (known != CountFailure::Cause::DocumentUnreadable)
             return documentCause == 0 && documentKind == 0 ? std::optional(CountFailure(known))
                                                            : std::nullopt;
-        if (!isIn(documentCause, DocumentError::lastCause) || !isIn(documentKind, lastDocumentKind))
+        if (!isInRange(documentCause, DocumentError::lastCause) || !isInRange(documentKind, lastDocumentKind))
             return std::nullopt;
         return CountFailure(DocumentError(
             static_cast<DocumentError::Cause>(documentCause), static_cast<DocumentKind>(documentKind)));

@@ -72,7 +72,7 @@ TEST_F(CountDocumentsTest, APdfFileIsCountedByItsTextPageByPage)
         ElementsAre(QByteArrayList{"5", "23", "32", "3", "3", "3", "3", "0", "-"}));
 }
 
-TEST_F(CountDocumentsTest, APdfFileThatCannotBeCountedSaysWhyAndWhatToDo)
+TEST_F(CountDocumentsTest, APdfFileThatCannotBeCountedIsReportedWithCauseAndRemedy)
 {
     expectFailure(file("locked.pdf",
                       PdfWriter{.pages = {"a"}, .encryption = PdfWriter::Encryption::WithPassword}.bytes()),
@@ -84,7 +84,7 @@ TEST_F(CountDocumentsTest, APdfFileThatCannotBeCountedSaysWhyAndWhatToDo)
     expectFailure(file("words.pdf", "Some words."), "is not a PDF file");
 }
 
-TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedSaysWhyAndWhatToDo)
+TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedIsReportedWithCauseAndRemedy)
 {
     QByteArray old("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     old.resize(1024, '\0');
