@@ -2,8 +2,8 @@
 #include "documents/pdf/PdfReader.h"
 
 #include "documents/pdf/PdfReaderRequest.h"
-#include "platform/system/Processes.h"
 #include "platform/system/OwnedDescriptor.h"
+#include "platform/system/Processes.h"
 #include "platform/system/SealedMemory.h"
 
 #include <QFile>
