@@ -60,20 +60,20 @@ TEST_F(CountUsageTest, NoWordControlsTheTerminal)
 
 TEST_F(CountUsageTest, MessagesAreEnglishUnderAGermanLocale)
 {
-    // glibc's own words for these would be German.
+    // glibc's own texts for these would be German.
     setLocale("de_DE.UTF-8");
     const bool isTranslated = std::strcmp(std::strerror(ENOENT), ::strerrordesc_np(ENOENT)) != 0;
     SKIP_WITHOUT_PACKAGE(isTranslated, "locales, with de_DE.UTF-8");
     const QByteArray missing = QFile::encodeName(world().root()) + "/missing";
     const std::vector<std::pair<QByteArrayList, QByteArray>> cases{
         {{"count", "--nonsense"},
-            "quillbay: cannot understand option '--nonsense'\nTry 'quillbay count --help' for more.\n"},
-        {{"count", "-x"}, "quillbay: cannot understand option '-x'\nTry 'quillbay count --help' for more.\n"},
+            "quillbay: invalid option '--nonsense'\nTry 'quillbay count --help' for more.\n"},
+        {{"count", "-x"}, "quillbay: invalid option '-x'\nTry 'quillbay count --help' for more.\n"},
         {{"count", "--files-from"},
-            "quillbay: an argument is missing behind option '--files-from'\n"
+            "quillbay: missing argument for option '--files-from'\n"
             "Try 'quillbay count --help' for more.\n"},
         {{"text", "--nonsense"},
-            "quillbay: cannot understand option '--nonsense'\nTry 'quillbay text --help' for more.\n"},
+            "quillbay: invalid option '--nonsense'\nTry 'quillbay text --help' for more.\n"},
         {{"watch", missing}, "quillbay: " + missing + ": No such file or directory\n"},
         {{"count", missing}, "quillbay: " + missing + ": no such file\n"},
     };
