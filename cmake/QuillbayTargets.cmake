@@ -26,6 +26,8 @@ target_compile_definitions(quillbay_options INTERFACE
     QT_NO_FOREACH)
 target_compile_options(quillbay_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    # A unity build includes source files, whose unnamed namespaces this warning takes for those of headers.
+    $<$<BOOL:${QUILLBAY_UNITY_BUILD}>:-Wno-subobject-linkage>
     $<$<BOOL:${QUILLBAY_WARNINGS_AS_ERRORS}>:-Werror>)
 if(QUILLBAY_SANITIZERS)
     target_compile_options(quillbay_options INTERFACE

@@ -83,7 +83,7 @@ TEST_F(NotificationsWithoutBusTest, PostingWorksAgainOnceThereIsABusAgain)
 {
     PrivateBus first;
     startTalk(first.address());
-    first.end();
+    first.stop();
     expectAnswer();
 
     const PrivateBus second;
