@@ -10,7 +10,8 @@
 
 namespace {
 
-enum Option { Help = 'h', Json = 0x100, Tsv, FilesFrom, ExplainRules, Service };
+// Above the letters of the short options.
+enum Option { Help = 'h', Json = 256, Tsv = 257, FilesFrom = 258, ExplainRules = 259, Service = 260 };
 
 constexpr option options[] = {
     {"help", no_argument, nullptr, Help},

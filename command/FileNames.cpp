@@ -33,7 +33,7 @@ QString hexadecimal(uint number, int digits)
 std::pair<QByteArray, bool> firstCharacter(QByteArrayView bytes)
 {
     const auto lead = static_cast<uchar>(bytes[0]);
-    const qsizetype length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    const qsizetype length = lead < 0x80 ? 1 : 2 + (lead >= 0xE0) + (lead >= 0xF0);
     const QByteArray character = bytes.first(std::min(length, bytes.size())).toByteArray();
     if (QByteArrayView(character).isValidUtf8())
         return {character, true};

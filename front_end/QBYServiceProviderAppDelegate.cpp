@@ -43,9 +43,9 @@ void setError(QString *error, const QString &message)
 
 } // namespace
 
-QBYServiceProviderAppDelegate::QBYServiceProviderAppDelegate(const WatchSurroundings &surroundings,
-    std::function<void(ServicesProvider &provider)> setServicesProvider)
-    : m_surroundings(surroundings)
+QBYServiceProviderAppDelegate::QBYServiceProviderAppDelegate(
+    WatchSurroundings surroundings, std::function<void(ServicesProvider &provider)> setServicesProvider)
+    : m_surroundings(std::move(surroundings))
     , m_setServicesProvider(std::move(setServicesProvider))
 {
 }

@@ -26,8 +26,8 @@ public:
 
     /// setServicesProvider: makes its argument the receiver of service messages. Everything that surroundings
     /// refer to outlives the delegate.
-    QBYServiceProviderAppDelegate(const WatchSurroundings &surroundings,
-        std::function<void(ServicesProvider &provider)> setServicesProvider);
+    QBYServiceProviderAppDelegate(
+        WatchSurroundings surroundings, std::function<void(ServicesProvider &provider)> setServicesProvider);
     ~QBYServiceProviderAppDelegate() override;
 
     /// One per request, in the order of the requests.

@@ -61,7 +61,7 @@ int main(int argumentCount, char **arguments)
         return notServing;
     }
     choosePlatform();
-    QApplication application(argumentCount, arguments);
+    const QApplication application(argumentCount, arguments);
     QApplication::setApplicationDisplayName(QStringLiteral("Quillbay"));
     QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("com.quillbay.Quillbay")));

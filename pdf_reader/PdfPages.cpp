@@ -30,10 +30,11 @@ bool isWithoutPages(QByteArrayView bytes)
     constexpr QByteArrayView children("/Kids");
     bool hasTree = false;
     for (qsizetype at = bytes.indexOf(children); at >= 0; at = bytes.indexOf(children, at + 1)) {
-        const auto array = std::find_if_not(bytes.begin() + at + children.size(), bytes.end(), isWhiteSpace);
+        const auto *const array =
+            std::find_if_not(bytes.begin() + at + children.size(), bytes.end(), isWhiteSpace);
         if (array == bytes.end() || *array != '[')
             return false;
-        const auto first = std::find_if_not(array + 1, bytes.end(), isWhiteSpace);
+        const auto *const first = std::find_if_not(array + 1, bytes.end(), isWhiteSpace);
         if (first == bytes.end() || *first != ']')
             return false;
         hasTree = true;

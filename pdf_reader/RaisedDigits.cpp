@@ -105,7 +105,7 @@ RaisedDigits::DigitPlaces RaisedDigits::placesOfDigits(const QString &text, cons
 QString RaisedDigits::textOfPage(int page)
 {
     const QPdfSelection selection = m_document.getAllText(page);
-    const QString text = selection.text();
+    QString text = selection.text(); // not const, so that it can be moved out
     const LineEnds ends = lineEndsAtDigits(text);
     if (ends.places.empty())
         return text;

@@ -48,6 +48,7 @@ std::optional<DocumentError::Cause> writePages(QByteArrayView document, qint64 l
 } // namespace
 
 // Exits by _exit(): library destructors are not trusted, and the sandbox does not allow those of a sanitizer.
+// NOLINTNEXTLINE(bugprone-exception-escape): without memory there is nothing to rescue
 int main(int argumentCount, char **arguments)
 {
     keepMemoryPrivate();

@@ -24,7 +24,7 @@ constexpr std::array table{
     Row{Preference::ShowParagraphCount, u"ShowParagraphCountUserDefaultKey", true, true},
     Row{Preference::ShowHardIndentParagraphCount, u"ShowHardIndentParagraphCountUserDefaultKey", true, true},
     Row{Preference::MinNumberOfSentencesForParagraphCount,
-        u"MinNumberOfSentencesToEnforceForParagraphCountDefaultsKey", true, qint64(0)},
+        u"MinNumberOfSentencesToEnforceForParagraphCountDefaultsKey", true, qint64{0}},
     Row{Preference::EnforceTrailingPeriodForSentencesCount, u"EnforceSentencesEndWithPeriodUserDefaultKey",
         false, true},
     Row{Preference::SayWordCountOutLoudOnSaveInWatchFileMode, u"SayWordCountOutloudOnSaveInWatchFileMode",

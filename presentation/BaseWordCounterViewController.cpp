@@ -107,7 +107,7 @@ void BaseWordCounterViewController::updateArray()
         layoutDelegate()->wordCounterViewControllerDidChangeVisibleLabelsCount();
 }
 
-void BaseWordCounterViewController::hideLabelsByPreferences()
+void BaseWordCounterViewController::hideLabelsByPreferences() const
 {
     using Preferences = QBYUserDefaultsController;
     setHidden(characterCountTextField(), !Preferences::isShowCharacterCountPreferenceOn());

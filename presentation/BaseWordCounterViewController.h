@@ -155,7 +155,7 @@ public:
     void viewsFrameDidChange();
 
 private:
-    void hideLabelsByPreferences();
+    void hideLabelsByPreferences() const;
     void placeLabelsInSlots();
     void updateAccessibleName(Label &label);
     void preferencesDidChange();

@@ -38,7 +38,7 @@ public:
     /// given up, and no worker is started until the next document arrives.
     static constexpr int maxFailedStarts = 8;
     /// Bytes; a worker that has counted a larger document is replaced to release its memory.
-    static constexpr qsizetype maxSizeWithoutReplacement = 32 * 1024 * 1024;
+    static constexpr qsizetype maxSizeWithoutReplacement = qsizetype{32} * 1024 * 1024;
 
     /// workers: how many may count at the same time; 1 or more.
     WorkerPool(WorkerProgram program, int workers);

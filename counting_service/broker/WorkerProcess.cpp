@@ -27,7 +27,7 @@ constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of addre
 constexpr bool isMemoryLimited = true;
 #endif
 /// Bytes of address space for the program, its libraries, all fonts of a machine, and a heap for each thread.
-constexpr quint64 baseMemory = quint64(4096) * mebibyte;
+constexpr quint64 baseMemory = quint64{4096} * mebibyte;
 /// Bytes for each byte of a document: text, attributes, lines, and a copy of them while they grow.
 constexpr quint64 memoryPerByte = 24;
 

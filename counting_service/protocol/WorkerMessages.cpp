@@ -141,7 +141,8 @@ QByteArray encode(const WorkerRequest &request)
 QByteArray encode(const WorkerGreeting &greeting)
 {
     Writer writer(Type::Greeting);
-    writer.stream() << greeting.sandbox.hasNoNewPrivileges << qint32(greeting.sandbox.landlockVersion)
+    writer.stream() << greeting.sandbox.hasNoNewPrivileges
+                    << static_cast<qint32>(greeting.sandbox.landlockVersion)
                     << greeting.sandbox.hasSystemCallFilter;
     return writer.bytes();
 }

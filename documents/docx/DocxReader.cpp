@@ -26,7 +26,9 @@ std::optional<DocumentError::Cause> appendNotes(AttributedStringBuilder &text,
     StoryReader reader(document.styles, notes, [&](const QByteArray &identifier) {
         return readAlternativeChunk(document, relationships.value(), identifier);
     });
-    const NoteReferences wanted = references; // references in notes are ignored
+    // Reading the notes adds their own references to the original.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const NoteReferences wanted = references;
     reader.setWantedNotes(&wanted);
     if (const std::optional<DocumentError::Cause> failure = readXmlPart(document.package, *part, reader))
         return failure;

@@ -255,7 +255,7 @@ const CharacterFormat &RunFormat::formatOf(char16_t unit) const
 RunFormat::Stretch RunFormat::stretchAt(QStringView text) const
 {
     const CharacterFormat &first = formatOf(text[0].unicode());
-    const auto end = std::find_if(
+    const auto *const end = std::find_if(
         text.begin() + 1, text.end(), [&](QChar unit) { return &formatOf(unit.unicode()) != &first; });
     return {&first, end - text.begin()};
 }

@@ -13,6 +13,7 @@
 #include <QStringView>
 
 #include <optional>
+#include <utility>
 
 enum class VerticalAlignment { Baseline, Superscript, Subscript };
 
@@ -59,8 +60,8 @@ struct RunProperties {
 /// applied to the result with overlay().
 class CharacterCascade {
 public:
-    explicit CharacterCascade(const RunProperties &defaults)
-        : m_properties(defaults)
+    explicit CharacterCascade(RunProperties defaults)
+        : m_properties(std::move(defaults))
     {
     }
 

@@ -29,7 +29,7 @@ QString replaceSymbolGlyphs(QString text, const QString &family)
 QChar symbolOfCode(char16_t code, const QString &family)
 {
     const bool isBareCode = code >= 0x20 && code <= 0xFF && isSymbolOrPictureFamily(family);
-    return QChar(isBareCode ? static_cast<char16_t>(symbolGlyphBase + code) : code);
+    return isBareCode ? static_cast<char16_t>(symbolGlyphBase + code) : code;
 }
 
 QByteArrayView trimXmlSpace(QByteArrayView text)
@@ -176,7 +176,7 @@ void StoryReader::insertChunk(const XmlElement &element)
     const auto identifier = element.attribute(XmlName{XmlSpace::Relationships, "id"_tag});
     if (!identifier || m_error || state().fieldsWithoutResult > 0)
         return;
-    Result<AttributedString, DocumentError::Cause> chunk = m_readChunk(identifier->toByteArray());
+    const Result<AttributedString, DocumentError::Cause> chunk = m_readChunk(identifier->toByteArray());
     if (chunk)
         m_assembler.insert(chunk.value());
     else

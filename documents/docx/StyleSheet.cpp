@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ranges>
 
 namespace {
 
@@ -192,14 +193,14 @@ StyleProperties StyleSheet::resolve(Kind kind, const QByteArray &identifier, Tab
         found = m_styles.constFind(found->basedOn);
     }
     StyleProperties properties;
-    for (auto style = chain.rbegin(); style != chain.rend(); ++style)
-        properties.overlay((*style)->own);
+    for (const auto &style : std::views::reverse(chain))
+        properties.overlay(style->own);
     for (int part = 0; part < tablePartCount; ++part) {
         if (!(parts & (1U << part)))
             continue;
-        for (auto style = chain.rbegin(); style != chain.rend(); ++style) {
-            const auto ofPart = (*style)->parts.find(static_cast<TablePart>(part));
-            if (ofPart != (*style)->parts.end())
+        for (const auto &style : std::views::reverse(chain)) {
+            const auto ofPart = style->parts.find(static_cast<TablePart>(part));
+            if (ofPart != style->parts.end())
                 properties.overlay(ofPart->second);
         }
     }

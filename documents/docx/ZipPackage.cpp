@@ -29,7 +29,7 @@ bool hasEncryptedPackage(QByteArrayView bytes)
 {
     constexpr qsizetype entryLength = 128;
     constexpr std::string_view name("encryptedpackage\0", 17);
-    constexpr auto nameLength = static_cast<qsizetype>(2 * name.size());
+    constexpr auto nameLength = 2 * static_cast<qsizetype>(name.size());
     for (qsizetype entry = 0; entry + nameLength <= bytes.size(); entry += entryLength) {
         qsizetype place = entry;
         const bool isName = std::ranges::all_of(name, [&](char letter) {

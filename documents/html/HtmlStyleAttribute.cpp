@@ -146,7 +146,7 @@ std::optional<CssLength> lengthOf(const QByteArray &value)
     };
     for (const Unit &unit : units) {
         if (value.endsWith(unit.name))
-            return lengthWith(value.chopped(qsizetype(qstrlen(unit.name))), unit);
+            return lengthWith(value.chopped(static_cast<qsizetype>(qstrlen(unit.name))), unit);
     }
     const std::optional<CssLength> bare = lengthWith(value, units[0]);
     return bare && bare->value == 0 ? bare : std::nullopt;

@@ -73,7 +73,7 @@ static_assert(readers.size() == static_cast<size_t>(lastDocumentKind));
 
 Text readDocument(DocumentKind kind, QByteArrayView bytes, const ReadOptions &options)
 {
-    const auto reader = std::find_if(
+    const auto *const reader = std::find_if(
         readers.begin(), readers.end(), [kind](const Reader &candidate) { return candidate.kind == kind; });
     if (reader == readers.end())
         return DocumentError(DocumentError::Cause::WrongKind, kind);

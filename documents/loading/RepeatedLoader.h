@@ -14,7 +14,7 @@ class RepeatedLoader {
 public:
     /// Bytes, those of all files of a package together. The text of a larger document is not remembered, so
     /// that memory stays bounded.
-    static constexpr qint64 maxRememberedBytes = 16 * 1024 * 1024;
+    static constexpr qint64 maxRememberedBytes = qint64{16} * 1024 * 1024;
 
     explicit RepeatedLoader(qint64 maxBytes = maxRememberedBytes)
         : m_maxBytes(maxBytes)

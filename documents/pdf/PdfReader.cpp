@@ -86,7 +86,7 @@ private:
     using Clock = std::chrono::steady_clock;
 
     PdfReaderProcess(LaunchedChild child, OwnedDescriptor pipe, const PdfReaderRequest &request);
-    bool isReadyInTime(int descriptor) const;
+    [[nodiscard]] bool isReadyInTime(int descriptor) const;
     /// False where the program exceeds its time or its length.
     bool readToEnd(QString &text) const;
     /// The status of waitpid().
@@ -180,7 +180,7 @@ bool PdfReaderProcess::isReadyInTime(int descriptor) const
 bool PdfReaderProcess::readToEnd(QString &text) const
 {
     std::array<QChar, 32'768> piece;
-    const auto bytes = reinterpret_cast<char *>(piece.data());
+    auto *const bytes = reinterpret_cast<char *>(piece.data());
     size_t filled = 0; // bytes; a code unit may come in two halves
     while (isReadyInTime(m_pipe.get())) {
         const ssize_t length = ::read(m_pipe.get(), bytes + filled, sizeof piece - filled);

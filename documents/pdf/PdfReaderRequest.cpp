@@ -27,8 +27,8 @@ std::optional<qint64> numberFrom(std::string_view word)
 
 QByteArrayList argumentsOf(const PdfReaderRequest &request)
 {
-    return {QByteArray::number(qint64(request.processorTime.count())),
-        QByteArray::number(qint64(request.realTime.count())), QByteArray::number(request.memory),
+    return {QByteArray::number(static_cast<qint64>(request.processorTime.count())),
+        QByteArray::number(static_cast<qint64>(request.realTime.count())), QByteArray::number(request.memory),
         QByteArray::number(request.length)};
 }
 

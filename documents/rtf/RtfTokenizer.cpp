@@ -113,7 +113,7 @@ std::optional<qint32> RtfTokenizer::readParameter()
         return std::nullopt;
     qint64 number = 0;
     for (; m_at != m_end && isDigit(*m_at); ++m_at)
-        number = std::min<qint64>(number * 10 + (*m_at - '0'), -qint64(INT32_MIN));
+        number = std::min<qint64>(number * 10 + (*m_at - '0'), -qint64{INT32_MIN});
     return static_cast<qint32>(isNegative ? -number : std::min<qint64>(number, INT32_MAX));
 }
 

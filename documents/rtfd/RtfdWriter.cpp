@@ -47,8 +47,8 @@ bool isPortable(const QString &name)
         || !name.isValidUtf16() || isAtEdge(u'.') || isAtEdge(u' '))
         return false;
     const QList<uint> characters = name.toUcs4();
-    return std::all_of(
-        characters.begin(), characters.end(), [](uint character) { return isPortable(char32_t(character)); });
+    return std::all_of(characters.begin(), characters.end(),
+        [](uint character) { return isPortable(static_cast<char32_t>(character)); });
 }
 
 /// The end of the name from its last full stop on; empty unless it is short and of ASCII letters and digits.

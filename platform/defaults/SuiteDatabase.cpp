@@ -163,7 +163,7 @@ SuiteDatabase::Failure SuiteDatabase::ensureOpen(Purpose purpose)
         if (Failure failure = openFile(purpose))
             return failure;
         if (m_database) {
-            Failure failure = checkFile(purpose);
+            const Failure failure = checkFile(purpose);
             return failure ? failure : setLimits();
         }
     }

@@ -214,7 +214,7 @@ std::optional<FileEvent> FileWatches::meaning(const inotify_event &event, const 
         return meaningForDocument(event.mask);
     if (event.mask & (IN_MOVE_SELF | IN_DELETE_SELF | IN_UNMOUNT | IN_IGNORED))
         return FileEvent::FolderMoved;
-    const auto named = QByteArray::fromRawData(name, qsizetype(std::strlen(name)));
+    const auto named = QByteArray::fromRawData(name, static_cast<qsizetype>(std::strlen(name)));
     if (place.names.contains(named))
         return meaningForName(event.mask);
     return place.pathNames.contains(named) ? std::optional(FileEvent::FolderMoved) : std::nullopt;

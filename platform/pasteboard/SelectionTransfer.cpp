@@ -80,7 +80,7 @@ Result<SelectionSource::Content, SelectionSource::Failure> SelectionTransfer::co
         return Failure::NoAnswer;
     if (reinterpret_cast<const xcb_selection_notify_event_t &>(*event).property != m_property)
         return Failure::Refused;
-    Result<Content, Failure> content = takeProperty();
+    const Result<Content, Failure> content = takeProperty();
     return content && content.value().type == "INCR" ? takePieces() : content;
 }
 
@@ -110,6 +110,7 @@ QByteArrayList SelectionTransfer::namesOf(const QByteArray &atoms) const
         std::memcpy(identifiers.data(), atoms.constData(), identifiers.size() * sizeof(xcb_atom_t));
     // All requests are sent before the first answer is read: one round trip.
     std::vector<xcb_get_atom_name_cookie_t> cookies;
+    cookies.reserve(identifiers.size());
     for (const xcb_atom_t identifier : identifiers)
         cookies.push_back(xcb_get_atom_name(m_connection, identifier));
     QByteArrayList names;

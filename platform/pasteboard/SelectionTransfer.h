@@ -30,8 +30,8 @@ private:
 
     [[nodiscard]] xcb_atom_t atom(const QByteArray &name) const;
     [[nodiscard]] QByteArrayList namesOf(const QByteArray &atoms) const;
-    Event waitFor(const IsWanted &isWanted) const;
-    Event nextEvent(const QDeadlineTimer &deadline) const;
+    [[nodiscard]] Event waitFor(const IsWanted &isWanted) const;
+    [[nodiscard]] Event nextEvent(const QDeadlineTimer &deadline) const;
     Result<Content, Failure> takeProperty();
     Result<Content, Failure> takePieces();
 

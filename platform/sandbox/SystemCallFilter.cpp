@@ -15,7 +15,7 @@ namespace {
 constexpr uint32_t notPermitted = SCMP_ACT_ERRNO(EPERM);
 constexpr uint32_t notImplemented = SCMP_ACT_ERRNO(ENOSYS);
 
-#if defined(__s390__)
+#ifdef __s390__
 constexpr unsigned cloneFlags = 1;
 #else
 constexpr unsigned cloneFlags = 0;

@@ -28,7 +28,7 @@ QString notificationInterface()
 std::optional<QDBusConnection> connectedBus()
 {
     static std::atomic<bool> isLogged = false;
-    Result<QDBusConnection, QString> connection = SessionBusConnection::shared().connect();
+    const Result<QDBusConnection, QString> connection = SessionBusConnection::shared().connect();
     if (connection) {
         isLogged = false;
         return connection.value();

@@ -94,8 +94,8 @@ std::shared_ptr<RemoteChannel> RemoteChannel::make(const QString &serviceName)
     return channel;
 }
 
-RemoteChannel::RemoteChannel(const QString &serviceName)
-    : m_serviceName(serviceName)
+RemoteChannel::RemoteChannel(QString serviceName)
+    : m_serviceName(std::move(serviceName))
 {
 }
 
@@ -265,6 +265,7 @@ void RemoteChannel::giveUp(Identifier identifier, const LogArgument &cause, cons
 std::vector<RemoteChannel::Identifier> RemoteChannel::identifiers() const
 {
     std::vector<Identifier> all;
+    all.reserve(m_requests.size());
     for (const auto &[identifier, request] : m_requests)
         all.push_back(identifier);
     return all;

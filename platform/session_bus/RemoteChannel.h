@@ -40,7 +40,7 @@ private:
         bool isRepeated = false;
     };
 
-    explicit RemoteChannel(const QString &serviceName);
+    explicit RemoteChannel(QString serviceName);
 
     void accept(Identifier identifier, const Request &request);
     void callWaitingRequests();

@@ -11,6 +11,7 @@ public:
     Delegate() = default;
     // A copy of an object has a lifetime of its own.
     Delegate(const Delegate &) { }
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): assigns nothing
     Delegate &operator=(const Delegate &) { return *this; }
     virtual ~Delegate() = default;
 

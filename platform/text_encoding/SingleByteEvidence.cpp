@@ -53,7 +53,6 @@ Kind kindOf(QChar unit)
     switch (unit.unicode()) {
     case u'“': // opens in English, closes in German
     case u'‘':
-        return Kind::Sign;
     case u'ª':
     case u'º':
         return Kind::Sign;
@@ -171,7 +170,7 @@ struct Census {
 Census censusOf(QByteArrayView sample)
 {
     Census census;
-    std::vector<int> counts(256 * 256);
+    std::vector<int> counts(size_t{256} * 256);
     uchar before = '\n';
     for (const char value : sample) {
         const auto byte = static_cast<uchar>(value);

@@ -83,6 +83,7 @@ Utf8Census utf8Census(QByteArrayView bytes)
             continue;
         }
         UChar32 character;
+        // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions): a macro of ICU
         U8_NEXT(data, at, length, character);
         if (character >= 0)
             ++census.wellFormed;

@@ -105,6 +105,7 @@ const std::vector<quint16> &FontChain::fallbacks()
     };
     using Key = decltype(key(0));
     std::vector<Key> keys;
+    keys.reserve(m_fallbacks.size());
     for (const quint16 index : m_fallbacks)
         keys.push_back(key(index));
     std::sort(m_fallbacks.begin(), m_fallbacks.end(),
@@ -245,7 +246,7 @@ std::vector<quint16> FontLibrary::namedFonts(const FontRequest &request) const
             usable.push_back(static_cast<quint16>(i));
     }
     const auto best = std::min_element(usable.begin(), usable.end(), isNearer);
-    return {best != usable.end() ? *best : quint16(0)};
+    return {best != usable.end() ? *best : quint16{0}};
 }
 
 FontChain *FontLibrary::chainFor(const FontAttributes &attributes, const QString &language)

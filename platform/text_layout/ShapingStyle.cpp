@@ -62,7 +62,7 @@ ShapingStyle::ShapingStyle(const TextRun &run, quint32 number)
 // version 1 is one, too; one of version 0 has only pairs.
 bool ShapingStyle::hasStateMachines() const
 {
-    hb_face_t *face = hb_font_get_face(m_face.shapingFont());
+    const hb_face_t *const face = hb_font_get_face(m_face.shapingFont());
     const auto hasTable = [face](hb_tag_t tag, bool onlyOfVersionOne) {
         hb_blob_t *table = hb_face_reference_table(face, tag);
         unsigned length = 0;

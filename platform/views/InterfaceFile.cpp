@@ -184,12 +184,13 @@ private:
         m_xml.readNextStartElement(); // rect, whose elements Designer always writes in this order
         const int x = readLength(u"x", -maxLength);
         const int y = readLength(u"y", -maxLength);
-        const QSizeF size{double(readLength(u"width", 0)), double(readLength(u"height", 0))};
+        const QSizeF size{
+            static_cast<double>(readLength(u"width", 0)), static_cast<double>(readLength(u"height", 0))};
         if (m_xml.readNextStartElement() || m_xml.readNextStartElement())
             return fail(QStringLiteral("geometry of %1 is not a rectangle").arg(view.identifier()));
         view.setFrameSize(size);
         if (const View *const superview = view.superview())
-            view.setFrameOrigin({double(x), superview->frame().height() - y - size.height()});
+            view.setFrameOrigin({static_cast<double>(x), superview->frame().height() - y - size.height()});
     }
 
     void readProperty(View &view)

@@ -25,14 +25,14 @@ protected:
     /// Requests for the counts of the same five words, fifty from each client.
     std::vector<QDBusPendingCall> sendRequests(int clients)
     {
-        constexpr int timeout = 60'000; // milliseconds
+        constexpr int callTimeout = 60'000; // milliseconds
         const QDBusMessage request = message(flatRtfd(QStringLiteral("One two three four five.")));
         std::vector<QDBusPendingCall> calls;
         for (int i = 0; i < clients; ++i) {
             m_clients.push_back(QDBusConnection::connectToBus(QString::fromUtf8(m_privateBus->address()),
                 QStringLiteral("crowd-%1").arg(m_clients.size())));
             for (int k = 0; k < 50; ++k)
-                calls.push_back(m_clients.back().asyncCall(request, timeout));
+                calls.push_back(m_clients.back().asyncCall(request, callTimeout));
         }
         return calls;
     }

@@ -17,10 +17,10 @@ namespace {
 
 QBYWordCounterStats statsFromJson(const QByteArray &line)
 {
-    const QJsonObject counts = QJsonDocument::fromJson(line).object();
+    const QJsonObject report = QJsonDocument::fromJson(line).object();
     QBYWordCounterStats stats;
     for (const StatisticRow &row : statisticTable)
-        stats.*row.count = static_cast<quint64>(counts.value(QLatin1StringView(row.name)).toInteger());
+        stats.*row.count = static_cast<quint64>(report.value(QLatin1StringView(row.name)).toInteger());
     return stats;
 }
 

@@ -65,7 +65,7 @@ public:
         for (size_t i = 0; i < numberOfLabels; ++i) {
             const double offset = 10 * static_cast<double>(i + 1);
             labels[i] = std::make_shared<Label>(QRectF(offset, 100 - offset, 80, 17));
-            labels[i]->setTag(static_cast<qint64>(i + 1));
+            labels[i]->setTag(static_cast<qint64>(i) + 1);
             view->addSubview(labels[i]);
         }
         connectOutlets(controller, labels);

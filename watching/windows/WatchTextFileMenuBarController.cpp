@@ -30,8 +30,8 @@ Alert failureAlert(const QUrl &document)
 
 } // namespace
 
-WatchTextFileMenuBarController::WatchTextFileMenuBarController(const WatchSurroundings &surroundings)
-    : m_surroundings(surroundings)
+WatchTextFileMenuBarController::WatchTextFileMenuBarController(WatchSurroundings surroundings)
+    : m_surroundings(std::move(surroundings))
 {
 }
 

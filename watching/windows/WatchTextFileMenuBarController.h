@@ -101,7 +101,7 @@ public:
     void currentlyWatchedTextFileWasRenamed(const QString &newName, WatchTextFileModel &watchModel) override;
 
 private:
-    explicit WatchTextFileMenuBarController(const WatchSurroundings &surroundings);
+    explicit WatchTextFileMenuBarController(WatchSurroundings surroundings);
     void setUpWithMenuItem();
     void setUpWithoutMenuItem();
     void makeWindow(const QRectF &contentRect, const std::shared_ptr<WatchTextFileViewController> &panel);

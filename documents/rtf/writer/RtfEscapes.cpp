@@ -21,6 +21,7 @@ void appendCodeUnit(QByteArray &rtf, char16_t unit)
 {
     char word[sizeof "\\u-32768 "] = "\\u";
     char *const blank = word + sizeof word - 1; // its last possible position
+    // NOLINTNEXTLINE(misc-const-correctness): the next line writes through it
     char *end = std::to_chars(word + 2, blank, static_cast<qint16>(unit)).ptr;
     *end++ = ' ';
     rtf.append(word, end - word);
@@ -69,7 +70,7 @@ void appendRtfName(QByteArray &rtf, QStringView name)
     for (qsizetype i = 0; i < name.size(); ++i) {
         const char16_t unit = name[i].unicode();
         const bool isAtEdge = i == 0 || i == name.size() - 1;
-        if (unit < 128 && isLiteral[unit] && unit != u';' && !(unit == u' ' && isAtEdge))
+        if (unit < 128 && isLiteral[unit] && unit != u';' && (unit != u' ' || !isAtEdge))
             rtf.append(static_cast<char>(unit));
         else
             appendEscaped(rtf, unit);

@@ -10,6 +10,7 @@
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QPalette>
+#include <utility>
 
 namespace {
 
@@ -96,8 +97,8 @@ void applyColorScheme(ColorScheme scheme)
         QApplication::setPalette(paletteOf(wantsDark ? darkColors : lightColors));
 }
 
-DesktopAppearance::DesktopAppearance(const QDBusConnection &sessionBus)
-    : m_bus(sessionBus)
+DesktopAppearance::DesktopAppearance(QDBusConnection sessionBus)
+    : m_bus(std::move(sessionBus))
 {
     if (!m_bus.isConnected()) {
         LogChannel::standard().info(u"No session bus; keeping the desktop's colours");

@@ -25,7 +25,7 @@ class DesktopAppearance : public QObject {
     Q_OBJECT
 
 public:
-    explicit DesktopAppearance(const QDBusConnection &sessionBus = QDBusConnection::sessionBus());
+    explicit DesktopAppearance(QDBusConnection sessionBus = QDBusConnection::sessionBus());
 
     /// NoPreference until the portal has answered.
     [[nodiscard]] ColorScheme colorScheme() const { return m_colorScheme; }

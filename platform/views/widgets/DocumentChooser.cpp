@@ -61,6 +61,7 @@ bool DocumentChooser::isPackage(const QString &path) const
 void DocumentChooser::choosePackage(const QString &path)
 {
     m_chosenUrls = {QUrl::fromLocalFile(QDir::cleanPath(path))};
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): not QFileDialog's, which would enter the folder
     QDialog::accept();
 }
 
@@ -78,5 +79,6 @@ void DocumentChooser::accept()
     m_chosenUrls.clear();
     for (const QString &path : selected)
         m_chosenUrls.append(QUrl::fromLocalFile(QDir::cleanPath(path)));
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): not QFileDialog's, which would enter the folder
     QDialog::accept();
 }

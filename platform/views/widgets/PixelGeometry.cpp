@@ -23,7 +23,7 @@ int roundToPixel(double points)
 {
     if (std::isnan(points))
         return 0;
-    return int(std::floor(std::clamp(points, -maxCoordinate, maxCoordinate) + 0.5));
+    return static_cast<int>(std::floor(std::clamp(points, -maxCoordinate, maxCoordinate) + 0.5));
 }
 
 QRect pixelRectInWindow(const QRectF &rect, int windowHeight)

@@ -24,7 +24,7 @@ constexpr double wheelStep = 120; // QWheelEvent::angleDelta() for one notch of 
 ScrollWheelEvent scrollEvent(const QWheelEvent &event, const QWidget &widget)
 {
     if (!event.pixelDelta().isNull())
-        return {double(event.pixelDelta().x()), double(event.pixelDelta().y())};
+        return {static_cast<double>(event.pixelDelta().x()), static_cast<double>(event.pixelDelta().y())};
     const double notch = QApplication::wheelScrollLines() * widget.fontMetrics().lineSpacing();
     return {event.angleDelta().x() / wheelStep * notch, event.angleDelta().y() / wheelStep * notch};
 }

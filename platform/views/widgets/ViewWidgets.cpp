@@ -30,7 +30,8 @@ public:
     void fillRect(const QRectF &rect, const Color &color) override
     {
         m_painter.fillRect(rect,
-            QColor::fromRgbF(float(color.red), float(color.green), float(color.blue), float(color.alpha)));
+            QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
+                static_cast<float>(color.blue), static_cast<float>(color.alpha)));
     }
 
 private:
@@ -196,7 +197,7 @@ void SpinnerWidget::paintEvent(QPaintEvent * /*event*/)
     QColor color = palette().color(QPalette::WindowText);
     for (int spoke = 0; spoke < spokes; ++spoke) {
         const int age = (m_step - spoke + spokes) % spokes;
-        color.setAlphaF(1 - 0.8F * float(age) / (spokes - 1));
+        color.setAlphaF(1 - 0.8F * static_cast<float>(age) / (spokes - 1));
         painter.setPen(QPen(color, radius * thickness, Qt::SolidLine, Qt::RoundCap));
         painter.save();
         painter.rotate(360.0 * spoke / spokes);

@@ -84,7 +84,7 @@ double squaredDistance(const QPoint &point, const QRect &rect)
 {
     const int right = std::max({rect.left() - point.x(), point.x() - rect.right(), 0});
     const int down = std::max({rect.top() - point.y(), point.y() - rect.bottom(), 0});
-    return double(right) * right + double(down) * down;
+    return static_cast<double>(right) * right + static_cast<double>(down) * down;
 }
 
 std::unique_ptr<QMessageBox> makeMessageBox(
@@ -164,7 +164,7 @@ void WidgetDesktop::runAlert(const Alert &alert, AlertCompletion completion)
     box->setDefaultButton(static_cast<QPushButton *>(buttons.first()));
     box->setEscapeButton(buttons.last());
     showAlert(std::move(box), [buttons, completion = std::move(completion)](QDialog &dialog, int) {
-        QAbstractButton *const pressed = static_cast<QMessageBox &>(dialog).clickedButton();
+        const QAbstractButton *const pressed = static_cast<QMessageBox &>(dialog).clickedButton();
         completion(static_cast<int>(std::max<qsizetype>(buttons.indexOf(pressed), 0)));
     });
 }

@@ -77,7 +77,7 @@ WindowWidget::~WindowWidget() = default;
 
 void WindowWidget::followWindow()
 {
-    Window *const window = m_window.get();
+    const Window *const window = m_window.get();
     connect(window, &Window::frameDidChange, this, &WindowWidget::applyFrame);
     connect(window, &Window::contentViewDidChange, this, &WindowWidget::bindContent);
     connect(window, &Window::styleMaskDidChange, this, &WindowWidget::applyStyle);

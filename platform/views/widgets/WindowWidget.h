@@ -34,7 +34,7 @@ public:
     explicit WindowWidget(std::shared_ptr<Window> window);
     ~WindowWidget() override;
 
-    [[nodiscard]] const Window &window() const { return *m_window; }
+    [[nodiscard]] const Window &representedWindow() const { return *m_window; }
 
     /// Acts like Ctrl+C: puts the window's content to copy on the clipboard, in all its forms. Without such
     /// content the clipboard stays unchanged.

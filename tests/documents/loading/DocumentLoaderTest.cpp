@@ -81,7 +81,7 @@ TEST_F(DocumentLoader, AnRtfdFolderIsReadWithItsAttachments)
     writeDocument("text.rtfd/sun.png", "bytes of a picture");
     const QByteArray rtf =
         writeDocument("text.rtfd/TXT.rtf", R"({\rtf1 a{{\NeXTGraphic sun.png \width0\height0}\'ac}b})");
-    const AttributedString text = loadDocument(rtf.chopped(qstrlen("/TXT.rtf"))).value();
+    const AttributedString text = loadDocument(rtf.chopped(QByteArrayView("/TXT.rtf").size())).value();
     EXPECT_EQ(text.string(), QStringLiteral("a\uFFFCb"));
     ASSERT_NE(text.attributesAt(1).attachment, nullptr);
     EXPECT_EQ(text.attributesAt(1).attachment->contents, "bytes of a picture");

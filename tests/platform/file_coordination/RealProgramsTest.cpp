@@ -23,7 +23,7 @@ struct Save {
     const char *mode;
     /// Shell commands in the folder of the document, f.txt; they leave "after" somewhere in it.
     const char *commands;
-    int mostChanges = 1; ///< more where it is several saves
+    int maxChanges = 1; ///< more where it is several saves
 };
 
 // Types the keys after the last pattern once the terminal's screen has shown each pattern.
@@ -202,7 +202,7 @@ TEST_P(RealProgramsTest, ASaveIsReportedAsAChangeOnly)
     const QStringList news = m_presenter.takeNews();
     std::printf("| %s | %s | %s |\n", save.program, save.mode, qPrintable(news.join(QStringLiteral(", "))));
     EXPECT_FALSE(news.isEmpty());
-    EXPECT_LE(news.size(), save.mostChanges);
+    EXPECT_LE(news.size(), save.maxChanges);
     for (const QString &one : news)
         EXPECT_EQ(one, QStringLiteral("changed"));
     EXPECT_TRUE(m_presenter.contents().contains("after"));

@@ -318,7 +318,7 @@ TEST(ViewBinding, FadesToTheNewOpacity)
     const QRgb background = pixelAt(shown, 200, 100);
     box.setAlphaValue(0.5);
     const QRgb half = pixelAt(shown, 50, 100);
-    EXPECT_NEAR(qGreen(half), qGreen(background) / 2, 2);
+    EXPECT_NEAR(qGreen(half), qGreen(background) / 2.0, 2);
     box.fadeTo(0, 200);
     EXPECT_EQ(box.alphaValue(), 0);
     EXPECT_TRUE(waitUntil([&] {

@@ -311,7 +311,7 @@ TEST_F(WidgetDesktopTest, KeepsAWindowOnTheScreenAsLongAsTheResultLives)
         const QWidgetList widgets = QApplication::topLevelWidgets();
         return std::any_of(widgets.begin(), widgets.end(), [&](QWidget *widget) {
             const auto *const shown = qobject_cast<WindowWidget *>(widget);
-            return shown && &shown->window() == window.get() && shown->isVisible();
+            return shown && &shown->representedWindow() == window.get() && shown->isVisible();
         });
     };
     EXPECT_FALSE(isShown());
