@@ -55,6 +55,23 @@ function(quillbay_program name)
     target_link_libraries(${name} PRIVATE quillbay_options ${arg_LINKS})
 endfunction()
 
+# quillbay_compile_fast(NAME): code of the tests, not optimised and with the precompiled header that tests share. The code
+# under test is optimised.
+function(quillbay_compile_fast name)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLBAY_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 10)
+    target_compile_options(${name} PRIVATE -O0)
+    target_compile_definitions(${name} PRIVATE GTEST_HAS_PTHREAD=1) # as the precompiled header has it
+    target_precompile_headers(${name} REUSE_FROM test_precompiled)
+endfunction()
+
+# quillbay_test_library(NAME SOURCES file… [LINKS target…]): code that several tests share.
+function(quillbay_test_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC quillbay_options Qt6::Core ${arg_LINKS})
+    quillbay_compile_fast(${name})
+endfunction()
+
 # quillbay_test(NAME SOURCES file… [LINKS target…] [HELPERS target…] [TIMEOUT seconds]): a GoogleTest
 # binary on the project's harness; every TEST is a CTest test of its own. HELPERS are programs that the
 # tests start from the folder of the test binary.
@@ -66,10 +83,7 @@ function(quillbay_test name)
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
     target_link_libraries(${name} PRIVATE quillbay_options test_harness GTest::gmock ${arg_LINKS})
-    # Tests are compiled without optimisation, which is faster; the code under test is optimised.
-    set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLBAY_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 6)
-    target_compile_options(${name} PRIVATE -O0)
-    target_precompile_headers(${name} REUSE_FROM test_precompiled)
+    quillbay_compile_fast(${name})
     if(arg_HELPERS)
         add_dependencies(${name} ${arg_HELPERS})
     endif()
@@ -82,6 +96,8 @@ endfunction()
 # quillbay_test_helper(NAME SOURCES file… [LINKS target…]): a program for tests to start.
 function(quillbay_test_helper name)
     quillbay_program(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE Qt6::Core)
+    quillbay_compile_fast(${name})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
 endfunction()
 

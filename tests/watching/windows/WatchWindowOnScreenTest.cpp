@@ -192,10 +192,13 @@ TEST_F(WatchWindowOnScreen, LooksAsTheDesktopDoes)
     for (const uint scheme : {lightScheme, darkScheme}) {
         const FakePortal portal(scheme);
         const QString window = open(m_novel, 3);
-        const QImage image = saveScreenshot(scheme == darkScheme ? QStringLiteral("watch-window-dark")
-                                                                 : QStringLiteral("watch-window-light"));
-        const QRect rect = rectOf(window);
-        EXPECT_EQ(image.pixelColor(rect.topLeft() + QPoint(3, 60)).lightness() < 128, scheme == darkScheme);
+        const QString name =
+            scheme == darkScheme ? QStringLiteral("watch-window-dark") : QStringLiteral("watch-window-light");
+        // The window may be open before it is painted.
+        EXPECT_TRUE(waitUntil([&] {
+            const QColor pixel = saveScreenshot(name).pixelColor(rectOf(window).topLeft() + QPoint(3, 60));
+            return (pixel.lightness() < 128) == (scheme == darkScheme);
+        }));
         clickStop(window);
         EXPECT_TRUE(waitUntil([this] { return provider() == 0; }));
     }
