@@ -10,7 +10,6 @@
 #include <QFileInfo>
 
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -163,18 +162,8 @@ Result<QString, DocumentError::Cause> PdfReaderProcess::readText()
 
 bool PdfReaderProcess::isReadyInTime(int descriptor) const
 {
-    pollfd waiting{descriptor, POLLIN, 0};
-    for (;;) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(m_deadline - Clock::now());
-        if (left.count() <= 0)
-            return false;
-        constexpr qint64 maxWait = 1'000'000; // milliseconds, as poll() takes an int
-        const int ready = ::poll(&waiting, 1, static_cast<int>(std::min<qint64>(left.count(), maxWait)));
-        if (ready > 0)
-            return true;
-        if (ready < 0 && errno != EINTR)
-            return false;
-    }
+    return waitUntilReadable(
+        descriptor, std::chrono::ceil<std::chrono::milliseconds>(m_deadline - Clock::now()));
 }
 
 bool PdfReaderProcess::readToEnd(QString &text) const
@@ -205,11 +194,7 @@ int PdfReaderProcess::end(bool isKilled)
     const pid_t process = std::exchange(m_process, 0);
     if (isKilled)
         ::kill(process, SIGKILL);
-    int status = 0;
-    while (::waitpid(process, &status, 0) < 0)
-        if (errno != EINTR)
-            return SIGSEGV; // its exit status is unknown, so its text is not trusted
-    return status;
+    return reapChild(process).value_or(SIGSEGV); // without an exit status, its text is not trusted
 }
 
 constexpr qsizetype maxShare = 20; // one in so many
