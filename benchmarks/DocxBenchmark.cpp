@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Reads generated Word documents by the size of their main part in bytes: reports bytes of that part per
 // second, and the peak resident size of the process.
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 #include "tests/documents/docx/PackageWriter.h"
 
 #include <benchmark/benchmark.h>

@@ -9,7 +9,7 @@
 #include "command/NamedDocument.h"
 #include "command/ProgressLine.h"
 #include "command/ServiceCounter.h"
-#include "documents/loading/KindDetection.h"
+#include "documents/reading/KindDetection.h"
 #include "platform/files/FileContents.h"
 #include "platform/system/OwnedDescriptor.h"
 #include "platform/system/Result.h"

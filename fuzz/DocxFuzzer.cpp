@@ -4,7 +4,7 @@
 // bytes: body, styles, numbering, footnotes, a chunk. The mutator changes them element by element, and byte
 // by byte in one case of four.
 #include "documents/docx/DocxReader.h"
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 #include "tests/documents/docx/PackageWriter.h"
 
 #include <QByteArray>

@@ -2,7 +2,7 @@
 // The statistics of WordCounterViewController as HTML and styled text, for the clipboard and other programs.
 #include "presentation/WordCounterViewController.h"
 
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 
 QString WordCounterViewController::htmlRepresentationWithTitle(
     const std::optional<QString> &title, bool fullHTMLDocument) const

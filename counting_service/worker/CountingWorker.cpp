@@ -2,7 +2,7 @@
 #include "counting_service/worker/CountingWorker.h"
 
 #include "counting_service/protocol/PacketSocket.h"
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 #include "platform/locale/CurrentLocale.h"
 #include "platform/system/SealedMemory.h"
 

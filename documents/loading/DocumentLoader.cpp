@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/loading/DocumentLoader.h"
 
-#include "documents/loading/KindDetection.h"
+#include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "platform/files/FileContents.h"
 

@@ -4,7 +4,7 @@
 // Thread: any.
 #pragma once
 
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 
 /// A file, or a folder with the RTF and the attachments of an RTFD. path: bytes in any encoding.
 Result<AttributedString, DocumentError> loadDocument(const QByteArray &path, const ReadOptions &options = {});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/loading/PasteboardText.h"
 
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 #include "platform/pasteboard/MediaType.h"
 #include "platform/text_encoding/EncodingLabels.h"
 

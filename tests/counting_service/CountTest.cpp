@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The counts of the counting service, of every kind of document.
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/counting_service/CountingServiceTest.h"

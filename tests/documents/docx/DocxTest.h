@@ -4,7 +4,7 @@
 #pragma once
 
 #include "documents/docx/DocxReader.h"
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/harness/QuillbayTest.h"
 

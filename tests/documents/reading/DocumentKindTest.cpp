@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/loading/KindDetection.h"
+#include "documents/reading/KindDetection.h"
 
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/documents/pdf/PdfWriter.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/loading/KindDetection.h"
+#include "documents/reading/KindDetection.h"
 
 #include "documents/docx/DocxReader.h"
 #include "documents/html/HtmlReader.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 
 #include "documents/PlainTextReader.h"
 #include "documents/docx/DocxReader.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The same content in every format that has tables and lists has the same text.
 #include "documents/html/HtmlReader.h"
-#include "documents/loading/DocumentReader.h"
+#include "documents/reading/DocumentReader.h"
 #include "documents/rtf/RtfReader.h"
 
 #include "tests/documents/docx/PackageWriter.h"
