@@ -3,6 +3,7 @@
 
 #include "documents/Notes.h"
 #include "documents/docx/AlternativeChunk.h"
+#include "documents/docx/CompoundFile.h"
 #include "documents/docx/PackageDocument.h"
 #include "documents/docx/PackageParts.h"
 #include "documents/docx/StoryReader.h"
@@ -30,7 +31,7 @@ std::optional<DocumentError::Cause> appendNotes(AttributedStringBuilder &text,
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const NoteReferences wanted = references;
     reader.setWantedNotes(&wanted);
-    if (const std::optional<DocumentError::Cause> failure = readXmlPart(document.package, *part, reader))
+    if (const std::optional<DocumentError::Cause> failure = readOfficePart(document.package, *part, reader))
         return failure;
     if (reader.error())
         return reader.error();
@@ -46,7 +47,7 @@ Result<AttributedString, DocumentError::Cause> textOf(const PackageDocument &doc
         return readAlternativeChunk(document, document.relationships, identifier);
     });
     if (const std::optional<DocumentError::Cause> failure =
-            readXmlPart(document.package, document.mainPart, reader))
+            readOfficePart(document.package, document.mainPart, reader))
         return *failure;
     if (reader.error())
         return *reader.error();
@@ -69,6 +70,8 @@ Result<AttributedString, DocumentError::Cause> textOf(const PackageDocument &doc
 bool looksLikeDocx(QByteArrayView bytes)
 {
     try {
+        if (const std::optional<DocumentError::Cause> cause = causeOfCompoundFile(bytes))
+            return *cause == DocumentError::Cause::Encrypted;
         ReadAllowance allowance;
         const Result<ZipPackage, DocumentError::Cause> package = ZipPackage::open(bytes, allowance);
         if (!package)
@@ -83,6 +86,8 @@ bool looksLikeDocx(QByteArrayView bytes)
 Result<AttributedString, DocumentError::Cause> readPackageDocument(
     QByteArrayView bytes, ReadAllowance &allowance, const ChunkReader &readChunk)
 {
+    if (const std::optional<DocumentError::Cause> cause = causeOfCompoundFile(bytes))
+        return *cause;
     const Result<ZipPackage, DocumentError::Cause> package = ZipPackage::open(bytes, allowance);
     if (!package)
         return package.error();

@@ -12,7 +12,7 @@ public:
 
     void startElement(const XmlElement &element) override
     {
-        if (!element.isWord())
+        if (!isWord(element))
             return;
         switch (element.tag()) {
         case "abstractNum"_tag:
@@ -22,16 +22,17 @@ public:
             m_list = integerOf(element.attribute("numId"_tag));
             break;
         case "abstractNumId"_tag:
-            if (const auto abstractList = integerOf(element.value()); m_list && abstractList)
+            if (const auto abstractList = integerOf(valueOf(element)); m_list && abstractList)
                 m_numbering.m_abstractLists.insert(*m_list, *abstractList);
             break;
         case "numStyleLink"_tag:
             if (m_abstractList)
-                m_numbering.m_namedLists.insert(*m_abstractList, element.value().value_or("").toByteArray());
+                m_numbering.m_namedLists.insert(*m_abstractList, valueOf(element).value_or("").toByteArray());
             break;
         case "styleLink"_tag:
             if (m_abstractList)
-                m_numbering.m_listOfStyle.insert(element.value().value_or("").toByteArray(), *m_abstractList);
+                m_numbering.m_listOfStyle.insert(
+                    valueOf(element).value_or("").toByteArray(), *m_abstractList);
             break;
         case "lvl"_tag:
             m_level = integerOf(element.attribute("ilvl"_tag));
@@ -82,7 +83,7 @@ Result<Numbering, DocumentError::Cause> Numbering::read(const ZipPackage &packag
 {
     Numbering numbering;
     NumberingReader reader(numbering);
-    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, partName, reader))
+    if (const std::optional<DocumentError::Cause> failure = readOfficePart(package, partName, reader))
         return *failure;
     return numbering;
 }

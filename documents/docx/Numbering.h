@@ -5,7 +5,7 @@
 #pragma once
 
 #include "documents/docx/ParagraphProperties.h"
-#include "documents/docx/ZipPackage.h"
+#include "documents/package/ZipPackage.h"
 #include "platform/system/Result.h"
 
 #include <QHash>

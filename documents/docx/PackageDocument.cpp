@@ -18,7 +18,7 @@ public:
     {
         if (element.name() != wordName("defaultTabStop"_tag))
             return;
-        const std::optional<double> interval = pointsOf(element.value(), twipsPerPoint);
+        const std::optional<double> interval = pointsOf(valueOf(element), twipsPerPoint);
         if (interval && *interval >= minTabInterval)
             m_styles.defaultTabInterval = *interval;
     }
@@ -65,7 +65,7 @@ Result<DocumentStyles, DocumentError::Cause> DocumentStyles::read(
     const auto settings = findPart(package, ofMainPart, "settings");
     if (settings && !failure) {
         SettingsReader reader(styles);
-        failure = readXmlPart(package, *settings, reader);
+        failure = readOfficePart(package, *settings, reader);
     }
     if (failure)
         return *failure;

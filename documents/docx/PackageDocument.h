@@ -10,7 +10,7 @@
 #include "documents/docx/PackageParts.h"
 #include "documents/docx/StyleSheet.h"
 #include "documents/docx/Theme.h"
-#include "documents/docx/ZipPackage.h"
+#include "documents/package/ZipPackage.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/PackageParts.h"
 
-#include "documents/docx/XmlReader.h"
+#include "documents/docx/OfficeXml.h"
 
 #include <QByteArrayList>
 
@@ -75,7 +75,7 @@ public:
 
     void startElement(const XmlElement &element) override
     {
-        if (element.name() != XmlName{XmlSpace::PackageRelationships, "Relationship"_tag})
+        if (element.name() != XmlName{OfficeSpace::PackageRelationships, "Relationship"_tag})
             return;
         const auto identifier = element.attribute(plainName("Id"_tag));
         const auto type = element.attribute(plainName("Type"_tag));
@@ -104,7 +104,7 @@ Result<Relationships, DocumentError::Cause> Relationships::read(
     if (!package.contains(part))
         return relationships;
     RelationshipsReader reader(relationships, source);
-    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, part, reader))
+    if (const std::optional<DocumentError::Cause> failure = readOfficePart(package, part, reader))
         return *failure;
     return relationships;
 }
@@ -131,7 +131,7 @@ public:
     void startElement(const XmlElement &element) override
     {
         const auto type = element.attribute(plainName("ContentType"_tag));
-        if (element.name().space != XmlSpace::ContentTypes || !type)
+        if (element.name().space != OfficeSpace::ContentTypes || !type)
             return;
         if (const auto extension = element.attribute(plainName("Extension"_tag)))
             m_types.m_byExtension.insert(extension->toByteArray().toLower(), normalizeType(*type));
@@ -151,7 +151,7 @@ Result<ContentTypes, DocumentError::Cause> ContentTypes::read(const ZipPackage &
         return DocumentError::Cause::WrongKind;
     ContentTypes types;
     ContentTypesReader reader(types);
-    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, part, reader))
+    if (const std::optional<DocumentError::Cause> failure = readOfficePart(package, part, reader))
         return *failure;
     return types;
 }

@@ -4,7 +4,7 @@
 // Thread: any; values.
 #pragma once
 
-#include "documents/docx/ZipPackage.h"
+#include "documents/package/ZipPackage.h"
 #include "platform/system/Result.h"
 
 #include <QByteArray>

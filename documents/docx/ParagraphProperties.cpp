@@ -54,17 +54,17 @@ void readEither(std::optional<double> &value, const XmlElement &element, XmlTag 
 
 void ParagraphProperties::read(const XmlElement &element)
 {
-    if (!element.isWord())
+    if (!isWord(element))
         return;
     switch (element.tag()) {
     case "pStyle"_tag:
-        style = element.value().value_or("").toByteArray();
+        style = valueOf(element).value_or("").toByteArray();
         break;
     case "jc"_tag:
-        overlayValue(alignment, alignmentOf(element.value().value_or("")));
+        overlayValue(alignment, alignmentOf(valueOf(element).value_or("")));
         break;
     case "bidi"_tag:
-        isRightToLeft = booleanOf(element.value());
+        isRightToLeft = booleanOf(valueOf(element));
         break;
     case "ind"_tag:
         readIndents(element);
@@ -76,10 +76,10 @@ void ParagraphProperties::read(const XmlElement &element)
         readTab(element);
         break;
     case "numId"_tag:
-        list = integerOf(element.value());
+        list = integerOf(valueOf(element));
         break;
     case "ilvl"_tag:
-        listLevel = integerOf(element.value());
+        listLevel = integerOf(valueOf(element));
         break;
     case "framePr"_tag: {
         const QByteArrayView dropCap = element.attribute("dropCap"_tag).value_or("none");
@@ -122,7 +122,7 @@ void ParagraphProperties::readTab(const XmlElement &element)
     const std::optional<double> position = pointsOf(element.attribute("pos"_tag), twipsPerPoint);
     if (!position)
         return;
-    const QByteArrayView kind = element.value().value_or("left");
+    const QByteArrayView kind = valueOf(element).value_or("left");
     if (kind == "clear")
         setTab({*position, std::nullopt});
     else if (kind == "center")

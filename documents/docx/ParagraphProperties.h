@@ -4,7 +4,7 @@
 // Thread: any; values.
 #pragma once
 
-#include "documents/docx/XmlReader.h"
+#include "documents/docx/OfficeXml.h"
 #include "platform/styled_text/TextAttributes.h"
 
 #include <QByteArray>

@@ -17,7 +17,7 @@ constexpr std::array toggles{&RunProperties::bold, &RunProperties::italic, &RunP
 
 std::optional<double> sizeOf(const XmlElement &element)
 {
-    const std::optional<double> size = pointsOf(element.value(), halfPointsPerPoint);
+    const std::optional<double> size = pointsOf(valueOf(element), halfPointsPerPoint);
     return size ? std::optional(std::clamp(*size, minSize, maxSize)) : std::nullopt;
 }
 
@@ -43,7 +43,7 @@ void readLanguage(QString &language, const XmlElement &element, XmlTag name)
 
 VerticalAlignment verticalAlignmentOf(const XmlElement &element)
 {
-    const QByteArrayView value = element.value().value_or("baseline");
+    const QByteArrayView value = valueOf(element).value_or("baseline");
     if (value == "superscript")
         return VerticalAlignment::Superscript;
     return value == "subscript" ? VerticalAlignment::Subscript : VerticalAlignment::Baseline;
@@ -120,11 +120,11 @@ CharacterFormat makeFormat(
 
 void RunProperties::read(const XmlElement &child, const Theme &theme)
 {
-    if (!child.isWord())
+    if (!isWord(child))
         return;
     switch (child.tag()) {
     case "rStyle"_tag:
-        style = child.value().value_or("").toByteArray();
+        style = valueOf(child).value_or("").toByteArray();
         break;
     case "rFonts"_tag:
         readFont(fonts.ascii, child, theme, "ascii"_tag, "asciiTheme"_tag);
@@ -141,29 +141,29 @@ void RunProperties::read(const XmlElement &child, const Theme &theme)
         complexSize = sizeOf(child);
         break;
     case "b"_tag:
-        bold = booleanOf(child.value());
+        bold = booleanOf(valueOf(child));
         break;
     case "i"_tag:
-        italic = booleanOf(child.value());
+        italic = booleanOf(valueOf(child));
         break;
     case "bCs"_tag:
-        complexBold = booleanOf(child.value());
+        complexBold = booleanOf(valueOf(child));
         break;
     case "iCs"_tag:
-        complexItalic = booleanOf(child.value());
+        complexItalic = booleanOf(valueOf(child));
         break;
     case "vanish"_tag:
-        hidden = booleanOf(child.value());
+        hidden = booleanOf(valueOf(child));
         break;
     case "rtl"_tag:
     case "cs"_tag:
-        isComplex = booleanOf(child.value());
+        isComplex = booleanOf(valueOf(child));
         break;
     case "spacing"_tag:
-        tracking = pointsOf(child.value(), twipsPerPoint);
+        tracking = pointsOf(valueOf(child), twipsPerPoint);
         break;
     case "position"_tag:
-        raised = pointsOf(child.value(), halfPointsPerPoint);
+        raised = pointsOf(valueOf(child), halfPointsPerPoint);
         break;
     case "vertAlign"_tag:
         verticalAlignment = verticalAlignmentOf(child);

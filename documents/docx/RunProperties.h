@@ -5,8 +5,8 @@
 // Thread: any; values.
 #pragma once
 
+#include "documents/docx/OfficeXml.h"
 #include "documents/docx/Theme.h"
-#include "documents/docx/XmlReader.h"
 #include "platform/styled_text/TextAttributes.h"
 
 #include <QString>

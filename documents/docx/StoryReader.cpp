@@ -22,7 +22,7 @@ constexpr std::array conditionalAttributes{"firstRow"_tag, "lastRow"_tag, "first
 
 TableParts tablePartsOf(const XmlElement &element)
 {
-    const QByteArrayView digits = element.value().value_or("");
+    const QByteArrayView digits = valueOf(element).value_or("");
     TableParts parts = 0;
     for (size_t i = 0; i < conditionalParts.size(); ++i) {
         const auto attribute = element.attribute(conditionalAttributes[i]);
@@ -90,10 +90,10 @@ void StoryReader::endElement(XmlName name)
         if (mode() == Mode::Text)
             endText();
         m_scopes.pop_back();
-    } else if (mode() == Mode::Content && name.space == XmlSpace::Word && m_assembler.isInStory()) {
+    } else if (mode() == Mode::Content && name.space == OfficeSpace::Word && m_assembler.isInStory()) {
         // Elements within text or properties have not begun as blocks.
         endBlock(name.tag);
-    } else if (mode() == Mode::Content && name.space == XmlSpace::Math && m_assembler.isInStory()) {
+    } else if (mode() == Mode::Content && name.space == OfficeSpace::Math && m_assembler.isInStory()) {
         if (m_formulaParts.endElement(name.tag, m_depth) && m_assembler.isInParagraph())
             m_assembler.requireSpace();
     }
@@ -125,11 +125,11 @@ void StoryReader::characters(QByteArrayView text)
 
 void StoryReader::startContent(const XmlElement &element)
 {
-    if (element.isWord()) {
+    if (isWord(element)) {
         startWordContent(element);
         return;
     }
-    if (element.name().space == XmlSpace::Math && m_assembler.isInStory())
+    if (element.name().space == OfficeSpace::Math && m_assembler.isInStory())
         startMath(element.tag());
 }
 
@@ -291,7 +291,7 @@ void StoryReader::startInline(const XmlElement &element)
 
 void StoryReader::startInProperties(const XmlElement &element)
 {
-    if (!element.isWord())
+    if (!isWord(element))
         return;
     switch (element.tag()) {
     case "rPrChange"_tag:
@@ -316,7 +316,7 @@ void StoryReader::startInProperties(const XmlElement &element)
 void StoryReader::startInTableProperties(const XmlElement &element)
 {
     StoryAssembler::Table *table = m_assembler.table();
-    if (!element.isWord() || !table)
+    if (!isWord(element) || !table)
         return;
     switch (element.tag()) {
     case "tblPrChange"_tag:
@@ -325,7 +325,7 @@ void StoryReader::startInTableProperties(const XmlElement &element)
         skipElement();
         break;
     case "tblStyle"_tag:
-        table->style = element.value().value_or("").toByteArray();
+        table->style = valueOf(element).value_or("").toByteArray();
         break;
     case "cnfStyle"_tag:
         (mode() == Mode::Row ? table->partsOfRow : table->partsOfCell) = tablePartsOf(element);

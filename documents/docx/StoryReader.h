@@ -4,8 +4,8 @@
 // Thread: one at a time.  Owner: DocxReader.
 #pragma once
 
+#include "documents/docx/OfficeXml.h"
 #include "documents/docx/StoryAssembler.h"
-#include "documents/docx/XmlReader.h"
 
 #include <QByteArray>
 #include <QHash>

@@ -173,7 +173,7 @@ void StoryReader::handleFieldCharacter(const XmlElement &element)
 
 void StoryReader::insertChunk(const XmlElement &element)
 {
-    const auto identifier = element.attribute(XmlName{XmlSpace::Relationships, "id"_tag});
+    const auto identifier = element.attribute(XmlName{OfficeSpace::Relationships, "id"_tag});
     if (!identifier || m_error || state().fieldsWithoutResult > 0)
         return;
     const Result<AttributedString, DocumentError::Cause> chunk = m_readChunk(identifier->toByteArray());

@@ -39,7 +39,7 @@ public:
     void startElement(const XmlElement &element) override
     {
         ++m_depth;
-        if (!element.isWord() || m_skippedDepth > 0)
+        if (!isWord(element) || m_skippedDepth > 0)
             return;
         switch (element.tag()) {
         case "docDefaults"_tag:
@@ -49,7 +49,7 @@ public:
             startStyle(element);
             break;
         case "basedOn"_tag:
-            m_style.basedOn = element.value().value_or("").toByteArray();
+            m_style.basedOn = valueOf(element).value_or("").toByteArray();
             break;
         case "tblStylePr"_tag:
             if (const auto part = tablePartOf(element.attribute("type"_tag).value_or("")))
@@ -80,7 +80,7 @@ public:
     {
         if (m_skippedDepth == m_depth)
             m_skippedDepth = 0;
-        else if (m_skippedDepth == 0 && name.space == XmlSpace::Word)
+        else if (m_skippedDepth == 0 && name.space == OfficeSpace::Word)
             endWordElement(name.tag);
         --m_depth;
     }
@@ -157,7 +157,7 @@ Result<StyleSheet, DocumentError::Cause> StyleSheet::read(
 {
     StyleSheet styles;
     StyleSheetReader reader(styles, theme);
-    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, partName, reader))
+    if (const std::optional<DocumentError::Cause> failure = readOfficePart(package, partName, reader))
         return *failure;
     styles.applyLists(numbering);
     return styles;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/Theme.h"
 
-#include "documents/docx/XmlReader.h"
+#include "documents/docx/OfficeXml.h"
 
 #include <algorithm>
 
@@ -20,7 +20,7 @@ public:
 
     void startElement(const XmlElement &element) override
     {
-        if (element.name().space != XmlSpace::Drawing)
+        if (element.name().space != OfficeSpace::Drawing)
             return;
         switch (element.tag()) {
         case "majorFont"_tag:
@@ -66,7 +66,7 @@ Result<Theme, DocumentError::Cause> Theme::read(const ZipPackage &package, const
 {
     Theme theme;
     ThemeReader reader(theme);
-    if (const std::optional<DocumentError::Cause> failure = readXmlPart(package, partName, reader))
+    if (const std::optional<DocumentError::Cause> failure = readOfficePart(package, partName, reader))
         return *failure;
     return theme;
 }

@@ -4,7 +4,7 @@
 // Thread: any.
 #pragma once
 
-#include "documents/docx/ZipPackage.h"
+#include "documents/package/ZipPackage.h"
 #include "platform/system/Result.h"
 
 #include <QByteArrayView>

@@ -173,8 +173,17 @@ TEST(HostilePackage, WithADocumentTypeIsRefusedBeforeEntitiesExpand)
     const QByteArray main = document(paragraph(run("&b;")));
     EXPECT_EQ(causeFor(withMainPart("<!DOCTYPE x [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;&a;'>]>" + main)),
         Cause::Damaged);
-    EXPECT_EQ(causeFor(withMainPart("<!DOCTYPE x SYSTEM 'file:///etc/passwd'>" + main)), Cause::Damaged);
+    EXPECT_EQ(causeFor(withMainPart("<!DOCTYPE x [<!ATTLIST x a CDATA 'aaaa'>]>" + main)), Cause::Damaged);
     EXPECT_EQ(causeFor(withMainPart(main)), Cause::Damaged);
+}
+
+TEST(HostilePackage, WithADocumentTypeElsewhereReadsNothingOutside)
+{
+    const QByteArray main = document(paragraph(run("one &b; two")));
+    const Result<AttributedString, DocumentError> text =
+        readWordDocument(withMainPart("<!DOCTYPE x SYSTEM 'file:///etc/passwd'>" + main));
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text.value().string(), QStringLiteral("one  two\n"));
 }
 
 TEST(HostilePackage, NestedTooDeeplyIsRefused)

@@ -1,34 +1,13 @@
 // SPDX-License-Identifier: MIT
-// PackageWriter writes ZIP archives and Word documents, valid and invalid ones.
+// PackageWriter writes Word documents, valid and invalid ones.
 // Thread: any; values.
 #pragma once
 
+#include "tests/documents/package/ZipWriter.h"
+
 #include <QByteArray>
 
-#include <optional>
 #include <vector>
-
-/// The CRC-32 that ZIP uses.
-quint32 zipChecksum(const QByteArray &bytes);
-
-class ZipWriter {
-public:
-    enum class Method { Stored, Deflated };
-    struct Entry {
-        QByteArray name = {};
-        QByteArray contents = {};
-        Method method = Method::Stored;
-        std::optional<quint32> claimedLength = std::nullopt; ///< a false length of the contents
-        bool isEncrypted = false; ///< sets the flag only
-    };
-
-    void add(const Entry &entry) { m_entries.push_back(entry); }
-    void removeLast() { m_entries.pop_back(); }
-    [[nodiscard]] QByteArray archive() const;
-
-private:
-    std::vector<Entry> m_entries;
-};
 
 /// A Word document with these parts, with the names and relationships that Word uses. Empty parts are left
 /// out.

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "documents/docx/XmlReader.h"
+#include "documents/package/XmlReader.h"
 
 #include <expat.h>
 
 #include <algorithm>
-#include <cmath>
 #include <memory>
 #include <new>
 #include <vector>
@@ -21,14 +20,15 @@ struct FreeParser {
     void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
 };
 
-/// Feeds a parser and passes its results to the handler. The only state of the parser that a document
-/// controls are open tags and names; both are bounded.
-class ParserDriver {
+} // namespace
+
+class XmlParser::Driver {
 public:
-    explicit ParserDriver(XmlHandler &handler)
+    Driver(XmlNamespaces &namespaces, XmlHandler &handler, XmlFilter *filter)
         : m_parser(XML_ParserCreate(nullptr))
-        , m_compatibility(m_namespaces)
+        , m_namespaces(namespaces)
         , m_handler(handler)
+        , m_filter(filter)
     {
         if (!m_parser)
             throw std::bad_alloc();
@@ -44,23 +44,24 @@ public:
 private:
     static void XMLCALL onStart(void *self, const XML_Char *name, const XML_Char **attributes)
     {
-        static_cast<ParserDriver *>(self)->callSafely(
-            [&](ParserDriver &driver) { driver.start(name, attributes); });
+        static_cast<Driver *>(self)->callSafely([&](Driver &driver) { driver.start(name, attributes); });
     }
     static void XMLCALL onEnd(void *self, const XML_Char *name)
     {
-        static_cast<ParserDriver *>(self)->callSafely([&](ParserDriver &driver) { driver.end(name); });
+        static_cast<Driver *>(self)->callSafely([&](Driver &driver) { driver.end(name); });
     }
     static void XMLCALL onCharacters(void *self, const XML_Char *text, int length)
     {
-        static_cast<ParserDriver *>(self)->callSafely([&](ParserDriver &driver) {
+        static_cast<Driver *>(self)->callSafely([&](Driver &driver) {
             if (driver.m_skippedDepth == 0)
                 driver.m_handler.characters(QByteArrayView(text, length));
         });
     }
-    static void XMLCALL onDoctype(void *self, const XML_Char *, const XML_Char *, const XML_Char *, int)
+    static void XMLCALL onDoctype(
+        void *self, const XML_Char *, const XML_Char *, const XML_Char *, int hasSubset)
     {
-        static_cast<ParserDriver *>(self)->stop(DocumentError::Cause::Damaged);
+        if (hasSubset)
+            static_cast<Driver *>(self)->stop(DocumentError::Cause::Damaged);
     }
 
     /// The parser is written in C; no exception may pass through it.
@@ -82,9 +83,9 @@ private:
     [[nodiscard]] bool feed(bool isLast);
 
     std::unique_ptr<XML_ParserStruct, FreeParser> m_parser;
-    XmlNamespaces m_namespaces;
-    MarkupCompatibility m_compatibility;
+    XmlNamespaces &m_namespaces;
     XmlHandler &m_handler;
+    XmlFilter *m_filter; // may be null
     QByteArray m_pending;
     qsizetype m_feedLength = minFeedLength;
     qint64 m_fedLength = 0;
@@ -94,13 +95,13 @@ private:
     std::optional<DocumentError::Cause> m_error;
 };
 
-void ParserDriver::stop(DocumentError::Cause error)
+void XmlParser::Driver::stop(DocumentError::Cause error)
 {
     m_error = error;
     XML_StopParser(m_parser.get(), XML_FALSE);
 }
 
-void ParserDriver::start(const char *name, const char *const *attributes)
+void XmlParser::Driver::start(const char *name, const char *const *attributes)
 {
     ++m_depth;
     if (m_depth > maxDepth || m_namespaces.hasTooManyNames()) {
@@ -110,36 +111,37 @@ void ParserDriver::start(const char *name, const char *const *attributes)
     m_namespaces.enter(m_depth, attributes);
     bool isKept = false;
     if (m_skippedDepth == 0) {
-        const MarkupCompatibility::Treatment treatment = m_compatibility.enter(m_depth, name, attributes);
-        if (treatment == MarkupCompatibility::Treatment::Skip)
+        const XmlFilter::Treatment treatment =
+            m_filter ? m_filter->enter(m_depth, name, attributes) : XmlFilter::Treatment::Keep;
+        if (treatment == XmlFilter::Treatment::Skip)
             m_skippedDepth = m_depth;
-        isKept = treatment == MarkupCompatibility::Treatment::Keep;
+        isKept = treatment == XmlFilter::Treatment::Keep;
     }
     m_isKept.push_back(isKept);
     if (isKept)
         m_handler.startElement(XmlElement(m_namespaces.elementName(name), attributes, m_namespaces));
 }
 
-void ParserDriver::end(const char *name)
+void XmlParser::Driver::end(const char *name)
 {
     if (m_isKept.back())
         m_handler.endElement(m_namespaces.elementName(name));
     m_isKept.pop_back();
-    if (m_skippedDepth == 0)
-        m_compatibility.leave(m_depth);
-    else if (m_skippedDepth == m_depth)
+    if (m_skippedDepth == m_depth)
         m_skippedDepth = 0;
+    else if (m_filter && m_skippedDepth == 0)
+        m_filter->leave(m_depth);
     m_namespaces.leave(m_depth);
     --m_depth;
 }
 
-bool ParserDriver::take(QByteArrayView piece)
+bool XmlParser::Driver::take(QByteArrayView piece)
 {
     m_pending.append(piece);
     return m_pending.size() < m_feedLength || feed(false);
 }
 
-bool ParserDriver::feed(bool isLast)
+bool XmlParser::Driver::feed(bool isLast)
 {
     const XML_Status status = XML_Parse(m_parser.get(), m_pending.constData(),
         static_cast<int>(m_pending.size()), isLast ? XML_TRUE : XML_FALSE);
@@ -161,38 +163,29 @@ bool ParserDriver::feed(bool isLast)
     return !m_error;
 }
 
-std::optional<DocumentError::Cause> ParserDriver::finish()
+std::optional<DocumentError::Cause> XmlParser::Driver::finish()
 {
     if (!m_error)
         (void)feed(true);
     return m_error;
 }
 
-constexpr double maxLength = 2'834; // points; a metre
-constexpr qsizetype maxNumberLength = 40;
-
-struct Unit {
-    const char *name;
-    double points;
-};
-
-constexpr Unit units[]{
-    {"pt", 1},
-    {"in", 72},
-    {"cm", 72 / 2.54},
-    {"mm", 72 / 25.4},
-    {"pc", 12},
-    {"pi", 12},
-};
-
-std::optional<double> numberOf(QByteArrayView text)
+XmlParser::XmlParser(XmlNamespaces &namespaces, XmlHandler &handler, XmlFilter *filter)
+    : m_driver(std::make_unique<Driver>(namespaces, handler, filter))
 {
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
-} // namespace
+XmlParser::~XmlParser() = default;
+
+bool XmlParser::take(QByteArrayView piece)
+{
+    return m_driver->take(piece);
+}
+
+std::optional<DocumentError::Cause> XmlParser::finish()
+{
+    return m_driver->finish();
+}
 
 std::optional<QByteArrayView> XmlElement::attribute(XmlName name) const
 {
@@ -202,56 +195,11 @@ std::optional<QByteArrayView> XmlElement::attribute(XmlName name) const
     return std::nullopt;
 }
 
-std::optional<DocumentError::Cause> readXmlPart(
-    const ZipPackage &package, const QByteArray &partName, XmlHandler &handler)
+std::optional<DocumentError::Cause> readXmlPart(const ZipPackage &package, const QByteArray &partName,
+    XmlNamespaces &namespaces, XmlHandler &handler, XmlFilter *filter)
 {
-    ParserDriver driver(handler);
+    XmlParser parser(namespaces, handler, filter);
     const std::optional<DocumentError::Cause> failure =
-        package.read(partName, [&driver](QByteArrayView piece) { return driver.take(piece); });
-    if (failure)
-        return failure;
-    return driver.finish();
-}
-
-std::optional<double> pointsOf(std::optional<QByteArrayView> value, double unitsPerPoint)
-{
-    if (!value || value->size() > maxNumberLength)
-        return std::nullopt;
-    const QByteArrayView text = value->trimmed();
-    std::optional<double> points = numberOf(text);
-    if (points)
-        *points /= unitsPerPoint;
-    for (const Unit &unit : units) {
-        if (!points && text.endsWith(unit.name)) {
-            points = numberOf(text.chopped(2));
-            if (points)
-                *points *= unit.points;
-        }
-    }
-    if (!points)
-        return std::nullopt;
-    return std::clamp(*points, -maxLength, maxLength);
-}
-
-std::optional<int> integerOf(std::optional<QByteArrayView> value)
-{
-    if (!value || value->size() > maxNumberLength)
-        return std::nullopt;
-    bool isNumber = false;
-    const int number = value->trimmed().toInt(&isNumber);
-    return isNumber ? std::optional(number) : std::nullopt;
-}
-
-std::optional<int> hexadecimalOf(std::optional<QByteArrayView> value)
-{
-    if (!value || value->size() > maxNumberLength)
-        return std::nullopt;
-    bool isNumber = false;
-    const int number = value->trimmed().toInt(&isNumber, 16);
-    return isNumber ? std::optional(number) : std::nullopt;
-}
-
-bool booleanOf(std::optional<QByteArrayView> value)
-{
-    return !value || !(*value == "0" || *value == "false" || *value == "off");
+        package.read(partName, [&parser](QByteArrayView piece) { return parser.take(piece); });
+    return failure ? failure : parser.finish();
 }

@@ -1,30 +1,24 @@
 // SPDX-License-Identifier: MIT
-// XmlNamespaces resolves the names in one XML document while it is read, and MarkupCompatibility decides
-// which elements its reader sees. Parsing is left to XmlReader.
-// Thread: one at a time.  Owner: XmlReader.
+// XmlNamespaces resolves the names in one XML document while it is read, for a format that knows some
+// namespaces. Parsing is left to XmlReader. Thread: one at a time.  Owner: the function that reads the
+// document.
 #pragma once
 
 #include <QByteArray>
-#include <QByteArrayView>
 #include <QHash>
 
-#include <optional>
 #include <vector>
 
-/// The supported namespaces. The transitional and the strict form of a namespace are one.
+/// A namespace. Each format numbers those that it knows from firstFormatSpace on.
 enum class XmlSpace : quint8 {
     None, ///< an attribute without a prefix, an element without a namespace
-    Word,
-    Math,
-    Drawing,
-    Relationships, ///< r:id
-    PackageRelationships,
-    ContentTypes,
-    Compatibility, ///< mc:AlternateContent
-    Xml, ///< xml:space
-    Supported, ///< of pictures, shapes and extensions: supported, but without text
     Unknown,
+    Xml, ///< xml:space
 };
+inline constexpr quint8 firstFormatSpace = 3;
+
+/// By URI. Several URIs may be one namespace.
+using KnownNamespaces = QHash<QByteArray, XmlSpace>;
 
 /// The FNV-1a hash of a local name, which is fast to compare. Names with equal hashes count as equal; a
 /// document that is made to have such names does no harm.
@@ -50,11 +44,6 @@ struct XmlName {
     bool operator==(const XmlName &) const = default;
 };
 
-constexpr XmlName wordName(XmlTag tag)
-{
-    return {XmlSpace::Word, tag};
-}
-
 constexpr XmlName plainName(XmlTag tag)
 {
     return {XmlSpace::None, tag};
@@ -66,7 +55,7 @@ public:
     /// The number of a namespace in this document.
     using Index = int;
 
-    XmlNamespaces();
+    explicit XmlNamespaces(KnownNamespaces known);
 
     /// Adds the namespace declarations of an element; they apply until leave() is called with its depth.
     /// attributes: pairs of name and value, terminated by null.
@@ -106,54 +95,11 @@ private:
     Index indexOf(const QByteArray &uri);
     [[nodiscard]] Index boundTo(int prefix) const;
 
+    KnownNamespaces m_known;
     QHash<QByteArray, Name> m_names;
     QHash<QByteArray, int> m_prefixes;
     QHash<QByteArray, Index> m_uris;
     std::vector<XmlSpace> m_spaces; // by Index
     std::vector<std::vector<Binding>> m_bindings; // by prefix, innermost last
     std::vector<Declaration> m_declarations; // of all open elements, innermost last
-};
-
-/// Implements the rules of ECMA-376 for markup of other versions: selects one of several alternatives, and
-/// skips elements that may be ignored and are not supported.
-class MarkupCompatibility {
-public:
-    enum class Treatment {
-        Keep,
-        Unwrap, ///< replace the element by its content
-        Skip, ///< with its content, for which enter() must not be called
-    };
-
-    explicit MarkupCompatibility(XmlNamespaces &namespaces)
-        : m_namespaces(namespaces)
-    {
-    }
-
-    /// How to treat an element. Its namespaces must have been entered.
-    /// attributes: pairs of name and value, terminated by null.
-    [[nodiscard]] Treatment enter(int depth, const char *qualifiedName, const char *const *attributes);
-    /// Must be called for every element that was not skipped.
-    void leave(int depth);
-
-private:
-    struct Alternatives {
-        int depth; // of mc:AlternateContent
-        bool isChosen;
-    };
-    struct Permission {
-        int depth;
-        XmlNamespaces::Index uri;
-        XmlTag tag; // of an element whose content is kept; 0 if elements may be ignored
-    };
-
-    void readPermissions(int depth, const char *const *attributes);
-    void addPermission(int depth, XmlNamespaces::Index uri, XmlTag tag);
-    [[nodiscard]] bool isPermitted(XmlNamespaces::Index uri, XmlTag tag) const;
-    [[nodiscard]] Treatment treatmentOfAlternative(int depth, XmlTag tag, const char *const *attributes);
-    [[nodiscard]] bool isSupported(const char *const *attributes);
-
-    XmlNamespaces &m_namespaces;
-    std::vector<Alternatives> m_alternatives; // innermost last
-    std::vector<Permission> m_permissions; // innermost last
-    QHash<QPair<XmlNamespaces::Index, XmlTag>, int> m_permitted; // how often
 };

@@ -4,7 +4,7 @@
 // Thread: one at a time.  Owner: readPackageDocument(). The bytes must outlive it.
 #pragma once
 
-#include "documents/docx/DocxReader.h"
+#include "documents/DocumentError.h"
 #include "platform/system/Result.h"
 
 #include <QByteArray>
@@ -26,7 +26,7 @@ struct ReadAllowance {
 
 class ZipPackage {
 public:
-    /// Fails as Encrypted or OldFormat for such documents, which are not archives.
+    /// Fails as WrongKind if the bytes do not begin as an archive.
     static Result<ZipPackage, DocumentError::Cause> open(QByteArrayView bytes, ReadAllowance &allowance);
 
     /// name: of the part, without a leading slash, such as "word/document.xml". Ignores case.
@@ -59,3 +59,8 @@ private:
     QHash<QByteArray, quint64> m_parts; // from normalized names to indices in the archive
     ReadAllowance *m_allowance;
 };
+
+/// The MIME type that OpenDocument and EPUB write at the start of their packages: the contents of the first
+/// entry, named "mimetype" and not compressed. Empty if the bytes do not begin so. Reads nothing else of the
+/// archive.
+QByteArrayView mimeTypeAtStart(QByteArrayView bytes);

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "documents/docx/ZipPackage.h"
+#include "documents/package/ZipPackage.h"
+
+#include <QtEndian>
 
 #include <zip.h>
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace {
 
@@ -15,33 +16,6 @@ constexpr qsizetype pieceLength = 65'536;
 // have any ratio, because they do no harm.
 constexpr qint64 maxRatio = 400;
 constexpr qint64 uncheckedLength = 33'554'432;
-
-/// Documents of Word 97 to 2003, and encrypted packages, are compound files.
-bool isCompoundFile(QByteArrayView bytes)
-{
-    return bytes.startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
-}
-
-/// Whether a compound file has the stream of an encrypted package (MS-OFFCRYPTO 2.3.4.4). Directory entries
-/// may be anywhere in the file, at multiples of their length. They begin with the name of the stream in
-/// UTF-16 and a NUL; names are not case-sensitive (MS-CFB 2.6.4).
-bool hasEncryptedPackage(QByteArrayView bytes)
-{
-    constexpr qsizetype entryLength = 128;
-    constexpr std::string_view name("encryptedpackage\0", 17);
-    constexpr auto nameLength = 2 * static_cast<qsizetype>(name.size());
-    for (qsizetype entry = 0; entry + nameLength <= bytes.size(); entry += entryLength) {
-        qsizetype place = entry;
-        const bool isName = std::ranges::all_of(name, [&](char letter) {
-            const char low = bytes[place++];
-            const char lower = low >= 'A' && low <= 'Z' ? static_cast<char>(low - 'A' + 'a') : low;
-            return lower == letter && bytes[place++] == '\0';
-        });
-        if (isName)
-            return true;
-    }
-    return false;
-}
 
 DocumentError::Cause causeOf(int zipError)
 {
@@ -77,8 +51,6 @@ void ZipPackage::Discard::operator()(zip *archive) const
 
 Result<ZipPackage, DocumentError::Cause> ZipPackage::open(QByteArrayView bytes, ReadAllowance &allowance)
 {
-    if (isCompoundFile(bytes))
-        return hasEncryptedPackage(bytes) ? DocumentError::Cause::Encrypted : DocumentError::Cause::OldFormat;
     if (!bytes.startsWith("PK"))
         return DocumentError::Cause::WrongKind;
     zip_error_t error;
@@ -159,4 +131,25 @@ Result<QByteArray, DocumentError::Cause> ZipPackage::contents(const QByteArray &
     if (failure)
         return *failure;
     return bytes;
+}
+
+QByteArrayView mimeTypeAtStart(QByteArrayView bytes)
+{
+    // APPNOTE.TXT 4.3.7: a local header of 30 bytes, the name, an extra field.
+    constexpr qsizetype headerLength = 30;
+    constexpr qsizetype maxTypeLength = 200;
+    constexpr QByteArrayView name("mimetype");
+    const auto number = [bytes](qsizetype place) {
+        return static_cast<qsizetype>(qFromLittleEndian<quint16>(bytes.data() + place));
+    };
+    if (bytes.size() < headerLength || !bytes.startsWith("PK\3\4") || number(8) != 0
+        || number(26) != name.size())
+        return {};
+    const QByteArrayView rest = bytes.sliced(headerLength);
+    const qsizetype start = name.size() + number(28);
+    if (!rest.startsWith(name) || rest.size() < start)
+        return {};
+    // The length may be missing in the header of a stream; the next header follows in any case.
+    const QByteArrayView contents = rest.sliced(start).first(std::min(rest.size() - start, maxTypeLength));
+    return contents.first(std::max<qsizetype>(0, contents.indexOf("PK"))).trimmed();
 }
