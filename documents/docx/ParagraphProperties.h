@@ -5,31 +5,13 @@
 #pragma once
 
 #include "documents/docx/OfficeXml.h"
-#include "platform/styled_text/TextAttributes.h"
+#include "documents/package/ParagraphFormat.h"
 
 #include <QByteArray>
 
 #include <optional>
-#include <vector>
 
-struct ParagraphProperties {
-    enum class Alignment { Leading, Trailing, Center, Justified };
-    struct Tab {
-        double position;
-        std::optional<TabAlignment> alignment; ///< absent: clears the stop at this position
-    };
-
-    std::optional<Alignment> alignment;
-    std::optional<bool> isRightToLeft;
-    // Lengths are points.
-    std::optional<double> leadingIndent;
-    std::optional<double> trailingIndent;
-    std::optional<double> firstLineIndent; ///< relative to the leading indent; negative for a hanging indent
-    std::optional<double> spaceBefore;
-    std::optional<double> spaceAfter;
-    std::optional<double> lineHeight; ///< a multiple of a single line if isLineHeightFactor, else points
-    bool isLineHeightFactor = true;
-    std::vector<Tab> tabs; ///< ascending by position; positions are distinct
+struct ParagraphProperties : ParagraphFormat {
     std::optional<int> list; ///< 0 for no list
     std::optional<int> listLevel;
     std::optional<bool> isDropCap; ///< enlarged first letters of the paragraph that follows
@@ -41,12 +23,8 @@ struct ParagraphProperties {
     /// Replaces the properties that the other ones set.
     void overlay(const ParagraphProperties &other);
 
-    /// pointSize: the font size of the paragraph mark.  defaultTabInterval: points.
-    [[nodiscard]] ParagraphStyle paragraphStyle(double pointSize, double defaultTabInterval) const;
-
 private:
     void readTab(const XmlElement &element);
     void readSpacing(const XmlElement &element);
     void readIndents(const XmlElement &element);
-    void setTab(const Tab &tab);
 };

@@ -1,30 +1,19 @@
 // SPDX-License-Identifier: MIT
 // RunProperties are the character properties that a style or a run sets (ECMA-376, w:rPr), as far as text and
-// layout need them. CharacterCascade combines the levels; RunFormat is the result and selects the font of
-// each character by its script.
+// layout need them. CharacterCascade combines the levels; RunFormat is the result.
 // Thread: any; values.
 #pragma once
 
 #include "documents/docx/OfficeXml.h"
 #include "documents/docx/Theme.h"
-#include "platform/styled_text/TextAttributes.h"
+#include "documents/package/ScriptFormats.h"
 
 #include <QString>
-#include <QStringView>
 
 #include <optional>
 #include <utility>
 
 enum class VerticalAlignment { Baseline, Superscript, Subscript };
-
-/// One value for each of the font categories of characters (ECMA-376, w:rFonts).
-template <typename Value>
-struct ByScript {
-    Value ascii{};
-    Value highAnsi{};
-    Value eastAsian{};
-    Value complex{};
-};
 
 struct RunProperties {
     ByScript<QString> fonts; ///< empty if not set
@@ -79,37 +68,15 @@ private:
     Toggle m_toggles[5];
 };
 
-struct CharacterFormat {
-    FontAttributes font;
-    QString language;
-
-    bool operator==(const CharacterFormat &) const = default;
-};
-
 /// The format of the characters in a run, with all levels applied.
-class RunFormat {
+class RunFormat : public ScriptFormats {
 public:
     RunFormat() = default;
     /// properties: with all levels applied.
     explicit RunFormat(const RunProperties &properties);
 
     [[nodiscard]] bool isHidden() const { return m_isHidden; }
-    /// The format of ASCII characters.
-    [[nodiscard]] const CharacterFormat &ascii() const { return m_formats.ascii; }
-
-    /// The format at the start of a text, and the number of code units (at least 1) that it applies to. text:
-    /// not empty.
-    struct Stretch {
-        const CharacterFormat *format;
-        qsizetype length;
-    };
-    [[nodiscard]] Stretch stretchAt(QStringView text) const;
 
 private:
-    [[nodiscard]] const CharacterFormat &formatOf(char16_t unit) const;
-
-    ByScript<CharacterFormat> m_formats;
     bool m_isHidden = false;
-    bool m_isComplex = false;
-    bool m_prefersEastAsian = false;
 };

@@ -7,36 +7,12 @@
 
 #include "documents/docx/PackageDocument.h"
 #include "documents/docx/RunProperties.h"
+#include "documents/package/ParagraphText.h"
 #include "platform/styled_text/AttributedString.h"
-
-#include <QString>
 
 #include <list>
 #include <optional>
 #include <vector>
-
-/// Collects the text of a paragraph until its style is known, which may be as late as its end.
-class ParagraphText {
-public:
-    void append(QStringView text, const RunFormat &format);
-    /// Puts a space between the text so far and the text that follows, unless one of them is missing or has
-    /// white space there.
-    void requireSpace() { m_needsSpace = true; }
-    [[nodiscard]] bool isEmpty() const { return m_text.isEmpty(); }
-
-    void appendTo(AttributedStringBuilder &builder, const ParagraphStyle &style) const;
-
-private:
-    struct Piece {
-        qsizetype start;
-        CharacterFormat format;
-    };
-    void appendPiece(QStringView text, const CharacterFormat &format);
-
-    QString m_text;
-    std::vector<Piece> m_pieces; // neighbours differ
-    bool m_needsSpace = false;
-};
 
 class StoryAssembler {
 public:
