@@ -31,9 +31,11 @@ QString kindName(DocumentKind kind)
     case DocumentKind::WordDocument:
         return QStringLiteral("a Word document");
     case DocumentKind::Pdf:
+        return QStringLiteral("a PDF file");
+    case DocumentKind::OpenDocument:
         break;
     }
-    return QStringLiteral("a PDF file");
+    return QStringLiteral("an OpenDocument text");
 }
 
 QString textOfDamage(DocumentKind kind)
@@ -41,6 +43,9 @@ QString textOfDamage(DocumentKind kind)
     switch (kind) {
     case DocumentKind::WordDocument:
         return QStringLiteral("is a damaged Word document; open it in a word processor and save it again");
+    case DocumentKind::OpenDocument:
+        return QStringLiteral(
+            "is a damaged OpenDocument text; open it in a word processor and save it again");
     case DocumentKind::Pdf:
         return QStringLiteral("is a damaged PDF file; create it again with the program that wrote it");
     case DocumentKind::Rtfd:
@@ -54,6 +59,7 @@ QString textOfComplexity(DocumentKind kind)
 {
     switch (kind) {
     case DocumentKind::WordDocument:
+    case DocumentKind::OpenDocument:
         return QStringLiteral("is too complex; save it again with a word processor");
     case DocumentKind::Pdf:
         return QStringLiteral("takes too much time or memory to read; print it to a new PDF file first");

@@ -26,7 +26,7 @@ struct DocumentError {
         NoText, ///< a PDF file has no text on any page, as scans have not
         UnmappedText, ///< the fonts of a PDF file do not say which characters their glyphs are
         TooLong, ///< 2 GiB or more: positions in a text are 32 bits wide
-        TooLarge, ///< a Word document has too many parts, or too many bytes in them
+        TooLarge, ///< a document that is a package has too many parts, or too many bytes in them
         TooDeep, ///< a web page has more than 1000 elements inside each other
         TooComplex, ///< reading it takes time or memory out of proportion to its length
         PdfNotSupported, ///< the options leave PDF files out

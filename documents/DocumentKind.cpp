@@ -21,6 +21,10 @@ constexpr std::array kindTypes{
     KindType{DocumentKind::WordDocument,
         u"application/vnd.openxmlformats-officedocument.wordprocessingml.document"},
     KindType{DocumentKind::Pdf, u"application/pdf"},
+    KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text"},
+    KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text-template"},
+    KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text-master"},
+    KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text-flat-xml"},
 };
 
 } // namespace

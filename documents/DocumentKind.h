@@ -16,8 +16,9 @@ enum class DocumentKind : quint32 {
     Html,
     WordDocument,
     Pdf,
+    OpenDocument, ///< a text; spreadsheets and presentations are not
 };
-inline constexpr DocumentKind lastDocumentKind = DocumentKind::Pdf;
+inline constexpr DocumentKind lastDocumentKind = DocumentKind::OpenDocument;
 
 /// The MIME types of a kind, the preferred one first.
 QStringList mimeTypes(DocumentKind kind);

@@ -56,3 +56,16 @@ char16_t symbolFontCharacter(uchar code)
         return upperHalf[code - upperHalfStart];
     return static_cast<char16_t>(symbolGlyphBase + code);
 }
+
+QString replaceSymbolGlyphs(QString text, QStringView family)
+{
+    constexpr char16_t firstGlyph = symbolGlyphBase + 0x20;
+    constexpr char16_t lastGlyph = symbolGlyphBase + 0xFF;
+    if (!isSymbolFamily(family))
+        return text;
+    for (QChar &unit : text) {
+        if (unit.unicode() >= firstGlyph && unit.unicode() <= lastGlyph)
+            unit = symbolFontCharacter(static_cast<uchar>(unit.unicode() - symbolGlyphBase));
+    }
+    return text;
+}

@@ -4,6 +4,7 @@
 // Thread: any.
 #pragma once
 
+#include <QString>
 #include <QStringView>
 
 /// Documents store the glyph at a code of a symbol font as this private character plus the code.
@@ -19,3 +20,7 @@ bool isSymbolOrPictureFamily(QStringView family);
 /// words of them are words. Codes below 0x20 are control characters; a code without a character is the
 /// private character of its glyph.
 char16_t symbolFontCharacter(uchar code);
+
+/// Replaces the private characters of the font Symbol by the characters that they show. Text in other fonts
+/// is unchanged.
+QString replaceSymbolGlyphs(QString text, QStringView family);

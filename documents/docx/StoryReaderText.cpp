@@ -9,21 +9,6 @@ bool isXmlSpace(char byte)
     return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
 }
 
-/// Replaces the private characters of the font Symbol by the characters that they show. Text in other fonts
-/// is unchanged.
-QString replaceSymbolGlyphs(QString text, const QString &family)
-{
-    constexpr char16_t firstGlyph = symbolGlyphBase + 0x20;
-    constexpr char16_t lastGlyph = symbolGlyphBase + 0xFF;
-    if (!isSymbolFamily(family))
-        return text;
-    for (QChar &unit : text) {
-        if (unit.unicode() >= firstGlyph && unit.unicode() <= lastGlyph)
-            unit = symbolFontCharacter(static_cast<uchar>(unit.unicode() - symbolGlyphBase));
-    }
-    return text;
-}
-
 /// The character for a code of w:sym. For a symbol font, Word stores private characters and some other
 /// programs the bare codes; in other fonts the code is the character.
 QChar symbolOfCode(char16_t code, const QString &family)

@@ -4,6 +4,7 @@
 #include "documents/PlainTextReader.h"
 #include "documents/docx/DocxReader.h"
 #include "documents/html/HtmlReader.h"
+#include "documents/odt/OdtReader.h"
 #include "documents/pdf/PdfReader.h"
 #include "documents/rtf/RtfReader.h"
 #include "documents/rtfd/RtfdReader.h"
@@ -66,6 +67,8 @@ constexpr std::array readers{
         }},
     Reader{DocumentKind::WordDocument, readWordDocument},
     Reader{DocumentKind::Pdf, readPdfFile},
+    Reader{DocumentKind::OpenDocument,
+        [](QByteArrayView bytes, const ReadOptions &) { return readOpenDocument(bytes); }},
 };
 static_assert(readers.size() == static_cast<size_t>(lastDocumentKind));
 

@@ -3,6 +3,7 @@
 
 #include "documents/docx/DocxReader.h"
 #include "documents/html/HtmlReader.h"
+#include "documents/odt/OdtReader.h"
 #include "documents/rtf/RtfReader.h"
 #include "documents/rtfd/RtfdReader.h"
 
@@ -23,7 +24,8 @@ bool looksLikePdf(QByteArrayView bytes)
 }
 
 /// The name of an RTF or an RTFD file decides nothing: their bytes do.
-constexpr std::array kindsToldByName{DocumentKind::Html, DocumentKind::WordDocument, DocumentKind::Pdf};
+constexpr std::array kindsToldByName{
+    DocumentKind::Html, DocumentKind::WordDocument, DocumentKind::Pdf, DocumentKind::OpenDocument};
 
 bool inherits(const QMimeType &type, DocumentKind kind)
 {
@@ -62,6 +64,8 @@ DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
         return DocumentKind::Rtfd;
     if (looksLikePdf(bytes))
         return DocumentKind::Pdf;
+    if (looksLikeOpenDocument(bytes))
+        return DocumentKind::OpenDocument;
     if (looksLikeCompoundFile(bytes))
         return DocumentKind::WordDocument;
     if (const std::optional<DocumentKind> kind = kindByName(path))

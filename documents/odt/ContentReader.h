@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// ContentReader turns the elements of the content of an OpenDocument text into styled text: it decides which
+// elements are text. Assembling paragraphs is left to StoryStack. Thread: one at a time.  Owner: OdtDocument.
+#pragma once
+
+#include "documents/odt/StoryStack.h"
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+class ContentReader final : public XmlHandler {
+public:
+    /// Styles must have been read when the first element arrives.
+    explicit ContentReader(const Styles &styles)
+        : m_stories(styles)
+    {
+    }
+
+    /// Elements and characters within office:text.
+    void startElement(const XmlElement &element) override;
+    void endElement(XmlName name) override;
+    void characters(QByteArrayView text) override;
+
+    /// Call once, after the last element.
+    [[nodiscard]] AttributedString takeText() { return m_stories.takeText(); }
+    [[nodiscard]] std::optional<DocumentError::Cause> error() const { return m_error; }
+
+private:
+    enum class Scope { Paragraph, Run, List, Cell, TextBox, Footnote, Endnote };
+
+    void startBlock(const XmlElement &element);
+    void startInline(const XmlElement &element);
+    void startField(const XmlElement &element);
+    void beginParagraph(const XmlElement &element);
+    /// Returns false, and skips the element, if the story is hidden or too deep.
+    bool beginStory(Scope scope);
+    void appendSpaces(const XmlElement &element);
+    void leave(Scope scope);
+    void enter(Scope scope) { m_scopes.push_back({m_depth, scope}); }
+    void skipElement() { m_skippedDepth = m_depth; }
+
+    struct OpenScope {
+        int depth;
+        Scope scope;
+    };
+
+    StoryStack m_stories;
+    int m_depth = 0;
+    int m_skippedDepth = 0; // of the outermost skipped element; 0 if there is none
+    std::vector<OpenScope> m_scopes; // innermost last
+    qint64 m_spaces = 0; // that elements stand for
+    std::optional<DocumentError::Cause> m_error;
+};

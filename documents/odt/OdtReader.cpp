@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "documents/odt/OdtReader.h"
+
+#include "documents/Lengths.h"
+#include "documents/odt/OdtDocument.h"
+
+#include <new>
+#include <utility>
+
+namespace {
+
+using Cause = DocumentError::Cause;
+using Failure = std::optional<Cause>;
+
+/// "application/vnd.oasis.opendocument.text", or with the ending of a template, a master document or a web
+/// page.
+bool isTextType(QByteArrayView mimeType)
+{
+    constexpr QByteArrayView text("application/vnd.oasis.opendocument.text");
+    return mimeType == text || mimeType.startsWith("application/vnd.oasis.opendocument.text-");
+}
+
+/// Notes the MIME type that the first element of a flat document names.
+class RootReader final : public XmlHandler {
+public:
+    void startElement(const XmlElement &element) override
+    {
+        if (!m_hasStarted && odfName(element) == "office:document"_odf)
+            m_isText = isTextType(odfAttribute(element, "office:mimetype"_odf).value_or(""));
+        m_hasStarted = true;
+    }
+    void endElement(XmlName) override { }
+
+    [[nodiscard]] bool isText() const { return m_isText; }
+
+private:
+    bool m_hasStarted = false;
+    bool m_isText = false;
+};
+
+bool isFlatDocument(QByteArrayView bytes)
+{
+    constexpr qsizetype startLength = 65'536;
+    const QByteArrayView start = bytes.first(std::min(bytes.size(), startLength));
+    // Few texts need more than this test. The bytes may be UTF-16.
+    if (!start.contains('<') || !start.contains('x'))
+        return false;
+    XmlNamespaces namespaces(odfNamespaces());
+    RootReader root;
+    XmlParser parser(namespaces, root);
+    if (parser.take(start))
+        (void)parser.finish(); // fails where the start is cut off
+    return root.isText();
+}
+
+/// The part "mimetype", wherever it is in the package; empty if it is missing or too long to be one.
+QByteArray mimeTypeOf(const ZipPackage &package)
+{
+    constexpr qsizetype maxTypeLength = 200;
+    QByteArray type;
+    const Failure failure = package.read("mimetype", [&](QByteArrayView piece) {
+        type.append(piece.first(std::min(piece.size(), maxTypeLength)));
+        return type.size() < maxTypeLength;
+    });
+    return failure || type.size() >= maxTypeLength ? QByteArray() : type.trimmed();
+}
+
+/// Notes whether a manifest names a part that is encrypted.
+class ManifestReader final : public XmlHandler {
+public:
+    void startElement(const XmlElement &element) override
+    {
+        m_isEncrypted = m_isEncrypted || odfName(element) == "manifest:encryption-data"_odf;
+    }
+    void endElement(XmlName) override { }
+
+    [[nodiscard]] bool isEncrypted() const { return m_isEncrypted; }
+
+private:
+    bool m_isEncrypted = false;
+};
+
+bool isEncrypted(const ZipPackage &package)
+{
+    XmlNamespaces namespaces(odfNamespaces());
+    ManifestReader manifest;
+    // A damaged manifest does not keep a text from being read.
+    const Failure failure = readXmlPart(package, "META-INF/manifest.xml", namespaces, manifest);
+    return !failure && manifest.isEncrypted();
+}
+
+Failure readPart(const ZipPackage &package, const QByteArray &name, OdtDocument &document)
+{
+    XmlNamespaces namespaces(odfNamespaces());
+    document.beginPart(name == "content.xml");
+    const Failure failure = readXmlPart(package, name, namespaces, document);
+    return failure ? failure : document.error();
+}
+
+Failure readPackage(QByteArrayView bytes, OdtDocument &document)
+{
+    ReadAllowance allowance;
+    const Result<ZipPackage, Cause> opened = ZipPackage::open(bytes, allowance);
+    if (!opened)
+        return opened.error();
+    const ZipPackage &package = opened.value();
+    if (isEncrypted(package))
+        return Cause::Encrypted;
+    if (!isTextType(mimeTypeOf(package)) && package.contains("mimetype"))
+        return Cause::WrongKind;
+    // The text needs the settings and the styles.
+    for (const char *part : {"settings.xml", "styles.xml"}) {
+        if (!package.contains(part))
+            continue;
+        if (const Failure failure = readPart(package, part, document))
+            return failure;
+    }
+    return readPart(package, "content.xml", document);
+}
+
+Failure readFlatDocument(QByteArrayView bytes, OdtDocument &document)
+{
+    if (bytes.size() > maxDocumentLength)
+        return Cause::TooLong;
+    constexpr qsizetype pieceLength = 65'536;
+    XmlNamespaces namespaces(odfNamespaces());
+    XmlParser parser(namespaces, document);
+    for (QByteArrayView rest = bytes; !rest.isEmpty();) {
+        const QByteArrayView piece = rest.first(std::min(rest.size(), pieceLength));
+        if (!parser.take(piece))
+            break;
+        rest = rest.sliced(piece.size());
+    }
+    const Failure failure = parser.finish();
+    return failure ? failure : document.error();
+}
+
+Result<AttributedString, Cause> textOf(QByteArrayView bytes)
+{
+    OdtDocument document;
+    const bool isPackage = bytes.startsWith("PK");
+    if (!isPackage && !isFlatDocument(bytes))
+        return Cause::WrongKind;
+    const Failure failure = isPackage ? readPackage(bytes, document) : readFlatDocument(bytes, document);
+    if (failure)
+        return *failure;
+    if (!document.hasText())
+        return Cause::WrongKind;
+    return document.takeText();
+}
+
+} // namespace
+
+bool looksLikeOpenDocument(QByteArrayView bytes)
+{
+    try {
+        if (!bytes.startsWith("PK"))
+            return isFlatDocument(bytes);
+        const QByteArrayView type = mimeTypeAtStart(bytes);
+        if (!type.isEmpty())
+            return isTextType(type);
+        ReadAllowance allowance;
+        const Result<ZipPackage, Cause> package = ZipPackage::open(bytes, allowance);
+        return package && isTextType(mimeTypeOf(package.value()));
+    } catch (const std::bad_alloc &) {
+        return false;
+    }
+}
+
+Result<AttributedString, DocumentError> readOpenDocument(QByteArrayView bytes)
+{
+    try {
+        Result<AttributedString, Cause> text = textOf(bytes);
+        if (text)
+            return std::move(text).value();
+        return DocumentError(text.error(), DocumentKind::OpenDocument);
+    } catch (const std::bad_alloc &) {
+        return DocumentError(Cause::NotEnoughMemory, DocumentKind::OpenDocument);
+    }
+}
