@@ -21,7 +21,8 @@ std::optional<QUrl> filePathURL(const QUrl &url)
 bool isOfAcceptedKind(const QUrl &url)
 {
     return QBYExtension::doesConformToRTFFileUTI(url) || QBYExtension::doesConformToRTFDFileUTI(url)
-        || QBYExtension::doesConformToPlainTextFileUTI(url) || QBYExtension::doesConformToDocXFileUTI(url);
+        || QBYExtension::doesConformToPlainTextFileUTI(url) || QBYExtension::doesConformToDocXFileUTI(url)
+        || QBYExtension::isDocumentOfAnotherKind(url);
 }
 
 QList<QUrl> acceptedFiles(const QList<QUrl> &urls)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "watching/FileTypes.h"
 
+#include "documents/DocumentKind.h"
 #include "platform/system/FileURL.h"
 
 #include <QMimeDatabase>
@@ -19,6 +20,12 @@ constexpr QStringView richText = u"application/rtf";
 constexpr QStringView plainText = u"text/plain";
 constexpr QStringView wordDocument =
     u"application/vnd.openxmlformats-officedocument.wordprocessingml.document";
+
+/// The MIME types of the kinds beside these four.
+QStringList otherTypes()
+{
+    return mimeTypes(DocumentKind::OpenDocument);
+}
 
 /// The mode of the file, with symbolic links followed. Absent for missing and unreadable files and other
 /// URLs.
@@ -66,6 +73,13 @@ bool QBYExtension::doesConformToPlainTextFileUTI(const QUrl &url)
     return doesConformTo(url, plainText);
 }
 
+bool QBYExtension::isDocumentOfAnotherKind(const QUrl &url)
+{
+    const QStringList types = otherTypes();
+    return std::any_of(
+        types.begin(), types.end(), [&url](const QString &type) { return doesConformTo(url, type); });
+}
+
 OpenPanel QBYExtension::openPanelForTextFiles()
 {
     return openPanelForTextFilesAllowMultipleSelection(false);
@@ -76,6 +90,7 @@ OpenPanel QBYExtension::openPanelForTextFilesAllowMultipleSelection(bool allowMu
     OpenPanel panel;
     for (const QStringView type : {folder, richText, plainText, wordDocument})
         panel.allowedFileTypes << type.toString();
+    panel.allowedFileTypes << otherTypes();
     panel.packageSuffixes.append(QStringLiteral("rtfd"));
     panel.allowsMultipleSelection = allowMultipleSelection;
     return panel;

@@ -19,11 +19,13 @@ bool doesConformToRTFFileUTI(const QUrl &url);
 /// A folder whose name ends in ".rtfd".
 bool doesConformToRTFDFileUTI(const QUrl &url);
 bool doesConformToPlainTextFileUTI(const QUrl &url);
+/// A document of a kind beside these four that can be watched: an OpenDocument text.
+bool isDocumentOfAnotherKind(const QUrl &url);
 
 /// For one document.
 OpenPanel openPanelForTextFiles();
-/// Offers rich text with attachments, rich text, text and Word documents, in this order. A folder of rich
-/// text with attachments is chosen as one document, not opened.
+/// Offers rich text with attachments, rich text, text and Word documents, in this order, then the other
+/// kinds. A folder of rich text with attachments is chosen as one document, not opened.
 OpenPanel openPanelForTextFilesAllowMultipleSelection(bool allowMultipleSelection);
 
 } // namespace QBYExtension

@@ -52,7 +52,7 @@ std::optional<bool> boldnessOf(QByteArrayView value)
 }
 
 /// "super", "sub" or a share of the size, then optionally a second share: the scale.
-std::optional<TextFormat::Position> positionOf(QByteArrayView value)
+std::optional<TextFormat::Position> textPositionOf(QByteArrayView value)
 {
     const qsizetype space = value.indexOf(' ');
     const QByteArrayView first = space < 0 ? value : value.first(space);
@@ -182,7 +182,7 @@ void TextFormat::read(const XmlElement &properties, const FontFaces &faces)
             overlayValue(tracking, trackingOf(value));
             break;
         case "style:text-position"_odf:
-            overlayValue(position, positionOf(value));
+            overlayValue(position, textPositionOf(value));
             break;
         case "text:display"_odf:
             isHidden = value == "none";

@@ -25,6 +25,8 @@ protected:
             kinds << QStringLiteral("rtfd");
         if (QBYExtension::doesConformToPlainTextFileUTI(url))
             kinds << QStringLiteral("text");
+        if (QBYExtension::isDocumentOfAnotherKind(url))
+            kinds << QStringLiteral("other");
         return kinds;
     }
     static QStringList kindsOfFile(const QString &name)
@@ -42,6 +44,7 @@ protected:
     const QString m_rtf = QStringLiteral("rtf");
     const QString m_rtfd = QStringLiteral("rtfd");
     const QString m_text = QStringLiteral("text");
+    const QString m_other = QStringLiteral("other");
 };
 
 TEST_F(FileTypesTest, RichTextIsRichTextAndText)
@@ -83,9 +86,17 @@ TEST_F(FileTypesTest, ANameOfSeveralTypesCountsForEachOfThem)
     EXPECT_THAT(kindsOfFile(QStringLiteral("subtitles.ts")), ElementsAre(m_text)); // also a video
 }
 
-TEST_F(FileTypesTest, OtherDocumentsHaveNoKind)
+TEST_F(FileTypesTest, AnOpenDocumentTextIsADocumentOfAnotherKind)
 {
-    for (const char *name : {"a.doc", "a.odt", "a.pdf", "a.png", "a.dotx", "a.gz"})
+    for (const char *name : {"a.odt", "A.ODT", "a.ott", "a.odm"})
+        EXPECT_THAT(kindsOfFile(QString::fromLatin1(name)), ElementsAre(m_other)) << name;
+    EXPECT_THAT(kindsOfFile(QStringLiteral("a.fodt")), ElementsAre(m_text, m_other));
+    EXPECT_THAT(kindsOfFolder(QStringLiteral("folder.odt")), IsEmpty());
+}
+
+TEST_F(FileTypesTest, OtherFilesHaveNoKind)
+{
+    for (const char *name : {"a.doc", "a.ods", "a.odp", "a.pdf", "a.png", "a.dotx", "a.gz"})
         EXPECT_THAT(kindsOfFile(QString::fromLatin1(name)), IsEmpty()) << name;
 }
 
