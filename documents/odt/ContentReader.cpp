@@ -85,6 +85,10 @@ void ContentReader::startElement(const XmlElement &element)
         return;
     if (m_error)
         skipElement();
+    else if (!m_scopes.empty() && m_scopes.back().scope == Scope::Changes)
+        readChange(element);
+    else if (followChange(element))
+        return;
     else if (m_stories.isInParagraph())
         startInline(element);
     else
@@ -106,6 +110,8 @@ void ContentReader::endElement(XmlName)
 void ContentReader::leave(Scope scope)
 {
     switch (scope) {
+    case Scope::Changes:
+        break;
     case Scope::Paragraph:
         m_stories.endParagraph();
         break;
@@ -147,12 +153,15 @@ void ContentReader::startBlock(const XmlElement &element)
         m_stories.beginList(styleOf(element));
         enter(Scope::List);
         break;
+    case "text:tracked-changes"_odf:
+        enter(Scope::Changes);
+        break;
     case "table:table-cell"_odf:
         m_stories.beginCell();
         enter(Scope::Cell);
         break;
     default:
-        // Among what is left out: tracked deletions, sources of indexes, labels of lists, comments, forms,
+        // Among what is left out: sources of indexes, labels of lists, comments, forms,
         // covered cells, pictures with their alternative texts.
         if (!isContainer(element) || isHidden(element))
             skipElement();
@@ -229,6 +238,37 @@ void ContentReader::startField(const XmlElement &element)
             skipElement();
         break;
     }
+}
+
+void ContentReader::readChange(const XmlElement &element)
+{
+    switch (odfName(element)) {
+    case "text:changed-region"_odf:
+        m_change = odfAttribute(element, "text:id"_odf).value_or("").toByteArray();
+        break;
+    case "text:deletion"_odf:
+        if (!m_change.isEmpty())
+            m_deletions.insert(m_change);
+        skipElement(); // deleted text that is stored here and not in the body
+        break;
+    default:
+        skipElement();
+        break;
+    }
+}
+
+bool ContentReader::followChange(const XmlElement &element)
+{
+    const OdfName name = odfName(element);
+    if (name != "text:change-start"_odf && name != "text:change-end"_odf)
+        return false;
+    const QByteArray change = odfAttribute(element, "text:change-id"_odf).value_or("").toByteArray();
+    if (name == "text:change-end"_odf)
+        m_openDeletions.remove(change);
+    else if (m_deletions.contains(change))
+        m_openDeletions.insert(change);
+    m_stories.setDeleting(!m_openDeletions.isEmpty());
+    return true;
 }
 
 bool ContentReader::beginStory(Scope scope)

@@ -5,7 +5,8 @@
 
 #include "documents/odt/StoryStack.h"
 
-#include <functional>
+#include <QSet>
+
 #include <optional>
 #include <vector>
 
@@ -27,7 +28,7 @@ public:
     [[nodiscard]] std::optional<DocumentError::Cause> error() const { return m_error; }
 
 private:
-    enum class Scope { Paragraph, Run, List, Cell, TextBox, Footnote, Endnote };
+    enum class Scope { Changes, Paragraph, Run, List, Cell, TextBox, Footnote, Endnote };
 
     void startBlock(const XmlElement &element);
     void startInline(const XmlElement &element);
@@ -36,6 +37,9 @@ private:
     /// Returns false, and skips the element, if the story is hidden or too deep.
     bool beginStory(Scope scope);
     void appendSpaces(const XmlElement &element);
+    void readChange(const XmlElement &element);
+    /// Returns whether the element is the start or the end of a change, which may be anywhere.
+    bool followChange(const XmlElement &element);
     void leave(Scope scope);
     void enter(Scope scope) { m_scopes.push_back({m_depth, scope}); }
     void skipElement() { m_skippedDepth = m_depth; }
@@ -49,6 +53,9 @@ private:
     int m_depth = 0;
     int m_skippedDepth = 0; // of the outermost skipped element; 0 if there is none
     std::vector<OpenScope> m_scopes; // innermost last
+    QByteArray m_change; // the identifier of the change that is declared
+    QSet<QByteArray> m_deletions; // identifiers of changes
+    QSet<QByteArray> m_openDeletions;
     qint64 m_spaces = 0; // that elements stand for
     std::optional<DocumentError::Cause> m_error;
 };

@@ -13,10 +13,17 @@ bool isXmlSpace(QChar unit)
 
 } // namespace
 
+AttributedString StoryStack::endStory()
+{
+    finishPending();
+    AttributedString text = story().text.build();
+    m_stories.pop_back();
+    return text;
+}
+
 void StoryStack::endTextBox()
 {
-    const AttributedString text = story().text.build();
-    m_stories.pop_back();
+    const AttributedString text = endStory();
     if (isInParagraph())
         paragraph().anchored.push_back(text);
     else
@@ -25,8 +32,7 @@ void StoryStack::endTextBox()
 
 void StoryStack::endNote(Note kind)
 {
-    const AttributedString text = story().text.build();
-    m_stories.pop_back();
+    const AttributedString text = endStory();
     if (notesAreText)
         (kind == Note::Footnote ? m_footnotes : m_endnotes).append(text);
 }
@@ -37,8 +43,15 @@ void StoryStack::beginList(const QByteArray &style)
     lists.push_back(style.isEmpty() && !lists.empty() ? lists.back() : style);
 }
 
+void StoryStack::beginCell()
+{
+    finishPending();
+    story().cells.push_back(false);
+}
+
 void StoryStack::endCell()
 {
+    finishPending();
     const bool hasParagraph = story().cells.back();
     story().cells.pop_back();
     if (hasParagraph)
@@ -46,13 +59,20 @@ void StoryStack::endCell()
     // A cell is a line even if it is empty, as in the other formats.
     beginParagraph({});
     endParagraph();
+    story().paragraph.reset(); // of a deleted cell
 }
 
 void StoryStack::beginParagraph(const QByteArray &style)
 {
+    story().isParagraphOpen = true;
+    const TextFormat &format = m_styles.style(Styles::Family::Paragraph, style).text;
+    if (story().paragraph) { // the one that continues here, in its own style
+        paragraph().runs = {{format, {}}};
+        return;
+    }
     Paragraph &opened = story().paragraph.emplace();
     opened.style = style;
-    opened.runs.push_back({m_styles.style(Styles::Family::Paragraph, style).text, {}});
+    opened.runs.push_back({format, {}});
 }
 
 const ScriptFormats &StoryStack::formatsOf(Run &run)
@@ -65,7 +85,7 @@ const ScriptFormats &StoryStack::formatsOf(Run &run)
 bool StoryStack::isOnPage()
 {
     const Paragraph &current = paragraph();
-    if (current.isHidden)
+    if (current.isHidden || current.isDeleted)
         return false;
     // A paragraph without any text that is shown disappears with its hidden text.
     const bool isStyleHidden = current.runs.front().text.isHidden.value_or(false);
@@ -74,8 +94,23 @@ bool StoryStack::isOnPage()
 
 void StoryStack::endParagraph()
 {
+    story().isParagraphOpen = false;
     if (!story().cells.empty())
         story().cells.back() = true;
+    if (!m_isDeleting)
+        finishParagraph();
+}
+
+void StoryStack::finishPending()
+{
+    if (!story().paragraph)
+        return;
+    paragraph().isDeleted = paragraph().text.isEmpty();
+    finishParagraph();
+}
+
+void StoryStack::finishParagraph()
+{
     if (isOnPage()) {
         Paragraph &current = paragraph();
         const ScriptFormats &formats = formatsOf(current.runs.front());
@@ -106,7 +141,7 @@ void StoryStack::beginRun(const QByteArray &style)
 void StoryStack::append(QStringView text)
 {
     endWhiteSpace();
-    if (text.isEmpty())
+    if (text.isEmpty() || m_isDeleting)
         return;
     if (!isShown()) {
         paragraph().hasHiddenText = true;
@@ -133,6 +168,7 @@ void StoryStack::appendCollapsed(QStringView text)
 
 AttributedString StoryStack::takeText()
 {
+    finishPending();
     AttributedStringBuilder &text = story().text;
     text.append(m_footnotes.build());
     text.append(m_endnotes.build());

@@ -34,10 +34,13 @@ public:
 
     void beginList(const QByteArray &style);
     void endList() { story().lists.pop_back(); }
-    void beginCell() { story().cells.push_back(false); }
+    void beginCell();
     void endCell();
 
-    [[nodiscard]] bool isInParagraph() const { return m_stories.back().paragraph.has_value(); }
+    /// Whether what follows is deleted; a paragraph that ends meanwhile continues in the next one.
+    void setDeleting(bool isDeleting) { m_isDeleting = isDeleting; }
+
+    [[nodiscard]] bool isInParagraph() const { return m_stories.back().isParagraphOpen; }
     void beginParagraph(const QByteArray &style);
     void endParagraph();
 
@@ -46,7 +49,7 @@ public:
     void beginRun(const QByteArray &style);
     void endRun() { paragraph().runs.pop_back(); }
     /// Whether text here is on the page.
-    [[nodiscard]] bool isShown() { return !run().text.isHidden.value_or(false); }
+    [[nodiscard]] bool isShown() { return !m_isDeleting && !run().text.isHidden.value_or(false); }
     void hideParagraph() { paragraph().isHidden = true; }
     /// Appends text with its white space.
     void append(QStringView text);
@@ -72,9 +75,11 @@ private:
         bool collapsesSpace = true; ///< whether white space is ignored, as some precedes it
         bool hasHiddenText = false;
         bool isHidden = false;
+        bool isDeleted = false;
     };
     struct Story {
-        std::optional<Paragraph> paragraph; ///< the open one
+        std::optional<Paragraph> paragraph; ///< the open one, or one that continues in the next
+        bool isParagraphOpen = false;
         std::vector<QByteArray> lists; ///< the styles of the open ones, innermost last
         std::vector<bool> cells; ///< whether an open one has a paragraph, innermost last
         AttributedStringBuilder text;
@@ -85,9 +90,14 @@ private:
     [[nodiscard]] Run &run() { return paragraph().runs.back(); }
     [[nodiscard]] static const ScriptFormats &formatsOf(Run &run);
     [[nodiscard]] bool isOnPage();
+    void finishParagraph();
+    /// Finishes a paragraph that has none to continue in.
+    void finishPending();
+    [[nodiscard]] AttributedString endStory();
 
     const Styles &m_styles;
     std::vector<Story> m_stories; // innermost last
     AttributedStringBuilder m_footnotes;
     AttributedStringBuilder m_endnotes;
+    bool m_isDeleting = false;
 };

@@ -89,6 +89,30 @@ TEST(OdtText, ReadsChangesAsAccepted)
         u"kept new\n");
 }
 
+TEST(OdtText, ReadsNoDeletionsThatAreStoredInTheBody)
+{
+    const QByteArray changes = "<text:tracked-changes><text:changed-region text:id='d'><text:deletion/>"
+                               "</text:changed-region><text:changed-region text:id='i'><text:insertion/>"
+                               "</text:changed-region></text:tracked-changes>";
+    const auto deleted = [](const QByteArray &text) {
+        return "<text:change-start text:change-id='d'/>" + text + "<text:change-end text:change-id='d'/>";
+    };
+    EXPECT_EQ(textOfBody(changes + "<text:p>a" + deleted("gone")
+                  + "<text:change-start text:change-id='i'/>b"
+                    "<text:change-end text:change-id='i'/></text:p>"),
+        u"ab\n");
+    EXPECT_EQ(textOfBody(changes + "<text:p>a" + deleted("x</text:p><text:p/><text:p>y")
+                  + "b</text:p><text:p>c</text:p>"),
+        u"ab\nc\n");
+    EXPECT_EQ(
+        textOfBody(changes + "<text:p>a</text:p>"
+            + deleted("<table:table><table:table-row><table:table-cell><text:p>x</text:p></table:table-cell>"
+                      "<table:table-cell/></table:table-row></table:table>")
+            + "<text:p>b</text:p>"),
+        u"a\nb\n");
+    EXPECT_EQ(textOfBody(changes + "<text:p>a" + deleted("x</text:p>")), u"a\n");
+}
+
 TEST(OdtText, ReadsNoComments)
 {
     EXPECT_EQ(textOfBody("<text:p>a<office:annotation><dc:creator>B</dc:creator><text:p>remark</text:p>"
