@@ -18,7 +18,8 @@ struct Document {
 };
 
 /// The document in another format; empty if the conversion fails. extension: "odt", "fodt", "docx", "rtf",
-/// "html", "pdf" or "txt" (UTF-8 with a byte order mark).  folder: for temporary files and the settings of LibreOffice.
+/// "html", "pdf" or "txt" (UTF-8 with a byte order mark).  folder: for temporary files and the settings of
+/// LibreOffice.
 QByteArray convert(const Document &document, const QString &extension, const QString &folder);
 
 /// The text export, without its byte order mark.
