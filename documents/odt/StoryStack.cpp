@@ -4,6 +4,8 @@
 #include "documents/Notes.h"
 #include "documents/SymbolFont.h"
 
+#include <utility>
+
 namespace {
 
 bool isXmlSpace(QChar unit)
@@ -70,9 +72,10 @@ void StoryStack::beginParagraph(const QByteArray &style)
         paragraph().runs = {{format, {}}};
         return;
     }
-    Paragraph &opened = story().paragraph.emplace();
+    Paragraph opened;
     opened.style = style;
     opened.runs.push_back({format, {}});
+    story().paragraph = std::move(opened);
 }
 
 const ScriptFormats &StoryStack::formatsOf(Run &run)

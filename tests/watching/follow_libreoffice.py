@@ -18,7 +18,8 @@ import time
 import uno
 from com.sun.star.beans import PropertyValue
 
-FILTERS = {"docx": "MS Word 2007 XML", "rtf": "Rich Text Format", "txt": "Text"}
+FILTERS = {"odt": "writer8", "fodt": "OpenDocument Text Flat XML", "docx": "MS Word 2007 XML", "rtf": "Rich Text Format",
+           "txt": "Text"}
 PIPE = f"quillbay-follow-libreoffice-{os.getpid()}"
 MAX_DELAY = 10  # seconds from the request to save until the text must have been told
 # Neither questions nor tips.

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// SoundText checks what every reader of styled text must return.
+// Thread: any.
+#pragma once
+
+#include "platform/styled_text/AttributedString.h"
+
+/// Ends the process, which the fuzzer reports.
+inline void require(bool holds)
+{
+    if (!holds)
+        __builtin_trap();
+}
+
+/// Requires that the runs cover the text in order, without gaps, and that neighbours differ. The text of a
+/// package ends with the end of a paragraph.
+inline void requireSound(const AttributedString &text)
+{
+    require(text.isEmpty() || text.string().endsWith(u'\n'));
+    qsizetype end = 0;
+    for (qsizetype i = 0; i < text.runCount(); ++i) {
+        const AttributedString::Run run = text.run(i);
+        require(run.start == end && run.length > 0);
+        require(i == 0 || run.attributesIndex != text.run(i - 1).attributesIndex);
+        end += run.length;
+    }
+    require(end == text.length());
+}
