@@ -91,6 +91,8 @@ QString causeText(const DocumentError &error)
         return QStringLiteral("is not ") + kindName(error.kind);
     case Cause::OldFormat:
         return QStringLiteral("is in a Word format older than 2007; save it as .docx or RTF");
+    case Cause::FlatWordDocument:
+        return QStringLiteral("is a Word document in one XML file; save it as .docx");
     case Cause::Encrypted:
         return QStringLiteral("is encrypted; save it without a password");
     case Cause::Damaged:

@@ -21,6 +21,7 @@ struct DocumentError {
         TextMissing, ///< an RTFD has no file TXT.rtf
         TextUnreadable, ///< TXT.rtf of an RTFD package cannot be read; `file` has the reason
         TextNotRtf, ///< TXT.rtf of an RTFD is not RTF
+        FlatWordDocument, ///< a Word document in one XML file
         UnsupportedPart, ///< a part of a Word document is in a format without a reader
         NoPages,
         NoText, ///< a PDF file has no text on any page, as scans have not

@@ -20,6 +20,8 @@ constexpr QStringView richText = u"application/rtf";
 constexpr QStringView plainText = u"text/plain";
 constexpr QStringView wordDocument =
     u"application/vnd.openxmlformats-officedocument.wordprocessingml.document";
+constexpr QStringView wordTemplate =
+    u"application/vnd.openxmlformats-officedocument.wordprocessingml.template";
 
 /// The MIME types of the kinds beside these four.
 QStringList otherTypes()
@@ -53,7 +55,7 @@ bool doesConformTo(const QUrl &url, QStringView typeName)
 
 bool QBYExtension::doesConformToDocXFileUTI(const QUrl &url)
 {
-    return doesConformTo(url, wordDocument);
+    return doesConformTo(url, wordDocument) || doesConformTo(url, wordTemplate);
 }
 
 bool QBYExtension::doesConformToRTFFileUTI(const QUrl &url)
@@ -88,7 +90,7 @@ OpenPanel QBYExtension::openPanelForTextFiles()
 OpenPanel QBYExtension::openPanelForTextFilesAllowMultipleSelection(bool allowMultipleSelection)
 {
     OpenPanel panel;
-    for (const QStringView type : {folder, richText, plainText, wordDocument})
+    for (const QStringView type : {folder, richText, plainText, wordDocument, wordTemplate})
         panel.allowedFileTypes << type.toString();
     panel.allowedFileTypes << otherTypes();
     panel.packageSuffixes.append(QStringLiteral("rtfd"));

@@ -14,6 +14,7 @@
 // names of unknown type.
 namespace QBYExtension {
 
+/// Templates and documents with macros are Word documents too.
 bool doesConformToDocXFileUTI(const QUrl &url);
 bool doesConformToRTFFileUTI(const QUrl &url);
 /// A folder whose name ends in ".rtfd".
@@ -24,8 +25,8 @@ bool isDocumentOfAnotherKind(const QUrl &url);
 
 /// For one document.
 OpenPanel openPanelForTextFiles();
-/// Offers rich text with attachments, rich text, text and Word documents, in this order, then the other
-/// kinds. A folder of rich text with attachments is chosen as one document, not opened.
+/// Offers rich text with attachments, rich text, text, Word documents and their templates, in this order,
+/// then the other kinds. A folder of rich text with attachments is chosen as one document, not opened.
 OpenPanel openPanelForTextFilesAllowMultipleSelection(bool allowMultipleSelection);
 
 } // namespace QBYExtension

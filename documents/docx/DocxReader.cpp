@@ -4,6 +4,7 @@
 #include "documents/Notes.h"
 #include "documents/docx/AlternativeChunk.h"
 #include "documents/docx/CompoundFile.h"
+#include "documents/docx/FlatDocument.h"
 #include "documents/docx/PackageDocument.h"
 #include "documents/docx/PackageParts.h"
 #include "documents/docx/StoryReader.h"
@@ -112,6 +113,8 @@ Result<AttributedString, DocumentError::Cause> readPackageDocument(
 Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes, const ChunkReader &readChunk)
 {
     try {
+        if (looksLikeFlatWordDocument(bytes))
+            return DocumentError(DocumentError::Cause::FlatWordDocument, DocumentKind::WordDocument);
         ReadAllowance allowance;
         Result<AttributedString, DocumentError::Cause> text =
             readPackageDocument(bytes, allowance, readChunk);

@@ -46,4 +46,5 @@ using ChunkReader = std::function<Result<AttributedString, DocumentError>(
     DocumentKind kind, QByteArrayView bytes, const QByteArray &charset)>;
 
 /// Takes time proportional to the uncompressed parts that are read, and memory proportional to the text.
+/// A Word document in one XML file fails as FlatWordDocument.
 Result<AttributedString, DocumentError> readDocx(QByteArrayView bytes, const ChunkReader &readChunk);

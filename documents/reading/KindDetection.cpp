@@ -2,6 +2,7 @@
 #include "documents/reading/KindDetection.h"
 
 #include "documents/docx/DocxReader.h"
+#include "documents/docx/FlatDocument.h"
 #include "documents/html/HtmlReader.h"
 #include "documents/odt/OdtReader.h"
 #include "documents/rtf/RtfReader.h"
@@ -66,7 +67,7 @@ DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
         return DocumentKind::Pdf;
     if (looksLikeOpenDocument(bytes))
         return DocumentKind::OpenDocument;
-    if (looksLikeCompoundFile(bytes))
+    if (looksLikeCompoundFile(bytes) || looksLikeFlatWordDocument(bytes))
         return DocumentKind::WordDocument;
     if (const std::optional<DocumentKind> kind = kindByName(path))
         return *kind;

@@ -25,16 +25,19 @@ bool isOffered(const QUrl &url, const OpenPanel &panel)
 
 class OpenPanelTest : public QuillbayTest { };
 
-TEST_F(OpenPanelTest, OffersTheKindsInTheirOrder)
+TEST_F(OpenPanelTest, OffersTheFourKindsInTheirOrderAndOthersBehindThem)
 {
     EXPECT_THAT(QBYExtension::openPanelForTextFiles().allowedFileTypes,
         ElementsAre(QStringLiteral("inode/directory"), QStringLiteral("application/rtf"),
             QStringLiteral("text/plain"),
             QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.document"),
+            QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.template"),
             QStringLiteral("application/vnd.oasis.opendocument.text"),
             QStringLiteral("application/vnd.oasis.opendocument.text-template"),
             QStringLiteral("application/vnd.oasis.opendocument.text-master"),
-            QStringLiteral("application/vnd.oasis.opendocument.text-flat-xml")));
+            QStringLiteral("application/vnd.oasis.opendocument.text-flat-xml"),
+
+            QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.template")));
     EXPECT_EQ(QBYExtension::openPanelForTextFilesAllowMultipleSelection(true).allowedFileTypes,
         QBYExtension::openPanelForTextFiles().allowedFileTypes);
 }
@@ -60,8 +63,8 @@ TEST_F(OpenPanelTest, AllowsSeveralFilesOnlyOnRequest)
 TEST_F(OpenPanelTest, OffersTheFilesThatPassTheTypeTestsAndNoOthers)
 {
     const OpenPanel panel = QBYExtension::openPanelForTextFiles();
-    for (const char *name : {"a.rtf", "a.txt", "a.html", "a.c", "a.svg", "a.docx", "TXT.rtf", "a.doc",
-             "a.odt", "a.fodt", "a.ods", "a.pdf", "a.png"}) {
+    for (const char *name : {"a.rtf", "a.txt", "a.html", "a.c", "a.svg", "a.docx", "a.docm", "a.dotx",
+             "a.dotm", "TXT.rtf", "a.doc", "a.odt", "a.fodt", "a.ods", "a.pdf", "a.png"}) {
         const QUrl url = QUrl::fromLocalFile(writeFile(QString::fromLatin1(name), "x"));
         EXPECT_EQ(isOffered(url, panel),
             QBYExtension::doesConformToPlainTextFileUTI(url) || QBYExtension::doesConformToDocXFileUTI(url)

@@ -65,6 +65,27 @@ TEST(DocxPackage, MayBeATemplateOrHaveMacros)
     }
 }
 
+TEST(DocxPackage, AsOneXmlFileIsRefusedWithARemedy)
+{
+    const QByteArray declaration("\xEF\xBB\xBF<?xml version=\"1.0\"?>\n<!-- a letter -->\n");
+    const QByteArray flatPackage(
+        "<pkg:package xmlns:pkg=\"http://schemas.microsoft.com/office/2006/xmlPackage\"><pkg:part/>");
+    const QByteArray wordOf2003("<w:wordDocument xmlns:v=\"urn:schemas-microsoft-com:vml\"\n"
+                                "xmlns:w=\"http://schemas.microsoft.com/office/word/2003/wordml\">");
+    for (const QByteArray &document : {declaration + flatPackage, declaration + wordOf2003, wordOf2003,
+             declaration + "<?mso-application progid=\"Word.Document\"?>" + flatPackage}) {
+        const Result<AttributedString, DocumentError> text = readWordDocument(document);
+        EXPECT_EQ(
+            causeText(text.error()), QStringLiteral("is a Word document in one XML file; save it as .docx"))
+            << document.constData();
+    }
+    for (const QByteArray &other :
+        {declaration + "<?mso-application progid=\"PowerPoint.Show\"?>" + flatPackage,
+            declaration + "<w:wordDocument xmlns:w=\"urn:other\">", "About " + wordOf2003,
+            declaration + "<!-- " + wordOf2003})
+        EXPECT_EQ(readWordDocument(other).error().cause, Cause::WrongKind) << other.constData();
+}
+
 TEST(DocxPackage, MayBeStrict)
 {
     WordPackage document{.body = paragraph(run("strict", "<w:sz w:val='14pt'/>"), "<w:ind w:start='1cm'/>")};

@@ -56,11 +56,19 @@ TEST(DocumentKind, AWordDocumentOfBefore2007IsNoPlainText)
         EXPECT_EQ(kindOfDocument(name, old), DocumentKind::WordDocument) << name;
 }
 
+TEST(DocumentKind, AWordDocumentInOneXmlFileIsNoPlainText)
+{
+    const QByteArray flat("<?xml version=\"1.0\"?><?mso-application progid=\"Word.Document\"?><pkg:package>");
+    for (const char *name : {"", "letter.xml", "letter.doc", "letter"})
+        EXPECT_EQ(kindOfDocument(name, flat), DocumentKind::WordDocument) << name;
+}
+
 TEST(DocumentKind, TheMimeTypeOfTheNameTellsWebPagesAndWordDocuments)
 {
     for (const char *name : {"page.html", "page.htm", "PAGE.HTML", "/home/me/page.xhtml"})
         EXPECT_EQ(kindOfDocument(name, words), DocumentKind::Html) << name;
-    EXPECT_EQ(kindOfDocument("report.docx", words), DocumentKind::WordDocument);
+    for (const char *name : {"report.docx", "report.docm", "form.dotx", "FORM.DOTM"})
+        EXPECT_EQ(kindOfDocument(name, words), DocumentKind::WordDocument) << name;
 }
 
 TEST(DocumentKind, ANameOfAnotherTypeIsBelievedOverAWebPagesTags)
