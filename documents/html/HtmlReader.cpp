@@ -4,6 +4,7 @@
 #include "documents/Lengths.h"
 #include "documents/html/HtmlText.h"
 #include "documents/html/HtmlTree.h"
+#include "documents/html/StyleSheets.h"
 #include "platform/text_encoding/AsciiBytes.h"
 #include "platform/text_encoding/DeclaredEncoding.h"
 #include "platform/text_encoding/EncodingConverter.h"
@@ -19,7 +20,15 @@ Result<AttributedString, DocumentError> readUtf8(QByteArrayView page)
     const Result<HtmlTree, DocumentError::Cause> tree = HtmlTree::parse(page);
     if (!tree)
         return DocumentError(tree.error(), DocumentKind::Html);
-    return textOfPage(tree.value().document());
+    const Result<StyleSheets, DocumentError::Cause> sheets =
+        StyleSheets::ofPage(page, tree.value().document());
+    if (!sheets)
+        return DocumentError(sheets.error(), DocumentKind::Html);
+    Result<AttributedString, DocumentError::Cause> text =
+        textOfPage(tree.value().document(), sheets.value(), page.size());
+    if (!text)
+        return DocumentError(text.error(), DocumentKind::Html);
+    return std::move(text).value();
 }
 
 /// Bytes to examine; leaves room for a long comment before the first tag.

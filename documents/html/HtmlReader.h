@@ -12,8 +12,12 @@
 //    by an empty paragraph. This way, a table has the same text as in Word documents and RTF.
 //  - The parts of a fraction and the cells of a matrix in MathML have a space (U+0020) around them, unless
 //    there is white space already.
-//  - Style attributes are applied as far as HtmlStyleAttribute.h supports them; style sheets are not.
-//    text-transform, generated content (quotation marks of q, list markers, numbers), images and their
+//  - Style attributes are applied as far as HtmlStyleAttribute.h supports them.
+//  - Of the sheets in style elements, display and visibility are applied: by selectors of elements, classes
+//    and ids, with descendants and children, with !important, and by @media as CssText.h supports it. Rules
+//    with other selectors (attributes, pseudo-classes, siblings) are ignored. Sheets do not hide the html
+//    and body elements: such pages are shown by scripts. Linked and imported sheets are not fetched.
+//  - text-transform, generated content (quotation marks of q, list markers, numbers), images and their
 //    alternative texts add no text.
 //  - Scripting counts as enabled: noscript is hidden. Details and dialogs that are not open, and popovers,
 //    are hidden. The fallback content of object, audio, video, canvas, iframe, meter and progress is never

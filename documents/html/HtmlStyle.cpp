@@ -149,6 +149,20 @@ void applyStyleAttribute(HtmlStyle &style, const HtmlStyleAttribute &declared, c
         style.leadingMargin = pointsOf(*declared.marginLeft, style.font.pointSize, style.leadingMargin);
 }
 
+/// Adds what style sheets declare to a style attribute, which wins unless they are more important. Sheets do
+/// not hide the page as a whole: those that do expect a script to show it, which is not run.
+void addSheets(HidingProperties &declared, const HidingProperties &sheets, GumboTag tag)
+{
+    const bool isWholePage = tag == GUMBO_TAG_HTML || tag == GUMBO_TAG_BODY;
+    const bool isHiding = sheets.display == Display::None;
+    if (sheets.display && !(isWholePage && isHiding)
+        && (!declared.display || (sheets.isDisplayImportant && !declared.isDisplayImportant)))
+        declared.display = sheets.display;
+    if (sheets.isVisible && (!isWholePage || *sheets.isVisible)
+        && (!declared.isVisible || (sheets.isVisibilityImportant && !declared.isVisibilityImportant)))
+        declared.isVisible = sheets.isVisible;
+}
+
 /// CSS Display, "automatic box type transformations".
 Display blockify(Display display)
 {
@@ -199,7 +213,7 @@ HtmlStyle rootStyle()
     return style;
 }
 
-HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent)
+HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent, const HidingProperties &bySheets)
 {
     HtmlStyle style = parent;
     style.display = Display::Inline;
@@ -211,6 +225,7 @@ HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent)
     applyDefaultStyle(style, element, parent);
 
     HtmlStyleAttribute declared;
+    bool hasStyle = false;
     if (element.attributes.length > 0) {
         const StyleAttributes attributes = styleAttributesOf(element);
         if (attributes.align && alignsItsText(element.tag))
@@ -225,11 +240,16 @@ HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent)
             if (const QString family = fontFamilyOf(attributes.face); !family.isEmpty())
                 style.font.family = family;
         }
-        if (attributes.style) {
+        if (attributes.style)
             declared = parseStyleAttribute(attributes.style);
-            applyStyleAttribute(style, declared, parent);
-        }
+        hasStyle = attributes.style;
     }
+    if (bySheets.display || bySheets.isVisible) {
+        addSheets(declared, bySheets, element.tag);
+        hasStyle = true;
+    }
+    if (hasStyle)
+        applyStyleAttribute(style, declared, parent);
     const bool isItem = parent.display == Display::Flex || parent.display == Display::InlineFlex;
     if (isItem || declared.isOutOfFlow.value_or(false))
         style.display = blockify(style.display);

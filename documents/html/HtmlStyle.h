@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // HtmlStyle is the style of an element: the default style sheet of the HTML standard, the element's own
-// attributes, and what it inherits. Reading a style attribute is left to HtmlStyleAttribute.
+// attributes, the style sheets of the page, and what it inherits. Reading a style attribute is left to
+// HtmlStyleAttribute, finding the rules of the sheets to StyleCascade.
 // Thread: any; values.
 #pragma once
 
@@ -38,8 +39,8 @@ struct HtmlStyle {
 /// The style that the root element inherits: Times of 12 points.
 HtmlStyle rootStyle();
 
-/// The style of an element. parent: the style of its parent element.
-HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent);
+/// The style of an element. parent: the style of its parent element. bySheets: what StyleCascade found.
+HtmlStyle styleOf(const GumboElement &element, const HtmlStyle &parent, const HidingProperties &bySheets);
 
 /// Applies the style sheet that the HTML standard suggests ("Rendering"), as far as text depends on it, and
 /// the SVG and MathML elements that contain text. style: what the element inherits.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/html/HtmlStyleAttribute.h"
 
+#include "documents/html/CssText.h"
 #include "platform/text_encoding/AsciiBytes.h"
 
 #include <QByteArray>
@@ -57,6 +58,8 @@ std::optional<Display> displayOf(const QByteArray &value)
         {"table-cell", Display::TableCell},
         {"table-column", Display::None},
         {"table-column-group", Display::None},
+        {"initial", Display::Inline},
+        {"unset", Display::Inline},
     };
     return valueOf(value, keywords);
 }
@@ -114,7 +117,8 @@ std::optional<int> fontWeightOf(const QByteArray &value)
 
 std::optional<bool> isVisibleOf(const QByteArray &value)
 {
-    static constexpr Keyword<bool> keywords[] = {{"visible", true}, {"hidden", false}, {"collapse", false}};
+    static constexpr Keyword<bool> keywords[] = {
+        {"visible", true}, {"initial", true}, {"hidden", false}, {"collapse", false}};
     return valueOf(value, keywords);
 }
 
@@ -180,13 +184,24 @@ void assign(std::optional<Value> &property, const std::optional<Value> &value)
         property = value;
 }
 
-void declare(HtmlStyleAttribute &style, const QByteArray &property, QByteArrayView rawValue)
+/// An important declaration wins over those that are not.
+template <typename Value>
+void assignByImportance(
+    std::optional<Value> &property, bool &wasImportant, const std::optional<Value> &value, bool isImportant)
+{
+    if (!value || (wasImportant && !isImportant))
+        return;
+    property = value;
+    wasImportant = isImportant;
+}
+
+void declare(HtmlStyleAttribute &style, const QByteArray &property, QByteArrayView rawValue, bool isImportant)
 {
     const QByteArray value = rawValue.toByteArray().toLower();
     if (property == "display")
-        assign(style.display, displayOf(value));
+        assignByImportance(style.display, style.isDisplayImportant, displayOf(value), isImportant);
     else if (property == "visibility")
-        assign(style.isVisible, isVisibleOf(value));
+        assignByImportance(style.isVisible, style.isVisibilityImportant, isVisibleOf(value), isImportant);
     else if (property == "float")
         style.isOutOfFlow = style.isOutOfFlow.value_or(false) || value == "left" || value == "right";
     else if (property == "position")
@@ -211,47 +226,14 @@ void declare(HtmlStyleAttribute &style, const QByteArray &property, QByteArrayVi
     }
 }
 
-QByteArrayView trim(QByteArrayView bytes)
+/// Removes "!important" from the end of a value. Returns whether it was there.
+bool takeImportance(QByteArrayView &value)
 {
-    const auto *start = std::find_if_not(bytes.begin(), bytes.end(), isHtmlSpace);
-    const auto *end = bytes.end();
-    while (end != start && isHtmlSpace(end[-1]))
-        --end;
-    return {start, end};
-}
-
-QByteArray removeComments(QByteArrayView declarations)
-{
-    QByteArray text = declarations.first(std::min(declarations.size(), maxAttributeLength)).toByteArray();
-    for (qsizetype start = text.indexOf("/*"); start >= 0; start = text.indexOf("/*", start)) {
-        const qsizetype end = text.indexOf("*/", start + 2);
-        text.replace(start, end < 0 ? text.size() - start : end + 2 - start, " ");
-    }
-    return text;
-}
-
-/// The end of the declaration that begins at a position: a semicolon outside of quotation marks and
-/// parentheses.
-qsizetype endOfDeclaration(QByteArrayView text, qsizetype start)
-{
-    char quote = '\0';
-    int depth = 0;
-    for (qsizetype at = start; at < text.size(); ++at) {
-        const char byte = text[at];
-        if (byte == '\\')
-            ++at;
-        else if (quote)
-            quote = byte == quote ? '\0' : quote;
-        else if (byte == '"' || byte == '\'')
-            quote = byte;
-        else if (byte == '(')
-            ++depth;
-        else if (byte == ')')
-            depth = std::max(depth - 1, 0);
-        else if (byte == ';' && depth == 0)
-            return at;
-    }
-    return text.size();
+    const qsizetype mark = value.lastIndexOf('!');
+    if (mark < 0 || trimCss(value.sliced(mark + 1)).compare("important", Qt::CaseInsensitive) != 0)
+        return false;
+    value = trimCss(value.first(mark));
+    return true;
 }
 
 } // namespace
@@ -259,31 +241,35 @@ qsizetype endOfDeclaration(QByteArrayView text, qsizetype start)
 HtmlStyleAttribute parseStyleAttribute(QByteArrayView declarations)
 {
     HtmlStyleAttribute style;
-    const QByteArray text = removeComments(declarations);
+    const QByteArray text =
+        removeCssComments(declarations.first(std::min(declarations.size(), maxAttributeLength)));
     for (qsizetype start = 0; start < text.size();) {
-        const qsizetype end = endOfDeclaration(text, start);
+        const qsizetype end = findInCss(text, start, ";{");
         const QByteArrayView declaration = QByteArrayView(text).sliced(start, end - start);
         start = end + 1;
+        if (end < text.size() && text[end] == '{') { // a nested rule
+            start = findInCss(text, start, "}") + 1;
+            continue;
+        }
         const qsizetype colon = declaration.indexOf(':');
         if (colon < 0)
             continue;
-        QByteArrayView value = declaration.sliced(colon + 1);
-        if (const qsizetype importance = value.lastIndexOf('!'); importance >= 0)
-            value = value.first(importance);
-        declare(style, trim(declaration.first(colon)).toByteArray().toLower(), trim(value));
+        QByteArrayView value = trimCss(declaration.sliced(colon + 1));
+        const bool isImportant = takeImportance(value);
+        declare(style, trimCss(declaration.first(colon)).toByteArray().toLower(), value, isImportant);
     }
     return style;
 }
 
 QString fontFamilyOf(QByteArrayView families)
 {
-    QByteArrayView family = trim(families.first(std::min(families.size(), maxAttributeLength)));
+    QByteArrayView family = trimCss(families.first(std::min(families.size(), maxAttributeLength)));
     if (family.startsWith('"') || family.startsWith('\'')) {
         const qsizetype end = family.indexOf(family[0], 1);
-        family = trim(family.sliced(1, (end < 0 ? family.size() : end) - 1));
+        family = trimCss(family.sliced(1, (end < 0 ? family.size() : end) - 1));
     } else {
         const qsizetype comma = family.indexOf(',');
-        family = trim(family.first(comma < 0 ? family.size() : comma));
+        family = trimCss(family.first(comma < 0 ? family.size() : comma));
         static constexpr Keyword<const char *> generics[] = {
             {"serif", "Times"}, {"sans-serif", "Helvetica"}, {"monospace", "Courier"}};
         if (const auto name = valueOf(family.toByteArray().toLower(), generics))

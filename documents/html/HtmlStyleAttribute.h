@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// HtmlStyleAttribute parses a style attribute: the CSS properties that text and its format depend on.
-// Applying them to an element is left to HtmlStyle.
+// HtmlStyleAttribute parses the declarations of a style attribute or of a rule: the CSS properties that text
+// and its format depend on. Applying them to an element is left to HtmlStyle.
 // Thread: any; values.
 #pragma once
 
@@ -37,10 +37,17 @@ struct CssLength {
     bool operator==(const CssLength &) const = default;
 };
 
-/// A property is absent if it is not declared or if its value is not supported.
-struct HtmlStyleAttribute {
+/// The properties that can hide text. A property is absent if it is not declared or if its value is not
+/// supported.
+struct HidingProperties {
     std::optional<Display> display;
+    bool isDisplayImportant = false;
     std::optional<bool> isVisible; ///< visibility
+    bool isVisibilityImportant = false;
+};
+
+/// All properties that matter.
+struct HtmlStyleAttribute : HidingProperties {
     std::optional<bool> isOutOfFlow; ///< float, or position absolute or fixed
     std::optional<WhiteSpace> whiteSpace;
     std::optional<CssLength> fontSize;
@@ -52,8 +59,8 @@ struct HtmlStyleAttribute {
     std::optional<CssLength> marginLeft;
 };
 
-/// Among declarations of the same property, the last valid one wins; "!important" is ignored. Reads at most
-/// 4096 bytes. declarations: the value of the attribute, in UTF-8.
+/// Among declarations of the same property, the last valid one wins. "!important" is heeded for display and
+/// visibility, else ignored. Reads at most 4096 bytes. declarations: in UTF-8, without the braces of a rule.
 HtmlStyleAttribute parseStyleAttribute(QByteArrayView declarations);
 
 /// The first name in a list of font families in UTF-8 (CSS "font-family", or the face of a font element),

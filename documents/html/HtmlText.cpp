@@ -3,6 +3,7 @@
 
 #include "documents/html/HtmlStyle.h"
 #include "documents/html/RenderedText.h"
+#include "documents/html/StyleCascade.h"
 
 #include <vector>
 
@@ -10,7 +11,8 @@ namespace {
 
 class TreeWalk {
 public:
-    explicit TreeWalk(const GumboNode &document)
+    TreeWalk(const GumboNode &document, const StyleSheets &sheets, qsizetype pageLength)
+        : m_cascade(sheets, pageLength)
     {
         Frame root;
         root.children = &document.v.document.children;
@@ -18,9 +20,11 @@ public:
         m_frames.push_back(std::move(root));
     }
 
-    AttributedString readText()
+    Result<AttributedString, DocumentError::Cause> readText()
     {
         while (!m_frames.empty()) {
+            if (m_cascade.isTooComplex())
+                return DocumentError::Cause::TooComplex;
             Frame &frame = m_frames.back();
             if (frame.next < frame.children->length)
                 visit(*static_cast<const GumboNode *>(frame.children->data[frame.next++]));
@@ -79,9 +83,9 @@ private:
     {
         Frame frame;
         frame.children = &element.children;
-        frame.style = styleOf(element, m_frames.back().style);
+        frame.style = styleOf(element, m_frames.back().style, m_cascade.enter(element));
         if (frame.style.display == Display::None || isHiddenByDetails(element))
-            return;
+            return m_cascade.leave();
         if (!frame.style.rendersChildren)
             frame.next = element.children.length;
         frame.isParagraph = element.tag == GUMBO_TAG_P && element.tag_namespace == GUMBO_NAMESPACE_HTML;
@@ -167,6 +171,8 @@ private:
         if (m_frames.back().style.display != Display::Contents)
             endBox();
         m_frames.pop_back();
+        if (!m_frames.empty())
+            m_cascade.leave();
     }
 
     const SharedAttributes &attributes(size_t index)
@@ -179,12 +185,14 @@ private:
     }
 
     std::vector<Frame> m_frames;
+    StyleCascade m_cascade;
     RenderedText m_text;
 };
 
 } // namespace
 
-AttributedString textOfPage(const GumboNode &document)
+Result<AttributedString, DocumentError::Cause> textOfPage(
+    const GumboNode &document, const StyleSheets &sheets, qsizetype pageLength)
 {
-    return TreeWalk(document).readText();
+    return TreeWalk(document, sheets, pageLength).readText();
 }

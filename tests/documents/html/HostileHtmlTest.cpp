@@ -2,7 +2,7 @@
 // Pages that try to break the reader, or to make it open other files.
 #include "documents/html/HtmlReader.h"
 
-#include "tests/harness/QuillbayTest.h"
+#include "tests/documents/html/PageText.h"
 
 #include <QFile>
 
@@ -13,7 +13,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <ctime>
 #include <random>
 
 namespace {
@@ -44,13 +43,6 @@ void expectSound(const QByteArray &page)
         ASSERT_GE(attributes.paragraphStyle.headIndent, 0);
         ASSERT_GE(attributes.paragraphStyle.firstLineHeadIndent, 0);
     }
-}
-
-double processorSeconds()
-{
-    timespec now{};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
 }
 
 /// Reading returns a text or an error within the time limits.
