@@ -38,8 +38,8 @@ const char *CountArguments::helpText()
 
 Counts the words, characters, sentences, lines on your paper, hard line breaks,
 paragraphs and indented paragraphs of each FILE by your preferences. FILE can be
-plain text, RTF, RTFD, a web page, a Word document, an OpenDocument text or a
-PDF file. Without FILE, or if FILE is -, reads standard input.
+plain text, RTF, RTFD, a web page, a Word document, an OpenDocument text, an EPUB
+or a PDF file. Without FILE, or if FILE is -, reads standard input.
 
   --json             print a JSON object on a line of its own for each file
   --tsv              print tab-separated columns, with their names on the first

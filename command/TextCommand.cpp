@@ -14,7 +14,8 @@ constexpr char textHelp[] = R"(Usage: quillbay text [FILE]
 
 Opens a small window with the counts of FILE. Without FILE, or if FILE is -, reads
 standard input. FILE can be plain text in any encoding, RTF, RTFD, a web page, a
-Word document, an OpenDocument text or a PDF file, as for 'quillbay count'.
+Word document, an OpenDocument text, an EPUB or a PDF file, as for
+'quillbay count'.
 
   -h, --help  print this help and exit
 

@@ -33,9 +33,11 @@ QString kindName(DocumentKind kind)
     case DocumentKind::Pdf:
         return QStringLiteral("a PDF file");
     case DocumentKind::OpenDocument:
+        return QStringLiteral("an OpenDocument text");
+    case DocumentKind::Epub:
         break;
     }
-    return QStringLiteral("an OpenDocument text");
+    return QStringLiteral("an EPUB");
 }
 
 QString textOfDamage(DocumentKind kind)
@@ -50,6 +52,8 @@ QString textOfDamage(DocumentKind kind)
         return QStringLiteral("is a damaged PDF file; create it again with the program that wrote it");
     case DocumentKind::Rtfd:
         return QStringLiteral("is a damaged RTFD; save it again");
+    case DocumentKind::Epub:
+        return QStringLiteral("is a damaged EPUB; create it again with the program that wrote it");
     default:
         return QStringLiteral("is damaged; save it again");
     }
@@ -66,6 +70,13 @@ QString textOfComplexity(DocumentKind kind)
     default:
         return QStringLiteral("is too complex; simplify it");
     }
+}
+
+QString textOfEncryption(DocumentKind kind)
+{
+    if (kind == DocumentKind::Epub)
+        return QStringLiteral("is encrypted (DRM); count a copy without copy protection");
+    return QStringLiteral("is encrypted; save it without a password");
 }
 
 QString textOfFile(const std::optional<FileError> &file)
@@ -94,7 +105,7 @@ QString causeText(const DocumentError &error)
     case Cause::FlatWordDocument:
         return QStringLiteral("is a Word document in one XML file; save it as .docx");
     case Cause::Encrypted:
-        return QStringLiteral("is encrypted; save it without a password");
+        return textOfEncryption(error.kind);
     case Cause::Damaged:
         return textOfDamage(error.kind);
     case Cause::TextMissing:

@@ -29,6 +29,7 @@ constexpr std::array kindTypes{
     KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text-template"},
     KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text-master"},
     KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text-flat-xml"},
+    KindType{DocumentKind::Epub, u"application/epub+zip"},
 };
 
 } // namespace

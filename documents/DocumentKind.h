@@ -17,8 +17,9 @@ enum class DocumentKind : quint32 {
     WordDocument,
     Pdf,
     OpenDocument, ///< a text; spreadsheets and presentations are not
+    Epub,
 };
-inline constexpr DocumentKind lastDocumentKind = DocumentKind::OpenDocument;
+inline constexpr DocumentKind lastDocumentKind = DocumentKind::Epub;
 
 /// The MIME types of a kind, the preferred one first.
 QStringList mimeTypes(DocumentKind kind);

@@ -26,7 +26,7 @@ constexpr QStringView wordTemplate =
 /// The MIME types of the kinds beside these four.
 QStringList otherTypes()
 {
-    return mimeTypes(DocumentKind::OpenDocument);
+    return mimeTypes(DocumentKind::OpenDocument) + mimeTypes(DocumentKind::Epub);
 }
 
 /// The mode of the file, with symbolic links followed. Absent for missing and unreadable files and other

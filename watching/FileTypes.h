@@ -20,7 +20,8 @@ bool doesConformToRTFFileUTI(const QUrl &url);
 /// A folder whose name ends in ".rtfd".
 bool doesConformToRTFDFileUTI(const QUrl &url);
 bool doesConformToPlainTextFileUTI(const QUrl &url);
-/// A document of a kind beside these four that can be watched: an OpenDocument text.
+/// A document of a kind beside these four that can be watched: an OpenDocument text or an
+/// electronic book (EPUB).
 bool isDocumentOfAnotherKind(const QUrl &url);
 
 /// For one document.

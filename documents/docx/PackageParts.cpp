@@ -2,41 +2,15 @@
 #include "documents/docx/PackageParts.h"
 
 #include "documents/docx/OfficeXml.h"
+#include "documents/package/PartNames.h"
 
 #include <QByteArrayList>
 
-#include <algorithm>
-
 namespace {
-
-constexpr qsizetype maxFolders = 100; // of a target's path
 
 QByteArray folderOf(const QByteArray &partName)
 {
     return partName.first(partName.lastIndexOf('/') + 1);
-}
-
-/// The name of a part from a relationship target. source: the part that contains the relationship.
-QByteArray resolveTarget(const QByteArray &source, QByteArrayView target)
-{
-    QByteArray path = QByteArray::fromPercentEncoding(target.toByteArray());
-    path =
-        path.first(std::min<qsizetype>(path.size(), path.indexOf('#') < 0 ? path.size() : path.indexOf('#')));
-    if (!path.startsWith('/'))
-        path.prepend(folderOf(source));
-    QByteArrayList folders;
-    const QByteArrayList names = path.split('/');
-    if (names.size() > maxFolders)
-        return {};
-    for (const QByteArray &name : names) {
-        if (name == "..") {
-            if (!folders.isEmpty())
-                folders.removeLast();
-        } else if (!name.isEmpty() && name != ".") {
-            folders.append(name);
-        }
-    }
-    return folders.join('/');
 }
 
 QByteArray relationshipsPartOf(const QByteArray &source)
@@ -83,7 +57,7 @@ public:
         const bool isExternal = element.attribute(plainName("TargetMode"_tag)) == "External";
         if (!identifier || !type || !target || isExternal)
             return;
-        const QByteArray part = resolveTarget(m_source, *target);
+        const QByteArray part = resolvePartName(m_source, *target);
         const QByteArray typeName = type->sliced(type->lastIndexOf('/') + 1).toByteArray();
         m_relationships.m_byId.insert(identifier->toByteArray(), part);
         if (!m_relationships.m_byType.contains(typeName))
@@ -136,7 +110,7 @@ public:
         if (const auto extension = element.attribute(plainName("Extension"_tag)))
             m_types.m_byExtension.insert(extension->toByteArray().toLower(), normalizeType(*type));
         if (const auto part = element.attribute(plainName("PartName"_tag)))
-            m_types.m_byPart.insert(resolveTarget({}, *part).toLower(), normalizeType(*type));
+            m_types.m_byPart.insert(resolvePartName({}, *part).toLower(), normalizeType(*type));
     }
     void endElement(XmlName) override { }
 

@@ -5,6 +5,7 @@
 #include "documents/html/HtmlText.h"
 #include "documents/html/HtmlTree.h"
 #include "documents/html/StyleSheets.h"
+#include "documents/html/XhtmlSource.h"
 #include "platform/text_encoding/AsciiBytes.h"
 #include "platform/text_encoding/DeclaredEncoding.h"
 #include "platform/text_encoding/EncodingConverter.h"
@@ -113,8 +114,9 @@ Result<AttributedString, DocumentError> readHtml(QByteArrayView bytes, const Htm
         const TextEncoding encoding = encodingOfPage(bytes, options.charset);
         const QByteArrayView page = bytes.sliced(encoding.markLength);
         if (std::strcmp(encoding.name, "UTF-8") == 0 && page.isValidUtf8())
-            return readUtf8(page);
-        return readUtf8(decodeText(page, encoding.name).toUtf8());
+            return options.isXhtml ? readUtf8(htmlOfXhtml(page)) : readUtf8(page);
+        const QByteArray utf8 = decodeText(page, encoding.name).toUtf8();
+        return options.isXhtml ? readUtf8(htmlOfXhtml(utf8)) : readUtf8(utf8);
     } catch (const std::bad_alloc &) {
         return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Html);
     }

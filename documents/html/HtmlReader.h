@@ -40,6 +40,7 @@
 
 struct HtmlOptions {
     QByteArray charset; ///< from a MIME type or an HTTP header; ignored if empty or unknown
+    bool isXhtml = false; ///< the page is known to be XML; see XhtmlSource.h
 };
 
 /// Whether the bytes begin with an HTML doctype or an html tag, after an optional byte order mark, white

@@ -3,6 +3,7 @@
 
 #include "documents/PlainTextReader.h"
 #include "documents/docx/DocxReader.h"
+#include "documents/epub/EpubReader.h"
 #include "documents/html/HtmlReader.h"
 #include "documents/odt/OdtReader.h"
 #include "documents/pdf/PdfReader.h"
@@ -69,6 +70,7 @@ constexpr std::array readers{
     Reader{DocumentKind::Pdf, readPdfFile},
     Reader{DocumentKind::OpenDocument,
         [](QByteArrayView bytes, const ReadOptions &) { return readOpenDocument(bytes); }},
+    Reader{DocumentKind::Epub, [](QByteArrayView bytes, const ReadOptions &) { return readEpub(bytes); }},
 };
 static_assert(readers.size() == static_cast<size_t>(lastDocumentKind));
 

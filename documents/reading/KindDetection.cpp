@@ -3,6 +3,7 @@
 
 #include "documents/docx/DocxReader.h"
 #include "documents/docx/FlatDocument.h"
+#include "documents/epub/EpubReader.h"
 #include "documents/html/HtmlReader.h"
 #include "documents/odt/OdtReader.h"
 #include "documents/rtf/RtfReader.h"
@@ -25,8 +26,8 @@ bool looksLikePdf(QByteArrayView bytes)
 }
 
 /// The name of an RTF or an RTFD file decides nothing: their bytes do.
-constexpr std::array kindsToldByName{
-    DocumentKind::Html, DocumentKind::WordDocument, DocumentKind::Pdf, DocumentKind::OpenDocument};
+constexpr std::array kindsToldByName{DocumentKind::Html, DocumentKind::WordDocument, DocumentKind::Pdf,
+    DocumentKind::OpenDocument, DocumentKind::Epub};
 
 bool inherits(const QMimeType &type, DocumentKind kind)
 {
@@ -69,6 +70,8 @@ DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
         return DocumentKind::OpenDocument;
     if (looksLikeCompoundFile(bytes) || looksLikeFlatWordDocument(bytes))
         return DocumentKind::WordDocument;
+    if (looksLikeEpub(bytes))
+        return DocumentKind::Epub;
     if (const std::optional<DocumentKind> kind = kindByName(path))
         return *kind;
     if (looksLikeHtml(bytes))

@@ -10,8 +10,8 @@
 
 /// The start of the bytes decides first, whatever the name: RTF, flat RTFD, PDF with at least one object (so
 /// that a text about PDF stays a text), OpenDocument texts, as packages or flat files, compound files,
-/// which are Word documents before 2007 or encrypted ones, and Word documents in one XML file. Then the MIME
-/// type of the name in the desktop's shared MIME database. Where the database does not know the name, the
-/// bytes decide again: a doctype or html tag at the start, or a ZIP archive with the parts of a Word
+/// which are Word documents before 2007 or encrypted ones, Word documents in one XML file, and EPUB. Then the
+/// MIME type of the name in the desktop's shared MIME database. Where the database does not know the name,
+/// the bytes decide again: a doctype or html tag at the start, or a ZIP archive with the parts of a Word
 /// document. Everything else is plain text. path: bytes in any encoding; empty for a document without a name.
 DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes);

@@ -87,6 +87,12 @@ TEST_F(FileTypesTest, ANameOfSeveralTypesCountsForEachOfThem)
     EXPECT_THAT(kindsOfFile(QStringLiteral("subtitles.ts")), ElementsAre(m_text)); // also a video
 }
 
+TEST_F(FileTypesTest, AnElectronicBookIsADocumentOfAnotherKind)
+{
+    EXPECT_THAT(kindsOfFile(QStringLiteral("a.epub")), ElementsAre(m_other));
+    EXPECT_THAT(kindsOfFolder(QStringLiteral("folder.epub")), IsEmpty());
+}
+
 TEST_F(FileTypesTest, AnOpenDocumentTextIsADocumentOfAnotherKind)
 {
     for (const char *name : {"a.odt", "A.ODT", "a.ott", "a.odm"})

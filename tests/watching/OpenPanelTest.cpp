@@ -35,7 +35,9 @@ TEST_F(OpenPanelTest, OffersTheFourKindsInTheirOrderAndOthersBehindThem)
             QStringLiteral("application/vnd.oasis.opendocument.text"),
             QStringLiteral("application/vnd.oasis.opendocument.text-template"),
             QStringLiteral("application/vnd.oasis.opendocument.text-master"),
-            QStringLiteral("application/vnd.oasis.opendocument.text-flat-xml")));
+            QStringLiteral("application/vnd.oasis.opendocument.text-flat-xml"),
+
+            QStringLiteral("application/epub+zip")));
     EXPECT_EQ(QBYExtension::openPanelForTextFilesAllowMultipleSelection(true).allowedFileTypes,
         QBYExtension::openPanelForTextFiles().allowedFileTypes);
 }
@@ -62,7 +64,7 @@ TEST_F(OpenPanelTest, OffersTheFilesThatPassTheTypeTestsAndNoOthers)
 {
     const OpenPanel panel = QBYExtension::openPanelForTextFiles();
     for (const char *name : {"a.rtf", "a.txt", "a.html", "a.c", "a.svg", "a.docx", "a.docm", "a.dotx",
-             "a.dotm", "TXT.rtf", "a.doc", "a.odt", "a.fodt", "a.ods", "a.pdf", "a.png"}) {
+             "a.dotm", "a.epub", "TXT.rtf", "a.doc", "a.odt", "a.fodt", "a.ods", "a.pdf", "a.png"}) {
         const QUrl url = QUrl::fromLocalFile(writeFile(QString::fromLatin1(name), "x"));
         EXPECT_EQ(isOffered(url, panel),
             QBYExtension::doesConformToPlainTextFileUTI(url) || QBYExtension::doesConformToDocXFileUTI(url)

@@ -2,6 +2,7 @@
 #include "documents/reading/KindDetection.h"
 
 #include "tests/documents/docx/PackageWriter.h"
+#include "tests/documents/epub/BookWriter.h"
 #include "tests/documents/pdf/PdfWriter.h"
 
 #include <gtest/gtest.h>
@@ -61,6 +62,14 @@ TEST(DocumentKind, AWordDocumentInOneXmlFileIsNoPlainText)
     const QByteArray flat("<?xml version=\"1.0\"?><?mso-application progid=\"Word.Document\"?><pkg:package>");
     for (const char *name : {"", "letter.xml", "letter.doc", "letter"})
         EXPECT_EQ(kindOfDocument(name, flat), DocumentKind::WordDocument) << name;
+}
+
+TEST(DocumentKind, AnElectronicBookIsOneUnderAnyName)
+{
+    const QByteArray book = BookWriter{.pages = {{"a.xhtml", "<p>text"}}}.bytes();
+    for (const char *name : {"", "book.epub", "book.zip", "book.txt", "book"})
+        EXPECT_EQ(kindOfDocument(name, book), DocumentKind::Epub) << name;
+    EXPECT_EQ(kindOfDocument("book.epub", "PK\x03\x04"), DocumentKind::Epub);
 }
 
 TEST(DocumentKind, TheMimeTypeOfTheNameTellsWebPagesAndWordDocuments)
