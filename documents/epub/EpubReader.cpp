@@ -47,7 +47,8 @@ Result<AttributedString, Cause> readBook(QByteArrayView bytes)
         const Result<QByteArray, Cause> page = package.value().contents(part);
         if (!page)
             return page.error();
-        Result<AttributedString, DocumentError> text = readHtml(page.value(), {.charset = {}, .isXhtml = true});
+        Result<AttributedString, DocumentError> text =
+            readHtml(page.value(), {.charset = {}, .isXhtml = true});
         if (!text)
             return causeOfPage(text.error().cause);
         appendPage(book, last, std::move(text).value());

@@ -155,7 +155,8 @@ void addSheets(HidingProperties &declared, const HidingProperties &sheets, Gumbo
 {
     const bool isWholePage = tag == GUMBO_TAG_HTML || tag == GUMBO_TAG_BODY;
     const bool isHiding = sheets.display == Display::None;
-    if (sheets.display && !(isWholePage && isHiding)
+    const bool isIgnored = isHiding ? isWholePage : tag == GUMBO_TAG_BR; // a line break has no box
+    if (sheets.display && !isIgnored
         && (!declared.display || (sheets.isDisplayImportant && !declared.isDisplayImportant)))
         declared.display = sheets.display;
     if (sheets.isVisible && (!isWholePage || *sheets.isVisible)

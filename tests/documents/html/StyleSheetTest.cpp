@@ -113,6 +113,8 @@ TEST(StyleSheet, DisplayAlsoDecidesWhereLinesEnd)
 {
     EXPECT_EQ(textWith("span{display:block}", "a<span>b</span>c"), QStringLiteral("a\nb\nc"));
     EXPECT_EQ(textWith("div{display:inline}", "a<div>b</div>c"), QStringLiteral("abc"));
+    EXPECT_EQ(textWith("br{display:block}", "a<br>b"), QStringLiteral("a\nb"));
+    EXPECT_EQ(textWith("br{display:none}", "a<br>b"), QStringLiteral("ab"));
 }
 
 TEST(StyleSheet, AppliesToTextBeforeItAndFromEveryStyleElement)
