@@ -1,10 +1,49 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_layout/FontFace.h"
 
+#include "platform/system/OwnedDescriptor.h"
+
 #include <hb-ot.h>
 #include <hb.h>
 
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <limits>
+
+namespace {
+
+struct Mapping {
+    void *bytes;
+    size_t length;
+};
+
+void unmap(void *mapping)
+{
+    const auto *const owned = static_cast<Mapping *>(mapping);
+    ::munmap(owned->bytes, owned->length);
+    delete owned;
+}
+
+/// The bytes of the file, mapped; none if it cannot be read. HarfBuzz's own function needs fstat(), which a
+/// sandbox does not allow.
+hb_blob_t *mapFile(const char *path)
+{
+    const OwnedDescriptor file(::open(path, O_RDONLY | O_CLOEXEC));
+    const off_t length = file ? ::lseek(file.get(), 0, SEEK_END) : -1;
+    if (length <= 0 || length > std::numeric_limits<int>::max())
+        return hb_blob_get_empty();
+    const auto size = static_cast<size_t>(length);
+    void *const bytes = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file.get(), 0);
+    if (bytes == MAP_FAILED)
+        return hb_blob_get_empty();
+    return hb_blob_create(static_cast<const char *>(bytes), static_cast<unsigned>(size),
+        HB_MEMORY_MODE_READONLY_MAY_MAKE_WRITABLE, new Mapping{bytes, size}, unmap);
+}
+
+} // namespace
 
 void FontFace::FontDeleter::operator()(hb_font_t *font) const
 {
@@ -15,7 +54,7 @@ FontFace::FontFace(const CatalogueFont &source)
     : m_source(source)
 {
     const auto index = static_cast<unsigned>(source.index);
-    hb_blob_t *blob = hb_blob_create_from_file(source.path.constData());
+    hb_blob_t *blob = mapFile(source.path.constData());
     hb_face_t *face = hb_face_create(blob, index & 0xFFFF);
     hb_blob_destroy(blob);
     m_font.reset(hb_font_create(face));

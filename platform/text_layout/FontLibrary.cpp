@@ -203,6 +203,12 @@ FontLibrary::FontLibrary()
 
 FontLibrary::~FontLibrary() = default;
 
+void FontLibrary::loadAll()
+{
+    for (size_t i = 0; i < m_faces.size(); ++i)
+        load(static_cast<quint16>(i));
+}
+
 QByteArrayList FontLibrary::loadedFiles() const
 {
     QByteArrayList files;

@@ -71,6 +71,9 @@ public:
     /// language: BCP 47 or empty. Null only if isEmpty().
     FontChain *chainFor(const FontAttributes &attributes, const QString &language);
 
+    /// Loads every font now. Afterwards, choosing one opens no file.
+    void loadAll();
+
     /// The files of the fonts loaded so far, in the order of the catalogue.
     [[nodiscard]] QByteArrayList loadedFiles() const;
 

@@ -49,6 +49,9 @@ public:
     quint64 countLines(const AttributedString &text, double columnWidth, qsizetype start, qsizetype end,
         const Progress &progress = {});
 
+    /// Loads every font of the machine now. Afterwards, a layout opens no file.
+    void loadAllFonts() { m_fonts.loadAll(); }
+
     /// The files of the fonts that the texts so far needed.
     [[nodiscard]] QByteArrayList fontFilesInUse() const { return m_fonts.loadedFiles(); }
 
