@@ -53,8 +53,10 @@ std::optional<std::chrono::milliseconds> idleTimeFrom(std::string_view word)
 int runWorker()
 {
     // The broker limits the memory and processor time, separately for every document.
-    const SandboxReport sandbox = enterDocumentSandbox(FontSources::current().readable);
-    return CountingWorker().run(sandbox);
+    CountingWorker worker;
+    const SandboxReport sandbox = enterDocumentSandbox(
+        FontSources::current().readable, [&worker](FontAccess access) { worker.loadFonts(access); });
+    return worker.run(sandbox);
 }
 
 int runBroker(int argumentCount, char **arguments, std::chrono::milliseconds idleTime)

@@ -136,6 +136,9 @@ QString causeText(const DocumentError &error)
     case Cause::NoPdfReader:
         return QStringLiteral("needs the program quillbay-pdf-reader, which is missing or does not start; "
                               "reinstall Quillbay");
+    case Cause::NoSandbox:
+        return QStringLiteral("cannot be read safely, as the system refuses the filter of system calls; "
+                              "allow seccomp in the kernel or container");
     case Cause::NotEnoughMemory:
         break;
     }

@@ -32,6 +32,7 @@ struct DocumentError {
         TooComplex, ///< reading it takes time or memory out of proportion to its length
         PdfNotSupported, ///< the options leave PDF files out
         NoPdfReader, ///< the program that reads PDF files is missing or does not start
+        NoSandbox, ///< the system does not confine the process that would read it
         NotEnoughMemory,
     };
     static constexpr Cause lastCause = Cause::NotEnoughMemory;

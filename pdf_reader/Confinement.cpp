@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "pdf_reader/Confinement.h"
 
-#include "platform/sandbox/FontSources.h"
 #include "platform/sandbox/Sandbox.h"
 
 #include <QFile>
@@ -19,10 +18,6 @@ constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of addre
 #else
 constexpr bool isMemoryLimited = true;
 #endif
-
-// Where Qt Pdf looks for fonts that a file does not embed. It does not use fontconfig.
-const QByteArrayList fontFolders{
-    "/usr/share/fonts", "/usr/share/X11/fonts/Type1", "/usr/share/X11/fonts/TTF", "/usr/local/share/fonts"};
 
 /// The writable memory of this process in bytes.
 qint64 memoryInUse()
@@ -47,9 +42,8 @@ SandboxReport confine(const PdfReaderRequest &request)
     constexpr qint64 maxAlarm = std::numeric_limits<int>::max();
     ::alarm(static_cast<unsigned>(std::min<qint64>(request.realTime.count(), maxAlarm)));
     limit(RLIMIT_CPU, request.processorTime.count());
-    const QByteArrayList fonts = FontSources::below(fontFolders).readable;
     if (isMemoryLimited)
         limit(RLIMIT_DATA, memoryInUse() + request.memory);
     limit(RLIMIT_NPROC, 0);
-    return enterDocumentSandbox(fonts);
+    return enterDocumentSandbox();
 }

@@ -57,7 +57,8 @@ int main(int argumentCount, char **arguments)
         requestFrom(words.subspan(std::min<size_t>(1, words.size())));
     if (request) {
         // Before the process reads a byte of the document.
-        (void)confine(*request);
+        if (!confine(*request).isSufficient())
+            ::_exit(exitStatusFor(DocumentError::Cause::NoSandbox));
         const auto document = SealedMemory::receive(STDIN_FILENO);
         if (document)
             ::_exit(exitStatusFor(writePages(document.value().bytes(), request->length)));

@@ -12,6 +12,19 @@ namespace {
 
 using State = WorkerProcess::State;
 
+void logSandbox(const SandboxReport &sandbox)
+{
+    const LogArgument description = publicly(sandboxDescription(sandbox));
+    if (!sandbox.isSufficient())
+        countingServiceLog().error(
+            u"No document is counted, as the workers cannot be confined: {}", {description});
+    else if (sandbox.landlockVersion == 0)
+        countingServiceLog().notice(
+            u"The workers are confined by the system call filter alone: {}", {description});
+    else
+        countingServiceLog().info(u"Sandbox of the workers: {}", {description});
+}
+
 } // namespace
 
 WorkerPool::WorkerPool(WorkerProgram program, int workers)
@@ -166,7 +179,7 @@ void WorkerPool::takeGreeting(const SandboxReport &sandbox)
     if (!m_queue.empty())
         m_failedStarts = 0;
     if (std::exchange(m_sandbox, sandbox) != sandbox)
-        countingServiceLog().info(u"Sandbox of the workers: {}", {publicly(sandboxDescription(sandbox))});
+        logSandbox(sandbox);
     schedule();
 }
 

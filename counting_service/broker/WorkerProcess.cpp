@@ -69,7 +69,7 @@ std::optional<LaunchedWorker> launchWorker(const WorkerProgram &program)
         return std::nullopt;
     ChildFiles files;
     files.open(STDIN_FILENO, "/dev/null", O_RDONLY)
-        .duplicate(STDERR_FILENO, STDOUT_FILENO)
+        .open(STDOUT_FILENO, "/dev/null", O_WRONLY)
         .duplicate(sockets->second.get(), CountingWorker::socket)
         .closeFrom(CountingWorker::socket + 1);
     std::optional<LaunchedChild> child =

@@ -5,6 +5,7 @@
 #include "documents/reading/DocumentReader.h"
 #include "platform/locale/CurrentLocale.h"
 #include "platform/system/SealedMemory.h"
+#include "text_statistics/MeasuringSurface.h"
 
 #include <cstdlib>
 #include <new>
@@ -41,7 +42,7 @@ CountingWorker::CountingWorker()
 
 int CountingWorker::run(const SandboxReport &sandbox)
 {
-    loadFonts();
+    m_isConfined = sandbox.isSufficient();
     if (!sendPacket(socket, encode(WorkerGreeting{sandbox})))
         return 1;
     for (;;) {
@@ -60,10 +61,12 @@ int CountingWorker::run(const SandboxReport &sandbox)
     }
 }
 
-// A count of a few letters creates everything that counts need.
-void CountingWorker::loadFonts()
+void CountingWorker::loadFonts(FontAccess access)
 {
+    // A count of a few letters creates everything that counts need.
     m_model.setAttributedStringToCount(AttributedString(QStringLiteral("One. Two.")));
+    if (access == FontAccess::Once)
+        MeasuringSurface::shared().engine().loadAllFonts();
 }
 
 WorkerReply CountingWorker::replyTo(const WorkerRequest &request, int descriptor)
@@ -78,6 +81,8 @@ WorkerReply CountingWorker::replyTo(const WorkerRequest &request, int descriptor
 
 Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequest &request, int descriptor)
 {
+    if (!m_isConfined)
+        return CountFailure(DocumentError(DocumentError::Cause::NoSandbox, request.kind));
     const SealedMemory::MemoryResult memory = SealedMemory::receive(descriptor, request.length);
     if (!memory)
         return CountFailure(CountFailure::Cause::NotReceived);

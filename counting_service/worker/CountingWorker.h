@@ -18,12 +18,15 @@ public:
     CountingWorker(const CountingWorker &) = delete;
     CountingWorker &operator=(const CountingWorker &) = delete;
 
-    /// Loads the fonts, sends the greeting, and serves until the broker closes the connection. Returns the
-    /// exit status: 0, or 1 where the connection fails, a message is not a request, or memory runs out.
+    /// Looks up the fonts of the machine, and loads those that most texts need, or all.
+    void loadFonts(FontAccess access);
+
+    /// Sends the greeting, and serves until the broker closes the connection. Reads no document in an
+    /// insufficient sandbox. Returns the exit status: 0, or 1 where the connection fails, a message is not a
+    /// request, or memory runs out.
     int run(const SandboxReport &sandbox);
 
 private:
-    void loadFonts();
     [[nodiscard]] WorkerReply replyTo(const WorkerRequest &request, int descriptor);
     [[nodiscard]] Result<QBYWordCounterStats, CountFailure> count(
         const WorkerRequest &request, int descriptor);
@@ -31,4 +34,5 @@ private:
     CountingRules m_rules;
     WordCounterModel m_model;
     CountMemory m_memory;
+    bool m_isConfined = false;
 };

@@ -104,14 +104,6 @@ Stamp Stamp::of(const QByteArray &path)
         .nanoseconds = status.st_mtim.tv_nsec};
 }
 
-FontSources FontSources::below(const QByteArrayList &folders)
-{
-    FontSources sources;
-    sources.readable = folders;
-    FolderWalk(sources).walk(folders);
-    return sources;
-}
-
 FontSources FontSources::current()
 {
     FontSources sources;

@@ -29,8 +29,6 @@ struct FontSources {
 
     /// The sources of the current configuration (FONTCONFIG_FILE). Reads no font.
     static FontSources current();
-    /// The sources below these folders, whatever the configuration.
-    static FontSources below(const QByteArrayList &folders);
 
     QByteArrayList readable; ///< paths; fonts are read from them and from below them only
     std::vector<Stamp> stamps; ///< one of them changes when a font is added or removed

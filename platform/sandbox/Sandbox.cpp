@@ -1,13 +1,68 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sandbox/Sandbox.h"
 
+#include "platform/sandbox/Landlock.h"
+#include "platform/sandbox/SystemCallFilter.h"
 #include "platform/system/Processes.h"
 
 #include <QStringList>
 
 #include <csignal>
+#include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+void forbidCoreFiles()
+{
+    keepMemoryPrivate();
+    constexpr rlimit none{0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
+}
+
+// Standard error may be a terminal, which is open for reading too: whoever reads from it takes what the user
+// types there. Other programs may share its place in a file. A socket cannot be opened again.
+void openErrorsForWritingOnly()
+{
+    // A pipe that nobody reads would block.
+    OwnedDescriptor errors(::open("/proc/self/fd/2", O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!errors && ::isatty(STDERR_FILENO) != 0)
+        errors = OwnedDescriptor(::open("/dev/null", O_WRONLY | O_CLOEXEC));
+    if (!errors)
+        return;
+    ::fcntl(errors.get(), F_SETFL, O_APPEND);
+    ::dup2(errors.get(), STDERR_FILENO);
+}
+
+// Otherwise a line in a log that is a file would kill the process, instead of being lost.
+void forbidGrowingFiles()
+{
+    ::signal(SIGXFSZ, SIG_IGN);
+    constexpr rlimit none{0, 0};
+    ::setrlimit(RLIMIT_FSIZE, &none);
+}
+
+/// Returns what is in force so far.
+SandboxReport restrictFiles(const QByteArrayList &readable)
+{
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    forbidCoreFiles();
+    openErrorsForWritingOnly();
+    forbidGrowingFiles();
+
+    SandboxReport report;
+    // The other two need it.
+    report.hasNoNewPrivileges = ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
+    Landlock landlock;
+    for (const QByteArray &path : readable)
+        landlock.allowReading(path);
+    report.landlockVersion = landlock.enforce();
+    return report;
+}
+
+} // namespace
 
 QString sandboxDescription(const SandboxReport &report)
 {
@@ -22,111 +77,20 @@ QString sandboxDescription(const SandboxReport &report)
     return parts.join(QStringLiteral(", "));
 }
 
-void Sandbox::exitWithParent()
+SandboxReport enterDocumentSandbox()
 {
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-}
-
-void Sandbox::keepMemoryPrivate()
-{
-    ::keepMemoryPrivate();
-    constexpr rlimit none{0, 0};
-    ::setrlimit(RLIMIT_CORE, &none);
-}
-
-void Sandbox::forbidGrowingFiles()
-{
-    // Otherwise a log line to a file would kill the process, instead of being lost.
-    ::signal(SIGXFSZ, SIG_IGN);
-    constexpr rlimit none{0, 0};
-    ::setrlimit(RLIMIT_FSIZE, &none);
-}
-
-void Sandbox::allowReading(const QByteArrayList &paths)
-{
-    for (const QByteArray &path : paths)
-        m_landlock.allowReading(path);
-}
-
-void Sandbox::forbidChangingFiles()
-{
-    m_filter.refuseOpeningToWrite();
-    m_filter.refuse({"truncate", "rename", "renameat", "renameat2", "link", "linkat", "symlink", "symlinkat",
-        "unlink", "unlinkat", "mkdir", "mkdirat", "rmdir", "mknod", "mknodat"});
-    // Landlock does not cover these.
-    m_filter.refuse({"chmod", "fchmod", "fchmodat", "fchmodat2", "chown", "lchown", "fchown", "fchownat",
-        "setxattr", "lsetxattr", "fsetxattr", "removexattr", "lremovexattr", "fremovexattr", "utime",
-        "utimes", "futimesat", "utimensat"});
-}
-
-void Sandbox::forbidStartingPrograms()
-{
-    m_filter.refuse({"execve", "execveat"});
-    m_filter.refuseNewProcesses();
-}
-
-void Sandbox::forbidConnecting()
-{
-    // Landlock covers TCP and abstract sockets; without new sockets there are no others either.
-    m_filter.refuse({"socket", "socketpair", "connect", "bind", "listen", "accept", "accept4", "socketcall"});
-    // System V and POSIX message passing, which needs no sockets.
-    m_filter.refuse({"msgget", "msgsnd", "msgrcv", "msgctl", "semget", "semop", "semtimedop", "semctl",
-        "shmget", "shmat", "shmctl", "ipc", "mq_open", "mq_unlink"});
-}
-
-void Sandbox::forbidTouchingOtherProcesses()
-{
-    m_filter.refuseSignalsToOthers();
-    m_filter.refuse({"ptrace", "process_vm_readv", "process_vm_writev", "process_madvise", "process_mrelease",
-        "pidfd_open", "pidfd_getfd", "kcmp", "move_pages", "migrate_pages"});
-    m_filter.refuseTyping();
-}
-
-void Sandbox::forbidRaisingLimits()
-{
-    m_filter.refuseNewLimits();
-}
-
-void Sandbox::forbidPrivilegedCalls()
-{
-    m_filter.refuse({"mount", "umount", "umount2", "pivot_root", "chroot", "move_mount", "open_tree",
-        "fsopen", "fsconfig", "fsmount", "fspick", "mount_setattr", "unshare", "setns"});
-    m_filter.refuse({"setuid", "setgid", "setreuid", "setregid", "setresuid", "setresgid", "setfsuid",
-        "setfsgid", "setgroups", "capset"});
-    m_filter.refuse({"bpf", "perf_event_open", "io_uring_setup", "io_uring_enter", "io_uring_register",
-        "userfaultfd", "keyctl", "add_key", "request_key", "memfd_secret", "name_to_handle_at",
-        "open_by_handle_at", "fanotify_init", "lookup_dcookie", "syslog", "acct", "quotactl", "quotactl_fd"});
-    m_filter.refuse({"init_module", "finit_module", "delete_module", "kexec_load", "kexec_file_load",
-        "reboot", "swapon", "swapoff", "settimeofday", "clock_settime", "adjtimex", "clock_adjtime",
-        "sethostname", "setdomainname", "iopl", "ioperm", "modify_ldt", "vhangup"});
-}
-
-SandboxReport Sandbox::enter()
-{
-    SandboxReport report;
-    // The other two need it.
-    report.hasNoNewPrivileges = ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
-    report.landlockVersion = m_landlock.enforce();
-    report.hasSystemCallFilter = m_filter.load();
+    SandboxReport report = restrictFiles({});
+    report.hasSystemCallFilter = restrictSystemCalls(allowedCalls(FileAccess::None));
     return report;
 }
 
-SandboxReport enterDocumentSandbox(const QByteArrayList &fonts)
+SandboxReport enterDocumentSandbox(
+    const QByteArrayList &fonts, const std::function<void(FontAccess)> &loadFonts)
 {
-    Sandbox sandbox;
-    sandbox.exitWithParent();
-    sandbox.keepMemoryPrivate();
-    sandbox.forbidGrowingFiles();
-
-    sandbox.allowReading(fonts);
-    sandbox.allowReading({"/usr/share/icu", "/usr/share/locale", "/usr/lib/locale"});
-    sandbox.allowReading({"/sys/devices/system/cpu"}); // the number of processors
-
-    sandbox.forbidChangingFiles();
-    sandbox.forbidStartingPrograms();
-    sandbox.forbidConnecting();
-    sandbox.forbidTouchingOtherProcesses();
-    sandbox.forbidRaisingLimits();
-    sandbox.forbidPrivilegedCalls();
-    return sandbox.enter();
+    SandboxReport report = restrictFiles(fonts);
+    const bool hasLandlock = report.landlockVersion > 0;
+    loadFonts(hasLandlock ? FontAccess::WhenNeeded : FontAccess::Once);
+    report.hasSystemCallFilter =
+        restrictSystemCalls(allowedCalls(hasLandlock ? FileAccess::Reading : FileAccess::None));
+    return report;
 }

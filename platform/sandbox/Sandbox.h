@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Sandbox collects restrictions of this process and enforces them together. If the kernel lacks a part, the
-// others are enforced without it, and the report says so.
-// Thread: main, before there is another: parts of it apply only to threads that start later.
+// Sandbox confines a process that reads documents, for good: it keeps the descriptors that it was started
+// with, and passes on its results through them. Limits of memory and processor time are left to the caller,
+// who sets them before or from outside: they cannot be raised from inside any more.
+// Thread: main, before there is another.
 #pragma once
-
-#include "platform/sandbox/Landlock.h"
-#include "platform/sandbox/SystemCallFilter.h"
 
 #include <QByteArrayList>
 #include <QString>
+
+#include <functional>
 
 /// The enforced parts of a sandbox.
 struct SandboxReport {
@@ -16,43 +16,27 @@ struct SandboxReport {
     int landlockVersion = 0; ///< 0 if the kernel has no Landlock
     bool hasSystemCallFilter = false;
 
+    /// Whether a document may be read. Landlock may be missing: the filter of system calls keeps files,
+    /// connections and processes out alone.
+    [[nodiscard]] bool isSufficient() const { return hasNoNewPrivileges && hasSystemCallFilter; }
+
     bool operator==(const SandboxReport &) const = default;
 };
 
 /// In English, on one line: "no new privileges, Landlock 7, a system call filter".
 QString sandboxDescription(const SandboxReport &report);
 
-class Sandbox {
-public:
-    // Take effect at once.
+/// The sandbox of a process that opens no file. Memory files for its results must exist before: no file can
+/// grow inside.
+[[nodiscard]] SandboxReport enterDocumentSandbox();
 
-    /// Kills the process when the thread that started it exits.
-    void exitWithParent();
-    /// Keeps the memory out of core files, and away from other processes of the user.
-    void keepMemoryPrivate();
-    /// No file may grow, including a file that receives the log.
-    void forbidGrowingFiles();
-
-    // Take effect in enter().
-
-    /// Folders with everything below them, files, symbolic links to either. No other file may be opened.
-    void allowReading(const QByteArrayList &paths);
-    void forbidChangingFiles();
-    void forbidStartingPrograms();
-    void forbidConnecting();
-    void forbidTouchingOtherProcesses();
-    void forbidRaisingLimits();
-    void forbidPrivilegedCalls();
-
-    [[nodiscard]] SandboxReport enter();
-
-private:
-    Landlock m_landlock;
-    SystemCallFilter m_filter;
+enum class FontAccess {
+    WhenNeeded, ///< a font can be opened at any time
+    Once, ///< this is the last time that a font can be opened
 };
 
-/// Enforces the policy of the processes that touch documents, for good: they read fonts, and pass on their
-/// results through the descriptors that they were started with. fonts: the folders and files that fonts are
-/// read from. The caller must limit memory and processor time before; they cannot be limited from inside any
-/// more.
-SandboxReport enterDocumentSandbox(const QByteArrayList &fonts);
+/// The sandbox of a process that also reads fonts. fonts: the folders and files that fonts are read from, and
+/// the configuration of the fonts; nothing else may be opened. loadFonts: called in a part of the sandbox,
+/// where the fonts can be looked up; opens them all where it is told so, which is the case without Landlock.
+[[nodiscard]] SandboxReport enterDocumentSandbox(
+    const QByteArrayList &fonts, const std::function<void(FontAccess)> &loadFonts);
