@@ -27,36 +27,38 @@ void unmap(void *mapping)
     delete owned;
 }
 
-/// The bytes of the file, mapped; none if it cannot be read. HarfBuzz's own function needs fstat(), which a
-/// sandbox does not allow.
-hb_blob_t *mapFile(const char *path)
+} // namespace
+
+void FontFileDeleter::operator()(hb_blob_t *file) const
 {
-    const OwnedDescriptor file(::open(path, O_RDONLY | O_CLOEXEC));
+    hb_blob_destroy(file);
+}
+
+// HarfBuzz's own function needs fstat(), which a sandbox does not allow.
+FontFile mapFontFile(const QByteArray &path)
+{
+    const OwnedDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC));
     const off_t length = file ? ::lseek(file.get(), 0, SEEK_END) : -1;
     if (length <= 0 || length > std::numeric_limits<int>::max())
-        return hb_blob_get_empty();
+        return FontFile(hb_blob_get_empty());
     const auto size = static_cast<size_t>(length);
     void *const bytes = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file.get(), 0);
     if (bytes == MAP_FAILED)
-        return hb_blob_get_empty();
-    return hb_blob_create(static_cast<const char *>(bytes), static_cast<unsigned>(size),
-        HB_MEMORY_MODE_READONLY_MAY_MAKE_WRITABLE, new Mapping{bytes, size}, unmap);
+        return FontFile(hb_blob_get_empty());
+    return FontFile(hb_blob_create(static_cast<const char *>(bytes), static_cast<unsigned>(size),
+        HB_MEMORY_MODE_READONLY_MAY_MAKE_WRITABLE, new Mapping{bytes, size}, unmap));
 }
-
-} // namespace
 
 void FontFace::FontDeleter::operator()(hb_font_t *font) const
 {
     hb_font_destroy(font);
 }
 
-FontFace::FontFace(const CatalogueFont &source)
+FontFace::FontFace(const CatalogueFont &source, const FontFile &file)
     : m_source(source)
 {
     const auto index = static_cast<unsigned>(source.index);
-    hb_blob_t *blob = mapFile(source.path.constData());
-    hb_face_t *face = hb_face_create(blob, index & 0xFFFF);
-    hb_blob_destroy(blob);
+    hb_face_t *face = hb_face_create(file.get(), index & 0xFFFF);
     m_font.reset(hb_font_create(face));
     // HarfBuzz returns 1000 if the font has no valid value.
     m_unitsPerEm = hb_face_get_upem(face);

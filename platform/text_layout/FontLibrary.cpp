@@ -222,8 +222,13 @@ QByteArrayList FontLibrary::loadedFiles() const
 FontFace *FontLibrary::load(quint16 font)
 {
     std::unique_ptr<FontFace> &face = m_faces[font];
-    if (!face)
-        face = std::make_unique<FontFace>(m_catalogue.fonts()[font]);
+    if (!face) {
+        const CatalogueFont &source = m_catalogue.fonts()[font];
+        FontFile &file = m_files[source.path];
+        if (!file)
+            file = mapFontFile(source.path);
+        face = std::make_unique<FontFace>(source, file);
+    }
     return face.get();
 }
 

@@ -87,6 +87,7 @@ private:
 
     FontCatalogue m_catalogue;
     QHash<QString, std::vector<quint16>> m_families;
+    std::map<QByteArray, FontFile> m_files; // by path
     std::vector<std::unique_ptr<FontFace>> m_faces; // by index in the catalogue, null until loaded
     std::map<ChainKey, std::unique_ptr<FontChain>> m_chains;
 };
