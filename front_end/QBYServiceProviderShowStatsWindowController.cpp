@@ -99,6 +99,7 @@ void QBYServiceProviderShowStatsWindowController::closeButtonAction(QObject * /*
 {
     const auto self = shared_from_this(); // the delegate drops its reference
     window()->close();
+    m_wordCounterViewController->stopAsyncOperation(); // frees the counting service for other windows
     if (auto *const receiver = delegate())
         receiver->serviceProviderShowStatsWindowControllerDidClose(*this);
 }

@@ -69,8 +69,8 @@ public:
     /// sender: ignored.
     void showWindow(QObject *sender);
 
-    /// Closes the window, then notifies the delegate. Close button, Escape, Ctrl+W and the window manager's
-    /// close call it. sender: ignored.
+    /// Closes the window, stops the count, then notifies the delegate. Close button, Escape, Ctrl+W and the
+    /// window manager's close call it. sender: ignored.
     void closeButtonAction(QObject *sender);
 
     /// Fits the window to the labels; see PanelHost::fittingWidth().

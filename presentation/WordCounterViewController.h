@@ -66,8 +66,8 @@ public:
     /// A file that cannot be read is sent as an absent document; the panel shows what the service answers.
     void asyncUpdateStatsDocXFileURL(const QUrl &fileURL, Completion completion);
 
-    /// Abandons the count in progress. If it has been sent, its counts are not shown and its completion is
-    /// not called. If not, it is sent only if another count opens a connection first.
+    /// Abandons the count in progress. If it has been sent, the service drops it, its counts are not shown
+    /// and its completion is not called. If not, it is sent only if another count opens a connection first.
     void stopAsyncOperation();
 
     /// The title, then the texts of the visible labels on a line each, with "-" for every bullet. Neither

@@ -60,7 +60,9 @@ QDBusMessage busCall(const QString &method, const QVariantList &arguments)
 
 CountingService::CountingService(WorkerProgram workers, std::chrono::milliseconds idleTime)
     : m_bus(QDBusConnection::sessionBus())
-    , m_object(m_bus, [this](const ReceivedRequest &request) { receive(request); })
+    , m_object(
+          m_bus, [this](const ReceivedRequest &request) { receive(request); },
+          [this](quint64 number) { drop(number); })
     , m_pool(std::move(workers), WorkerPool::defaultWorkerCount())
 {
     m_idleTimer.setInterval(idleTime);
@@ -94,7 +96,7 @@ void CountingService::requestName()
         [this](const QDBusMessage &reply) {
             if (reply.type() == QDBusMessage::ReplyMessage
                 && reply.arguments().value(0).toUInt() == isPrimaryOwner) {
-                if (m_openRequests == 0)
+                if (m_openRequests.empty())
                     m_idleTimer.start();
                 return;
             }
@@ -116,7 +118,7 @@ void CountingService::callAsync(
 
 void CountingService::receive(const ReceivedRequest &request)
 {
-    ++m_openRequests;
+    m_openRequests.insert(request.number);
     m_idleTimer.stop();
     Result<SealedMemory, CountFailure> document = documentOf(request);
     if (!document)
@@ -125,13 +127,15 @@ void CountingService::receive(const ReceivedRequest &request)
     ReceivedRequest pending = request;
     pending.payload = {}; // the sealed memory has its own descriptor
     m_rules.requestSnapshot([this, pending, memory](const RulesSource::Snapshot &snapshot) {
+        if (!m_openRequests.contains(pending.number))
+            return;
         m_pool.setFontGeneration(snapshot.fontGeneration);
         RulesSnapshot rules = snapshot.rules;
         if (pending.localeName)
             rules.localeName = *pending.localeName;
         m_columnInForce = columnWidthOf(rules.page).value_or(m_columnInForce);
         rules.page.columnBefore = m_columnInForce;
-        m_pool.add({pending.kind, std::move(*memory), rules,
+        m_pool.add({pending.number, pending.kind, std::move(*memory), rules,
             [this, pending](const CountJob::Outcome &outcome) { finish(pending, outcome); }});
     });
 }
@@ -143,7 +147,22 @@ void CountingService::finish(const ReceivedRequest &request, const ReceivedReque
             {request.length, publicly(causeText(outcome.error()))});
     }
     request.reply(outcome);
-    if (--m_openRequests > 0)
+    close(request.number);
+}
+
+void CountingService::drop(quint64 number)
+{
+    if (!m_openRequests.contains(number))
+        return; // answered while the client was leaving
+    countingServiceLog().info(u"Dropped a document: its client has left the bus");
+    m_pool.drop(number);
+    close(number);
+}
+
+void CountingService::close(quint64 number)
+{
+    m_openRequests.erase(number);
+    if (!m_openRequests.empty())
         return;
     if (m_hasReleasedName)
         quit();
@@ -161,7 +180,7 @@ void CountingService::stop()
             // The bus's reply follows the last request: all of them have been read.
             m_object.flush();
             m_hasReleasedName = true;
-            if (m_openRequests == 0)
+            if (m_openRequests.empty())
                 quit();
         });
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-// CountingService is the broker: it owns the service's name on the session bus, answers every request once,
-// and exits when it has been idle for a while. It never reads documents: WorkerPool has them counted, under
-// the rules of RulesSource.
-// Thread: main.  Owner: main().
+// CountingService is the broker: it owns the service's name on the session bus, answers every request once
+// unless its client has left the bus, and exits when it has been idle for a while. It never reads documents:
+// WorkerPool has them counted, under the rules of RulesSource. Thread: main.  Owner: main().
 #pragma once
 
 #include "counting_service/broker/RulesSource.h"
@@ -15,6 +14,7 @@
 
 #include <chrono>
 #include <functional>
+#include <unordered_set>
 
 class CountingService : public QObject {
     Q_OBJECT
@@ -41,6 +41,8 @@ private Q_SLOTS:
 private:
     void receive(const ReceivedRequest &request);
     void finish(const ReceivedRequest &request, const ReceivedRequest::Outcome &outcome);
+    void drop(quint64 number);
+    void close(quint64 number);
     void requestName();
     void callAsync(const QDBusMessage &call, const std::function<void(const QDBusMessage &)> &takeReply);
     void quit();
@@ -51,7 +53,7 @@ private:
     WorkerPool m_pool;
     QTimer m_idleTimer;
     double m_columnInForce = 0; ///< points; of the previous request, whichever worker counts it
-    size_t m_openRequests = 0;
+    std::unordered_set<quint64> m_openRequests; ///< by their numbers; neither answered nor dropped
     bool m_isStopping = false;
     bool m_hasReleasedName = false;
 };

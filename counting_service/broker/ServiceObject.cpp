@@ -35,9 +35,10 @@ QVariantList argumentsOf(const QBYWordCounterStats &stats)
 
 } // namespace
 
-ServiceObject::ServiceObject(QDBusConnection bus, Receiver receiver)
+ServiceObject::ServiceObject(QDBusConnection bus, Receiver receiver, Dropper dropper)
     : m_bus(std::move(bus))
     , m_receiver(std::move(receiver))
+    , m_dropper(std::move(dropper))
 {
     // Qt finds the type of the slots' parameters by this name.
     qRegisterMetaType<QDBusUnixFileDescriptor>("QDBusUnixFileDescriptor");
@@ -58,9 +59,14 @@ ServiceObject::~ServiceObject()
     QMetaObject::invokeMethod(this, moveBack, Qt::BlockingQueuedConnection);
 }
 
+// The bus sends a client's departure after its requests. One subscription for all clients: a busy service
+// would otherwise need a match rule for each of them, which the bus limits.
 bool ServiceObject::registerOnBus()
 {
-    return m_bus.registerObject(path(), this, QDBusConnection::ExportScriptableSlots);
+    return m_bus.connect(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+               QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameOwnerChanged"), this,
+               SLOT(nameOwnerDidChange(QString, QString, QString)))
+        && m_bus.registerObject(path(), this, QDBusConnection::ExportScriptableSlots);
 }
 
 void ServiceObject::flush()
@@ -101,19 +107,35 @@ void ServiceObject::receive(DocumentKind kind, const QDBusUnixFileDescriptor &pa
     setDelayedReply(true);
     if (!message().isReplyRequired())
         return;
-    const quint64 number = ++m_requests;
-    m_replies.emplace(number, message().createReply());
-    const auto reply = [this, number](const Outcome &outcome) {
-        QMetaObject::invokeMethod(this, [this, number, outcome] { sendReply(number, outcome); });
+    const RequestKey key(message().service(), ++m_requests);
+    m_replies.emplace(key, message().createReply());
+    const auto reply = [this, key](const Outcome &outcome) {
+        QMetaObject::invokeMethod(this, [this, key, outcome] { sendReply(key, outcome); });
     };
-    const ReceivedRequest request{kind, payload, length, absent, localeNameIn(options), reply};
+    const ReceivedRequest request{key.second, kind, payload, length, absent, localeNameIn(options), reply};
     QMetaObject::invokeMethod(
         &m_onMainThread, [this, request] { m_receiver(request); }, Qt::QueuedConnection);
 }
 
-void ServiceObject::sendReply(quint64 number, const Outcome &outcome)
+void ServiceObject::nameOwnerDidChange(
+    const QString &name, const QString & /*oldOwner*/, const QString &newOwner)
 {
-    auto reply = m_replies.extract(number);
+    if (!newOwner.isEmpty())
+        return;
+    auto pending = m_replies.lower_bound({name, 0});
+    while (pending != m_replies.end() && pending->first.first == name) {
+        QMetaObject::invokeMethod(
+            &m_onMainThread, [this, number = pending->first.second] { m_dropper(number); },
+            Qt::QueuedConnection);
+        pending = m_replies.erase(pending);
+    }
+}
+
+void ServiceObject::sendReply(const RequestKey &key, const Outcome &outcome)
+{
+    auto reply = m_replies.extract(key);
+    if (reply.empty())
+        return; // the client has left meanwhile
     reply.mapped().setArguments(argumentsOf(outcome ? outcome.value() : QBYWordCounterStats()));
     m_bus.send(reply.mapped());
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ServiceObject is the counting service on the bus: the interface of
-// docs/dbus/Brisklane.QBYServiceProviderXPC.xml. It turns messages into requests and outcomes into replies;
-// the counting is left to CountingService.
+// docs/dbus/Brisklane.QBYServiceProviderXPC.xml. It turns messages into requests and outcomes into replies,
+// and notices when a client leaves the bus; the counting is left to CountingService.
 // Thread: that of Qt's bus connection (see BusLimits.h); public functions: main.  Owner: CountingService.
 #pragma once
 
@@ -16,17 +16,20 @@
 
 #include <functional>
 #include <map>
+#include <utility>
 
 /// A request as it was received; nothing about it has been checked.
 struct ReceivedRequest {
     using Outcome = Result<QBYWordCounterStats, CountFailure>;
 
+    quint64 number; ///< of the requests so far; a later request has a greater one
     DocumentKind kind;
     QDBusUnixFileDescriptor payload;
     quint64 length;
     bool isAbsent;
     std::optional<QByteArray> localeName; ///< absent: use that of the service
-    std::function<void(const Outcome &)> reply; ///< to be called once, on the main thread
+    /// To be called once at most, on the main thread. A client that has left the bus gets no reply.
+    std::function<void(const Outcome &)> reply;
 };
 
 class ServiceObject : public QObject, protected QDBusContext {
@@ -37,9 +40,12 @@ public:
     static QString serviceName();
     static QString path();
 
-    /// Called on the main thread.
+    // Called on the main thread.
     using Receiver = std::function<void(const ReceivedRequest &)>;
-    ServiceObject(QDBusConnection bus, Receiver receiver);
+    /// Called with the number of a request that has been received, and whose client has left the bus before
+    /// the reply. Called after the receiver.
+    using Dropper = std::function<void(quint64 number)>;
+    ServiceObject(QDBusConnection bus, Receiver receiver, Dropper dropper);
     ServiceObject(const ServiceObject &) = delete;
     ServiceObject &operator=(const ServiceObject &) = delete;
     /// Waits until the bus's thread no longer uses it; open requests get no reply.
@@ -66,14 +72,22 @@ public Q_SLOTS:
         qulonglong &numberOfIndentedParagraphs);
     // NOLINTEND(readability-non-const-parameter)
 
+private Q_SLOTS:
+    void nameOwnerDidChange(const QString &name, const QString &oldOwner, const QString &newOwner);
+
 private:
+    /// The client's name on the bus, then the number of the request: the requests of a client are in a row.
+    using RequestKey = std::pair<QString, quint64>;
+
     void receive(DocumentKind kind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
         const QVariantMap &options);
-    void sendReply(quint64 number, const ReceivedRequest::Outcome &outcome);
+    void sendReply(const RequestKey &key, const ReceivedRequest::Outcome &outcome);
 
     QDBusConnection m_bus;
     Receiver m_receiver;
+    Dropper m_dropper;
     QObject m_onMainThread; ///< receives requests
-    std::map<quint64, QDBusMessage> m_replies; ///< each holds its request's message; used by the bus's thread
+    std::map<RequestKey, QDBusMessage>
+        m_replies; ///< each holds its request's message; used by the bus's thread
     quint64 m_requests = 0; ///< so far; used by the bus's thread
 };

@@ -25,11 +25,17 @@ void logSandbox(const SandboxReport &sandbox)
         countingServiceLog().info(u"Sandbox of the workers: {}", {description});
 }
 
+bool isLarge(const CountJob &job)
+{
+    return job.document.size() > WorkerPool::maxSmallSize;
+}
+
 } // namespace
 
 WorkerPool::WorkerPool(WorkerProgram program, int workers)
     : m_program(std::move(program))
-    , m_maxBusy(static_cast<size_t>(workers))
+    , m_maxLarge(static_cast<size_t>(workers))
+    , m_maxBusy(m_maxLarge + 1)
 {
 }
 
@@ -50,7 +56,20 @@ void WorkerPool::add(CountJob job)
 {
     if (m_failedStarts >= maxFailedStarts)
         m_failedStarts = 0; // the cause may have disappeared
-    m_queue.push_back(std::make_unique<CountJob>(std::move(job)));
+    enqueue(std::make_unique<CountJob>(std::move(job)));
+    schedule();
+}
+
+void WorkerPool::drop(quint64 number)
+{
+    m_small.erase(number);
+    m_large.erase(number);
+    for (Place &place : m_places) {
+        if (!place.job || place.job->number != number)
+            continue;
+        place.job.reset();
+        place.worker->end(WorkerEnd::Dismissed);
+    }
     schedule();
 }
 
@@ -64,11 +83,17 @@ std::vector<pid_t> WorkerPool::workers() const
     return processes;
 }
 
-size_t WorkerPool::jobCount() const
+size_t WorkerPool::busyWithLarge() const
 {
-    const auto busy = std::count_if(
-        m_places.begin(), m_places.end(), [](const Place &place) { return place.job != nullptr; });
-    return m_queue.size() + static_cast<size_t>(busy);
+    return static_cast<size_t>(std::count_if(m_places.begin(), m_places.end(),
+        [](const Place &place) { return place.job && isLarge(*place.job); }));
+}
+
+void WorkerPool::enqueue(std::unique_ptr<CountJob> job)
+{
+    const quint64 number = job->number;
+    Queue &queue = isLarge(*job) ? m_large : m_small;
+    queue.emplace(number, std::move(job));
 }
 
 size_t WorkerPool::countOf(State state) const
@@ -111,18 +136,27 @@ void WorkerPool::dismissOutdatedWorkers()
 
 void WorkerPool::assignJobs()
 {
-    while (!m_queue.empty() && countOf(State::Busy) < m_maxBusy) {
-        Place *place = placeFor(*m_queue.front());
+    while (Queue *const queue = nextQueue()) {
+        const CountJob &job = *queue->begin()->second;
+        Place *place = placeFor(job);
         if (!place)
             return;
-        const CountJob &job = *m_queue.front();
         const bool isTaken = place->worker->count(
             job.kind, static_cast<quint64>(job.document.size()), job.rules, job.document.descriptor());
         if (!isTaken)
             continue; // the worker has just ended, not because of the document
-        place->job = std::move(m_queue.front());
-        m_queue.pop_front();
+        place->job = std::move(queue->extract(queue->begin()).mapped());
     }
+}
+
+WorkerPool::Queue *WorkerPool::nextQueue()
+{
+    if (countOf(State::Busy) == m_maxBusy)
+        return nullptr;
+    const bool mayTakeLarge = !m_large.empty() && busyWithLarge() < m_maxLarge;
+    if (!m_small.empty() && (!mayTakeLarge || m_small.begin()->first < m_large.begin()->first))
+        return &m_small;
+    return mayTakeLarge ? &m_large : nullptr;
 }
 
 // After a failure a document gets a worker that has counted nothing yet, because an earlier document may have
@@ -155,12 +189,15 @@ void WorkerPool::startWorkers()
     }
 }
 
-// One for each document that can be counted now, and a spare one. The spare one is started after the first
-// answer, so that it does not slow that down.
+// One for each document that can be counted now, and a spare one for the next. A small first document has
+// none until it is counted, so that the start of the spare does not slow it down.
 size_t WorkerPool::wantedWorkers() const
 {
-    const size_t needed = std::min(jobCount(), m_maxBusy);
-    return m_hasAnswered ? needed + 1 : std::max<size_t>(needed, 1);
+    const size_t large = m_large.size() + busyWithLarge();
+    const size_t small = m_small.size() + countOf(State::Busy) - busyWithLarge();
+    const size_t needed = small + std::min(large, m_maxLarge);
+    const bool needsSpare = m_hasAnswered || large > 0 || needed == 0;
+    return std::min(needsSpare ? needed + 1 : needed, m_maxBusy);
 }
 
 void WorkerPool::countFailedStart()
@@ -169,14 +206,15 @@ void WorkerPool::countFailedStart()
         return;
     countingServiceLog().error(
         u"Workers keep ending before their first count; giving up until the next document");
-    const auto jobs = std::exchange(m_queue, {});
-    for (const std::unique_ptr<CountJob> &job : jobs)
+    Queue jobs = std::exchange(m_small, {});
+    jobs.merge(m_large);
+    for (const auto &[number, job] : jobs)
         job->answer(CountFailure(CountFailure::Cause::NoWorker));
 }
 
 void WorkerPool::takeGreeting(const SandboxReport &sandbox)
 {
-    if (!m_queue.empty())
+    if (!m_small.empty() || !m_large.empty())
         m_failedStarts = 0;
     if (std::exchange(m_sandbox, sandbox) != sandbox)
         logSandbox(sandbox);
@@ -215,7 +253,7 @@ void WorkerPool::retry(std::unique_ptr<CountJob> job, WorkerEnd end)
     else
         ++job->failures;
     if (job->failures < maxFailures && job->interruptions < maxInterruptions)
-        m_queue.push_front(std::move(job));
+        enqueue(std::move(job));
     else
         job->answer(CountFailure(CountFailure::Cause::WorkerFailed));
 }

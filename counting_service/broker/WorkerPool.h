@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WorkerPool has documents counted: it queues them, gives each to a worker, and starts and replaces workers.
-// Each document gets its counts or the cause of the failure exactly once, even if workers fail.
+// Each document gets its counts or the cause of the failure exactly once, even if workers fail, unless it is
+// dropped. One worker is kept for small documents, which never wait for large ones.
 // Thread: main.  Owner: CountingService.
 #pragma once
 
@@ -9,7 +10,7 @@
 
 #include <QObject>
 
-#include <deque>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -17,6 +18,7 @@
 struct CountJob {
     using Outcome = Result<QBYWordCounterStats, CountFailure>;
 
+    quint64 number; ///< unique; documents are counted in the order of their numbers
     DocumentKind kind;
     SealedMemory document;
     RulesSnapshot rules;
@@ -27,8 +29,11 @@ struct CountJob {
 
 class WorkerPool : public QObject {
 public:
-    /// Workers that count at the same time: one for each processor, up to this number.
+    /// Workers that count large documents at the same time: one for each processor, up to this number. One
+    /// more counts small documents.
     static constexpr int maxWorkers = 4;
+    /// Bytes; a larger document is a large one. A text of this size takes a worker a fraction of a second.
+    static constexpr qsizetype maxSmallSize = qsizetype{256} * 1024;
     /// A document is given up after this number of failures.
     static constexpr int maxFailures = 2;
     /// A document is also given up after this number of interruptions. A few are no fault of the document;
@@ -40,7 +45,7 @@ public:
     /// Bytes; a worker that has counted a larger document is replaced to release its memory.
     static constexpr qsizetype maxSizeWithoutReplacement = qsizetype{32} * 1024 * 1024;
 
-    /// workers: how many may count at the same time; 1 or more.
+    /// workers: how many may count large documents at the same time; 1 or more.
     WorkerPool(WorkerProgram program, int workers);
     ~WorkerPool() override;
 
@@ -51,6 +56,9 @@ public:
     void setFontGeneration(quint64 generation);
 
     void add(CountJob job);
+    /// The document gets no answer. A worker that is counting it is killed. Does nothing if the document has
+    /// its answer.
+    void drop(quint64 number);
 
     /// The workers that have not ended.
     [[nodiscard]] std::vector<pid_t> workers() const;
@@ -62,8 +70,13 @@ private:
         std::unique_ptr<CountJob> job{}; ///< null unless the worker is busy
     };
 
+    using Queue = std::map<quint64, std::unique_ptr<CountJob>>; ///< by the numbers of the documents
+
     [[nodiscard]] size_t countOf(WorkerProcess::State state) const;
-    [[nodiscard]] size_t jobCount() const; ///< in the queue and with workers
+    [[nodiscard]] size_t busyWithLarge() const;
+    void enqueue(std::unique_ptr<CountJob> job);
+    /// That of the next document that a worker may count now; null if there is none.
+    [[nodiscard]] Queue *nextQueue();
     [[nodiscard]] Place &placeOf(const WorkerProcess &worker);
     [[nodiscard]] WorkerProcess::Callbacks callbacks();
 
@@ -81,10 +94,12 @@ private:
     void retry(std::unique_ptr<CountJob> job, WorkerEnd end);
 
     const WorkerProgram m_program;
-    const size_t m_maxBusy;
+    const size_t m_maxLarge; ///< workers that count large documents at the same time
+    const size_t m_maxBusy; ///< workers that count at the same time
     quint64 m_fontGeneration = 0;
     std::vector<Place> m_places;
-    std::deque<std::unique_ptr<CountJob>> m_queue;
+    Queue m_small;
+    Queue m_large;
     int m_failedStarts = 0; ///< in a row
     bool m_hasAnswered = false;
     std::optional<SandboxReport> m_sandbox; ///< of the last worker that greeted

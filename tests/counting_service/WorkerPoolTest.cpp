@@ -19,6 +19,7 @@ namespace {
 class WorkerPoolTest : public QuillbayTest {
 protected:
     struct Answer {
+        quint64 number; ///< of the document
         int times = 0;
         std::optional<CountJob::Outcome> outcome;
     };
@@ -39,9 +40,9 @@ protected:
 
     std::shared_ptr<Answer> add(WorkerPool &pool, const QByteArray &document)
     {
-        const auto answer = std::make_shared<Answer>();
+        const auto answer = std::make_shared<Answer>(Answer{.number = m_answers.size(), .outcome = {}});
         m_answers.push_back(answer);
-        pool.add({DocumentKind::Rtfd, SealedMemory::copyOf(document).value(), RulesSnapshot(),
+        pool.add({answer->number, DocumentKind::Rtfd, SealedMemory::copyOf(document).value(), RulesSnapshot(),
             [answer](const CountJob::Outcome &outcome) {
                 ++answer->times;
                 answer->outcome = outcome;
@@ -82,6 +83,19 @@ protected:
         return "first " + QFile::encodeName(file) + ' ' + misdeed;
     }
 
+    /// The worker that has got the document made by that call of once(), counted from 1; 0 if none has.
+    [[nodiscard]] pid_t workerOf(int number) const
+    {
+        QFile file(world().root() + QStringLiteral("/first-%1").arg(number));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toInt() : 0;
+    }
+
+    static QByteArray keepSmall(const QByteArray &document) { return document; }
+    static QByteArray makeLarge(const QByteArray &document)
+    {
+        return document + ' ' + QByteArray(WorkerPool::maxSmallSize, 'x');
+    }
+
     std::vector<std::shared_ptr<Answer>> m_answers;
     int m_files = 0;
 };
@@ -118,6 +132,76 @@ TEST_F(WorkerPoolTest, KeepsASpareWorkerOnceItHasAnswered)
     EXPECT_EQ(pool->workers().size(), 3U);
     add(*pool, "hang");
     EXPECT_EQ(pool->workers().size(), 3U);
+}
+
+TEST_F(WorkerPoolTest, ASmallDocumentNeverWaitsForLargeOnes)
+{
+    const auto pool = this->pool();
+    constexpr int largeDocuments = 20;
+    for (int i = 0; i < largeDocuments; ++i)
+        add(*pool, makeLarge(once("hang")));
+    for (int i = 0; i < 3; ++i) {
+        const auto small = add(*pool, "count");
+        ASSERT_TRUE(waitUntil([&] { return small->outcome.has_value(); }));
+        EXPECT_EQ(small->outcome->value().numberOfWords, 5U);
+    }
+    EXPECT_TRUE(waitUntil([&] { return workerOf(1) > 0 && workerOf(2) > 0; }));
+    for (int i = 3; i <= largeDocuments; ++i)
+        EXPECT_EQ(workerOf(i), 0) << i; // two at a time, in their order
+    EXPECT_EQ(pool->workers().size(), 3U);
+}
+
+TEST_F(WorkerPoolTest, SmallDocumentsDoNotOvertakeALargeOneThatCouldBeCounted)
+{
+    const auto pool = this->pool();
+    for (int i = 0; i < 3; ++i)
+        add(*pool, once("hang"));
+    ASSERT_TRUE(waitUntil([&] { return workerOf(1) > 0 && workerOf(2) > 0 && workerOf(3) > 0; }));
+    add(*pool, makeLarge(once("hang")));
+    add(*pool, once("hang"));
+    ::kill(workerOf(1), SIGKILL); // the retry counts it
+    EXPECT_TRUE(waitUntil([&] { return workerOf(4) > 0; }));
+    EXPECT_EQ(workerOf(5), 0);
+}
+
+TEST_F(WorkerPoolTest, ADroppedDocumentHasNoAnswerAndItsWorkerIsKilled)
+{
+    const auto pool = this->pool();
+    const auto dropped = add(*pool, once("hang"));
+    ASSERT_TRUE(waitUntil([&] { return workerOf(1) > 0; }));
+    const pid_t worker = workerOf(1);
+    pool->drop(dropped->number);
+    EXPECT_TRUE(waitUntil([&] { return !isRunning(worker); }));
+    const auto next = add(*pool, "count");
+    EXPECT_TRUE(waitUntil([&] { return next->outcome.has_value(); }));
+    EXPECT_EQ(dropped->times, 0);
+    EXPECT_NE(next->outcome->value().numberOfCharacters, static_cast<quint64>(worker));
+}
+
+TEST_F(WorkerPoolTest, ADocumentThatIsDroppedInTheQueueIsNeverCounted)
+{
+    const auto pool = this->pool();
+    for (const auto &make : {&WorkerPoolTest::keepSmall, &WorkerPoolTest::makeLarge}) {
+        std::vector<std::shared_ptr<Answer>> running;
+        for (int i = 0; i < 3; ++i)
+            running.push_back(add(*pool, make("hang")));
+        const auto dropped = add(*pool, make("count"));
+        const auto last = add(*pool, make("count"));
+        pool->drop(dropped->number);
+        for (const auto &answer : running)
+            pool->drop(answer->number);
+        EXPECT_TRUE(waitUntil([&] { return last->outcome.has_value(); }));
+        EXPECT_EQ(dropped->times, 0);
+    }
+}
+
+TEST_F(WorkerPoolTest, DroppingADocumentThatHasItsAnswerDoesNothing)
+{
+    const auto pool = this->pool();
+    const auto first = add(*pool, "count");
+    const quint64 worker = statsOf(first).numberOfCharacters;
+    pool->drop(first->number);
+    EXPECT_EQ(statsOf(add(*pool, "count")).numberOfCharacters, worker);
 }
 
 TEST_F(WorkerPoolTest, RetriesWithAFreshWorkerWhenOneFails)

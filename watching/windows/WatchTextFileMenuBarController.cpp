@@ -186,6 +186,7 @@ void WatchTextFileMenuBarController::watchTextFileViewControllerRequestedStop(
         m_watchFileModel->stopWatchingTextFile();
     m_watchFileModel.reset();
     closeViews();
+    m_watchTextFileViewControllerForPopover->wordCounterViewController()->stopAsyncOperation();
     m_statusItemInBar.reset();
     if (WatchTextFileMenuBarControllerDelegate *const receiver = m_delegate.get())
         receiver->watchTextFileMenuBarControllerDidFinish(*this);
