@@ -178,6 +178,14 @@ bool continuesGraphemeCluster(char32_t character)
     }
 }
 
+bool isNonspacing(char32_t character)
+{
+    constexpr char32_t nonJoiner = 0x200C;
+    constexpr char32_t joiner = 0x200D;
+    return character == nonJoiner || character == joiner
+        || u_charType(static_cast<UChar32>(character)) == U_NON_SPACING_MARK;
+}
+
 bool isEmojiCluster(QStringView cluster)
 {
     constexpr char16_t asText = 0xFE0E;

@@ -14,6 +14,10 @@ qsizetype graphemeClusterEnd(QStringView text, qsizetype start);
 /// Whether a character joins the cluster before it: marks, joiners, modifiers.
 bool continuesGraphemeCluster(char32_t character);
 
+/// Whether a character is a mark or a joiner without a width of its own: nonspacing marks, U+200C, U+200D.
+/// Enclosing marks have a width in many fonts.
+bool isNonspacing(char32_t character);
+
 /// Whether a cluster has emoji presentation (UTS #51): its first character has it by default or by U+FE0F,
 /// and no U+FE0E requests text presentation.
 bool isEmojiCluster(QStringView cluster);

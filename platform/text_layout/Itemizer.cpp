@@ -30,8 +30,9 @@ BidiRuns::Base baseOf(WritingDirection direction)
     return BidiRuns::Base::FirstStrongCharacter;
 }
 
-// Ten times the maximum of the Stream-Safe Text Format (UAX #15).
-constexpr qsizetype maxClusterLength = 300;
+// Shaping takes quadratic time in the length of a cluster, so longer ones are cut. Room for a base and the 30
+// marks that the Stream-Safe Text Format (UAX #15) allows, and for the longest emoji.
+constexpr qsizetype maxClusterLength = 32;
 
 } // namespace
 
@@ -41,6 +42,7 @@ void Itemizer::setParagraph(const AttributedString &text, const Paragraph &parag
     m_offset = paragraph.start;
     m_text = paragraph.content(text.string());
     m_position = 0;
+    m_isInLongCluster = false;
     m_attributesEnd = 0;
     m_attributesRun = text.isEmpty() ? 0 : text.runIndexAt(paragraph.start);
     m_direction = {};
@@ -107,8 +109,7 @@ qsizetype Itemizer::textEnd(qsizetype limit, qsizetype maxLength, FontFace *&fac
         qsizetype clusterEnd = end + 1;
         const bool isAlone = clusterEnd >= m_text.size() || units[clusterEnd] < firstMark;
         if (!isAsciiSimple || units[end] > u'~' || !isAlone) {
-            // Clusters are cut at changes of attributes or direction, and at the maximum length, because
-            // shaping takes quadratic time in it.
+            // Clusters are cut at changes of attributes or direction, and at the maximum length.
             clusterEnd = graphemeClusterEnd(m_text.first(std::min(limit, end + maxClusterLength)), end);
             if (m_style.fonts)
                 own = m_style.fonts->faceFor(m_text.sliced(end, clusterEnd - end), m_lastFace);
@@ -118,9 +119,24 @@ qsizetype Itemizer::textEnd(qsizetype limit, qsizetype maxLength, FontFace *&fac
         else if (own != face)
             break;
         m_lastFace = own;
+        m_isInLongCluster = clusterEnd - end >= maxClusterLength;
         end = clusterEnd;
+        if (m_isInLongCluster)
+            break;
     }
     return end;
+}
+
+qsizetype Itemizer::excessMarksEnd(qsizetype limit) const
+{
+    qsizetype end = m_position;
+    while (end < limit) {
+        const char32_t character = codePointAt(m_text, end);
+        if (!isNonspacing(character))
+            break;
+        end += character > 0xFFFF ? 2 : 1;
+    }
+    return std::min(end, limit);
 }
 
 TextRun Itemizer::next(qsizetype maxLength)
@@ -134,6 +150,12 @@ TextRun Itemizer::next(qsizetype maxLength)
     run.style = m_style;
     const qsizetype limit = std::min({m_attributesEnd, m_direction.end, m_script.end});
     run.end = m_position + 1;
+    const qsizetype excessEnd = m_isInLongCluster ? excessMarksEnd(limit) : m_position;
+    if (excessEnd > m_position) {
+        run.kind = TextRun::Kind::ExcessMarks;
+        run.end = excessEnd;
+    }
+    m_isInLongCluster = false;
     if (run.kind == TextRun::Kind::Text)
         run.end = textEnd(limit, maxLength, run.face);
     while (run.kind == TextRun::Kind::Invisible && run.end < std::min(limit, m_position + maxLength)

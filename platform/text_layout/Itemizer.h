@@ -27,7 +27,11 @@ public:
     TextRun next(qsizetype maxLength);
 
     /// Goes back to a position inside the last run, which must be Text; the next run starts there.
-    void returnTo(qsizetype position) { m_position = position; }
+    void returnTo(qsizetype position)
+    {
+        m_position = position;
+        m_isInLongCluster = false;
+    }
 
     [[nodiscard]] bool isAtEnd() const { return m_position >= m_text.size(); }
     [[nodiscard]] bool isParagraphRightToLeft() const { return m_bidi.isParagraphRightToLeft(); }
@@ -40,6 +44,8 @@ private:
     void updateRuns();
     /// The end, up to limit, of the run in one font that starts at m_position.
     qsizetype textEnd(qsizetype limit, qsizetype maxLength, FontFace *&face);
+    /// The end, up to limit, of the marks at m_position.
+    [[nodiscard]] qsizetype excessMarksEnd(qsizetype limit) const;
 
     FontLibrary &m_fonts;
     BidiRuns m_bidi;
@@ -47,6 +53,7 @@ private:
     qsizetype m_offset = 0; // of the paragraph in the text
     QStringView m_text;
     qsizetype m_position = 0;
+    bool m_isInLongCluster = false; // the cluster that contains m_position began in the last run
 
     // The runs of attributes, direction and script that contain m_position.
     qsizetype m_attributesEnd = 0;

@@ -67,6 +67,10 @@ void MeasuredParagraph::measureMore()
             append(0, StartsCluster | HangingBlank | (endsLine ? EndsLine : 0));
         }
         break;
+    case TextRun::Kind::ExcessMarks:
+        for (qsizetype at = run.start; at < run.end; ++at)
+            append(0, 0);
+        break;
     case TextRun::Kind::Text:
         if (run.face) {
             appendShaped(run);

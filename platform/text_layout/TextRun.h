@@ -34,6 +34,7 @@ struct TextStyle {
 struct TextRun {
     enum class Kind {
         Text,
+        ExcessMarks, ///< nonspacing marks after so many in their cluster that they are not shaped: no advance
         Tab,
         Attachment,
         Invisible, ///< a control character: no advance

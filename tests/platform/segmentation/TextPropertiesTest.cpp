@@ -66,6 +66,14 @@ TEST(GraphemeClusters, KnowWhichOfThemAreEmoji)
     EXPECT_FALSE(isEmojiCluster(u"1"));
 }
 
+TEST(GraphemeClusters, KnowTheCharactersWithoutAWidthOfTheirOwn)
+{
+    for (const char32_t character : {U'\u0301', U'\u064E', U'\u200C', U'\u200D', U'\uFE0F'})
+        EXPECT_TRUE(isNonspacing(character)) << std::hex << static_cast<quint32>(character);
+    for (const char32_t character : {U'a', U' ', U'\u0903', U'\u20DD', U'\u200B', U'\U0001F3FB'})
+        EXPECT_FALSE(isNonspacing(character)) << std::hex << static_cast<quint32>(character);
+}
+
 TEST(LineBreaks, AreThoseOfTheBreakIteratorAtAnyDistanceOfCalls)
 {
     std::mt19937 random(2);

@@ -97,6 +97,23 @@ TEST_F(Bounds, TakesASizeOfZeroForTheUsualOne)
     EXPECT_EQ(LayoutEngine().countLines(AttributedString(text, attributes), 300), count(text, 300));
 }
 
+TEST_F(Bounds, FurtherMarksOnALetterTakeNoRoom)
+{
+    const auto withMarks = [](int number, char16_t mark) {
+        QString text;
+        for (const QChar letter : QStringLiteral("letters in a column"))
+            text += letter == u' ' ? QString(letter) : letter + QString(number, mark);
+        return text;
+    };
+    for (const char16_t mark : {u'\u0301', u'\u0316', u'\u200D'}) {
+        for (const double width : {0.0, 30.0, 90.0, 1000.0}) {
+            const quint64 lines = count(withMarks(1, mark), width);
+            for (const int marks : {30, 31, 32, 33, 64, 1000})
+                EXPECT_EQ(count(withMarks(marks, mark), width), lines) << marks << " of " << int(mark);
+        }
+    }
+}
+
 // Each of these would take minutes if the time grew with the square of the length.
 TEST_F(Bounds, CountsHugeTextsOfEveryShape)
 {
@@ -107,7 +124,8 @@ TEST_F(Bounds, CountsHugeTextsOfEveryShape)
     EXPECT_EQ(count(QString(size, u'x'), 0), static_cast<quint64>(size));
     EXPECT_EQ(count(QString(size, u'x'), 1e9), 1U);
     EXPECT_GT(count(QString(size, u'\t'), 451), 1000U);
-    EXPECT_EQ(count(QString(size, u'\u0301'), 451), 1U);
+    for (const char16_t mark : {u'\u0301', u'\u064E', u'\u0E49', u'\u05B0', u'\u200D'})
+        EXPECT_EQ(count(QString(10 * size, mark), 451), 1U);
     EXPECT_EQ(count(QString(size, u'\u0001'), 451), 1U);
     EXPECT_EQ(count(QString(size, u'\u00AD'), 451), 1U);
     EXPECT_GT(count(QString(size, u'\uFFFC'), 451), 1000U);
