@@ -3,6 +3,24 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
+
+namespace {
+
+QByteArray startOfName(const WorkerRequest &request)
+{
+    return QByteArray::number(request.length) + ' ';
+}
+
+} // namespace
+
+bool CountMemory::mayRemember(const WorkerRequest &request) const
+{
+    const QList<QByteArray> names = m_counts.keys();
+    return std::ranges::any_of(
+        names, [start = startOfName(request)](const QByteArray &name) { return name.startsWith(start); });
+}
+
 QByteArray CountMemory::nameOf(const WorkerRequest &request, QByteArrayView document)
 {
     WorkerRequest rules = request;
@@ -10,7 +28,7 @@ QByteArray CountMemory::nameOf(const WorkerRequest &request, QByteArrayView docu
     QCryptographicHash hash(QCryptographicHash::Blake2b_256);
     hash.addData(encode(rules)); // the same length for every document under rules of the same length
     hash.addData(document);
-    return hash.result();
+    return startOfName(request) + hash.result();
 }
 
 std::optional<QBYWordCounterStats> CountMemory::countsOf(const QByteArray &name) const

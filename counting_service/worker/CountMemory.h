@@ -17,6 +17,10 @@ public:
     /// Documents. Beyond that, the least recently used are forgotten.
     static constexpr qsizetype capacity = 256;
 
+    /// Whether a document of this length has been remembered: if not, its name need not be made, which takes
+    /// seconds for a gigabyte.
+    [[nodiscard]] bool mayRemember(const WorkerRequest &request) const;
+
     /// A name for a document under the rules of its request: different bytes or rules have different names
     /// (BLAKE2b, RFC 7693).
     static QByteArray nameOf(const WorkerRequest &request, QByteArrayView document);

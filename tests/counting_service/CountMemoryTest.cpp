@@ -27,6 +27,16 @@ TEST(CountMemory, RecognisesADocumentThatComesAgain)
     EXPECT_EQ(memory.countsOf(CountMemory::nameOf(request, "text")), counts);
 }
 
+TEST(CountMemory, NeedsNoNameForADocumentOfANewLength)
+{
+    CountMemory memory;
+    EXPECT_FALSE(memory.mayRemember(requestFor("text")));
+    memory.remember(CountMemory::nameOf(requestFor("text"), "text"), counts);
+    EXPECT_TRUE(memory.mayRemember(requestFor("Text")));
+    EXPECT_FALSE(memory.mayRemember(requestFor("a text")));
+    EXPECT_FALSE(memory.mayRemember(requestFor("")));
+}
+
 TEST(CountMemory, DoesNotConfuseDocuments)
 {
     const WorkerRequest request = requestFor("text");

@@ -13,6 +13,7 @@
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -223,13 +224,18 @@ TEST_F(CountTest, ADocumentThatIsNotSealedOrOfAnotherLengthHasZeros)
     ::close(file);
 }
 
-TEST_F(CountTest, AGigabyteIsReceived)
+TEST_F(CountTest, AGigabyteThatIsNoDocumentIsReceivedAndNotReadThrough)
 {
     constexpr quint64 gigabyte = 1ULL << 30;
     const SealedMemory::MemoryResult memory = SealedMemory::fillAndSeal(
         [](int descriptor) { return ::ftruncate(descriptor, gigabyte) == 0 ? 0 : errno; });
     ASSERT_TRUE(memory.hasValue());
     EXPECT_EQ(count(message(rtfdRequest, memory.value().descriptor(), gigabyte)), zeros);
+    EXPECT_EQ(count(message(docxRequest, memory.value().descriptor(), gigabyte)), zeros);
+    // What is read of a memory file without contents gets memory.
+    struct stat status = {};
+    EXPECT_EQ(::fstat(memory.value().descriptor(), &status), 0);
+    EXPECT_LT(status.st_blocks * 512, 1 << 20);
     EXPECT_NE(count(message(flatRtfd(SampleTexts::english))), zeros);
 }
 
