@@ -2,10 +2,13 @@
 #include "front_end/QBYServiceProviderAppDelegate.h"
 
 #include "documents/loading/PasteboardText.h"
+#include "platform/system/DispatchQueue.h"
 #include "platform/system/FileURL.h"
+#include "platform/system/MainQueue.h"
 #include "watching/FileTypes.h"
 
 #include <algorithm>
+#include <future>
 #include <optional>
 #include <utility>
 
@@ -36,6 +39,27 @@ QList<QUrl> acceptedFiles(const QList<QUrl> &urls)
     return accepted;
 }
 
+// Given text, deliberately odd.
+QString readingFailure()
+{
+    return QStringLiteral("Quillbay failed to read retrieve text.");
+}
+
+/// Hands the text to its window, unless that was closed meanwhile.
+void finishReading(const std::weak_ptr<QBYServiceProviderShowStatsWindowController> &window,
+    const std::optional<AttributedString> &text, Desktop &desktop)
+{
+    const auto controller = window.lock();
+    if (!controller)
+        return;
+    if (text) {
+        controller->setAttributedStringToCount(*text);
+    } else {
+        desktop.presentError(readingFailure()); // first: without a window the program would exit
+        controller->closeButtonAction(nullptr);
+    }
+}
+
 void setError(QString *error, const QString &message)
 {
     if (error)
@@ -61,14 +85,28 @@ void QBYServiceProviderAppDelegate::applicationDidFinishLaunching()
 void QBYServiceProviderAppDelegate::wordCountSelectedTextService(
     const Pasteboard &pasteboard, const QString & /*userData*/, QString *error)
 {
-    const std::optional<AttributedString> text = readAttributedString(pasteboard);
-    if (!text) {
-        setError(
-            error, QStringLiteral("Quillbay failed to read retrieve text.")); // given text, deliberately odd
+    using Text = std::optional<AttributedString>;
+    Desktop &desktop = m_surroundings.desktop;
+    DispatchQueue queue(QStringLiteral("selection"));
+    const auto promise = std::make_shared<std::promise<Text>>();
+    const std::shared_future<Text> text = promise->get_future().share();
+    queue.async([promise, pasteboard] { promise->set_value(readAttributedString(pasteboard)); });
+    if (text.wait_for(readingTimeout) == std::future_status::ready) {
+        if (text.get())
+            open(std::make_shared<QBYServiceProviderShowStatsWindowController>(*text.get(), desktop));
+        else
+            setError(error, readingFailure());
         return;
     }
-    const auto controller =
-        std::make_shared<QBYServiceProviderShowStatsWindowController>(*text, m_surroundings.desktop);
+    const auto controller = std::make_shared<QBYServiceProviderShowStatsWindowController>(desktop);
+    open(controller);
+    queue.async([text, &desktop, window = std::weak_ptr(controller)] {
+        MainQueue::async([text, &desktop, window] { finishReading(window, text.get(), desktop); });
+    });
+}
+
+void QBYServiceProviderAppDelegate::open(const StatWindowController &controller)
+{
     m_statWindowControllerForSelectedText.push_back(controller);
     controller->setDelegate(this);
     controller->showWindow(nullptr);

@@ -11,6 +11,7 @@
 #include "watching/windows/WatchTextFileMenuBarController.h"
 #include "watching/windows/WatchTextFileMenuBarControllerDelegate.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -61,8 +62,14 @@ public:
     /// Called whenever a window or a watcher has finished.
     void setFinishedHandler(std::function<void()> handler) { m_finishedHandler = std::move(handler); }
 
+    /// How long a request waits for the text that it selects. A text that takes longer to read gets a window
+    /// that waits for it, and no other window has to wait.
+    static constexpr std::chrono::milliseconds readingTimeout{100};
+
     // userData: ignored. error: receives the message of a failure, unchanged otherwise; may be null.
-    /// Opens a window with the counts of the pasteboard's text, one per request.
+    /// Opens a window with the counts of the pasteboard's text, one per request. The text is read on a thread
+    /// of its own. If it turns out not to be readable after readingTimeout, its window closes, and the
+    /// message of the failure is shown to the user.
     void wordCountSelectedTextService(
         const Pasteboard &pasteboard, const QString &userData, QString *error) override;
     /// Opens a watcher for each file of the pasteboard that is of an accepted kind, or brings the window of
@@ -78,6 +85,9 @@ public:
     void watchTextFileMenuBarControllerDidFinish(WatchTextFileMenuBarController &controller) override;
 
 private:
+    using StatWindowController = std::shared_ptr<QBYServiceProviderShowStatsWindowController>;
+
+    void open(const StatWindowController &controller);
     void watch(const QUrl &url);
     void reportFinished();
 

@@ -26,6 +26,13 @@ QString QBYServiceProviderShowStatsWindowController::windowInterfaceFile()
 QBYServiceProviderShowStatsWindowController::QBYServiceProviderShowStatsWindowController(
     AttributedString attributedStringToCount, Desktop &desktop)
     : m_attributedStringToCount(std::move(attributedStringToCount))
+    , m_hasText(true)
+    , m_desktop(desktop)
+{
+}
+
+QBYServiceProviderShowStatsWindowController::QBYServiceProviderShowStatsWindowController(Desktop &desktop)
+    : m_hasText(false)
     , m_desktop(desktop)
 {
 }
@@ -63,6 +70,20 @@ void QBYServiceProviderShowStatsWindowController::windowDidLoad()
     if (const auto indicator = activityIndicator())
         indicator->startAnimation();
     m_wordCounterViewController->view()->setAlphaValue(0);
+    if (m_hasText)
+        count();
+}
+
+void QBYServiceProviderShowStatsWindowController::setAttributedStringToCount(AttributedString text)
+{
+    m_attributedStringToCount = std::move(text);
+    m_hasText = true;
+    if (window())
+        count();
+}
+
+void QBYServiceProviderShowStatsWindowController::count()
+{
     m_wordCounterViewController->asyncUpdateStatsWithAttributedString(
         m_attributedStringToCount, [weakSelf = weak_from_this()] {
             if (const auto self = weakSelf.lock())

@@ -25,14 +25,20 @@ public:
     /// The program's interface file, a resource.
     static QString windowInterfaceFile();
 
-    /// Counts nothing yet. desktop: outlives the controller.
+    // Count nothing yet. desktop: outlives the controller.
     QBYServiceProviderShowStatsWindowController(AttributedString attributedStringToCount, Desktop &desktop);
+    /// For a text that is still being read; setAttributedStringToCount() follows. Until then the spinner
+    /// turns.
+    explicit QBYServiceProviderShowStatsWindowController(Desktop &desktop);
     ~QBYServiceProviderShowStatsWindowController() override;
 
+    /// Empty while the text is being read.
     [[nodiscard]] const AttributedString &attributedStringToCount() const
     {
         return m_attributedStringToCount;
     }
+    /// Starts the count, if the window is loaded. Only once, for a controller made without a text.
+    void setAttributedStringToCount(AttributedString text);
     [[nodiscard]] QBYServiceProviderShowStatsWindowControllerDelegate *delegate() const
     {
         return m_delegate.get();
@@ -63,7 +69,7 @@ public:
     /// Makes window and outlets from the interface file and calls windowDidLoad(), unless there is a window.
     /// Aborts the process if the file cannot be used: it is part of the program.
     void loadWindow();
-    /// Sets the window up and starts the count.
+    /// Sets the window up and starts the count, if there is a text.
     void windowDidLoad();
     /// Loads the window on first use and shows it beside the pointer, where the user has just asked for it.
     /// sender: ignored.
@@ -82,11 +88,13 @@ private:
     static constexpr double titleRowHeight = 31;
 
     void putWindowOnScreen();
+    void count();
     void showStatistics();
     void widenPanel();
     [[nodiscard]] std::shared_ptr<View> panelView() const;
 
-    const AttributedString m_attributedStringToCount;
+    AttributedString m_attributedStringToCount;
+    bool m_hasText;
     Desktop &m_desktop;
     WeakDelegate<QBYServiceProviderShowStatsWindowControllerDelegate> m_delegate;
     std::shared_ptr<WordCounterViewController> m_wordCounterViewController;

@@ -24,6 +24,17 @@ protected:
         delegate.wordCountSelectedTextService(pasteboard, QString(), &error);
         return error;
     }
+    /// A page that takes seconds to read.
+    static QByteArray largePage()
+    {
+        return "<!DOCTYPE html><p>One paragraph</p>"
+            + QByteArray("<p class='a'>of <b>very</b> many.</p>").repeated(50'000);
+    }
+    static Pasteboard page(const QByteArray &html)
+    {
+        return Pasteboard({{QStringLiteral("text/html;charset=utf-8"), html}});
+    }
+
     QString count(const char *text) { return count(Pasteboard({{QStringLiteral("text/plain"), text}})); }
 
     ServiceStandIn service{WordCounterServiceProtocol::serviceName(), {"answer 1 2 3 4 5 6 7 8"}};
@@ -66,6 +77,58 @@ TEST_F(AppDelegate, ReportsAPasteboardWithoutText)
         QStringLiteral("Quillbay failed to read retrieve text."));
     EXPECT_THAT(delegate.statWindowControllerForSelectedText(), IsEmpty());
     EXPECT_EQ(desktop.numberOnScreen, 0);
+}
+
+TEST_F(AppDelegate, OpensAWindowForATextThatIsStillBeingRead)
+{
+    EXPECT_EQ(count(page(largePage())), nothingReported);
+    ASSERT_THAT(delegate.statWindowControllerForSelectedText(), SizeIs(1));
+    const auto controller = delegate.statWindowControllerForSelectedText().front();
+    EXPECT_TRUE(controller->attributedStringToCount().isEmpty());
+    EXPECT_TRUE(controller->window()->isVisible());
+    EXPECT_TRUE(controller->activityIndicator()->isAnimating());
+    EXPECT_EQ(controller->wordCounterViewController()->view()->alphaValue(), 0);
+    EXPECT_TRUE(waitUntil([&] { return !controller->activityIndicator()->isAnimating(); }));
+    EXPECT_TRUE(controller->attributedStringToCount().string().startsWith(QStringLiteral("One paragraph")));
+    EXPECT_THAT(service.requests(), SizeIs(1));
+}
+
+TEST_F(AppDelegate, OpensOtherWindowsWhileATextIsBeingRead)
+{
+    count(page(largePage()));
+    count("A text.");
+    const auto controllers = delegate.statWindowControllerForSelectedText();
+    ASSERT_THAT(controllers, SizeIs(2));
+    EXPECT_TRUE(waitUntil([&] { return !controllers[1]->activityIndicator()->isAnimating(); }));
+    EXPECT_TRUE(controllers[0]->attributedStringToCount().isEmpty());
+}
+
+TEST_F(AppDelegate, DropsTheReadingOfAWindowThatIsClosed)
+{
+    count(page(largePage()));
+    const std::weak_ptr<QBYServiceProviderShowStatsWindowController> life =
+        delegate.statWindowControllerForSelectedText().front();
+    EXPECT_TRUE(delegate.isInUse());
+    life.lock()->closeButtonAction(nullptr);
+    EXPECT_TRUE(life.expired());
+    EXPECT_FALSE(delegate.isInUse());
+    count(page(largePage())); // is read later
+    const auto next = delegate.statWindowControllerForSelectedText().front();
+    EXPECT_TRUE(waitUntil([&] { return !next->attributedStringToCount().isEmpty(); }));
+    EXPECT_THAT(desktop.notes, IsEmpty());
+}
+
+TEST_F(AppDelegate, ReportsATextThatTurnsOutNotToBeReadableAndClosesItsWindow)
+{
+    int endings = 0;
+    delegate.setFinishedHandler([&] { ++endings; });
+    EXPECT_EQ(count(page(largePage() + QByteArray("<div>").repeated(100'000))), nothingReported);
+    EXPECT_THAT(delegate.statWindowControllerForSelectedText(), SizeIs(1));
+    EXPECT_TRUE(waitUntil([&] { return endings > 0; }));
+    EXPECT_THAT(delegate.statWindowControllerForSelectedText(), IsEmpty());
+    EXPECT_THAT(
+        desktop.notes, testing::ElementsAre(QStringLiteral("error: Quillbay failed to read retrieve text.")));
+    EXPECT_THAT(service.requests(), IsEmpty());
 }
 
 TEST_F(AppDelegate, DropsTheErrorMessageIfNobodyTakesIt)

@@ -23,6 +23,15 @@ protected:
         EXPECT_EQ(m_bus.call(ping).type(), QDBusMessage::ReplyMessage);
     }
 
+    /// Takes seconds to read.
+    static QString countLargePage()
+    {
+        const QByteArray page =
+            "<!DOCTYPE html>" + QByteArray("<p class='a'>A <b>page</b>.</p>").repeated(100'000);
+        return ask(QStringLiteral("wordCountSelectedTextService"),
+            Pasteboard({{QStringLiteral("text/html"), page}}));
+    }
+
     static void closeAll()
     {
         EXPECT_TRUE(waitUntil([&] {
@@ -35,6 +44,31 @@ protected:
 };
 
 } // namespace
+
+TEST_F(ProviderLife, OtherWindowsStayAliveWhileALargeSelectionIsRead)
+{
+    EXPECT_EQ(count(QStringLiteral("A text.")), QString());
+    const QString other = waitForWindows(1).front();
+    waitForNumbers(other);
+    // Windows open beside the pointer, and the second one must not cover the first.
+    TestDisplay::xdotool({QStringLiteral("mousemove"), QStringLiteral("200"), QStringLiteral("600")});
+    EXPECT_EQ(countLargePage(), QString());
+    waitForWindows(2);
+    click(other, rectOf(other).width() - 12, 16);
+    const QString reading = waitForWindows(1).front();
+    EXPECT_NE(reading, other);
+    EXPECT_FALSE(showsNumbers(reading));
+    waitForNumbers(reading);
+}
+
+TEST_F(ProviderLife, ExitsWhileALargeSelectionIsRead)
+{
+    EXPECT_EQ(countLargePage(), QString());
+    waitForWindows(1);
+    const pid_t process = provider();
+    closeAll();
+    waitForEnd(process);
+}
 
 TEST_F(ProviderLife, WaitsForTheFirstRequest)
 {

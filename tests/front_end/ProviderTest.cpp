@@ -146,21 +146,23 @@ void ProviderTest::drag(const QString &window, const QPoint &place)
     TestDisplay::xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
 }
 
+bool ProviderTest::showsNumbers(const QString &window)
+{
+    // Without numbers there is only background below the title row.
+    const QImage image = takeScreenshot().copy(rectOf(window).adjusted(2, 31, -2, -2));
+    const QRgb ground = image.pixel(0, 0);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != ground)
+                return true;
+        }
+    }
+    return false;
+}
+
 void ProviderTest::waitForNumbers(const QString &window)
 {
-    // Until then there is only background below the title row.
-    const QRect panel = rectOf(window).adjusted(2, 31, -2, -2);
-    EXPECT_TRUE(waitUntil([&] {
-        const QImage image = takeScreenshot().copy(panel);
-        const QRgb ground = image.pixel(0, 0);
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixel(x, y) != ground)
-                    return true;
-            }
-        }
-        return false;
-    }));
+    EXPECT_TRUE(waitUntil([&] { return showsNumbers(window); }));
 }
 
 QString ProviderTest::copied()

@@ -43,6 +43,7 @@ protected:
     /// top left.
     static void drag(const QString &window, const QPoint &place);
 
+    static bool showsNumbers(const QString &window);
     /// Waits until the window shows numbers.
     static void waitForNumbers(const QString &window);
     /// What Ctrl+C copies from the active window.

@@ -279,6 +279,17 @@ TEST_F(StatsWindow, ClosesBeforeItNotifiesTheDelegate)
     }
 }
 
+TEST_F(StatsWindow, StopsItsCountWhenItIsClosed)
+{
+    load();
+    service.waitForRequests(1);
+    const QString client = service.requests().front().client;
+    EXPECT_TRUE(service.isOnTheBus(client));
+    controller->closeButtonAction(nullptr);
+    EXPECT_FALSE(panel().isAsyncCountOperationInProgress());
+    EXPECT_TRUE(waitUntil([&] { return !service.isOnTheBus(client); }));
+}
+
 TEST_F(StatsWindow, ClosesWithoutADelegate)
 {
     controller->setDelegate(nullptr);
