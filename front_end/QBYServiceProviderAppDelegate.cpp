@@ -2,13 +2,11 @@
 #include "front_end/QBYServiceProviderAppDelegate.h"
 
 #include "documents/loading/PasteboardText.h"
-#include "platform/system/DispatchQueue.h"
+#include "platform/system/BackgroundWork.h"
 #include "platform/system/FileURL.h"
-#include "platform/system/MainQueue.h"
 #include "watching/FileTypes.h"
 
 #include <algorithm>
-#include <future>
 #include <optional>
 #include <utility>
 
@@ -87,22 +85,19 @@ void QBYServiceProviderAppDelegate::wordCountSelectedTextService(
 {
     using Text = std::optional<AttributedString>;
     Desktop &desktop = m_surroundings.desktop;
-    DispatchQueue queue(QStringLiteral("selection"));
-    const auto promise = std::make_shared<std::promise<Text>>();
-    const std::shared_future<Text> text = promise->get_future().share();
-    queue.async([promise, pasteboard] { promise->set_value(readAttributedString(pasteboard)); });
-    if (text.wait_for(readingTimeout) == std::future_status::ready) {
-        if (text.get())
-            open(std::make_shared<QBYServiceProviderShowStatsWindowController>(*text.get(), desktop));
+    BackgroundWork<Text> reading(
+        QStringLiteral("selection"), [pasteboard] { return readAttributedString(pasteboard); });
+    if (const Text *const text = reading.quickResult()) {
+        if (*text)
+            open(std::make_shared<QBYServiceProviderShowStatsWindowController>(**text, desktop));
         else
             setError(error, readingFailure());
         return;
     }
     const auto controller = std::make_shared<QBYServiceProviderShowStatsWindowController>(desktop);
     open(controller);
-    queue.async([text, &desktop, window = std::weak_ptr(controller)] {
-        MainQueue::async([text, &desktop, window] { finishReading(window, text.get(), desktop); });
-    });
+    reading.passResultTo([&desktop, window = std::weak_ptr(controller)](
+                             const Text &text) { finishReading(window, text, desktop); });
 }
 
 void QBYServiceProviderAppDelegate::open(const StatWindowController &controller)

@@ -11,7 +11,6 @@
 #include "watching/windows/WatchTextFileMenuBarController.h"
 #include "watching/windows/WatchTextFileMenuBarControllerDelegate.h"
 
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -62,14 +61,10 @@ public:
     /// Called whenever a window or a watcher has finished.
     void setFinishedHandler(std::function<void()> handler) { m_finishedHandler = std::move(handler); }
 
-    /// How long a request waits for the text that it selects. A text that takes longer to read gets a window
-    /// that waits for it, and no other window has to wait.
-    static constexpr std::chrono::milliseconds readingTimeout{100};
-
     // userData: ignored. error: receives the message of a failure, unchanged otherwise; may be null.
     /// Opens a window with the counts of the pasteboard's text, one per request. The text is read on a thread
-    /// of its own. If it turns out not to be readable after readingTimeout, its window closes, and the
-    /// message of the failure is shown to the user.
+    /// of its own; a text that is not read at once gets a window that waits for it. If it turns out not to be
+    /// readable then, its window closes, and the message of the failure is shown to the user.
     void wordCountSelectedTextService(
         const Pasteboard &pasteboard, const QString &userData, QString *error) override;
     /// Opens a watcher for each file of the pasteboard that is of an accepted kind, or brings the window of

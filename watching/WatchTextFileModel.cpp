@@ -2,6 +2,7 @@
 #include "watching/WatchTextFileModel.h"
 
 #include "platform/file_coordination/FileState.h"
+#include "platform/system/BackgroundWork.h"
 #include "platform/system/FileURL.h"
 #include "preferences/QBYLogger.h"
 #include "watching/FileTypes.h"
@@ -74,7 +75,7 @@ void WatchTextFileModel::stopWatchingTextFile()
     FileCoordinator::removeFilePresenter(this);
     m_coordinator.reset();
     m_timer.reset();
-    m_loader.forget();
+    m_loader = std::make_shared<RepeatedLoader>(); // the old one may be reading
     m_isWatchingTextFile = false;
 }
 
@@ -82,6 +83,7 @@ void WatchTextFileModel::setTextFileURLToWatch(
     const QUrl &textFileURLToWatch, bool andImmediatelyBeginWatching)
 {
     stopWatchingTextFile();
+    ++m_documents;
     m_presentedItemURL = textFileURLToWatch;
     if (andImmediatelyBeginWatching)
         beginWatchingTextFile();
@@ -117,7 +119,10 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
         failToLoad();
         return;
     }
-    const Result<AttributedString, DocumentError> text = m_loader.load(pathOfFileURL(url));
+    const std::optional<Result<AttributedString, DocumentError>> loaded = load(url);
+    if (!loaded)
+        return;
+    const Result<AttributedString, DocumentError> &text = *loaded;
     if (!text && m_coordinator && m_coordinator->willRetry())
         return;
     if (!text) {
@@ -128,6 +133,23 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
     }
     if (WatchTextFileModelDelegate *const receiver = delegate())
         receiver->currentlyWatchedTextFileDidUpdateWithAttributedString(text.value(), *this);
+}
+
+std::optional<Result<AttributedString, DocumentError>> WatchTextFileModel::load(const QUrl &url)
+{
+    using Text = Result<AttributedString, DocumentError>;
+    BackgroundWork<Text> reading(QStringLiteral("watched file"),
+        [loader = m_loader, path = pathOfFileURL(url)] { return loader->load(path); });
+    const QPointer<WatchTextFileModel> self(this);
+    const bool wasWatching = m_isWatchingTextFile;
+    const QUrl document = m_presentedItemURL;
+    const quint64 documents = m_documents;
+    const Text *const text = reading.resultWhileEventsRun();
+    if (!text || !self || documents != m_documents || wasWatching != m_isWatchingTextFile)
+        return std::nullopt;
+    if (!*text && document != m_presentedItemURL)
+        return std::nullopt; // it was moved before it was read
+    return *text;
 }
 
 void WatchTextFileModel::_reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl &url)

@@ -52,8 +52,9 @@ public:
     void stopWatchingTextFile();
     /// Does not read. Keeps the bookmark of the first document, and whether that was a Word document.
     void setTextFileURLToWatch(const QUrl &textFileURLToWatch, bool andImmediatelyBeginWatching);
-    /// Reads and notifies the delegate before it returns. Does nothing if the model does not watch or another
-    /// process has been granted the document. sender: ignored.
+    /// Reads and notifies the delegate before it returns. Reads on a thread of its own; the event loop runs
+    /// while that takes long. Does nothing if the model does not watch or another process has been granted
+    /// the document. sender: ignored.
     void forceRead(QObject *sender);
 
     void applicationWillResignActiveNotification();
@@ -74,6 +75,8 @@ private:
     void renewAccess();
     void _reloadAttributedStringAndTellDelegateAtPresentedURL(const QUrl &url);
     void _reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl &url);
+    /// Absent if the model is destroyed, stops watching or turns to another document meanwhile.
+    [[nodiscard]] std::optional<Result<AttributedString, DocumentError>> load(const QUrl &url);
     void failToLoad();
 
     ApplicationActivity &m_applicationActivity;
@@ -87,5 +90,7 @@ private:
     bool m_isTextFileReadable = true;
     QUrl m_presentedItemURL;
     WeakDelegate<WatchTextFileModelDelegate> m_delegate;
-    RepeatedLoader m_loader; // most polls find the document unchanged
+    quint64 m_documents = 0; // that were given up so far
+    /// Most polls find the document unchanged. Shared with the thread that reads.
+    std::shared_ptr<RepeatedLoader> m_loader = std::make_shared<RepeatedLoader>();
 };

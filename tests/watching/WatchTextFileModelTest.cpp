@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // When the model reads, and what it reports and logs.
+#include "platform/system/MainQueue.h"
 #include "tests/watching/WatchedFileTest.h"
 
 #include <QFile>
@@ -64,6 +65,49 @@ TEST_F(WatchTextFileModelTest, RichTextIsReadAsSuch)
     const auto model = watch(writeFile(QStringLiteral("f.rtf"), "{\\rtf1 rich}"));
     model->forceRead(nullptr);
     EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text rich")));
+}
+
+// What takes seconds to read.
+const QByteArray largePage =
+    "<!DOCTYPE html><p>first</p>" + QByteArray("<p class='a'>and <b>more</b></p>").repeated(50'000);
+
+TEST_F(WatchTextFileModelTest, TheEventLoopRunsWhileALargeDocumentIsRead)
+{
+    const auto model = watch(writeFile(QStringLiteral("f.html"), largePage));
+    bool hasRun = false;
+    MainQueue::async([&] {
+        hasRun = true;
+        model->forceRead(nullptr); // one read at a time
+        EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
+    });
+    model->forceRead(nullptr);
+    EXPECT_TRUE(hasRun);
+    EXPECT_THAT(m_delegate.takeMessages(), testing::SizeIs(1));
+    EXPECT_TRUE(m_delegate.lastText().string().startsWith(QStringLiteral("first")));
+}
+
+TEST_F(WatchTextFileModelTest, AReadIsDroppedWhenTheModelStopsOrTurnsToAnotherDocumentMeanwhile)
+{
+    const QString page = writeFile(QStringLiteral("f.html"), largePage);
+    const auto model = watch(page);
+    MainQueue::async([&] { model->setTextFileURLToWatch(QUrl::fromLocalFile(m_path), true); });
+    model->forceRead(nullptr);
+    EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
+    EXPECT_TRUE(model->isWatchingTextFile());
+
+    const auto second = watch(page);
+    MainQueue::async([&] { second->stopWatchingTextFile(); });
+    second->forceRead(nullptr);
+    EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
+
+    auto third = watch(page);
+    MainQueue::async([&] {
+        third->stopWatchingTextFile();
+        third.reset();
+    });
+    third->forceRead(nullptr);
+    EXPECT_FALSE(third);
+    EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
 }
 
 TEST_F(WatchTextFileModelTest, ResigningActiveStartsOneTimerOfTwoSeconds)

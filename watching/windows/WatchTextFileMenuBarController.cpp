@@ -4,6 +4,7 @@
 
 #include "documents/loading/DocumentLoader.h"
 #include "platform/logging/LogChannel.h"
+#include "platform/system/BackgroundWork.h"
 #include "platform/system/FileURL.h"
 #include "platform/system/MainQueue.h"
 #include "preferences/QBYUserDefaultsController.h"
@@ -59,11 +60,26 @@ QUrl WatchTextFileMenuBarController::urlBeingWatched() const
 
 void WatchTextFileMenuBarController::readAndCount(const QUrl &url)
 {
+    ++m_contents;
     if (QBYExtension::doesConformToDocXFileUTI(url)) {
         countDocX(url);
         return;
     }
-    const Result<AttributedString, DocumentError> text = loadDocument(pathOfFileURL(url));
+    BackgroundWork<Text> reading(
+        QStringLiteral("watched file"), [path = pathOfFileURL(url)] { return loadDocument(path); });
+    if (const Text *const text = reading.quickResult())
+        return countFirst(*text);
+    m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(true);
+    reading.passResultTo([weakSelf = weak_from_this(), contents = m_contents](const Text &text) {
+        const auto self = weakSelf.lock();
+        if (self && self->m_watchFileModel && self->m_contents == contents)
+            self->countFirst(text);
+    });
+}
+
+void WatchTextFileMenuBarController::countFirst(const Text &text)
+{
+    m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(false);
     if (text)
         count(text.value());
     else
@@ -126,6 +142,8 @@ void WatchTextFileMenuBarController::sayWordCountIfPreferred(quint64 wordCount)
 void WatchTextFileMenuBarController::currentlyWatchedTextFileDidUpdateWithAttributedString(
     const AttributedString &attributedString, WatchTextFileModel & /*watchModel*/)
 {
+    ++m_contents;
+    m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(false);
     count(attributedString);
 }
 
@@ -145,6 +163,7 @@ void WatchTextFileMenuBarController::currentlyWatchedTextFileDidFailToLoadAttrib
     WatchTextFileModel &watchModel)
 {
     m_isChangeUncounted = false;
+    ++m_contents;
     watchModel.stopWatchingTextFile();
     closeViews();
     m_surroundings.desktop.beep();

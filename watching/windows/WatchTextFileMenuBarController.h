@@ -109,7 +109,10 @@ private:
     void setCountingPanel(const std::shared_ptr<WatchTextFileViewController> &panel);
     void setTitleOfPanels(const QString &title);
 
+    using Text = Result<AttributedString, DocumentError>;
+
     void readAndCount(const QUrl &url);
+    void countFirst(const Text &text);
     void count(const AttributedString &attributedString);
     void countDocX(const QUrl &url);
     [[nodiscard]] WordCounterViewController::Completion makeCompletion();
@@ -134,5 +137,6 @@ private:
     std::unique_ptr<WatchTextFileModel> m_watchFileModel;
     std::unique_ptr<ClockTimer> m_popoverTimer; // until the pop-over opens by itself
     quint64 m_lastCalledOutWordCount = 0;
+    quint64 m_contents = 0; // so far; a first content that is read slowly must not replace a later one
     bool m_isChangeUncounted = false; // of a Word document, dropped while the panel was counting
 };

@@ -27,6 +27,36 @@ TEST_F(WatchingTest, ReadsCountsAndFollowsTheDocument)
     EXPECT_THAT(m_log.messages(LogLevel::Error), IsEmpty());
 }
 
+TEST_F(WatchingTest, ALargeDocumentIsReadBehindTheWindow)
+{
+    serve({"answer 3 2 3 4 5 6 7 8"});
+    Controller &watcher = makeWindowForm();
+    const QString path = writeFile(QStringLiteral("large.html"),
+        "<!DOCTYPE html>" + QByteArray("<p class='a'>and <b>more</b></p>").repeated(50'000));
+    watcher.watchWithTextFileURL(QUrl::fromLocalFile(path));
+    EXPECT_TRUE(watcher.watchFileModel()->isWatchingTextFile());
+    const WatchTextFileViewController &panel = *watcher.watchTextFileViewControllerForPopover();
+    EXPECT_TRUE(panel.spinActivityIndicator());
+    EXPECT_FALSE(statisticsOf(watcher).isAsyncCountOperationInProgress());
+    m_service->waitForRequests(1);
+    waitForCount(watcher);
+    EXPECT_FALSE(panel.spinActivityIndicator());
+    EXPECT_EQ(wordsOf(panel), QStringLiteral("•Words: 3"));
+}
+
+TEST_F(WatchingTest, AWatcherThatStopsLeavesItsCountToNobody)
+{
+    serve({"hold"});
+    Controller &watcher = makeWindowForm();
+    watcher.watchWithTextFileURL(QUrl::fromLocalFile(m_path));
+    m_service->waitForRequests(1);
+    const QString client = m_service->requests().front().client;
+    const auto self = watcher.shared_from_this();
+    watcher.watchTextFileViewControllerRequestedStop(nullptr);
+    EXPECT_FALSE(statisticsOf(watcher).isAsyncCountOperationInProgress());
+    EXPECT_TRUE(waitUntil([&] { return !m_service->isOnTheBus(client); }));
+}
+
 TEST_F(WatchingTest, EverySaveIsCounted)
 {
     serve({"answer 1 0 0 0 0 0 0 0", "answer 2 0 0 0 0 0 0 0", "answer 3 0 0 0 0 0 0 0"});
