@@ -10,6 +10,7 @@
 #include "command/ProgressLine.h"
 #include "command/ServiceCounter.h"
 #include "documents/reading/KindDetection.h"
+#include "documents/rtfd/RtfdReader.h"
 #include "platform/files/FileContents.h"
 #include "platform/system/OwnedDescriptor.h"
 #include "platform/system/Result.h"
@@ -52,17 +53,6 @@ Result<QByteArray, FileError> readList(const QByteArray &name)
     return pipe ? readDescriptor(pipe.get()) : list;
 }
 
-/// Absent unless the file is a Word document, which the service takes as it is.
-std::optional<QByteArray> bytesOfWordDocument(const QByteArray &name)
-{
-    if (name == standardInputName)
-        return std::nullopt;
-    Result<QByteArray, FileError> contents = readFile(name);
-    if (!contents || kindOfDocument(name, contents.value()) != DocumentKind::WordDocument)
-        return std::nullopt;
-    return std::move(contents).value();
-}
-
 class CountCommand {
 public:
     explicit CountCommand(CountArguments arguments)
@@ -80,6 +70,8 @@ private:
     std::optional<QBYWordCounterStats> count(const QByteArray &name, ProgressLine &progress);
     Result<QBYWordCounterStats, QString> countHere(const QByteArray &name, ProgressLine &progress);
     Result<QBYWordCounterStats, QString> countInService(const QByteArray &name, ProgressLine &progress);
+    Result<QBYWordCounterStats, QString> countTextInService(
+        const Result<AttributedString, DocumentError> &text, ProgressLine &progress);
     void fail(const QByteArray &name, const QString &cause);
     static void print(const QByteArray &text);
 
@@ -181,17 +173,27 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
 {
     if (!m_service)
         m_service.emplace();
-    // Word documents are read here too, because the service does not report why it could not count one.
-    const Result<AttributedString, DocumentError> text = loadNamedDocument(name);
+    if (name != standardInputName && isRtfdPackage(name))
+        return countTextInService(loadNamedDocument(name), progress);
+    const QByteArray path = name == standardInputName ? QByteArray() : name;
+    const Result<QByteArray, FileError> contents =
+        path.isEmpty() ? readDescriptor(STDIN_FILENO) : readFile(path);
+    if (!contents)
+        return causeText(DocumentError(contents.error()));
+    const DocumentKind kind = kindOfDocument(path, contents.value());
+    if (kind == DocumentKind::Pdf) // read by a program of its own
+        return countTextInService(readBytes(contents.value(), path, {.readsPdf = true}), progress);
+    progress.startCounting(contents.value().size());
+    return m_service->countDocument(kind, contents.value());
+}
+
+Result<QBYWordCounterStats, QString> CountCommand::countTextInService(
+    const Result<AttributedString, DocumentError> &text, ProgressLine &progress)
+{
     if (!text)
         return causeText(text.error());
     progress.startCounting(text.value().length());
-    const std::optional<QByteArray> wordDocument = bytesOfWordDocument(name);
-    const Result<QBYWordCounterStats, CountServiceFailure> stats =
-        wordDocument ? m_service->countWordDocument(*wordDocument) : m_service->countText(text.value());
-    if (!stats)
-        return causeText(stats.error());
-    return stats.value();
+    return m_service->countText(text.value());
 }
 
 void CountCommand::fail(const QByteArray &name, const QString &cause)

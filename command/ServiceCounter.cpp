@@ -2,20 +2,21 @@
 #include "command/ServiceCounter.h"
 
 #include "documents/rtfd/RtfdWriter.h"
+#include "presentation/WordCounterServiceProtocol.h"
 
 #include <future>
 #include <memory>
 
-QString causeText(CountServiceFailure failure)
+namespace {
+
+using Outcome = Result<QBYWordCounterStats, QString>;
+
+QString memoryFailure()
 {
-    switch (failure) {
-    case CountServiceFailure::NoAnswer:
-        return QStringLiteral("the counting service does not answer; run again without --service");
-    case CountServiceFailure::NotEnoughMemory:
-        break;
-    }
     return QStringLiteral("not enough memory to send it to the counting service");
 }
+
+} // namespace
 
 ServiceCounter::ServiceCounter()
     : m_connection(WordCounterServiceProtocol::serviceName())
@@ -24,34 +25,31 @@ ServiceCounter::ServiceCounter()
     m_connection.resume();
 }
 
-Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::countText(const AttributedString &text)
+Outcome ServiceCounter::countText(const AttributedString &text)
 {
     const auto data = RTFDFromRange(text, 0, text.length());
     if (!data)
-        return CountServiceFailure::NotEnoughMemory;
-    return count(&WordCounterServiceProtocol::countWordsForAttributedStringRTFDData, data.value());
+        return memoryFailure();
+    return countDocument(DocumentKind::Rtfd, data.value());
 }
 
-Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::countWordDocument(QByteArrayView bytes)
+Outcome ServiceCounter::countDocument(DocumentKind kind, QByteArrayView bytes)
 {
-    return count(&WordCounterServiceProtocol::countWordsForDocX, bytes);
-}
-
-Result<QBYWordCounterStats, CountServiceFailure> ServiceCounter::count(
-    CountRequest request, QByteArrayView payload)
-{
-    SealedMemory::MemoryResult memory = SealedMemory::copyOf(payload);
+    SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
     if (!memory)
-        return CountServiceFailure::NotEnoughMemory;
-    // A connection that gives up a request destroys its handler, which breaks the promise.
-    auto promise = std::make_shared<std::promise<QBYWordCounterStats>>();
-    std::future<QBYWordCounterStats> answer = promise->get_future();
+        return memoryFailure();
+    // A connection that gives up a request destroys its handlers, which breaks the promise.
+    auto promise = std::make_shared<std::promise<Outcome>>();
+    std::future<Outcome> answer = promise->get_future();
     const WordCounterServiceProtocol service(m_connection.remoteObjectProxy());
-    (service.*request)(std::make_shared<const SealedMemory>(std::move(memory).value()),
-        [promise = std::move(promise)](const QBYWordCounterStats &stats) { promise->set_value(stats); });
+    service.countDocument(
+        kind, std::make_shared<const SealedMemory>(std::move(memory).value()),
+        [promise](const QBYWordCounterStats &stats) { promise->set_value(stats); },
+        [promise](const QString &cause) { promise->set_value(cause); });
+    promise.reset();
     try {
         return answer.get();
     } catch (const std::future_error &) {
-        return CountServiceFailure::NoAnswer;
+        return QStringLiteral("the counting service does not answer; run again without --service");
     }
 }

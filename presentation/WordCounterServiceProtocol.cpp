@@ -24,6 +24,19 @@ void WordCounterServiceProtocol::countWordsForDocX(Data data, Results withResult
     send(QStringLiteral("countWordsForDocX"), std::move(data), std::move(withResults));
 }
 
+void WordCounterServiceProtocol::countDocument(
+    DocumentKind kind, Data data, Results withResults, Failed failed) const
+{
+    m_proxy.send(
+        {.method = QStringLiteral("countWordsForDocX"),
+            .payload = std::move(data),
+            .options = {{QStringLiteral("locale"), currentLocaleIdentifier()},
+                {QStringLiteral("type"), mimeTypes(kind).first()}, {QStringLiteral("wants-cause"), true}}},
+        [withResults = std::move(withResults)](
+            const RemoteReply &reply) { withResults(statsFromCounts(reply)); },
+        std::move(failed));
+}
+
 void WordCounterServiceProtocol::send(const QString &method, Data data, Results withResults) const
 {
     m_proxy.send({.method = method,

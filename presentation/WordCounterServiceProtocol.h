@@ -4,6 +4,7 @@
 // Thread: that of the connection's owner.  Owner: the client; short-lived.
 #pragma once
 
+#include "documents/DocumentKind.h"
 #include "platform/session_bus/RemoteObjectConnection.h"
 #include "text_statistics/QBYWordCounterStats.h"
 
@@ -32,6 +33,12 @@ public:
     void countWordsForAttributedStringRTFDData(Data data, Results withResults) const;
     /// data: the bytes of a Word document (.docx).
     void countWordsForDocX(Data data, Results withResults) const;
+
+    /// Called like Results, in place of it, with the cause of a failure: English, to be printed after a
+    /// colon.
+    using Failed = std::function<void(const QString &cause)>;
+    /// data: the bytes of a document of any kind that the service reads.
+    void countDocument(DocumentKind kind, Data data, Results withResults, Failed failed) const;
 
 private:
     void send(const QString &method, Data data, Results withResults) const;

@@ -32,6 +32,8 @@ Result<SealedMemory, CountFailure> documentOf(const ReceivedRequest &request)
 {
     if (request.isAbsent)
         return CountFailure(CountFailure::Cause::DocumentMissing);
+    if (!request.kind)
+        return CountFailure(CountFailure::Cause::UnknownType);
     if (request.length > CountingService::maxDocumentSize)
         return CountFailure(CountFailure::Cause::TooLarge);
     SealedMemory::MemoryResult memory =
@@ -135,8 +137,12 @@ void CountingService::receive(const ReceivedRequest &request)
             rules.localeName = *pending.localeName;
         m_columnInForce = columnWidthOf(rules.page).value_or(m_columnInForce);
         rules.page.columnBefore = m_columnInForce;
-        m_pool.add({pending.number, pending.kind, std::move(*memory), rules,
-            [this, pending](const CountJob::Outcome &outcome) { finish(pending, outcome); }});
+        m_pool.add({.number = pending.number,
+            .kind = *pending.kind,
+            .document = std::move(*memory),
+            .rules = rules,
+            .answer = [this, pending](const CountJob::Outcome &outcome) { finish(pending, outcome); },
+            .charset = pending.charset});
     });
 }
 

@@ -12,17 +12,35 @@ namespace {
 
 using Outcome = ReceivedRequest::Outcome;
 
+QString textIn(const QVariantMap &options, const QString &name)
+{
+    const QVariant value = options.value(name);
+    return value.metaType() == QMetaType::fromType<QString>() ? value.toString() : QString();
+}
+
 // As with LANG, an impossible name stands for the locale "C".
 std::optional<QByteArray> localeNameIn(const QVariantMap &options)
 {
-    const QVariant value = options.value(QStringLiteral("locale"));
-    const QString name = value.toString();
-    if (value.metaType() != QMetaType::fromType<QString>() || name.isEmpty())
+    const QString name = textIn(options, QStringLiteral("locale"));
+    if (name.isEmpty())
         return std::nullopt;
     const bool isPossible = name.size() <= RulesSnapshot::maxLocaleNameLength
         && std::all_of(
             name.begin(), name.end(), [](QChar unit) { return unit > u' ' && unit < QChar(0x7F); });
     return isPossible ? name.toLatin1() : QByteArray("C");
+}
+
+std::optional<DocumentKind> kindIn(const QVariantMap &options, DocumentKind usualKind)
+{
+    const QString type = textIn(options, QStringLiteral("type"));
+    return type.isEmpty() ? usualKind : kindOfMimeType(type.toLower());
+}
+
+// Names that no charset has count as unknown, which is detected from the bytes.
+QByteArray charsetIn(const QVariantMap &options)
+{
+    const QString name = textIn(options, QStringLiteral("charset"));
+    return name.size() <= WorkerMessages::maxCharsetLength ? name.toLatin1() : QByteArray();
 }
 
 QVariantList argumentsOf(const QBYWordCounterStats &stats)
@@ -82,6 +100,11 @@ QString ServiceObject::serviceName()
     return QStringLiteral("Brisklane.QBYServiceProviderXPC");
 }
 
+QString ServiceObject::failureName()
+{
+    return QStringLiteral("com.quillbay.WordCounterServiceProtocol.Error.NotCounted");
+}
+
 QString ServiceObject::path()
 {
     return QStringLiteral("/Brisklane/QBYServiceProviderXPC");
@@ -101,18 +124,25 @@ void ServiceObject::countWordsForDocX(const QDBusUnixFileDescriptor &payload, qu
     receive(DocumentKind::WordDocument, payload, length, absent, options);
 }
 
-void ServiceObject::receive(DocumentKind kind, const QDBusUnixFileDescriptor &payload, quint64 length,
+void ServiceObject::receive(DocumentKind usualKind, const QDBusUnixFileDescriptor &payload, quint64 length,
     bool absent, const QVariantMap &options)
 {
     setDelayedReply(true);
     if (!message().isReplyRequired())
         return;
     const RequestKey key(message().service(), ++m_requests);
-    m_replies.emplace(key, message().createReply());
+    m_replies.emplace(key, PendingReply{message(), options.value(QStringLiteral("wants-cause")).toBool()});
     const auto reply = [this, key](const Outcome &outcome) {
         QMetaObject::invokeMethod(this, [this, key, outcome] { sendReply(key, outcome); });
     };
-    const ReceivedRequest request{key.second, kind, payload, length, absent, localeNameIn(options), reply};
+    const ReceivedRequest request{.number = key.second,
+        .kind = kindIn(options, usualKind),
+        .charset = charsetIn(options),
+        .payload = payload,
+        .length = length,
+        .isAbsent = absent,
+        .localeName = localeNameIn(options),
+        .reply = reply};
     QMetaObject::invokeMethod(
         &m_onMainThread, [this, request] { m_receiver(request); }, Qt::QueuedConnection);
 }
@@ -133,9 +163,12 @@ void ServiceObject::nameOwnerDidChange(
 
 void ServiceObject::sendReply(const RequestKey &key, const Outcome &outcome)
 {
-    auto reply = m_replies.extract(key);
-    if (reply.empty())
+    const auto pending = m_replies.extract(key);
+    if (pending.empty())
         return; // the client has left meanwhile
-    reply.mapped().setArguments(argumentsOf(outcome ? outcome.value() : QBYWordCounterStats()));
-    m_bus.send(reply.mapped());
+    const auto &[request, wantsCause] = pending.mapped();
+    if (!outcome && wantsCause)
+        m_bus.send(request.createErrorReply(failureName(), causeText(outcome.error())));
+    else
+        m_bus.send(request.createReply(argumentsOf(outcome ? outcome.value() : QBYWordCounterStats())));
 }

@@ -23,7 +23,8 @@ struct ReceivedRequest {
     using Outcome = Result<QBYWordCounterStats, CountFailure>;
 
     quint64 number; ///< of the requests so far; a later request has a greater one
-    DocumentKind kind;
+    std::optional<DocumentKind> kind; ///< absent: of a MIME type that no reader has
+    QByteArray charset; ///< as of ReadOptions
     QDBusUnixFileDescriptor payload;
     quint64 length;
     bool isAbsent;
@@ -39,6 +40,8 @@ class ServiceObject : public QObject, protected QDBusContext {
 public:
     static QString serviceName();
     static QString path();
+    /// The error for a client that wants the cause of a failure.
+    static QString failureName();
 
     // Called on the main thread.
     using Receiver = std::function<void(const ReceivedRequest &)>;
@@ -78,8 +81,12 @@ private Q_SLOTS:
 private:
     /// The client's name on the bus, then the number of the request: the requests of a client are in a row.
     using RequestKey = std::pair<QString, quint64>;
+    struct PendingReply {
+        QDBusMessage request;
+        bool wantsCause; ///< of a failure, as an error in place of eight zeros
+    };
 
-    void receive(DocumentKind kind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
+    void receive(DocumentKind usualKind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
         const QVariantMap &options);
     void sendReply(const RequestKey &key, const ReceivedRequest::Outcome &outcome);
 
@@ -87,7 +94,6 @@ private:
     Receiver m_receiver;
     Dropper m_dropper;
     QObject m_onMainThread; ///< receives requests
-    std::map<RequestKey, QDBusMessage>
-        m_replies; ///< each holds its request's message; used by the bus's thread
+    std::map<RequestKey, PendingReply> m_replies; ///< used by the bus's thread
     quint64 m_requests = 0; ///< so far; used by the bus's thread
 };

@@ -141,8 +141,11 @@ void WorkerPool::assignJobs()
         Place *place = placeFor(job);
         if (!place)
             return;
-        const bool isTaken = place->worker->count(
-            job.kind, static_cast<quint64>(job.document.size()), job.rules, job.document.descriptor());
+        const bool isTaken = place->worker->count({.kind = job.kind,
+                                                      .charset = job.charset,
+                                                      .length = static_cast<quint64>(job.document.size()),
+                                                      .rules = job.rules},
+            job.document.descriptor());
         if (!isTaken)
             continue; // the worker has just ended, not because of the document
         place->job = std::move(queue->extract(queue->begin()).mapped());

@@ -23,6 +23,7 @@ struct CountJob {
     SealedMemory document;
     RulesSnapshot rules;
     std::function<void(const Outcome &)> answer; ///< called once
+    QByteArray charset = {}; ///< as of ReadOptions
     int failures = 0; ///< workers that failed while counting it
     int interruptions = 0; ///< workers that were killed from outside while counting it
 };

@@ -144,11 +144,11 @@ WorkerProcess::~WorkerProcess()
     ::waitpid(m_process, nullptr, 0);
 }
 
-bool WorkerProcess::count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor)
+bool WorkerProcess::count(WorkerRequest request, int descriptor)
 {
-    const std::chrono::milliseconds timeout = m_program.timeoutFor(length);
-    limitResources(length, timeout);
-    const WorkerRequest request{m_requests + 1, kind, length, rules};
+    const std::chrono::milliseconds timeout = m_program.timeoutFor(request.length);
+    limitResources(request.length, timeout);
+    request.number = m_requests + 1;
     if (!sendPacket(m_socket.get(), encode(request), descriptor)) {
         end(WorkerEnd::KilledFromOutside);
         return false;

@@ -66,9 +66,9 @@ public:
     [[nodiscard]] bool hasCounted() const { return m_requests > 0; }
     [[nodiscard]] pid_t processIdentifier() const { return m_process; }
 
-    /// Only while Idle. Does not take over the descriptor. False if the worker has just ended; onEnd()
-    /// follows.
-    [[nodiscard]] bool count(DocumentKind kind, quint64 length, const RulesSnapshot &rules, int descriptor);
+    /// Only while Idle. The number of the request is chosen here. Does not take over the descriptor. False if
+    /// the worker has just ended; onEnd() follows.
+    [[nodiscard]] bool count(WorkerRequest request, int descriptor);
 
     /// Kills the process; onEnd() follows.
     void end(WorkerEnd reason);

@@ -14,6 +14,8 @@ QString causeText(const CountFailure &failure)
         return QStringLiteral("is larger than the service accepts");
     case CountFailure::Cause::NotReceived:
         return QStringLiteral("could not be received");
+    case CountFailure::Cause::UnknownType:
+        return QStringLiteral("is of a type that the counting service does not read");
     case CountFailure::Cause::NoWorker:
         return QStringLiteral("no worker could be started");
     case CountFailure::Cause::WorkerFailed:

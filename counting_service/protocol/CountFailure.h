@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// CountFailure is why a document has no counts. Its sender gets eight zeros; the cause is for the log.
+// CountFailure is why a document has no counts. The cause is for the log, and for senders that ask for it;
+// others get eight zeros.
 // Thread: any; a value.
 #pragma once
 
@@ -18,6 +19,7 @@ struct CountFailure {
         LengthDiffers, ///< it is not as long as its sender said
         TooLarge, ///< larger than the service accepts
         NotReceived, ///< the system failed to hand it over
+        UnknownType, ///< its MIME type is none that the service reads
         NoWorker, ///< no worker can be started
         WorkerFailed, ///< two workers ended over it
         // Found by the worker.

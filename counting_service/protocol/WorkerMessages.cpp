@@ -122,19 +122,13 @@ QDataStream &operator>>(QDataStream &stream, FailureNumbers &numbers)
     return stream >> numbers.cause >> numbers.documentCause >> numbers.documentKind;
 }
 
-bool isKnown(quint32 kind)
-{
-    return kind == static_cast<quint32>(DocumentKind::Rtfd)
-        || kind == static_cast<quint32>(DocumentKind::WordDocument);
-}
-
 } // namespace
 
 QByteArray encode(const WorkerRequest &request)
 {
     Writer writer(Type::Request);
-    writer.stream() << request.number << static_cast<quint32>(request.kind) << request.length
-                    << request.rules;
+    writer.stream() << request.number << static_cast<quint32>(request.kind) << request.charset
+                    << request.length << request.rules;
     return writer.bytes();
 }
 
@@ -163,8 +157,8 @@ std::optional<WorkerRequest> decodeRequest(const QByteArray &message)
     Reader reader(message, Type::Request);
     WorkerRequest request;
     quint32 kind = 0;
-    reader.stream() >> request.number >> kind >> request.length >> request.rules;
-    if (!reader.isComplete() || !isKnown(kind))
+    reader.stream() >> request.number >> kind >> request.charset >> request.length >> request.rules;
+    if (!reader.isComplete() || !isInRange(kind, lastDocumentKind))
         return std::nullopt;
     request.kind = static_cast<DocumentKind>(kind);
     return request;

@@ -18,9 +18,11 @@
 namespace WorkerMessages {
 
 /// Part of every message. Broker and workers are the same program, so other versions are rejected.
-inline constexpr quint16 version = 1;
+inline constexpr quint16 version = 2;
 /// Bytes; longer messages are rejected.
 inline constexpr qsizetype maxLength = 512;
+/// Bytes; real names of charsets are shorter.
+inline constexpr qsizetype maxCharsetLength = 64;
 
 } // namespace WorkerMessages
 
@@ -39,7 +41,8 @@ struct RulesSnapshot {
 
 struct WorkerRequest {
     quint64 number = 0; ///< chosen by the broker; the reply repeats it
-    DocumentKind kind = DocumentKind::Rtfd; ///< or WordDocument; other kinds are refused
+    DocumentKind kind = DocumentKind::Rtfd;
+    QByteArray charset; ///< as of ReadOptions
     quint64 length = 0; ///< of the document, in bytes
     RulesSnapshot rules;
 };

@@ -93,7 +93,8 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
         if (const std::optional<QBYWordCounterStats> known = m_memory.countsOf(name))
             return *known;
     }
-    const Result<AttributedString, DocumentError> text = readDocument(request.kind, memory.value().bytes());
+    const Result<AttributedString, DocumentError> text =
+        readDocument(request.kind, memory.value().bytes(), {.charset = request.charset});
     if (!text)
         return CountFailure(text.error());
     m_rules = rulesFrom(request.rules);

@@ -5,18 +5,31 @@
 
 // Handlers are called and destroyed without the mutex: what they own may call this object.
 
-PendingReplies::Identifier PendingReplies::add(RemoteReplyHandler handler)
+PendingReplies::Identifier PendingReplies::add(RemoteReplyHandler handler, RemoteErrorHandler errorHandler)
 {
     const std::lock_guard guard(m_mutex);
     const Identifier identifier = ++m_lastIdentifier;
     if (!m_isClosed)
-        m_handlers.emplace(identifier, std::move(handler));
+        m_handlers.emplace(identifier, Handlers{std::move(handler), std::move(errorHandler)});
     return identifier;
 }
 
 void PendingReplies::deliver(Identifier identifier, const RemoteReply &reply)
 {
-    Handlers::node_type pending;
+    call(identifier, [&reply](const Handlers &handlers) { handlers.reply(reply); });
+}
+
+void PendingReplies::deliverError(Identifier identifier, const QString &message)
+{
+    call(identifier, [&message](const Handlers &handlers) {
+        if (handlers.error)
+            handlers.error(message);
+    });
+}
+
+void PendingReplies::call(Identifier identifier, const std::function<void(const Handlers &)> &handler)
+{
+    Pending::node_type pending;
     {
         const std::lock_guard guard(m_mutex);
         pending = m_handlers.extract(identifier);
@@ -24,7 +37,7 @@ void PendingReplies::deliver(Identifier identifier, const RemoteReply &reply)
             return;
         m_deliveringThread = std::this_thread::get_id();
     }
-    pending.mapped()(reply);
+    handler(pending.mapped());
     pending = {}; // close() waits for this too
     {
         const std::lock_guard guard(m_mutex);
@@ -35,14 +48,14 @@ void PendingReplies::deliver(Identifier identifier, const RemoteReply &reply)
 
 void PendingReplies::drop(Identifier identifier)
 {
-    Handlers::node_type pending;
+    Pending::node_type pending;
     const std::lock_guard guard(m_mutex);
     pending = m_handlers.extract(identifier);
 }
 
 void PendingReplies::close()
 {
-    Handlers handlers;
+    Pending handlers;
     std::unique_lock lock(m_mutex);
     m_isClosed = true;
     handlers = std::exchange(m_handlers, {});

@@ -17,12 +17,15 @@ class PendingReplies {
 public:
     using Identifier = quint64;
 
-    /// After close(), destroys the handler at once; the identifier is then unknown to the other functions.
-    Identifier add(RemoteReplyHandler handler);
+    /// After close(), destroys the handlers at once; the identifier is then unknown to the other functions.
+    /// errorHandler: may be empty.
+    Identifier add(RemoteReplyHandler handler, RemoteErrorHandler errorHandler = {});
 
     /// Calls the handler in the calling thread, and destroys it. Ignores a second reply to the same request,
     /// and one after close(). To be called on one thread only, and not from a handler.
     void deliver(Identifier identifier, const RemoteReply &reply);
+    /// The same for an error.
+    void deliverError(Identifier identifier, const QString &message);
 
     /// Destroys the handler of a request that will not be answered.
     void drop(Identifier identifier);
@@ -32,12 +35,18 @@ public:
     void close();
 
 private:
-    using Handlers = std::unordered_map<Identifier, RemoteReplyHandler>;
+    struct Handlers {
+        RemoteReplyHandler reply;
+        RemoteErrorHandler error;
+    };
+    using Pending = std::unordered_map<Identifier, Handlers>;
+
+    void call(Identifier identifier, const std::function<void(const Handlers &)> &handler);
 
     std::mutex m_mutex;
     std::condition_variable m_deliveryEnded;
     std::thread::id m_deliveringThread; // the default value while no handler runs
     bool m_isClosed = false;
     Identifier m_lastIdentifier = 0;
-    Handlers m_handlers;
+    Pending m_handlers;
 };

@@ -112,10 +112,13 @@ void RemoteChannel::resume()
         Qt::QueuedConnection);
 }
 
-void RemoteChannel::send(RemoteObjectInterface interface, RemoteRequest request, RemoteReplyHandler handler)
+void RemoteChannel::send(RemoteObjectInterface interface, RemoteRequest request, RemoteReplyHandler handler,
+    RemoteErrorHandler errorHandler)
 {
-    const Identifier identifier = m_replies.add(std::move(handler));
-    Request made{.interface = std::move(interface), .content = std::move(request)};
+    Request made{.interface = std::move(interface),
+        .content = std::move(request),
+        .hasErrorHandler = static_cast<bool>(errorHandler)};
+    const Identifier identifier = m_replies.add(std::move(handler), std::move(errorHandler));
     QMetaObject::invokeMethod(
         this, [this, identifier, made = std::move(made)] { accept(identifier, made); }, Qt::QueuedConnection);
 }
@@ -248,6 +251,12 @@ void RemoteChannel::handleAnswer(Identifier identifier, const QDBusMessage &answ
             repeatCall(identifier);
             return;
         }
+    }
+    if (request.hasErrorHandler
+        && answer.errorName().startsWith(request.interface.name + QStringLiteral(".Error."))) {
+        m_requests.erase(found);
+        m_replies.deliverError(identifier, answer.errorMessage());
+        return;
     }
     giveUp(identifier, publicly(answer.errorName()), answer.errorMessage());
 }

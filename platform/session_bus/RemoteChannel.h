@@ -26,7 +26,8 @@ public:
     ~RemoteChannel() override;
 
     void resume();
-    void send(RemoteObjectInterface interface, RemoteRequest request, RemoteReplyHandler handler);
+    void send(RemoteObjectInterface interface, RemoteRequest request, RemoteReplyHandler handler,
+        RemoteErrorHandler errorHandler);
     /// As RemoteObjectConnection::invalidate(); disconnects from the bus later.
     void close();
 
@@ -36,6 +37,7 @@ private:
     struct Request {
         RemoteObjectInterface interface;
         RemoteRequest content;
+        bool hasErrorHandler;
         int pendingCalls = 0; ///< two if the service lost its name and its old owner may still answer
         bool isRepeated = false;
     };

@@ -3,9 +3,10 @@
 
 #include "platform/session_bus/RemoteChannel.h"
 
-void RemoteObjectProxy::send(RemoteRequest request, RemoteReplyHandler handler) const
+void RemoteObjectProxy::send(
+    RemoteRequest request, RemoteReplyHandler handler, RemoteErrorHandler errorHandler) const
 {
-    m_channel->send(m_interface, std::move(request), std::move(handler));
+    m_channel->send(m_interface, std::move(request), std::move(handler), std::move(errorHandler));
 }
 
 RemoteObjectConnection::RemoteObjectConnection(const QString &serviceName)

@@ -32,19 +32,24 @@ using RemoteReply = std::array<quint64, 8>;
 /// wait for it, and must not wait for a thread that may be in RemoteObjectConnection::invalidate().
 using RemoteReplyHandler = std::function<void(const RemoteReply &reply)>;
 
+/// Called as a RemoteReplyHandler, in place of it, with the message of an error that the service itself has
+/// answered: its name begins with that of the interface and ".Error.".
+using RemoteErrorHandler = std::function<void(const QString &message)>;
+
 /// The object of a service on the bus, and one of its interfaces.
 struct RemoteObjectInterface {
     QString objectPath; ///< as "/com/example/Counter"
     QString name; ///< as "com.example.Counter"
 };
 
-/// Stands for the remote object: the service receives what is sent to the proxy. Reports no errors: a request
-/// is answered, or it is not. Copies use the same connection and do not keep it from being invalidated.
+/// Stands for the remote object: the service receives what is sent to the proxy. Reports no errors but those
+/// of the service: a request is answered, or it is not. Copies use the same connection and do not keep it
+/// from being invalidated.
 class RemoteObjectProxy {
 public:
     /// Returns at once; everything else happens on the thread of the connections. An invalidated connection
     /// sends nothing and never calls the handler.
-    void send(RemoteRequest request, RemoteReplyHandler handler) const;
+    void send(RemoteRequest request, RemoteReplyHandler handler, RemoteErrorHandler errorHandler = {}) const;
 
 private:
     friend class RemoteObjectConnection; // alone makes proxies

@@ -197,6 +197,54 @@ TEST_F(CountTest, TheCountsOfAWordDocumentAreInReplyOrderAndNotTheStoredOnes)
     EXPECT_EQ(stats.numberOfIndentedParagraphs, 1U);
 }
 
+TEST_F(CountTest, ADocumentMayBeOfAnyTypeThatTheRequestNames)
+{
+    struct Sample {
+        const char *type;
+        const char *charset;
+        QByteArray bytes;
+        quint64 words;
+    };
+    const Sample samples[]{{"text/plain", "", "two words", 2},
+        {"TEXT/Plain", "utf-16le", {"n\0o\0 \0x\0", 8}, 2},
+        {"text/plain", "no-such-charset", "three more words", 3}, {"text/plain", "", "<div>tags</div>", 3},
+        {"text/html", "", "<b>no</b> <i>tags</i>", 2}, {"text/rtf", "", "{\\rtf1 one}", 1}};
+    for (const Sample &sample : samples) {
+        const SealedMemory::MemoryResult memory = SealedMemory::copyOf(sample.bytes);
+        const QVariantMap options{{QStringLiteral("type"), QString::fromLatin1(sample.type)},
+            {QStringLiteral("charset"), QString::fromLatin1(sample.charset)}};
+        for (const QString &request : {rtfdRequest, docxRequest}) {
+            const QBYWordCounterStats stats = count(message(request, memory.value().descriptor(),
+                static_cast<quint64>(sample.bytes.size()), false, options));
+            EXPECT_EQ(stats.numberOfWords, sample.words) << sample.bytes.constData();
+        }
+    }
+}
+
+TEST_F(CountTest, ARequestMayAskForTheCauseOfAFailure)
+{
+    const auto causeOf = [&](const QByteArray &bytes, QVariantMap options, bool absent = false) {
+        const SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
+        QDBusPendingCall call = send(message(
+            docxRequest, memory.value().descriptor(), static_cast<quint64>(bytes.size()), absent, options));
+        call.waitForFinished();
+        options.remove(QStringLiteral("wants-cause"));
+        EXPECT_EQ(count(message(docxRequest, memory.value().descriptor(), static_cast<quint64>(bytes.size()),
+                      absent, options)),
+            zeros);
+        EXPECT_EQ(call.reply().errorName(),
+            QStringLiteral("com.quillbay.WordCounterServiceProtocol.Error.NotCounted"));
+        return call.reply().errorMessage().toStdString();
+    };
+    const QVariantMap wantsCause{{QStringLiteral("wants-cause"), true}};
+    EXPECT_THAT(causeOf("PK and the rest", wantsCause), testing::StartsWith("is a damaged Word document; "));
+    EXPECT_EQ(causeOf("", wantsCause, true), "the request has no document");
+    QVariantMap unknownType = wantsCause;
+    unknownType.insert(QStringLiteral("type"), QStringLiteral("image/png"));
+    EXPECT_EQ(causeOf("PNG", unknownType), "is of a type that the counting service does not read");
+    EXPECT_NE(count(message(flatRtfd(SampleTexts::english), wantsCause)), zeros);
+}
+
 TEST_F(CountTest, ADamagedWordDocumentHasZerosAndIsReadAgainNextTime)
 {
     const SealedMemory::MemoryResult memory = SealedMemory::copyOf("PK and the rest");

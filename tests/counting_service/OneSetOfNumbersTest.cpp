@@ -88,6 +88,22 @@ TEST_F(OneSetOfNumbers, ForCommandServiceAndPanel)
     expectOneSetOfNumbers();
 }
 
+TEST_F(OneSetOfNumbers, AndOneCauseOfAFailureForTheCommandWithAndWithoutTheService)
+{
+    const QByteArray damaged =
+        QFile::encodeName(writeFile(QStringLiteral("damaged.docx"), "PK and the rest"));
+    const QByteArray deep = QFile::encodeName(
+        writeFile(QStringLiteral("deep.html"), "<!DOCTYPE html>" + QByteArray("<div>").repeated(5000)));
+    for (const QByteArray &path : {damaged, deep, QByteArray("/no/such/file")}) {
+        const QString program = productProgram(QStringLiteral("quillbay"));
+        const auto here = ChildProcess(program).run({"count", path});
+        const auto inService = ChildProcess(program).run({"count", "--service", path});
+        EXPECT_EQ(inService.exitStatus, 1) << path.constData();
+        EXPECT_EQ(inService.output, here.output);
+        EXPECT_TRUE(inService.errors.contains(here.errors.trimmed())) << inService.errors.constData();
+    }
+}
+
 TEST_F(OneSetOfNumbers, InALocaleOtherThanThatOfTheBus)
 {
     setLocale("de_DE.UTF-8");

@@ -25,6 +25,23 @@ public:
 
 } // namespace
 
+TEST(PendingReplies, AnErrorReachesTheErrorHandlerInPlaceOfTheReply)
+{
+    PendingReplies pending;
+    QStringList errors;
+    const auto fail = [](const RemoteReply &) { FAIL(); };
+    const auto note = [&errors](const QString &message) { errors.append(message); };
+    const auto identifier = pending.add(fail, note);
+    pending.deliverError(identifier, QStringLiteral("why"));
+    pending.deliverError(identifier, QStringLiteral("again"));
+    pending.deliver(identifier, {});
+    pending.deliverError(pending.add(fail), QStringLiteral("nobody wants to know"));
+    const auto late = pending.add(fail, note);
+    pending.close();
+    pending.deliverError(late, QStringLiteral("late"));
+    EXPECT_EQ(errors, QStringList(QStringLiteral("why")));
+}
+
 TEST(PendingReplies, AReplyReachesTheHandlerOfItsRequestOnce)
 {
     CountsItsOwnCalls first;

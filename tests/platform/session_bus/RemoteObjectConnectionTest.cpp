@@ -8,6 +8,8 @@
 
 #include <fcntl.h>
 
+#include <future>
+
 using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::Each;
@@ -171,6 +173,23 @@ TEST_F(RemoteObjectConnectionTest, AnErrorIsLoggedAndNotDelivered)
             QStringLiteral("No answer from com.quillbay.test.Service to count: "
                            "org.freedesktop.DBus.Error.TimedOut: <private>")));
     EXPECT_THAT(service.requests(), SizeIs(2));
+    EXPECT_EQ(m_replies.count(), 0U);
+}
+
+TEST_F(RemoteObjectConnectionTest, AnErrorOfTheServiceReachesTheErrorHandler)
+{
+    const auto connection = resumedConnection();
+    const QByteArray ours = connection->remoteObjectInterface().name.toLatin1() + ".Error.Planned";
+    const ServiceStandIn service(standInName, {"error " + ours, "error com.quillbay.test.Planned"});
+    std::promise<QString> error;
+    const RemoteRequest request{.method = QStringLiteral("count"), .payload = nullptr, .options = {}};
+    connection->remoteObjectProxy().send(
+        request, m_replies.handler(), [&error](const QString &message) { error.set_value(message); });
+    EXPECT_EQ(error.get_future().get(), QStringLiteral("planned"));
+    EXPECT_THAT(m_log.messages(LogLevel::Error), IsEmpty());
+    connection->remoteObjectProxy().send(
+        request, m_replies.handler(), [](const QString &) { FAIL() << "not of the interface"; });
+    waitForLogLines(1);
     EXPECT_EQ(m_replies.count(), 0U);
 }
 
