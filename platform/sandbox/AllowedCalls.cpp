@@ -107,7 +107,7 @@ std::vector<AllowedCall> allowedCalls(FileAccess files)
     if (files == FileAccess::Reading) {
         // Fonts are opened when a text needs them. The other access modes, O_PATH, O_CREAT, O_TRUNC and all
         // flags of the future stay out.
-        constexpr int allowedFlags = O_RDONLY | O_CLOEXEC | O_LARGEFILE;
+        constexpr int allowedFlags = O_CLOEXEC | O_LARGEFILE;
         calls.push_back(callWithout("openat", 2, ~quint64{allowedFlags}));
     }
     return calls;
