@@ -20,6 +20,7 @@ public:
     [[nodiscard]] std::optional<DocumentError::Cause> error() const;
     /// Whether a text was among the sections.
     [[nodiscard]] bool hasText() const { return m_hasText; }
+    void setHasText() { m_hasText = true; }
     [[nodiscard]] AttributedString takeText() { return m_content.takeText(); }
 
 private:

@@ -115,6 +115,11 @@ Failure readPackage(QByteArrayView bytes, OdtDocument &document)
         if (const Failure failure = readPart(package, part, document))
             return failure;
     }
+    // Templates of styles may have no text at all; LibreOffice installs such ones.
+    if (!package.contains("content.xml") && package.contains("styles.xml")) {
+        document.setHasText();
+        return std::nullopt;
+    }
     return readPart(package, "content.xml", document);
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/documents/LibreOffice.h"
 
+#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -32,6 +34,30 @@ QByteArray flatDocument(const LibreOffice::Document &document)
         + "</office:text></office:body></office:document>";
 }
 
+/// The target of a conversion.
+QString targetOf(const QString &extension)
+{
+    return extension == QStringLiteral("txt") ? QStringLiteral("txt:Text (encoded):UTF8,LF") : extension;
+}
+
+/// options: before the conversion.
+bool convertFiles(const QStringList &files, const QString &extension, const QString &folder,
+    const QStringList &options = {})
+{
+    const QStringList always{QStringLiteral("--headless"),
+        QStringLiteral("-env:UserInstallation=file://") + folder + QStringLiteral("/office")};
+    const QStringList conversion{
+        QStringLiteral("--convert-to"), targetOf(extension), QStringLiteral("--outdir"), folder};
+    QProcess office;
+    office.start(program(), always + options + conversion + files);
+    return office.waitForFinished(timeout);
+}
+
+QString withoutMark(const QString &text)
+{
+    return text.startsWith(QChar::ByteOrderMark) ? text.sliced(1) : text;
+}
+
 } // namespace
 
 bool LibreOffice::isInstalled()
@@ -46,23 +72,42 @@ QByteArray LibreOffice::convert(const Document &document, const QString &extensi
         return {};
     source.write(flatDocument(document));
     source.close();
-    const bool isText = extension == QStringLiteral("txt");
-    QProcess office;
     // Without the name of its filter it takes the document for a plain text of XML.
-    office.start(program(),
-        {QStringLiteral("--headless"),
-            QStringLiteral("-env:UserInstallation=file://") + folder + QStringLiteral("/office"),
-            QStringLiteral("--infilter=OpenDocument Text Flat XML"), QStringLiteral("--convert-to"),
-            isText ? QStringLiteral("txt:Text (encoded):UTF8,LF") : extension, QStringLiteral("--outdir"),
-            folder, source.fileName()});
+    const bool isConverted = convertFiles(
+        {source.fileName()}, extension, folder, {QStringLiteral("--infilter=OpenDocument Text Flat XML")});
     QFile made(folder + QStringLiteral("/document.") + extension);
-    if (!office.waitForFinished(timeout) || !made.open(QIODevice::ReadOnly))
+    if (!isConverted || !made.open(QIODevice::ReadOnly))
         return {};
     return made.readAll();
 }
 
 QString LibreOffice::textExport(const Document &document, const QString &folder)
 {
-    const QString text = QString::fromUtf8(convert(document, QStringLiteral("txt"), folder));
-    return text.startsWith(QChar::ByteOrderMark) ? text.sliced(1) : text;
+    return withoutMark(QString::fromUtf8(convert(document, QStringLiteral("txt"), folder)));
+}
+
+QHash<QString, QString> LibreOffice::textExports(const QStringList &files, const QString &folder)
+{
+    QHash<QString, QString> texts;
+    if (!convertFiles(files, QStringLiteral("txt"), folder))
+        return texts;
+    for (const QString &file : files) {
+        const QString name = QFileInfo(file).completeBaseName();
+        QFile made(folder + u'/' + name + QStringLiteral(".txt"));
+        if (made.open(QIODevice::ReadOnly))
+            texts.insert(name, withoutMark(QString::fromUtf8(made.readAll())));
+    }
+    return texts;
+}
+
+QStringList LibreOffice::templates()
+{
+    const QString office = QFileInfo(QFileInfo(program()).canonicalFilePath()).absolutePath();
+    QDirIterator files(office + QStringLiteral("/../share/template"), {QStringLiteral("*.ott")}, QDir::Files,
+        QDirIterator::Subdirectories);
+    QStringList paths;
+    while (files.hasNext())
+        paths.append(files.next());
+    paths.sort();
+    return paths;
 }

@@ -4,7 +4,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
+#include <QStringList>
 
 namespace LibreOffice {
 
@@ -24,5 +26,11 @@ QByteArray convert(const Document &document, const QString &extension, const QSt
 
 /// The text export, without its byte order mark.
 QString textExport(const Document &document, const QString &folder);
+
+/// The text exports of documents in files, by the names of the files without their extensions.
+QHash<QString, QString> textExports(const QStringList &files, const QString &folder);
+
+/// Its templates of texts; empty if they are not installed.
+QStringList templates();
 
 } // namespace LibreOffice

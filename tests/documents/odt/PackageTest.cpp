@@ -100,6 +100,14 @@ TEST(OdtPackage, WithoutContentIsDamaged)
     EXPECT_EQ(causeFor(simple.flat().chopped(10)), Cause::Damaged);
 }
 
+TEST(OdtPackage, OfStylesAloneIsEmpty)
+{
+    ZipWriter zip;
+    zip.add({.name = "mimetype", .contents = simple.mimeType});
+    zip.add({.name = "styles.xml", .contents = "<styles/>"});
+    EXPECT_TRUE(readOpenDocument(zip.archive()).value().isEmpty());
+}
+
 TEST(OdtPackage, ReadsWithADamagedOrMissingManifest)
 {
     ZipWriter zip = simple.writer();
