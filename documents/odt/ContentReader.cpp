@@ -7,6 +7,7 @@ namespace {
 
 constexpr size_t maxStories = 20; // inside each other; each one copies the text of those in it
 constexpr qint64 maxSpaces = 1'000'000; // of a document, in elements that stand for many
+constexpr int maxObjects = 20'000; // each one takes time, however short
 constexpr char16_t lineBreak[] = u"\u2028";
 
 /// Whether a section, or the text of a field, is not on the page.
@@ -85,6 +86,8 @@ void ContentReader::startElement(const XmlElement &element)
         return;
     if (m_error)
         skipElement();
+    else if (m_formula)
+        m_formula->startElement(element);
     else if (!m_scopes.empty() && m_scopes.back().scope == Scope::Changes)
         readChange(element);
     else if (followChange(element))
@@ -95,10 +98,12 @@ void ContentReader::startElement(const XmlElement &element)
         startBlock(element);
 }
 
-void ContentReader::endElement(XmlName)
+void ContentReader::endElement(XmlName name)
 {
     if (m_skippedDepth == m_depth)
         m_skippedDepth = 0;
+    else if (m_skippedDepth == 0 && m_formula && !m_formula->isAtEnd())
+        m_formula->endElement(name);
     while (!m_scopes.empty() && m_scopes.back().depth == m_depth) {
         const Scope scope = m_scopes.back().scope;
         m_scopes.pop_back();
@@ -133,12 +138,17 @@ void ContentReader::leave(Scope scope)
     case Scope::Endnote:
         m_stories.endNote(StoryStack::Note::Endnote);
         break;
+    case Scope::Object:
+        endObject();
+        break;
     }
 }
 
 void ContentReader::characters(QByteArrayView text)
 {
-    if (m_skippedDepth == 0 && m_stories.isInParagraph())
+    if (m_skippedDepth == 0 && m_formula)
+        m_formula->characters(text);
+    else if (m_skippedDepth == 0 && m_stories.isInParagraph())
         m_stories.appendCollapsed(QString::fromUtf8(text));
 }
 
@@ -152,6 +162,9 @@ void ContentReader::startBlock(const XmlElement &element)
     case "text:list"_odf:
         m_stories.beginList(styleOf(element));
         enter(Scope::List);
+        break;
+    case "draw:object"_odf:
+        beginObject(element);
         break;
     case "text:tracked-changes"_odf:
         enter(Scope::Changes);
@@ -285,6 +298,34 @@ bool ContentReader::beginStory(Scope scope)
     m_stories.beginStory();
     enter(scope);
     return true;
+}
+
+void ContentReader::beginObject(const XmlElement &element)
+{
+    if (m_stories.depth() == 0 || ++m_objects > maxObjects) {
+        if (m_objects > maxObjects)
+            m_error = DocumentError::Cause::TooComplex;
+        skipElement();
+        return;
+    }
+    m_stories.suspendStory();
+    enter(Scope::Object);
+    if (!m_stories.isInParagraph()) {
+        skipElement();
+        return;
+    }
+    m_formula.emplace(m_stories);
+    // A flat document has the formula within the element, a package in another part.
+    if (const auto name = odfAttribute(element, "xlink:href"_odf)) {
+        FormulaReader formula(m_stories);
+        m_readObject(name->startsWith("./") ? name->sliced(2).toByteArray() : name->toByteArray(), formula);
+    }
+}
+
+void ContentReader::endObject()
+{
+    m_formula.reset();
+    m_stories.resumeStory();
 }
 
 void ContentReader::appendSpaces(const XmlElement &element)

@@ -3,18 +3,24 @@
 // elements are text. Assembling paragraphs is left to StoryStack. Thread: one at a time.  Owner: OdtDocument.
 #pragma once
 
+#include "documents/odt/FormulaReader.h"
 #include "documents/odt/StoryStack.h"
 
 #include <QSet>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
 class ContentReader final : public XmlHandler {
 public:
+    /// Passes the content of an object of the package to a handler, if there is one. name: of its folder.
+    using ReadObject = std::function<void(const QByteArray &name, XmlHandler &handler)>;
+
     /// Styles must have been read when the first element arrives.
-    explicit ContentReader(const Styles &styles)
+    ContentReader(const Styles &styles, ReadObject readObject)
         : m_stories(styles)
+        , m_readObject(std::move(readObject))
     {
     }
 
@@ -28,7 +34,7 @@ public:
     [[nodiscard]] std::optional<DocumentError::Cause> error() const { return m_error; }
 
 private:
-    enum class Scope { Changes, Paragraph, Run, List, Cell, TextBox, Footnote, Endnote };
+    enum class Scope { Changes, Paragraph, Run, List, Cell, TextBox, Footnote, Endnote, Object };
 
     void startBlock(const XmlElement &element);
     void startInline(const XmlElement &element);
@@ -37,6 +43,9 @@ private:
     /// Returns false, and skips the element, if the story is hidden or too deep.
     bool beginStory(Scope scope);
     void appendSpaces(const XmlElement &element);
+    /// An object that is a formula is text of the paragraph that contains its frame.
+    void beginObject(const XmlElement &element);
+    void endObject();
     void readChange(const XmlElement &element);
     /// Returns whether the element is the start or the end of a change, which may be anywhere.
     bool followChange(const XmlElement &element);
@@ -50,6 +59,9 @@ private:
     };
 
     StoryStack m_stories;
+    ReadObject m_readObject;
+    std::optional<FormulaReader> m_formula; // set within an object
+    int m_objects = 0;
     int m_depth = 0;
     int m_skippedDepth = 0; // of the outermost skipped element; 0 if there is none
     std::vector<OpenScope> m_scopes; // innermost last

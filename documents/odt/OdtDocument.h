@@ -8,6 +8,11 @@
 
 class OdtDocument final : public XmlHandler {
 public:
+    explicit OdtDocument(ContentReader::ReadObject readObject)
+        : m_content(m_styles, std::move(readObject))
+    {
+    }
+
     /// Call before another part of the package. The automatic styles beside the styles of a package are those
     /// of headers and footers, and are left out.
     void beginPart(bool hasAutomaticStyles);
@@ -20,7 +25,6 @@ public:
     [[nodiscard]] std::optional<DocumentError::Cause> error() const;
     /// Whether a text was among the sections.
     [[nodiscard]] bool hasText() const { return m_hasText; }
-    void setHasText() { m_hasText = true; }
     [[nodiscard]] AttributedString takeText() { return m_content.takeText(); }
 
 private:
@@ -32,7 +36,7 @@ private:
 
     Styles m_styles;
     StylesReader m_stylesReader{m_styles};
-    ContentReader m_content{m_styles};
+    ContentReader m_content;
     Section m_section = Section::None;
     int m_depth = 0;
     int m_sectionDepth = 0; // of the open section

@@ -97,7 +97,7 @@ Failure readPart(const ZipPackage &package, const QByteArray &name, OdtDocument 
     return failure ? failure : document.error();
 }
 
-Failure readPackage(QByteArrayView bytes, OdtDocument &document)
+Result<AttributedString, Cause> readPackage(QByteArrayView bytes)
 {
     ReadAllowance allowance;
     const Result<ZipPackage, Cause> opened = ZipPackage::open(bytes, allowance);
@@ -108,26 +108,35 @@ Failure readPackage(QByteArrayView bytes, OdtDocument &document)
         return Cause::Encrypted;
     if (!isTextType(mimeTypeOf(package)) && package.contains("mimetype"))
         return Cause::WrongKind;
-    // The text needs the settings and the styles.
-    for (const char *part : {"settings.xml", "styles.xml"}) {
-        if (!package.contains(part))
+    OdtDocument document([&package](const QByteArray &name, XmlHandler &handler) {
+        XmlNamespaces namespaces(odfNamespaces());
+        const QByteArray part = name + "/content.xml";
+        if (package.contains(part))
+            (void)readXmlPart(package, part, namespaces, handler); // a damaged object is not worth the text
+    });
+    // The text needs the settings and the styles. Templates of styles may have no text at all; LibreOffice
+    // installs such ones.
+    const bool hasStyles = package.contains("styles.xml");
+    for (const char *part : {"settings.xml", "styles.xml", "content.xml"}) {
+        const bool isNeeded = part == QByteArrayView("content.xml") && !hasStyles;
+        if (!isNeeded && !package.contains(part))
             continue;
         if (const Failure failure = readPart(package, part, document))
-            return failure;
+            return *failure;
     }
-    // Templates of styles may have no text at all; LibreOffice installs such ones.
-    if (!package.contains("content.xml") && package.contains("styles.xml")) {
-        document.setHasText();
-        return std::nullopt;
-    }
-    return readPart(package, "content.xml", document);
+    if (package.contains("content.xml") && !document.hasText())
+        return Cause::WrongKind;
+    return document.takeText();
 }
 
-Failure readFlatDocument(QByteArrayView bytes, OdtDocument &document)
+Result<AttributedString, Cause> readFlatDocument(QByteArrayView bytes)
 {
     if (bytes.size() > maxDocumentLength)
         return Cause::TooLong;
+    if (!isFlatDocument(bytes))
+        return Cause::WrongKind;
     constexpr qsizetype pieceLength = 65'536;
+    OdtDocument document([](const QByteArray &, XmlHandler &) {});
     XmlNamespaces namespaces(odfNamespaces());
     XmlParser parser(namespaces, document);
     for (QByteArrayView rest = bytes; !rest.isEmpty();) {
@@ -136,18 +145,9 @@ Failure readFlatDocument(QByteArrayView bytes, OdtDocument &document)
             break;
         rest = rest.sliced(piece.size());
     }
-    const Failure failure = parser.finish();
-    return failure ? failure : document.error();
-}
-
-Result<AttributedString, Cause> textOf(QByteArrayView bytes)
-{
-    OdtDocument document;
-    const bool isPackage = bytes.startsWith("PK");
-    if (!isPackage && !isFlatDocument(bytes))
-        return Cause::WrongKind;
-    const Failure failure = isPackage ? readPackage(bytes, document) : readFlatDocument(bytes, document);
-    if (failure)
+    if (const Failure failure = parser.finish())
+        return *failure;
+    if (const Failure failure = document.error())
         return *failure;
     if (!document.hasText())
         return Cause::WrongKind;
@@ -175,7 +175,8 @@ bool looksLikeOpenDocument(QByteArrayView bytes)
 Result<AttributedString, DocumentError> readOpenDocument(QByteArrayView bytes)
 {
     try {
-        Result<AttributedString, Cause> text = textOf(bytes);
+        Result<AttributedString, Cause> text =
+            bytes.startsWith("PK") ? readPackage(bytes) : readFlatDocument(bytes);
         if (text)
             return std::move(text).value();
         return DocumentError(text.error(), DocumentKind::OpenDocument);

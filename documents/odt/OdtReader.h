@@ -13,11 +13,14 @@
 //  tabulator
 //    U+0009. Symbols of the font Symbol become the characters that they show.
 //  - Fields are replaced by the text that they showed last, ruby by its base text. Indexes are text.
+//    Formulas are their numbers, names and operators, with a space (U+0020) around each part of a fraction
+//    and each cell of a matrix.
 //  - A text box appears once, after the paragraph that anchors it, and where it is anchored to a page, at the
 //  place of
 //    its element.
 //  - Not text are deleted and hidden text, hidden sections, headers, footers, comments, pictures with their
-//    alternative texts, formulas, charts and other objects, and the numbers of lists, headings and notes. A
+//    alternative texts, charts and other
+//    objects, and the numbers of lists, headings and notes. A
 //    paragraph disappears if all of its text is hidden.
 //
 // Fonts and paragraph styles combine the default styles, the named and automatic styles with what they

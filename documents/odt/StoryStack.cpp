@@ -15,6 +15,18 @@ bool isXmlSpace(QChar unit)
 
 } // namespace
 
+void StoryStack::suspendStory()
+{
+    m_suspended = std::move(m_stories.back());
+    m_stories.pop_back();
+}
+
+void StoryStack::resumeStory()
+{
+    m_stories.push_back(std::move(*m_suspended));
+    m_suspended.reset();
+}
+
 AttributedString StoryStack::endStory()
 {
     finishPending();

@@ -27,6 +27,9 @@ public:
     /// Stories within the body that are open.
     [[nodiscard]] size_t depth() const { return m_stories.size() - 1; }
     void beginStory() { m_stories.emplace_back(); }
+    /// Between the two, the story around the innermost one is open again.
+    void suspendStory();
+    void resumeStory();
     /// The text of the innermost story follows the paragraph that contains it.
     void endTextBox();
     /// The text of the innermost story follows the body.
@@ -53,6 +56,8 @@ public:
     void hideParagraph() { paragraph().isHidden = true; }
     /// Appends text with its white space.
     void append(QStringView text);
+    /// See ParagraphText.
+    void requireSpace() { paragraph().text.requireSpace(); }
     /// Appends text with a space in place of each stretch of white space, and none at the start of the
     /// paragraph.
     void appendCollapsed(QStringView text);
@@ -97,6 +102,7 @@ private:
 
     const Styles &m_styles;
     std::vector<Story> m_stories; // innermost last
+    std::optional<Story> m_suspended;
     AttributedStringBuilder m_footnotes;
     AttributedStringBuilder m_endnotes;
     bool m_isDeleting = false;

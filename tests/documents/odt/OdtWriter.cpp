@@ -14,6 +14,7 @@ const QByteArray namespaces = " xmlns:office='urn:oasis:names:tc:opendocument:xm
                               " xmlns:loext='urn:org:documentfoundation:names:experimental:office:xmlns:"
                               "loext:1.0'"
                               " xmlns:dc='http://purl.org/dc/elements/1.1/'"
+                              " xmlns:math='http://www.w3.org/1998/Math/MathML'"
                               " xmlns:xlink='http://www.w3.org/1999/xlink' office:version='1.3'";
 
 QByteArray section(const char *name, const QByteArray &contents)

@@ -171,6 +171,32 @@ TEST(OdtText, ReadsTheBaseOfRuby)
         u"base\n");
 }
 
+TEST(OdtText, ReadsFormulas)
+{
+    const QByteArray formula = "<math:math><math:semantics><math:mrow><math:mi>x</math:mi><math:mo> = "
+                               "</math:mo><math:mfrac><math:mn>3"
+                               "</math:mn><math:mn>4</math:mn></"
+                               "math:mfrac><math:mtable><math:mtr><math:mtd><math:mi>a</math:mi></math:mtd>"
+                               "<math:mtd><math:mi>b</math:mi></math:mtd></math:mtr></math:mtable></"
+                               "math:mrow><math:annotation>source"
+                               "</math:annotation></math:semantics></math:math>";
+    const auto paragraph = [](const QByteArray &object) {
+        return "<text:p>let <draw:frame>" + object + "<draw:image/></draw:frame>be</text:p>";
+    };
+    const QString expected = QStringLiteral("let x= 3 4 a b be\n");
+    EXPECT_EQ(textOfBody(paragraph("<draw:object>" + formula + "</draw:object>")), expected);
+    ZipWriter zip = OpenDocumentText{.body = paragraph("<draw:object xlink:href='./Object 1'/>")
+            + paragraph("<draw:object xlink:href='Chart'/>")
+            + paragraph("<draw:object xlink:href='missing'/>")}
+                        .writer();
+    zip.add({.name = "Object 1/content.xml",
+        .contents = QByteArray(formula).replace(
+            "<math:math>", "<math:math xmlns:math='http://www.w3.org/1998/Math/MathML'>")});
+    zip.add({.name = "Chart/content.xml", .contents = "<chart>text</chart>"});
+    EXPECT_EQ(
+        readOpenDocument(zip.archive()).value().string(), expected + QStringLiteral("let be\nlet be\n"));
+}
+
 TEST(OdtText, ReadsIndexesWithoutTheirSources)
 {
     EXPECT_EQ(
