@@ -2,11 +2,30 @@
 #include "platform/styled_text/AttributedString.h"
 
 #include <algorithm>
+#include <utility>
 
 AttributedString::AttributedString(const QString &text, const TextAttributes &attributes)
 {
     if (!text.isEmpty())
         m_content = std::make_shared<const Content>(Content{text, {{0, 0}}, {attributes}});
+}
+
+std::optional<AttributedString> AttributedString::fromParts(
+    QString text, std::vector<RunStart> runs, std::vector<TextAttributes> attributes)
+{
+    if (text.isEmpty())
+        return runs.empty() && attributes.empty() ? std::optional(AttributedString()) : std::nullopt;
+    if (runs.empty() || runs.front().start != 0 || runs.back().start >= text.size()
+        || attributes.size() > runs.size())
+        return std::nullopt;
+    for (size_t i = 0; i < runs.size(); ++i) {
+        const bool isInOrder = i == 0
+            || (runs[i - 1].start < runs[i].start && runs[i - 1].attributesIndex != runs[i].attributesIndex);
+        if (!isInOrder || runs[i].attributesIndex >= attributes.size())
+            return std::nullopt;
+    }
+    return AttributedString(
+        std::make_shared<const Content>(Content{std::move(text), std::move(runs), std::move(attributes)}));
 }
 
 const AttributedString::Content &AttributedString::content() const
@@ -27,7 +46,7 @@ qsizetype AttributedString::runCount() const
 
 AttributedString::Run AttributedString::run(qsizetype index) const
 {
-    const std::vector<StoredRun> &runs = content().runs;
+    const std::vector<RunStart> &runs = content().runs;
     const auto at = static_cast<size_t>(index);
     const qsizetype end = at + 1 < runs.size() ? runs[at + 1].start : length();
     return {runs[at].start, end - runs[at].start, runs[at].attributesIndex};
@@ -35,9 +54,9 @@ AttributedString::Run AttributedString::run(qsizetype index) const
 
 qsizetype AttributedString::runIndexAt(qsizetype position) const
 {
-    const std::vector<StoredRun> &runs = content().runs;
+    const std::vector<RunStart> &runs = content().runs;
     const auto after = std::upper_bound(runs.begin(), runs.end(), position,
-        [](qsizetype wanted, const StoredRun &run) { return wanted < run.start; });
+        [](qsizetype wanted, const RunStart &run) { return wanted < run.start; });
     return after - runs.begin() - 1;
 }
 

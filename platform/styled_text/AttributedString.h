@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// The character that represents an attachment in the text.
@@ -26,8 +27,18 @@ public:
         quint32 attributesIndex; ///< into distinctAttributes(): equal index, equal attributes
     };
 
+    /// Reaches to the start of the next run, or to the end of the text.
+    struct RunStart {
+        qsizetype start;
+        quint32 attributesIndex;
+    };
+
     AttributedString() = default;
     explicit AttributedString(const QString &text, const TextAttributes &attributes = {});
+    /// Absent unless the runs are as described above and each refers to one of the attributes. Whether these
+    /// are distinct is left to the caller.
+    static std::optional<AttributedString> fromParts(
+        QString text, std::vector<RunStart> runs, std::vector<TextAttributes> attributes);
 
     [[nodiscard]] const QString &string() const;
     [[nodiscard]] qsizetype length() const { return string().size(); }
@@ -48,13 +59,9 @@ public:
 
 private:
     friend class AttributedStringBuilder;
-    struct StoredRun {
-        qsizetype start;
-        quint32 attributesIndex;
-    };
     struct Content {
         QString text;
-        std::vector<StoredRun> runs;
+        std::vector<RunStart> runs;
         std::vector<TextAttributes> attributes;
     };
     explicit AttributedString(std::shared_ptr<const Content> content)
