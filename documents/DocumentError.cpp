@@ -64,11 +64,11 @@ QString textOfComplexity(DocumentKind kind)
     switch (kind) {
     case DocumentKind::WordDocument:
     case DocumentKind::OpenDocument:
-        return QStringLiteral("is too complex; save it again with a word processor");
+        return QStringLiteral("takes too much time or memory to read; save it again with a word processor");
     case DocumentKind::Pdf:
         return QStringLiteral("takes too much time or memory to read; print it to a new PDF file first");
     default:
-        return QStringLiteral("is too complex; simplify it");
+        return QStringLiteral("takes too much time or memory to read; simplify or divide it");
     }
 }
 
@@ -133,9 +133,9 @@ QString causeText(const DocumentError &error)
         return textOfComplexity(error.kind);
     case Cause::PdfNotSupported:
         return QStringLiteral("is a PDF file, which is not supported here; count it with 'quillbay count'");
-    case Cause::NoPdfReader:
-        return QStringLiteral("needs the program quillbay-pdf-reader, which is missing or does not start; "
-                              "reinstall Quillbay");
+    case Cause::NoReader:
+        return QStringLiteral("needs the program quillbay-document-reader, which is missing or does not "
+                              "start; reinstall Quillbay");
     case Cause::NoSandbox:
         return QStringLiteral("cannot be read safely, as the system refuses the filter of system calls; "
                               "allow seccomp in the kernel or container");

@@ -31,7 +31,7 @@ struct DocumentError {
         TooDeep, ///< a web page has more than 1000 elements inside each other
         TooComplex, ///< reading it takes time or memory out of proportion to its length
         PdfNotSupported, ///< the options leave PDF files out
-        NoPdfReader, ///< the program that reads PDF files is missing or does not start
+        NoReader, ///< the program that reads documents is missing or does not start
         NoSandbox, ///< the system does not confine the process that would read it
         NotEnoughMemory,
     };

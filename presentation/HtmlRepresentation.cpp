@@ -2,12 +2,17 @@
 // The statistics of WordCounterViewController as HTML and styled text, for the clipboard and other programs.
 #include "presentation/WordCounterViewController.h"
 
-#include "documents/reading/DocumentReader.h"
+#include "documents/loading/SandboxedReader.h"
+
+namespace {
+
+const auto lineBreak = QStringLiteral("</br>");
+
+} // namespace
 
 QString WordCounterViewController::htmlRepresentationWithTitle(
     const std::optional<QString> &title, bool fullHTMLDocument) const
 {
-    const auto lineBreak = QStringLiteral("</br>");
     QString html;
     if (title)
         html += QStringLiteral("<strong>") + *title + QStringLiteral("</strong>") + lineBreak;
@@ -32,7 +37,7 @@ std::optional<AttributedString> WordCounterViewController::attributedStringRepre
     const QString html = htmlRepresentationWithTitle(title, true);
     if (!html.isValidUtf16())
         return std::nullopt;
-    auto text = readDocument(DocumentKind::Html, html.toUtf8(), {.charset = "utf-8"});
+    auto text = SandboxedReader::shared().read(DocumentKind::Html, html.toUtf8(), {.charset = "utf-8"});
     if (!text)
         return std::nullopt;
     return std::move(text).value();
@@ -44,8 +49,9 @@ MimeContent WordCounterViewController::statisticsToCopy() const
         return {}; // not counted yet
     MimeContent content{
         {QStringLiteral("text/html"), htmlRepresentationWithTitle(std::nullopt, true).toUtf8()}};
-    if (const auto text = attributedStringRepresentationWithTitle(std::nullopt))
-        content.emplace(QStringLiteral("text/plain"), text->string().toUtf8());
+    // The lines as they are: the user waits for no other process.
+    content.emplace(QStringLiteral("text/plain"),
+        htmlRepresentationWithTitle(std::nullopt, false).replace(lineBreak, QStringLiteral("\n")).toUtf8());
     return content;
 }
 

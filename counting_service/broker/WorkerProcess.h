@@ -5,8 +5,8 @@
 // Thread: main, which must be the thread that started the process.  Owner: WorkerPool.
 #pragma once
 
-#include "counting_service/protocol/PacketSocket.h"
 #include "counting_service/protocol/WorkerMessages.h"
+#include "platform/system/PacketSocket.h"
 
 #include <QByteArrayList>
 #include <QObject>

@@ -6,6 +6,7 @@
 
 #include "counting_service/protocol/CountFailure.h"
 #include "platform/sandbox/Sandbox.h"
+#include "platform/system/PacketSocket.h"
 #include "platform/system/Result.h"
 #include "text_statistics/CountingRules.h"
 #include "text_statistics/QBYWordCounterStats.h"
@@ -20,7 +21,7 @@ namespace WorkerMessages {
 /// Part of every message. Broker and workers are the same program, so other versions are rejected.
 inline constexpr quint16 version = 2;
 /// Bytes; longer messages are rejected.
-inline constexpr qsizetype maxLength = 512;
+inline constexpr qsizetype maxLength = maxPacketLength;
 /// Bytes; real names of charsets are shorter.
 inline constexpr qsizetype maxCharsetLength = 64;
 

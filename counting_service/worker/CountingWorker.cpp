@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "counting_service/worker/CountingWorker.h"
 
-#include "counting_service/protocol/PacketSocket.h"
 #include "documents/reading/DocumentReader.h"
 #include "platform/locale/CurrentLocale.h"
+#include "platform/system/PacketSocket.h"
 #include "platform/system/SealedMemory.h"
 #include "text_statistics/MeasuringSurface.h"
 

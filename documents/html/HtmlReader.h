@@ -32,6 +32,7 @@
 #pragma once
 
 #include "documents/DocumentError.h"
+#include "documents/html/HtmlSignature.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
@@ -42,10 +43,6 @@ struct HtmlOptions {
     QByteArray charset; ///< from a MIME type or an HTTP header; ignored if empty or unknown
     bool isXhtml = false; ///< the page is known to be XML; see XhtmlSource.h
 };
-
-/// Whether the bytes begin with an HTML doctype or an html tag, after an optional byte order mark, white
-/// space, comments and an XML declaration. Supports UTF-16 and supersets of ASCII. Reads at most 64 KiB.
-bool looksLikeHtml(QByteArrayView bytes);
 
 /// Accepts any sequence of bytes. encodingOfPage() determines the encoding from a byte order mark, the
 /// options, declarations in the page and its bytes.

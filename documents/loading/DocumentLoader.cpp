@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "documents/loading/DocumentLoader.h"
 
+#include "documents/loading/PdfText.h"
+#include "documents/loading/SandboxedReader.h"
 #include "documents/reading/KindDetection.h"
-#include "documents/rtfd/RtfdReader.h"
+#include "documents/rtfd/RtfdPackage.h"
 #include "platform/files/FileContents.h"
 
 namespace {
@@ -15,11 +17,29 @@ Result<AttributedString, DocumentError> readContents(
     return readBytes(contents.value(), path, options);
 }
 
+Result<AttributedString, DocumentError> loadPackage(const QByteArray &path)
+{
+    const Result<QByteArray, DocumentError> bytes = flatRtfdOfPackage(path);
+    return bytes ? SandboxedReader::shared().read(DocumentKind::Rtfd, bytes.value()) : bytes.error();
+}
+
+Result<AttributedString, DocumentError> readPdfFile(QByteArrayView bytes, const ReadOptions &options)
+{
+    if (!options.readsPdf)
+        return DocumentError(DocumentError::Cause::PdfNotSupported, DocumentKind::Pdf);
+    Result<AttributedString, DocumentError> text =
+        SandboxedReader::shared().read(DocumentKind::Pdf, bytes, options);
+    if (!text)
+        return text;
+    const std::optional<DocumentError::Cause> fault = faultOfPdfText(text.value().string());
+    return fault ? DocumentError(*fault, DocumentKind::Pdf) : std::move(text);
+}
+
 } // namespace
 
 Result<AttributedString, DocumentError> loadDocument(const QByteArray &path, const ReadOptions &options)
 {
-    return isRtfdPackage(path) ? readRtfdPackage(path) : readContents(readFile(path), path, options);
+    return isRtfdPackage(path) ? loadPackage(path) : readContents(readFile(path), path, options);
 }
 
 Result<AttributedString, DocumentError> loadDocument(int descriptor, const ReadOptions &options)
@@ -30,5 +50,7 @@ Result<AttributedString, DocumentError> loadDocument(int descriptor, const ReadO
 Result<AttributedString, DocumentError> readBytes(
     QByteArrayView bytes, const QByteArray &path, const ReadOptions &options)
 {
-    return readDocument(kindOfDocument(path, bytes), bytes, options);
+    const DocumentKind kind = kindOfDocument(path, bytes);
+    return kind == DocumentKind::Pdf ? readPdfFile(bytes, options)
+                                     : SandboxedReader::shared().read(kind, bytes, options);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // DocumentLoader turns documents on disk into styled text, whatever their kind. KindDetection finds out the
-// kind, and DocumentReader reads the bytes.
-// Thread: any.
+// kind, and SandboxedReader reads the bytes in another process.
+// Thread: any. Blocks until the document is read.
 #pragma once
 
 #include "documents/reading/DocumentReader.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/loading/PasteboardText.h"
 
-#include "documents/reading/DocumentReader.h"
+#include "documents/loading/SandboxedReader.h"
 #include "platform/pasteboard/MediaType.h"
 #include "platform/text_encoding/EncodingLabels.h"
 
@@ -24,7 +24,7 @@ std::optional<AttributedString> readFormOf(DocumentKind kind, const Pasteboard::
                 || (encodingOfLabel(type.charset) != nullptr) != isCharsetKnown)
                 continue;
             if (Result<AttributedString, DocumentError> text =
-                    readDocument(kind, bytes, {.charset = type.charset}))
+                    SandboxedReader::shared().read(kind, bytes, {.charset = type.charset}))
                 return std::move(text).value();
         }
     }

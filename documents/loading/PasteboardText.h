@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // PasteboardText reads the content of a pasteboard as styled text.
-// Thread: any.
+// Thread: any. Blocks until the content is read.
 #pragma once
 
 #include "platform/pasteboard/Pasteboard.h"

@@ -8,6 +8,8 @@
 
 #include <QByteArray>
 
+#include <functional>
+
 /// Remembers the last text and the bytes that it was made of. Every load reads all bytes; times and sizes of
 /// files are not trusted.
 class RepeatedLoader {
@@ -29,6 +31,10 @@ public:
 private:
     Result<AttributedString, DocumentError> loadFile(const QByteArray &path);
     Result<AttributedString, DocumentError> loadPackage(const QByteArray &path);
+    /// read: called where the bytes are not those of the last time.
+    Result<AttributedString, DocumentError> readUnlessRemembered(const QByteArray &path,
+        const QByteArray &bytes,
+        const std::function<Result<AttributedString, DocumentError>(const QByteArray &)> &read);
     [[nodiscard]] bool remembers(const QByteArray &path, const QByteArray &bytes) const;
     void remember(const QByteArray &path, const QByteArray &bytes, const AttributedString &text);
 

@@ -6,7 +6,6 @@
 #include "documents/epub/EpubReader.h"
 #include "documents/html/HtmlReader.h"
 #include "documents/odt/OdtReader.h"
-#include "documents/pdf/PdfReader.h"
 #include "documents/rtf/RtfReader.h"
 #include "documents/rtfd/RtfdReader.h"
 
@@ -38,19 +37,9 @@ Text readWordDocument(QByteArrayView bytes, const ReadOptions &)
     });
 }
 
-Text readPdfFile(QByteArrayView bytes, const ReadOptions &options)
+Text refusePdfFile(QByteArrayView, const ReadOptions &)
 {
-    if (!options.readsPdf)
-        return DocumentError(DocumentError::Cause::PdfNotSupported, DocumentKind::Pdf);
-    Text text = readPdf(bytes);
-    if (!text)
-        return text;
-    const QStringView characters = text.value().string();
-    if (characters.trimmed().isEmpty())
-        return DocumentError(DocumentError::Cause::NoText, DocumentKind::Pdf);
-    if (isUnmapped(characters))
-        return DocumentError(DocumentError::Cause::UnmappedText, DocumentKind::Pdf);
-    return text;
+    return DocumentError(DocumentError::Cause::PdfNotSupported, DocumentKind::Pdf);
 }
 
 struct Reader {
@@ -67,7 +56,7 @@ constexpr std::array readers{
             return readHtml(bytes, {.charset = options.charset});
         }},
     Reader{DocumentKind::WordDocument, readWordDocument},
-    Reader{DocumentKind::Pdf, readPdfFile},
+    Reader{DocumentKind::Pdf, refusePdfFile},
     Reader{DocumentKind::OpenDocument,
         [](QByteArrayView bytes, const ReadOptions &) { return readOpenDocument(bytes); }},
     Reader{DocumentKind::Epub, [](QByteArrayView bytes, const ReadOptions &) { return readEpub(bytes); }},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// DocumentReader is the one entrance to the readers of all kinds: all code that has the bytes of a document
-// reads them here, wherever they come from. KindDetection finds out their kind.
+// DocumentReader is the one entrance to the readers of all kinds. Only processes in a sandbox call it: the
+// program quillbay-document-reader, and the workers of the counting service. All others read documents with
+// SandboxedReader. KindDetection finds out the kind.
 // Thread: any.
 #pragma once
 
@@ -16,13 +17,11 @@ struct ReadOptions {
     /// Of plain text and web pages: the encoding, as a MIME type or a transfer's header names it. Empty or
     /// unknown: detected from the bytes. The other kinds say it themselves.
     QByteArray charset = {};
-    /// Each PDF file is read by a program of its own; without this option, reading one fails as
-    /// PdfNotSupported.
+    /// For DocumentLoader: without this option, reading a PDF file fails as PdfNotSupported.
     bool readsPdf = false;
 };
 
-/// The text of a document. A plain text has no attributes. A PDF file without text on any page fails as
-/// NoText, so that a scan is not taken for an empty document, and one whose text is not characters fails as
-/// UnmappedText. What each kind counts as text, the header of its reader says.
+/// The text of a document. A plain text has no attributes. A PDF file fails as PdfNotSupported: only
+/// quillbay-document-reader links Qt Pdf. What each kind counts as text, the header of its reader says.
 Result<AttributedString, DocumentError> readDocument(
     DocumentKind kind, QByteArrayView bytes, const ReadOptions &options = {});

@@ -4,10 +4,10 @@
 #include "documents/docx/DocxReader.h"
 #include "documents/docx/FlatDocument.h"
 #include "documents/epub/EpubReader.h"
-#include "documents/html/HtmlReader.h"
+#include "documents/html/HtmlSignature.h"
 #include "documents/odt/OdtReader.h"
-#include "documents/rtf/RtfReader.h"
-#include "documents/rtfd/RtfdReader.h"
+#include "documents/rtf/RtfSignature.h"
+#include "documents/rtfd/RtfdPackage.h"
 
 #include <QMimeDatabase>
 

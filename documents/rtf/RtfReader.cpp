@@ -6,25 +6,6 @@
 
 #include <new>
 
-namespace {
-
-QByteArrayView skipLead(QByteArrayView bytes)
-{
-    constexpr QByteArrayView mark("\xEF\xBB\xBF");
-    if (bytes.startsWith(mark))
-        bytes = bytes.sliced(mark.size());
-    while (!bytes.isEmpty() && QByteArrayView(" \t\r\n").contains(bytes.front()))
-        bytes = bytes.sliced(1);
-    return bytes;
-}
-
-} // namespace
-
-bool looksLikeRtf(QByteArrayView bytes)
-{
-    return skipLead(bytes).startsWith("{\\rtf");
-}
-
 Result<AttributedString, DocumentError> readRtf(QByteArrayView bytes, const AttachmentSource &attachments)
 {
     if (!looksLikeRtf(bytes))
@@ -32,7 +13,7 @@ Result<AttributedString, DocumentError> readRtf(QByteArrayView bytes, const Atta
     if (bytes.size() > maxDocumentLength)
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtf);
     try {
-        return RtfInterpreter(attachments).readText(RtfTokenizer(skipLead(bytes)));
+        return RtfInterpreter(attachments).readText(RtfTokenizer(rtfWithoutLead(bytes)));
     } catch (const std::bad_alloc &) {
         return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtf);
     }

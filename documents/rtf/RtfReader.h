@@ -5,6 +5,7 @@
 #pragma once
 
 #include "documents/DocumentError.h"
+#include "documents/rtf/RtfSignature.h"
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/Result.h"
 
@@ -14,10 +15,6 @@
 
 /// Returns the attachment of a stored name; null if there is none. Called once for each name in a document.
 using AttachmentSource = std::function<std::shared_ptr<const Attachment>(const QString &storedName)>;
-
-/// Whether the bytes begin with "{\rtf", or with a UTF-8 byte order mark or white space before it, which some
-/// editors and mail programs add.
-bool looksLikeRtf(QByteArrayView bytes);
 
 /// Everything that looks like RTF is read as far as possible: missing braces at the end are assumed, and data
 /// after the brace that closes the document is ignored. Takes time and memory proportional to the length.

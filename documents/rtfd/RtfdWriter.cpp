@@ -2,11 +2,11 @@
 #include "documents/rtfd/RtfdWriter.h"
 
 #include "documents/rtfd/FlatFolder.h"
+#include "documents/rtfd/FlatFolderWriter.h"
 #include "platform/styled_text/TextAttributes.h"
 
 #include <QHash>
 #include <QSet>
-#include <QtEndian>
 
 #include <algorithm>
 #include <new>
@@ -130,69 +130,20 @@ QString StoredFiles::nameFor(const Attachment &attachment)
     return name;
 }
 
-constexpr qint64 maxRtfdSize = INT32_MAX - 1; // bytes
 constexpr quint32 modificationTime = 0; // the same text has the same bytes at any time
 constexpr quint32 mode = 0644;
 
-struct Entry {
-    QByteArray name;
-    QByteArray contents;
-};
-
-void appendWord(QByteArray &bytes, quint32 word)
-{
-    const quint32 littleEndian = qToLittleEndian(word);
-    bytes.append(reinterpret_cast<const char *>(&littleEndian), sizeof littleEndian);
-}
-
-void appendName(QByteArray &bytes, const QByteArray &name)
-{
-    appendWord(bytes, static_cast<quint32>(name.size()));
-    bytes.append(name);
-}
-
-constexpr qint64 wordSize = sizeof(quint32);
-
-qint64 blockSizeOf(const Entry &entry)
-{
-    return 2 * wordSize + entry.contents.size();
-}
-
-QByteArray attributesOf(const std::vector<Entry> &entries)
+QByteArray attributesOf(const std::vector<FlatEntry> &entries)
 {
     QByteArray attributes;
-    appendWord(attributes, 1);
-    for (const Entry &entry : entries) {
-        appendName(attributes, entry.name);
+    appendFlatWord(attributes, 1);
+    for (const FlatEntry &entry : entries) {
+        appendFlatWord(attributes, static_cast<quint32>(entry.name.size()));
+        attributes.append(entry.name);
         for (const quint32 word : {FlatFormat::attributesSize, modificationTime, mode, 0U, 0U})
-            appendWord(attributes, word);
+            appendFlatWord(attributes, word);
     }
     return attributes;
-}
-
-Result<QByteArray, DocumentError> flatFolder(const std::vector<Entry> &entries)
-{
-    qint64 size = 4 * wordSize; // with the magic, which is as long as a word
-    for (const Entry &entry : entries)
-        size += wordSize + entry.name.size() + wordSize + blockSizeOf(entry);
-    if (size > maxRtfdSize)
-        return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtfd);
-
-    QByteArray bytes(FlatFormat::magic);
-    bytes.reserve(size);
-    appendWord(bytes, FlatFormat::version);
-    appendWord(bytes, FlatFormat::folderBlock);
-    appendWord(bytes, static_cast<quint32>(entries.size()));
-    for (const Entry &entry : entries)
-        appendName(bytes, entry.name);
-    for (const Entry &entry : entries)
-        appendWord(bytes, static_cast<quint32>(blockSizeOf(entry)));
-    for (const Entry &entry : entries) {
-        appendWord(bytes, FlatFormat::fileBlock);
-        appendWord(bytes, static_cast<quint32>(entry.contents.size()));
-        bytes.append(entry.contents);
-    }
-    return bytes;
 }
 
 Result<QByteArray, DocumentError> flatRtfd(const AttributedString &text, qsizetype start, qsizetype length)
@@ -202,11 +153,11 @@ Result<QByteArray, DocumentError> flatRtfd(const AttributedString &text, qsizety
         text, start, length, [&](const Attachment &attachment) { return files.nameFor(attachment); });
     if (!rtf)
         return rtf.error();
-    std::vector<Entry> entries{{FlatFormat::textName, rtf.value()}};
+    std::vector<FlatEntry> entries{{FlatFormat::textName, rtf.value()}};
     for (const StoredFiles::File &file : files.files())
         entries.push_back({file.name.toUtf8(), file.contents});
     entries.push_back({FlatFormat::attributesName, attributesOf(entries)});
-    return flatFolder(entries);
+    return flatFolderOf(entries);
 }
 
 } // namespace

@@ -106,7 +106,7 @@ TEST_F(CountDocumentsTest, PdfFilesAddNoLibrariesToTheCommand)
     EXPECT_TRUE(ofTheCommand.contains("libQt6Core"));
     for (const char *library : {"libQt6Pdf", "libQt6Gui", "libQt6Network", "libQt6Widgets"})
         EXPECT_FALSE(ofTheCommand.contains(library)) << library;
-    EXPECT_TRUE(librariesOf("quillbay-pdf-reader").contains("libQt6Pdf"));
+    EXPECT_TRUE(librariesOf("quillbay-document-reader").contains("libQt6Pdf"));
 }
 
 TEST_F(CountDocumentsTest, AHostileFileLeavesTheOthersCounted)

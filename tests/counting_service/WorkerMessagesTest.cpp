@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "counting_service/protocol/WorkerMessages.h"
-#include "counting_service/protocol/PacketSocket.h"
+#include "platform/system/PacketSocket.h"
 #include "tests/harness/QuillbayTest.h"
 
 #include <QDir>

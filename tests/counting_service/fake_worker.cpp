@@ -5,9 +5,9 @@
 //   first FILE …  does the rest only the first time, and counts the other times; the file records the first
 //                 time and contains the worker's process
 // Its first argument is how it begins: greet, exit, hang, garbage.
-#include "counting_service/protocol/PacketSocket.h"
 #include "counting_service/protocol/WorkerMessages.h"
 #include "counting_service/worker/CountingWorker.h"
+#include "platform/system/PacketSocket.h"
 #include "platform/system/SealedMemory.h"
 
 #include <csignal>

@@ -80,7 +80,7 @@ TEST_F(Install, IsComplete)
     install({"--prefix", QFile::encodeName(prefix())});
     QStringList expected = filesWithCommands
         + QStringList{QStringLiteral("bin/quillbay"), QStringLiteral("libexec/quillbay-counting-service"),
-            QStringLiteral("libexec/quillbay-pdf-reader"),
+            QStringLiteral("libexec/quillbay-document-reader"),
             QStringLiteral("libexec/quillbay-service-provider"),
             QStringLiteral("share/dbus-1/interfaces/com.quillbay.ServiceProvider.xml"),
             QStringLiteral("share/icons/hicolor/scalable/apps/com.quillbay.Quillbay.svg"),
@@ -156,12 +156,12 @@ TEST_F(Install, CountsAPdfFile)
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors, QByteArray());
     EXPECT_TRUE(outcome.output.contains("5\t23\t29\t")) << outcome.output.constData();
-    ASSERT_TRUE(QFile::remove(prefix() + QStringLiteral("/libexec/quillbay-pdf-reader")));
+    ASSERT_TRUE(QFile::remove(prefix() + QStringLiteral("/libexec/quillbay-document-reader")));
     const ChildProcess::Outcome without = ChildProcess(program).run({"count", "--tsv", file});
     EXPECT_EQ(without.exitStatus, 1);
     EXPECT_EQ(without.errors,
         "quillbay: " + file
-            + ": needs the program quillbay-pdf-reader, which is missing or does not start; "
+            + ": needs the program quillbay-document-reader, which is missing or does not start; "
               "reinstall Quillbay\n");
 }
 
@@ -176,7 +176,7 @@ TEST_F(Install, HasQtPdfInOneProgramAlone)
         if (!file.startsWith(QStringLiteral("share/")) && program.run({}).output.contains("libQt6Pdf"))
             programs.append(file);
     }
-    EXPECT_EQ(programs, QStringList{QStringLiteral("libexec/quillbay-pdf-reader")});
+    EXPECT_EQ(programs, QStringList{QStringLiteral("libexec/quillbay-document-reader")});
 }
 
 TEST_F(Install, OpensAWindowForTheSelectedText)

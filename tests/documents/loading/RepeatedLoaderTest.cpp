@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/loading/RepeatedLoader.h"
 
+#include "documents/rtfd/RtfdPackage.h"
 #include "tests/harness/QuillbayTest.h"
 
 #include <QFile>
@@ -127,10 +128,10 @@ TEST_F(RepeatedLoaderTest, ThePictureBehindASymbolicLinkCountsByWhereItLies)
 
 TEST_F(RepeatedLoaderTest, TheTextOfALargePackageIsNotKept)
 {
-    m_loader = RepeatedLoader(rtfWithPicture.size() + 2);
     const QByteArray rtf = writeDocument("f.rtfd/TXT.rtf", rtfWithPicture);
     const QByteArray path = rtf.first(rtf.lastIndexOf('/'));
     writeDocument("f.rtfd/a.png", "12");
+    m_loader = RepeatedLoader(flatRtfdOfPackage(path).value().size());
     const AttributedString small = load(path);
     EXPECT_TRUE(isSameText(load(path), small));
     writeDocument("f.rtfd/a.png", "123");

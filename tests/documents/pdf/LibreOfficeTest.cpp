@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // PDF files of LibreOffice, compared with its own text export.
 #include "tests/documents/LibreOffice.h"
-#include "documents/pdf/PdfReader.h"
+#include "tests/documents/pdf/ReadPdf.h"
 #include "tests/harness/QuillbayTest.h"
 
 class PdfFromLibreOffice : public QuillbayTest { };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/pdf/PdfFileText.h"
+#include "documents/loading/PdfFileText.h"
 
 #include "tests/documents/pdf/PdfWriter.h"
 #include "tests/harness/QuillbayTest.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Raised digits as typesetting programs draw them: smaller, above the line, and the line continues after
 // them.
-#include "documents/pdf/PdfReader.h"
 #include "tests/documents/pdf/PdfWriter.h"
+#include "tests/documents/pdf/ReadPdf.h"
 #include "tests/harness/QuillbayTest.h"
 
 namespace {

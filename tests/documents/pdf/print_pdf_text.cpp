@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Prints the text of the PDF file that its argument names, without ever making an application object.
-#include "documents/pdf/PdfFileText.h"
+#include "documents/loading/PdfFileText.h"
 
 #include <QFile>
 

@@ -23,7 +23,8 @@ protected:
     static AttributedString flat(const char *name) { return readFlatRtfd(readFile(path(name))).value(); }
     static AttributedString package()
     {
-        return readRtfdPackage(QFile::encodeName(path("rtfd-packages/README.rtfd"))).value();
+        return readFlatRtfd(flatRtfdOfPackage(QFile::encodeName(path("rtfd-packages/README.rtfd"))).value())
+            .value();
     }
 
     static void expectToStayEqual(const AttributedString &text)

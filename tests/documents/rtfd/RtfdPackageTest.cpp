@@ -11,6 +11,12 @@
 
 namespace {
 
+Result<AttributedString, DocumentError> readPackage(const QByteArray &path)
+{
+    const Result<QByteArray, DocumentError> bytes = flatRtfdOfPackage(path);
+    return bytes ? readFlatRtfd(bytes.value()) : bytes.error();
+}
+
 const QByteArray rtfWithPicture = "{\\rtf1\\ansi a{{\\NeXTGraphic one.png \\width20 \\height20}\\'ac}b}";
 
 class RtfdPackage : public QuillbayTest {
@@ -34,13 +40,13 @@ protected:
 
     static QString causeFor(const QByteArray &path)
     {
-        const Result<AttributedString, DocumentError> text = readRtfdPackage(path);
+        const Result<AttributedString, DocumentError> text = readPackage(path);
         return text ? QStringLiteral("none") : causeText(text.error());
     }
     /// The attachment in the RTF above; null where there is none.
     static std::shared_ptr<const Attachment> attachment()
     {
-        const Result<AttributedString, DocumentError> text = readRtfdPackage(package());
+        const Result<AttributedString, DocumentError> text = readPackage(package());
         EXPECT_TRUE(text) << causeText(text.error()).toStdString();
         if (!text || text.value().string() != QStringLiteral("a\uFFFCb")) {
             ADD_FAILURE() << "another text";
@@ -144,7 +150,7 @@ TEST_F(RtfdPackage, ALinkLeadsToThePackage)
     const QByteArray path = QFile::encodeName(world().root()) + "/link.rtfd";
     ASSERT_EQ(::symlink(package().constData(), path.constData()), 0);
     EXPECT_TRUE(isRtfdPackage(path));
-    EXPECT_EQ(readRtfdPackage(path).value(), readRtfdPackage(package()).value());
+    EXPECT_EQ(readPackage(path).value(), readPackage(package()).value());
 }
 
 TEST_F(RtfdPackage, ATextOutsideTheFolderIsNoText)

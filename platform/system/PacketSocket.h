@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Packets on a socket between two processes, each with at most one file descriptor. WorkerMessages.h defines
-// their contents.
-// Thread: any, one at a time for each socket.
+// PacketSocket sends short packets over a socket between two processes, each with at most one file
+// descriptor. What is in them is left to its users. Thread: any, one at a time for each socket.
 #pragma once
 
 #include "platform/system/OwnedDescriptor.h"
@@ -12,6 +11,9 @@
 #include <optional>
 #include <utility>
 
+/// Bytes; longer packets are garbage.
+inline constexpr qsizetype maxPacketLength = 512;
+
 struct Packet {
     QByteArray message;
     OwnedDescriptor descriptor; ///< invalid if the packet had none
@@ -20,7 +22,7 @@ struct Packet {
 enum class PacketError {
     WouldBlock, ///< no packet yet; only from tryReceivePacket()
     Closed, ///< by the other side
-    Garbage, ///< longer than a message, or with several descriptors
+    Garbage, ///< longer than a packet may be, or with several descriptors
     SystemError, ///< see errno
 };
 

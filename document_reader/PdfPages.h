@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // PdfPages reads the pages of a PDF file with Qt Pdf, which may take any time and memory and may abort the
-// process. Only its own program uses it; all others use PdfReader.
+// process. Only PdfDocument uses it.
 // Thread: any; Qt Pdf works on one document at a time.
 #pragma once
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "pdf_reader/PdfPages.h"
+#include "document_reader/PdfPages.h"
 
-#include "pdf_reader/RaisedDigits.h"
+#include "document_reader/RaisedDigits.h"
 
 #include <QBuffer>
 #include <QPdfDocument>

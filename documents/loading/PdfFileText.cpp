@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "documents/pdf/PdfFileText.h"
+#include "documents/loading/PdfFileText.h"
 
-#include "documents/pdf/PdfReader.h"
+#include "documents/loading/SandboxedReader.h"
 #include "platform/files/FileContents.h"
 #include "platform/logging/LogChannel.h"
 #include "platform/system/FileURL.h"
@@ -19,7 +19,8 @@ QByteArray contentsOf(const QUrl &url)
 
 std::optional<AttributedString> QBYExtension::attributedStringFromPDFFileURL(const QUrl &url)
 {
-    Result<AttributedString, DocumentError> text = readPdf(contentsOf(url));
+    Result<AttributedString, DocumentError> text =
+        SandboxedReader::shared().read(DocumentKind::Pdf, contentsOf(url));
     if (text)
         return std::move(text).value();
     LogChannel::standard().error(u"No pages in the pdf");

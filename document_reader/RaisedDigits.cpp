@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "pdf_reader/RaisedDigits.h"
+#include "document_reader/RaisedDigits.h"
 
 #include <algorithm>
 

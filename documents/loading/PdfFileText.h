@@ -11,9 +11,9 @@
 
 namespace QBYExtension {
 
-/// The text of all pages, as readPdf() returns it. Absent, and logged, where there are no pages: the file
-/// cannot be read, is encrypted, damaged, not a PDF file or empty. url: of a local file; any other counts as
-/// one that cannot be read.
+/// The text of all pages, as SandboxedReader returns it. Absent, and logged, where there are no pages: the
+/// file cannot be read, is encrypted, damaged, not a PDF file or empty. url: of a local file; any other
+/// counts as one that cannot be read.
 std::optional<AttributedString> attributedStringFromPDFFileURL(const QUrl &url);
 
 } // namespace QBYExtension

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "documents/pdf/PdfReader.h"
+#include "documents/loading/PdfText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "counting_service/protocol/PacketSocket.h"
-
-#include "counting_service/protocol/WorkerMessages.h"
+#include "platform/system/PacketSocket.h"
 
 #include <sys/socket.h>
 #include <unistd.h>
@@ -38,7 +36,7 @@ std::vector<OwnedDescriptor> descriptorsOf(msghdr &header)
 
 Result<Packet, PacketError> receive(int socket, int flags)
 {
-    std::array<char, WorkerMessages::maxLength> buffer{};
+    std::array<char, maxPacketLength> buffer{};
     ControlSpace control;
     iovec vector{buffer.data(), buffer.size()};
     msghdr header = {};
