@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The service provider: the program with the statistics windows, started by the session bus.
+#include "documents/loading/SandboxedReader.h"
 #include "front_end/ProviderApplication.h"
 #include "platform/system/Processes.h"
 #include "platform/views/widgets/ApplicationActivitySource.h"
@@ -61,6 +62,7 @@ int main(int argumentCount, char **arguments)
         return notServing;
     }
     choosePlatform();
+    SandboxedReader::shared().prepare(); // the first selection is on its way
     const QApplication application(argumentCount, arguments);
     QApplication::setApplicationDisplayName(QStringLiteral("Quillbay"));
     QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));

@@ -85,9 +85,12 @@ void ReaderPool::retire(ReaderProcess process)
     wake();
 }
 
-/// Only with the mutex.
+/// Only with the mutex. Leaves programs to those who wait for one, even if they have ended: otherwise one
+/// that ends at once would be started again and again.
 void ReaderPool::dropEnded()
 {
+    if (m_takers > 0)
+        return;
     for (size_t i = m_waiting.size(); i-- > 0;) {
         if (!m_waiting[i].hasEnded())
             continue;

@@ -95,7 +95,7 @@ TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedIsReportedWithCauseAn
     expectFailure(file("words.docx", "Some words."), "is not a Word document");
 }
 
-TEST_F(CountDocumentsTest, PdfFilesAddNoLibrariesToTheCommand)
+TEST_F(CountDocumentsTest, ReadersAddNoLibrariesToTheCommand)
 {
     // The dynamic linker's list, which includes indirect dependencies.
     const auto librariesOf = [](const char *name) {
@@ -104,7 +104,7 @@ TEST_F(CountDocumentsTest, PdfFilesAddNoLibrariesToTheCommand)
     };
     const QByteArray ofTheCommand = librariesOf("quillbay");
     EXPECT_TRUE(ofTheCommand.contains("libQt6Core"));
-    for (const char *library : {"libQt6Pdf", "libQt6Gui", "libQt6Network", "libQt6Widgets"})
+    for (const char *library : {"libQt6Pdf", "libQt6Gui", "libQt6Network", "libQt6Widgets", "libgumbo"})
         EXPECT_FALSE(ofTheCommand.contains(library)) << library;
     EXPECT_TRUE(librariesOf("quillbay-document-reader").contains("libQt6Pdf"));
 }
