@@ -9,7 +9,7 @@
 #include "platform/system/SealedMemory.h"
 
 #include <sys/mman.h>
-#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <new>
@@ -26,13 +26,13 @@ class ResultMemory {
 public:
     ResultMemory()
     {
-        struct stat status = {};
-        if (::fstat(ReaderMessages::resultMemory, &status) != 0 || status.st_size == 0)
+        const off_t size = ::lseek(ReaderMessages::resultMemory, 0, SEEK_END);
+        if (size <= 0)
             return;
-        void *const mapping = ::mmap(nullptr, static_cast<size_t>(status.st_size), PROT_READ | PROT_WRITE,
-            MAP_SHARED, ReaderMessages::resultMemory, 0);
+        void *const mapping = ::mmap(nullptr, static_cast<size_t>(size), PROT_READ | PROT_WRITE, MAP_SHARED,
+            ReaderMessages::resultMemory, 0);
         if (mapping != MAP_FAILED)
-            m_bytes = {static_cast<char *>(mapping), static_cast<size_t>(status.st_size)};
+            m_bytes = {static_cast<char *>(mapping), static_cast<size_t>(size)};
     }
     ResultMemory(const ResultMemory &) = delete;
     ResultMemory &operator=(const ResultMemory &) = delete;
