@@ -73,9 +73,9 @@ Text SandboxedReader::readInProgram(
         ReaderProcess process = std::move(started).value();
         if (!process.receiveGreeting())
             continue;
-        if (!process.hasLandlock())
-            reportMissingLandlock();
         Text text = process.read(request, bytes, limits);
+        if (!process.hasLandlock() && (text || text.error().cause != Cause::NoSandbox))
+            reportMissingLandlock();
         const bool wasKilled = process.wasKilled();
         m_pool.retire(std::move(process));
         if (text)
