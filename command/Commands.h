@@ -8,6 +8,9 @@
 /// Prints the counts of files or of standard input.
 int runCountCommand(int wordCount, char **words);
 
+/// Prints the text of files or of standard input, as it is counted.
+int runExtractCommand(int wordCount, char **words);
+
 /// Opens a window with the counts of the selected text or of the clipboard.
 int runSelectionCommand(int wordCount, char **words);
 

@@ -11,7 +11,15 @@
 namespace {
 
 // Above the letters of the short options.
-enum Option { Help = 'h', Json = 256, Tsv = 257, FilesFrom = 258, ExplainRules = 259, Service = 260 };
+enum Option {
+    Help = 'h',
+    Json = 256,
+    Tsv = 257,
+    FilesFrom = 258,
+    ExplainRules = 259,
+    Service = 260,
+    AsText = 261
+};
 
 constexpr option options[] = {
     {"help", no_argument, nullptr, Help},
@@ -20,6 +28,7 @@ constexpr option options[] = {
     {"files-from", required_argument, nullptr, FilesFrom},
     {"explain-rules", no_argument, nullptr, ExplainRules},
     {"service", no_argument, nullptr, Service},
+    {"as-text", no_argument, nullptr, AsText},
     {},
 };
 
@@ -34,12 +43,13 @@ std::nullopt_t wrongUsage(const char *message)
 const char *CountArguments::helpText()
 {
     return R"(Usage: quillbay count [--json | --tsv | --explain-rules] [--service]
-                      [--files-from LIST] [FILE…]
+                      [--as-text] [--files-from LIST] [FILE…]
 
 Counts the words, characters, sentences, lines on your paper, hard line breaks,
 paragraphs and indented paragraphs of each FILE by your preferences. FILE can be
 plain text, RTF, RTFD, a web page, a Word document, an OpenDocument text, an EPUB
-or a PDF file. Without FILE, or if FILE is -, reads standard input.
+or a PDF file. A file that is no text, such as a picture, is reported and not
+counted. Without FILE, or if FILE is -, reads standard input.
 
   --json             print a JSON object on a line of its own for each file
   --tsv              print tab-separated columns, with their names on the first
@@ -52,6 +62,8 @@ or a PDF file. Without FILE, or if FILE is -, reads standard input.
                      need (without a file, the font of plain text)
   --service          count in the counting service, in a sandboxed process, as
                      Quillbay's windows do; the counts are the same
+  --as-text          count every file as plain text, whatever it is: a web page with
+                     its markup, a picture with its bytes
   -h, --help         print this help and exit
 
 For several files, the table ends with a row of totals; the other two formats
@@ -102,6 +114,9 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
             break;
         case Service:
             arguments.wantsService = true;
+            break;
+        case AsText:
+            arguments.readAs = ReadAs::Text;
             break;
         default:
             reportWrongOption(word, argumentVector.data());

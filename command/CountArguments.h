@@ -3,6 +3,8 @@
 // Thread: main; a value.
 #pragma once
 
+#include "command/NamedDocument.h"
+
 #include <QByteArray>
 #include <QByteArrayList>
 
@@ -14,6 +16,7 @@ struct CountArguments {
     CountFormat format = CountFormat::Table;
     bool wantsHelp = false;
     bool wantsRules = false; ///< print the rules of the counts instead of the counts
+    ReadAs readAs = ReadAs::ItsKind;
     bool wantsService = false; ///< count in the counting service instead of in this process
     std::optional<QByteArray> listName; ///< the file that lists names; "-" for standard input
     QByteArrayList fileNames; ///< "-" for standard input

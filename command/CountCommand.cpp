@@ -159,7 +159,7 @@ std::optional<QBYWordCounterStats> CountCommand::count(const QByteArray &name, P
 
 Result<QBYWordCounterStats, QString> CountCommand::countHere(const QByteArray &name, ProgressLine &progress)
 {
-    const Result<AttributedString, DocumentError> text = loadNamedDocument(name);
+    const Result<AttributedString, DocumentError> text = loadNamedDocument(name, m_arguments.readAs);
     if (!text)
         return causeText(text.error());
     progress.startCounting(text.value().length());
@@ -173,18 +173,21 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
 {
     if (!m_service)
         m_service.emplace();
-    if (name != standardInputName && isRtfdPackage(name))
-        return countTextInService(loadNamedDocument(name), progress);
+    const bool asText = m_arguments.readAs == ReadAs::Text;
+    if (asText || (name != standardInputName && isRtfdPackage(name)))
+        return countTextInService(loadNamedDocument(name, m_arguments.readAs), progress);
     const QByteArray path = name == standardInputName ? QByteArray() : name;
     const Result<QByteArray, FileError> contents =
         path.isEmpty() ? readDescriptor(STDIN_FILENO) : readFile(path);
     if (!contents)
         return causeText(DocumentError(contents.error()));
-    const DocumentKind kind = kindOfDocument(path, contents.value());
-    if (kind == DocumentKind::Pdf) // read by a program of its own
+    const Result<DocumentKind, DocumentError> kind = kindOfDocument(path, contents.value());
+    if (!kind)
+        return causeText(kind.error());
+    if (kind.value() == DocumentKind::Pdf) // read by a program of its own
         return countTextInService(readBytes(contents.value(), path, {.readsPdf = true}), progress);
     progress.startCounting(contents.value().size());
-    return m_service->countDocument(kind, contents.value());
+    return m_service->countDocument(kind.value(), contents.value());
 }
 
 Result<QBYWordCounterStats, QString> CountCommand::countTextInService(

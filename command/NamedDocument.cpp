@@ -8,9 +8,9 @@
 
 #include <cstdio>
 
-Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name)
+Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name, ReadAs readAs)
 {
-    const ReadOptions options{.readsPdf = true};
+    const ReadOptions options{.readsPdf = true, .asText = readAs == ReadAs::Text};
     return name == standardInputName ? loadDocument(STDIN_FILENO, options) : loadDocument(name, options);
 }
 

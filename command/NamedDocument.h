@@ -9,8 +9,11 @@
 
 inline constexpr char standardInputName[] = "-";
 
+enum class ReadAs { ItsKind, Text };
+
 /// Reads standard input to its end.
-Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name);
+Result<AttributedString, DocumentError> loadNamedDocument(
+    const QByteArray &name, ReadAs readAs = ReadAs::ItsKind);
 
 /// Reports on standard error why a document was not read or counted.
 void reportDocumentFailure(const QByteArray &name, const QString &cause);

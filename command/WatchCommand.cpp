@@ -7,12 +7,9 @@
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
 #include "platform/system/FileURL.h"
-#include "platform/system/SystemError.h"
 
-#include <cerrno>
 #include <filesystem>
-
-#include <sys/stat.h>
+#include <new>
 
 namespace {
 
@@ -22,15 +19,15 @@ constexpr char watchHelp[] = R"(Usage: quillbay watch FILE…
        quillbay watch --clipboard
 
 Opens a small window for each FILE, whose counts follow every save, or raises the
-window that FILE already has. Watches plain text, RTF, RTFD, web pages and Word
-documents; other files are skipped. Errors are reported in a desktop notification
-as well as on standard error.
+window that FILE already has. Watches every kind of file that 'quillbay count'
+counts; the others are reported and skipped. Errors of the windows are reported in a
+desktop notification as well as on standard error.
 
   --clipboard  watch the files that were copied last in a file manager
   -h, --help   print this help and exit
 
-Exit status: 0 if the windows have opened, 1 if a FILE does not exist or no FILE
-can be watched, 2 after wrong usage.
+Exit status: 0 if the windows have opened, 1 if any FILE cannot be watched,
+2 after wrong usage.
 )";
 
 /// An absolute path without empty and "." components. Keeps "..": after a symbolic link only the file system
@@ -47,14 +44,15 @@ QByteArray absolutePath(const QByteArray &name)
     return absolute.isEmpty() ? "/" : absolute;
 }
 
-/// A list of URLs (RFC 2483) of the files that exist; reports the others and sets isComplete to false.
+/// A list of URLs (RFC 2483) of the files that can be counted; reports the others and sets isComplete to
+/// false.
 QByteArray urlListOfFiles(const QByteArrayList &names, bool &isComplete)
 {
     QByteArray list;
     for (const QByteArray &name : names) {
-        struct stat status { };
-        if (::stat(name.constData(), &status) != 0) {
-            reportDocumentFailure(name, systemErrorText(errno));
+        if (const Result<AttributedString, DocumentError> text = loadDocument(name, {.readsPdf = true});
+            !text) {
+            reportDocumentFailure(name, causeText(text.error()));
             isComplete = false;
             continue;
         }
@@ -98,5 +96,11 @@ int runWatchCommand(int wordCount, char **words)
     if (wanted->operands.isEmpty() != fromClipboard)
         return reportWrongUsage(
             "watch", fromClipboard ? "either --clipboard or files, not both" : "no file given");
-    return fromClipboard ? watchCopiedFiles() : watch(wanted->operands);
+    if (fromClipboard)
+        return watchCopiedFiles();
+    try {
+        return watch(wanted->operands);
+    } catch (const std::bad_alloc &) {
+        return reportFailure(causeText(FileError{FileError::Cause::NotEnoughMemory}), report);
+    }
 }

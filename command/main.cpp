@@ -19,6 +19,7 @@ Counts text for people who write.
 
 Commands:
   count      print the counts of files or of standard input
+  extract    print the text of files, as it is counted
   selection  show the counts of the text selected in any application
   text       show the counts of one file or of standard input
   watch      show the counts of files, and update them at every save
@@ -37,6 +38,7 @@ struct Command {
 
 constexpr Command commands[] = {
     {"count", runCountCommand},
+    {"extract", runExtractCommand},
     {"selection", runSelectionCommand},
     {"text", runTextCommand},
     {"watch", runWatchCommand},

@@ -100,6 +100,10 @@ QString causeText(const DocumentError &error)
         return textOfFile(error.file);
     case Cause::WrongKind:
         return QStringLiteral("is not ") + kindName(error.kind);
+    case Cause::NotText:
+        return QStringLiteral("is %1, not a text").arg(error.format);
+    case Cause::UnsupportedFormat:
+        return QStringLiteral("is ") + error.format;
     case Cause::OldFormat:
         return QStringLiteral("is in a Word format older than 2007; save it as .docx or RTF");
     case Cause::FlatWordDocument:

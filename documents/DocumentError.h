@@ -15,6 +15,8 @@ struct DocumentError {
     enum class Cause : quint32 {
         FileUnreadable = 1, ///< `file` has the reason
         WrongKind, ///< the document is not of the kind that it was read as
+        NotText, ///< a picture, a program … of a kind that has no reader; `format` says which
+        UnsupportedFormat, ///< a document in a format without a reader; `format` says which, with the remedy
         OldFormat, ///< of Word 97 to 2003
         Encrypted,
         Damaged, ///< broken, or a part that is needed is missing
@@ -49,6 +51,7 @@ struct DocumentError {
     Cause cause;
     DocumentKind kind = DocumentKind::PlainText; ///< PlainText where it is not known yet
     std::optional<FileError> file = std::nullopt; ///< of FileUnreadable and TextUnreadable
+    QString format = {}; ///< of NotText and UnsupportedFormat, for use after "is": "a PNG image"
 
     bool operator==(const DocumentError &) const = default;
 };

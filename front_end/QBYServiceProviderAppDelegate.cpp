@@ -23,7 +23,7 @@ bool isOfAcceptedKind(const QUrl &url)
 {
     return QBYExtension::doesConformToRTFFileUTI(url) || QBYExtension::doesConformToRTFDFileUTI(url)
         || QBYExtension::doesConformToPlainTextFileUTI(url) || QBYExtension::doesConformToDocXFileUTI(url)
-        || QBYExtension::isDocumentOfAnotherKind(url);
+        || QBYExtension::isDocumentOfAnotherKind(url) || QBYExtension::isReadableDocument(url);
 }
 
 QList<QUrl> acceptedFiles(const QList<QUrl> &urls)

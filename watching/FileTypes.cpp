@@ -2,13 +2,16 @@
 #include "watching/FileTypes.h"
 
 #include "documents/DocumentKind.h"
+#include "documents/reading/KindDetection.h"
 #include "platform/system/FileURL.h"
+#include "platform/system/OwnedDescriptor.h"
 
 #include <QMimeDatabase>
 
 #include <algorithm>
 #include <optional>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -38,6 +41,19 @@ std::optional<mode_t> readableFileMode(const QUrl &url)
     if (path.isEmpty() || ::stat(path.constData(), &status) != 0 || ::access(path.constData(), R_OK) != 0)
         return std::nullopt;
     return status.st_mode;
+}
+
+/// Absent if the file cannot be read.
+std::optional<QByteArray> startOfFile(const QByteArray &path)
+{
+    constexpr qsizetype startLength = 65'536;
+    const OwnedDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    QByteArray start(startLength, Qt::Uninitialized);
+    const ssize_t length = ::read(file.get(), start.data(), static_cast<size_t>(startLength));
+    if (length < 0)
+        return std::nullopt;
+    start.truncate(length);
+    return start;
 }
 
 bool doesConformTo(const QUrl &url, QStringView typeName)
@@ -82,6 +98,16 @@ bool QBYExtension::isDocumentOfAnotherKind(const QUrl &url)
         types.begin(), types.end(), [&url](const QString &type) { return doesConformTo(url, type); });
 }
 
+bool QBYExtension::isReadableDocument(const QUrl &url)
+{
+    const std::optional<mode_t> mode = readableFileMode(url);
+    if (!mode || !S_ISREG(*mode))
+        return false;
+    const QByteArray path = pathOfFileURL(url);
+    const std::optional<QByteArray> start = startOfFile(path);
+    return start && kindOfDocument(path, *start);
+}
+
 OpenPanel QBYExtension::openPanelForTextFiles()
 {
     return openPanelForTextFilesAllowMultipleSelection(false);
@@ -93,6 +119,8 @@ OpenPanel QBYExtension::openPanelForTextFilesAllowMultipleSelection(bool allowMu
     for (const QStringView type : {folder, richText, plainText, wordDocument, wordTemplate})
         panel.allowedFileTypes << type.toString();
     panel.allowedFileTypes << otherTypes();
+    for (quint32 kind = 1; kind <= static_cast<quint32>(lastDocumentKind); ++kind)
+        panel.otherFileTypes += mimeTypes(static_cast<DocumentKind>(kind));
     panel.packageSuffixes.append(QStringLiteral("rtfd"));
     panel.allowsMultipleSelection = allowMultipleSelection;
     return panel;

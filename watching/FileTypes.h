@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Which kinds of document a file is, and the file chooser for them. A kind depends on the file's name and the
-// desktop's shared MIME database, never on its content; how a document is read is left to documents/loading.
+// Which kinds of document a file is, and the file chooser for them. The four kinds depend on the file's name
+// and the desktop's shared MIME database, never on its content; how a document is read is left to
+// documents/loading.
 // Thread: any; the file chooser main only.
 #pragma once
 
@@ -23,6 +24,11 @@ bool doesConformToPlainTextFileUTI(const QUrl &url);
 /// A document of a kind beside these four that can be watched: an OpenDocument text or an
 /// electronic book (EPUB).
 bool isDocumentOfAnotherKind(const QUrl &url);
+
+/// Whether the start of the file is that of a document that is read, whatever its name: PDF files, texts
+/// whose names have no type, such as "LICENSE", or that of something else, such as a film's. Reads the start
+/// of the file.
+bool isReadableDocument(const QUrl &url);
 
 /// For one document.
 OpenPanel openPanelForTextFiles();

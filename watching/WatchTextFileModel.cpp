@@ -12,6 +12,13 @@
 
 namespace {
 
+/// Programs write a PDF file over seconds, without a lock; it is whole after one of the next changes.
+bool isHalfWrittenPdf(const DocumentError &error)
+{
+    return error.kind == DocumentKind::Pdf
+        && (error.cause == DocumentError::Cause::Damaged || error.cause == DocumentError::Cause::WrongKind);
+}
+
 LogChannel &watchLog()
 {
     return QBYLogger::watchFileModelLog();
@@ -123,7 +130,7 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
     if (!loaded)
         return;
     const Result<AttributedString, DocumentError> &text = *loaded;
-    if (!text && m_coordinator && m_coordinator->willRetry())
+    if (!text && ((m_coordinator && m_coordinator->willRetry()) || isHalfWrittenPdf(text.error())))
         return;
     if (!text) {
         watchLog().error(u"failed to load attributed string for file at {}. Error {}",

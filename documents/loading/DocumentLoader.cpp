@@ -39,7 +39,8 @@ Result<AttributedString, DocumentError> readPdfFile(QByteArrayView bytes, const 
 
 Result<AttributedString, DocumentError> loadDocument(const QByteArray &path, const ReadOptions &options)
 {
-    return isRtfdPackage(path) ? loadPackage(path) : readContents(readFile(path), path, options);
+    return !options.asText && isRtfdPackage(path) ? loadPackage(path)
+                                                  : readContents(readFile(path), path, options);
 }
 
 Result<AttributedString, DocumentError> loadDocument(int descriptor, const ReadOptions &options)
@@ -50,7 +51,10 @@ Result<AttributedString, DocumentError> loadDocument(int descriptor, const ReadO
 Result<AttributedString, DocumentError> readBytes(
     QByteArrayView bytes, const QByteArray &path, const ReadOptions &options)
 {
-    const DocumentKind kind = kindOfDocument(path, bytes);
-    return kind == DocumentKind::Pdf ? readPdfFile(bytes, options)
-                                     : SandboxedReader::shared().read(kind, bytes, options);
+    const Result<DocumentKind, DocumentError> kind =
+        options.asText ? DocumentKind::PlainText : kindOfDocument(path, bytes);
+    if (!kind)
+        return kind.error();
+    return kind.value() == DocumentKind::Pdf ? readPdfFile(bytes, options)
+                                             : SandboxedReader::shared().read(kind.value(), bytes, options);
 }

@@ -6,7 +6,8 @@
 
 #include "documents/reading/DocumentReader.h"
 
-/// A file, or a folder with the RTF and the attachments of an RTFD. path: bytes in any encoding.
+/// A file, or a folder with the RTF and the attachments of an RTFD. What is no text is refused, unless the
+/// options say that it is to be read as text. path: bytes in any encoding.
 Result<AttributedString, DocumentError> loadDocument(const QByteArray &path, const ReadOptions &options = {});
 
 /// What an open descriptor, such as standard input, has from its position on. Waits for its end; the

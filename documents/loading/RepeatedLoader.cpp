@@ -15,8 +15,8 @@ Result<AttributedString, DocumentError> RepeatedLoader::loadFile(const QByteArra
     const Result<QByteArray, FileError> contents = readFile(path);
     if (!contents)
         return DocumentError(contents.error());
-    return readUnlessRemembered(
-        path, contents.value(), [&path](const QByteArray &bytes) { return readBytes(bytes, path); });
+    return readUnlessRemembered(path, contents.value(),
+        [&path](const QByteArray &bytes) { return readBytes(bytes, path, {.readsPdf = true}); });
 }
 
 Result<AttributedString, DocumentError> RepeatedLoader::loadPackage(const QByteArray &path)

@@ -19,6 +19,8 @@ struct ReadOptions {
     QByteArray charset = {};
     /// For DocumentLoader: without this option, reading a PDF file fails as PdfNotSupported.
     bool readsPdf = false;
+    /// Where the kind of a document is found out: it is plain text, whatever its bytes say.
+    bool asText = false;
 };
 
 /// The text of a document. A plain text has no attributes. A PDF file fails as PdfNotSupported: only

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "documents/reading/KindDetection.h"
 
-#include "documents/docx/DocxReader.h"
 #include "documents/docx/FlatDocument.h"
-#include "documents/epub/EpubReader.h"
 #include "documents/html/HtmlSignature.h"
 #include "documents/odt/OdtReader.h"
+#include "documents/reading/BinaryKind.h"
+#include "documents/reading/TextBytes.h"
 #include "documents/rtf/RtfSignature.h"
 #include "documents/rtfd/RtfdPackage.h"
 
@@ -26,13 +26,18 @@ bool looksLikePdf(QByteArrayView bytes)
 }
 
 /// The name of an RTF or an RTFD file decides nothing: their bytes do.
-constexpr std::array kindsToldByName{DocumentKind::Html, DocumentKind::WordDocument, DocumentKind::Pdf,
-    DocumentKind::OpenDocument, DocumentKind::Epub};
+constexpr std::array kindsToldByBytes{DocumentKind::PlainText, DocumentKind::Rtf, DocumentKind::Rtfd};
 
-bool inherits(const QMimeType &type, DocumentKind kind)
+std::optional<DocumentKind> kindOfType(const QMimeType &type)
 {
-    const QStringList names = mimeTypes(kind);
-    return std::any_of(names.begin(), names.end(), [&](const QString &name) { return type.inherits(name); });
+    for (quint32 number = 1; number <= static_cast<quint32>(lastDocumentKind); ++number) {
+        const auto kind = static_cast<DocumentKind>(number);
+        const QStringList names = mimeTypes(kind);
+        if (std::ranges::find(kindsToldByBytes, kind) == kindsToldByBytes.end()
+            && std::ranges::any_of(names, [&](const QString &name) { return type.inherits(name); }))
+            return kind;
+    }
+    return std::nullopt;
 }
 
 /// Absent where the MIME database does not know the name.
@@ -42,23 +47,56 @@ std::optional<DocumentKind> kindByName(const QByteArray &path)
     if (types.isEmpty())
         return std::nullopt;
     for (const QMimeType &type : types) {
-        for (const DocumentKind kind : kindsToldByName) {
-            if (inherits(type, kind))
-                return kind;
-        }
+        if (const std::optional<DocumentKind> kind = kindOfType(type))
+            return kind;
     }
     return DocumentKind::PlainText;
 }
 
-/// The start of every compound file: documents of Word 97 to 2003, and encrypted Word documents.
-bool looksLikeCompoundFile(QByteArrayView bytes)
+/// From the first element of an XML document on; empty for other bytes.
+QByteArrayView xmlRoot(QByteArrayView bytes)
 {
-    return bytes.startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
+    if (!bytes.startsWith("<?xml") && !bytes.startsWith("\xEF\xBB\xBF<?xml"))
+        return {};
+    qsizetype at = bytes.indexOf('<');
+    while (at >= 0 && at + 1 < bytes.size() && (bytes[at + 1] == '?' || bytes[at + 1] == '!')) {
+        const bool isComment = bytes.sliced(at).startsWith("<!--");
+        at = bytes.indexOf(isComment ? "-->" : ">", at);
+        at = at < 0 ? at : bytes.indexOf('<', at);
+    }
+    return at < 0 ? QByteArrayView() : bytes.sliced(at);
+}
+
+/// The type that an office document in one XML file declares; empty for other bytes.
+QByteArray flatDocumentType(QByteArrayView bytes)
+{
+    constexpr qsizetype startLength = 16'384; // its declarations of namespaces are long
+    const QByteArrayView root = xmlRoot(bytes.first(std::min(bytes.size(), startLength)));
+    constexpr QByteArrayView attribute(" office:mimetype=\"");
+    const QByteArrayView tag = root.first(std::max<qsizetype>(root.indexOf('>'), 0));
+    const qsizetype at = tag.indexOf(attribute);
+    const qsizetype end = tag.indexOf('"', at + attribute.size());
+    if (!tag.startsWith("<office:document") || at < 0 || end < 0)
+        return {};
+    return tag.sliced(at + attribute.size(), end - at - attribute.size()).toByteArray();
+}
+
+DocumentKind kindOfText(const QByteArray &path, QByteArrayView bytes)
+{
+    if (const std::optional<DocumentKind> kind = kindByName(path))
+        return *kind;
+    return looksLikeHtml(bytes) ? DocumentKind::Html : DocumentKind::PlainText;
+}
+
+bool isText(QByteArrayView bytes)
+{
+    const TextEvidence evidence = textEvidence(bytes);
+    return evidence == TextEvidence::Clear || (evidence == TextEvidence::Likely && !isKnownAsBinary(bytes));
 }
 
 } // namespace
 
-DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
+Result<DocumentKind, DocumentError> kindOfDocument(const QByteArray &path, QByteArrayView bytes)
 {
     if (looksLikeRtf(bytes))
         return DocumentKind::Rtf;
@@ -66,15 +104,13 @@ DocumentKind kindOfDocument(const QByteArray &path, QByteArrayView bytes)
         return DocumentKind::Rtfd;
     if (looksLikePdf(bytes))
         return DocumentKind::Pdf;
+    if (!isText(bytes))
+        return kindOfBinary(path, bytes);
+    if (looksLikeFlatWordDocument(bytes))
+        return DocumentKind::WordDocument;
     if (looksLikeOpenDocument(bytes))
         return DocumentKind::OpenDocument;
-    if (looksLikeCompoundFile(bytes) || looksLikeFlatWordDocument(bytes))
-        return DocumentKind::WordDocument;
-    if (looksLikeEpub(bytes))
-        return DocumentKind::Epub;
-    if (const std::optional<DocumentKind> kind = kindByName(path))
-        return *kind;
-    if (looksLikeHtml(bytes))
-        return DocumentKind::Html;
-    return looksLikeDocx(bytes) ? DocumentKind::WordDocument : DocumentKind::PlainText;
+    if (const QByteArray type = flatDocumentType(bytes); !type.isEmpty())
+        return kindOfDeclaredType(type);
+    return kindOfText(path, bytes);
 }

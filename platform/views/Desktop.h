@@ -34,6 +34,8 @@ struct OpenPanel {
 
     /// MIME types; files of derived types are offered too. Empty for all files.
     QStringList allowedFileTypes;
+    /// MIME types that are offered beside them.
+    QStringList otherFileTypes = {};
     /// Folders whose names end in one of these suffixes (without the dot, in any case) are chosen as
     /// documents instead of being opened.
     QStringList packageSuffixes = {};

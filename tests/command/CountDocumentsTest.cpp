@@ -95,6 +95,34 @@ TEST_F(CountDocumentsTest, AWordDocumentThatCannotBeCountedIsReportedWithCauseAn
     expectFailure(file("words.docx", "Some words."), "is not a Word document");
 }
 
+TEST_F(CountDocumentsTest, WhatIsNoTextIsReportedAndTheOthersAreCounted)
+{
+    const QByteArray picture = file("minutes.png", QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\1", 20));
+    const QByteArray archive = file("notes.txt", QByteArray("\x1F\x8B\x08\0\0\0\0\0\0\3words", 15));
+    const QByteArray sound = file("sound.txt", "Two words.");
+    const QByteArray disguised = file("report.txt", wordDocument());
+    const ChildProcess::Outcome outcome = count({picture, sound, archive, disguised});
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.errors,
+        "quillbay: " + picture + ": is a PNG image, not a text\nquillbay: " + archive
+            + ": is a Gzip archive, not a text\n");
+    const QList<QByteArrayList> rows = tableRows(outcome.output);
+    ASSERT_EQ(rows.size(), 3);
+    EXPECT_EQ(rows[0][0] + ' ' + rows[1][0] + ' ' + rows[2][0], "2 3 5");
+    EXPECT_EQ(count({}, "\x1F\x8B\x08" + QByteArray(20, '\0')).errors,
+        "quillbay: -: is a Gzip archive, not a text\n");
+}
+
+TEST_F(CountDocumentsTest, AnyFileCanBeCountedAsText)
+{
+    const QByteArray page = file("page.html", "<p>one</p>");
+    const QByteArray zeros = file("zeros", QByteArray(9, '\0'));
+    const ChildProcess::Outcome outcome = count({"--as-text", page, zeros});
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_THAT(tableRows(outcome.output)[0][2], "10");
+    EXPECT_THAT(tableRows(outcome.output)[1][2], "9");
+}
+
 TEST_F(CountDocumentsTest, ReadersAddNoLibrariesToTheCommand)
 {
     // The dynamic linker's list, which includes indirect dependencies.

@@ -74,7 +74,7 @@ TEST_F(CountUsageTest, MessagesAreEnglishUnderAGermanLocale)
             "Try 'quillbay count --help' for more.\n"},
         {{"text", "--nonsense"},
             "quillbay: invalid option '--nonsense'\nTry 'quillbay text --help' for more.\n"},
-        {{"watch", missing}, "quillbay: " + missing + ": No such file or directory\n"},
+        {{"watch", missing}, "quillbay: " + missing + ": no such file\n"},
         {{"count", missing}, "quillbay: " + missing + ": no such file\n"},
     };
     for (const auto &[words, message] : cases) {

@@ -20,7 +20,7 @@ protected:
                 .arguments = {missing, service, "--worker"}};
         WorkerPool pool(program, 1);
         std::optional<CountJob::Outcome> outcome;
-        pool.add({DocumentKind::Rtfd, SealedMemory::copyOf(document).value(), rules(),
+        pool.add({1, DocumentKind::Rtfd, SealedMemory::copyOf(document).value(), rules(),
             [&outcome](const CountJob::Outcome &answer) { outcome = answer; }});
         EXPECT_TRUE(waitUntil([&outcome] { return outcome.has_value(); }));
         return *outcome;

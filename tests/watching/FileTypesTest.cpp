@@ -116,6 +116,25 @@ TEST_F(FileTypesTest, OnlyTheNameDecides)
     EXPECT_THAT(kindsOfFile(QStringLiteral("a.unheard-of")), IsEmpty());
 }
 
+TEST_F(FileTypesTest, EveryDocumentThatIsReadIsRecognizedByItsContent)
+{
+    const auto isReadable = [](const QString &name, const QByteArray &contents) {
+        return QBYExtension::isReadableDocument(QUrl::fromLocalFile(writeFile(name, contents)));
+    };
+    const QByteArray picture("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\1", 20);
+    for (const char *name : {"LICENSE", "story.fountain", "a.text", "a.adoc", "scene.mts", "a.unheard-of"}) {
+        EXPECT_TRUE(isReadable(QString::fromLatin1(name), "Some words.")) << name;
+        EXPECT_FALSE(isReadable(QString::fromLatin1(name), picture)) << name;
+    }
+    EXPECT_TRUE(isReadable(QStringLiteral("paper"), "%PDF-1.7\n1 0 obj\n"));
+    EXPECT_TRUE(isReadable(QStringLiteral("long"), QByteArray(200'000, 'x')));
+    EXPECT_TRUE(isReadable(QStringLiteral("empty"), {}));
+    EXPECT_FALSE(QBYExtension::isReadableDocument(QUrl::fromLocalFile(world().root())));
+    EXPECT_FALSE(QBYExtension::isReadableDocument(QUrl(QStringLiteral("https://example.org/LICENSE"))));
+    EXPECT_FALSE(
+        QBYExtension::isReadableDocument(QUrl::fromLocalFile(world().root() + QStringLiteral("/missing"))));
+}
+
 TEST_F(FileTypesTest, OnlyAFolderIsAPackageWithAttachments)
 {
     EXPECT_THAT(kindsOfFolder(QStringLiteral("a.rtfd")), ElementsAre(m_rtfd));

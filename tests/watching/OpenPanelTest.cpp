@@ -16,8 +16,9 @@ bool isOffered(const QUrl &url, const OpenPanel &panel)
 {
     const QList<QMimeType> types = QMimeDatabase().mimeTypesForFileName(url.fileName());
     return std::any_of(types.begin(), types.end(), [&](const QMimeType &type) {
-        return std::any_of(panel.allowedFileTypes.begin(), panel.allowedFileTypes.end(),
-            [&](const QString &allowed) { return type.inherits(allowed); });
+        const QStringList offered = panel.allowedFileTypes + panel.otherFileTypes;
+        return std::any_of(
+            offered.begin(), offered.end(), [&](const QString &allowed) { return type.inherits(allowed); });
     });
 }
 
@@ -60,11 +61,21 @@ TEST_F(OpenPanelTest, AllowsSeveralFilesOnlyOnRequest)
     EXPECT_TRUE(QBYExtension::openPanelForTextFilesAllowMultipleSelection(true).allowsMultipleSelection);
 }
 
+TEST_F(OpenPanelTest, OffersEveryOtherKindThatIsReadBesideThem)
+{
+    const OpenPanel panel = QBYExtension::openPanelForTextFiles();
+    for (quint32 kind = 1; kind <= static_cast<quint32>(lastDocumentKind); ++kind) {
+        for (const QString &type : mimeTypes(static_cast<DocumentKind>(kind)))
+            EXPECT_TRUE(panel.otherFileTypes.contains(type)) << type.toStdString();
+    }
+    EXPECT_TRUE(isOffered(QUrl(QStringLiteral("file:///a.pdf")), panel));
+}
+
 TEST_F(OpenPanelTest, OffersTheFilesThatPassTheTypeTestsAndNoOthers)
 {
     const OpenPanel panel = QBYExtension::openPanelForTextFiles();
     for (const char *name : {"a.rtf", "a.txt", "a.html", "a.c", "a.svg", "a.docx", "a.docm", "a.dotx",
-             "a.dotm", "a.epub", "TXT.rtf", "a.doc", "a.odt", "a.fodt", "a.ods", "a.pdf", "a.png"}) {
+             "a.dotm", "a.epub", "TXT.rtf", "a.doc", "a.odt", "a.fodt", "a.ods", "a.png"}) {
         const QUrl url = QUrl::fromLocalFile(writeFile(QString::fromLatin1(name), "x"));
         EXPECT_EQ(isOffered(url, panel),
             QBYExtension::doesConformToPlainTextFileUTI(url) || QBYExtension::doesConformToDocXFileUTI(url)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // When the model reads, and what it reports and logs.
 #include "platform/system/MainQueue.h"
+#include "tests/documents/pdf/PdfWriter.h"
 #include "tests/watching/WatchedFileTest.h"
 
 #include <QFile>
@@ -367,4 +368,30 @@ TEST_F(WatchTextFileModelTest, TheChangeOfAWriterOfThisProcessIsReadAfterwards)
     EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
     pass(150ms);
     EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text after")));
+}
+
+TEST_F(WatchTextFileModelTest, APdfFileIsFollowedAndMayBeHalfWrittenMeanwhile)
+{
+    const auto path = QStringLiteral("paper.pdf");
+    const auto model = watch(writeFile(path, PdfWriter{{"One"}}.bytes()));
+    model->forceRead(nullptr);
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text One\r\n")));
+    writeFile(path, PdfWriter{{"One two"}}.bytes().first(100));
+    pass(10s);
+    writeFile(path, {});
+    pass(10s);
+    EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
+    writeFile(path, PdfWriter{{"One two"}}.bytes());
+    pass(10s);
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("text One two\r\n")));
+    EXPECT_TRUE(model->isWatchingTextFile());
+}
+
+TEST_F(WatchTextFileModelTest, WhatIsNoTextAnyMoreFailsToLoad)
+{
+    const auto model = watch(m_path);
+    writeFile(QStringLiteral("f.txt"), QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\1", 20));
+    pass(10s);
+    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("failed")));
+    EXPECT_FALSE(model->isWatchingTextFile());
 }

@@ -65,8 +65,8 @@ void WatchTextFileMenuBarController::readAndCount(const QUrl &url)
         countDocX(url);
         return;
     }
-    BackgroundWork<Text> reading(
-        QStringLiteral("watched file"), [path = pathOfFileURL(url)] { return loadDocument(path); });
+    BackgroundWork<Text> reading(QStringLiteral("watched file"),
+        [path = pathOfFileURL(url)] { return loadDocument(path, {.readsPdf = true}); });
     if (const Text *const text = reading.quickResult())
         return countFirst(*text);
     m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(true);

@@ -36,8 +36,10 @@ DocumentChooser::DocumentChooser(const OpenPanel &panel)
 {
     setFileMode(panel.allowsMultipleSelection ? ExistingFiles : ExistingFile);
     setDirectory(QDir::home()); // the bus starts programs in no useful folder
+    // Names without an extension match no pattern.
     if (!panel.allowedFileTypes.isEmpty())
-        setNameFilter(fileFilter(panel.allowedFileTypes));
+        setNameFilters(
+            {fileFilter(panel.allowedFileTypes + panel.otherFileTypes), QStringLiteral("All files (*)")});
     setOption(HideNameFilterDetails);
     // After a double click Qt's chooser, and that of most desktops, enters the folder first.
     connect(this, &QFileDialog::directoryEntered, this, [this](const QString &folder) {

@@ -97,7 +97,10 @@ TEST(FlatText, ForeignDocumentsStayEqual)
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const QByteArray bytes = file.readAll();
-        const auto text = readDocument(kindOfDocument(QFile::encodeName(path), bytes), bytes);
+        const Result<DocumentKind, DocumentError> kind = kindOfDocument(QFile::encodeName(path), bytes);
+        if (!kind)
+            continue;
+        const Result<AttributedString, DocumentError> text = readDocument(kind.value(), bytes);
         if (!text)
             continue;
         ++count;

@@ -109,6 +109,19 @@ TEST_F(DocumentLoader, AWordDocumentIsRead)
     EXPECT_EQ(readBytes(document).value().string(), QStringLiteral("one two\n"));
 }
 
+TEST_F(DocumentLoader, WhatIsNoTextIsRefusedUnlessItIsToBeReadAsText)
+{
+    const QByteArray zeros(5000, '\0');
+    const QByteArray path = writeDocument("minutes.txt", zeros);
+    EXPECT_EQ(loadDocument(path).error().cause, Cause::NotText);
+    EXPECT_EQ(readBytes(zeros).error().cause, Cause::NotText);
+    EXPECT_EQ(loadDocument(path, {.asText = true}).value().length(), 5000);
+    const QByteArray rtf = writeDocument("text.rtf", R"({\rtf1 one})");
+    EXPECT_EQ(loadDocument(rtf, {.asText = true}).value().string(), QStringLiteral(R"({\rtf1 one})"));
+    const QByteArray package = writeDocument("text.rtfd/TXT.rtf", R"({\rtf1 one})").chopped(8);
+    EXPECT_EQ(loadDocument(package, {.asText = true}).error().file, FileError{FileError::Cause::Folder});
+}
+
 TEST_F(DocumentLoader, ANameOfAWordDocumentWithOtherBytesFailsWithTheCause)
 {
     const auto error = loadDocument(writeDocument("report.docx", "Some words.")).error();
@@ -138,7 +151,7 @@ TEST_F(DocumentLoader, AProcessThatHasMemoryForTheBytesOnlySaysSo)
             const rlimit limit{bytes, bytes};
             ::setrlimit(RLIMIT_AS, &limit);
         });
-        return loader.run({path}).output;
+        return loader.run({path, "text"}).output;
     };
     EXPECT_EQ(loadUnder(350), "not enough memory");
     EXPECT_EQ(loadUnder(1000), "157286400 code units");

@@ -59,7 +59,10 @@ TEST_F(SameAsInProcess, ForeignDocumentsReadTheSame)
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const QByteArray bytes = file.readAll();
-        expectSame(kindOfDocument(QFile::encodeName(path), bytes), bytes, path);
+        const Result<DocumentKind, DocumentError> kind = kindOfDocument(QFile::encodeName(path), bytes);
+        if (!kind)
+            continue;
+        expectSame(kind.value(), bytes, path);
         ++count;
     }
     EXPECT_GT(count, 10);

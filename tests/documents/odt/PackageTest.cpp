@@ -27,8 +27,8 @@ Cause causeFor(const QByteArray &bytes)
 TEST(OdtPackage, IsRecognizedByItsTypeUnderAnyName)
 {
     for (const char *name : {"", "letter.odt", "letter.fodt", "letter.txt", "letter.docx", "letter.xml"}) {
-        EXPECT_EQ(kindOfDocument(name, simple.package()), DocumentKind::OpenDocument) << name;
-        EXPECT_EQ(kindOfDocument(name, simple.flat()), DocumentKind::OpenDocument) << name;
+        EXPECT_EQ(kindOfDocument(name, simple.package()).value(), DocumentKind::OpenDocument) << name;
+        EXPECT_EQ(kindOfDocument(name, simple.flat()).value(), DocumentKind::OpenDocument) << name;
     }
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The window of a watched file on the screen: real saves, clicks and keys.
+#include "tests/documents/pdf/PdfWriter.h"
 #include "tests/harness/FakePortal.h"
 #include "tests/watching/windows/WatchOnScreen.h"
 
@@ -175,16 +176,29 @@ TEST_F(WatchWindowOnScreen, TheCommandReportsFilesThatCannotBeWatched)
     EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("no file given"));
     outcome = watch({"/nonexistent/novel.txt"});
     EXPECT_EQ(outcome.exitStatus, 1);
-    EXPECT_EQ(outcome.errors, "quillbay: /nonexistent/novel.txt: No such file or directory\n");
+    EXPECT_EQ(outcome.errors, "quillbay: /nonexistent/novel.txt: no such file\n");
     EXPECT_EQ(provider(), 0);
-    const QString image = writeFile(QStringLiteral("picture.png"), "\x89PNG");
+    const QString image =
+        writeFile(QStringLiteral("picture.txt"), QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\1", 20));
     outcome = watch({QFile::encodeName(image)});
     EXPECT_EQ(outcome.exitStatus, 1);
-    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("Quillbay failed to validate file urls."));
-    EXPECT_TRUE(waitUntil([this] { return provider() == 0; }));
+    EXPECT_EQ(outcome.errors, "quillbay: " + QFile::encodeName(image) + ": is a PNG image, not a text\n");
+    EXPECT_EQ(provider(), 0);
     outcome = watch({"/nonexistent/novel.txt", QFile::encodeName(m_novel)});
     EXPECT_EQ(outcome.exitStatus, 1);
     waitForWindowsOf(1, QStringLiteral("novel.txt"));
+}
+
+TEST_F(WatchWindowOnScreen, APdfFileAndATextWithoutATypeAreFollowed)
+{
+    const QString paper = writeFile(QStringLiteral("paper.pdf"), PdfWriter{{"One two"}}.bytes());
+    open(paper, 2);
+    writeFile(QStringLiteral("paper.pdf"), PdfWriter{{"One two three four"}}.bytes());
+    EXPECT_TRUE(shows(4));
+    const QString license = writeFile(QStringLiteral("LICENSE"), "You may use it.");
+    open(license, 4);
+    writeFile(QStringLiteral("LICENSE"), "You may copy and use it.");
+    EXPECT_TRUE(shows(6));
 }
 
 TEST_F(WatchWindowOnScreen, LooksAsTheDesktopDoes)

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+// "quillbay extract": prints the text of documents, exactly as it is counted.
+#include "command/CommandWords.h"
+#include "command/Commands.h"
+#include "command/FileNames.h"
+#include "command/NamedDocument.h"
+#include "documents/reading/KindDetection.h"
+#include "documents/rtfd/RtfdReader.h"
+#include "platform/files/FileContents.h"
+#include "platform/system/SystemError.h"
+#include "preferences/QBYUserDefaultsController.h"
+#include "text_statistics/TextCounter.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <new>
+#include <utility>
+
+namespace {
+
+constexpr char extractHelp[] = R"(Usage: quillbay extract [--json] [--as-text] [FILE…]
+
+Prints the text of each FILE that 'quillbay count' counts, in UTF-8: without
+markup, headers and hidden text, with the notes behind the body. Without FILE, or
+if FILE is -, reads standard input. FILE can be of every kind that
+'quillbay count' counts.
+
+Nothing is added between the files. Pictures and other attachments are the
+character U+FFFC, which is counted. On a terminal, control characters other than
+tabs and line ends are escaped, as \x1b; elsewhere they are printed as they are.
+
+  --json      print a JSON object on a line of its own for each file: its name,
+              its MIME type, the text, the length of the text in UTF-16 code
+              units, and the paragraphs. Each has its offset and its length
+              without the line end, in UTF-16 code units and in bytes of UTF-8,
+              and its counts, which add up to those of 'quillbay count'
+  --as-text   read every file as plain text, whatever it is
+  -h, --help  print this help and exit
+
+Exit status: 0 if all files were printed, 1 if any was not, 2 after wrong usage.
+)";
+
+struct ReadText {
+    DocumentKind kind;
+    QString text;
+};
+
+Result<ReadText, DocumentError> readNamedText(const QByteArray &name, ReadAs readAs)
+{
+    const ReadOptions readOptions{.readsPdf = true, .asText = readAs == ReadAs::Text};
+    const bool isInput = name == standardInputName;
+    if (!isInput && !readOptions.asText && isRtfdPackage(name)) {
+        const Result<AttributedString, DocumentError> text = loadDocument(name, readOptions);
+        return text ? Result<ReadText, DocumentError>(ReadText{DocumentKind::Rtfd, text.value().string()})
+                    : text.error();
+    }
+    const Result<QByteArray, FileError> contents = isInput ? readDescriptor(STDIN_FILENO) : readFile(name);
+    if (!contents)
+        return DocumentError(contents.error());
+    const QByteArray path = isInput ? QByteArray() : name;
+    const Result<DocumentKind, DocumentError> kind =
+        readOptions.asText ? DocumentKind::PlainText : kindOfDocument(path, contents.value());
+    if (!kind)
+        return kind.error();
+    const Result<AttributedString, DocumentError> text = readBytes(contents.value(), path, readOptions);
+    if (!text)
+        return text.error();
+    return ReadText{kind.value(), text.value().string()};
+}
+
+QByteArray printableText(const QString &text)
+{
+    QByteArray printable;
+    QByteArray piece;
+    for (const char byte : text.toUtf8().replace("\r\n", "\n")) {
+        if (byte != '\n' && byte != '\t') {
+            piece += byte;
+            continue;
+        }
+        printable += printableName(std::exchange(piece, {})) + byte;
+    }
+    printable += printableName(piece);
+    return printable.isEmpty() || printable.endsWith('\n') ? printable : printable + '\n';
+}
+
+class ExtractCommand {
+public:
+    ExtractCommand(bool wantsJson, ReadAs readAs)
+        : m_wantsJson(wantsJson)
+        , m_readAs(readAs)
+        , m_isTerminal(::isatty(STDOUT_FILENO) == 1)
+    {
+    }
+
+    /// The exit status.
+    int run(const QByteArrayList &names);
+
+private:
+    void extract(const QByteArray &name);
+    [[nodiscard]] QByteArray jsonOf(const QByteArray &name, const ReadText &document);
+    void fail(const QByteArray &name, const QString &cause);
+
+    const bool m_wantsJson;
+    const ReadAs m_readAs;
+    const bool m_isTerminal;
+    TextCounter m_counter;
+    bool m_hasFailed = false;
+};
+
+int ExtractCommand::run(const QByteArrayList &names)
+{
+    if (m_wantsJson)
+        QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    for (const QByteArray &name : names) {
+        // Every step allocates buffers as large as the document.
+        try {
+            extract(name);
+        } catch (const std::bad_alloc &) {
+            fail(name, causeText(FileError{FileError::Cause::NotEnoughMemory}));
+        }
+    }
+    if (std::fflush(stdout) != 0)
+        fail("standard output", systemErrorText(errno));
+    return m_hasFailed ? 1 : 0;
+}
+
+void ExtractCommand::extract(const QByteArray &name)
+{
+    const Result<ReadText, DocumentError> document = readNamedText(name, m_readAs);
+    if (!document) {
+        fail(name, causeText(document.error()));
+        return;
+    }
+    const QString &text = document.value().text;
+    const QByteArray output = m_wantsJson ? jsonOf(name, document.value())
+        : m_isTerminal                    ? printableText(text)
+                                          : text.toUtf8();
+    std::fwrite(output.constData(), 1, static_cast<size_t>(output.size()), stdout);
+}
+
+QByteArray ExtractCommand::jsonOf(const QByteArray &name, const ReadText &document)
+{
+    const QString &text = document.text;
+    const CountingRules rules = currentCountingRules();
+    QByteArray json = "{\"file\":" + jsonName(name)
+        + ",\"type\":" + jsonName(mimeTypes(document.kind).first().toUtf8()) + ",\"length\":"
+        + QByteArray::number(text.size()) + ",\"text\":" + jsonName(text.toUtf8()) + ",\"paragraphs\":[";
+    qsizetype byteOffset = 0;
+    forEachParagraph(text, [&](const Paragraph &paragraph) {
+        const QByteArray number = QByteArray::number(paragraph.content(text).toUtf8().size());
+        json += QByteArray(paragraph.start == 0 ? "" : ",")
+            + "{\"offset\":" + QByteArray::number(paragraph.start)
+            + ",\"length\":" + QByteArray::number(paragraph.contentLength)
+            + ",\"byteOffset\":" + QByteArray::number(byteOffset) + ",\"byteLength\":" + number;
+        const QBYWordCounterStats stats = m_counter.countParagraph(text, paragraph, rules.text);
+        for (const StatisticRow &row : statisticTable) {
+            if (row.statistic != Statistic::Lines) // of the whole text on paper
+                json += QByteArray(",\"") + row.name + "\":" + QByteArray::number(stats.*row.count);
+        }
+        json += '}';
+        byteOffset += QStringView(text).sliced(paragraph.start, paragraph.length).toUtf8().size();
+    });
+    return json + "]}\n";
+}
+
+void ExtractCommand::fail(const QByteArray &name, const QString &cause)
+{
+    m_hasFailed = true;
+    reportDocumentFailure(name, cause);
+}
+
+} // namespace
+
+int runExtractCommand(int wordCount, char **words)
+{
+    const std::optional<CommandWords> wanted =
+        CommandWords::parse("extract", {"json", "as-text"}, wordCount, words);
+    if (!wanted)
+        return wrongUsageStatus;
+    if (wanted->wantsHelp())
+        return printText(extractHelp);
+    const ReadAs readAs = wanted->switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind;
+    ExtractCommand command(wanted->switches.contains("json"), readAs);
+    return command.run(wanted->operands.isEmpty() ? QByteArrayList{standardInputName} : wanted->operands);
+}
