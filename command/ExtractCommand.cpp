@@ -134,9 +134,11 @@ void ExtractCommand::extract(const QByteArray &name)
         return;
     }
     const QString &text = document.value().text;
-    const QByteArray output = m_wantsJson ? jsonOf(name, document.value())
-        : m_isTerminal                    ? printableText(text)
-                                          : text.toUtf8();
+    QByteArray output;
+    if (m_wantsJson)
+        output = jsonOf(name, document.value());
+    else
+        output = m_isTerminal ? printableText(text) : text.toUtf8();
     std::fwrite(output.constData(), 1, static_cast<size_t>(output.size()), stdout);
 }
 

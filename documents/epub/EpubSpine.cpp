@@ -133,7 +133,7 @@ private:
 /// Some programs do not escape the references that they write.
 QByteArray partAt(const ZipPackage &package, const QByteArray &source, const QByteArray &reference)
 {
-    const QByteArray name = resolvePartName(source, reference);
+    QByteArray name = resolvePartName(source, reference);
     if (package.contains(name))
         return name;
     return resolvePartName(source, reference.toPercentEncoding("/"));

@@ -123,10 +123,10 @@ public:
 
     [[nodiscard]] qsizetype size() const
     {
-        qsizetype size = sizeof(Header) + sizeOf(m_tables.records()) + sizeOf(m_tables.tabStops())
+        qsizetype size = qsizetype{sizeof(Header)} + sizeOf(m_tables.records()) + sizeOf(m_tables.tabStops())
             + m_text.runCount() * static_cast<qsizetype>(sizeof(RunRecord))
             + sizeOf(m_tables.attachmentRecords())
-            + static_cast<qsizetype>(m_tables.strings().size() * sizeof(quint32))
+            + static_cast<qsizetype>(m_tables.strings().size()) * qsizetype{sizeof(quint32)}
             + m_text.length() * static_cast<qsizetype>(sizeof(QChar));
         for (const QString &string : m_tables.strings())
             size += string.size() * static_cast<qsizetype>(sizeof(QChar));
@@ -163,7 +163,7 @@ private:
     template <typename Record>
     static qsizetype sizeOf(const std::vector<Record> &records)
     {
-        return static_cast<qsizetype>(records.size() * sizeof(Record));
+        return static_cast<qsizetype>(records.size()) * qsizetype{sizeof(Record)};
     }
     template <typename Record>
     static quint32 countOf(const std::vector<Record> &records)

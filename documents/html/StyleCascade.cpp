@@ -26,7 +26,7 @@ QByteArray tagName(const GumboElement &element)
 /// Rules win by importance, then specificity, then order; never 0.
 quint64 priorityOf(bool isImportant, quint32 specificity, quint32 order)
 {
-    return (isImportant ? 1ULL << 63U : 0) | quint64(specificity) << 32U | (order + 1);
+    return (isImportant ? 1ULL << 63U : 0) | quint64{specificity} << 32U | (order + 1);
 }
 
 } // namespace

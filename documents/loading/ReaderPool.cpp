@@ -102,7 +102,7 @@ void ReaderPool::dropEnded()
 
 bool ReaderPool::needsAnother() const
 {
-    const auto wanted = static_cast<size_t>(m_takers + (m_keepsOneWaiting ? 1 : 0));
+    const auto wanted = static_cast<size_t>(m_takers) + (m_keepsOneWaiting ? 1 : 0);
     return m_waiting.size() < wanted;
 }
 

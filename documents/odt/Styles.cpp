@@ -2,6 +2,7 @@
 #include "documents/odt/Styles.h"
 
 #include <algorithm>
+#include <ranges>
 #include <vector>
 
 namespace {
@@ -132,8 +133,8 @@ const OdtStyle &Styles::style(Family family, const QByteArray &name) const
          level = styles.constFind(level->parent))
         levels.push_back(&*level);
     OdtStyle resolved = m_defaults[place];
-    for (auto level = levels.rbegin(); level != levels.rend(); ++level)
-        resolved.overlay(**level);
+    for (const OdtStyle *level : std::views::reverse(levels))
+        resolved.overlay(*level);
     return m_cache[place].emplace(name, std::move(resolved)).first->second;
 }
 

@@ -3,7 +3,6 @@
 
 #include "documents/docx/FlatDocument.h"
 #include "documents/html/HtmlSignature.h"
-#include "documents/odt/OdtReader.h"
 #include "documents/reading/BinaryKind.h"
 #include "documents/reading/TextBytes.h"
 #include "documents/rtf/RtfSignature.h"
@@ -108,8 +107,6 @@ Result<DocumentKind, DocumentError> kindOfDocument(const QByteArray &path, QByte
         return kindOfBinary(path, bytes);
     if (looksLikeFlatWordDocument(bytes))
         return DocumentKind::WordDocument;
-    if (looksLikeOpenDocument(bytes))
-        return DocumentKind::OpenDocument;
     if (const QByteArray type = flatDocumentType(bytes); !type.isEmpty())
         return kindOfDeclaredType(type);
     return kindOfText(path, bytes);

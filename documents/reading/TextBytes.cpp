@@ -104,8 +104,8 @@ TextEvidence textEvidence(QByteArrayView bytes)
         return TextEvidence::Clear;
     if (controls == 1)
         return TextEvidence::Likely;
-    const qsizetype tolerated = nuls > 0 ? maxNuls(bytes.size())
-        : bytes.isValidUtf8()            ? bytes.size() / 3
-                                         : bytes.size() / 20;
-    return controls <= tolerated ? TextEvidence::Likely : TextEvidence::None;
+    qsizetype maxControls = bytes.size() / (bytes.isValidUtf8() ? 3 : 20);
+    if (nuls > 0)
+        maxControls = maxNuls(bytes.size());
+    return controls <= maxControls ? TextEvidence::Likely : TextEvidence::None;
 }

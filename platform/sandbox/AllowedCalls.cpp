@@ -28,7 +28,7 @@ AllowedCall callWithout(const char *name, unsigned argument, quint64 bits)
 
 AllowedCall mapping()
 {
-#if defined(__s390x__)
+#ifdef __s390x__
     return {"mmap"}; // takes its arguments from memory, where a filter does not see them
 #elif defined(__i386__)
     return callWithout("mmap2", 2, PROT_EXEC); // "mmap" takes them from memory here, too, and is not needed
