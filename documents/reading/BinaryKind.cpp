@@ -210,6 +210,8 @@ Kind kindOfDeclaredType(const QByteArray &type)
             }))
             return kind;
     }
+    if (type.startsWith("application/vnd.oasis.opendocument.text-")) // of a web page, of master documents
+        return DocumentKind::OpenDocument;
     if (type.contains("spreadsheet") || type.contains("ms-excel") || type.contains("xml.calc"))
         return spreadsheet();
     if (type.contains("presentation") || type.contains("powerpoint") || type.contains("xml.impress"))

@@ -71,13 +71,14 @@ QByteArray flatDocumentType(QByteArrayView bytes)
 {
     constexpr qsizetype startLength = 16'384; // its declarations of namespaces are long
     const QByteArrayView root = xmlRoot(bytes.first(std::min(bytes.size(), startLength)));
-    constexpr QByteArrayView attribute(" office:mimetype=\"");
+    constexpr QByteArrayView attribute(" office:mimetype=");
     const QByteArrayView tag = root.first(std::max<qsizetype>(root.indexOf('>'), 0));
     const qsizetype at = tag.indexOf(attribute);
-    const qsizetype end = tag.indexOf('"', at + attribute.size());
-    if (!tag.startsWith("<office:document") || at < 0 || end < 0)
+    const qsizetype quote = at + attribute.size();
+    if (!tag.startsWith("<office:document") || at < 0 || quote == tag.size())
         return {};
-    return tag.sliced(at + attribute.size(), end - at - attribute.size()).toByteArray();
+    const qsizetype end = tag.indexOf(tag[quote], quote + 1);
+    return end < 0 ? QByteArray() : tag.sliced(quote + 1, end - quote - 1).toByteArray();
 }
 
 DocumentKind kindOfText(const QByteArray &path, QByteArrayView bytes)

@@ -39,6 +39,8 @@ TEST(OdtPackage, MayBeATemplateOrAMasterDocument)
             ofType(QByteArray("application/vnd.oasis.opendocument.text") + ending);
         EXPECT_TRUE(looksLikeOpenDocument(document.package())) << ending;
         EXPECT_TRUE(looksLikeOpenDocument(document.flat())) << ending;
+        for (const QByteArray &bytes : {document.package(), document.flat()})
+            EXPECT_EQ(kindOfDocument("", bytes).value(), DocumentKind::OpenDocument) << ending;
         EXPECT_EQ(styledTextOf(document).string(), u"text\n") << ending;
     }
 }
