@@ -124,9 +124,10 @@ TEST(PdfReader, FailsWhereAFileTakesTooMuchTime)
 {
     PdfWriter file = pageOfTexts(200'000);
     file.pages = QByteArrayList(20, file.pages.first());
-    ReaderLimits limits = limitsFor(file.bytes());
+    const QByteArray bytes = file.bytes();
+    ReaderLimits limits = limitsFor(bytes);
     limits.processorTime = std::chrono::seconds(1);
-    EXPECT_EQ(causeFor(file.bytes(), limits), Cause::TooComplex);
+    EXPECT_EQ(causeFor(bytes, limits), Cause::TooComplex);
 }
 
 TEST(PdfReader, FailsWhereTheTextIsTooLong)
