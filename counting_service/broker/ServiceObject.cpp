@@ -30,10 +30,10 @@ std::optional<QByteArray> localeNameIn(const QVariantMap &options)
     return isPossible ? name.toLatin1() : QByteArray("C");
 }
 
-std::optional<DocumentKind> kindIn(const QVariantMap &options, DocumentKind usualKind)
+std::optional<DocumentKind> kindIn(const QVariantMap &options, DocumentKind defaultKind)
 {
     const QString type = textIn(options, QStringLiteral("type"));
-    return type.isEmpty() ? usualKind : kindOfMimeType(type.toLower());
+    return type.isEmpty() ? defaultKind : kindOfMimeType(type.toLower());
 }
 
 // Names that no charset has count as unknown, which is detected from the bytes.
@@ -124,7 +124,7 @@ void ServiceObject::countWordsForDocX(const QDBusUnixFileDescriptor &payload, qu
     receive(DocumentKind::WordDocument, payload, length, absent, options);
 }
 
-void ServiceObject::receive(DocumentKind usualKind, const QDBusUnixFileDescriptor &payload, quint64 length,
+void ServiceObject::receive(DocumentKind defaultKind, const QDBusUnixFileDescriptor &payload, quint64 length,
     bool absent, const QVariantMap &options)
 {
     setDelayedReply(true);
@@ -136,7 +136,7 @@ void ServiceObject::receive(DocumentKind usualKind, const QDBusUnixFileDescripto
         QMetaObject::invokeMethod(this, [this, key, outcome] { sendReply(key, outcome); });
     };
     const ReceivedRequest request{.number = key.second,
-        .kind = kindIn(options, usualKind),
+        .kind = kindIn(options, defaultKind),
         .charset = charsetIn(options),
         .payload = payload,
         .length = length,

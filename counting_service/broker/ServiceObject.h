@@ -86,8 +86,8 @@ private:
         bool wantsCause; ///< of a failure, as an error in place of eight zeros
     };
 
-    void receive(DocumentKind usualKind, const QDBusUnixFileDescriptor &payload, quint64 length, bool absent,
-        const QVariantMap &options);
+    void receive(DocumentKind defaultKind, const QDBusUnixFileDescriptor &payload, quint64 length,
+        bool absent, const QVariantMap &options);
     void sendReply(const RequestKey &key, const ReceivedRequest::Outcome &outcome);
 
     QDBusConnection m_bus;

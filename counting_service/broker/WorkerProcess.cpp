@@ -3,6 +3,7 @@
 
 #include "counting_service/broker/ServiceLog.h"
 #include "counting_service/worker/CountingWorker.h"
+#include "platform/system/ProcessLimits.h"
 #include "platform/system/Processes.h"
 #include "platform/system/SystemError.h"
 
@@ -10,8 +11,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <ctime>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -34,25 +33,6 @@ constexpr quint64 memoryPerByte = 24;
 bool isSentFromOutside(int signal)
 {
     return signal == SIGKILL || signal == SIGTERM || signal == SIGHUP || signal == SIGINT;
-}
-
-void limit(pid_t process, __rlimit_resource resource, quint64 value)
-{
-    // Only the soft limit: a lowered hard limit could not be raised again for the next document.
-    rlimit old = {};
-    if (::prlimit(process, resource, nullptr, &old) != 0)
-        return;
-    const rlimit wanted{value < old.rlim_max ? value : old.rlim_max, old.rlim_max};
-    ::prlimit(process, resource, &wanted, nullptr);
-}
-
-quint64 processorSeconds(pid_t process)
-{
-    clockid_t clock = 0;
-    timespec used = {};
-    if (::clock_getcpuclockid(process, &clock) != 0 || ::clock_gettime(clock, &used) != 0)
-        return 0;
-    return static_cast<quint64>(used.tv_sec);
 }
 
 struct LaunchedWorker {
@@ -173,9 +153,9 @@ void WorkerProcess::end(WorkerEnd reason)
 void WorkerProcess::limitResources(quint64 length, std::chrono::milliseconds timeout) const
 {
     if (isMemoryLimited)
-        limit(m_process, RLIMIT_AS, baseMemory + memoryPerByte * length);
+        limitResourceForNow(m_process, RLIMIT_AS, baseMemory + memoryPerByte * length);
     const auto seconds = static_cast<quint64>(std::chrono::ceil<std::chrono::seconds>(timeout).count());
-    limit(m_process, RLIMIT_CPU, processorSeconds(m_process) + seconds + 1);
+    limitResourceForNow(m_process, RLIMIT_CPU, usedProcessorSeconds(m_process) + seconds + 1);
 }
 
 void WorkerProcess::readPackets()

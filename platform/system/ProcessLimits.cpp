@@ -14,13 +14,27 @@ void limitResource(pid_t process, __rlimit_resource resource, quint64 value)
     ::prlimit(process, resource, &wanted, nullptr);
 }
 
-void limitProcessorTime(pid_t process, std::chrono::seconds time)
+void limitResourceForNow(pid_t process, __rlimit_resource resource, quint64 value)
+{
+    rlimit old = {};
+    if (::prlimit(process, resource, nullptr, &old) != 0)
+        return;
+    const rlimit wanted{std::min<rlim_t>(value, old.rlim_max), old.rlim_max};
+    ::prlimit(process, resource, &wanted, nullptr);
+}
+
+quint64 usedProcessorSeconds(pid_t process)
 {
     clockid_t clock = 0;
     timespec used = {};
     if (::clock_getcpuclockid(process, &clock) != 0 || ::clock_gettime(clock, &used) != 0)
-        used.tv_sec = 0;
-    const auto seconds = static_cast<rlim_t>(used.tv_sec + time.count() + 1);
+        return 0;
+    return static_cast<quint64>(used.tv_sec);
+}
+
+void limitProcessorTime(pid_t process, std::chrono::seconds time)
+{
+    const rlim_t seconds = usedProcessorSeconds(process) + static_cast<rlim_t>(time.count()) + 1;
     // The hard limit comes later: its signal is that of someone who kills the process.
     const rlimit wanted{seconds, seconds + 1};
     ::prlimit(process, RLIMIT_CPU, &wanted, nullptr);
