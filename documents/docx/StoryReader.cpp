@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr char16_t lineBreak[] = u"\u2028";
-constexpr char16_t pageBreak[] = u"\u000C";
 constexpr char16_t noBreakHyphen[] = u"\u2011";
 constexpr char16_t softHyphen[] = u"\u00AD";
 

@@ -71,6 +71,9 @@ public:
     [[nodiscard]] std::optional<DocumentError::Cause> error() const { return m_error; }
 
 private:
+    static constexpr char16_t lineBreak[] = u"\u2028";
+    static constexpr char16_t pageBreak[] = u"\u000C";
+
     enum class Mode { Content, Text, ParagraphProperties, MarkProperties, RunProperties, Table, Row, Cell };
     struct Scope {
         int depth;

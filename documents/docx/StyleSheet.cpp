@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 namespace {
 
@@ -192,13 +191,14 @@ StyleProperties StyleSheet::resolve(Kind kind, const QByteArray &identifier, Tab
         chain.push_back(&*found);
         found = m_styles.constFind(found->basedOn);
     }
+    std::reverse(chain.begin(), chain.end());
     StyleProperties properties;
-    for (const auto &style : std::views::reverse(chain))
+    for (const Style *style : chain)
         properties.overlay(style->own);
     for (int part = 0; part < tablePartCount; ++part) {
         if (!(parts & (1U << part)))
             continue;
-        for (const auto &style : std::views::reverse(chain)) {
+        for (const Style *style : chain) {
             const auto ofPart = style->parts.find(static_cast<TablePart>(part));
             if (ofPart != style->parts.end())
                 properties.overlay(ofPart->second);

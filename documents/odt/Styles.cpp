@@ -2,7 +2,6 @@
 #include "documents/odt/Styles.h"
 
 #include <algorithm>
-#include <ranges>
 #include <vector>
 
 namespace {
@@ -132,8 +131,9 @@ const OdtStyle &Styles::style(Family family, const QByteArray &name) const
     for (auto level = styles.constFind(name); level != styles.cend() && levels.size() < maxInheritance;
          level = styles.constFind(level->parent))
         levels.push_back(&*level);
+    std::reverse(levels.begin(), levels.end());
     OdtStyle resolved = m_defaults[place];
-    for (const OdtStyle *level : std::views::reverse(levels))
+    for (const OdtStyle *level : levels)
         resolved.overlay(*level);
     return m_cache[place].emplace(name, std::move(resolved)).first->second;
 }
