@@ -17,6 +17,8 @@ if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
 endif()
 
+find_program(QUILLBAY_FAST_LINKER ld.gold) # links a test program four times as fast as the default linker
+
 add_library(quillbay_options INTERFACE)
 target_include_directories(quillbay_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_definitions(quillbay_options INTERFACE
@@ -91,25 +93,45 @@ function(quillbay_test_library name)
     quillbay_compile_fast(${name})
 endfunction()
 
+function(quillbay_discover_suites name timeout)
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_suites.cmake")
+    file(GENERATE OUTPUT "${script}" CONTENT "\
+set(NAME \"${name}\")
+set(PROGRAM \"$<TARGET_FILE:${name}>\")
+set(FOLDER \"${CMAKE_CURRENT_BINARY_DIR}\")
+set(TIMEOUT ${timeout})
+include(\"${PROJECT_SOURCE_DIR}/cmake/TestSuites.cmake\")
+")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
+endfunction()
+
 # quillbay_test(NAME SOURCES file… [LINKS target…] [HELPERS target…] [TIMEOUT seconds]): a GoogleTest
-# binary on the project's harness; every TEST is a CTest test of its own. HELPERS are programs that the
-# tests start from the folder of the test binary.
+# binary on the project's harness. Every TEST is a CTest test of its own, except where tests share a display, which takes
+# longer to start than most of them run: there it is every test suite. HELPERS are programs that the tests start from the
+# folder of the test binary.
 function(quillbay_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LINKS;HELPERS")
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 120)
     endif()
     add_executable(${name} ${arg_SOURCES})
+    if(QUILLBAY_UNITY_BUILD AND QUILLBAY_FAST_LINKER)
+        target_link_options(${name} PRIVATE -fuse-ld=gold)
+    endif()
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
     target_link_libraries(${name} PRIVATE quillbay_options test_harness GTest::gmock ${arg_LINKS})
     quillbay_compile_fast(${name})
     if(arg_HELPERS)
         add_dependencies(${name} ${arg_HELPERS})
     endif()
-    gtest_discover_tests(${name}
-        TEST_PREFIX "${name}/"
-        DISCOVERY_MODE PRE_TEST
-        PROPERTIES TIMEOUT ${arg_TIMEOUT})
+    if(test_harness_gui IN_LIST arg_LINKS)
+        quillbay_discover_suites(${name} ${arg_TIMEOUT})
+    else()
+        gtest_discover_tests(${name}
+            TEST_PREFIX "${name}/"
+            DISCOVERY_MODE PRE_TEST
+            PROPERTIES TIMEOUT ${arg_TIMEOUT})
+    endif()
 endfunction()
 
 # quillbay_test_helper(NAME SOURCES file… [LINKS target…]): a program for tests to start.

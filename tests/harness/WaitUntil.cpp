@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -16,14 +17,15 @@ constexpr std::chrono::milliseconds maxCountedTurn{100};
 
 bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds timeout)
 {
+    QTimer tick; // wakes the loop for conditions without an event
+    tick.start(std::chrono::milliseconds(10));
     std::chrono::milliseconds waited{0};
     QElapsedTimer turn;
     turn.start();
     while (!condition()) {
         if (waited >= timeout)
             return false;
-        // Returns at the next event; the short interval is for conditions without an event.
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         waited += std::min(std::chrono::milliseconds(turn.restart()), maxCountedTurn);
     }
     return true;
