@@ -143,6 +143,8 @@ QString causeText(const DocumentError &error)
     case Cause::NoSandbox:
         return QStringLiteral("cannot be read safely, as the system refuses the filter of system calls; "
                               "allow seccomp in the kernel or container");
+    case Cause::Cancelled:
+        return QStringLiteral("was not read, as nobody needs it any more");
     case Cause::NotEnoughMemory:
         break;
     }

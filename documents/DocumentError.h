@@ -36,8 +36,9 @@ struct DocumentError {
         NoReader, ///< the program that reads documents is missing or does not start
         NoSandbox, ///< the system does not confine the process that would read it
         NotEnoughMemory,
+        Cancelled, ///< by whoever asked for the text
     };
-    static constexpr Cause lastCause = Cause::NotEnoughMemory;
+    static constexpr Cause lastCause = Cause::Cancelled;
 
     DocumentError(Cause whatIsWrong, DocumentKind ofDocument)
         : cause(whatIsWrong)

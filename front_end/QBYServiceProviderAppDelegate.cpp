@@ -2,7 +2,6 @@
 #include "front_end/QBYServiceProviderAppDelegate.h"
 
 #include "documents/loading/PasteboardText.h"
-#include "platform/system/BackgroundWork.h"
 #include "platform/system/FileURL.h"
 #include "watching/FileTypes.h"
 
@@ -85,8 +84,8 @@ void QBYServiceProviderAppDelegate::wordCountSelectedTextService(
 {
     using Text = std::optional<AttributedString>;
     Desktop &desktop = m_surroundings.desktop;
-    BackgroundWork<Text> reading(
-        QStringLiteral("selection"), [pasteboard] { return readAttributedString(pasteboard); });
+    QBYServiceProviderShowStatsWindowController::TextReading reading(QStringLiteral("selection"),
+        [pasteboard](const std::stop_token &stop) { return readAttributedString(pasteboard, stop); });
     if (const Text *const text = reading.quickResult()) {
         if (*text)
             open(std::make_shared<QBYServiceProviderShowStatsWindowController>(**text, desktop));
@@ -98,6 +97,7 @@ void QBYServiceProviderAppDelegate::wordCountSelectedTextService(
     open(controller);
     reading.passResultTo([&desktop, window = std::weak_ptr(controller)](
                              const Text &text) { finishReading(window, text, desktop); });
+    controller->setReading(std::move(reading));
 }
 
 void QBYServiceProviderAppDelegate::open(const StatWindowController &controller)

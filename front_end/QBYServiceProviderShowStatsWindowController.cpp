@@ -120,6 +120,7 @@ void QBYServiceProviderShowStatsWindowController::closeButtonAction(QObject * /*
 {
     const auto self = shared_from_this(); // the delegate drops its reference
     window()->close();
+    m_reading.reset();
     m_wordCounterViewController->stopAsyncOperation(); // frees the counting service for other windows
     if (auto *const receiver = delegate())
         receiver->serviceProviderShowStatsWindowControllerDidClose(*this);

@@ -7,6 +7,7 @@
 
 #include "front_end/QBYServiceProviderShowStatsWindowControllerDelegate.h"
 #include "platform/styled_text/AttributedString.h"
+#include "platform/system/BackgroundWork.h"
 #include "platform/views/Controls.h"
 #include "platform/views/Desktop.h"
 #include "platform/views/WindowController.h"
@@ -14,6 +15,7 @@
 #include "presentation/WordCounterViewControllerLayoutDelegate.h"
 
 #include <memory>
+#include <optional>
 
 /// While a count fails or is never answered, the spinner turns and the statistics stay invisible; the user
 /// closes the window. Frames are points, with the origin at the bottom left.
@@ -22,6 +24,9 @@ class QBYServiceProviderShowStatsWindowController
       public WordCounterViewControllerLayoutDelegate,
       public std::enable_shared_from_this<QBYServiceProviderShowStatsWindowController> {
 public:
+    /// Of a text; its result is absent where it cannot be read.
+    using TextReading = BackgroundWork<std::optional<AttributedString>>;
+
     /// The program's interface file, a resource.
     static QString windowInterfaceFile();
 
@@ -39,6 +44,8 @@ public:
     }
     /// Starts the count, if the window is loaded. Only once, for a controller made without a text.
     void setAttributedStringToCount(AttributedString text);
+    /// The reading that brings the text; closing the window cancels it.
+    void setReading(TextReading reading) { m_reading.emplace(std::move(reading)); }
     [[nodiscard]] QBYServiceProviderShowStatsWindowControllerDelegate *delegate() const
     {
         return m_delegate.get();
@@ -75,8 +82,8 @@ public:
     /// sender: ignored.
     void showWindow(QObject *sender);
 
-    /// Closes the window, stops the count, then notifies the delegate. Close button, Escape, Ctrl+W and the
-    /// window manager's close call it. sender: ignored.
+    /// Closes the window, stops the reading and the count, then notifies the delegate. Close button, Escape,
+    /// Ctrl+W and the window manager's close call it. sender: ignored.
     void closeButtonAction(QObject *sender);
 
     /// Fits the window to the labels; see PanelHost::fittingWidth().
@@ -95,6 +102,7 @@ private:
 
     AttributedString m_attributedStringToCount;
     bool m_hasText;
+    std::optional<TextReading> m_reading; // until the window is closed
     Desktop &m_desktop;
     WeakDelegate<QBYServiceProviderShowStatsWindowControllerDelegate> m_delegate;
     std::shared_ptr<WordCounterViewController> m_wordCounterViewController;

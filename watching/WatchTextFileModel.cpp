@@ -2,7 +2,6 @@
 #include "watching/WatchTextFileModel.h"
 
 #include "platform/file_coordination/FileState.h"
-#include "platform/system/BackgroundWork.h"
 #include "platform/system/FileURL.h"
 #include "preferences/QBYLogger.h"
 #include "watching/FileTypes.h"
@@ -82,6 +81,8 @@ void WatchTextFileModel::stopWatchingTextFile()
     FileCoordinator::removeFilePresenter(this);
     m_coordinator.reset();
     m_timer.reset();
+    if (const auto reading = m_reading.lock())
+        reading->cancel();
     m_loader = std::make_shared<RepeatedLoader>(); // the old one may be reading
     m_isWatchingTextFile = false;
 }
@@ -145,13 +146,15 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
 std::optional<Result<AttributedString, DocumentError>> WatchTextFileModel::load(const QUrl &url)
 {
     using Text = Result<AttributedString, DocumentError>;
-    BackgroundWork<Text> reading(QStringLiteral("watched file"),
-        [loader = m_loader, path = pathOfFileURL(url)] { return loader->load(path); });
+    const auto reading = std::make_shared<BackgroundWork<Text>>(QStringLiteral("watched file"),
+        [loader = m_loader, path = pathOfFileURL(url)](
+            const std::stop_token &stop) { return loader->load(path, stop); });
+    m_reading = reading;
     const QPointer<WatchTextFileModel> self(this);
     const bool wasWatching = m_isWatchingTextFile;
     const QUrl document = m_presentedItemURL;
     const quint64 documents = m_documents;
-    const Text *const text = reading.resultWhileEventsRun();
+    const Text *const text = reading->resultWhileEventsRun();
     if (!text || !self || documents != m_documents || wasWatching != m_isWatchingTextFile)
         return std::nullopt;
     if (!*text && document != m_presentedItemURL)

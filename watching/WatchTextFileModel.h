@@ -7,6 +7,7 @@
 #include "documents/loading/RepeatedLoader.h"
 #include "platform/file_coordination/FileCoordinator.h"
 #include "platform/file_coordination/SecurityScopedBookmark.h"
+#include "platform/system/BackgroundWork.h"
 #include "platform/views/ApplicationActivity.h"
 #include "watching/WatchTextFileModelDelegate.h"
 
@@ -93,4 +94,6 @@ private:
     quint64 m_documents = 0; // that were given up so far
     /// Most polls find the document unchanged. Shared with the thread that reads.
     std::shared_ptr<RepeatedLoader> m_loader = std::make_shared<RepeatedLoader>();
+    /// While load() waits; stopping cancels it.
+    std::weak_ptr<BackgroundWork<Result<AttributedString, DocumentError>>> m_reading;
 };

@@ -17,10 +17,10 @@ Result<AttributedString, DocumentError> readContents(
     return readBytes(contents.value(), path, options);
 }
 
-Result<AttributedString, DocumentError> loadPackage(const QByteArray &path)
+Result<AttributedString, DocumentError> loadPackage(const QByteArray &path, const ReadOptions &options)
 {
     const Result<QByteArray, DocumentError> bytes = flatRtfdOfPackage(path);
-    return bytes ? SandboxedReader::shared().read(DocumentKind::Rtfd, bytes.value()) : bytes.error();
+    return bytes ? SandboxedReader::shared().read(DocumentKind::Rtfd, bytes.value(), options) : bytes.error();
 }
 
 Result<AttributedString, DocumentError> readPdfFile(QByteArrayView bytes, const ReadOptions &options)
@@ -39,7 +39,7 @@ Result<AttributedString, DocumentError> readPdfFile(QByteArrayView bytes, const 
 
 Result<AttributedString, DocumentError> loadDocument(const QByteArray &path, const ReadOptions &options)
 {
-    return !options.asText && isRtfdPackage(path) ? loadPackage(path)
+    return !options.asText && isRtfdPackage(path) ? loadPackage(path, options)
                                                   : readContents(readFile(path), path, options);
 }
 

@@ -15,7 +15,8 @@ constexpr std::array richestFirst{
 
 /// A form that names its charset comes before one that does not, or that names an unknown one: what such a
 /// form means depends on the program that made it.
-std::optional<AttributedString> readFormOf(DocumentKind kind, const Pasteboard::Forms &forms)
+std::optional<AttributedString> readFormOf(
+    DocumentKind kind, const Pasteboard::Forms &forms, const std::stop_token &stop)
 {
     for (const bool isCharsetKnown : {true, false}) {
         for (const auto &[name, bytes] : forms) {
@@ -24,7 +25,7 @@ std::optional<AttributedString> readFormOf(DocumentKind kind, const Pasteboard::
                 || (encodingOfLabel(type.charset) != nullptr) != isCharsetKnown)
                 continue;
             if (Result<AttributedString, DocumentError> text =
-                    SandboxedReader::shared().read(kind, bytes, {.charset = type.charset}))
+                    SandboxedReader::shared().read(kind, bytes, {.charset = type.charset, .stop = stop}))
                 return std::move(text).value();
         }
     }
@@ -33,10 +34,11 @@ std::optional<AttributedString> readFormOf(DocumentKind kind, const Pasteboard::
 
 } // namespace
 
-std::optional<AttributedString> readAttributedString(const Pasteboard &pasteboard)
+std::optional<AttributedString> readAttributedString(
+    const Pasteboard &pasteboard, const std::stop_token &stop)
 {
     for (const DocumentKind kind : richestFirst) {
-        if (std::optional<AttributedString> text = readFormOf(kind, pasteboard.forms()))
+        if (std::optional<AttributedString> text = readFormOf(kind, pasteboard.forms(), stop))
             return text;
     }
     return std::nullopt;

@@ -7,7 +7,9 @@
 #include "platform/styled_text/AttributedString.h"
 
 #include <optional>
+#include <stop_token>
 
 /// The richest form that can be read: flat RTFD, then RTF, HTML, plain text. Damaged forms are skipped;
-/// absent where no form is left.
-[[nodiscard]] std::optional<AttributedString> readAttributedString(const Pasteboard &pasteboard);
+/// absent where no form is left, and where a stop is requested meanwhile.
+[[nodiscard]] std::optional<AttributedString> readAttributedString(
+    const Pasteboard &pasteboard, const std::stop_token &stop = {});

@@ -11,6 +11,7 @@
 #include <poll.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -145,6 +146,12 @@ bool ReaderProcess::hasEnded() const
 {
     pollfd request{m_processFile.get(), POLLIN, 0};
     return ::poll(&request, 1, 0) > 0;
+}
+
+void ReaderProcess::kill() const
+{
+    // By its file: another thread may have reaped it, and its number may belong to another process.
+    ::syscall(SYS_pidfd_send_signal, m_processFile.get(), SIGKILL, nullptr, 0);
 }
 
 bool ReaderProcess::receiveGreeting()

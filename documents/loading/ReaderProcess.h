@@ -40,6 +40,10 @@ public:
     [[nodiscard]] int processFile() const { return m_processFile.get(); }
     [[nodiscard]] bool hasEnded() const;
 
+    /// Ends the program: receiveGreeting() and read() fail soon, and wasKilled() is true.
+    /// Thread: any, while another thread waits for the program.
+    void kill() const;
+
     /// Waits until the program is ready; false if it ends before, or takes longer than a minute. Call it
     /// before read().
     bool receiveGreeting();

@@ -5,27 +5,31 @@
 #include "documents/rtfd/RtfdPackage.h"
 #include "platform/files/FileContents.h"
 
-Result<AttributedString, DocumentError> RepeatedLoader::load(const QByteArray &path)
+Result<AttributedString, DocumentError> RepeatedLoader::load(
+    const QByteArray &path, const std::stop_token &stop)
 {
-    return isRtfdPackage(path) ? loadPackage(path) : loadFile(path);
+    return isRtfdPackage(path) ? loadPackage(path, stop) : loadFile(path, stop);
 }
 
-Result<AttributedString, DocumentError> RepeatedLoader::loadFile(const QByteArray &path)
+Result<AttributedString, DocumentError> RepeatedLoader::loadFile(
+    const QByteArray &path, const std::stop_token &stop)
 {
     const Result<QByteArray, FileError> contents = readFile(path);
     if (!contents)
         return DocumentError(contents.error());
     return readUnlessRemembered(path, contents.value(),
-        [&path](const QByteArray &bytes) { return readBytes(bytes, path, {.readsPdf = true}); });
+        [&](const QByteArray &bytes) { return readBytes(bytes, path, {.readsPdf = true, .stop = stop}); });
 }
 
-Result<AttributedString, DocumentError> RepeatedLoader::loadPackage(const QByteArray &path)
+Result<AttributedString, DocumentError> RepeatedLoader::loadPackage(
+    const QByteArray &path, const std::stop_token &stop)
 {
     const Result<QByteArray, DocumentError> contents = flatRtfdOfPackage(path);
     if (!contents)
         return contents.error();
-    return readUnlessRemembered(path, contents.value(),
-        [](const QByteArray &bytes) { return SandboxedReader::shared().read(DocumentKind::Rtfd, bytes); });
+    return readUnlessRemembered(path, contents.value(), [&stop](const QByteArray &bytes) {
+        return SandboxedReader::shared().read(DocumentKind::Rtfd, bytes, {.stop = stop});
+    });
 }
 
 Result<AttributedString, DocumentError> RepeatedLoader::readUnlessRemembered(const QByteArray &path,

@@ -23,14 +23,14 @@ public:
     {
     }
 
-    /// path: bytes in any encoding.
-    Result<AttributedString, DocumentError> load(const QByteArray &path);
+    /// path: bytes in any encoding. stop: as of ReadOptions.
+    Result<AttributedString, DocumentError> load(const QByteArray &path, const std::stop_token &stop = {});
     /// Frees the text.
     void forget();
 
 private:
-    Result<AttributedString, DocumentError> loadFile(const QByteArray &path);
-    Result<AttributedString, DocumentError> loadPackage(const QByteArray &path);
+    Result<AttributedString, DocumentError> loadFile(const QByteArray &path, const std::stop_token &stop);
+    Result<AttributedString, DocumentError> loadPackage(const QByteArray &path, const std::stop_token &stop);
     /// read: called where the bytes are not those of the last time.
     Result<AttributedString, DocumentError> readUnlessRemembered(const QByteArray &path,
         const QByteArray &bytes,

@@ -47,6 +47,8 @@ Text SandboxedReader::read(DocumentKind kind, QByteArrayView bytes, const ReadOp
 {
     if (bytes.size() > maxDocumentLength)
         return DocumentError(Cause::TooLong, kind);
+    if (options.stop.stop_requested())
+        return DocumentError(Cause::Cancelled, kind);
     try {
         if (kind == DocumentKind::PlainText)
             return decodePlainText(bytes, options);
@@ -54,15 +56,20 @@ Text SandboxedReader::read(DocumentKind kind, QByteArrayView bytes, const ReadOp
             .length = static_cast<quint64>(bytes.size()),
             .charset = options.charset,
             .localeName = currentLocaleIdentifier().toLatin1()};
-        return readInProgram(request, bytes, limits.value_or(ReaderLimits::of(kind, bytes.size())));
+        return readInProgram(
+            request, bytes, limits.value_or(ReaderLimits::of(kind, bytes.size())), options.stop);
     } catch (const std::bad_alloc &) {
         return DocumentError(Cause::NotEnoughMemory, kind);
     }
 }
 
-Text SandboxedReader::readInProgram(
-    const ReaderRequest &request, QByteArrayView bytes, const ReaderLimits &limits)
+Text SandboxedReader::readInProgram(const ReaderRequest &request, QByteArrayView bytes,
+    const ReaderLimits &limits, const std::stop_token &stop)
 {
+    const auto readWith = [&](ReaderProcess &process) -> std::optional<Text> {
+        const std::stop_callback ending(stop, [&process] { process.kill(); });
+        return process.receiveGreeting() ? std::optional(process.read(request, bytes, limits)) : std::nullopt;
+    };
     DocumentError failure(Cause::NoReader, request.kind);
     // A program that waits may be killed just before it is needed, and one that reads may be killed too.
     bool isWorthRetrying = true;
@@ -71,15 +78,18 @@ Text SandboxedReader::readInProgram(
         if (!started)
             return DocumentError(started.error(), request.kind);
         ReaderProcess process = std::move(started).value();
-        if (!process.receiveGreeting())
+        std::optional<Text> result = readWith(process);
+        if (stop.stop_requested())
+            return DocumentError(Cause::Cancelled, request.kind);
+        if (!result)
             continue;
-        Text text = process.read(request, bytes, limits);
+        Text &text = *result;
         if (!process.hasLandlock() && (text || text.error().cause != Cause::NoSandbox))
             reportMissingLandlock();
         const bool wasKilled = process.wasKilled();
         m_pool.retire(std::move(process));
         if (text)
-            return text;
+            return std::move(text);
         failure = text.error();
         isWorthRetrying = wasKilled || failure.cause == Cause::NoReader;
     }

@@ -31,13 +31,14 @@ public:
     /// The text of a document, as readDocument() returns it, and as Qt Pdf finds it on the pages of a PDF
     /// file (document_reader/PdfPages.h), which may be an empty text. Blocks until it is there. Fails as
     /// TooComplex where a limit is exceeded, as Damaged where the program crashes, as NoReader where it does
-    /// not start. limits: absent for those of ReaderLimits::of().
+    /// not start; as Cancelled where the options' stop is requested, which kills the program. limits: absent
+    /// for those of ReaderLimits::of().
     Result<AttributedString, DocumentError> read(DocumentKind kind, QByteArrayView bytes,
         const ReadOptions &options = {}, const std::optional<ReaderLimits> &limits = std::nullopt);
 
 private:
-    Result<AttributedString, DocumentError> readInProgram(
-        const ReaderRequest &request, QByteArrayView bytes, const ReaderLimits &limits);
+    Result<AttributedString, DocumentError> readInProgram(const ReaderRequest &request, QByteArrayView bytes,
+        const ReaderLimits &limits, const std::stop_token &stop);
     void reportMissingLandlock();
 
     ReaderPool m_pool;

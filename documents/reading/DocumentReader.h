@@ -13,6 +13,8 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
+#include <stop_token>
+
 struct ReadOptions {
     /// Of plain text and web pages: the encoding, as a MIME type or a transfer's header names it. Empty or
     /// unknown: detected from the bytes. The other kinds say it themselves.
@@ -21,6 +23,8 @@ struct ReadOptions {
     bool readsPdf = false;
     /// Where the kind of a document is found out: it is plain text, whatever its bytes say.
     bool asText = false;
+    /// For SandboxedReader: ends the reading at once, which then fails as Cancelled.
+    std::stop_token stop = {};
 };
 
 /// The text of a document. A plain text has no attributes. A PDF file fails as PdfNotSupported: only

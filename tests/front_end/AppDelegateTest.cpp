@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "front_end/QBYServiceProviderAppDelegate.h"
 
+#include "tests/documents/loading/ReaderPrograms.h"
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/session_bus/ServiceStandIn.h"
 #include "tests/platform/views/FakeDesktop.h"
 #include "tests/presentation/StatsPanel.h"
+
+#include <csignal>
 
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -103,18 +106,19 @@ TEST_F(AppDelegate, OpensOtherWindowsWhileATextIsBeingRead)
     EXPECT_TRUE(controllers[0]->attributedStringToCount().isEmpty());
 }
 
-TEST_F(AppDelegate, DropsTheReadingOfAWindowThatIsClosed)
+TEST_F(AppDelegate, EndsTheReadingOfAWindowThatIsClosed)
 {
     count(page(largePage()));
     const std::weak_ptr<QBYServiceProviderShowStatsWindowController> life =
         delegate.statWindowControllerForSelectedText().front();
     EXPECT_TRUE(delegate.isInUse());
+    const pid_t reader = readerAtWork();
+    ASSERT_NE(reader, 0);
+    ASSERT_EQ(::kill(reader, SIGSTOP), 0); // it cannot exit by itself
     life.lock()->closeButtonAction(nullptr);
     EXPECT_TRUE(life.expired());
     EXPECT_FALSE(delegate.isInUse());
-    count(page(largePage())); // is read later
-    const auto next = delegate.statWindowControllerForSelectedText().front();
-    EXPECT_TRUE(waitUntil([&] { return !next->attributedStringToCount().isEmpty(); }));
+    EXPECT_TRUE(waitUntilEnded(reader));
     EXPECT_THAT(desktop.notes, IsEmpty());
 }
 

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 // When the model reads, and what it reports and logs.
 #include "platform/system/MainQueue.h"
+#include "tests/documents/loading/ReaderPrograms.h"
 #include "tests/documents/pdf/PdfWriter.h"
 #include "tests/watching/WatchedFileTest.h"
 
 #include <QFile>
+
+#include <csignal>
 
 #include <sys/file.h>
 
@@ -97,7 +100,13 @@ TEST_F(WatchTextFileModelTest, AReadIsDroppedWhenTheModelStopsOrTurnsToAnotherDo
     EXPECT_TRUE(model->isWatchingTextFile());
 
     const auto second = watch(page);
-    MainQueue::async([&] { second->stopWatchingTextFile(); });
+    MainQueue::async([&] {
+        const pid_t reader = readerAtWork();
+        EXPECT_NE(reader, 0);
+        // It cannot exit by itself. kill(0) would stop this group of processes.
+        EXPECT_EQ(reader == 0 ? -1 : ::kill(reader, SIGSTOP), 0);
+        second->stopWatchingTextFile();
+    });
     second->forceRead(nullptr);
     EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
 

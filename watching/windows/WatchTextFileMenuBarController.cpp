@@ -4,7 +4,6 @@
 
 #include "documents/loading/DocumentLoader.h"
 #include "platform/logging/LogChannel.h"
-#include "platform/system/BackgroundWork.h"
 #include "platform/system/FileURL.h"
 #include "platform/system/MainQueue.h"
 #include "preferences/QBYUserDefaultsController.h"
@@ -60,21 +59,19 @@ QUrl WatchTextFileMenuBarController::urlBeingWatched() const
 
 void WatchTextFileMenuBarController::readAndCount(const QUrl &url)
 {
-    ++m_contents;
+    m_firstReading.reset();
     if (QBYExtension::doesConformToDocXFileUTI(url)) {
         countDocX(url);
         return;
     }
-    BackgroundWork<Text> reading(QStringLiteral("watched file"),
-        [path = pathOfFileURL(url)] { return loadDocument(path, {.readsPdf = true}); });
-    if (const Text *const text = reading.quickResult())
+    m_firstReading.emplace(
+        QStringLiteral("watched file"), [path = pathOfFileURL(url)](const std::stop_token &stop) {
+            return loadDocument(path, {.readsPdf = true, .stop = stop});
+        });
+    if (const Text *const text = m_firstReading->quickResult())
         return countFirst(*text);
     m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(true);
-    reading.passResultTo([weakSelf = weak_from_this(), contents = m_contents](const Text &text) {
-        const auto self = weakSelf.lock();
-        if (self && self->m_watchFileModel && self->m_contents == contents)
-            self->countFirst(text);
-    });
+    m_firstReading->passResultTo([this](const Text &text) { countFirst(text); });
 }
 
 void WatchTextFileMenuBarController::countFirst(const Text &text)
@@ -142,7 +139,7 @@ void WatchTextFileMenuBarController::sayWordCountIfPreferred(quint64 wordCount)
 void WatchTextFileMenuBarController::currentlyWatchedTextFileDidUpdateWithAttributedString(
     const AttributedString &attributedString, WatchTextFileModel & /*watchModel*/)
 {
-    ++m_contents;
+    m_firstReading.reset();
     m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(false);
     count(attributedString);
 }
@@ -163,7 +160,7 @@ void WatchTextFileMenuBarController::currentlyWatchedTextFileDidFailToLoadAttrib
     WatchTextFileModel &watchModel)
 {
     m_isChangeUncounted = false;
-    ++m_contents;
+    m_firstReading.reset();
     watchModel.stopWatchingTextFile();
     closeViews();
     m_surroundings.desktop.beep();
@@ -203,6 +200,7 @@ void WatchTextFileMenuBarController::watchTextFileViewControllerRequestedStop(
     const auto self = shared_from_this(); // the delegate drops its reference
     if (m_watchFileModel)
         m_watchFileModel->stopWatchingTextFile();
+    m_firstReading.reset();
     m_watchFileModel.reset();
     closeViews();
     m_watchTextFileViewControllerForPopover->wordCounterViewController()->stopAsyncOperation();

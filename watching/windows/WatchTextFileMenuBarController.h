@@ -6,6 +6,7 @@
 // pending.
 #pragma once
 
+#include "platform/system/BackgroundWork.h"
 #include "platform/system/Clock.h"
 #include "platform/views/ApplicationActivity.h"
 #include "platform/views/Popover.h"
@@ -137,6 +138,6 @@ private:
     std::unique_ptr<WatchTextFileModel> m_watchFileModel;
     std::unique_ptr<ClockTimer> m_popoverTimer; // until the pop-over opens by itself
     quint64 m_lastCalledOutWordCount = 0;
-    quint64 m_contents = 0; // so far; a first content that is read slowly must not replace a later one
+    std::optional<BackgroundWork<Text>> m_firstReading; // until a later content replaces it
     bool m_isChangeUncounted = false; // of a Word document, dropped while the panel was counting
 };

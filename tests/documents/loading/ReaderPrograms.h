@@ -58,6 +58,21 @@ inline pid_t confinedReader(qint64 parent = ::getpid(), const std::vector<pid_t>
     return reader;
 }
 
+/// A reader of this process that has been given a document, as it has limits; 0 after a timeout.
+inline pid_t readerAtWork()
+{
+    pid_t reader = 0;
+    (void)waitUntil([&] {
+        for (const pid_t process : childrenOf()) {
+            const QByteArray limits = procFile(process, "limits").simplified();
+            if (statusOf(process, "Seccomp") == "2" && !limits.contains("Max cpu time unlimited"))
+                reader = process;
+        }
+        return reader != 0;
+    });
+    return reader;
+}
+
 /// Whether the process ends.
 inline bool waitUntilEnded(pid_t process)
 {

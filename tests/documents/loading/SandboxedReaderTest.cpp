@@ -142,6 +142,22 @@ TEST_F(SandboxedReaderTest, KilledAgainAndAgainGivesNoText)
     EXPECT_EQ(text.error().cause, Cause::TooComplex);
 }
 
+TEST_F(SandboxedReaderTest, IsKilledWhenNobodyNeedsTheTextAnyMore)
+{
+    SandboxedReader reader;
+    std::stop_source stop;
+    std::future<Text> reading = std::async(std::launch::async,
+        [&] { return reader.read(DocumentKind::Pdf, longFile(), {.stop = stop.get_token()}); });
+    const pid_t process = readerAtWork();
+    ASSERT_NE(process, 0);
+    ASSERT_EQ(::kill(process, SIGSTOP), 0); // it cannot exit by itself
+    stop.request_stop();
+    EXPECT_EQ(reading.get().error(), DocumentError(Cause::Cancelled, DocumentKind::Pdf));
+    EXPECT_TRUE(waitUntilEnded(process));
+    EXPECT_EQ(reader.read(DocumentKind::PlainText, "text", {.stop = stop.get_token()}).error().cause,
+        Cause::Cancelled);
+}
+
 TEST_F(SandboxedReaderTest, EndsWithTheProgramThatStartedIt)
 {
     const QString file = writeFile(QStringLiteral("long.pdf"), longFile());

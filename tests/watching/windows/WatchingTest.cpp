@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // A watcher and its document: the first read, the counts after each save, the title.
+#include "tests/documents/loading/ReaderPrograms.h"
 #include "tests/watching/windows/WatcherTest.h"
 
 #include <QCryptographicHash>
+
+#include <csignal>
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -42,6 +45,20 @@ TEST_F(WatchingTest, ALargeDocumentIsReadBehindTheWindow)
     waitForCount(watcher);
     EXPECT_FALSE(panel.spinActivityIndicator());
     EXPECT_EQ(wordsOf(panel), QStringLiteral("•Words: 3"));
+}
+
+TEST_F(WatchingTest, AWatcherThatStopsEndsItsFirstRead)
+{
+    Controller &watcher = makeWindowForm();
+    const QString path = writeFile(QStringLiteral("large.html"),
+        "<!DOCTYPE html>" + QByteArray("<p class='a'>and <b>more</b></p>").repeated(50'000));
+    watcher.watchWithTextFileURL(QUrl::fromLocalFile(path));
+    const pid_t reader = readerAtWork();
+    ASSERT_NE(reader, 0);
+    ASSERT_EQ(::kill(reader, SIGSTOP), 0); // it cannot exit by itself
+    const auto self = watcher.shared_from_this();
+    watcher.watchTextFileViewControllerRequestedStop(nullptr);
+    EXPECT_TRUE(waitUntilEnded(reader));
 }
 
 TEST_F(WatchingTest, AWatcherThatStopsLeavesItsCountToNobody)
