@@ -251,6 +251,9 @@ void WorkerPool::replace(WorkerProcess &worker, WorkerEnd end)
 
 void WorkerPool::retry(std::unique_ptr<CountJob> job, WorkerEnd end)
 {
+    // Another worker would need as much.
+    if (end == WorkerEnd::OutOfProcessorTime)
+        return job->answer(CountFailure(DocumentError(DocumentError::Cause::TooComplex, job->kind)));
     if (end == WorkerEnd::KilledFromOutside)
         ++job->interruptions;
     else

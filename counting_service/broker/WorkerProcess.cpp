@@ -74,6 +74,8 @@ QString causeText(WorkerEnd end)
         return QStringLiteral("exited");
     case WorkerEnd::TimedOut:
         return QStringLiteral("timed out");
+    case WorkerEnd::OutOfProcessorTime:
+        return QStringLiteral("ran out of processor time");
     case WorkerEnd::SentGarbage:
         return QStringLiteral("sent an invalid message");
     case WorkerEnd::OutOfMemory:
@@ -112,7 +114,8 @@ WorkerProcess::WorkerProcess(WorkerProgram program, Callbacks callbacks, pid_t p
     connect(&m_socketNotifier, &QSocketNotifier::activated, this, [this] { readPackets(); });
     connect(&m_timer, &QTimer::timeout, this, [this] { end(WorkerEnd::TimedOut); });
     m_timer.setSingleShot(true);
-    limitResources(0, m_program.startTimeout);
+    limitMemory(0);
+    limitProcessorTime(m_program.startTimeout);
     m_timer.start(m_program.startTimeout);
 }
 
@@ -127,13 +130,15 @@ WorkerProcess::~WorkerProcess()
 bool WorkerProcess::count(WorkerRequest request, int descriptor)
 {
     const std::chrono::milliseconds timeout = m_program.timeoutFor(request.length);
-    limitResources(request.length, timeout);
+    limitMemory(request.length);
+    limitProcessorTime(m_program.readingTime(request.kind, static_cast<qsizetype>(request.length)));
     request.number = m_requests + 1;
     if (!sendPacket(m_socket.get(), encode(request), descriptor)) {
         end(WorkerEnd::KilledFromOutside);
         return false;
     }
     m_state = State::Busy;
+    m_isReading = true;
     ++m_requests;
     m_timer.start(timeout);
     return true;
@@ -150,11 +155,15 @@ void WorkerProcess::end(WorkerEnd reason)
     ::kill(m_process, SIGKILL);
 }
 
-void WorkerProcess::limitResources(quint64 length, std::chrono::milliseconds timeout) const
+void WorkerProcess::limitMemory(quint64 length) const
 {
     if (isMemoryLimited)
         limitResourceForNow(m_process, RLIMIT_AS, baseMemory + memoryPerByte * length);
-    const auto seconds = static_cast<quint64>(std::chrono::ceil<std::chrono::seconds>(timeout).count());
+}
+
+void WorkerProcess::limitProcessorTime(std::chrono::milliseconds time) const
+{
+    const auto seconds = static_cast<quint64>(std::chrono::ceil<std::chrono::seconds>(time).count());
     limitResourceForNow(m_process, RLIMIT_CPU, usedProcessorSeconds(m_process) + seconds + 1);
 }
 
@@ -187,6 +196,13 @@ void WorkerProcess::takeMessage(const QByteArray &message)
         m_state = State::Idle;
         return m_callbacks.onReady(*this, greeting->sandbox);
     }
+    if (m_state == State::Busy && m_isReading) {
+        const std::optional<WorkerProgress> progress = decodeProgress(message);
+        if (progress && progress->number == m_requests) {
+            m_isReading = false;
+            return limitProcessorTime(m_timer.intervalAsDuration());
+        }
+    }
     const std::optional<WorkerReply> reply = decodeReply(message);
     if (m_state != State::Busy || !reply || reply->number != m_requests)
         return end(WorkerEnd::SentGarbage);
@@ -211,6 +227,8 @@ void WorkerProcess::reap()
     WorkerEnd end = WorkerEnd::Exited;
     if (m_reason)
         end = *m_reason;
+    else if (WIFSIGNALED(status) && WTERMSIG(status) == SIGXCPU)
+        end = WorkerEnd::OutOfProcessorTime;
     else if (WIFSIGNALED(status))
         end = isSentFromOutside(WTERMSIG(status)) ? WorkerEnd::KilledFromOutside : WorkerEnd::Crashed;
     if (end != WorkerEnd::Dismissed) {

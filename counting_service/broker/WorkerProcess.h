@@ -6,6 +6,7 @@
 #pragma once
 
 #include "counting_service/protocol/WorkerMessages.h"
+#include "documents/ReadingTime.h"
 #include "platform/system/PacketSocket.h"
 
 #include <QByteArrayList>
@@ -27,6 +28,8 @@ struct WorkerProgram {
     std::chrono::milliseconds startTimeout = std::chrono::minutes(1); ///< from the start to the greeting
     std::chrono::milliseconds baseTimeout = std::chrono::seconds(5); ///< for an empty document
     std::chrono::milliseconds timeoutPerMebibyte = std::chrono::seconds(30); ///< in addition
+    /// Of the processor; counting what was read is limited by the timeout alone.
+    std::function<std::chrono::seconds(DocumentKind kind, qsizetype length)> readingTime = maxReadingTime;
 
     /// length: of a document, in bytes.
     [[nodiscard]] std::chrono::milliseconds timeoutFor(quint64 length) const;
@@ -39,6 +42,7 @@ enum class WorkerEnd {
     Crashed,
     Exited, ///< by itself
     TimedOut,
+    OutOfProcessorTime,
     SentGarbage,
     OutOfMemory, ///< as reported by the worker
 };
@@ -77,7 +81,8 @@ private:
     WorkerProcess(WorkerProgram program, Callbacks callbacks, pid_t process, OwnedDescriptor processFile,
         OwnedDescriptor socket);
 
-    void limitResources(quint64 length, std::chrono::milliseconds timeout) const;
+    void limitMemory(quint64 length) const;
+    void limitProcessorTime(std::chrono::milliseconds time) const;
     void readPackets();
     void takeMessage(const QByteArray &message);
     void reap();
@@ -92,5 +97,6 @@ private:
     QTimer m_timer;
     State m_state = State::Starting;
     quint64 m_requests = 0;
+    bool m_isReading = false; ///< the document, to count it then
     std::optional<WorkerEnd> m_reason; ///< why we ended it
 };

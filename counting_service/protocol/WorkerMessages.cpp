@@ -10,7 +10,7 @@ namespace {
 
 constexpr quint32 magic = 0x51425957; // "QBYW"
 
-enum class Type : quint16 { Request = 1, Greeting, Reply };
+enum class Type : quint16 { Request = 1, Greeting, Progress, Reply };
 
 class Writer {
 public:
@@ -141,6 +141,13 @@ QByteArray encode(const WorkerGreeting &greeting)
     return writer.bytes();
 }
 
+QByteArray encode(const WorkerProgress &progress)
+{
+    Writer writer(Type::Progress);
+    writer.stream() << progress.number;
+    return writer.bytes();
+}
+
 QByteArray encode(const WorkerReply &reply)
 {
     Writer writer(Type::Reply);
@@ -175,6 +182,14 @@ std::optional<WorkerGreeting> decodeGreeting(const QByteArray &message)
         return std::nullopt;
     greeting.sandbox.landlockVersion = landlock;
     return greeting;
+}
+
+std::optional<WorkerProgress> decodeProgress(const QByteArray &message)
+{
+    Reader reader(message, Type::Progress);
+    WorkerProgress progress;
+    reader.stream() >> progress.number;
+    return reader.isComplete() ? std::optional(progress) : std::nullopt;
 }
 
 std::optional<WorkerReply> decodeReply(const QByteArray &message)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The messages between broker and worker, as bytes: the worker's greeting, then requests and one reply to
-// each. A message is one short packet; the document is sent with it as a descriptor (PacketSocket.h).
-// Thread: any; values.
+// each, at most one sign of progress before it. A message is one short packet; the document is sent with it
+// as a descriptor (PacketSocket.h). Thread: any; values.
 #pragma once
 
 #include "counting_service/protocol/CountFailure.h"
@@ -19,7 +19,7 @@
 namespace WorkerMessages {
 
 /// Part of every message. Broker and workers are the same program, so other versions are rejected.
-inline constexpr quint16 version = 2;
+inline constexpr quint16 version = 3;
 /// Bytes; longer messages are rejected.
 inline constexpr qsizetype maxLength = maxPacketLength;
 /// Bytes; real names of charsets are shorter.
@@ -53,6 +53,11 @@ struct WorkerGreeting {
     SandboxReport sandbox;
 };
 
+/// Sent by a worker that has read the document and begins to count it.
+struct WorkerProgress {
+    quint64 number = 0; ///< of the request
+};
+
 struct WorkerReply {
     quint64 number = 0;
     Result<QBYWordCounterStats, CountFailure> counts;
@@ -60,9 +65,11 @@ struct WorkerReply {
 
 QByteArray encode(const WorkerRequest &request);
 QByteArray encode(const WorkerGreeting &greeting);
+QByteArray encode(const WorkerProgress &progress);
 QByteArray encode(const WorkerReply &reply);
 
 // Absent unless the bytes are exactly one message of that type.
 std::optional<WorkerRequest> decodeRequest(const QByteArray &message);
 std::optional<WorkerGreeting> decodeGreeting(const QByteArray &message);
+std::optional<WorkerProgress> decodeProgress(const QByteArray &message);
 std::optional<WorkerReply> decodeReply(const QByteArray &message);

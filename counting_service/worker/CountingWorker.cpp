@@ -97,6 +97,8 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
         readDocument(request.kind, memory.value().bytes(), {.charset = request.charset});
     if (!text)
         return CountFailure(text.error());
+    // Counting has a limit of its own. If the broker has gone, the reply cannot be sent either.
+    (void)sendPacket(socket, encode(WorkerProgress{request.number}));
     m_rules = rulesFrom(request.rules);
     m_model.setAttributedStringToCount(text.value());
     const QBYWordCounterStats stats = m_model.statsRepresentation();

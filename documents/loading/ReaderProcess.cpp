@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/loading/ReaderProcess.h"
 
+#include "documents/ReadingTime.h"
 #include "documents/flat_text/FlatTextReader.h"
 #include "platform/system/PacketSocket.h"
 #include "platform/system/ProcessLimits.h"
@@ -36,27 +37,6 @@ constexpr bool isSanitized = true; // sanitizers reserve terabytes of address sp
 constexpr bool isSanitized = false;
 #endif
 
-/// Of the processor.
-struct TimeBudget {
-    std::chrono::milliseconds base;
-    std::chrono::milliseconds perMebibyte;
-};
-
-/// Several times what real documents need.
-TimeBudget timeBudgetOf(DocumentKind kind)
-{
-    switch (kind) {
-    case DocumentKind::Rtf:
-    case DocumentKind::Rtfd:
-    case DocumentKind::Html:
-        return {5s, 500ms};
-    case DocumentKind::Pdf:
-        return {60s, 10s}; // Qt Pdf may take seconds for a page
-    default:
-        return {5s, 2s}; // packages are compressed
-    }
-}
-
 /// A copy with a number above those that the program's files get: another one would be replaced by them.
 OwnedDescriptor duplicateAboveFilesOfProgram(int descriptor)
 {
@@ -73,10 +53,8 @@ Cause causeOfStart(int number)
 
 ReaderLimits ReaderLimits::of(DocumentKind kind, qsizetype length)
 {
-    const TimeBudget time = timeBudgetOf(kind);
     ReaderLimits limits;
-    limits.processorTime =
-        std::chrono::ceil<std::chrono::seconds>(time.base + time.perMebibyte * (length / mebibyte));
+    limits.processorTime = maxReadingTime(kind, length);
     limits.realTime = limits.processorTime * realTimeFactor;
     limits.memory = 1024 * mebibyte + 48 * length;
     limits.output = 256 * mebibyte + 48 * length; // a package can hold far more text than it has bytes

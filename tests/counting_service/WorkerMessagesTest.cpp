@@ -108,6 +108,15 @@ TEST(WorkerMessages, AReplyArrivesAsItWasSent)
         CountFailure(DocumentError(DocumentError::Cause::Damaged, DocumentKind::Rtfd)));
 }
 
+TEST(WorkerMessages, ProgressIsNoReply)
+{
+    const QByteArray message = encode(WorkerProgress{9});
+    EXPECT_EQ(decodeProgress(message)->number, 9U);
+    expectOnlyComplete(message, decodeProgress);
+    EXPECT_FALSE(decodeReply(message));
+    EXPECT_FALSE(decodeProgress(encode(WorkerReply{9, eight})));
+}
+
 TEST(WorkerMessages, AnUnknownFailureIsRejected)
 {
     const auto isReply = [](const CountFailure &failure) {

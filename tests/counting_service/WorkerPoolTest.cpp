@@ -2,6 +2,7 @@
 // How the broker handles workers that misbehave.
 #include "counting_service/broker/WorkerPool.h"
 #include "tests/counting_service/CountingServiceTest.h"
+#include "tests/documents/loading/ReaderPrograms.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -272,6 +273,35 @@ TEST_F(WorkerPoolTest, AHungWorkerCostsAShortDocumentFiveSeconds)
     EXPECT_LT(worker.timeoutFor(20'000), 6s);
     EXPECT_EQ(worker.timeoutFor(1 << 20), 35s);
     EXPECT_GE(worker.timeoutFor(100ULL << 20), 1000s);
+}
+
+TEST_F(WorkerPoolTest, ADocumentThatTakesTooMuchProcessorTimeIsGivenUpWithItsFirstWorker)
+{
+    WorkerProgram strict = program();
+    strict.readingTime = [](DocumentKind, qsizetype) { return std::chrono::seconds(0); };
+    const auto pool = this->pool(strict);
+    EXPECT_EQ(failureOf(add(*pool, once("spin"))),
+        CountFailure(DocumentError(DocumentError::Cause::TooComplex, DocumentKind::Rtfd)));
+}
+
+TEST_F(WorkerPoolTest, TheProcessorTimeIsThatOfReadingUntilTheDocumentIsRead)
+{
+    WorkerProgram strict = program();
+    strict.baseTimeout = std::chrono::seconds(1'000);
+    strict.timeoutPerMebibyte = std::chrono::seconds(0);
+    strict.readingTime = [](DocumentKind, qsizetype) { return std::chrono::seconds(100); };
+    const auto pool = this->pool(strict);
+    const auto hasLimit = [this](int worker, const char *seconds) {
+        return waitUntil([&] {
+            const pid_t process = workerOf(worker);
+            const QByteArray limit = QByteArray("Max cpu time ") + seconds;
+            return process != 0 && procFile(process, "limits").simplified().contains(limit);
+        });
+    };
+    add(*pool, once("hang"));
+    EXPECT_TRUE(hasLimit(1, "101 "));
+    add(*pool, once("read-hang"));
+    EXPECT_TRUE(hasLimit(2, "1001 "));
 }
 
 TEST_F(WorkerPoolTest, AnUnexpectedAnswerEndsTheWorkerAndLosesNothing)

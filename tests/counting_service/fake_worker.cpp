@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A worker that does what the document says:
 //   count         answers: words are the document's bytes, characters the process, lines the requests so far
+//   spin          works for ever
+//   read-hang     reports that it has read the document, then hangs
 //   crash, exit, hang, garbage, long, descriptor, twice, other, hung-up, memory, eat
 //   first FILE …  does the rest only the first time, and counts the other times; the file records the first
 //                 time and contains the worker's process
@@ -38,6 +40,12 @@ void send(const QByteArray &message, int descriptor = -1)
         ::pause();
 }
 
+[[noreturn]] void spin()
+{
+    for (;;)
+        (void)::getppid();
+}
+
 QByteArray countOf(const WorkerRequest &request, quint64 number)
 {
     QBYWordCounterStats stats;
@@ -73,7 +81,12 @@ void obey(QByteArrayList words, const WorkerRequest &request)
         ::_exit(0);
     else if (word == "hang")
         hang();
-    else if (word == "garbage")
+    else if (word == "spin")
+        spin();
+    else if (word == "read-hang") {
+        send(encode(WorkerProgress{request.number}));
+        hang();
+    } else if (word == "garbage")
         send("garbage");
     else if (word == "long")
         send(answer + QByteArray(WorkerMessages::maxLength, 'x'));

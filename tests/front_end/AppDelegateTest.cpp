@@ -108,7 +108,7 @@ TEST_F(AppDelegate, OpensOtherWindowsWhileATextIsBeingRead)
 
 TEST_F(AppDelegate, EndsTheReadingOfAWindowThatIsClosed)
 {
-    count(page(largePage()));
+    count(page(slowPage()));
     const std::weak_ptr<QBYServiceProviderShowStatsWindowController> life =
         delegate.statWindowControllerForSelectedText().front();
     EXPECT_TRUE(delegate.isInUse());

@@ -99,7 +99,7 @@ TEST_F(WatchTextFileModelTest, AReadIsDroppedWhenTheModelStopsOrTurnsToAnotherDo
     EXPECT_THAT(m_delegate.takeMessages(), IsEmpty());
     EXPECT_TRUE(model->isWatchingTextFile());
 
-    const auto second = watch(page);
+    const auto second = watch(writeFile(QStringLiteral("slow.html"), slowPage()));
     MainQueue::async([&] {
         const pid_t reader = readerAtWork();
         EXPECT_NE(reader, 0);

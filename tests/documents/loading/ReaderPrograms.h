@@ -58,6 +58,12 @@ inline pid_t confinedReader(qint64 parent = ::getpid(), const std::vector<pid_t>
     return reader;
 }
 
+/// A web page that takes a reader seconds.
+inline QByteArray slowPage()
+{
+    return "<!DOCTYPE html><p " + QByteArray("a=1 ").repeated(2'000'000);
+}
+
 /// A reader of this process that has been given a document, as it has limits; 0 after a timeout.
 inline pid_t readerAtWork()
 {

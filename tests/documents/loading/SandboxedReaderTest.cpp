@@ -147,12 +147,12 @@ TEST_F(SandboxedReaderTest, IsKilledWhenNobodyNeedsTheTextAnyMore)
     SandboxedReader reader;
     std::stop_source stop;
     std::future<Text> reading = std::async(std::launch::async,
-        [&] { return reader.read(DocumentKind::Pdf, longFile(), {.stop = stop.get_token()}); });
+        [&, page = slowPage()] { return reader.read(DocumentKind::Html, page, {.stop = stop.get_token()}); });
     const pid_t process = readerAtWork();
     ASSERT_NE(process, 0);
     ASSERT_EQ(::kill(process, SIGSTOP), 0); // it cannot exit by itself
     stop.request_stop();
-    EXPECT_EQ(reading.get().error(), DocumentError(Cause::Cancelled, DocumentKind::Pdf));
+    EXPECT_EQ(reading.get().error(), DocumentError(Cause::Cancelled, DocumentKind::Html));
     EXPECT_TRUE(waitUntilEnded(process));
     EXPECT_EQ(reader.read(DocumentKind::PlainText, "text", {.stop = stop.get_token()}).error().cause,
         Cause::Cancelled);

@@ -50,8 +50,7 @@ TEST_F(WatchingTest, ALargeDocumentIsReadBehindTheWindow)
 TEST_F(WatchingTest, AWatcherThatStopsEndsItsFirstRead)
 {
     Controller &watcher = makeWindowForm();
-    const QString path = writeFile(QStringLiteral("large.html"),
-        "<!DOCTYPE html>" + QByteArray("<p class='a'>and <b>more</b></p>").repeated(50'000));
+    const QString path = writeFile(QStringLiteral("slow.html"), slowPage());
     watcher.watchWithTextFileURL(QUrl::fromLocalFile(path));
     const pid_t reader = readerAtWork();
     ASSERT_NE(reader, 0);
