@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
 
 namespace {
 
@@ -163,10 +164,38 @@ void Shaper::shapeBetweenSpaces(const ShapingStyle &style, QStringView word, Cac
     std::copy_n(flags.begin() + 1, length, slot.flags.begin());
 }
 
+// A font of emoji has hundreds of ligatures, which HarfBuzz tries at each emoji. They stay within a cluster.
+void Shaper::shapeEmoji(const ShapingStyle &style, QStringView word, float *advances, quint8 *flags)
+{
+    // Code units; no emoji is longer. Longer clusters are several emoji.
+    constexpr qsizetype maxEmojiLength = 16;
+    qsizetype clusterEnd = 0;
+    for (qsizetype at = 0, cluster = 0; at < word.size();) {
+        if (at == clusterEnd) {
+            cluster = at;
+            clusterEnd = graphemeClusterEnd(word, at);
+        }
+        const qsizetype end = graphemeClusterEnd(word.first(std::min(clusterEnd, at + maxEmojiLength)), at);
+        const CachedWord &emoji = cachedWord(style, word.sliced(at, end - at));
+        std::copy_n(emoji.advances.begin(), end - at, advances + at);
+        std::copy_n(emoji.flags.begin(), end - at, flags + at);
+        if (at > cluster) {
+            advances[cluster] += std::accumulate(advances + at, advances + end, 0.0F);
+            std::fill(advances + at, advances + end, 0.0F);
+            std::fill(flags + at, flags + end, static_cast<quint8>(UnsafeToBreak));
+        }
+        at = end;
+    }
+}
+
 // Returns false if the word cannot be shaped without its neighbours.
 bool Shaper::shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
     float *advances, quint8 *flags)
 {
+    if (style.isOfEmoji()) {
+        shapeEmoji(style, paragraph.sliced(start, end - start), advances, flags);
+        return true;
+    }
     // Letters do not join across a space or a control character.
     const char16_t *units = paragraph.utf16();
     const bool isApart =

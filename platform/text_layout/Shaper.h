@@ -79,6 +79,7 @@ private:
     void shapeBetweenSpaces(const ShapingStyle &style, QStringView word, CachedWord &slot);
     bool shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
         float *advances, quint8 *flags);
+    void shapeEmoji(const ShapingStyle &style, QStringView word, float *advances, quint8 *flags);
 
     struct BufferDeleter {
         void operator()(hb_buffer_t *buffer) const;

@@ -31,6 +31,9 @@ public:
     /// no rule affects both a word and the next one.
     [[nodiscard]] bool areWordsSeparable() const { return m_areWordsSeparable; }
 
+    /// Whether each grapheme cluster can be shaped separately.
+    [[nodiscard]] bool isOfEmoji() const { return m_face.source().isColored; }
+
     /// The advance of a space; valid only if areWordsSeparable().
     [[nodiscard]] float spaceAdvance() const { return m_spaceAdvance; }
 

@@ -31,9 +31,15 @@ const QStringList pieces{QStringLiteral("the"), QStringLiteral("AVATAR"), QStrin
     QStringLiteral("क्षत्रिय।"), QStringLiteral("र्\u200Dय"), QStringLiteral("ภาษาไทยง่ายมาก"),
     QStringLiteral("漢字かな交じり"), QStringLiteral("「引用」。"), QStringLiteral("한국어"),
     QStringLiteral("😀"), QStringLiteral("👩‍👩‍👧"), QStringLiteral("❤\uFE0F"),
-    QStringLiteral("🇩🇪"), QStringLiteral("\u00AD"), QStringLiteral("a\u00A0b"), QStringLiteral("\t"),
-    QStringLiteral("\u200B"), QStringLiteral("\u200F"), QStringLiteral("\u2028"), QStringLiteral("\u0001"),
-    QString(QChar(0xD83D)), QString(QChar(0xFFFC)), QStringLiteral("—"), QStringLiteral("..."),
+    QStringLiteral("🇩🇪"),
+    QStringLiteral("😀👍🏽🇩🇪🇫🇷🇪1\uFE0F\u20E3🏴󠁧󠁢󠁥󠁮󠁧󠁿😀😀👩🏽‍❤️‍💋‍👨"
+                   "🏿"),
+    QStringLiteral(
+        "👩‍🚒👩‍🚒👩‍🚒👩‍🚒👩‍🚒👩‍🚒👩‍🚒👩‍🚒"),
+    QStringList(9, QStringLiteral("👨")).join(QChar(0x200D)), QStringLiteral("\u00AD"),
+    QStringLiteral("a\u00A0b"), QStringLiteral("\t"), QStringLiteral("\u200B"), QStringLiteral("\u200F"),
+    QStringLiteral("\u2028"), QStringLiteral("\u0001"), QString(QChar(0xD83D)), QString(QChar(0xFFFC)),
+    QStringLiteral("—"), QStringLiteral("..."),
     QStringLiteral("averyveryverylongwordthatnocacheholdsbecauseitistoolong")};
 
 class ShapingOracle : public QuillbayTest {
