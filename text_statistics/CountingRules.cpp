@@ -7,6 +7,16 @@
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
 
+bool TextRules::areLoneUnitsCounted() const
+{
+    return localeIdentifier() != QStringLiteral("en_US");
+}
+
+bool TextRules::areEnoughSentences(quint64 sentencesOfParagraph) const
+{
+    return static_cast<qint64>(sentencesOfParagraph) >= minimumSentencesOfParagraph;
+}
+
 std::optional<double> columnWidthOf(const PageRules &page)
 {
     return PageSizeForMeasuringPreviewViewController::columnWidth(

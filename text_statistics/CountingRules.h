@@ -19,6 +19,10 @@ struct TextRules {
     qint64 minimumSentencesOfParagraph = 0;
     /// Whether a sentence counts only if it ends in a full stop, question mark or exclamation mark.
     bool sentencesNeedTerminalPunctuation = false;
+
+    /// Whether a word of one UTF-16 code unit counts at this moment; a, I, O and x always do.
+    [[nodiscard]] bool areLoneUnitsCounted() const;
+    [[nodiscard]] bool areEnoughSentences(quint64 sentencesOfParagraph) const;
 };
 
 /// The page on which lines are measured, in points of the measuring surface.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/StringStatistics.h"
 
+#include "text_statistics/FixedRules.h"
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/TextCounter.h"
 

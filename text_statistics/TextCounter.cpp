@@ -1,175 +1,245 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/TextCounter.h"
 
+#include "platform/segmentation/SentenceEnds.h"
+#include "text_statistics/FixedRules.h"
+
+#include <algorithm>
+#include <bit>
+
 namespace {
 
-// In American English a single letter or digit is not a word, except a, I, O and x.
-bool isWordCounted(QStringView word, const TextRules &rules)
-{
-    constexpr QStringView countedLetters = u"aAiIoOxX";
-    if (word.size() != 1 || countedLetters.contains(word.front()))
-        return true;
-    return rules.localeIdentifier() != QStringLiteral("en_US");
-}
-
-bool isBlank(QStringView text)
-{
-    return text.trimmed().isEmpty();
-}
-
-bool isParagraphCounted(QStringView content, quint64 sentences, const TextRules &rules)
-{
-    return static_cast<qint64>(sentences) >= rules.minimumSentencesOfParagraph && !isBlank(content);
-}
-
-bool isIndented(QStringView content)
-{
-    return content.startsWith(u'\t');
-}
-
-bool endsWithMark(QStringView text, char16_t mark)
-{
-    QStringView trimmed = text.trimmed();
-    if (trimmed.endsWith(u'"') && !trimmed.endsWith(mark))
-        trimmed.chop(1);
-    return trimmed.endsWith(mark);
-}
+using Fact = TextMasks::WordFact;
 
 } // namespace
 
+/// One text on its way through the windows of the scanner.
+class TextCounter::Pass {
+public:
+    Pass(TextCounter &counter, QStringView text, const TextRules &rules, const Progress &progress)
+        : m_counter(counter)
+        , m_scanner(counter.m_scanner)
+        , m_text(text)
+        , m_rules(rules)
+        , m_progress(progress)
+    {
+    }
+
+    QBYWordCounterStats run()
+    {
+        m_scanner.setText(m_text);
+        while (m_scanner.next())
+            countWindow();
+        if (m_paragraph < m_text.size()) {
+            closeParagraph(m_text.size());
+            const bool isLineOpen = !isLineEnd(m_text.back().unicode());
+            m_counts.numberOfHardLineBreaks += isLineOpen ? 1 : 0;
+            reportProgress(m_text.size());
+        }
+        m_counts.numberOfCharactersIncludingWhitespace = static_cast<quint64>(m_text.size());
+        return m_counts;
+    }
+
+private:
+    void countWindow()
+    {
+        countWords();
+        const TextMasks &masks = m_scanner.masks();
+        m_counts.numberOfCharacters += static_cast<quint64>(masks.length());
+        for (qsizetype index = 0; index < masks.wordCount(); ++index) {
+            const quint64 white = masks.word(CharacterClass::White, index);
+            m_counts.numberOfCharacters -= static_cast<quint64>(std::popcount(white));
+            const quint64 lineSeparators = masks.word(CharacterClass::LineSeparator, index);
+            if (lineSeparators)
+                countLineSeparators(lineSeparators, index);
+            const quint64 ends = lineSeparators | masks.word(CharacterClass::Terminator, index)
+                | masks.word(CharacterClass::ParagraphSeparator, index);
+            endSentences(ends, index);
+        }
+        m_hasCounted = m_hasCounted || hasCountedWord(m_scanner.end());
+        m_hasLettered = m_hasLettered || hasLetter(m_scanner.end());
+        m_hasInk = m_hasInk || hasInk(m_scanner.end());
+        if (m_paragraph < m_scanner.start())
+            reportProgress(m_scanner.end());
+    }
+
+    // Asks for the locale at every word that it may decide about, as it may change meanwhile.
+    void countWords()
+    {
+        quint64 dropped = 0;
+        for (quint64 left = m_scanner.loneUnits(); left > 0; --left)
+            dropped += m_rules.areLoneUnitsCounted() ? 0 : 1;
+        m_counts.numberOfWords += m_scanner.words() - dropped;
+    }
+
+    // U+2028 ends a line; U+0085 is of the same class and does not.
+    void countLineSeparators(quint64 bits, qsizetype index)
+    {
+        for (; bits; bits &= bits - 1)
+            m_counts.numberOfHardLineBreaks += isLineEnd(m_text.utf16()[positionOf(bits, index)]) ? 1 : 0;
+    }
+
+    void endSentences(quint64 ends, qsizetype index)
+    {
+        for (; ends; ends &= ends - 1) {
+            const qsizetype position = positionOf(ends, index);
+            if (position < m_next)
+                continue;
+            if (isParagraphSeparator(m_text.utf16()[position])) {
+                endParagraph(position);
+                continue;
+            }
+            const SentenceStep step = sentenceStepAt(m_text, m_sentence, position);
+            m_next = step.position;
+            if (step.isEnd)
+                closeSentence(step.position);
+        }
+    }
+
+    void endParagraph(qsizetype separator)
+    {
+        closeParagraph(separator);
+        m_counts.numberOfHardLineBreaks += 1;
+        const char16_t *units = m_text.utf16();
+        const bool isPair =
+            units[separator] == u'\r' && separator + 1 < m_text.size() && units[separator + 1] == u'\n';
+        m_paragraph = separator + (isPair ? 2 : 1);
+        m_sentence = m_paragraph;
+        m_next = m_paragraph;
+        reportProgress(m_paragraph);
+    }
+
+    void closeParagraph(qsizetype end)
+    {
+        closeSentence(end);
+        const quint64 sentences = std::exchange(m_sentencesOfParagraph, 0);
+        const bool isBlank = !m_hasInk && !hasInk(end);
+        m_hasInk = false;
+        m_isExact = false;
+        m_counts.numberOfSentences += sentences;
+        if (isBlank || !m_rules.areEnoughSentences(sentences))
+            return;
+        m_counts.numberOfParagraphs += 1;
+        m_counts.numberOfIndentedParagraphs += m_text.utf16()[m_paragraph] == u'\t' ? 1 : 0;
+    }
+
+    void closeSentence(qsizetype end)
+    {
+        if (end == m_sentence)
+            return;
+        m_sentencesOfParagraph += isSentenceCounted(end) ? 1 : 0;
+        m_isExact = m_scanner.isInsideWord(end);
+        m_hasCounted = false;
+        m_hasLettered = false;
+        m_sentence = end;
+    }
+
+    [[nodiscard]] bool isSentenceCounted(qsizetype end)
+    {
+        const QStringView sentence = m_text.sliced(m_sentence, end - m_sentence);
+        if (m_isExact || m_scanner.isInsideWord(end)) {
+            if (!m_counter.m_plain)
+                m_counter.m_plain.emplace();
+            return m_counter.m_plain->isSentenceCounted(sentence, m_rules);
+        }
+        if (m_rules.sentencesNeedTerminalPunctuation
+            && !FixedRules::endsWithTerminalPunctuationMark(sentence))
+            return false;
+        if (m_hasCounted || hasCountedWord(end))
+            return true;
+        return (m_hasLettered || hasLetter(end)) && m_rules.areLoneUnitsCounted();
+    }
+
+    // Whether the open sentence has a word for every reader in this window and before end.
+    [[nodiscard]] bool hasCountedWord(qsizetype end)
+    {
+        TextMasks &masks = m_scanner.masks();
+        return contains(m_sentence, end, [&](qsizetype index) {
+            // What lies across the start of the sentence is not in it.
+            const qsizetype start = m_sentence - m_scanner.start();
+            const quint64 inside = ~TextMasks::rangeMask(index, start, start + 1);
+            return masks.word(Fact::Counted, index) | (masks.word(Fact::CountedAcross, index) & inside);
+        });
+    }
+
+    [[nodiscard]] bool hasLetter(qsizetype end)
+    {
+        TextMasks &masks = m_scanner.masks();
+        return contains(m_sentence, end, [&](qsizetype index) { return masks.word(Fact::Lettered, index); });
+    }
+
+    // Whether the open paragraph has more than white space in this window and before end.
+    [[nodiscard]] bool hasInk(qsizetype end)
+    {
+        const TextMasks &masks = m_scanner.masks();
+        return contains(
+            m_paragraph, end, [&](qsizetype index) { return ~masks.word(CharacterClass::White, index); });
+    }
+
+    // Whether the window has a bit in [start, end), positions of the text.
+    template <typename BitsOf>
+    [[nodiscard]] bool contains(qsizetype start, qsizetype end, BitsOf &&bitsOf) const
+    {
+        const qsizetype from = std::max(start, m_scanner.start()) - m_scanner.start();
+        const qsizetype to = std::min(end, m_scanner.end()) - m_scanner.start();
+        return from < to && TextMasks::first(from, to, bitsOf) < to;
+    }
+
+    [[nodiscard]] qsizetype positionOf(quint64 bits, qsizetype index) const
+    {
+        return m_scanner.start() + index * TextMasks::bitsPerWord + std::countr_zero(bits);
+    }
+
+    void reportProgress(qsizetype position) const
+    {
+        if (m_progress)
+            m_progress(position);
+    }
+
+    TextCounter &m_counter;
+    WordScanner &m_scanner;
+    QStringView m_text;
+    const TextRules &m_rules;
+    const Progress &m_progress;
+    QBYWordCounterStats m_counts;
+    qsizetype m_paragraph = 0; // where the open paragraph starts
+    qsizetype m_sentence = 0; // where the open sentence starts
+    qsizetype m_next = 0; // nothing before ends a sentence
+    quint64 m_sentencesOfParagraph = 0;
+    // What the windows before had of the open sentence and paragraph.
+    bool m_hasCounted = false;
+    bool m_hasLettered = false;
+    bool m_hasInk = false;
+    bool m_isExact = false; // the open sentence starts where its words may differ from those of the text
+};
+
 QBYWordCounterStats TextCounter::count(QStringView text, const TextRules &rules, const Progress &progress)
 {
-    QBYWordCounterStats counts;
-    forEachParagraph(text, [&](const Paragraph &paragraph) {
-        counts += countParagraph(text, paragraph, rules);
-        if (progress)
-            progress(paragraph.end());
-    });
-    return counts;
+    return Pass(*this, text, rules, progress).run();
 }
 
 QBYWordCounterStats TextCounter::countParagraph(
     QStringView text, const Paragraph &paragraph, const TextRules &rules)
 {
-    const QStringView content = paragraph.content(text);
-    const QStringView whole = text.sliced(paragraph.start, paragraph.length);
-    QBYWordCounterStats counts;
-    counts.numberOfWords = wordsOf(content, rules);
-    counts.numberOfCharacters = FixedRules::numberOfCharactersNotIncludingWhiteSpace(content);
-    counts.numberOfCharactersIncludingWhitespace = static_cast<quint64>(whole.size());
-    counts.numberOfSentences = sentencesOf(content, rules);
-    counts.numberOfHardLineBreaks = FixedRules::numberOfHardLineBreaks(whole);
-    counts.numberOfParagraphs = isParagraphCounted(content, counts.numberOfSentences, rules) ? 1 : 0;
-    counts.numberOfIndentedParagraphs = isIndented(content) ? counts.numberOfParagraphs : 0;
-    return counts;
+    return count(text.sliced(paragraph.start, paragraph.length), rules);
 }
 
 quint64 TextCounter::numberOfWords(QStringView text, const TextRules &rules)
 {
-    quint64 words = 0;
-    forEachParagraph(
-        text, [&](const Paragraph &paragraph) { words += wordsOf(paragraph.content(text), rules); });
-    return words;
+    return count(text, rules).numberOfWords;
 }
 
 quint64 TextCounter::numberOfSentences(QStringView text, const TextRules &rules)
 {
-    quint64 sentences = 0;
-    forEachParagraph(
-        text, [&](const Paragraph &paragraph) { sentences += sentencesOf(paragraph.content(text), rules); });
-    return sentences;
+    return count(text, rules).numberOfSentences;
 }
 
 quint64 TextCounter::numberOfParagraphs(QStringView text, const TextRules &rules)
 {
-    quint64 paragraphs = 0;
-    forEachParagraph(text, [&](const Paragraph &paragraph) {
-        const QStringView content = paragraph.content(text);
-        paragraphs += isParagraphCounted(content, sentencesOf(content, rules), rules) ? 1 : 0;
-    });
-    return paragraphs;
+    return count(text, rules).numberOfParagraphs;
 }
 
 quint64 TextCounter::numberOfParagraphsIndented(QStringView text, const TextRules &rules)
 {
-    quint64 paragraphs = 0;
-    forEachParagraph(text, [&](const Paragraph &paragraph) {
-        const QStringView content = paragraph.content(text);
-        if (isIndented(content) && isParagraphCounted(content, sentencesOf(content, rules), rules))
-            ++paragraphs;
-    });
-    return paragraphs;
-}
-
-bool TextCounter::isSentenceCounted(QStringView sentence, const TextRules &rules)
-{
-    if (rules.sentencesNeedTerminalPunctuation && !FixedRules::endsWithTerminalPunctuationMark(sentence))
-        return false;
-    bool hasWord = false;
-    m_segmenter.forEachWord(sentence, [&](QStringView word) {
-        hasWord = isWordCounted(word, rules);
-        return !hasWord;
-    });
-    return hasWord;
-}
-
-quint64 TextCounter::wordsOf(QStringView content, const TextRules &rules)
-{
-    quint64 words = 0;
-    m_segmenter.forEachWord(content, [&](QStringView word) {
-        words += isWordCounted(word, rules) ? 1 : 0;
-        return true;
-    });
-    return words;
-}
-
-quint64 TextCounter::sentencesOf(QStringView content, const TextRules &rules)
-{
-    quint64 sentences = 0;
-    m_segmenter.forEachSentence(content, [&](QStringView sentence) {
-        sentences += isSentenceCounted(sentence, rules) ? 1 : 0;
-        return true;
-    });
-    return sentences;
-}
-
-quint64 FixedRules::numberOfCharactersNotIncludingWhiteSpace(QStringView text)
-{
-    quint64 characters = 0;
-    for (const QChar unit : text)
-        characters += unit.isSpace() ? 0 : 1;
-    return characters;
-}
-
-quint64 FixedRules::numberOfHardLineBreaks(QStringView text)
-{
-    quint64 lines = 0;
-    const char16_t *units = text.utf16();
-    bool isLineOpen = false;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool isFirstOfPair = units[i] == u'\r' && i + 1 < text.size() && units[i + 1] == u'\n';
-        isLineOpen = isFirstOfPair || !isLineEnd(units[i]);
-        lines += isLineOpen ? 0 : 1;
-    }
-    return lines + (isLineOpen ? 1 : 0);
-}
-
-bool FixedRules::endsWithPeriod(QStringView text)
-{
-    return endsWithMark(text, u'.');
-}
-
-bool FixedRules::endsWithQuestionMark(QStringView text)
-{
-    return endsWithMark(text, u'?');
-}
-
-bool FixedRules::endsWithExclamationPoint(QStringView text)
-{
-    return endsWithMark(text, u'!');
-}
-
-bool FixedRules::endsWithTerminalPunctuationMark(QStringView text)
-{
-    return endsWithPeriod(text) || endsWithQuestionMark(text) || endsWithExclamationPoint(text);
+    return count(text, rules).numberOfIndentedParagraphs;
 }

@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
-// TextCounter applies the counting rules to plain text, paragraph by paragraph; words, sentences and
-// paragraphs are counted nowhere else. It does not count lines as laid out on paper.
-// Thread: one at a time.  Owner: the code that counts; expensive to create, so keep it for the next text.
+// TextCounter applies the counting rules to plain text, in one pass over the masks of its characters; words,
+// sentences and paragraphs are counted nowhere else. It does not count lines as laid out on paper.
+// Thread: one at a time.  Owner: the code that counts; large, so keep it for the next text.
 #pragma once
 
 #include "platform/segmentation/Paragraphs.h"
-#include "platform/segmentation/Segmenter.h"
+#include "platform/segmentation/WordScanner.h"
 #include "text_statistics/CountingRules.h"
+#include "text_statistics/PlainTextCounter.h"
 #include "text_statistics/QBYWordCounterStats.h"
 
 #include <QStringView>
 
 #include <functional>
+#include <optional>
 
 class TextCounter {
 public:
-    /// Called after every paragraph with the position up to which the text has been counted.
+    /// Called with the position up to which the text has been counted: after every paragraph, and now and
+    /// then in long ones.
     using Progress = std::function<void(qsizetype position)>;
 
     /// All counts but numberOfLines, which stays 0, in time proportional to the length of the text.
@@ -34,28 +37,8 @@ public:
     [[nodiscard]] quint64 numberOfParagraphsIndented(QStringView text, const TextRules &rules);
 
 private:
-    [[nodiscard]] bool isSentenceCounted(QStringView sentence, const TextRules &rules);
-    [[nodiscard]] quint64 wordsOf(QStringView content, const TextRules &rules);
-    [[nodiscard]] quint64 sentencesOf(QStringView content, const TextRules &rules);
+    class Pass;
 
-    Segmenter m_segmenter;
+    WordScanner m_scanner;
+    std::optional<PlainTextCounter> m_plain; // made when first needed
 };
-
-/// The rules that depend on the characters alone: neither preferences nor locale change them.
-namespace FixedRules {
-
-/// White space: general category Z, U+0009 to U+000D, and U+0085. Every other UTF-16 code unit counts, so a
-/// character outside the Basic Multilingual Plane counts twice.
-quint64 numberOfCharactersNotIncludingWhiteSpace(QStringView text);
-
-/// Lines as ended by LF, CR, CR LF, U+2028 and U+2029; a last line without an end counts too.
-quint64 numberOfHardLineBreaks(QStringView text);
-
-// Whether the text, without white space at both ends, ends in the mark or in the mark and a straight double
-// quote.
-bool endsWithPeriod(QStringView text);
-bool endsWithQuestionMark(QStringView text);
-bool endsWithExclamationPoint(QStringView text);
-bool endsWithTerminalPunctuationMark(QStringView text);
-
-} // namespace FixedRules

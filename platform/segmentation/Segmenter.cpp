@@ -4,8 +4,6 @@
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
 
-namespace {
-
 bool isLetterOrDigit(char32_t character)
 {
     const auto codePoint = static_cast<UChar32>(character);
@@ -17,7 +15,11 @@ bool isLetterOrDigit(char32_t character)
     return !(category & U_GC_M_MASK) && u_isUAlphabetic(codePoint);
 }
 
-} // namespace
+bool isEnglishWordOfOneLetter(char16_t unit)
+{
+    constexpr QStringView letters = u"aAiIoOxX";
+    return letters.contains(unit);
+}
 
 bool isWord(QStringView segment)
 {

@@ -7,9 +7,14 @@
 
 #include <QStringView>
 
-/// Whether a segment between two word boundaries is a word: it contains a letter, digit or ideograph (a code
-/// point that is Alphabetic but not a mark, a decimal digit, or a letter number). Other segments are gaps
-/// between words.
+/// Whether a character makes a word: Alphabetic but not a mark, a decimal digit, or a letter number.
+bool isLetterOrDigit(char32_t character);
+
+/// A, I, O and X in both cases: words of their own in English.
+bool isEnglishWordOfOneLetter(char16_t unit);
+
+/// Whether a segment between two word boundaries is a word: it contains a letter, digit or ideograph, for
+/// which isLetterOrDigit() holds. Other segments are gaps between words.
 bool isWord(QStringView segment);
 
 /// The yield functions get a view into the text and return whether to continue.

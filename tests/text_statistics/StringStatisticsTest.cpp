@@ -4,7 +4,7 @@
 
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/QuillbayTest.h"
-#include "text_statistics/TextCounter.h"
+#include "text_statistics/FixedRules.h"
 
 using namespace QBYExtension;
 using Preferences = QBYUserDefaultsController;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The counts of random texts, added up over their paragraphs, against counts of the whole text.
 #include "tests/harness/QuillbayTest.h"
+#include "text_statistics/FixedRules.h"
 #include "text_statistics/TextCounter.h"
 
 #include <random>

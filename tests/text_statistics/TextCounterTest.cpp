@@ -2,6 +2,7 @@
 #include "text_statistics/TextCounter.h"
 
 #include "tests/harness/QuillbayTest.h"
+#include "text_statistics/FixedRules.h"
 
 #include <vector>
 

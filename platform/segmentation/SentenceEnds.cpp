@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "platform/segmentation/SentenceEnds.h"
+
+#include "platform/segmentation/CharacterClasses.h"
+
+namespace {
+
+// Walks over the code units of a text; behind its end there are separators.
+class Cursor {
+public:
+    Cursor(QStringView text, qsizetype position)
+        : m_units(text.utf16())
+        , m_size(text.size())
+        , m_position(position)
+    {
+    }
+
+    [[nodiscard]] qsizetype position() const { return m_position; }
+
+    [[nodiscard]] SentenceClass value() const
+    {
+        return m_position < m_size ? classesAt(m_units, m_size, m_position).sentence()
+                                   : SentenceClass::Separator;
+    }
+
+    void skip(SentenceClass skipped)
+    {
+        while (value() == skipped)
+            ++m_position;
+    }
+
+    // SB5 lets extenders follow each of them.
+    void skipWithExtenders(SentenceClass skipped)
+    {
+        for (SentenceClass now = value(); now == skipped || now == SentenceClass::Extender; now = value())
+            ++m_position;
+    }
+
+    // To the first character that ends the search of SB8.
+    void skipNonLetters()
+    {
+        for (;; ++m_position) {
+            switch (value()) {
+            case SentenceClass::OtherLetter:
+            case SentenceClass::Upper:
+            case SentenceClass::Lower:
+            case SentenceClass::Separator:
+            case SentenceClass::FullStop:
+            case SentenceClass::Terminator:
+                return;
+            default:
+                break;
+            }
+        }
+    }
+
+private:
+    const char16_t *m_units;
+    qsizetype m_size;
+    qsizetype m_position;
+};
+
+// The left side of SB7.
+bool followsCasedLetter(QStringView text, qsizetype sentence, qsizetype position)
+{
+    while (position > sentence) {
+        switch (classesAt(text.utf16(), text.size(), --position).sentence()) {
+        case SentenceClass::Extender:
+            continue;
+        case SentenceClass::Upper:
+        case SentenceClass::Lower:
+            return true;
+        default:
+            return false;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+SentenceStep sentenceStepAt(QStringView text, qsizetype sentence, qsizetype terminator)
+{
+    Cursor cursor(text, terminator);
+    const SentenceClass kind = cursor.value();
+    cursor = Cursor(text, terminator + 1);
+    if (kind == SentenceClass::Separator)
+        return {true, terminator + 1};
+    const bool isFullStop = kind == SentenceClass::FullStop;
+    cursor.skip(SentenceClass::Extender);
+    if (isFullStop) {
+        const SentenceClass next = cursor.value();
+        if (next == SentenceClass::Number) // SB6
+            return {false, cursor.position()};
+        if (next == SentenceClass::Upper && followsCasedLetter(text, sentence, terminator)) // SB7
+            return {false, cursor.position()};
+    }
+    cursor.skipWithExtenders(SentenceClass::Close);
+    cursor.skipWithExtenders(SentenceClass::Space);
+    const qsizetype end = cursor.position();
+    switch (cursor.value()) {
+    case SentenceClass::Continuing: // SB8a
+    case SentenceClass::FullStop:
+    case SentenceClass::Terminator:
+        return {false, end};
+    case SentenceClass::Separator: {
+        const bool isPartOfSentence =
+            end < text.size() && classesAt(text.utf16(), text.size(), end).has(CharacterClass::LineSeparator);
+        return {true, isPartOfSentence ? end + 1 : end};
+    }
+    default:
+        break;
+    }
+    if (isFullStop) {
+        cursor.skipNonLetters();
+        if (cursor.value() == SentenceClass::Lower) // SB8
+            return {false, cursor.position()};
+    }
+    return {true, end};
+}
