@@ -267,16 +267,19 @@ void WordScanner::countUnlettered(const Word &word, quint64 starts, quint64 acro
             continue;
         }
         const bool isStart = starts & bit;
-        const bool isAcross = across & bit;
         const bool isLettered = !(word.unlettered & bit);
         m_carry.hasLetter = m_carry.hasLetter && !isStart;
         m_words += isLettered && !m_carry.hasLetter ? 1 : 0;
         m_carry.hasLetter = m_carry.hasLetter || isLettered;
+        // A sentence may start behind U+202F too, which is both a space and a connector.
+        const bool isAcross = (across & bit) || (isLettered && !m_carry.hasLetterBehindMiddle);
         m_carry.hasLetterBehindMiddle =
             isLettered || (m_carry.hasLetterBehindMiddle && !isStart && !isAcross);
+        if (isStart)
+            continue;
         if (isAcross)
             countedAcross |= m_carry.hasLetter ? bit : 0;
-        else if (!isStart && m_carry.hasLetterBehindMiddle)
+        else if (m_carry.hasLetterBehindMiddle)
             counted |= bit;
     }
     m_masks.word(Fact::Counted, word.index) |= counted | (word.joining & word.signs);

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+// The counts of TextCounter against those of PlainTextCounter.
+#include "platform/segmentation/CharacterClasses.h"
+#include "tests/harness/QuillbayTest.h"
+#include "text_statistics/TextCounter.h"
+
+#include <map>
+#include <random>
+
+namespace {
+
+TextRules rulesOf(int variant)
+{
+    const QString locale = variant % 2 == 0 ? QStringLiteral("en_US") : QStringLiteral("fr_FR");
+    return {.localeIdentifier = [locale] { return locale; },
+        .minimumSentencesOfParagraph = variant / 4 % 3,
+        .sentencesNeedTerminalPunctuation = variant / 2 % 2 == 1};
+}
+
+class CountingDifferenceTest : public ::testing::Test {
+protected:
+    static constexpr int variants = 12;
+
+    bool differs(QStringView text, int variant)
+    {
+        const TextRules rules = rulesOf(variant);
+        return !(m_fast.count(text, rules) == m_plain.count(text, rules));
+    }
+
+    // Shortens the text as far as the counts still differ, and reports the rest.
+    void expectSame(QString text, int variant)
+    {
+        if (!differs(text, variant))
+            return;
+        for (qsizetype step = text.size() / 2; step > 0; step = step == 1 ? 0 : (step + 1) / 2) {
+            for (qsizetype start = 0; start < text.size();) {
+                QString shorter = text;
+                shorter.remove(start, step);
+                if (differs(shorter, variant))
+                    text = shorter;
+                else
+                    start += step;
+            }
+        }
+        const TextRules rules = rulesOf(variant);
+        const QBYWordCounterStats fast = m_fast.count(text, rules);
+        const QBYWordCounterStats plain = m_plain.count(text, rules);
+        QString units;
+        for (const QChar unit : text)
+            units += QString::number(unit.unicode(), 16) + u' ';
+        ADD_FAILURE() << "variant " << variant << ": " << units.toStdString() << " fast "
+                      << fast.numberOfWords << " words, " << fast.numberOfSentences << " sentences; plain "
+                      << plain.numberOfWords << " words, " << plain.numberOfSentences << " sentences";
+    }
+
+    TextCounter m_fast;
+    PlainTextCounter m_plain;
+};
+
+// One character of each combination of classes and, as a second opinion, of what Qt's tables say of it.
+const std::vector<QString> &representatives()
+{
+    static const std::vector<QString> characters = [] {
+        std::map<std::pair<quint32, QChar::Category>, char32_t> found;
+        for (char32_t character = 0; character < 0x110000; ++character) {
+            const CharacterClasses classes = classesOf(character);
+            const quint32 key = classes.flags() << 4 | static_cast<quint32>(classes.sentence());
+            const bool isSupplementary = character > 0xFFFF;
+            found.try_emplace({key << 1 | (isSupplementary ? 1U : 0U), QChar::Other_NotAssigned}, character);
+        }
+        std::vector<QString> list;
+        for (const auto &[key, character] : found)
+            list.push_back(QString::fromUcs4(&character, 1));
+        // Of classes that have others too.
+        for (const char32_t character : U"'\"\u00AD\u200D\u0301\u05F3\u05F4\u2019\u30FC\uFF9E\u3002"
+                                        U"\u1AA8\u104A\u0E33\u302A\u24C2\U0001F600\U0001F1E9\U0001F170") {
+            if (character)
+                list.push_back(QString::fromUcs4(&character, 1));
+        }
+        list.push_back(QString(QChar(0xD800)));
+        list.push_back(QString(QChar(0xDC00)));
+        return list;
+    }();
+    return characters;
+}
+
+QString randomOf(const std::vector<QString> &pieces, std::mt19937 &random, qsizetype length)
+{
+    QString text;
+    std::uniform_int_distribution<size_t> index(0, pieces.size() - 1);
+    while (text.size() < length)
+        text += pieces[index(random)];
+    return text;
+}
+
+} // namespace
+
+TEST_F(CountingDifferenceTest, EveryPairAndTripleOfClasses)
+{
+    const std::vector<QString> &pieces = representatives();
+    ASSERT_GT(pieces.size(), 40U);
+    int variant = 0;
+    for (const QString &first : pieces) {
+        QString text = first + u'\n';
+        for (const QString &second : pieces) {
+            text += first + second + u'\n';
+            for (const QString &third : pieces)
+                text += first + second + third + u'\n';
+        }
+        expectSame(text, ++variant % variants);
+    }
+}
+
+TEST_F(CountingDifferenceTest, RandomTextsOfAllClasses)
+{
+    std::mt19937 random(18);
+    for (int round = 0; round < 3000; ++round)
+        expectSame(randomOf(representatives(), random, round % 60), round % variants);
+}
+
+TEST_F(CountingDifferenceTest, RandomTextsOfFewClassesLongerThanAWindow)
+{
+    std::mt19937 random(19);
+    for (int round = 0; round < 200; ++round) {
+        std::vector<QString> few;
+        for (int i = 0; i < 4; ++i)
+            few.push_back(randomOf(representatives(), random, 1));
+        few.push_back(QStringLiteral("word"));
+        QString text;
+        while (text.size() < 10'000)
+            text += randomOf({few[0], few[1], few[2], few[3], few[4]}, random, round % 3 == 0 ? 5000 : 40)
+                + (round % 2 == 0 ? QStringLiteral(" ") : QStringLiteral(". "));
+        expectSame(text, round % variants);
+    }
+}
+
+// Some of these run over the end of a window of 4096 code units, without a boundary.
+TEST_F(CountingDifferenceTest, OneEndlessWordAndWhatFollowsIt)
+{
+    for (const QString &last : representatives()) {
+        for (const qsizetype length : {4094, 4095, 4096, 8191})
+            expectSame(QString(length, u'a') + last + QStringLiteral("bc d."), 2);
+    }
+}
+
+TEST_F(CountingDifferenceTest, TextsOfEveryScript)
+{
+    std::map<QChar::Script, std::vector<QString>> letters;
+    for (char32_t character = 0x80; character < 0x20000; ++character) {
+        if (QChar::category(character) != QChar::Other_NotAssigned)
+            letters[QChar::script(character)].push_back(QString::fromUcs4(&character, 1));
+    }
+    EXPECT_GT(letters.size(), 100U);
+    const std::vector<QString> marks{QStringLiteral(" "), QStringLiteral(" "), QStringLiteral(" "),
+        QStringLiteral(". "), QStringLiteral("? "), QStringLiteral(", "), QStringLiteral("\u3002"),
+        QStringLiteral("\u0964 "), QStringLiteral("\u061F "), QStringLiteral("12"), QStringLiteral("\n"),
+        QStringLiteral(".\""), QStringLiteral("'")};
+    std::mt19937 random(20);
+    int variant = 0;
+    for (const auto &[script, characters] : letters) {
+        QString text;
+        for (int word = 0; word < 300; ++word)
+            text += randomOf(characters, random, static_cast<qsizetype>(random() % 12))
+                + randomOf(marks, random, 1);
+        expectSame(text, ++variant % variants);
+    }
+}
