@@ -5,12 +5,15 @@
 
 namespace {
 
-bool endsWithMark(QStringView text, char16_t mark)
+// Whether a text, without white space at its end, ends in a mark, or in a mark and a straight double quote.
+template <typename IsMark>
+bool endsWithMark(QStringView text, IsMark &&isMark)
 {
-    QStringView trimmed = text.trimmed();
-    if (trimmed.endsWith(u'"') && !trimmed.endsWith(mark))
-        trimmed.chop(1);
-    return trimmed.endsWith(mark);
+    const auto isMarkBefore = [&](qsizetype end) { return end > 0 && isMark(text.utf16()[end - 1]); };
+    qsizetype end = text.size();
+    while (end > 0 && QChar::isSpace(text.utf16()[end - 1]))
+        --end;
+    return isMarkBefore(end) || (end > 0 && text.utf16()[end - 1] == u'"' && isMarkBefore(end - 1));
 }
 
 } // namespace
@@ -38,20 +41,20 @@ quint64 FixedRules::numberOfHardLineBreaks(QStringView text)
 
 bool FixedRules::endsWithPeriod(QStringView text)
 {
-    return endsWithMark(text, u'.');
+    return endsWithMark(text, [](char16_t unit) { return unit == u'.'; });
 }
 
 bool FixedRules::endsWithQuestionMark(QStringView text)
 {
-    return endsWithMark(text, u'?');
+    return endsWithMark(text, [](char16_t unit) { return unit == u'?'; });
 }
 
 bool FixedRules::endsWithExclamationPoint(QStringView text)
 {
-    return endsWithMark(text, u'!');
+    return endsWithMark(text, [](char16_t unit) { return unit == u'!'; });
 }
 
 bool FixedRules::endsWithTerminalPunctuationMark(QStringView text)
 {
-    return endsWithPeriod(text) || endsWithQuestionMark(text) || endsWithExclamationPoint(text);
+    return endsWithMark(text, [](char16_t unit) { return unit == u'.' || unit == u'?' || unit == u'!'; });
 }

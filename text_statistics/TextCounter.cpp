@@ -48,7 +48,7 @@ private:
         m_counts.numberOfCharacters += static_cast<quint64>(masks.length());
         for (qsizetype index = 0; index < masks.wordCount(); ++index) {
             const quint64 white = masks.word(CharacterClass::White, index);
-            m_counts.numberOfCharacters -= static_cast<quint64>(std::popcount(white));
+            m_counts.numberOfCharacters -= TextMasks::countBits(white);
             const quint64 lineSeparators = masks.word(CharacterClass::LineSeparator, index);
             if (lineSeparators)
                 countLineSeparators(lineSeparators, index);

@@ -3,6 +3,9 @@
 
 #include <QtEndian>
 
+#include <algorithm>
+#include <bit>
+
 // Compiles the rest of this file once for every instruction set.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "platform/segmentation/AsciiMasks.cpp"
@@ -15,28 +18,16 @@ namespace AsciiMaskKernels::HWY_NAMESPACE {
 
 #if HWY_TARGET == HWY_SCALAR
 // For processors without vectors, and the oracle of the others.
-void readMasks(const char16_t *units, AsciiMasks &masks)
+void readMasks(const char16_t *units, ClassMasks *masks, size_t count)
 {
-    masks = {};
-    const auto add = [](quint64 &mask, bool isSet, int position) { mask |= quint64{isSet} << position; };
-    for (int i = 0; i < 64; ++i) {
-        const char16_t unit = units[i];
-        if (unit >= 0x80) {
-            add(masks.notAscii, true, i);
-            continue;
+    for (size_t i = 0; i < count; ++i) {
+        masks[i].fill(0);
+        for (int bit = 0; bit < 64; ++bit) {
+            const char16_t unit = units[i * 64 + static_cast<size_t>(bit)];
+            quint32 flags = unit < 0x80 ? classesOf(unit).flags() : 1U << notAsciiMask;
+            for (; flags; flags &= flags - 1)
+                masks[i][static_cast<size_t>(std::countr_zero(flags))] |= quint64{1} << bit;
         }
-        const int lower = unit | 0x20;
-        const bool isMiddle = unit == u'\'' || unit == u'.';
-        add(masks.letter, (lower >= 'a' && lower <= 'z') || unit == u'@', i);
-        add(masks.number, unit >= u'0' && unit <= u'9', i);
-        add(masks.connector, unit == u'_', i);
-        add(masks.unlettered, unit == u'@' || unit == u'_', i);
-        add(masks.middleOfLetters, isMiddle, i);
-        add(masks.middleOfNumbers, isMiddle || unit == u',' || unit == u';', i);
-        add(masks.sign, lower == 'a' || lower == 'i' || lower == 'o' || lower == 'x', i);
-        add(masks.white, unit == u' ' || (unit >= u'\t' && unit <= u'\r'), i);
-        add(masks.terminator, unit == u'.' || unit == u'!' || unit == u'?', i);
-        add(masks.paragraphSeparator, unit == u'\n' || unit == u'\r', i);
     }
 }
 #else
@@ -76,39 +67,49 @@ HWY_INLINE hn::Mask<Bytes> isInRange(Vector bytes, char first, uint8_t count)
 }
 
 template <typename Mask>
-HWY_INLINE void store(Mask mask, quint64 &bits, size_t offset)
+HWY_INLINE void store(Mask mask, ClassMasks &masks, CharacterClass value, size_t offset)
 {
     // The bits of the lanes, the lowest first, on machines of either byte order.
-    hn::StoreMaskBits(Bytes(), mask, reinterpret_cast<uint8_t *>(&bits) + offset / 8);
+    auto *bytes = reinterpret_cast<uint8_t *>(&masks[static_cast<size_t>(value)]);
+    hn::StoreMaskBits(Bytes(), mask, bytes + offset / 8);
 }
 
-void readMasks(const char16_t *units, AsciiMasks &masks)
+HWY_INLINE void readVector(const char16_t *units, ClassMasks &masks, size_t offset)
 {
     const Bytes tag;
-    for (size_t offset = 0; offset < 64; offset += hn::Lanes(tag)) {
-        const Vector bytes = readBytes(units + offset);
-        const Vector lower = hn::Or(bytes, hn::Set(tag, uint8_t{0x20}));
-        const auto at = equals(bytes, '@');
-        const auto lowLine = equals(bytes, '_');
-        const auto middle = hn::Or(equals(bytes, '\''), equals(bytes, '.'));
-        store(hn::Or(isInRange(lower, 'a', 26), at), masks.letter, offset);
-        store(isInRange(bytes, '0', 10), masks.number, offset);
-        store(lowLine, masks.connector, offset);
-        store(hn::Or(at, lowLine), masks.unlettered, offset);
-        store(middle, masks.middleOfLetters, offset);
-        store(hn::Or(middle, hn::Or(equals(bytes, ','), equals(bytes, ';'))), masks.middleOfNumbers, offset);
-        store(hn::Or(hn::Or(equals(lower, 'a'), equals(lower, 'i')),
-                  hn::Or(equals(lower, 'o'), equals(lower, 'x'))),
-            masks.sign, offset);
-        store(hn::Or(equals(bytes, ' '), isInRange(bytes, '\t', 5)), masks.white, offset);
-        store(hn::Or(equals(bytes, '.'), hn::Or(equals(bytes, '!'), equals(bytes, '?'))), masks.terminator,
-            offset);
-        store(hn::Or(equals(bytes, '\n'), equals(bytes, '\r')), masks.paragraphSeparator, offset);
-        store(hn::Ne(hn::And(bytes, hn::Set(tag, uint8_t{0x80})), hn::Zero(tag)), masks.notAscii, offset);
-    }
-    if constexpr (Q_BYTE_ORDER == Q_BIG_ENDIAN) {
-        for (quint64 *mask = &masks.letter; mask <= &masks.notAscii; ++mask)
-            *mask = qbswap(*mask);
+    const Vector bytes = readBytes(units + offset);
+    const Vector lower = hn::Or(bytes, hn::Set(tag, uint8_t{0x20}));
+    const auto at = equals(bytes, '@');
+    const auto lowLine = equals(bytes, '_');
+    const auto point = equals(bytes, '.');
+    const auto middle = hn::Or(equals(bytes, '\''), point);
+    const auto comma = hn::Or(equals(bytes, ','), equals(bytes, ';'));
+    const auto signsAI = hn::Or(equals(lower, 'a'), equals(lower, 'i'));
+    const auto signsOX = hn::Or(equals(lower, 'o'), equals(lower, 'x'));
+    const auto otherTerminators = hn::Or(equals(bytes, '!'), equals(bytes, '?'));
+    using enum CharacterClass;
+    store(hn::Or(isInRange(lower, 'a', 26), at), masks, Letter, offset);
+    store(isInRange(bytes, '0', 10), masks, Number, offset);
+    store(lowLine, masks, Connector, offset);
+    store(hn::Or(at, lowLine), masks, Unlettered, offset);
+    store(middle, masks, MiddleOfLetters, offset);
+    store(hn::Or(middle, comma), masks, MiddleOfNumbers, offset);
+    store(hn::Or(signsAI, signsOX), masks, Sign, offset);
+    store(hn::Or(equals(bytes, ' '), isInRange(bytes, '\t', 5)), masks, White, offset);
+    store(hn::Or(point, otherTerminators), masks, Terminator, offset);
+    store(hn::Or(equals(bytes, '\n'), equals(bytes, '\r')), masks, ParagraphSeparator, offset);
+    const auto notAscii = hn::Ne(hn::And(bytes, hn::Set(tag, uint8_t{0x80})), hn::Zero(tag));
+    store(notAscii, masks, static_cast<CharacterClass>(notAsciiMask), offset);
+}
+
+void readMasks(const char16_t *units, ClassMasks *masks, size_t count)
+{
+    for (size_t i = 0; i < count; ++i, units += 64) {
+        masks[i].fill(0);
+        for (size_t offset = 0; offset < 64; offset += hn::Lanes(Bytes()))
+            readVector(units, masks[i], offset);
+        if constexpr (Q_BYTE_ORDER == Q_BIG_ENDIAN)
+            std::transform(masks[i].begin(), masks[i].end(), masks[i].begin(), qbswap<quint64>);
     }
 }
 #endif
@@ -121,9 +122,9 @@ namespace AsciiMaskKernels {
 HWY_EXPORT(readMasks);
 } // namespace AsciiMaskKernels
 
-void readAsciiMasks(const char16_t *units, AsciiMasks &masks)
+void readAsciiMasks(const char16_t *units, ClassMasks *masks, size_t count)
 {
     using namespace AsciiMaskKernels;
-    HWY_DYNAMIC_DISPATCH(readMasks)(units, masks);
+    HWY_DYNAMIC_DISPATCH(readMasks)(units, masks, count);
 }
 #endif

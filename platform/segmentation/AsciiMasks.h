@@ -1,25 +1,19 @@
 // SPDX-License-Identifier: MIT
-// The masks of character classes of 64 code units at a time, for the ASCII characters among them, by the
-// widest vectors of the processor.
+// Fills the masks of the ASCII characters of a text, by the widest vectors of the processor.
 // Thread: any.
 #pragma once
 
+#include "platform/segmentation/CharacterClasses.h"
+
 #include <QtGlobal>
 
-/// Bit n of each mask is code unit n.
-struct AsciiMasks {
-    quint64 letter;
-    quint64 number;
-    quint64 connector;
-    quint64 unlettered;
-    quint64 middleOfLetters;
-    quint64 middleOfNumbers;
-    quint64 sign;
-    quint64 white;
-    quint64 terminator;
-    quint64 paragraphSeparator;
-    quint64 notAscii; ///< the code units of which the other masks know nothing
-};
+#include <array>
 
-/// units: 64 code units. The classes are those of CharacterClass.
-void readAsciiMasks(const char16_t *units, AsciiMasks &masks);
+/// One mask for each class, and one for the code units of which the others know nothing, as they are not
+/// ASCII. Bit n of each is code unit n.
+using ClassMasks = std::array<quint64, characterClassCount + 1>;
+
+inline constexpr size_t notAsciiMask = characterClassCount;
+
+/// units: 64 code units for each element of masks.
+void readAsciiMasks(const char16_t *units, ClassMasks *masks, size_t count);

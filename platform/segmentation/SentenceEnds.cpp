@@ -13,34 +13,37 @@ public:
         , m_size(text.size())
         , m_position(position)
     {
+        read();
     }
 
     [[nodiscard]] qsizetype position() const { return m_position; }
 
-    [[nodiscard]] SentenceClass value() const
+    [[nodiscard]] SentenceClass value() const { return m_value; }
+
+    void advance()
     {
-        return m_position < m_size ? classesAt(m_units, m_size, m_position).sentence()
-                                   : SentenceClass::Separator;
+        ++m_position;
+        read();
     }
 
     void skip(SentenceClass skipped)
     {
-        while (value() == skipped)
-            ++m_position;
+        while (m_value == skipped)
+            advance();
     }
 
     // SB5 lets extenders follow each of them.
     void skipWithExtenders(SentenceClass skipped)
     {
-        for (SentenceClass now = value(); now == skipped || now == SentenceClass::Extender; now = value())
-            ++m_position;
+        while (m_value == skipped || m_value == SentenceClass::Extender)
+            advance();
     }
 
     // To the first character that ends the search of SB8.
     void skipNonLetters()
     {
-        for (;; ++m_position) {
-            switch (value()) {
+        for (;; advance()) {
+            switch (m_value) {
             case SentenceClass::OtherLetter:
             case SentenceClass::Upper:
             case SentenceClass::Lower:
@@ -55,9 +58,16 @@ public:
     }
 
 private:
+    void read()
+    {
+        m_value = m_position < m_size ? classesAt(m_units, m_size, m_position).sentence()
+                                      : SentenceClass::Separator;
+    }
+
     const char16_t *m_units;
     qsizetype m_size;
     qsizetype m_position;
+    SentenceClass m_value;
 };
 
 // The left side of SB7.
@@ -83,7 +93,7 @@ SentenceStep sentenceStepAt(QStringView text, qsizetype sentence, qsizetype term
 {
     Cursor cursor(text, terminator);
     const SentenceClass kind = cursor.value();
-    cursor = Cursor(text, terminator + 1);
+    cursor.advance();
     if (kind == SentenceClass::Separator)
         return {true, terminator + 1};
     const bool isFullStop = kind == SentenceClass::FullStop;

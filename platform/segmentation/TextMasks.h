@@ -4,6 +4,7 @@
 // Thread: one at a time.  Owner: the code that counts; large, to be reused for the next window.
 #pragma once
 
+#include "platform/segmentation/AsciiMasks.h"
 #include "platform/segmentation/CharacterClasses.h"
 
 #include <QStringView>
@@ -52,9 +53,24 @@ public:
     {
         return m_facts[static_cast<size_t>(index)][static_cast<size_t>(fact)];
     }
+    [[nodiscard]] bool test(WordFact fact, qsizetype position) const
+    {
+        const quint64 bits = m_facts[static_cast<size_t>(position / bitsPerWord)][static_cast<size_t>(fact)];
+        return bits >> (position % bitsPerWord) & 1;
+    }
     void set(WordFact fact, qsizetype position)
     {
         word(fact, position / bitsPerWord) |= quint64{1} << (position % bitsPerWord);
+    }
+
+    /// The number of bits; quicker than std::popcount() where the processor is not known to have an
+    /// instruction.
+    static quint64 countBits(quint64 bits)
+    {
+        bits -= bits >> 1 & 0x5555555555555555;
+        bits = (bits & 0x3333333333333333) + (bits >> 2 & 0x3333333333333333);
+        bits = (bits + (bits >> 4)) & 0x0F0F0F0F0F0F0F0F;
+        return bits * 0x0101010101010101 >> 56;
     }
 
     /// The bits of word index that lie in [from, to).
@@ -90,12 +106,11 @@ public:
     }
 
 private:
-    void readWord(QStringView text, qsizetype start, qsizetype index);
+    static constexpr size_t maxWordCount = maxLength / bitsPerWord;
 
-    template <size_t Count>
-    using Masks = std::array<std::array<quint64, Count>, maxLength / bitsPerWord>;
+    void addNotAscii(QStringView text, qsizetype from, ClassMasks &masks);
 
-    Masks<characterClassCount> m_classes{};
-    Masks<4> m_facts{};
+    std::array<ClassMasks, maxWordCount> m_classes{};
+    std::array<std::array<quint64, 4>, maxWordCount> m_facts{};
     qsizetype m_length = 0;
 };

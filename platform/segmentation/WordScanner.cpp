@@ -10,11 +10,6 @@ namespace {
 using enum CharacterClass;
 using Fact = TextMasks::WordFact;
 
-quint64 countBits(quint64 bits)
-{
-    return static_cast<quint64>(std::popcount(bits));
-}
-
 quint64 highestBit(quint64 bits)
 {
     return bits >> 63;
@@ -242,11 +237,12 @@ void WordScanner::countWord(const Word &word)
     quint64 &counted = m_masks.word(Fact::Counted, word.index);
     counted |= behindHangul & (word.hangul | word.extenders);
     m_masks.word(Fact::Lettered, word.index) |= (word.joining & ~word.unlettered) | word.hangul;
-    m_words += countBits(hangulStarts);
+    if (hangulStarts)
+        m_words += TextMasks::countBits(hangulStarts);
     if (word.unlettered || m_carry.isUnlettered) {
         countUnlettered(word, starts, across, word.extenders & unitsBehindJoining);
     } else {
-        m_words += countBits(starts);
+        m_words += TextMasks::countBits(starts);
         counted |= (word.joining & (behindJoining | word.signs)) | (word.extenders & unitsBehindJoining);
         m_masks.word(Fact::CountedAcross, word.index) |= across;
     }
@@ -303,8 +299,8 @@ void WordScanner::countLoneUnits(const Word &word, quint64 starts, quint64 hangu
         behind(behindLetter & word.letterMiddles, word.extenders, m_carry.loneLetterMiddle) & word.letters;
     const quint64 acrossNumbers =
         behind(behindNumber & word.numberMiddles, word.extenders, m_carry.loneNumberMiddle) & word.numbers;
-    m_openLoneUnits += countBits(lone | hangulStarts) - countBits(joined) - countBits(acrossLetters)
-        - countBits(acrossNumbers);
+    m_openLoneUnits += TextMasks::countBits(lone | hangulStarts)
+        - TextMasks::countBits(joined | acrossLetters | acrossNumbers);
 }
 
 void WordScanner::startHard(qsizetype start, qsizetype end)
@@ -356,12 +352,4 @@ void WordScanner::markInside(qsizetype from, qsizetype to)
 {
     for (qsizetype position = from; position < to; ++position)
         m_masks.set(Fact::Inside, position - m_start);
-}
-
-bool WordScanner::isInsideWord(qsizetype position)
-{
-    if (position >= end())
-        return position < m_hardUntil;
-    const qsizetype index = position - m_start;
-    return m_masks.word(Fact::Inside, index / TextMasks::bitsPerWord) >> (index % TextMasks::bitsPerWord) & 1;
 }

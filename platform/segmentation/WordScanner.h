@@ -33,7 +33,11 @@ public:
 
     /// Whether cutting the text at a position from start() on changes its words in a way that the masks do
     /// not show.
-    [[nodiscard]] bool isInsideWord(qsizetype position);
+    [[nodiscard]] bool isInsideWord(qsizetype position) const
+    {
+        return position < end() ? m_masks.test(TextMasks::WordFact::Inside, position - m_start)
+                                : position < m_hardUntil;
+    }
 
 private:
     /// What the end of a word of masks means for the next one; each is one bit.
