@@ -76,13 +76,13 @@ private:
     void countLineSeparators(quint64 bits, qsizetype index)
     {
         for (; bits; bits &= bits - 1)
-            m_counts.numberOfHardLineBreaks += isLineEnd(m_text.utf16()[positionOf(bits, index)]) ? 1 : 0;
+            m_counts.numberOfHardLineBreaks += isLineEnd(m_text.utf16()[textPosition(bits, index)]) ? 1 : 0;
     }
 
     void endSentences(quint64 ends, qsizetype index)
     {
         for (; ends; ends &= ends - 1) {
-            const qsizetype position = positionOf(ends, index);
+            const qsizetype position = textPosition(ends, index);
             if (position < m_next)
                 continue;
             if (isParagraphSeparator(m_text.utf16()[position])) {
@@ -185,7 +185,7 @@ private:
         return from < to && TextMasks::first(from, to, bitsOf) < to;
     }
 
-    [[nodiscard]] qsizetype positionOf(quint64 bits, qsizetype index) const
+    [[nodiscard]] qsizetype textPosition(quint64 bits, qsizetype index) const
     {
         return m_scanner.start() + index * TextMasks::bitsPerWord + std::countr_zero(bits);
     }

@@ -206,11 +206,25 @@ qsizetype WordScanner::firstBoundary(qsizetype from, qsizetype to) const
 // How the text goes on from a position to the next boundary.
 WordScanner::Run WordScanner::restOfRun(qsizetype position) const
 {
+    const char16_t *units = m_text.utf16();
+    const qsizetype size = m_text.size();
     bool isHard = false;
     while (!isBoundary(position)) {
-        const CharacterClasses classes = classesAt(m_text.utf16(), m_text.size(), position);
-        isHard = isHard || classes.has(Hard) || classes.has(Hebrew);
-        ++position;
+        ClassMasks ascii{};
+        if (size - position > TextMasks::bitsPerWord)
+            readAsciiMasks(units + position, &ascii, 1);
+        else
+            ascii[notAsciiMask] = 1; // one at a time
+        // Boundaries follow white space, and only other characters than ASCII are hard.
+        const quint64 other = ascii[notAsciiMask] | ascii[static_cast<size_t>(White)];
+        position += std::countr_zero(other);
+        if (!(other & 1))
+            continue;
+        do {
+            const CharacterClasses classes = classesAt(units, size, position);
+            isHard = isHard || classes.has(Hard) || classes.has(Hebrew);
+            ++position;
+        } while (!isBoundary(position) && position < size && units[position] >= 0x80);
     }
     return {position, isHard};
 }
