@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/segmentation/LineBreaks.h"
 
+#include <unicode/uchar.h>
+
 #include <algorithm>
 #include <limits>
 
@@ -11,28 +13,6 @@ constexpr qsizetype never = std::numeric_limits<qsizetype>::max();
 
 // How far back to search for a simple boundary: longer than nearly every word.
 constexpr qsizetype maxLookBack = 64;
-
-bool isAsciiLetterOrDigit(char16_t unit)
-{
-    const int lower = unit | 0x20;
-    return (lower >= u'a' && lower <= u'z') || (unit >= u'0' && unit <= u'9');
-}
-
-// Letters, digits, and punctuation of classes (IS, EX, CL, CP) that do not forbid a break after following
-// spaces.
-bool allowsBreakAfterSpace(char16_t unit)
-{
-    return isAsciiLetterOrDigit(unit) || unit == u',' || unit == u'.' || unit == u';' || unit == u':'
-        || unit == u'!' || unit == u'?' || unit == u')';
-}
-
-// A boundary in every context: LB18 breaks between a space and AL or NU, and no earlier rule forbids that
-// after such a character and a space.
-bool isSimpleBoundary(const char16_t *units, qsizetype position)
-{
-    return position >= 2 && units[position - 1] == u' ' && isAsciiLetterOrDigit(units[position])
-        && allowsBreakAfterSpace(units[position - 2]);
-}
 
 } // namespace
 
@@ -69,20 +49,148 @@ void LineBreaks::readUpTo(qsizetype position)
     }
 }
 
+std::unique_ptr<LineBreaks::Page> LineBreaks::makePage(int page)
+{
+    auto classes = std::make_unique<Page>();
+    for (int i = 0; i < 256; ++i) {
+        Class &own = (*classes)[static_cast<size_t>(i)];
+        switch (u_getIntPropertyValue(page << 8 | i, UCHAR_LINE_BREAK)) {
+        case U_LB_SPACE:
+            own = Class::Space;
+            break;
+        case U_LB_ALPHABETIC:
+            own = Class::Letter;
+            break;
+        case U_LB_NUMERIC:
+            own = Class::Digit;
+            break;
+        case U_LB_IDEOGRAPHIC:
+            own = Class::Ideograph;
+            break;
+        case U_LB_OPEN_PUNCTUATION:
+            own = Class::Open;
+            break;
+        case U_LB_CLOSE_PUNCTUATION:
+        case U_LB_CLOSE_PARENTHESIS:
+            own = Class::Close;
+            break;
+        case U_LB_QUOTATION:
+            own = Class::Quote;
+            break;
+        case U_LB_INFIX_NUMERIC:
+            own = Class::Infix;
+            break;
+        case U_LB_HYPHEN:
+            own = Class::Hyphen;
+            break;
+        case U_LB_EXCLAMATION:
+        case U_LB_INSEPARABLE:
+        case U_LB_NONSTARTER:
+        case U_LB_CONDITIONAL_JAPANESE_STARTER:
+            own = Class::Follower;
+            break;
+        default:
+            own = Class::Other;
+        }
+    }
+    return classes;
+}
+
+LineBreaks::Class LineBreaks::classAt(qsizetype position)
+{
+    const char16_t unit = m_text.utf16()[position];
+    std::unique_ptr<Page> &page = m_pages[unit >> 8];
+    if (!page)
+        page = makePage(unit >> 8);
+    return (*page)[unit & 0xFF];
+}
+
+// Whether lines never break between two adjacent characters, whatever is around them.
+bool LineBreaks::areJoined(Class first, Class second)
+{
+    const auto isAlphanumeric = [](Class own) { return own == Class::Letter || own == Class::Digit; };
+    if (first == Class::Other || first == Class::Space)
+        return false; // among them the end of a line and U+200B, after which every line breaks
+    switch (second) {
+    case Class::Close:
+    case Class::Quote:
+    case Class::Infix:
+    case Class::Hyphen:
+    case Class::Follower:
+        return true; // LB13, LB19, LB21, LB22
+    case Class::Letter:
+    case Class::Digit:
+        if (isAlphanumeric(first))
+            return true; // LB23, LB25, LB28
+        break;
+    default:
+        break;
+    }
+    return first == Class::Open || (first == Class::Quote && second != Class::Space)
+        || (first == Class::Infix && second == Class::Letter); // LB14, LB19, LB29
+}
+
+bool LineBreaks::isJoined(qsizetype position)
+{
+    const Class first = classAt(position - 1);
+    const Class second = classAt(position);
+    if (areJoined(first, second))
+        return true;
+    // LB25: 3,000
+    return first == Class::Infix && second == Class::Digit && position >= 2
+        && classAt(position - 2) == Class::Digit;
+}
+
+// A boundary in every context: by LB18 after a space, or LB31.
+bool LineBreaks::isSimpleBoundary(qsizetype position)
+{
+    const Class second = classAt(position);
+    if (second == Class::Other || second == Class::Space)
+        return false;
+    Class first = classAt(position - 1);
+    if (first == Class::Space) {
+        const qsizetype limit = std::max<qsizetype>(0, position - maxLookBack);
+        qsizetype before = position - 2;
+        while (before >= limit && classAt(before) == Class::Space)
+            --before;
+        if (before < limit)
+            return false;
+        first = classAt(before);
+        const bool startsWord = second == Class::Letter || second == Class::Digit;
+        switch (first) {
+        case Class::Letter:
+        case Class::Digit:
+        case Class::Ideograph:
+        case Class::Infix:
+        case Class::Close:
+        case Class::Follower:
+            return startsWord || second == Class::Quote || second == Class::Open;
+        case Class::Quote:
+            return startsWord; // LB15 forbids a break before OP
+        default:
+            return false;
+        }
+    }
+    if (second == Class::Ideograph)
+        return first == Class::Ideograph || first == Class::Close || first == Class::Follower;
+    // LB21: a hyphen inside a word
+    return first == Class::Hyphen && second == Class::Letter && position >= 2
+        && classAt(position - 2) == Class::Letter;
+}
+
 qsizetype LineBreaks::lastAtOrBefore(qsizetype position)
 {
-    const char16_t *units = m_text.utf16();
     if (position >= m_text.size())
         return m_text.size();
-    bool isOneWord = true; // only letters and digits from the simple boundary to the position
-    const qsizetype limit = std::max<qsizetype>(2, position - maxLookBack);
+    bool isOneWord = true; // no break from the simple boundary to the position
+    const qsizetype limit = std::max<qsizetype>(1, position - maxLookBack);
     for (qsizetype at = position; at >= limit; --at) {
-        if (!isSimpleBoundary(units, at)) {
-            isOneWord = isOneWord && isAsciiLetterOrDigit(units[at]);
+        if (!isSimpleBoundary(at)) {
+            isOneWord = isOneWord && isJoined(at);
             continue;
         }
         if (isOneWord)
-            return at; // LB23, LB25 and LB28 keep them together
+            return at;
         if (m_next == none || at > m_next || at < m_last)
             restartAt(at);
         break;

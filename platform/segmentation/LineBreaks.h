@@ -9,6 +9,9 @@
 
 #include <QStringView>
 
+#include <array>
+#include <memory>
+
 /// Whether a line always ends after this character (classes BK and NL, LB4 and LB5). Carriage return and line
 /// feed also end lines, but never occur inside a paragraph.
 bool isForcedLineBreak(char16_t unit);
@@ -25,6 +28,27 @@ public:
     [[nodiscard]] qsizetype lastAtOrBefore(qsizetype position);
 
 private:
+    // Classes of UAX #14, as far as the text between two of them decides nothing; Other for the rest.
+    enum class Class : quint8 {
+        Other,
+        Space, // U+0020
+        Letter, // AL
+        Digit, // NU
+        Ideograph, // ID
+        Open, // OP
+        Close, // CL and CP
+        Quote, // QU
+        Infix, // IS
+        Hyphen, // HY
+        Follower, // EX, IN, NS and CJ: like Close, never the first of a line
+    };
+    using Page = std::array<Class, 256>;
+
+    [[nodiscard]] static bool areJoined(Class first, Class second);
+    [[nodiscard]] static std::unique_ptr<Page> makePage(int page);
+    Class classAt(qsizetype position);
+    bool isSimpleBoundary(qsizetype position);
+    bool isJoined(qsizetype position);
     void restartAt(qsizetype boundary);
     void readUpTo(qsizetype position);
 
@@ -33,4 +57,5 @@ private:
     qsizetype m_base = 0; // a boundary, where the text of m_iterator starts
     qsizetype m_last = 0; // the last two boundaries of m_iterator
     qsizetype m_next = 0;
+    std::array<std::unique_ptr<Page>, 256> m_pages; // made when first needed
 };

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <vector>
 
@@ -87,6 +88,40 @@ TEST(LineBreaks, AreThoseOfTheBreakIteratorAtAnyDistanceOfCalls)
             qsizetype expected = 0;
             for (const qsizetype boundary : all)
                 expected = boundary <= position ? boundary : expected;
+            ASSERT_EQ(breaks.lastAtOrBefore(position), expected) << position << " in " << text.toStdString();
+        }
+    }
+}
+
+// Every two or three classes of UAX #14 meet, at every distance from the place in question.
+TEST(LineBreaks, AreThoseOfTheBreakIteratorForMixturesOfAllClasses)
+{
+    const QString characters =
+        QStringLiteral("aZ09  .,:;!?()[]{}\"'-/\\%$+*#&@|~_<=>^`é§°±×÷¿¡«»“”‘’„…–—‐\u2011€№α"
+                       "бאש\u05BEعก漢字かっー々・、。「」！？（）％￥가각\u1100\u1161\u00A0\u00AD\u200B\u200D"
+                       "\u2060\u0301\u0308\t\u000C"
+                       "\u2028☺☎️👍🏽🇩🇪𝟘𐐀");
+    std::mt19937 random(4);
+    LineBreaks breaks;
+    for (int round = 0; round < 3000; ++round) {
+        QString text;
+        while (text.size() < 40) {
+            // Characters of one neighbourhood meet each other more often.
+            static qsizetype near = 0;
+            if (random() % 8 == 0)
+                near = static_cast<qsizetype>(random() % static_cast<size_t>(characters.size()));
+            text += characters[(near + static_cast<qsizetype>(random() % 24)) % characters.size()];
+            if (random() % 6 == 0)
+                text += u' ';
+        }
+        const std::vector<qsizetype> all = boundaries(BreakKind::Line, text);
+        breaks.setParagraph(text);
+        qsizetype expected = 0;
+        for (qsizetype position = 1; position < text.size(); ++position) {
+            if (std::binary_search(all.begin(), all.end(), position))
+                expected = position;
+            if (round % 2 && random() % 4)
+                continue;
             ASSERT_EQ(breaks.lastAtOrBefore(position), expected) << position << " in " << text.toStdString();
         }
     }
