@@ -15,7 +15,6 @@ constexpr quint32 tag(const char *letters)
     return value;
 }
 
-constexpr quint32 commonScript = tag("Zyyy");
 constexpr quint32 latinScript = tag("Latn");
 
 UScriptCode scriptOf(char32_t character)
@@ -35,7 +34,7 @@ quint32 tagOf(UScriptCode script)
     if (script == USCRIPT_LATIN)
         return latinScript;
     const char *name = uscript_getShortName(script);
-    return name && qstrlen(name) == 4 ? tag(name) : commonScript;
+    return name && qstrlen(name) == 4 ? tag(name) : sharedScript;
 }
 
 } // namespace
@@ -55,6 +54,6 @@ ScriptRun scriptRunAt(QStringView text, qsizetype position, quint32 before)
         end += character > 0xFFFF ? 2 : 1;
     }
     if (script == USCRIPT_COMMON)
-        return {end, before ? before : commonScript};
+        return {end, before ? before : sharedScript};
     return {end, tagOf(script)};
 }

@@ -39,8 +39,10 @@ public:
     /// The style of a character that is in no run: a paragraph separator. position: in the whole text.
     TextStyle styleAt(qsizetype position);
 
-private:
+    /// The style that attributes mean on this machine.
     TextStyle resolve(const TextAttributes &attributes);
+
+private:
     void updateRuns();
     /// The end, up to limit, of the run in one font that starts at m_position.
     qsizetype textEnd(qsizetype limit, qsizetype maxLength, FontFace *&face);

@@ -45,7 +45,8 @@ double leftShare(TextAlignment alignment, bool isRightToLeft)
 } // namespace
 
 LayoutEngine::LayoutEngine(Shaping shaping)
-    : m_paragraph(m_fonts, shaping == Shaping::ByWords)
+    : m_paragraph(m_fonts, shaping != Shaping::WholeRuns)
+    , m_isByPairs(shaping == Shaping::ByPairs)
 {
     if (m_fonts.isEmpty())
         LogChannel::standard().notice(u"No usable font found; measuring lines with a fixed character width");
@@ -127,6 +128,10 @@ quint64 LayoutEngine::countLinesOfParagraph(
 {
     if (paragraph.contentLength == 0)
         return 1;
+    if (m_isByPairs) {
+        if (const std::optional<quint64> count = m_filler.countLines(text, paragraph, columnWidth))
+            return *count;
+    }
     return fillLines(
         text, paragraph, columnWidth, [](LineBreaker &, qsizetype, const LineBreaker::Line &) {});
 }

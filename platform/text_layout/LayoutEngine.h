@@ -6,7 +6,7 @@
 // becomes faster with use, since it keeps loaded fonts and measured words.
 #pragma once
 
-#include "platform/text_layout/LineBreaker.h"
+#include "platform/text_layout/LineFiller.h"
 
 #include <functional>
 
@@ -21,11 +21,12 @@ struct LineFragment {
 
 class LayoutEngine {
 public:
-    /// Both give the same lines. ByWords is fast; WholeRuns is simple, and the reference in tests.
-    enum class Shaping { ByWords, WholeRuns };
+    /// All give the same lines. WholeRuns is simple, and the reference in tests. ByWords is faster. ByPairs
+    /// is ByWords, but counts the lines of plain paragraphs without shaping.
+    enum class Shaping { ByPairs, ByWords, WholeRuns };
 
     /// Logs a notice if the machine has no usable font; then all graphemes have the same width.
-    explicit LayoutEngine(Shaping shaping = Shaping::ByWords);
+    explicit LayoutEngine(Shaping shaping = Shaping::ByPairs);
 
     using Yield = std::function<void(const LineFragment &)>;
 
@@ -66,4 +67,6 @@ private:
     FontLibrary m_fonts;
     MeasuredParagraph m_paragraph;
     LineBreaks m_breaks;
+    LineFiller m_filler{m_paragraph, m_breaks};
+    bool m_isByPairs;
 };

@@ -14,9 +14,7 @@ constexpr double defaultTabInterval = 28; // points
 constexpr double minTabInterval = 0.1; // keeps the number of stops in any column small
 constexpr double maxTabInterval = 1e6;
 
-// Sums of advances are not exact: text that fits exactly must fit, and a position this close to a tab stop is
-// at it.
-constexpr double tolerance = 1e-6;
+constexpr double tolerance = LineEdges::tolerance;
 
 constexpr char16_t softHyphen = 0x00AD;
 
@@ -48,15 +46,20 @@ TabStop TabStops::nextAfter(double position) const
     return {(std::floor(behind / m_interval) + 1) * m_interval, TabAlignment::Left};
 }
 
+LineEdges::LineEdges(const ParagraphStyle &style, double width)
+    : firstIndent(clampNumber(style.firstLineHeadIndent, 0, maxLength))
+    , indent(clampNumber(style.headIndent, 0, maxLength))
+    , columnWidth(clampNumber(width, 0, maxLength))
+    , end(columnWidth - clampNumber(style.tailIndent, 0, maxLength))
+{
+}
+
 LineBreaker::LineBreaker(
     MeasuredParagraph &paragraph, LineBreaks &breaks, const ParagraphStyle &style, double columnWidth)
     : m_paragraph(paragraph)
     , m_breaks(breaks)
     , m_tabStops(style)
-    , m_firstIndent(clampNumber(style.firstLineHeadIndent, 0, maxLength))
-    , m_indent(clampNumber(style.headIndent, 0, maxLength))
-    , m_columnWidth(clampNumber(columnWidth, 0, maxLength))
-    , m_lineEnd(m_columnWidth - clampNumber(style.tailIndent, 0, maxLength))
+    , m_edges(style, columnWidth)
 {
 }
 
@@ -83,7 +86,7 @@ double LineBreaker::Pen::contentEnd(double lineEnd) const
 LineBreaker::Pen LineBreaker::penAtStart(qsizetype start) const
 {
     Pen pen;
-    pen.base = start == 0 ? m_firstIndent : m_indent;
+    pen.base = start == 0 ? m_edges.firstIndent : m_edges.indent;
     pen.endOfEarlierContent = pen.base;
     return pen;
 }
@@ -120,11 +123,11 @@ double LineBreaker::advanceToDecimalSeparator(qsizetype start)
 
 void LineBreaker::movePastTab(Pen &pen, qsizetype tab)
 {
-    const double position = pen.positionAfter(pen.flow, m_lineEnd);
-    const double contentEnd = pen.contentEnd(m_lineEnd);
+    const double position = pen.positionAfter(pen.flow, m_edges.end);
+    const double contentEnd = pen.contentEnd(m_edges.end);
     const TabStop stop = m_tabStops.nextAfter(position);
     // A tab past the line's end hangs like other blanks; nothing can be aligned there.
-    const bool fits = stop.position <= m_lineEnd + tolerance;
+    const bool fits = stop.position <= m_edges.end + tolerance;
     pen = {};
     pen.base = stop.position;
     pen.endOfEarlierContent = contentEnd;
@@ -151,7 +154,7 @@ LineBreaker::Obstacle LineBreaker::findObstacle(qsizetype start)
             return {at, Obstacle::Kind::ForcedBreak, lastTabEnd};
         if (flags & TabCharacter) {
             // One tab may hang; a second one goes to the next line.
-            if (pen.base > m_lineEnd + tolerance && at > start)
+            if (pen.base > m_edges.end + tolerance && at > start)
                 return {at, Obstacle::Kind::NoRoom, at};
             movePastTab(pen, at);
             lastTabEnd = at + 1;
@@ -159,7 +162,7 @@ LineBreaker::Obstacle LineBreaker::findObstacle(qsizetype start)
         }
         pen.flow += m_paragraph.advance(at);
         // Text aligned to a tab stop never starts before the pen's base.
-        if (!(flags & HangingBlank) && pen.base + pen.flow > m_lineEnd + tolerance)
+        if (!(flags & HangingBlank) && pen.base + pen.flow > m_edges.end + tolerance)
             return {at, Obstacle::Kind::NoRoom, lastTabEnd};
     }
     return {m_paragraph.text().size(), Obstacle::Kind::End, lastTabEnd};
@@ -199,7 +202,7 @@ bool LineBreaker::fitsWhenBrokenAt(qsizetype start, qsizetype end)
     if (growth <= 0)
         return true;
     const Pen pen = penAt(start, end);
-    return pen.contentEnd(m_lineEnd) + growth <= m_lineEnd + tolerance;
+    return pen.contentEnd(m_edges.end) + growth <= m_edges.end + tolerance;
 }
 
 // Returns start if there is none.
@@ -271,5 +274,5 @@ LineBreaker::Extent LineBreaker::extentOf(qsizetype start, const Line &line)
     const Pen pen = penAt(start, line.end);
     const double leading = penAtStart(start).base;
     const double growth = line.isForced ? 0 : growthWhenBrokenAt(start, line.end);
-    return {leading, std::max(0.0, pen.contentEnd(m_lineEnd) + growth - leading)};
+    return {leading, std::max(0.0, pen.contentEnd(m_edges.end) + growth - leading)};
 }

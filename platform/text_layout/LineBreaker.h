@@ -23,6 +23,22 @@ private:
     double m_interval;
 };
 
+/// Where the lines of a paragraph start and end, in points from the column's leading edge, in ranges that are
+/// safe for arithmetic.
+struct LineEdges {
+    /// Sums of advances are not exact: text that fits exactly must fit, and a position this close to a tab
+    /// stop is at it.
+    static constexpr double tolerance = 1e-6;
+
+    /// width: of the column; points, any number.
+    LineEdges(const ParagraphStyle &style, double width);
+
+    double firstIndent;
+    double indent;
+    double columnWidth;
+    double end; ///< negative if the tail indent is wider than the column
+};
+
 class LineBreaker {
 public:
     /// paragraph, breaks and style outlive the breaker and are set to the paragraph. columnWidth: points, any
@@ -48,8 +64,8 @@ public:
 
     /// Points from the column's leading edge to where lines must end; negative if the tail indent is wider
     /// than the column.
-    [[nodiscard]] double lineEnd() const { return m_lineEnd; }
-    [[nodiscard]] double columnWidth() const { return m_columnWidth; }
+    [[nodiscard]] double lineEnd() const { return m_edges.end; }
+    [[nodiscard]] double columnWidth() const { return m_edges.columnWidth; }
 
 private:
     // The place of a line's next character: advances are summed from the last tab on.
@@ -86,9 +102,6 @@ private:
     MeasuredParagraph &m_paragraph;
     LineBreaks &m_breaks;
     TabStops m_tabStops;
-    double m_firstIndent;
-    double m_indent;
-    double m_columnWidth;
-    double m_lineEnd;
+    LineEdges m_edges;
     bool m_startsWithinWord = false; // of the next line
 };

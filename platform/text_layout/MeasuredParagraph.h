@@ -49,6 +49,13 @@ public:
 
     [[nodiscard]] TextStyle styleOfSeparator(qsizetype position) { return m_itemizer.styleAt(position); }
 
+    // For those who measure without a paragraph.
+    [[nodiscard]] TextStyle resolve(const TextAttributes &attributes)
+    {
+        return m_itemizer.resolve(attributes);
+    }
+    [[nodiscard]] Shaper &shaper() { return m_shaper; }
+
 private:
     [[nodiscard]] size_t index(qsizetype position) const { return static_cast<size_t>(position - m_base); }
     void append(double advance, int flags);

@@ -14,8 +14,6 @@ namespace {
 // Code units that HarfBuzz considers on either side of a stretch.
 constexpr qsizetype contextLength = 8;
 
-constexpr size_t slotCount = 1 << 15; // about 8 MB; a long novel has half as many different words
-
 // Not safe against collisions on purpose: those only slow down the text that contains them, as new words do.
 size_t hashOf(quint32 style, QStringView word)
 {
@@ -66,8 +64,8 @@ bool CachedWord::holds(quint32 wantedStyle, QStringView wanted) const
 CachedWord &WordCache::slotFor(quint32 style, QStringView word)
 {
     if (m_slots.empty())
-        m_slots.resize(slotCount);
-    return m_slots[hashOf(style, word) % slotCount];
+        m_slots.resize(m_slotCount);
+    return m_slots[hashOf(style, word) % m_slotCount];
 }
 
 void Shaper::BufferDeleter::operator()(hb_buffer_t *buffer) const

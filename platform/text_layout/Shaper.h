@@ -44,11 +44,17 @@ struct CachedWord {
 /// other.
 class WordCache {
 public:
+    explicit WordCache(size_t slotCount)
+        : m_slotCount(slotCount)
+    {
+    }
+
     /// The only slot for a word of 1 to CachedWord::maxLength code units. If it holds another word, the
     /// caller fills it. Valid until the next call.
     CachedWord &slotFor(quint32 style, QStringView word);
 
 private:
+    size_t m_slotCount;
     std::vector<CachedWord> m_slots; // made at the first use
 };
 
@@ -87,5 +93,5 @@ private:
 
     std::unique_ptr<hb_buffer_t, BufferDeleter> m_buffer;
     std::map<ShapingStyle::Key, std::unique_ptr<ShapingStyle>> m_styles;
-    WordCache m_words;
+    WordCache m_words{size_t{1} << 15}; // about 8 MB; a long novel has half as many different words
 };

@@ -52,10 +52,10 @@ ShapingStyle::ShapingStyle(const TextRun &run, quint32 number)
         featureCount, coordinates, coordinateCount, nullptr));
 
     hb_codepoint_t space = 0;
-    if (!hb_font_get_nominal_glyph(font, ' ', &space))
+    if (!glyphOf(U' ', space))
         return;
     m_spaceAdvance = static_cast<float>(hb_font_get_glyph_h_advance(font, space));
-    m_areWordsSeparable = !hasStateMachines() && !isNamedByRules(space);
+    m_areWordsSeparable = isOfOpenTypeRules() && !hb_set_has(namedGlyphs().get(), space);
 }
 
 // AAT tables are state machines over any number of glyphs, which HarfBuzz does not list. A 'kern' table of
@@ -75,22 +75,25 @@ bool ShapingStyle::hasStateMachines() const
         || hasTable(HB_TAG('k', 'e', 'r', 'x'), false) || hasTable(HB_TAG('k', 'e', 'r', 'n'), true);
 }
 
-bool ShapingStyle::isNamedByRules(quint32 glyph) const
+bool ShapingStyle::glyphOf(char32_t character, quint32 &glyph) const
 {
-    hb_face_t *face = hb_font_get_face(m_face.shapingFont());
-    hb_set_t *lookups = hb_set_create();
-    hb_set_t *glyphs = hb_set_create();
-    for (const hb_tag_t table : {HB_OT_TAG_GSUB, HB_OT_TAG_GPOS}) {
-        hb_set_clear(lookups);
-        hb_ot_shape_plan_collect_lookups(m_plan.get(), table, lookups);
-        hb_codepoint_t lookup = HB_SET_VALUE_INVALID;
-        while (hb_set_next(lookups, &lookup))
-            hb_ot_layout_lookup_collect_glyphs(face, table, lookup, glyphs, glyphs, glyphs, glyphs);
-    }
-    const bool isNamed = hb_set_has(glyphs, glyph);
-    hb_set_destroy(lookups);
-    hb_set_destroy(glyphs);
-    return isNamed;
+    return hb_font_get_nominal_glyph(m_face.shapingFont(), character, &glyph);
+}
+
+// Fonts with tables of Graphite have another shaper, where it is built in.
+bool ShapingStyle::isOfOpenTypeRules() const
+{
+    return !hasStateMachines() && qstrcmp(hb_shape_plan_get_shaper(m_plan.get()), "graphite2") != 0;
+}
+
+FontRules ShapingStyle::rulesFor(const hb_set_t *glyphs) const
+{
+    return readFontRules(hb_font_get_face(m_face.shapingFont()), m_plan.get(), glyphs);
+}
+
+GlyphSet ShapingStyle::namedGlyphs() const
+{
+    return glyphsNamedByRules(hb_font_get_face(m_face.shapingFont()), m_plan.get());
 }
 
 void ShapingStyle::shape(hb_buffer_t *buffer) const

@@ -4,13 +4,13 @@
 // Thread: one at a time.  Owner: Shaper.
 #pragma once
 
+#include "platform/text_layout/FontRules.h"
 #include "platform/text_layout/TextRun.h"
 
 #include <memory>
 #include <tuple>
 
 // NOLINTBEGIN(bugprone-reserved-identifier,modernize-use-using): as in the library's own header
-typedef struct hb_shape_plan_t hb_shape_plan_t;
 typedef struct hb_buffer_t hb_buffer_t;
 // NOLINTEND(bugprone-reserved-identifier,modernize-use-using)
 
@@ -37,9 +37,19 @@ public:
     /// The advance of a space; valid only if areWordsSeparable().
     [[nodiscard]] float spaceAdvance() const { return m_spaceAdvance; }
 
+    [[nodiscard]] const FontFace &face() const { return m_face; }
+    [[nodiscard]] quint32 script() const { return m_script; }
+
+    /// The glyph of a character alone. Returns false if the font has none.
+    bool glyphOf(char32_t character, quint32 &glyph) const;
+
+    /// Whether the only rules that apply here are those that rulesFor() and namedGlyphs() know.
+    [[nodiscard]] bool isOfOpenTypeRules() const;
+    [[nodiscard]] FontRules rulesFor(const hb_set_t *glyphs) const;
+    [[nodiscard]] GlyphSet namedGlyphs() const;
+
 private:
     [[nodiscard]] bool hasStateMachines() const;
-    [[nodiscard]] bool isNamedByRules(quint32 glyph) const;
 
     struct PlanDeleter {
         void operator()(hb_shape_plan_t *plan) const;

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_layout/PairAdvances.h"
+
+#include "platform/segmentation/PlainCharacters.h"
+#include "platform/segmentation/ScriptRuns.h"
+
+#include <hb.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr size_t classCount = 256;
+constexpr quint8 unknownClass = 0;
+constexpr quint8 unsupportedClass = 0x7F; // no text has a printable character there
+
+// Blocks of letters and punctuation whose rules are read. Other characters are only supported if no rule
+// names them.
+struct Block {
+    char16_t first;
+    char16_t last;
+};
+constexpr Block blocks[]{{0x0020, 0x024F}, {0x0370, 0x058F}, {0x10A0, 0x10FF}, {0x1E00, 0x20CF},
+    {0x3000, 0x30FF}, {0xFF00, 0xFFEF}};
+
+constexpr int firstFreeClass = 0x80;
+constexpr int lastClass = 0xFF;
+
+} // namespace
+
+PairAdvances::PairAdvances(FontChain &fonts, Shaper &shaper, const ShapingStyle &style)
+    : m_fonts(fonts)
+    , m_shaper(shaper)
+    , m_style(style)
+    , m_covered(makeGlyphSet())
+    , m_nextClass(firstFreeClass)
+{
+    if (!style.isOfOpenTypeRules())
+        return;
+    collectGlyphs(m_covered.get());
+    m_rules = style.rulesFor(m_covered.get());
+    if (!m_rules.areSimple)
+        return;
+    m_named = style.namedGlyphs();
+    m_classes.resize(size_t{1} << 16);
+    m_advances.resize(classCount * classCount, unknown);
+    m_isUnsafe.resize(classCount * classCount);
+    for (char16_t control = 0; control < u' '; ++control)
+        m_classes[control] = unsupportedClass;
+    m_classes[unsupportedClass] = unsupportedClass;
+    m_classes[endClass] = endClass;
+    for (size_t other = 0; other < classCount; ++other) {
+        const auto second = static_cast<quint8>(other);
+        at(unsupportedClass, second) = unsupported;
+        at(second, unsupportedClass) = unsupported;
+        at(endClass, second) = unsupported;
+    }
+}
+
+bool PairAdvances::isCandidate(char16_t unit) const
+{
+    if (!isPlainCharacter(unit))
+        return false;
+    const quint32 script = scriptOfPlainCharacter(unit);
+    return script == sharedScript || script == m_style.script();
+}
+
+void PairAdvances::collectGlyphs(hb_set_t *glyphs) const
+{
+    for (const Block &block : blocks) {
+        for (char32_t unit = block.first; unit <= block.last; ++unit) {
+            hb_codepoint_t glyph = 0;
+            if (m_style.glyphOf(unit, glyph) && isCandidate(static_cast<char16_t>(unit)))
+                hb_set_add(glyphs, glyph);
+        }
+    }
+}
+
+quint8 PairAdvances::classify(char16_t unit)
+{
+    quint8 &known = m_classes[unit];
+    if (known == unknownClass)
+        known = findClass(unit);
+    return known;
+}
+
+quint8 PairAdvances::findClass(char16_t unit)
+{
+    hb_codepoint_t glyph = 0;
+    if (!isCandidate(unit) || !m_style.glyphOf(unit, glyph) || hb_set_has(m_rules.changed.get(), glyph)
+        || m_fonts.faceFor(QStringView(&unit, 1), nullptr) != &m_style.face())
+        return unsupportedClass;
+    if (hb_set_has(m_named.get(), glyph))
+        return hb_set_has(m_covered.get(), glyph) ? addClass(unit) : unsupportedClass;
+    // No pair begins with it, and as second of a pair all such glyphs are equal.
+    float advance = 0;
+    quint8 flags = 0;
+    m_shaper.shape(m_style, QStringView(&unit, 1), 0, 1, &advance, &flags);
+    const int own = static_cast<int>(advance);
+    const auto known = std::find_if(
+        m_inert.begin(), m_inert.end(), [own](const Inert &inert) { return inert.advance == own; });
+    if (known != m_inert.end())
+        return known->ownClass;
+    const quint8 added = addClass(unit);
+    if (added != unsupportedClass)
+        m_inert.push_back({own, added});
+    return added;
+}
+
+quint8 PairAdvances::addClass(char16_t unit)
+{
+    if (unit < 0x80)
+        return static_cast<quint8>(unit);
+    return m_nextClass > lastClass ? unsupportedClass : static_cast<quint8>(m_nextClass++);
+}
+
+void PairAdvances::measure(char16_t first, char16_t second)
+{
+    const quint8 firstClass = classify(first);
+    const quint8 secondClass = classify(second);
+    int &advance = at(firstClass, secondClass);
+    if (advance != unknown)
+        return;
+    bool isUnsafe = false;
+    advance = advanceOfPair(first, second, isUnsafe);
+    m_isUnsafe[static_cast<size_t>(firstClass) << 8 | secondClass] = isUnsafe;
+}
+
+int PairAdvances::advanceOfPair(char16_t first, char16_t second, bool &isUnsafe)
+{
+    const std::array<char16_t, 2> text{first, second};
+    std::array<float, 2> advances{};
+    std::array<quint8, 2> flags{};
+    const auto shape = [&](qsizetype start, qsizetype end) {
+        m_shaper.shape(m_style, QStringView(text.data() + start, end - start), 0, end - start,
+            advances.data(), flags.data());
+    };
+    const auto supported = [](float advance) {
+        const bool isUsable = advance >= 0 && advance < limit / 64 && advance == std::floor(advance);
+        return isUsable ? static_cast<int>(advance) : unsupported;
+    };
+    if (second == endClass) {
+        shape(0, 1);
+        return supported(advances[0]);
+    }
+    hb_codepoint_t firstGlyph = 0;
+    hb_codepoint_t secondGlyph = 0;
+    if (!m_style.glyphOf(first, firstGlyph) || !m_style.glyphOf(second, secondGlyph))
+        return unsupported;
+    if (m_rules.mayJoin(firstGlyph, secondGlyph))
+        return joined;
+    shape(1, 2);
+    const float secondAlone = advances[0];
+    shape(0, 2);
+    // Tables of kerning without OpenType rules change both advances.
+    if (advances[1] != secondAlone || !(flags[1] & StartsCluster))
+        return unsupported;
+    isUnsafe = (flags[1] & UnsafeToBreak) != 0;
+    return supported(advances[0]);
+}

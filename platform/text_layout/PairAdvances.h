@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+// PairAdvances gives the advance of a character from itself and the next one, for the characters of one
+// shaping style whose advances depend on nothing else; FontRules knows which. It measures each pair once,
+// when a text first has it. Adding up is left to LineFiller.
+// Thread: one at a time.  Owner: LineFiller.
+#pragma once
+
+#include "platform/text_layout/FontRules.h"
+#include "platform/text_layout/Shaper.h"
+
+#include <array>
+
+class PairAdvances {
+public:
+    // Values of advance() that are not advances; greater than any sum of a few advances.
+    static constexpr int unknown = 1 << 23; ///< to be measured by measure()
+    static constexpr int joined = 1 << 24; ///< the pair may be inside a ligature
+    static constexpr int unsupported = 1 << 25; ///< one of the two does not belong here
+    /// Anything less than this is an advance, in font units.
+    static constexpr int limit = unknown;
+
+    /// fonts: only characters are supported for which its first font is used.
+    /// style: of that font, and from left to right; both must outlive this object.
+    PairAdvances(FontChain &fonts, Shaper &shaper, const ShapingStyle &style);
+
+    /// If false, no character is supported.
+    [[nodiscard]] bool isUsable() const { return m_rules.areSimple; }
+
+    /// Characters of one class have the same advances. 0: not yet known.
+    [[nodiscard]] const quint8 *classes() const { return m_classes.data(); }
+    /// advances()[class of a character << 8 | class of the next one], or one of the values above.
+    [[nodiscard]] const int *advances() const { return m_advances.data(); }
+    /// The class that stands for a tab or the end of the text as next character.
+    static constexpr quint8 endClass = u'\t';
+
+    /// Finds the advance of a pair that is unknown, so that from now on advances() has it.
+    void measure(char16_t first, char16_t second);
+    void measureAlone(char16_t character) { measure(character, u'\t'); }
+
+    /// Whether a line that ends between a pair, which has an advance, must be measured again.
+    [[nodiscard]] bool isUnsafe(quint8 first, quint8 second) const
+    {
+        return m_isUnsafe[static_cast<size_t>(first) << 8 | second];
+    }
+
+    [[nodiscard]] const ShapingStyle &style() const { return m_style; }
+
+private:
+    struct Inert {
+        int advance;
+        quint8 ownClass;
+    };
+
+    [[nodiscard]] bool isCandidate(char16_t unit) const;
+    void collectGlyphs(hb_set_t *glyphs) const;
+    quint8 classify(char16_t unit);
+    quint8 findClass(char16_t unit);
+    quint8 addClass(char16_t unit);
+    int advanceOfPair(char16_t first, char16_t second, bool &isUnsafe);
+
+    int &at(quint8 first, quint8 second) { return m_advances[static_cast<size_t>(first) << 8 | second]; }
+
+    FontChain &m_fonts;
+    Shaper &m_shaper;
+    const ShapingStyle &m_style;
+    FontRules m_rules;
+    GlyphSet m_named;
+    GlyphSet m_covered; // by m_rules
+    std::vector<quint8> m_classes; // by code unit
+    std::vector<int> m_advances; // by pair of classes
+    std::vector<bool> m_isUnsafe;
+    std::vector<Inert> m_inert; // classes of characters that no rule names
+    int m_nextClass;
+};

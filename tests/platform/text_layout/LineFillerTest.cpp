@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: MIT
+// Compares the lines that are filled by adding up advances with those of the simple layout, which shapes
+// whole runs: every line must end at the same place.
+#include "platform/text_layout/LayoutEngine.h"
+#include "tests/harness/QuillbayTest.h"
+#include "tests/platform/text_layout/FontWorld.h"
+
+#include <random>
+
+namespace {
+
+using Ends = std::vector<qsizetype>;
+
+class LineFilling : public QuillbayTest {
+protected:
+    struct Filler {
+        FontLibrary fonts;
+        MeasuredParagraph measured{fonts, true};
+        LineBreaks breaks;
+        LineFiller lines{measured, breaks};
+
+        std::optional<Ends> endsOf(const AttributedString &text, double width)
+        {
+            Ends ends;
+            const std::optional<quint64> count =
+                lines.countLines(text, paragraphAt(text.string(), 0), width, &ends);
+            EXPECT_EQ(count.value_or(ends.size()), ends.size());
+            return count ? std::optional(ends) : std::nullopt;
+        }
+    };
+
+    static Ends exactEndsOf(LayoutEngine &engine, const AttributedString &text, double width)
+    {
+        Ends ends;
+        engine.layOutParagraph(text, paragraphAt(text.string(), 0), width,
+            [&](const LineFragment &line) { ends.push_back(line.start + line.length); });
+        return ends;
+    }
+
+    static AttributedString styled(const QString &text, const QString &family = QStringLiteral("Helvetica"))
+    {
+        TextAttributes attributes;
+        attributes.font = FontAttributes{.family = family};
+        return AttributedString(text, attributes);
+    }
+};
+
+// Texts of one script each: words, and characters in any order.
+struct Sample {
+    const char *name;
+    QStringList words;
+    QString characters;
+};
+
+QString asciiCharacters()
+{
+    QString characters;
+    for (char16_t unit = u' '; unit <= u'~'; ++unit)
+        characters += unit;
+    return characters + QStringLiteral("     \t\t");
+}
+
+const std::vector<Sample> &samples()
+{
+    static const std::vector<Sample> texts{
+        {"English",
+            QStringLiteral("the of and to AVATAR To, Ty. \"Wo\", offer fly official affluent ffff "
+                           "well-known $5.00 3,000 (see it's) Yes! T. VA r. flfi f-fi 1/2 A W1111 "
+                           "incomprehensibilities I a , — “so” ‘fi’ it’s")
+                .split(u' '),
+            asciiCharacters()},
+        {"German",
+            QStringLiteral("über Straße Größe Auflage Öffnung „gut“ – Tür, daß Donaudampfschiff "
+                           "Rangierlokomotive 14,50 € ß")
+                .split(u' '),
+            QStringLiteral("aäoöuüßefflTVÄÖÜ  „“–,.-")},
+        {"French", QStringLiteral("l’été où ça « Œuvre » français naïf Noël ! À être — Île").split(u' '),
+            QStringLiteral("éèêëàâîïôœçfi ’«\u00A0» ")},
+        {"Polish", QStringLiteral("zażółć gęślą jaźń Łódź Wałęsa święty ćma TĄ VŻ").split(u' '),
+            QStringLiteral("ąćęłńóśźżŁT -.")},
+        {"Russian",
+            QStringLiteral("Привет, где находится ГУМ? «Тарас» – уже; объяснение Ёлка У. 1941 г.")
+                .split(u' '),
+            QStringLiteral("абвгдежзТУГЁ,. -«»")},
+        {"Greek", QStringLiteral("Γειά σου Ελλάδα, τα Άλφα και Ωμέγα· ναι;").split(u' '),
+            QStringLiteral("αβγδεάήΑΥΤ ,.·-")},
+    };
+    return texts;
+}
+
+QString randomText(const Sample &sample, std::mt19937 &random)
+{
+    const auto oneOf = [&](qsizetype count) {
+        return static_cast<qsizetype>(random() % static_cast<size_t>(count));
+    };
+    QString text;
+    const auto length = 1 + oneOf(900);
+    const bool isOfWords = random() % 3 != 0;
+    while (text.size() < length) {
+        if (!isOfWords) {
+            text += sample.characters[oneOf(sample.characters.size())];
+            continue;
+        }
+        text += sample.words[oneOf(sample.words.size())];
+        const QStringView separators[]{u" ", u" ", u" ", u" ", u" ", u" ", u"  ", u"\t", u"-", u""};
+        text += separators[random() % 10];
+    }
+    return text;
+}
+
+TextAttributes randomAttributes(const QStringList &families, std::mt19937 &random)
+{
+    TextAttributes attributes;
+    FontAttributes font;
+    font.family = families[static_cast<qsizetype>(random() % static_cast<size_t>(families.size()))];
+    font.pointSize = random() % 2 ? 12 : 5 + static_cast<double>(random() % 400) / 13;
+    font.weight = random() % 3 ? regularFontWeight : boldFontWeight;
+    font.slant = random() % 4 ? FontSlant::Upright : FontSlant::Italic;
+    font.tracking = random() % 8 ? 0 : 0.7;
+    attributes.font = font;
+    ParagraphStyle &style = attributes.paragraphStyle;
+    if (random() % 3 == 0) {
+        style.firstLineHeadIndent = static_cast<double>(random() % 60);
+        style.headIndent = static_cast<double>(random() % 60);
+        style.tailIndent = static_cast<double>(random() % 60);
+        style.defaultTabInterval = random() % 2 ? 36 : 7.5;
+    }
+    if (random() % 4 == 0)
+        style.tabStops = {{50, TabAlignment::Left}, {91.5, TabAlignment::Left}};
+    return attributes;
+}
+
+TEST_F(LineFilling, EndsEveryLineWhereTheSimpleLayoutDoes)
+{
+    useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf"), QStringLiteral("NimbusSans-Bold.otf"),
+        QStringLiteral("NimbusRoman-Regular.otf"), QStringLiteral("NimbusRoman-Italic.otf"),
+        QStringLiteral("NimbusMonoPS-Regular.otf"), QStringLiteral("DejaVuSans.ttf"),
+        QStringLiteral("DejaVuSans-Bold.ttf"), QStringLiteral("NotoSans-Regular.ttf"),
+        QStringLiteral("NotoSerif-Regular.ttf")});
+    const QStringList families{QStringLiteral("Helvetica"), QStringLiteral("Times"),
+        QStringLiteral("Courier"), QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans"),
+        QStringLiteral("Noto Serif")};
+    std::mt19937 random(30);
+    Filler filler;
+    LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
+    for (const Sample &sample : samples()) {
+        int filled = 0;
+        constexpr int rounds = 120;
+        for (int round = 0; round < rounds; ++round) {
+            const AttributedString text(randomText(sample, random), randomAttributes(families, random));
+            const double width = random() % 6 ? 40 + static_cast<double>(random() % 5000) / 7
+                                              : static_cast<double>(random() % 40);
+            const std::optional<Ends> ends = filler.endsOf(text, width);
+            if (!ends)
+                continue;
+            ++filled;
+            ASSERT_EQ(*ends, exactEndsOf(exact, text, width))
+                << sample.name << ", " << width << " points, "
+                << text.attributesAt(0).font->family.toStdString() << ' '
+                << text.attributesAt(0).font->pointSize << ": " << text.string().toStdString();
+        }
+        EXPECT_GE(filled, rounds * 2 / 3) << sample.name;
+    }
+}
+
+TEST_F(LineFilling, FillsPlainTextOnAMachineWithOneFont)
+{
+    useOnlyFonts({QStringLiteral("DejaVuSans.ttf")});
+    std::mt19937 random(31);
+    Filler filler;
+    LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
+    int filled = 0;
+    for (int round = 0; round < 60; ++round) {
+        const AttributedString text(randomText(samples().front(), random));
+        const std::optional<Ends> ends = filler.endsOf(text, 200);
+        if (!ends)
+            continue;
+        ++filled;
+        ASSERT_EQ(*ends, exactEndsOf(exact, text, 200)) << text.string().toStdString();
+    }
+    EXPECT_GE(filled, 55);
+}
+
+TEST_F(LineFilling, BreaksLongWordsWithinLigaturesLikeTheSimpleLayout)
+{
+    useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf")});
+    std::mt19937 random(32);
+    Filler filler;
+    LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
+    for (int round = 0; round < 20; ++round) {
+        QString word;
+        while (word.size() < 3000)
+            word += QStringLiteral("fi fl o e AV x").split(u' ')[static_cast<qsizetype>(random() % 6)];
+        const AttributedString text = styled(word);
+        const double width = 20 + static_cast<double>(random() % 200);
+        const std::optional<Ends> ends = filler.endsOf(text, width);
+        ASSERT_TRUE(ends);
+        ASSERT_EQ(*ends, exactEndsOf(exact, text, width)) << word.toStdString();
+    }
+}
+
+TEST_F(LineFilling, LeavesWhatItCannotProveToTheSimpleLayout)
+{
+    useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf"), QStringLiteral("DejaVuSans.ttf")});
+    Filler filler;
+    const QStringView plain = u"plain words";
+    ASSERT_TRUE(filler.endsOf(styled(plain.toString()), 100));
+    const QStringView others[]{u"soft\u00ADhyphen", u"e\u0301", u"1\u20442", u"a\u200Bb", u"شكرا",
+        u"a \u0001 b", u"a\u2028b", u"Latin и кириллица", u"\xD83D\xDE00", u"a\uFFFC", u"漢字"};
+    for (const QStringView other : others) {
+        EXPECT_FALSE(filler.endsOf(styled(plain.toString() + other.toString()), 100))
+            << other.toUtf8().toStdString();
+        EXPECT_TRUE(filler.endsOf(styled(plain.toString()), 100)) << "after " << other.toUtf8().toStdString();
+    }
+    TextAttributes attributes;
+    attributes.paragraphStyle.tabStops = {{50, TabAlignment::Right}};
+    EXPECT_FALSE(filler.endsOf(AttributedString(QStringLiteral("a\tb"), attributes), 100));
+    EXPECT_TRUE(filler.endsOf(AttributedString(QStringLiteral("a b"), attributes), 100));
+    attributes.paragraphStyle.direction = WritingDirection::RightToLeft;
+    EXPECT_FALSE(filler.endsOf(AttributedString(QStringLiteral("a b"), attributes), 100));
+    EXPECT_FALSE(filler.endsOf(styled(plain.toString()), 1e6));
+}
+
+// The exact layout shapes a limited length at once and cuts where nothing changes. In this word, kerning is
+// everywhere.
+TEST_F(LineFilling, LeavesLongTextWithoutAPlaceForACutToTheSimpleLayout)
+{
+    useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf")});
+    Filler filler;
+    LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
+    const AttributedString shortWord = styled(QStringLiteral("AV").repeated(400));
+    EXPECT_EQ(filler.endsOf(shortWord, 451), exactEndsOf(exact, shortWord, 451));
+    EXPECT_FALSE(filler.endsOf(styled(QStringLiteral("AV").repeated(2000)), 451));
+}
+
+TEST_F(LineFilling, CountsTheLinesOfManyBlanksAndOfLongWords)
+{
+    useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf")});
+    Filler filler;
+    LayoutEngine exact(LayoutEngine::Shaping::ByWords);
+    for (const QString &text : {QString(300'000, u' '), QString(300'000, u'e'),
+             QStringLiteral("a") + QString(300'000, u' ') + QStringLiteral("\tb c")}) {
+        const std::optional<Ends> ends = filler.endsOf(styled(text), 451);
+        ASSERT_TRUE(ends);
+        EXPECT_EQ(*ends, exactEndsOf(exact, styled(text), 451));
+    }
+}
+
+} // namespace
