@@ -96,8 +96,9 @@ bool isText(QByteArrayView bytes)
 
 } // namespace
 
-Result<DocumentKind, DocumentError> kindOfDocument(const QByteArray &path, QByteArrayView bytes)
+Result<DocumentKind, DocumentError> kindOfDocument(const QByteArray &name, QByteArrayView bytes)
 {
+    const QByteArray path(name.constData()); // QMimeDatabase crashes over some names with a NUL byte
     if (looksLikeRtf(bytes))
         return DocumentKind::Rtf;
     if (looksLikeFlatRtfd(bytes))

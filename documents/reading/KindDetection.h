@@ -23,5 +23,6 @@
 /// tag at the start makes a web page. All other texts are plain text, and so is an empty document.
 /// A kind by name is not verified: a text named as a Word document is one, which its reader refuses.
 /// Takes time proportional to the length.
-/// path: bytes in any encoding; empty for a document without a name.
-Result<DocumentKind, DocumentError> kindOfDocument(const QByteArray &path, QByteArrayView bytes);
+/// name: a path or a file name in any encoding, which ends at its first NUL byte; empty for a document
+/// without a name.
+Result<DocumentKind, DocumentError> kindOfDocument(const QByteArray &name, QByteArrayView bytes);

@@ -187,7 +187,7 @@ TEST_F(CountCommandTest, ATextTooLargeForTheMemoryIsAnErrorAndTheOthersAreStillC
     const QByteArray good = file("good", "One.");
     ChildProcess process(productProgram(QStringLiteral("quillbay")));
     process.afterFork([] {
-        const rlimit limit{rlim_t(1) << 30, rlim_t(1) << 30};
+        const rlimit limit{rlim_t{1} << 30, rlim_t{1} << 30};
         ::setrlimit(RLIMIT_AS, &limit);
     });
     const ChildProcess::Outcome outcome = process.run({"count", "--tsv", large, good});

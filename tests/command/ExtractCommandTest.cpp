@@ -78,7 +78,7 @@ TEST_F(ExtractCommandTest, JsonHasTheTextAndWhereItsParagraphsAre)
     EXPECT_EQ(json[u"length"].toInt(), text.size());
     EXPECT_EQ(json[u"type"].toString(), QStringLiteral("text/plain"));
     QStringList paragraphs;
-    for (const QJsonValue &value : json[u"paragraphs"].toArray()) {
+    for (const QJsonValue value : json[u"paragraphs"].toArray()) {
         const QJsonObject paragraph = value.toObject();
         const QString content = text.mid(paragraph[u"offset"].toInt(), paragraph[u"length"].toInt());
         EXPECT_EQ(
@@ -97,7 +97,7 @@ TEST_F(ExtractCommandTest, TheCountsOfTheParagraphsAddUpToThoseOfTheFile)
     for (const char *statistic : {"words", "characters", "charactersIncludingWhitespace", "sentences",
              "hardLineBreaks", "paragraphs", "indentedParagraphs"}) {
         int sum = 0;
-        for (const QJsonValue &paragraph : jsonOf(name)[u"paragraphs"].toArray())
+        for (const QJsonValue paragraph : jsonOf(name)[u"paragraphs"].toArray())
             sum += paragraph[QLatin1String(statistic)].toInt();
         EXPECT_EQ(sum, counts[QLatin1String(statistic)].toInt()) << statistic;
         EXPECT_GT(sum, 0) << statistic;

@@ -59,7 +59,8 @@ TEST(FileNames, TsvNamesAreReversible)
             back += static_cast<char>(tsv.mid(at + 1, 2).toUInt(nullptr, 16));
             at += 2;
         } else {
-            back += tsv[at] == 't' ? '\t' : tsv[at] == 'n' ? '\n' : tsv[at] == 'r' ? '\r' : tsv[at];
+            const qsizetype place = QByteArrayView("tnr").indexOf(tsv[at]);
+            back += place < 0 ? tsv[at] : "\t\n\r"[place];
         }
     }
     EXPECT_EQ(back, name);

@@ -304,7 +304,7 @@ TEST_F(CountTest, TheObjectHasTheDescribedInterface)
     const auto argumentsIn = [](const QString &xml) {
         QStringList lines;
         const QString ours = xml.mid(xml.indexOf(QStringLiteral("com.quillbay.WordCounterServiceProtocol")));
-        QRegularExpression tag(QStringLiteral("<(method|arg) ([^>]*)>"));
+        const QRegularExpression tag(QStringLiteral("<(method|arg) ([^>]*)>"));
         auto matches = tag.globalMatch(ours.left(ours.indexOf(QStringLiteral("</interface>"))));
         while (matches.hasNext()) {
             QStringList words = matches.next().captured(2).remove(u'/').simplified().split(u' ');

@@ -259,7 +259,7 @@ TEST_F(WorkerPoolTest, TheTimeoutGrowsWithTheDocument)
     strict.timeoutPerMebibyte = std::chrono::hours(1);
     const auto pool = this->pool(strict);
     const auto small = add(*pool, "hang");
-    const auto large = add(*pool, "hang " + QByteArray(1024 * 1024, ' '));
+    const auto large = add(*pool, "hang " + QByteArray(qsizetype{1024} * 1024, ' '));
     EXPECT_TRUE(waitUntil([&] { return small->outcome.has_value(); }));
     EXPECT_FALSE(large->outcome);
 }

@@ -57,7 +57,7 @@ QByteArray countOf(const WorkerRequest &request, quint64 number)
 
 void eatMemory()
 {
-    constexpr size_t bite = 64 * 1024 * 1024;
+    constexpr size_t bite = size_t{64} * 1024 * 1024;
     while (char *memory = static_cast<char *>(std::malloc(bite)))
         std::memset(memory, 1, 1);
     send(encode(WorkerReply{requests, outOfMemory}));

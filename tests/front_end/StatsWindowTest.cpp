@@ -19,7 +19,7 @@ class RecordingDelegate : public QBYServiceProviderShowStatsWindowControllerDele
 public:
     void serviceProviderShowStatsWindowControllerDidClose(Controller &controller) override
     {
-        calls.push_back(controller.window()->isVisible() ? "visible" : "closed");
+        calls.emplace_back(controller.window()->isVisible() ? "visible" : "closed");
         if (letsGo)
             held.reset();
     }

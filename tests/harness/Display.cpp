@@ -59,7 +59,7 @@ void endProcess(std::unique_ptr<QProcess> &process)
     process->terminate();
     if (!process->waitForFinished(startTimeout))
         process->kill();
-    process.reset();
+    process = nullptr;
 }
 
 bool startServer(RunningDisplay &display)

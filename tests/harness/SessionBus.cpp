@@ -78,5 +78,5 @@ void SessionBus::stop()
         return;
     bus.daemon->terminate();
     bus.daemon->waitForFinished();
-    bus.daemon.reset();
+    bus.daemon = nullptr;
 }

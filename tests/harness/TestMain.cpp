@@ -18,7 +18,7 @@ class FreshWorldForEveryTest : public ::testing::EmptyTestEventListener {
 int main(int argumentCount, char **arguments)
 {
     TestHome::instance();
-    QCoreApplication application(argumentCount, arguments);
+    const QCoreApplication application(argumentCount, arguments);
     ::testing::InitGoogleMock(&argumentCount, arguments);
     ::testing::UnitTest::GetInstance()->listeners().Append(new FreshWorldForEveryTest);
     const int result = RUN_ALL_TESTS();

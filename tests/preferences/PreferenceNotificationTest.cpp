@@ -64,14 +64,14 @@ protected:
 TEST_F(PreferenceNotificationTest, EverySetterOfAnAnnouncedPreferencePostsExactlyOnce)
 {
     using Switch = void (*)(bool);
-    for (const Switch set : {Switch(Controller::setShowCharacterCountPreference),
-             Switch(Controller::setShowCharacterCountIncludingWhitespacePreference),
-             Switch(Controller::setShowSentencesCountPreference),
-             Switch(Controller::setShowLineCountPreference),
-             Switch(Controller::setShowHardLineBreakCountPreference),
-             Switch(Controller::setShowParagraphCountPreference),
-             Switch(Controller::setShowHardIndentParagraphCountPreference),
-             Switch(Controller::setSayWordCountOutLoudOnSaveInWatchFileMode)}) {
+    for (const Switch set : {static_cast<Switch>(Controller::setShowCharacterCountPreference),
+             static_cast<Switch>(Controller::setShowCharacterCountIncludingWhitespacePreference),
+             static_cast<Switch>(Controller::setShowSentencesCountPreference),
+             static_cast<Switch>(Controller::setShowLineCountPreference),
+             static_cast<Switch>(Controller::setShowHardLineBreakCountPreference),
+             static_cast<Switch>(Controller::setShowParagraphCountPreference),
+             static_cast<Switch>(Controller::setShowHardIndentParagraphCountPreference),
+             static_cast<Switch>(Controller::setSayWordCountOutLoudOnSaveInWatchFileMode)}) {
         EXPECT_EQ(postsDuring([set] { set(true); }), 1);
         EXPECT_EQ(postsDuring([set] { set(true); }), 1) << "the same value again";
         EXPECT_EQ(postsDuring([set] { set(false); }), 1);

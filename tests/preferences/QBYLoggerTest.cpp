@@ -7,7 +7,7 @@ using QBYLoggerTest = QuillbayTest;
 
 TEST_F(QBYLoggerTest, TheChannelOfWatchedFilesIsCreatedOnceWithItsSubsystemAndCategory)
 {
-    LogChannel &channel = QBYLogger::watchFileModelLog();
+    const LogChannel &channel = QBYLogger::watchFileModelLog();
     EXPECT_EQ(channel.subsystem(), QStringLiteral("com.QBY.watchFileLog"));
     EXPECT_EQ(channel.category(), QStringLiteral("WatchFileModelLog"));
     EXPECT_EQ(&QBYLogger::watchFileModelLog(), &channel);

@@ -84,7 +84,7 @@ TEST_F(QBYUserDefaultsControllerTest, EverySwitchReadsAndWritesItsOwnKeyAsABoole
         EXPECT_TRUE(one.get()) << one.key;
         EXPECT_EQ(stored(one.key), DefaultsValue(true)) << one.key;
         for (const Switch &other : switches()) {
-            const bool isSetAlong = &one == &switches()[0] && &other == &switches()[1];
+            const bool isSetAlong = &one == switches().data() && &other == &switches()[1];
             EXPECT_EQ(other.get(), &other == &one || isSetAlong) << one.key << " changes " << other.key;
         }
         one.set(false);
@@ -110,7 +110,7 @@ TEST_F(QBYUserDefaultsControllerTest, TheMinimumOfSentencesIsAnIntegerAndNeverRe
 {
     Controller::setMinNumberOfSentencesForParagraphCount(4);
     EXPECT_EQ(Controller::minNumberOfSentencesForParagraphCount(), 4);
-    EXPECT_EQ(stored("MinNumberOfSentencesToEnforceForParagraphCountDefaultsKey"), DefaultsValue(qint64(4)));
+    EXPECT_EQ(stored("MinNumberOfSentencesToEnforceForParagraphCountDefaultsKey"), DefaultsValue(qint64{4}));
     Controller::setMinNumberOfSentencesForParagraphCount(-3);
     EXPECT_EQ(Controller::minNumberOfSentencesForParagraphCount(), 0);
     EXPECT_EQ(stored("MinNumberOfSentencesToEnforceForParagraphCountDefaultsKey"), DefaultsValue(qint64(-3)));
@@ -127,7 +127,7 @@ TEST_F(QBYUserDefaultsControllerTest, ThePaperNameIsReadAsItWasWritten)
 
 TEST_F(QBYUserDefaultsControllerTest, APaperNameThatIsNotTextReadsAsAbsent)
 {
-    store(qint64(4), "PaperNameForPageToLineMeasureUserDefaultsKey");
+    store(qint64{4}, "PaperNameForPageToLineMeasureUserDefaultsKey");
     EXPECT_EQ(Controller::paperNameForLineMeasuring(), std::nullopt);
 }
 
@@ -144,7 +144,7 @@ TEST_F(QBYUserDefaultsControllerTest, EachMarginHasItsOwnKeyAndIsADouble)
 TEST_F(QBYUserDefaultsControllerTest, AMarginStoredAsTextOrIntegerReadsAsItsNumber)
 {
     store(QStringLiteral("0.5"), "PaperLeftMarginValueUserDefaultsKey");
-    store(qint64(2), "PaperRightMarginValueUserDefaultsKey");
+    store(qint64{2}, "PaperRightMarginValueUserDefaultsKey");
     EXPECT_EQ(Controller::leftMarginForPaperSizeLineMeasuring(), 0.5);
     EXPECT_EQ(Controller::rightMarginForPaperSizeLineMeasuring(), 2);
 }
@@ -158,7 +158,7 @@ TEST_F(QBYUserDefaultsControllerTest, AMarginThatIsNotFiniteIsRefused)
 
 TEST_F(QBYUserDefaultsControllerTest, TheSuiteIsOneObjectUnderTheProductsNameForAllThreads)
 {
-    UserDefaults *const here = &Controller::sharedUserDefaults();
+    const UserDefaults *const here = &Controller::sharedUserDefaults();
     UserDefaults *there = nullptr;
     std::thread([&there] { there = &Controller::sharedUserDefaults(); }).join();
     EXPECT_EQ(here, there);

@@ -27,7 +27,7 @@ void hide(const std::string &statistic)
 int main(int argumentCount, char **arguments)
 {
     const QCoreApplication application(argumentCount, arguments);
-    std::cout << "ready" << std::endl;
+    std::cout << "ready" << '\n' << std::flush;
     for (std::string line; std::getline(std::cin, line);) {
         std::istringstream request(line);
         std::string verb;
@@ -38,7 +38,7 @@ int main(int argumentCount, char **arguments)
         if (verb == "launch-and-hide")
             QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
         hide(statistic);
-        std::cout << "done" << std::endl;
+        std::cout << "done" << '\n' << std::flush;
     }
     return 0;
 }

@@ -39,7 +39,7 @@ class AbandonedCountTest : public AsyncCountTest { };
 TEST_F(AbandonedCountTest, AServiceThatNeverAnswersKeepsThePanelBusyUntilItIsStopped)
 {
     const auto service = standIn({"hold", "answer 1 2 3 4 5 6 7 8"});
-    CountingPanel panel;
+    const CountingPanel panel;
     count(panel);
     service->waitForRequests(1);
     count(panel);
@@ -57,7 +57,7 @@ TEST_F(AbandonedCountTest, AServiceThatNeverAnswersKeepsThePanelBusyUntilItIsSto
 TEST_F(AbandonedCountTest, AfterAStopNoCompletionFollowsAndTheNextCountHasANewConnection)
 {
     const auto service = standIn({"hold", "answer 8 7 6 5 4 3 2 1"});
-    CountingPanel panel;
+    const CountingPanel panel;
     bool isCalled = false;
     panel.controller->asyncUpdateStatsWithAttributedString(text, [&isCalled] { isCalled = true; });
     service->waitForRequests(1);
@@ -82,7 +82,7 @@ TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentIsNotSentWithoutACon
     panel.controller->stopAsyncOperation();
     EXPECT_TRUE(waitUntil([&panel] { return panel.controller.use_count() == 1; })); // nothing is pending
     EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());
-    CountingPanel next;
+    const CountingPanel next;
     count(next); // would arrive after the stopped one
     waitForCompletions(1);
     EXPECT_THAT(service->requests(), SizeIs(1));
@@ -92,7 +92,7 @@ TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentIsNotSentWithoutACon
 TEST_F(AbandonedCountTest, ACountThatIsStoppedBeforeItIsSentGoesOverTheConnectionOfTheNextOne)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8", "answer 8 7 6 5 4 3 2 1"});
-    CountingPanel panel;
+    const CountingPanel panel;
     count(panel);
     panel.controller->stopAsyncOperation();
     count(panel); // opens the next connection before the first count could be sent
@@ -126,7 +126,7 @@ TEST_F(AbandonedCountTest, AnAnswerThatIsOnItsWayToTheMainThreadIsDroppedByAStop
 
 TEST_F(AbandonedCountTest, AStopWithoutACountDoesNothing)
 {
-    CountingPanel panel;
+    const CountingPanel panel;
     panel.controller->stopAsyncOperation();
     panel.controller->stopAsyncOperation();
     EXPECT_FALSE(panel.controller->isAsyncCountOperationInProgress());

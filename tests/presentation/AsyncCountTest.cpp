@@ -24,7 +24,7 @@ QByteArray hashOf(const QByteArray &bytes)
 TEST_F(AsyncCountTest, TheAnswerOfTheServiceIsShownInItsOrder)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
-    CountingPanel panel;
+    const CountingPanel panel;
     count(panel);
     EXPECT_TRUE(panel.controller->isAsyncCountOperationInProgress());
     waitForCompletions(1);
@@ -40,7 +40,7 @@ TEST_F(AsyncCountTest, TheAnswerOfTheServiceIsShownInItsOrder)
 TEST_F(AsyncCountTest, AnswersOfZerosAreShownLikeAnyOther)
 {
     const auto service = standIn({"answer 0 0 0 0 0 0 0 0"});
-    CountingPanel panel;
+    const CountingPanel panel;
     count(panel);
     waitForCompletions(1);
     EXPECT_EQ(panel.texts(), textsFor({0, 0, 0, 0, 0, 0, 0, 0}));
@@ -49,7 +49,7 @@ TEST_F(AsyncCountTest, AnswersOfZerosAreShownLikeAnyOther)
 TEST_F(AsyncCountTest, CountsAreCopiedWithoutAnyCheck)
 {
     const auto service = standIn({"answer 18446744073709551615 9223372036854775808 0 0 0 0 0 1"});
-    CountingPanel panel;
+    const CountingPanel panel;
     count(panel);
     waitForCompletions(1);
     EXPECT_EQ(panel.controller->wordCounter()->numberOfWords(), UINT64_MAX);
@@ -75,7 +75,7 @@ TEST_F(AsyncCountTest, RequestsFollowTheDocumentationOfTheService)
 
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     setLocale("de_DE.UTF-8");
-    CountingPanel panel;
+    const CountingPanel panel;
     count(panel);
     waitForCompletions(1);
     countDocument(panel, QUrl::fromLocalFile(writeFile(QStringLiteral("a.docx"), "bytes")));
@@ -101,7 +101,7 @@ TEST_F(AsyncCountTest, AStyledTextIsSentWholeAsFlatRtfd)
     builder.append(u"Ein größerer ", {});
     builder.append(u"Text\n\tmit 😀", bold);
     const AttributedString styled = builder.build();
-    CountingPanel panel;
+    const CountingPanel panel;
     panel.controller->asyncUpdateStatsWithAttributedString(styled, completion());
     waitForCompletions(1);
     ASSERT_THAT(service->requests(), SizeIs(1));
@@ -115,7 +115,7 @@ TEST_F(AsyncCountTest, AWordDocumentIsSentUnopened)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
     const QByteArray bytes("no Word document \0 at all", 25);
-    CountingPanel panel;
+    const CountingPanel panel;
     countDocument(panel, QUrl::fromLocalFile(writeFile(QStringLiteral("50% ä?#.docx"), bytes)));
     waitForCompletions(1);
     ASSERT_THAT(service->requests(), SizeIs(1));
@@ -133,7 +133,7 @@ TEST_F(AsyncCountTest, AFileNameNeedNotBeTextInAnyEncoding)
     ASSERT_NE(file, nullptr);
     std::fputs("bytes", file);
     std::fclose(file);
-    CountingPanel panel;
+    const CountingPanel panel;
     countDocument(panel, QUrl(QStringLiteral("file://localhost%1/%FF.docx").arg(world().root())));
     waitForCompletions(1);
     EXPECT_EQ(service->requests().front().hash, hashOf("bytes"));
@@ -142,7 +142,7 @@ TEST_F(AsyncCountTest, AFileNameNeedNotBeTextInAnyEncoding)
 TEST_F(AsyncCountTest, AnUnreadableWordDocumentIsSentAsAbsentAndTheAnswerShown)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
-    CountingPanel panel;
+    const CountingPanel panel;
     const QString file = writeFile(QStringLiteral("a.docx"), "bytes");
     const std::vector<QUrl> unreadable = {QUrl::fromLocalFile(file + u'x'),
         QUrl::fromLocalFile(world().root()), QUrl(), QUrl(QStringLiteral("https://example.com") + file),
@@ -197,7 +197,7 @@ TEST_F(AsyncCountTest, ObserversAreNotifiedWhenTheFlagIsSetAndCleared)
 TEST_F(AsyncCountTest, ACountDuringACountIsSilentlyDropped)
 {
     const auto service = standIn({"hold", "answer 0 0 0 0 0 0 0 0"});
-    CountingPanel panel;
+    const CountingPanel panel;
     count(panel);
     service->waitForRequests(1);
     bool isDropped = false;
@@ -235,8 +235,8 @@ TEST_F(AsyncCountTest, ACountThatACompletionStartsIsDropped)
 TEST_F(AsyncCountTest, BothKindsOfCountsShareOneConnectionAndEveryPanelHasItsOwn)
 {
     const auto service = standIn({"answer 1 2 3 4 5 6 7 8"});
-    CountingPanel panel;
-    CountingPanel other;
+    const CountingPanel panel;
+    const CountingPanel other;
     count(panel);
     waitForCompletions(1);
     countDocument(panel, QUrl());
@@ -252,7 +252,7 @@ TEST_F(AsyncCountTest, BothKindsOfCountsShareOneConnectionAndEveryPanelHasItsOwn
 TEST_F(AsyncCountTest, ARequestThatIsLostWithTheServiceIsSentAgain)
 {
     const auto service = standIn({"crash", "answer 1 2 3 4 5 6 7 8"});
-    CountingPanel panel;
+    const CountingPanel panel;
     count(panel);
     waitForCompletions(1);
     EXPECT_EQ(panel.texts(), oneToEight);

@@ -67,7 +67,7 @@ TEST_F(DirectUpdateTest, AnUpdateFillsTheLabelsOfTheInterfaceFile)
 
 TEST_F(DirectUpdateTest, AStyledTextIsCountedInTheNextTurn)
 {
-    CountingPanel panel;
+    const CountingPanel panel;
     panel.controller->updateStatsWithAttributedString(twoWords);
     EXPECT_EQ(panel.texts(), untouched);
     EXPECT_FALSE(panel.controller->wordCounter()->attributedStringToCount());
@@ -79,7 +79,7 @@ TEST_F(DirectUpdateTest, AStyledTextIsCountedInTheNextTurn)
 
 TEST_F(DirectUpdateTest, AWordRecordIsShownInTheNextTurn)
 {
-    CountingPanel panel;
+    const CountingPanel panel;
     panel.controller->updateStatsWithDocXMetaData({.numberOfWords = 1,
         .numberOfCharacters = 2,
         .numberOfCharactersWithWhitespace = 3,
@@ -109,7 +109,7 @@ TEST_F(DirectUpdateTest, AStringIsCountedTwoTurnsLaterInHelveticaOf12Points)
 
 TEST_F(DirectUpdateTest, EveryStringLogsAWarning)
 {
-    CountingPanel panel;
+    const CountingPanel panel;
     const RecordingLogSink log;
     const auto warning = QStringLiteral(
         "Called update stats with string..you should use the updateStatsWithAttributedString: if "
@@ -126,7 +126,7 @@ TEST_F(DirectUpdateTest, EveryStringLogsAWarning)
 
 TEST_F(DirectUpdateTest, ARecordOfZerosIsShownAtOnce)
 {
-    CountingPanel panel;
+    const CountingPanel panel;
     panel.controller->updateInterfaceWithPrepopulatedStats({});
     EXPECT_EQ(panel.texts(), zeros);
     EXPECT_THAT(panel.delegate.calls, ElementsAre("relayout"));
@@ -134,7 +134,7 @@ TEST_F(DirectUpdateTest, ARecordOfZerosIsShownAtOnce)
 
 TEST_F(DirectUpdateTest, ARecordOfAnotherPanelIsShownAsItIs)
 {
-    CountingPanel panel;
+    const CountingPanel panel;
     const QBYWordCounterStats stats{.numberOfWords = 1,
         .numberOfCharacters = 2,
         .numberOfCharactersIncludingWhitespace = 3,
@@ -151,7 +151,7 @@ TEST_F(DirectUpdateTest, ARecordOfAnotherPanelIsShownAsItIs)
 TEST_F(DirectUpdateTest, HiddenLabelsAreFilledToo)
 {
     preferOnly({});
-    CountingPanel panel;
+    const CountingPanel panel;
     ASSERT_EQ(panel.controller->visibleTextfieldsForLayout().size(), 1U);
     panel.controller->updateInterfaceWithPrepopulatedStats({});
     EXPECT_EQ(panel.texts(), zeros);

@@ -108,7 +108,7 @@ TEST_F(HtmlRepresentationTest, NothingIsEscapedAndNoPlaceholderIsFilled)
 TEST_F(HtmlRepresentationTest, AllEightLabelsFollowInTheirOrder)
 {
     preferOnly(everyStatistic);
-    CountingPanel panel;
+    const CountingPanel panel;
     panel.controller->updateInterfaceWithPrepopulatedStats({1, 2, 3, 4, 5, 6, 7, 8});
     EXPECT_EQ(fragment(panel),
         QStringLiteral(

@@ -34,8 +34,8 @@ inline constexpr std::initializer_list<Preference> everyStatistic = {Preference:
 /// Records its calls.
 class RecordingLayoutDelegate : public WordCounterViewControllerLayoutDelegate {
 public:
-    void wordCounterViewControllerDidRelayoutLabels() override { calls.push_back("relayout"); }
-    void wordCounterViewControllerDidChangeVisibleLabelsCount() override { calls.push_back("count"); }
+    void wordCounterViewControllerDidRelayoutLabels() override { calls.emplace_back("relayout"); }
+    void wordCounterViewControllerDidChangeVisibleLabelsCount() override { calls.emplace_back("count"); }
 
     std::vector<std::string> calls;
 };

@@ -85,7 +85,8 @@ private:
 void printFrame(const Window &window)
 {
     const QRectF frame = window.frame();
-    std::cout << frame.x() << ' ' << frame.y() << ' ' << frame.width() << ' ' << frame.height() << std::endl;
+    std::cout << frame.x() << ' ' << frame.y() << ' ' << frame.width() << ' ' << frame.height() << '\n'
+              << std::flush;
 }
 
 } // namespace
@@ -97,7 +98,7 @@ int main(int argumentCount, char **arguments)
     const PanelHost host(InterfaceFile::load(QFile::decodeName(arguments[1])));
     const WindowWidget widget(host.window());
     host.window()->orderFront();
-    std::cout << widget.winId() << std::endl;
+    std::cout << widget.winId() << '\n' << std::flush;
     const QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &widget, [&host] {
         std::string line;

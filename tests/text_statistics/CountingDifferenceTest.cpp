@@ -11,7 +11,7 @@ namespace {
 
 TextRules rulesOf(int variant)
 {
-    const QString locale = variant % 2 == 0 ? QStringLiteral("en_US") : QStringLiteral("fr_FR");
+    QString locale = variant % 2 == 0 ? QStringLiteral("en_US") : QStringLiteral("fr_FR");
     return {.localeIdentifier = [locale] { return locale; },
         .minimumSentencesOfParagraph = variant / 4 % 3,
         .sentencesNeedTerminalPunctuation = variant / 2 % 2 == 1};
@@ -77,8 +77,8 @@ const std::vector<QString> &representatives()
             if (character)
                 list.push_back(QString::fromUcs4(&character, 1));
         }
-        list.push_back(QString(QChar(0xD800)));
-        list.push_back(QString(QChar(0xDC00)));
+        list.emplace_back(QChar(0xD800));
+        list.emplace_back(QChar(0xDC00));
         return list;
     }();
     return characters;

@@ -94,7 +94,7 @@ TEST_F(MeasuringSurfaceTest, MarginsThatLeaveNoWidthAtTheFirstCallGiveEveryGraph
 TEST_F(MeasuringSurfaceTest, KeepsTheTextUntilTheNextCall)
 {
     lines(QStringLiteral("one"));
-    TextStorage &storage = m_surface.preview().previewTextView()->textStorage();
+    const TextStorage &storage = m_surface.preview().previewTextView()->textStorage();
     EXPECT_EQ(storage.attributedString().string(), QStringLiteral("one"));
     lines(QStringLiteral("two"));
     EXPECT_EQ(storage.attributedString().string(), QStringLiteral("two"));

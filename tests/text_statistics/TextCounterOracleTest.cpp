@@ -108,7 +108,7 @@ TEST(TextCounterOracle, ParagraphsAddUpToTheCountOfTheWholeText)
     TextCounter counter;
     for (int round = 0; round < 3000; ++round) {
         const QString text = randomText(random);
-        const QString locale = round % 2 == 0 ? QStringLiteral("en_US") : QStringLiteral("de_DE");
+        QString locale = round % 2 == 0 ? QStringLiteral("en_US") : QStringLiteral("de_DE");
         const TextRules rules{.localeIdentifier = [locale] { return locale; },
             .minimumSentencesOfParagraph = round % 3,
             .sentencesNeedTerminalPunctuation = round % 5 < 2};

@@ -163,7 +163,7 @@ TEST_F(WordCounterModelTest, ANewStyleShowsOnlyAtTheNextUpdate)
 TEST_F(WordCounterModelTest, AnUnknownStyleLeavesTheStringsAsTheyWere)
 {
     m_model.updateModelWithPrepopulatedStats({.numberOfWords = 1});
-    for (const qint64 style : {qint64(2), qint64(-1)}) {
+    for (const qint64 style : {qint64{2}, qint64{-1}}) {
         m_model.setFormattedStringStyle(style);
         m_model.updateModelWithPrepopulatedStats({.numberOfWords = 2});
         EXPECT_EQ(m_model.numberOfWords(), 2U);

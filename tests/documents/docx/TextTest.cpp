@@ -211,9 +211,8 @@ TEST(DocxText, HasNoHeadersFootersCommentsNorPagesOfTheProgramThatSavedIt)
 {
     const QByteArray word = "application/vnd.openxmlformats-officedocument.wordprocessingml.";
     const auto part = [&word](const char *kind) {
-        const QByteArray root = QByteArray(kind) == "header" ? "hdr"
-            : QByteArray(kind) == "footer"                   ? "ftr"
-                                                             : kind;
+        QByteArray root = kind;
+        root.replace("header", "hdr").replace("footer", "ftr");
         return WordPackage::Part{QByteArray("rIdOf") + kind, kind, QByteArray(kind) + ".xml",
             word + kind + "+xml",
             "<w:" + root + " xmlns:w='" + WordPackage{}.wordNamespace + "'>" + textParagraph(kind)

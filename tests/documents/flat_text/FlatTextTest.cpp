@@ -28,7 +28,7 @@ AttributedString writeAndRead(const AttributedString &text)
 /// A text in which every kind of field has a value.
 AttributedString fullText()
 {
-    TextAttributes plain;
+    const TextAttributes plain;
     TextAttributes rich;
     rich.font = FontAttributes{QStringLiteral("Garamond"), 11.5, 700, FontSlant::Oblique, 0.25, -3};
     rich.paragraphStyle.alignment = TextAlignment::Justified;

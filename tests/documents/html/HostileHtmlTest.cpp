@@ -82,7 +82,7 @@ TEST(HostileHtml, AnyByteMayBeAnother)
 
 TEST(HostileHtml, AnyTagsInAnyOrderAreAPage)
 {
-    const char *pieces[] = {"<table>", "</table>", "<tr>", "<td>", "<b>", "</b>", "<i>", "</i>", "<p>",
+    const char *const pieces[] = {"<table>", "</table>", "<tr>", "<td>", "<b>", "</b>", "<i>", "</i>", "<p>",
         "</p>", "<div>", "</div>", "<select>", "<option>", "</select>", "<svg>", "</svg>", "<math>", "<mi>",
         "<title>", "</title>", "<template>", "</template>", "<form>", "<button>", "<a href=x>", "<nobr>",
         "<object>", "</object>", "<frameset>", "<body a=b>", "</body>", "<html c=d>", "<pre>\n",

@@ -28,7 +28,7 @@ void append32(QByteArray &bytes, quint32 number)
 QByteArray deflatedBytes(const QByteArray &bytes)
 {
     if (bytes.isEmpty()) // qCompress() writes no header then
-        return QByteArray("\x03\0", 2);
+        return {"\x03\0", 2};
     return qCompress(bytes, 6).sliced(6).chopped(4);
 }
 

@@ -32,7 +32,7 @@ QByteArray md5(const QByteArray &bytes)
 QByteArray rc4(const QByteArray &key, QByteArray bytes)
 {
     std::array<quint8, 256> state{};
-    std::iota(state.begin(), state.end(), quint8(0));
+    std::iota(state.begin(), state.end(), quint8{0});
     quint8 j = 0;
     for (size_t i = 0; i < state.size(); ++i) {
         j = static_cast<quint8>(

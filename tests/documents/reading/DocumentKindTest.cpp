@@ -125,3 +125,10 @@ TEST(DocumentKind, ANameInNoEncodingIsAName)
     EXPECT_EQ(kindOf("\xff\xfe.html", words), DocumentKind::Html);
     EXPECT_EQ(kindOf("\xff\xfe.html", picture), std::nullopt);
 }
+
+TEST(DocumentKind, ANameEndsAtItsFirstNulByte)
+{
+    EXPECT_EQ(kindOf(QByteArray("a.html\0.txt", 11), words), DocumentKind::Html);
+    EXPECT_EQ(kindOf(QByteArray("paga\x1A\0\0\0.m", 10), compoundFile()), std::nullopt);
+    EXPECT_EQ(kindOf(QByteArray("\0Pa\0\0.ps", 8), "PK\x03\x04\x14"), std::nullopt);
+}

@@ -162,12 +162,12 @@ TEST(RtfReader, ReportsThatMemoryHasRunOut)
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";
 #endif
-    const QByteArray rtf = document(QByteArray(64 * 1'048'576, 'x'));
+    const QByteArray rtf = document(QByteArray(qsizetype{64} * 1'048'576, 'x'));
     const auto readWithLittleMemory = [&rtf] {
         size_t pages = 0;
         std::ifstream("/proc/self/statm") >> pages;
         constexpr size_t pageSize = 4096;
-        const rlimit limit{pages * pageSize + 16 * 1'048'576, RLIM_INFINITY};
+        const rlimit limit{pages * pageSize + size_t{16} * 1'048'576, RLIM_INFINITY};
         ::setrlimit(RLIMIT_AS, &limit);
         const Result<AttributedString, DocumentError> result = readRtf(rtf);
         ::_exit(!result && result.error().cause == Cause::NotEnoughMemory ? 0 : 1);

@@ -229,7 +229,7 @@ TEST(FlatRtfd, AMillionEntriesTakeAMoment)
     for (quint32 i = 1; i < count; ++i)
         names += withLength(QByteArray::number(i % 2 == 0 ? i : 1));
     const QByteArray bytes = "rtfd" + word(0) + word(3) + word(count) + names
-        + word(static_cast<quint32>(block.size())) + QByteArray((count - 1) * 4, '\0') + block;
+        + word(static_cast<quint32>(block.size())) + QByteArray(qsizetype{count - 1} * 4, '\0') + block;
     const auto before = std::chrono::steady_clock::now();
     EXPECT_EQ(textOf(bytes).string(), QStringLiteral("abc"));
     EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(20));

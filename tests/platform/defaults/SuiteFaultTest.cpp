@@ -230,7 +230,7 @@ TEST_F(SuiteFaultTest, HandWrittenValuesOfNoKindOrBeyondTheLimitsReadAsAbsent)
     runOnFile(
         "INSERT INTO preference VALUES ('blob', 'text', x'00ff'), ('huge', 'text', hex(zeroblob(1000000))),"
         " ('odd', 'boolean', 'YES')");
-    for (UserDefaults *defaults : {&m_defaults, &m_other}) {
+    for (const UserDefaults *defaults : {&m_defaults, &m_other}) {
         EXPECT_FALSE(defaults->objectForKey(QStringLiteral("blob")));
         EXPECT_FALSE(defaults->objectForKey(QStringLiteral("huge")));
     }

@@ -57,7 +57,7 @@ TEST_F(UserDefaultsTest, TheFirstWriteCreatesAFolderForTheUserOnly)
 
 TEST_F(UserDefaultsTest, EveryKindOfValueIsReadAsItWasWritten)
 {
-    const std::vector<DefaultsValue> values{true, false, qint64(0), qint64(1),
+    const std::vector<DefaultsValue> values{true, false, qint64{0}, qint64{1},
         std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max(), 0.0, 1.0, -0.1,
         std::numeric_limits<double>::max(), std::numeric_limits<double>::denorm_min(), QString(),
         QStringLiteral("1"), QStringLiteral("A4 \u00e9 \U0001F600"), QString::fromUtf8("a\0b", 3)};

@@ -26,7 +26,7 @@ const QString paddingKey = QStringLiteral("padding");
 // Of changing length, so that the file grows and shrinks by pages.
 QString paddingFor(qint64 count)
 {
-    return QString((count * 7919) % 20'000, QChar(u'a' + static_cast<char16_t>(count % 26)));
+    return {(count * 7919) % 20'000, QChar(u'a' + static_cast<char16_t>(count % 26))};
 }
 
 [[noreturn]] void writeUntilKilled(const QString &suite, qint64 first, int acknowledgements)
@@ -81,8 +81,8 @@ int main(int argumentCount, char **arguments)
     if (argumentCount != 4)
         return 2;
     const QString suite = QString::fromLocal8Bit(arguments[1]);
-    const int rounds = std::atoi(arguments[2]);
-    std::mt19937 random(static_cast<unsigned>(std::atoi(arguments[3])));
+    const int rounds = std::stoi(arguments[2]);
+    std::mt19937 random(static_cast<unsigned>(std::stoi(arguments[3])));
     std::uniform_int_distribution<int> wanted(0, 3);
     std::uniform_int_distribution<int> more(0, 4000);
     qint64 acknowledged = 0;

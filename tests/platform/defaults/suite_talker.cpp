@@ -57,10 +57,10 @@ int main(int argumentCount, char **arguments)
     if (argumentCount != 2)
         return 2;
     UserDefaults defaults(QString::fromLocal8Bit(arguments[1]), std::chrono::seconds(30));
-    std::cout << "ready" << std::endl;
+    std::cout << "ready" << '\n' << std::flush;
     for (std::string line; std::getline(std::cin, line) && line != "quit";) {
         std::istringstream request(line);
-        std::cout << answer(defaults, request) << std::endl;
+        std::cout << answer(defaults, request) << '\n' << std::flush;
     }
     return 0;
 }

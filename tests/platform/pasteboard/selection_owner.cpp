@@ -36,7 +36,7 @@ public:
     Owner(const char *selection, std::string manner)
         : m_manner(std::move(manner))
     {
-        xcb_screen_t *const screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+        const xcb_screen_t *const screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
         xcb_create_window(m_connection, 0, m_window, screen->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
             XCB_COPY_FROM_PARENT, 0, nullptr);
         xcb_set_selection_owner(m_connection, m_window, atom(selection), XCB_CURRENT_TIME);

@@ -98,7 +98,7 @@ PageLog FOLDER/log/page
 QString programPath(const char *name)
 {
     const QString program = QString::fromLatin1(name);
-    const QString inPath = QStandardPaths::findExecutable(program);
+    QString inPath = QStandardPaths::findExecutable(program);
     if (!inPath.isEmpty())
         return inPath;
     return QStandardPaths::findExecutable(program, {QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")});

@@ -198,7 +198,7 @@ TEST_F(PrintSettingsTest, AnAnswerToSettingsThatAreGoneIsDropped)
 
 TEST_F(PrintSettingsTest, ScopedSettingsAreTheSharedOnesWhileTheyLive)
 {
-    PrintSettings *const before = &PrintSettings::shared();
+    const PrintSettings *const before = &PrintSettings::shared();
     {
         const ScopedPrintSettings scope(m_settings);
         EXPECT_EQ(&PrintSettings::shared(), &m_settings);

@@ -90,7 +90,7 @@ long connectTo(const char *path)
 
 long map(size_t length, int protection)
 {
-    void *const bytes =
+    const void *const bytes =
         ::mmap(nullptr, length, protection, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     return bytes == MAP_FAILED ? -1 : 0;
 }

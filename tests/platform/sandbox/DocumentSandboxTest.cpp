@@ -56,7 +56,7 @@ protected:
 
     static QByteArrayList all(const QByteArrayList &attempts, const char *result)
     {
-        return QByteArrayList(attempts.size(), result);
+        return {attempts.size(), result};
     }
 
     /// A file of the user in the home folder.

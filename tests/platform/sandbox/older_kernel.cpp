@@ -12,7 +12,7 @@
 int main(int, char **arguments)
 {
     const std::string_view missing = arguments[1];
-    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
+    void *const filter = seccomp_init(SCMP_ACT_ALLOW);
     seccomp_attr_set(filter, SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_ALLOW);
     const auto answer = [filter](int call, int number) {
         seccomp_rule_add(filter, SCMP_ACT_ERRNO(static_cast<uint32_t>(number)), call, 0);

@@ -13,12 +13,12 @@ class RecordingProvider : public ServicesProvider {
 public:
     void wordCountSelectedTextService(const Pasteboard &pasteboard, const QString &, QString *error) override
     {
-        received.push_back({QStringLiteral("count"), pasteboard.forms()});
+        received.emplace_back(QStringLiteral("count"), pasteboard.forms());
         *error = answer;
     }
     void watchTheTextFileService(const Pasteboard &pasteboard, const QString &, QString *error) override
     {
-        received.push_back({QStringLiteral("watch"), pasteboard.forms()});
+        received.emplace_back(QStringLiteral("watch"), pasteboard.forms());
         *error = answer;
     }
 

@@ -80,7 +80,7 @@ TEST_F(RemoteObjectConnectionTest, ALargePayloadArrivesComplete)
 {
     const ServiceStandIn service(standInName, {"answer 1 2 3 4 5 6 7 8"});
     const auto connection = resumedConnection();
-    const QByteArray payload(256 * 1024 * 1024, 'q');
+    const QByteArray payload(qsizetype{256} * 1024 * 1024, 'q');
     send(*connection, payload);
     m_replies.waitFor(1);
     ASSERT_THAT(service.requests(), SizeIs(1));

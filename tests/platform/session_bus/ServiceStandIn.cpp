@@ -23,7 +23,7 @@ void write(const QString &path, const QByteArray &contents)
 
 } // namespace
 
-ServiceStandIn::ServiceStandIn(QString serviceName, const QByteArrayList &plan)
+ServiceStandIn::ServiceStandIn(const QString &serviceName, const QByteArrayList &plan)
     : m_folder(TestHome::instance().root() + QStringLiteral("/stand-in"))
     , m_bus(QDBusConnection::connectToBus(SessionBus::start(), busName))
 {

@@ -30,7 +30,7 @@ public:
     };
 
     /// Starts the private bus. plan: a line for every request; see service_stand_in.cpp.
-    ServiceStandIn(QString serviceName, const QByteArrayList &plan);
+    ServiceStandIn(const QString &serviceName, const QByteArrayList &plan);
     ServiceStandIn(const ServiceStandIn &) = delete;
     ServiceStandIn &operator=(const ServiceStandIn &) = delete;
     /// Makes the service exit, and waits until all its processes have disconnected from the bus.

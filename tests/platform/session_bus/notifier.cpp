@@ -21,23 +21,24 @@ int main(int argumentCount, char **arguments)
         DistributedNotificationCenter::post(name);
         return 0;
     }
-    QCoreApplication application(argumentCount, arguments);
+    const QCoreApplication application(argumentCount, arguments);
     if (verb == "post") {
         DistributedNotificationCenter::post(name);
         std::_Exit(0); // nothing is left to destructors
     }
     if (verb == "observe") {
         const NotificationObserver observer(name);
-        QObject::connect(
-            &observer, &NotificationObserver::posted, &observer, [] { std::cout << "posted" << std::endl; });
-        std::cout << "ready" << std::endl;
+        QObject::connect(&observer, &NotificationObserver::posted, &observer, [] {
+            std::cout << "posted" << '\n' << std::flush;
+        });
+        std::cout << "ready" << '\n' << std::flush;
         return QCoreApplication::exec();
     }
     const NotificationObserver observer(QStringLiteral("echo"));
-    std::cout << "ready" << std::endl;
+    std::cout << "ready" << '\n' << std::flush;
     for (std::string line; std::getline(std::cin, line);) {
         DistributedNotificationCenter::post(QString::fromStdString(line));
-        std::cout << "done" << std::endl;
+        std::cout << "done" << '\n' << std::flush;
     }
     return 0;
 }

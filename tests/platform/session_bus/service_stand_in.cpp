@@ -46,9 +46,9 @@ class Service : public QDBusVirtualObject {
     Q_OBJECT
 
 public:
-    Service(QString name, const QString &folder)
+    Service(QString name, QString folder)
         : m_name(std::move(name))
-        , m_folder(folder)
+        , m_folder(std::move(folder))
     {
     }
 

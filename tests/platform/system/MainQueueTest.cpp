@@ -76,7 +76,7 @@ TEST(ReleaseOnMainThread, AValueDroppedOnAnotherThreadIsDestroyedOnTheMainThread
         isReleased = true;
     });
     auto wrapped = releaseOnMainThread(std::move(held));
-    runOnAnotherThread([&wrapped] { wrapped.reset(); });
+    runOnAnotherThread([&wrapped] { wrapped = nullptr; });
     EXPECT_FALSE(isReleased);
     EXPECT_TRUE(waitUntil([&isReleased] { return isReleased; }));
 }
@@ -86,6 +86,6 @@ TEST(ReleaseOnMainThread, AValueDroppedOnTheMainThreadIsDestroyedAtOnce)
     bool isReleased = false;
     auto wrapped =
         releaseOnMainThread(std::shared_ptr<void>(nullptr, [&isReleased](void *) { isReleased = true; }));
-    wrapped.reset();
+    wrapped = nullptr;
     EXPECT_TRUE(isReleased);
 }

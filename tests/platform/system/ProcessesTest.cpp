@@ -38,7 +38,7 @@ protected:
         return all;
     }
 
-    QString script(const QByteArray &body) const
+    [[nodiscard]] QString script(const QByteArray &body) const
     {
         const QString path = writeFile(QStringLiteral("program"), "#!/bin/sh\n" + body);
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

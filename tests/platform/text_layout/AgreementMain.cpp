@@ -22,7 +22,7 @@ int main(int argumentCount, char **arguments)
     TestHome::instance();
     useOnlyFonts({});
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argumentCount, arguments);
+    const QGuiApplication application(argumentCount, arguments);
     (void)QFontDatabase::families(); // reads the configuration now, before a test has one of its own
     ::testing::InitGoogleMock(&argumentCount, arguments);
     ::testing::UnitTest::GetInstance()->listeners().Append(new FreshWorldForEveryTest);

@@ -109,7 +109,8 @@ TEST_F(Bounds, FurtherMarksOnALetterTakeNoRoom)
         for (const double width : {0.0, 30.0, 90.0, 1000.0}) {
             const quint64 lines = count(withMarks(1, mark), width);
             for (const int marks : {30, 31, 32, 33, 64, 1000})
-                EXPECT_EQ(count(withMarks(marks, mark), width), lines) << marks << " of " << int(mark);
+                EXPECT_EQ(count(withMarks(marks, mark), width), lines)
+                    << marks << " of " << static_cast<int>(mark);
         }
     }
 }
@@ -125,7 +126,7 @@ TEST_F(Bounds, CountsHugeTextsOfEveryShape)
     EXPECT_EQ(count(QString(size, u'x'), 1e9), 1U);
     EXPECT_GT(count(QString(size, u'\t'), 451), 1000U);
     for (const char16_t mark : {u'\u0301', u'\u064E', u'\u0E49', u'\u05B0', u'\u200D'})
-        EXPECT_EQ(count(QString(10 * size, mark), 451), 1U);
+        EXPECT_EQ(count(QString(qsizetype{10} * size, mark), 451), 1U);
     EXPECT_EQ(count(QString(size, u'\u0001'), 451), 1U);
     EXPECT_EQ(count(QString(size, u'\u00AD'), 451), 1U);
     EXPECT_GT(count(QString(size, u'\uFFFC'), 451), 1000U);

@@ -26,7 +26,7 @@ public:
     void runAlert(const Alert &alert, AlertCompletion completion) override
     {
         notes.append(QStringLiteral("alert: ") + alert.messageText);
-        m_alerts.push_back({alert, std::move(completion)});
+        m_alerts.emplace_back(alert, std::move(completion));
     }
     void presentError(const QString &text) override
     {
@@ -37,7 +37,7 @@ public:
     void beginOpenPanel(const OpenPanel &panel, OpenPanel::Completion completion) override
     {
         notes.append(QStringLiteral("open panel"));
-        m_panels.push_back({panel, std::move(completion)});
+        m_panels.emplace_back(panel, std::move(completion));
     }
 
     [[nodiscard]] bool isAskingUser() const override { return !m_alerts.empty() || !m_panels.empty(); }

@@ -32,7 +32,7 @@ protected:
     /// Processes events for a random time of up to so many milliseconds.
     void waitAtRandom(int maxTime)
     {
-        for (QDeadlineTimer end(randomNumber(0, maxTime)); !end.hasExpired();)
+        for (const QDeadlineTimer end(randomNumber(0, maxTime)); !end.hasExpired();)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1);
         if (randomNumber(0, 1))
             m_clock.advance(std::chrono::milliseconds(randomNumber(0, 400)));

@@ -26,7 +26,7 @@ protected:
 
 TEST_F(FailureTest, BeepsAndAsksWithTheWindowClosed)
 {
-    Controller &watcher = watchAndLose();
+    const Controller &watcher = watchAndLose();
     EXPECT_THAT(m_desktop.notes, ElementsAre(QStringLiteral("beep"), m_alertNote));
     EXPECT_EQ(m_desktop.alert().informativeText,
         QStringLiteral(

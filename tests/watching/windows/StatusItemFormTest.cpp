@@ -38,7 +38,7 @@ TEST_F(StatusItemFormTest, HasAnItemWithAnIconAndAPopoverWithThePanel)
 
 TEST_F(StatusItemFormTest, ThePopoverOpensAfter300Milliseconds)
 {
-    Controller &watcher = makeStatusItemForm();
+    const Controller &watcher = makeStatusItemForm();
     m_clock.advance(299ms);
     EXPECT_FALSE(watcher.popover()->isShown());
     m_clock.advance(1ms);
@@ -58,7 +58,7 @@ TEST_F(StatusItemFormTest, LivesUntilThePopoverHasOpened)
 
 TEST_F(StatusItemFormTest, AClickShowsThePopoverAndASecondOneKeepsIt)
 {
-    Controller &watcher = makeStatusItemForm();
+    const Controller &watcher = makeStatusItemForm();
     watcher.statusItem()->setButtonFrame(QRectF(600, 776, 24, 24));
     watcher.statusItem()->performClick();
     EXPECT_TRUE(watcher.popover()->isShown());
@@ -73,7 +73,7 @@ TEST_F(StatusItemFormTest, AClickShowsThePopoverAndASecondOneKeepsIt)
 TEST_F(StatusItemFormTest, ThePopoverIsAtThePointerIfTheItemsPlaceIsUnknown)
 {
     m_desktop.pointer = {640, 790};
-    Controller &watcher = makeStatusItemForm();
+    const Controller &watcher = makeStatusItemForm();
     watcher.statusItem()->performClick();
     const QRectF frame = watcher.popover()->window()->frame();
     EXPECT_EQ(frame.center().x(), 640);
@@ -141,7 +141,7 @@ TEST_F(StatusItemFormTest, PopoverAndWindowAreNeverShownTogether)
 
 TEST_F(StatusItemFormTest, ASmallDragMakesNoWindow)
 {
-    Controller &watcher = makeStatusItemForm();
+    const Controller &watcher = makeStatusItemForm();
     watcher.statusItem()->performClick();
     Window &window = *watcher.popover()->window();
     window.setFrame(window.frame().translated(200, 0), false, false);

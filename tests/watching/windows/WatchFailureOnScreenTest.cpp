@@ -53,7 +53,7 @@ protected:
         const QString window = open(m_novel, 3);
         return loseWatchedIn(window);
     }
-    QString loseWatchedIn(const QString &window) const
+    [[nodiscard]] QString loseWatchedIn(const QString &window) const
     {
         QFile::remove(m_novel);
         QStringList found;

@@ -154,7 +154,7 @@ TEST_F(WatchWindowOnScreen, AHundredFilesOpenAHundredWindows)
 
 TEST_F(WatchWindowOnScreen, FilesThatWereCopiedInAFileManagerAreWatched)
 {
-    ChildProcess::Outcome outcome = watch({"--clipboard", QFile::encodeName(m_novel)});
+    const ChildProcess::Outcome outcome = watch({"--clipboard", QFile::encodeName(m_novel)});
     EXPECT_EQ(outcome.exitStatus, 2);
     auto copied = std::make_unique<QMimeData>();
     copied->setData(

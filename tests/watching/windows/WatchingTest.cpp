@@ -76,7 +76,7 @@ TEST_F(WatchingTest, AWatcherThatStopsLeavesItsCountToNobody)
 TEST_F(WatchingTest, EverySaveIsCounted)
 {
     serve({"answer 1 0 0 0 0 0 0 0", "answer 2 0 0 0 0 0 0 0", "answer 3 0 0 0 0 0 0 0"});
-    Controller &watcher = watch(m_path);
+    const Controller &watcher = watch(m_path);
     for (int save = 2; save <= 3; ++save) {
         writeFile(QStringLiteral("novel.txt"), QByteArray("word ").repeated(save));
         pass();
@@ -111,7 +111,7 @@ TEST_F(WatchingTest, AWordDocumentIsHandedToTheServiceAsItIs)
     serve({"answer 7 0 0 0 0 0 0 0"});
     const QByteArray bytes("PK no real document");
     const QString path = writeFile(QStringLiteral("novel.docx"), bytes);
-    Controller &watcher = watch(path);
+    const Controller &watcher = watch(path);
     EXPECT_EQ(wordsOf(*watcher.watchTextFileViewControllerForPopover()), QStringLiteral("•Words: 7"));
     EXPECT_TRUE(watcher.watchFileModel()->isPresentedItemDocXFile());
     writeFile(QStringLiteral("novel.docx"), bytes + bytes);
@@ -173,7 +173,7 @@ TEST_F(WatchingTest, AFolderWithASlashAtItsEndIsTheFolder)
 {
     serve({"answer 1 0 0 0 0 0 0 0"});
     const QString text = writeFile(QStringLiteral("novel.rtfd/TXT.rtf"), "{\\rtf1 one}");
-    Controller &watcher = watch(text.chopped(7)); // up to the slash
+    const Controller &watcher = watch(text.chopped(7)); // up to the slash
     EXPECT_EQ(titleOf(*watcher.watchTextFileViewControllerForPopover()), QStringLiteral("novel.rtfd"));
     EXPECT_EQ(watcher.detachableWindowForPopover()->title(), QStringLiteral("novel.rtfd"));
     EXPECT_EQ(watcher.urlBeingWatched(), QUrl::fromLocalFile(text.chopped(8)));
@@ -207,7 +207,7 @@ TEST_F(WatchingTest, AWatcherThatIsGivenAnotherDocumentReadsAndFollowsThatOne)
 {
     serve({"answer 1 0 0 0 0 0 0 0", "answer 2 0 0 0 0 0 0 0"});
     Controller &watcher = watch(m_path);
-    WatchTextFileModel *const model = watcher.watchFileModel();
+    const WatchTextFileModel *const model = watcher.watchFileModel();
     const QString other = writeFile(QStringLiteral("other.txt"), "Two words");
     watcher.watchWithTextFileURL(QUrl::fromLocalFile(other));
     waitForCount(watcher);

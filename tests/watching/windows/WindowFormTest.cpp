@@ -16,7 +16,7 @@ protected:
 
 TEST_F(WindowFormTest, IsAFloatingWindowWithoutATitleBarAndOnePanel)
 {
-    Controller &watcher = makeWindowForm();
+    const Controller &watcher = makeWindowForm();
     const std::shared_ptr<Window> window = watcher.detachableWindowForPopover();
     ASSERT_TRUE(window);
     const auto panel = watcher.watchTextFileViewControllerForPopover();
@@ -92,7 +92,7 @@ TEST_F(WindowFormTest, CloseHidesTheWindowAndGoesOnWatching)
 
 TEST_F(WindowFormTest, StopEndsTheWatcher)
 {
-    Controller &watcher = makeWatching();
+    const Controller &watcher = makeWatching();
     const std::weak_ptr<Window> window = watcher.detachableWindowForPopover();
     watcher.watchTextFileViewControllerForPopover()->stopButton()->performClick();
     EXPECT_EQ(m_registry.finished, 1);
@@ -180,7 +180,7 @@ TEST_F(WindowFormTest, TheStatisticsAreCopiedAsTextAndAsAWebPage)
 
 TEST_F(WindowFormTest, NewTextMetricsFitTheWindowAgain)
 {
-    Controller &watcher = makeWindowForm();
+    const Controller &watcher = makeWindowForm();
     const auto panel = watcher.watchTextFileViewControllerForPopover();
     class WideMeasurer : public TextMeasurer {
     public:

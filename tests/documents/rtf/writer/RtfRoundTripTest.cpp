@@ -19,7 +19,7 @@ public:
         m_contents.push_back(attachment.contents);
         return QString::number(m_contents.size() - 1);
     }
-    std::shared_ptr<const Attachment> attachment(const QString &name) const
+    [[nodiscard]] std::shared_ptr<const Attachment> attachment(const QString &name) const
     {
         bool isNumber = false;
         const qulonglong number = name.toULongLong(&isNumber);

@@ -56,8 +56,8 @@ TEST(RtfWriter, EveryOtherCodeUnitIsASignedNumber)
 
 TEST(RtfWriter, WordsAreWrittenOnlyWhereSomethingChanges)
 {
-    TextAttributes plain = withFont(serif());
-    TextAttributes large = withFont(serif(24));
+    const TextAttributes plain = withFont(serif());
+    const TextAttributes large = withFont(serif(24));
     TextAttributes indented = plain;
     indented.paragraphStyle.headIndent = 20;
     AttributedStringBuilder builder;

@@ -18,12 +18,12 @@ bool isDark(const QPalette &palette)
 /// Adds one of each view that a theme colours.
 Label &fill(const ShownWindow &shown)
 {
-    Label &label = shown.add<Label>("label", {20, 110, 200, 20});
+    auto &label = shown.add<Label>("label", {20, 110, 200, 20});
     label.setStringValue(QStringLiteral("1,234 words"));
     shown.add<Label>("characters", {20, 84.5, 200, 20}).setStringValue(QStringLiteral("5,678 characters"));
     shown.add<Box>("line", {20, 65, 260, 9}).setKind(Box::Kind::Separator);
     shown.add<Button>("button", {20, 20, 90, 28}).setTitle(QStringLiteral("Count"));
-    Button &disabled = shown.add<Button>("disabled", {120, 20, 90, 28});
+    auto &disabled = shown.add<Button>("disabled", {120, 20, 90, 28});
     disabled.setTitle(QStringLiteral("Pause"));
     disabled.setEnabled(false);
     shown.add<ProgressIndicator>("spinner", {250, 20, 28, 28}).startAnimation();
@@ -85,7 +85,7 @@ TEST_F(DesktopAppearanceTest, KeepsADesktopPaletteOfTheWantedScheme)
 {
     const QPalette own = QApplication::palette();
     ASSERT_FALSE(isDark(own));
-    FakePortal portal(2);
+    const FakePortal portal(2);
     const DesktopAppearance appearance(m_bus);
     EXPECT_TRUE(waitUntil([&] { return appearance.colorScheme() == ColorScheme::Light; }));
     EXPECT_EQ(QApplication::palette(), own);

@@ -62,7 +62,7 @@ TEST(PlainText, TheToolTipOfATitleShowsItsMarkup)
 
 TEST(PlainText, AWindowTitleKeepsPlaceholders)
 {
-    ShownWindow shown({100, 200, 300, 150});
+    const ShownWindow shown({100, 200, 300, 150});
     shown.window().setTitle(QStringLiteral("<b>[*]a[*][*].txt"));
     shown.show();
     EXPECT_EQ(shown.widget().windowHandle()->title(), QStringLiteral("<b>[*]a[*][*].txt"));

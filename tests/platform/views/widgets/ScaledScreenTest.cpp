@@ -25,7 +25,8 @@ QRect rectOnDisplay(const QByteArray &window)
     const QString info = QString::fromLatin1(TestDisplay::outputOf(
         QStringLiteral("xwininfo"), {QStringLiteral("-id"), QString::fromLatin1(window)}));
     const auto number = [&info](const char *label) {
-        const qsizetype start = info.indexOf(QString::fromLatin1(label)) + qsizetype(qstrlen(label));
+        const qsizetype start =
+            info.indexOf(QString::fromLatin1(label)) + static_cast<qsizetype>(qstrlen(label));
         return info.mid(start, info.indexOf(u'\n', start) - start).trimmed().toInt();
     };
     return {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"),
@@ -40,9 +41,10 @@ QPair<double, double> lineOnDisplay(const QRect &window, double scale)
     const int x = picture.width() * 19 / 20;
     int first = -1;
     int rows = 0;
-    const int edge = 2 * int(scale); // of the window
+    const int edge = 2 * static_cast<int>(scale); // of the window
     for (int y = edge; y < picture.height() - edge; ++y) {
-        if (picture.pixelColor(x - 2 * int(scale), y) == picture.pixelColor(x - 2 * int(scale), edge))
+        if (picture.pixelColor(x - 2 * static_cast<int>(scale), y)
+            == picture.pixelColor(x - 2 * static_cast<int>(scale), edge))
             continue;
         first = rows++ == 0 ? y : first;
     }

@@ -31,7 +31,7 @@ private:
 TEST(TextMetrics, AFittedLabelShowsItsWholeText)
 {
     const ShownWindow shown({100, 200, 600, 150});
-    Label &label = shown.add<Label>("label", {10.5, 20.5, 1, 1});
+    auto &label = shown.add<Label>("label", {10.5, 20.5, 1, 1});
     shown.show();
     for (const char *text : {"1", "1,234,567 words", "Wörter: 12 \u2013 fi", "语言 words", "W"}) {
         label.setStringValue(QString::fromUtf8(text));
@@ -58,7 +58,7 @@ TEST(TextMetrics, AreWholePointsAndAsHighAsTheFont)
 TEST(TextMetrics, ChangeWithTheFontOfTheUser)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    Label &label = shown.add<Label>("label", {10, 20, 1, 1});
+    auto &label = shown.add<Label>("label", {10, 20, 1, 1});
     label.setStringValue(QStringLiteral("1,234 words"));
     label.sizeToFit();
     shown.show();
@@ -82,7 +82,7 @@ TEST(TextMetrics, ChangeWithTheFontOfTheUser)
 TEST(TextMetrics, LabelsAddedLaterAreMeasuredToo)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    Label &label = shown.add<Label>("label", {10, 20, 0, 0});
+    auto &label = shown.add<Label>("label", {10, 20, 0, 0});
     label.setStringValue(QStringLiteral("12"));
     label.sizeToFit();
     EXPECT_GT(label.frame().width(), 0);

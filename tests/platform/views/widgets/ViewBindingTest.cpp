@@ -45,7 +45,7 @@ void deletePendingObjects()
 QStringList accessibleNames(QWidget &widget)
 {
     QStringList names;
-    QAccessibleInterface *const parent = QAccessible::queryAccessibleInterface(&widget);
+    const QAccessibleInterface *const parent = QAccessible::queryAccessibleInterface(&widget);
     for (int i = 0; i < parent->childCount(); ++i) {
         if (!parent->child(i)->state().invisible)
             names.append(parent->child(i)->text(QAccessible::Name));
@@ -116,7 +116,7 @@ TEST(ViewBinding, FlippedViewsCountFromTheirTop)
 TEST(ViewBinding, LabelsShowTheirTextOnOneLineThatTheMouseCannotSelect)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    Label &label = shown.add<Label>("label", {10, 20, 50, 17});
+    auto &label = shown.add<Label>("label", {10, 20, 50, 17});
     label.setStringValue(QStringLiteral("<b>1</b> & 2"));
     label.setAlignment(LabelAlignment::Right);
     const QLabel &widget = shown.widgetOf<QLabel>(label);
@@ -132,8 +132,8 @@ TEST(ViewBinding, LabelsShowTheirTextOnOneLineThatTheMouseCannotSelect)
 TEST(ViewBinding, HiddenViewsAreInvisible)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    Label &label = shown.add<Label>("label", {10, 20, 50, 17});
-    Label &hidden = shown.add<Label>("hidden", {10, 40, 50, 17});
+    auto &label = shown.add<Label>("label", {10, 20, 50, 17});
+    auto &hidden = shown.add<Label>("hidden", {10, 40, 50, 17});
     hidden.setHidden(true);
     shown.show();
     EXPECT_TRUE(shown.widgetOf(label).isVisible());
@@ -183,13 +183,13 @@ TEST(ViewBinding, ScreenReadersReadTheLabelsInTheirOrder)
     shown.window().setContentView(nullptr);
     shown.window().setContentView(shown.contentShared());
     shown.add<Label>("a", {10, 20, 50, 17}).setStringValue(QStringLiteral("12 words"));
-    Label &named = shown.add<Label>("b", {10, 40, 50, 17});
+    auto &named = shown.add<Label>("b", {10, 40, 50, 17});
     named.setStringValue(QStringLiteral("34"));
     named.setAccessibleName(QStringLiteral("34 characters"));
-    Label &hidden = shown.add<Label>("c", {10, 60, 50, 17});
+    auto &hidden = shown.add<Label>("c", {10, 60, 50, 17});
     hidden.setStringValue(QStringLiteral("hidden"));
     hidden.setHidden(true);
-    Button &button = shown.add<Button>("d", {10, 80, 50, 17});
+    auto &button = shown.add<Button>("d", {10, 80, 50, 17});
     button.setIconName(QStringLiteral("edit-copy"));
     button.setAccessibleName(QStringLiteral("Copy"));
     shown.show();
@@ -246,7 +246,7 @@ TEST(ViewBinding, ViewsDrawInTheirOwnCoordinates)
 TEST(ViewBinding, AClickReachesTheButton)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    Button &button = shown.add<Button>("button", {50, 50, 100, 30});
+    auto &button = shown.add<Button>("button", {50, 50, 100, 30});
     button.setTitle(QStringLiteral("A & B"));
     int clicks = 0;
     QObject::connect(&button, &Button::clicked, &shown.widget(), [&clicks] { ++clicks; });
@@ -263,7 +263,7 @@ TEST(ViewBinding, AClickReachesTheButton)
 TEST(ViewBinding, AButtonShowsItsAccessibleNameIfTheThemeHasNoSuchIcon)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    Button &button = shown.add<Button>("button", {50, 50, 100, 30});
+    auto &button = shown.add<Button>("button", {50, 50, 100, 30});
     button.setIconName(QStringLiteral("no-such-icon"));
     button.setAccessibleName(QStringLiteral("Copy"));
     EXPECT_EQ(shown.widgetOf<QPushButton>(button).text(), QStringLiteral("Copy"));
@@ -276,12 +276,12 @@ TEST(ViewBinding, AButtonShowsItsAccessibleNameIfTheThemeHasNoSuchIcon)
 TEST(ViewBinding, AClickMayRemoveItsOwnButton)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    Button &first = shown.add<Button>("first", {50, 50, 100, 30});
+    auto &first = shown.add<Button>("first", {50, 50, 100, 30});
     shown.show();
     QObject::connect(&first, &Button::clicked, &shown.widget(), [&first] { first.removeFromSuperview(); });
     shown.widgetOf<QPushButton>(first).click();
     EXPECT_TRUE(shown.content().subviews().empty());
-    Button &second = shown.add<Button>("second", {50, 50, 100, 30});
+    const auto &second = shown.add<Button>("second", {50, 50, 100, 30});
     QObject::connect(
         &second, &Button::clicked, &shown.widget(), [&shown] { shown.window().setContentView(nullptr); });
     shown.widgetOf<QPushButton>(second).click();
@@ -291,7 +291,7 @@ TEST(ViewBinding, AClickMayRemoveItsOwnButton)
 TEST(ViewBinding, TheWheelReachesTheScrollView)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    ScrollView &scrollView = shown.add<ScrollView>("scroll", {0, 0, 200, 100});
+    auto &scrollView = shown.add<ScrollView>("scroll", {0, 0, 200, 100});
     const auto document = std::make_shared<View>(QRectF(0, 0, 200, 1000));
     const auto label = std::make_shared<Label>(QRectF(0, 500, 200, 20));
     label->setIdentifier(QStringLiteral("label"));
@@ -334,7 +334,7 @@ TEST(ViewBinding, FadesToTheNewOpacity)
 TEST(ViewBinding, ASpinnerShowsOnlyWhileItTurns)
 {
     const ShownWindow shown({100, 200, 300, 150});
-    ProgressIndicator &indicator = shown.add<ProgressIndicator>("spinner", {20, 20, 32, 32});
+    auto &indicator = shown.add<ProgressIndicator>("spinner", {20, 20, 32, 32});
     shown.show();
     const auto picture = [&] { return shown.widgetOf(indicator).grab().toImage(); };
     const QImage empty = picture();

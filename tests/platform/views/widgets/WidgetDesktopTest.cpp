@@ -111,7 +111,7 @@ TEST_F(WidgetDesktopTest, AlertsShowTheirButtonsInOrder)
     runAlert();
     EXPECT_TRUE(desktop.isAskingUser());
     EXPECT_THAT(pressed, IsEmpty()) << "it does not wait";
-    QMessageBox *const box = waitForDialog<QMessageBox>();
+    const auto *const box = waitForDialog<QMessageBox>();
     EXPECT_EQ(box->text(), QStringLiteral("Failed <b>here</b>."));
     EXPECT_EQ(box->windowHandle()->title(), QStringLiteral("<h1>novel[*].txt"));
     for (const QLabel *const label : box->findChildren<QLabel *>()) {
@@ -166,10 +166,10 @@ TEST_F(WidgetDesktopTest, AnAlertTakesNoFocusAndDemandsAttention)
 TEST_F(WidgetDesktopTest, NoKeyAnswersAnAlertInItsFirstSecond)
 {
     runAlert();
-    QMessageBox &box = *waitForDialog<QMessageBox>();
+    const QMessageBox &box = *waitForDialog<QMessageBox>();
     activate(box);
     int keys = 0;
-    KeyCounter counter(keys);
+    const KeyCounter counter(keys);
     clock.advance(WidgetDesktop::guardedTime - std::chrono::milliseconds(1));
     for (const char *const key : {"Return", "space", "Escape", "Tab", "x"})
         press(key);
@@ -221,7 +221,7 @@ TEST_F(WidgetDesktopTest, AnAnswerMayAskTheNextQuestion)
 TEST_F(WidgetDesktopTest, ErrorsStayUntilTheUserClosesThem)
 {
     desktop.presentError(QStringLiteral("No such program."));
-    QMessageBox *const box = waitForDialog<QMessageBox>();
+    auto *const box = waitForDialog<QMessageBox>();
     EXPECT_EQ(box->text(), QStringLiteral("No such program."));
     EXPECT_EQ(box->icon(), QMessageBox::Critical);
     box->accept();
@@ -252,7 +252,7 @@ TEST_F(WidgetDesktopTest, TheFileChooserReturnsTheChosenFile)
 {
     const QString path = writeFile(QStringLiteral("a text.txt"), "text");
     beginOpenPanel();
-    QFileDialog *const chooser = waitForDialog<QFileDialog>();
+    auto *const chooser = waitForDialog<QFileDialog>();
     EXPECT_TRUE(waitUntil([&] { return chooser->isActiveWindow(); })) << "the user has asked for it";
     EXPECT_EQ(chooser->fileMode(), QFileDialog::ExistingFile);
     EXPECT_NE(chooser->windowModality(), Qt::ApplicationModal);

@@ -42,7 +42,7 @@ int main(int argumentCount, char **arguments)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     for (std::string question; std::getline(std::cin, question);) {
         QCoreApplication::processEvents();
-        std::cout << answer(question, *window, widget).toStdString() << std::endl;
+        std::cout << answer(question, *window, widget).toStdString() << '\n' << std::flush;
     }
     return 0;
 }

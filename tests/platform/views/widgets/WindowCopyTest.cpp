@@ -38,7 +38,7 @@ TEST(WindowCopy, ControlCPutsAllFormsOnTheClipboard)
 
 TEST(WindowCopy, WithoutContentTheClipboardIsUnchanged)
 {
-    ShownWindow shown({100, 200, 300, 150});
+    const ShownWindow shown({100, 200, 300, 150});
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
     shown.widget().copy();
     EXPECT_EQ(clipboard().text(), QStringLiteral("before"));
@@ -69,7 +69,7 @@ TEST(WindowCopy, TheContextMenuOffersToCopy)
 
 TEST(WindowCopy, WithoutAProviderThereIsNoMenu)
 {
-    ShownWindow shown({100, 200, 300, 150});
+    const ShownWindow shown({100, 200, 300, 150});
     QContextMenuEvent event(QContextMenuEvent::Mouse, {10, 10}, {110, 110});
     QCoreApplication::sendEvent(&shown.widget(), &event);
     EXPECT_EQ(shown.widget().findChild<QMenu *>(), nullptr);

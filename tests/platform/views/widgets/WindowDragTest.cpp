@@ -17,7 +17,7 @@ void drag(const ShownWindow &shown, double x, double y)
         steps += {QStringLiteral("mousemove_relative"), QStringLiteral("--"), QStringLiteral("10"),
             i % 3 == 0 ? QStringLiteral("-10") : QStringLiteral("0"), QStringLiteral("sleep"),
             QStringLiteral("0.02")};
-        TestDisplay::xdotool(steps.mid(i * 6));
+        TestDisplay::xdotool(steps.mid(qsizetype{i} * 6));
         QCoreApplication::processEvents();
     }
     TestDisplay::xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});

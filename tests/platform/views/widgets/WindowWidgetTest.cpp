@@ -40,7 +40,7 @@ QByteArray propertyOf(const ShownWindow &shown, const char *name)
 TEST(WindowWidget, PutsTheContentAtTheFrame)
 {
     for (const unsigned style : {0U, Window::titled, Window::titled | Window::resizable}) {
-        ShownWindow shown({100, 200, 300, 150}, style);
+        const ShownWindow shown({100, 200, 300, 150}, style);
         shown.show();
         EXPECT_EQ(shown.frameOnDisplay(), QRectF(100, 200, 300, 150)) << style;
         EXPECT_EQ(shown.window().frame(), QRectF(100, 200, 300, 150)) << style;
@@ -169,7 +169,7 @@ TEST(WindowWidget, OnlyAKeyWindowTakesTheFocus)
 
 TEST(WindowWidget, ShowsAndHidesWithTheWindow)
 {
-    ShownWindow shown({100, 200, 300, 150});
+    const ShownWindow shown({100, 200, 300, 150});
     EXPECT_FALSE(shown.widget().isVisible());
     shown.show();
     EXPECT_TRUE(shown.widget().isVisible());
@@ -206,7 +206,7 @@ TEST(WindowWidget, ACloseRequestGoesToTheWindow)
 
 TEST(WindowWidget, HasTheTitleOfTheWindow)
 {
-    ShownWindow shown({100, 200, 300, 150}, Window::titled);
+    const ShownWindow shown({100, 200, 300, 150}, Window::titled);
     shown.window().setTitle(QStringLiteral("Statistics"));
     EXPECT_EQ(shown.widget().windowTitle(), QStringLiteral("Statistics"));
 }
