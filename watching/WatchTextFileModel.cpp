@@ -32,6 +32,7 @@ WatchTextFileModel::WatchTextFileModel(const QUrl &textFileURLToWatch, WatchText
     , m_isPresentedItemDocXFile(QBYExtension::doesConformToDocXFileUTI(textFileURLToWatch))
     , m_presentedItemURL(textFileURLToWatch)
     , m_delegate(delegate)
+    , m_content(clock)
 {
     connect(&m_applicationActivity, &ApplicationActivity::willResignActive, this,
         &WatchTextFileModel::applicationWillResignActiveNotification);
@@ -63,6 +64,12 @@ void WatchTextFileModel::openAccess()
     m_bookmarkData = bookmarkData.value();
 }
 
+void WatchTextFileModel::setDelegate(WatchTextFileModelDelegate *delegate)
+{
+    m_delegate = delegate;
+    m_content.forget();
+}
+
 QThread *WatchTextFileModel::presentedItemOperationQueue() const
 {
     return QCoreApplication::instance()->thread();
@@ -83,7 +90,7 @@ void WatchTextFileModel::stopWatchingTextFile()
     m_timer.reset();
     if (const auto reading = m_reading.lock())
         reading->cancel();
-    m_loader = std::make_shared<RepeatedLoader>(); // the old one may be reading
+    m_content.forget();
     m_isWatchingTextFile = false;
 }
 
@@ -127,39 +134,45 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
         failToLoad();
         return;
     }
-    const std::optional<Result<AttributedString, DocumentError>> loaded = load(url);
+    const WatchedContent::Look look = m_content.look(pathOfFileURL(url));
+    if (m_content.isUnchanged(look))
+        return;
+    const std::optional<Result<ChangedDocument, DocumentError>> loaded = load(url, m_content.knownHash(look));
     if (!loaded)
         return;
-    const Result<AttributedString, DocumentError> &text = *loaded;
-    if (!text && ((m_coordinator && m_coordinator->willRetry()) || isHalfWrittenPdf(text.error())))
+    const Result<ChangedDocument, DocumentError> &document = *loaded;
+    if (!document && ((m_coordinator && m_coordinator->willRetry()) || isHalfWrittenPdf(document.error())))
         return;
-    if (!text) {
+    if (!document) {
         watchLog().error(u"failed to load attributed string for file at {}. Error {}",
-            {publicly(m_presentedItemURL.toString()), publicly(causeText(text.error()))});
+            {publicly(m_presentedItemURL.toString()), publicly(causeText(document.error()))});
         failToLoad();
         return;
     }
-    if (WatchTextFileModelDelegate *const receiver = delegate())
-        receiver->currentlyWatchedTextFileDidUpdateWithAttributedString(text.value(), *this);
+    const std::optional<AttributedString> text = m_content.update(look, document.value());
+    if (WatchTextFileModelDelegate *const receiver = text ? delegate() : nullptr)
+        receiver->currentlyWatchedTextFileDidUpdateWithAttributedString(*text, *this);
 }
 
-std::optional<Result<AttributedString, DocumentError>> WatchTextFileModel::load(const QUrl &url)
+std::optional<Result<ChangedDocument, DocumentError>> WatchTextFileModel::load(
+    const QUrl &url, const std::optional<ContentHash> &known)
 {
-    using Text = Result<AttributedString, DocumentError>;
-    const auto reading = std::make_shared<BackgroundWork<Text>>(QStringLiteral("watched file"),
-        [loader = m_loader, path = pathOfFileURL(url)](
-            const std::stop_token &stop) { return loader->load(path, stop); });
+    using Document = Result<ChangedDocument, DocumentError>;
+    const auto reading = std::make_shared<BackgroundWork<Document>>(
+        QStringLiteral("watched file"), [path = pathOfFileURL(url), known](const std::stop_token &stop) {
+            return loadIfChanged(path, known, stop);
+        });
     m_reading = reading;
     const QPointer<WatchTextFileModel> self(this);
     const bool wasWatching = m_isWatchingTextFile;
     const QUrl document = m_presentedItemURL;
     const quint64 documents = m_documents;
-    const Text *const text = reading->resultWhileEventsRun();
-    if (!text || !self || documents != m_documents || wasWatching != m_isWatchingTextFile)
+    const Document *const loaded = reading->resultWhileEventsRun();
+    if (!loaded || !self || documents != m_documents || wasWatching != m_isWatchingTextFile)
         return std::nullopt;
-    if (!*text && document != m_presentedItemURL)
+    if (!*loaded && document != m_presentedItemURL)
         return std::nullopt; // it was moved before it was read
-    return *text;
+    return *loaded;
 }
 
 void WatchTextFileModel::_reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl &url)

@@ -4,12 +4,12 @@
 // Thread: main.  Owner: the watch controller, which is its delegate; refers to it weakly.
 #pragma once
 
-#include "documents/loading/RepeatedLoader.h"
 #include "platform/file_coordination/FileCoordinator.h"
 #include "platform/file_coordination/SecurityScopedBookmark.h"
 #include "platform/system/BackgroundWork.h"
 #include "platform/views/ApplicationActivity.h"
 #include "watching/WatchTextFileModelDelegate.h"
+#include "watching/WatchedContent.h"
 
 #include <QObject>
 
@@ -19,8 +19,8 @@
 class QThread;
 
 /// Reads when the file coordination reports a change, on forceRead(), and every two seconds while the
-/// application is not active. Of a Word document it only checks the existence, and never polls it. Logs to
-/// QBYLogger::watchFileModelLog().
+/// application is not active, unless the content was counted and nothing has changed since. Of a Word
+/// document it only checks the existence, and never polls it. Logs to QBYLogger::watchFileModelLog().
 class WatchTextFileModel : public QObject, public FilePresenter {
     Q_OBJECT
 
@@ -39,7 +39,8 @@ public:
     /// The thread that receives presenter messages: always the main thread.
     [[nodiscard]] QThread *presentedItemOperationQueue() const;
     [[nodiscard]] WatchTextFileModelDelegate *delegate() const { return m_delegate.get(); }
-    void setDelegate(WatchTextFileModelDelegate *delegate) { m_delegate = delegate; }
+    /// The new delegate has counted nothing.
+    void setDelegate(WatchTextFileModelDelegate *delegate);
     [[nodiscard]] bool isWatchingTextFile() const { return m_isWatchingTextFile; }
     void setIsWatchingTextFile(bool isWatchingTextFile) { m_isWatchingTextFile = isWatchingTextFile; }
     [[nodiscard]] bool isPresentedItemDocXFile() const { return m_isPresentedItemDocXFile; }
@@ -57,6 +58,13 @@ public:
     /// while that takes long. Does nothing if the model does not watch or another process has been granted
     /// the document. sender: ignored.
     void forceRead(QObject *sender);
+
+    /// The number of the content that the delegate was given last.
+    [[nodiscard]] quint64 contentNumber() const { return m_content.number(); }
+    /// From the delegate: the counts of this content are on the screen. The delegate gets it again at every
+    /// read until then, because a count may be dropped, and afterwards once the document or a preference has
+    /// changed.
+    void contentWasCounted(quint64 contentNumber) { m_content.setCounted(contentNumber); }
 
     void applicationWillResignActiveNotification();
     void applicationDidBecomeActive();
@@ -77,7 +85,8 @@ private:
     void _reloadAttributedStringAndTellDelegateAtPresentedURL(const QUrl &url);
     void _reloadDocXInfoAndTellDelegateAtPresentedURL(const QUrl &url);
     /// Absent if the model is destroyed, stops watching or turns to another document meanwhile.
-    [[nodiscard]] std::optional<Result<AttributedString, DocumentError>> load(const QUrl &url);
+    [[nodiscard]] std::optional<Result<ChangedDocument, DocumentError>> load(
+        const QUrl &url, const std::optional<ContentHash> &known);
     void failToLoad();
 
     ApplicationActivity &m_applicationActivity;
@@ -92,8 +101,7 @@ private:
     QUrl m_presentedItemURL;
     WeakDelegate<WatchTextFileModelDelegate> m_delegate;
     quint64 m_documents = 0; // that were given up so far
-    /// Most polls find the document unchanged. Shared with the thread that reads.
-    std::shared_ptr<RepeatedLoader> m_loader = std::make_shared<RepeatedLoader>();
+    WatchedContent m_content;
     /// While load() waits; stopping cancels it.
-    std::weak_ptr<BackgroundWork<Result<AttributedString, DocumentError>>> m_reading;
+    std::weak_ptr<BackgroundWork<Result<ChangedDocument, DocumentError>>> m_reading;
 };

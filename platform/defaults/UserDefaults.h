@@ -32,6 +32,9 @@ public:
     UserDefaults(const UserDefaults &) = delete;
     UserDefaults &operator=(const UserDefaults &) = delete;
 
+    /// Of the database, which may not exist. Bytes in any encoding.
+    [[nodiscard]] const QByteArray &path() const { return m_database.path(); }
+
     /// The value as it was written; absent if the key was never written or is too long. A fault if the suite
     /// cannot be read: the key may have a value.
     [[nodiscard]] Result<std::optional<DefaultsValue>, SuiteFault> readObjectForKey(const QString &key) const;

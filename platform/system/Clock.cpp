@@ -37,6 +37,10 @@ public:
     {
         return std::chrono::duration_cast<Time>(std::chrono::steady_clock::now().time_since_epoch());
     }
+    [[nodiscard]] std::chrono::nanoseconds timeOfDay() const override
+    {
+        return std::chrono::system_clock::now().time_since_epoch();
+    }
     [[nodiscard]] std::unique_ptr<ClockTimer> makeTimer(std::function<void()> whenDue) override
     {
         return std::make_unique<EventLoopTimer>(std::move(whenDue));

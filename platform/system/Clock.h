@@ -33,6 +33,8 @@ public:
     virtual ~Clock() = default;
 
     [[nodiscard]] virtual Time now() const = 0;
+    /// The time of day, since 1970, as files are stamped with it; may jump.
+    [[nodiscard]] virtual std::chrono::nanoseconds timeOfDay() const = 0;
     [[nodiscard]] virtual std::unique_ptr<ClockTimer> makeTimer(std::function<void()> whenDue) = 0;
     /// Waits, and runs the event loop of the main thread meanwhile, so anything may have changed when it
     /// returns.

@@ -10,6 +10,8 @@
 #include "speech/ApplicationExtension.h"
 #include "watching/FileTypes.h"
 
+#include <QPointer>
+
 #include <utility>
 
 namespace {
@@ -84,10 +86,15 @@ void WatchTextFileMenuBarController::countFirst(const Text &text)
             u"Error loading attributed string {}", {publicly(causeText(text.error()))});
 }
 
-void WatchTextFileMenuBarController::count(const AttributedString &attributedString)
+void WatchTextFileMenuBarController::count(
+    const AttributedString &attributedString, const std::function<void()> &whenCounted)
 {
     m_watchTextFileViewControllerForPopover->wordCounterViewController()
-        ->asyncUpdateStatsWithAttributedString(attributedString, makeCompletion());
+        ->asyncUpdateStatsWithAttributedString(
+            attributedString, [completion = makeCompletion(), whenCounted] {
+                completion();
+                whenCounted();
+            });
 }
 
 void WatchTextFileMenuBarController::countDocX(const QUrl &url)
@@ -137,11 +144,14 @@ void WatchTextFileMenuBarController::sayWordCountIfPreferred(quint64 wordCount)
 }
 
 void WatchTextFileMenuBarController::currentlyWatchedTextFileDidUpdateWithAttributedString(
-    const AttributedString &attributedString, WatchTextFileModel & /*watchModel*/)
+    const AttributedString &attributedString, WatchTextFileModel &watchModel)
 {
     m_firstReading.reset();
     m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(false);
-    count(attributedString);
+    count(attributedString, [model = QPointer(&watchModel), number = watchModel.contentNumber()] {
+        if (model)
+            model->contentWasCounted(number);
+    });
 }
 
 void WatchTextFileMenuBarController::currentlyWatchedDocXFileDidUpdateWithDocxData(

@@ -114,7 +114,9 @@ private:
 
     void readAndCount(const QUrl &url);
     void countFirst(const Text &text);
-    void count(const AttributedString &attributedString);
+    /// whenCounted: called when the counts are on the screen.
+    void count(
+        const AttributedString &attributedString, const std::function<void()> &whenCounted = [] {});
     void countDocX(const QUrl &url);
     [[nodiscard]] WordCounterViewController::Completion makeCompletion();
     void countDidComplete();

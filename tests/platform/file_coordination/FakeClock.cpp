@@ -28,6 +28,11 @@ private:
     std::shared_ptr<Timer> m_timer;
 };
 
+std::chrono::nanoseconds FakeClock::timeOfDay() const
+{
+    return std::chrono::system_clock::now().time_since_epoch() + (m_now - start);
+}
+
 std::unique_ptr<ClockTimer> FakeClock::makeTimer(std::function<void()> whenDue)
 {
     const auto timer = std::make_shared<Timer>();

@@ -11,6 +11,8 @@
 class FakeClock final : public Clock {
 public:
     [[nodiscard]] Time now() const override { return m_now; }
+    /// The real time of day, later by what the clock was advanced: files get real times.
+    [[nodiscard]] std::chrono::nanoseconds timeOfDay() const override;
     [[nodiscard]] std::unique_ptr<ClockTimer> makeTimer(std::function<void()> whenDue) override;
     /// Advances the clock, and runs the event loop of the main thread.
     void pause(std::chrono::milliseconds duration) override;
@@ -33,7 +35,9 @@ private:
 
     [[nodiscard]] std::shared_ptr<Timer> nextDue(Time until) const;
 
-    Time m_now{1'000'000};
+    static constexpr Time start{1'000'000};
+
+    Time m_now = start;
     Time m_paused{};
     std::list<std::weak_ptr<Timer>> m_timers;
 };
