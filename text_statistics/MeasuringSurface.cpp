@@ -60,12 +60,17 @@ void MeasuringSurface::setPage(const PageRules &page)
     m_preview.setPreviewContentFrameSize(page.paperSize, page.leftMargin, page.rightMargin);
 }
 
+double MeasuringSurface::columnWidthOn(const PageRules &page)
+{
+    setPage(page);
+    return m_preview.previewTextView()->textContainer().width();
+}
+
 quint64 MeasuringSurface::numberOfLines(
     const AttributedString &text, const PageRules &page, const LayoutEngine::Progress &progress)
 {
-    setPage(page);
-    TextView &textView = *m_preview.previewTextView();
-    textView.textStorage().setAttributedString(text);
+    const double columnWidth = columnWidthOn(page);
+    m_preview.previewTextView()->textStorage().setAttributedString(text);
     // Counted by the engine, as the layout manager would store every line.
-    return m_engine->countLines(text, textView.textContainer().width(), progress);
+    return m_engine->countLines(text, columnWidth, progress);
 }

@@ -35,6 +35,10 @@ public:
     quint64 numberOfLines(
         const AttributedString &text, const PageRules &page, const LayoutEngine::Progress &progress = {});
 
+    /// The width of the column on this page, in points, as numberOfLines() uses it; it is then that of the
+    /// previous call for the next one.
+    double columnWidthOn(const PageRules &page);
+
     [[nodiscard]] Window &window() { return m_window; }
     [[nodiscard]] PageSizeForMeasuringPreviewViewController &preview() { return m_preview; }
     [[nodiscard]] LayoutEngine &engine() { return *m_engine; }

@@ -44,9 +44,29 @@ void WordCounterModel::countAttributedString()
 {
     const AttributedString text = m_attributedStringToCount.value_or(AttributedString());
     const CountingRules rules = m_rules();
+    if (m_memory) {
+        m_stats = countNewParagraphs(text, rules);
+        return;
+    }
     const quint64 lines = MeasuringSurface::shared().numberOfLines(text, rules.page, halfOfProgress(0));
     m_stats = m_counter.count(text.string(), rules.text, halfOfProgress(text.length()));
     m_stats.numberOfLines = lines;
+}
+
+QBYWordCounterStats WordCounterModel::countNewParagraphs(
+    const AttributedString &text, const CountingRules &rules)
+{
+    MeasuringSurface &surface = MeasuringSurface::shared();
+    const double columnWidth = surface.columnWidthOn(rules.page);
+    const auto countPiece = [&](qsizetype start, qsizetype end) {
+        const QStringView piece = QStringView(text.string()).sliced(start, end - start);
+        QBYWordCounterStats counts = m_counter.count(piece, rules.text);
+        counts.numberOfLines = surface.engine().countLines(text, columnWidth, start, end);
+        if (m_progress)
+            m_progress(end);
+        return counts;
+    };
+    return m_memory->count(text, rules.text, columnWidth, countPiece);
 }
 
 // Layout and counting are two passes over the text; each reports half of the progress.

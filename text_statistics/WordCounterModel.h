@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/styled_text/AttributedString.h"
+#include "text_statistics/ParagraphMemory.h"
 #include "text_statistics/QBYDocxMetaData.h"
 #include "text_statistics/QBYWordCounterStats.h"
 #include "text_statistics/TextCounter.h"
@@ -64,6 +65,10 @@ public:
     /// progress: called while styled text is counted, with a position in UTF-16 code units up to the text's
     /// length.
     void setProgress(TextCounter::Progress progress) { m_progress = std::move(progress); }
+
+    /// From now on the counts of paragraphs are remembered: a text that is counted again after an edit costs
+    /// what has changed.
+    void rememberParagraphs() { m_memory.emplace(); }
 
     // The counts. The setters only store.
     [[nodiscard]] quint64 numberOfWords() const { return m_stats.numberOfWords; }
@@ -141,6 +146,8 @@ public:
 
 private:
     void countAttributedString();
+    [[nodiscard]] QBYWordCounterStats countNewParagraphs(
+        const AttributedString &text, const CountingRules &rules);
     void copyDocXMetaData();
     [[nodiscard]] TextCounter::Progress halfOfProgress(qsizetype done) const;
     void store(Statistic statistic, const QString &text)
@@ -150,6 +157,7 @@ private:
 
     std::function<CountingRules()> m_rules;
     TextCounter m_counter;
+    std::optional<ParagraphMemory> m_memory;
     TextCounter::Progress m_progress;
     std::optional<AttributedString> m_attributedStringToCount;
     std::optional<QBYDocxMetaData> m_docXMetaDataToFormat;

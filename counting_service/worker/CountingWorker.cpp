@@ -38,6 +38,7 @@ CountingWorker::CountingWorker()
     : m_rules(rulesFrom(RulesSnapshot()))
     , m_model([this] { return m_rules; })
 {
+    m_model.rememberParagraphs();
 }
 
 int CountingWorker::run(const SandboxReport &sandbox)
@@ -86,13 +87,6 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
     const SealedMemory::MemoryResult memory = SealedMemory::receive(descriptor, request.length);
     if (!memory)
         return CountFailure(CountFailure::Cause::NotReceived);
-    // Something that is no document is refused without reading all of it.
-    QByteArray name;
-    if (m_memory.mayRemember(request)) {
-        name = CountMemory::nameOf(request, memory.value().bytes());
-        if (const std::optional<QBYWordCounterStats> known = m_memory.countsOf(name))
-            return *known;
-    }
     const Result<AttributedString, DocumentError> text =
         readDocument(request.kind, memory.value().bytes(), {.charset = request.charset});
     if (!text)
@@ -104,6 +98,5 @@ Result<QBYWordCounterStats, CountFailure> CountingWorker::count(const WorkerRequ
     const QBYWordCounterStats stats = m_model.statsRepresentation();
     // The text of one document must not stay in memory while the next is read.
     m_model.setAttributedStringToCount(std::nullopt);
-    m_memory.remember(name.isEmpty() ? CountMemory::nameOf(request, memory.value().bytes()) : name, stats);
     return stats;
 }

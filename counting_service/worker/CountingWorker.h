@@ -5,7 +5,6 @@
 #pragma once
 
 #include "counting_service/protocol/WorkerMessages.h"
-#include "counting_service/worker/CountMemory.h"
 #include "platform/sandbox/Sandbox.h"
 #include "text_statistics/WordCounterModel.h"
 
@@ -33,6 +32,5 @@ private:
 
     CountingRules m_rules;
     WordCounterModel m_model;
-    CountMemory m_memory;
     bool m_isConfined = false;
 };
