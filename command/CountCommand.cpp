@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
-// "quillbay count": counts files one after the other, and prints the counts. A file that cannot be counted is
-// reported on standard error; the others are still counted.
+// "quillbay count": counts files, many of them on all processors, and prints the counts in their order. A
+// file that cannot be counted is reported on standard error; the others are still counted.
 #include "command/CommandWords.h"
 #include "command/Commands.h"
 #include "command/CountArguments.h"
 #include "command/CountReport.h"
 #include "command/FileNames.h"
 #include "command/NamedDocument.h"
+#include "command/ParallelCount.h"
 #include "command/ProgressLine.h"
 #include "command/ServiceCounter.h"
 #include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "platform/files/FileContents.h"
 #include "platform/system/OwnedDescriptor.h"
+#include "platform/system/Processors.h"
 #include "platform/system/Result.h"
 #include "platform/system/SystemError.h"
 #include "preferences/QBYUserDefaultsController.h"
+#include "text_statistics/ColumnCounter.h"
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/WordCounterModel.h"
 
@@ -23,22 +26,40 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <mutex>
 #include <new>
 #include <utility>
 
 namespace {
 
+/// 0 for anything but a regular file.
+qint64 sizeOf(const QByteArray &name)
+{
+    struct stat status { };
+    return ::stat(name.constData(), &status) == 0 && S_ISREG(status.st_mode) ? status.st_size : 0;
+}
+
 qint64 sizeOfAll(const QByteArrayList &names)
 {
     qint64 sum = 0;
-    for (const QByteArray &name : names) {
-        struct stat status { };
-        if (::stat(name.constData(), &status) == 0 && S_ISREG(status.st_mode))
-            sum += status.st_size;
-    }
+    for (const QByteArray &name : names)
+        sum += sizeOf(name);
     return sum;
+}
+
+/// Each thread lists and loads fonts of its own, which takes as long as counting this much.
+int threadsFor(const QByteArrayList &names, qint64 size)
+{
+    constexpr qint64 sizePerThread = 256 * 1024; // bytes
+    constexpr qint64 filesPerThread = 32;
+    if (names.contains(standardInputName))
+        return 1; // all of its names stand for one input
+    const qint64 worthwhile = std::max(size / sizePerThread, names.size() / filesPerThread);
+    return static_cast<int>(std::clamp<qint64>(
+        worthwhile, 1, std::min<qint64>(availableProcessors(), std::max<qsizetype>(names.size(), 1))));
 }
 
 // Unlike a document, a list may be a pipe: shells pass one for "--files-from <(find …)".
@@ -52,6 +73,8 @@ Result<QByteArray, FileError> readList(const QByteArray &name)
     const OwnedDescriptor pipe(::open(name.constData(), O_RDONLY | O_CLOEXEC));
     return pipe ? readDescriptor(pipe.get()) : list;
 }
+
+constexpr qint64 minLargeSize = qint64{16} * 1024 * 1024; // bytes
 
 class CountCommand {
 public:
@@ -68,6 +91,12 @@ private:
     void countAll(const QByteArrayList &names);
     void explainRules(const QByteArrayList &names);
     std::optional<QBYWordCounterStats> count(const QByteArray &name, ProgressLine &progress);
+    std::optional<QBYWordCounterStats> take(
+        const QByteArray &name, const Result<QBYWordCounterStats, QString> &stats, ProgressLine &progress);
+    std::unique_ptr<ParallelCount> countInParallel(const QByteArrayList &names, int threads);
+    /// On any thread.
+    Result<QBYWordCounterStats, QString> countOnThread(
+        const QByteArray &name, ColumnCounter &counter, ParallelCount::Position &position) const;
     Result<QBYWordCounterStats, QString> countHere(const QByteArray &name, ProgressLine &progress);
     Result<QBYWordCounterStats, QString> countInService(const QByteArray &name, ProgressLine &progress);
     Result<QBYWordCounterStats, QString> countTextInService(
@@ -76,14 +105,21 @@ private:
     static void print(const QByteArray &text);
 
     const CountArguments m_arguments;
-    WordCounterModel m_model;
+    CountingRules m_rules; ///< of all files of the run
+    WordCounterModel m_model{[this] { return m_rules; }};
     std::optional<ServiceCounter> m_service; ///< created when first needed
+    std::mutex m_largeDocument;
     bool m_hasFailed = false;
 };
 
 int CountCommand::run()
 {
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    // The service has its own, unless they are to be explained.
+    if (!m_arguments.wantsService || m_arguments.wantsRules)
+        m_rules = currentCountingRules();
+    if (m_rules.text.localeIdentifier)
+        m_rules.text.localeIdentifier = [identifier = m_rules.text.localeIdentifier()] { return identifier; };
     const QByteArrayList names = inputNames();
     if (m_arguments.wantsRules)
         explainRules(names);
@@ -96,13 +132,17 @@ int CountCommand::run()
 
 void CountCommand::countAll(const QByteArrayList &names)
 {
-    const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.format, sizeOfAll(names));
+    const qint64 size = sizeOfAll(names);
+    const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.format, size);
+    const int threads = m_arguments.wantsService ? 1 : threadsFor(names, size);
+    const std::unique_ptr<ParallelCount> parallel = threads > 1 ? countInParallel(names, threads) : nullptr;
     QBYWordCounterStats total;
     bool hasRows = false;
     ProgressLine progress(names.size());
     for (qsizetype i = 0; i < names.size(); ++i) {
         progress.startReading(names[i], i);
-        const std::optional<QBYWordCounterStats> stats = count(names[i], progress);
+        const std::optional<QBYWordCounterStats> stats =
+            parallel ? take(names[i], parallel->next(progress), progress) : count(names[i], progress);
         if (!stats)
             continue;
         if (!std::exchange(hasRows, true))
@@ -126,7 +166,7 @@ void CountCommand::explainRules(const QByteArrayList &names)
     if (names.isEmpty())
         m_model.setAttributedStringToCount(AttributedString(QStringLiteral("a")));
     progress.hide();
-    print(explanationOfRules(currentCountingRules(), MeasuringSurface::shared().engine().fontFilesInUse()));
+    print(explanationOfRules(m_rules, MeasuringSurface::shared().engine().fontFilesInUse()));
 }
 
 QByteArrayList CountCommand::inputNames()
@@ -150,11 +190,47 @@ std::optional<QBYWordCounterStats> CountCommand::count(const QByteArray &name, P
         stats = m_arguments.wantsService ? countInService(name, progress) : countHere(name, progress);
     } catch (const std::bad_alloc &) {
     }
+    return take(name, stats, progress);
+}
+
+std::optional<QBYWordCounterStats> CountCommand::take(
+    const QByteArray &name, const Result<QBYWordCounterStats, QString> &stats, ProgressLine &progress)
+{
     progress.hide();
     if (stats)
         return stats.value();
     fail(name, stats.error());
     return std::nullopt;
+}
+
+std::unique_ptr<ParallelCount> CountCommand::countInParallel(const QByteArrayList &names, int threads)
+{
+    const double columnWidth = MeasuringSurface::shared().columnWidthOn(m_rules.page);
+    const auto makeCounter = [this, columnWidth]() -> ParallelCount::CountFile {
+        const auto counter = std::make_shared<ColumnCounter>(m_rules.text, columnWidth);
+        return [this, counter](const QByteArray &name, ParallelCount::Position &position) {
+            // At most one large document is in memory.
+            std::unique_lock large(m_largeDocument, std::defer_lock);
+            if (sizeOf(name) > minLargeSize)
+                large.lock();
+            return countOnThread(name, *counter, position);
+        };
+    };
+    return std::make_unique<ParallelCount>(names, threads, makeCounter);
+}
+
+Result<QBYWordCounterStats, QString> CountCommand::countOnThread(
+    const QByteArray &name, ColumnCounter &counter, ParallelCount::Position &position) const
+{
+    try {
+        const Result<AttributedString, DocumentError> text = loadNamedDocument(name, m_arguments.readAs);
+        if (!text)
+            return causeText(text.error());
+        position.length = text.value().length();
+        return counter.count(text.value(), [&position](qsizetype at) { position.position = at; });
+    } catch (const std::bad_alloc &) {
+        return causeText(FileError{FileError::Cause::NotEnoughMemory});
+    }
 }
 
 Result<QBYWordCounterStats, QString> CountCommand::countHere(const QByteArray &name, ProgressLine &progress)

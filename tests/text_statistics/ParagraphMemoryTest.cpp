@@ -2,6 +2,8 @@
 #include "text_statistics/ParagraphMemory.h"
 
 #include "tests/harness/QuillbayTest.h"
+#include "text_statistics/ColumnCounter.h"
+#include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/WordCounterModel.h"
 
 namespace {
@@ -135,17 +137,19 @@ TEST_F(ParagraphMemoryTest, ManyStylesAreForgotten)
     EXPECT_EQ(countedOf(first), first.length());
 }
 
-TEST_F(ParagraphMemoryTest, TheModelCountsTheSameWithAndWithoutIt)
+TEST_F(ParagraphMemoryTest, TheModelWithItAndAThreadsCounterCountTheSame)
 {
     WordCounterModel plain;
     WordCounterModel remembering;
     remembering.rememberParagraphs();
+    ColumnCounter column(currentTextRules(), MeasuringSurface::shared().columnWidthOn(currentPageRules()));
     QString text = lines(700) + QStringLiteral("\r\n\tA paragraph.\u2029\n\n") + lines(30);
     for (int edit = 0; edit < 20; ++edit) {
         const AttributedString edited = styled(text, 11 + edit % 2);
         plain.setAttributedStringToCount(edited);
         remembering.setAttributedStringToCount(edited);
         EXPECT_EQ(remembering.statsRepresentation(), plain.statsRepresentation()) << edit;
+        EXPECT_EQ(column.count(edited), plain.statsRepresentation()) << edit;
         const qsizetype at = text.size() * edit / 20;
         text = edit % 2 == 0 ? text.left(at) + QStringLiteral("Word. \r\nAnd") + text.sliced(at)
                              : text.left(at) + text.sliced(at + text.size() / 50);
