@@ -34,10 +34,20 @@ AttributedString RtfInterpreter::readText(RtfTokenizer tokens)
         if (token.kind == RtfToken::Kind::End)
             break;
         handle(token);
+        if (token.kind == RtfToken::Kind::Text)
+            readPlainRun(tokens);
     } while (depth() > 0);
     finishBytes();
     m_body.append(m_asides);
     return m_body.takeText();
+}
+
+void RtfInterpreter::readPlainRun(RtfTokenizer &tokens)
+{
+    constexpr qsizetype maxLength = 65'536; // the flow passes pieces of this length on
+    if (isText() && m_fallback == 0 && !m_decoder.hasPendingBytes()
+        && page()->kind == RtfCodePage::Kind::Encoding)
+        tokens.appendPlainRun(flow().bufferFor(m_state.format), maxLength);
 }
 
 void RtfInterpreter::handle(const RtfToken &token)

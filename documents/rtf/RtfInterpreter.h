@@ -45,6 +45,8 @@ private:
     };
 
     void handle(const RtfToken &token);
+    /// Behind a text, which ends the special meaning of what comes at the start of a group.
+    void readPlainRun(RtfTokenizer &tokens);
     void beginGroup();
     void endGroup();
     void leaveDestination(const State &left);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace {
 
@@ -15,6 +16,31 @@ constexpr std::array<bool, 256> makeTextEndTable()
 }
 
 constexpr std::array<bool, 256> endsText = makeTextEndTable();
+
+bool isPlain(char byte)
+{
+    return static_cast<uchar>(byte) < 0x80 && !endsText[static_cast<uchar>(byte)];
+}
+
+constexpr qsizetype blockLength = 16; // bytes
+
+/// Writes the code units of a block if all of it is plain.
+bool widenBlock(const char *from, char16_t *to)
+{
+    using Bytes = uchar __attribute__((vector_size(blockLength)));
+    using Units = char16_t __attribute__((vector_size(2 * blockLength)));
+    Bytes bytes;
+    std::memcpy(&bytes, from, sizeof bytes);
+    const auto others = (bytes >= 0x80) | (bytes == '\\') | (bytes == '{') | (bytes == '}') | (bytes == '\r')
+        | (bytes == '\n') | (bytes == '\0');
+    std::array<quint64, 2> bits;
+    std::memcpy(bits.data(), &others, sizeof bits);
+    if ((bits[0] | bits[1]) != 0)
+        return false;
+    const Units units = __builtin_convertvector(bytes, Units);
+    std::memcpy(to, &units, sizeof units);
+    return true;
+}
 
 bool isLetter(char byte)
 {
@@ -39,6 +65,44 @@ std::optional<int> hexadecimalValue(char digit)
 }
 
 } // namespace
+
+bool RtfTokenizer::skipWord(QByteArrayView word)
+{
+    if (m_end - m_at <= word.size() || !QByteArrayView(m_at, m_end).startsWith(word))
+        return false;
+    const char *const behind = m_at + word.size();
+    if (isLetter(*behind) || isDigit(*behind) || *behind == '-')
+        return false;
+    m_at = *behind == ' ' ? behind + 1 : behind;
+    return true;
+}
+
+void RtfTokenizer::appendPlainRun(QString &text, qsizetype maxLength)
+{
+    const qsizetype start = text.size();
+    const qsizetype room =
+        std::min<qsizetype>(m_end - m_at, maxLength); // no code unit takes less than a byte
+    text.resize(start + room);
+    auto *to = reinterpret_cast<char16_t *>(text.data()) + start;
+    const char16_t *const end = to + room;
+    while (to != end && m_at != m_end) {
+        if (end - to >= blockLength && m_end - m_at >= blockLength && widenBlock(m_at, to)) {
+            m_at += blockLength;
+            to += blockLength;
+        } else if (isPlain(*m_at)) {
+            *to++ = static_cast<uchar>(*m_at++);
+        } else if (*m_at == '\0' || *m_at == '\r' || *m_at == '\n') {
+            ++m_at;
+        } else if (skipWord("\\par")) {
+            *to++ = u'\n';
+        } else if (skipWord("\\tab")) {
+            *to++ = u'\t';
+        } else {
+            break;
+        }
+    }
+    text.truncate(text.size() - (end - to));
+}
 
 RtfToken RtfTokenizer::next()
 {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QString>
 
 #include <optional>
 
@@ -39,11 +40,18 @@ public:
     /// Returns Kind::End after the last token, however often it is called.
     RtfToken next();
 
+    /// Appends what the next tokens stand for as long as they are ASCII text, \par and \tab, which is most of
+    /// a text without styles: the same as reading them one by one, but at the speed of memory. At most
+    /// maxLength code units.
+    void appendPlainRun(QString &text, qsizetype maxLength);
+
 private:
     RtfToken readControl();
     RtfToken readWord();
     std::optional<qint32> readParameter();
     RtfToken readText();
+    /// Whether a control word is next, which has no parameter; then it is skipped with the blank behind it.
+    bool skipWord(QByteArrayView word);
     void skipBinary(qint32 length);
 
     const char *m_at;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstring>
 
 namespace {
 
@@ -35,11 +36,40 @@ void appendEscaped(QByteArray &rtf, char16_t unit)
         appendCodeUnit(rtf, unit);
 }
 
+constexpr qsizetype blockLength = 8; // code units
+using Units = char16_t __attribute__((vector_size(2 * blockLength)));
+using Bytes = uchar __attribute__((vector_size(blockLength)));
+
+bool isLiteralBlock(const char16_t *from)
+{
+    Units units;
+    std::memcpy(&units, from, sizeof units);
+    const auto others =
+        (units < 0x20) | (units > 0x7E) | (units == u'\\') | (units == u'{') | (units == u'}');
+    std::array<quint64, 2> bits;
+    std::memcpy(bits.data(), &others, sizeof bits);
+    return (bits[0] | bits[1]) == 0;
+}
+
+const char16_t *endOfLiterals(const char16_t *at, const char16_t *end)
+{
+    while (end - at >= blockLength && isLiteralBlock(at))
+        at += blockLength;
+    return std::find_if_not(at, end, [](char16_t unit) { return unit < 128 && isLiteral[unit]; });
+}
+
 void appendUnescaped(QByteArray &rtf, const char16_t *from, const char16_t *to)
 {
     const qsizetype length = rtf.size();
     rtf.resize(length + (to - from));
-    std::transform(from, to, rtf.data() + length, [](char16_t unit) { return static_cast<char>(unit); });
+    char *bytes = rtf.data() + length;
+    for (; to - from >= blockLength; from += blockLength, bytes += blockLength) {
+        Units units;
+        std::memcpy(&units, from, sizeof units);
+        const Bytes narrow = __builtin_convertvector(units, Bytes);
+        std::memcpy(bytes, &narrow, sizeof narrow);
+    }
+    std::transform(from, to, bytes, [](char16_t unit) { return static_cast<char>(unit); });
 }
 
 } // namespace
@@ -49,16 +79,16 @@ void appendRtfText(QByteArray &rtf, QStringView text)
     const char16_t *at = text.utf16();
     const char16_t *const end = at + text.size();
     while (at != end) {
-        const char16_t *const next =
-            std::find_if_not(at, end, [](char16_t unit) { return unit < 128 && isLiteral[unit]; });
+        const char16_t *const next = endOfLiterals(at, end);
         if (next != at)
             appendUnescaped(rtf, at, next);
         if (next == end)
             return;
         if (*next == u'\n')
-            rtf.append("\\par\n"); // RTF ignores the line end; it only makes the source readable
+            rtf.append(
+                QByteArrayView("\\par\n")); // RTF ignores the line end; it only makes the source readable
         else if (*next == u'\t')
-            rtf.append("\\tab ");
+            rtf.append(QByteArrayView("\\tab "));
         else
             appendEscaped(rtf, *next);
         at = next + 1;
