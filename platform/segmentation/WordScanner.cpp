@@ -220,11 +220,12 @@ WordScanner::Run WordScanner::restOfRun(qsizetype position) const
         position += std::countr_zero(other);
         if (!(other & 1))
             continue;
+        CharacterClasses classes;
         do {
-            const CharacterClasses classes = classesAt(units, size, position);
+            classes = classesAt(units, size, position);
             isHard = isHard || classes.has(Hard) || classes.has(Hebrew);
             ++position;
-        } while (!isBoundary(position) && position < size && units[position] >= 0x80);
+        } while (!classes.has(White) && position < size && units[position] >= 0x80);
     }
     return {position, isHard};
 }

@@ -2,6 +2,7 @@
 #include "platform/text_encoding/EncodingConverter.h"
 
 #include "platform/text_encoding/JohabText.h"
+#include "platform/text_encoding/Utf8Decoding.h"
 
 #include <QChar>
 
@@ -24,19 +25,6 @@ void writeReplacement(const void *, UConverterToUnicodeArgs *arguments, const ch
     *status = U_ZERO_ERROR;
     const UChar replacement = QChar::ReplacementCharacter;
     ucnv_cbToUWriteUChars(arguments, &replacement, 1, 0, status);
-}
-
-/// Qt decodes UTF-8 several times faster than ICU, but writes more than one U+FFFD for some broken sequences
-/// and drops a leading byte order mark. Absent in these cases.
-std::optional<QString> wellFormedUtf8(QByteArrayView bytes)
-{
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        return std::nullopt;
-    QString text = QString::fromUtf8(bytes);
-    // Ten times faster than validating the bytes first.
-    if (text.contains(QChar::ReplacementCharacter))
-        return std::nullopt;
-    return text;
 }
 
 } // namespace
@@ -95,8 +83,9 @@ QString decodeText(QByteArrayView bytes, const char *encoding)
     if (name == johabEncoding)
         return textOfJohab(bytes);
     if (name == "UTF-8") {
-        if (const std::optional<QString> text = wellFormedUtf8(bytes))
-            return *text;
+        // ICU writes one U+FFFD for each broken sequence, as the Unicode Standard recommends.
+        if (std::optional<QString> text = decodeUtf8(bytes))
+            return *std::move(text);
     }
     QString text;
     EncodingConverter(encoding).append(bytes, text);

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_encoding/TextEncoding.h"
 
-#include "platform/text_encoding/AsciiBytes.h"
 #include "platform/text_encoding/LegacyEncoding.h"
 #include "platform/text_encoding/UnmarkedUnicode.h"
+#include "platform/text_encoding/Utf8Decoding.h"
 
 #include <unicode/utf8.h>
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -18,20 +17,6 @@ namespace {
 constexpr qsizetype utf8SampleSize = 65'536;
 
 constexpr char escape = '\x1B';
-
-/// The position of the first byte above 127, or the length if there is none.
-qsizetype firstAbove127(QByteArrayView bytes)
-{
-    // Eight at a time, because most texts are almost entirely ASCII.
-    constexpr quint64 topBits = 0x8080'8080'8080'8080;
-    qsizetype at = 0;
-    for (quint64 eight; at + 8 <= bytes.size(); at += 8) {
-        std::memcpy(&eight, bytes.data() + at, 8);
-        if (eight & topBits)
-            break;
-    }
-    return std::find_if(bytes.begin() + at, bytes.end(), isAbove127) - bytes.begin();
-}
 
 /// The ISO-2022 encoding that an escape sequence belongs to; null unless it switches to a two-byte character
 /// set. The other sequences prove nothing: terminals use some of them too.
@@ -129,7 +114,7 @@ std::optional<TextEncoding> markedEncoding(QByteArrayView bytes)
 
 bool mayBeUtf8(QByteArrayView bytes)
 {
-    const qsizetype above127 = firstAbove127(bytes);
+    const qsizetype above127 = asciiLength(bytes);
     return above127 == bytes.size() || isUtf8(bytes.sliced(above127));
 }
 
@@ -139,7 +124,7 @@ TextEncoding detectTextEncoding(QByteArrayView bytes, const char *declared)
         return *encoding;
     if (const char *name = unmarkedUnicodeEncoding(bytes))
         return {name};
-    const qsizetype above127 = firstAbove127(bytes);
+    const qsizetype above127 = asciiLength(bytes);
     if (above127 == bytes.size())
         return iso2022Encoding(bytes).value_or(TextEncoding{"UTF-8"});
     if (isUtf8(bytes.sliced(above127)))
