@@ -90,14 +90,14 @@ void WordScanner::scanWindow(qsizetype length)
 {
     qsizetype position = 0;
     while (position < length) {
-        const qsizetype hardEnd = std::min(length, m_hardUntil - m_start);
-        const qsizetype softEnd = std::min(length, m_softUntil - m_start);
-        if (position < hardEnd) {
-            countHard(position, hardEnd);
-            position = hardEnd;
-        } else if (position < softEnd) {
-            countSoft(position, softEnd);
-            position = softEnd;
+        const qsizetype hardLimit = std::min(length, m_hardUntil - m_start);
+        const qsizetype softLimit = std::min(length, m_softUntil - m_start);
+        if (position < hardLimit) {
+            countHard(position, hardLimit);
+            position = hardLimit;
+        } else if (position < softLimit) {
+            countSoft(position, softLimit);
+            position = softLimit;
         } else {
             const qsizetype next = scanFromBoundary(position, length);
             if (next == position && m_hardUntil <= m_start + next && m_softUntil <= m_start + next)
