@@ -4,6 +4,8 @@
 #include "tests/harness/QuillbayTest.h"
 #include "text_statistics/TextCounter.h"
 
+#include <QFile>
+
 #include <map>
 #include <random>
 
@@ -163,5 +165,30 @@ TEST_F(CountingDifferenceTest, TextsOfEveryScript)
             text += randomOf(characters, random, static_cast<qsizetype>(random() % 12))
                 + randomOf(marks, random, 1);
         expectSame(text, ++variant % variants);
+    }
+}
+
+// The test files of the Unicode Character Database: every line holds code points between marks of boundaries.
+TEST_F(CountingDifferenceTest, TheTextsOfTheUnicodeTestFiles)
+{
+    int variant = 0;
+    for (const char *name :
+        {"WordBreakTest.txt", "SentenceBreakTest.txt", "GraphemeBreakTest.txt", "LineBreakTest.txt"}) {
+        QFile file(QStringLiteral("/usr/share/unicode/auxiliary/") + QString::fromLatin1(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "install the package unicode-data";
+        int texts = 0;
+        while (!file.atEnd()) {
+            const QByteArray line = file.readLine();
+            QString text;
+            for (const QByteArray &token : line.left(line.indexOf('#')).simplified().split(' ')) {
+                bool isNumber = false;
+                const char32_t character = token.toUInt(&isNumber, 16);
+                if (isNumber)
+                    text += QString::fromUcs4(&character, 1);
+            }
+            expectSame(text, ++variant % variants);
+            texts += text.isEmpty() ? 0 : 1;
+        }
+        EXPECT_GT(texts, 400) << name;
     }
 }
