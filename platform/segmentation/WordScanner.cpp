@@ -119,8 +119,7 @@ qsizetype WordScanner::scanFromBoundary(qsizetype position, qsizetype length)
     if (hard < length) {
         const qsizetype start = std::max(position, lastBoundary(position, hard));
         countSoft(position, start);
-        const qsizetype boundary = firstBoundary(hard + 1, length);
-        startHard(m_start + start, boundary < 0 ? restOfRun(m_start + length).end : m_start + boundary);
+        startHard(m_start + start, hardEnd(hard, length));
         return start;
     }
     if (m_start + length == m_text.size()) {
@@ -142,6 +141,22 @@ qsizetype WordScanner::scanFromBoundary(qsizetype position, qsizetype length)
     else
         m_softUntil = run.end;
     return position;
+}
+
+// The boundary behind a hard character and those that follow it soon: starting ICU takes as long as some
+// words.
+qsizetype WordScanner::hardEnd(qsizetype hard, qsizetype length) const
+{
+    constexpr qsizetype worthStarting = 64;
+    for (;;) {
+        const qsizetype boundary = firstBoundary(hard + 1, length);
+        if (boundary < 0)
+            return restOfRun(m_start + length).end;
+        const qsizetype end = std::min(boundary + worthStarting, length);
+        hard = TextMasks::first(boundary, end, [this](qsizetype index) { return m_masks.word(Hard, index); });
+        if (hard == end)
+            return m_start + boundary;
+    }
 }
 
 // Quotes join Hebrew letters (WB7a to WB7c), and nothing else.

@@ -69,6 +69,7 @@ private:
 
     void scanWindow(qsizetype length);
     [[nodiscard]] qsizetype scanFromBoundary(qsizetype position, qsizetype length);
+    [[nodiscard]] qsizetype hardEnd(qsizetype hard, qsizetype length) const;
     void markHebrewQuotes();
     [[nodiscard]] bool isBoundary(qsizetype position) const;
     [[nodiscard]] qsizetype lastBoundary(qsizetype from, qsizetype to) const;
