@@ -66,10 +66,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     const bool isArchive = bytes.startsWith("PK");
     const QByteArray package = isArchive ? bytes : packageOf(bytes);
-    const bool isKnown = looksLikeDocx(package);
     if (const Result<AttributedString, DocumentError> text =
             readDocument(DocumentKind::WordDocument, package)) {
-        require(isKnown);
+        const Result<DocumentKind, DocumentError> kind = kindOfDocument({}, package);
+        require(kind && kind.value() == DocumentKind::WordDocument);
         requireSound(text.value());
     }
     return 0;

@@ -3,16 +3,11 @@
 // with "charset " is the charset that the transfer names.
 #include "documents/html/HtmlReader.h"
 #include "documents/html/HtmlStyleAttribute.h"
+#include "fuzz/FuzzerInput.h"
 
 #include <cstdint>
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        __builtin_trap();
-}
 
 void requireSound(const TextAttributes &attributes)
 {

@@ -2,30 +2,14 @@
 // Reads any bytes as plain text, which never fails. A first line that begins with "charset " is the charset
 // of the MIME type.
 #include "documents/PlainTextReader.h"
+#include "fuzz/FuzzerInput.h"
 
 #include <cstdint>
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        __builtin_trap();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     QByteArrayView bytes(data, static_cast<qsizetype>(size));
-    QByteArray charset;
-    constexpr QByteArrayView word = "charset ";
-    if (bytes.startsWith(word)) {
-        const qsizetype end = bytes.indexOf('\n');
-        const QByteArrayView line = bytes.first(end < 0 ? bytes.size() : end);
-        charset = line.sliced(word.size()).toByteArray();
-        bytes = bytes.sliced(line.size());
-    }
+    const QByteArray charset = takeFirstLine(bytes, "charset ");
     const Result<PlainText, DocumentError> read = readPlainText(bytes, charset);
     require(read.hasValue());
     require(!read.value().encoding.isEmpty());

@@ -2,16 +2,11 @@
 // Reads any bytes as RTF; reading must end, the text must be sound and its attachments must come from the
 // source.
 #include "documents/rtf/RtfReader.h"
+#include "fuzz/FuzzerInput.h"
 
 #include <cstdint>
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        __builtin_trap();
-}
 
 void requireSound(const AttributedString &text)
 {

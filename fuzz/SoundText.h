@@ -3,14 +3,8 @@
 // Thread: any.
 #pragma once
 
+#include "fuzz/FuzzerInput.h"
 #include "platform/styled_text/AttributedString.h"
-
-/// Ends the process, which the fuzzer reports.
-inline void require(bool holds)
-{
-    if (!holds)
-        __builtin_trap();
-}
 
 /// Requires that the runs cover the text in order, without gaps, and that neighbours differ. The text of a
 /// package ends with the end of a paragraph.

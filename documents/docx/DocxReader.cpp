@@ -68,22 +68,6 @@ Result<AttributedString, DocumentError::Cause> textOf(const PackageDocument &doc
 
 } // namespace
 
-bool looksLikeDocx(QByteArrayView bytes)
-{
-    try {
-        if (const std::optional<DocumentError::Cause> cause = causeOfCompoundFile(bytes))
-            return *cause == DocumentError::Cause::Encrypted;
-        ReadAllowance allowance;
-        const Result<ZipPackage, DocumentError::Cause> package = ZipPackage::open(bytes, allowance);
-        if (!package)
-            return package.error() == DocumentError::Cause::Encrypted;
-        const Result<ContentTypes, DocumentError::Cause> types = ContentTypes::read(package.value());
-        return types && mainPartOf(package.value(), types.value());
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
-}
-
 Result<AttributedString, DocumentError::Cause> readPackageDocument(
     QByteArrayView bytes, ReadAllowance &allowance, const ChunkReader &readChunk)
 {

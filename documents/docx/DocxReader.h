@@ -36,10 +36,6 @@
 
 #include <functional>
 
-/// Whether the bytes are a package with a Word document as its main part, or any encrypted package. Reads
-/// only the list of parts, the content types and the relationships of the package.
-bool looksLikeDocx(QByteArrayView bytes);
-
 /// Reads a chunk of another kind that a Word document holds. charset: of a web page from an archive; empty
 /// where it is not known.
 using ChunkReader = std::function<Result<AttributedString, DocumentError>(

@@ -58,20 +58,6 @@ Result<AttributedString, Cause> readBook(QByteArrayView bytes)
 
 } // namespace
 
-bool looksLikeEpub(QByteArrayView bytes)
-{
-    const QByteArrayView type = mimeTypeAtStart(bytes).trimmed();
-    if (!type.isEmpty())
-        return type == "application/epub+zip";
-    try {
-        ReadAllowance allowance;
-        const Result<ZipPackage, Cause> package = ZipPackage::open(bytes, allowance);
-        return package && package.value().contains(epubContainerPart);
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
-}
-
 Result<AttributedString, DocumentError> readEpub(QByteArrayView bytes)
 {
     try {

@@ -19,10 +19,6 @@
 
 #include <QByteArrayView>
 
-/// Whether the bytes are an archive that names its type as EPUB or, where it names none, that has a container
-/// file. Reads only the first entry and the list of parts.
-bool looksLikeEpub(QByteArrayView bytes);
-
 /// Fails as Damaged if a page of the reading order is missing, and as TooLarge for more than 64 MiB of
 /// pages. Takes time proportional to the uncompressed pages, and memory proportional to the longest page and
 /// the text.

@@ -156,22 +156,6 @@ Result<AttributedString, Cause> readFlatDocument(QByteArrayView bytes)
 
 } // namespace
 
-bool looksLikeOpenDocument(QByteArrayView bytes)
-{
-    try {
-        if (!bytes.startsWith("PK"))
-            return isFlatDocument(bytes);
-        const QByteArrayView type = mimeTypeAtStart(bytes);
-        if (!type.isEmpty())
-            return isTextType(type);
-        ReadAllowance allowance;
-        const Result<ZipPackage, Cause> package = ZipPackage::open(bytes, allowance);
-        return package && isTextType(mimeTypeOf(package.value()));
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
-}
-
 Result<AttributedString, DocumentError> readOpenDocument(QByteArrayView bytes)
 {
     try {

@@ -30,11 +30,6 @@
 
 #include <QByteArrayView>
 
-/// Whether the bytes are a package of the MIME type of an OpenDocument text, encrypted or not, or begin as a
-/// flat one. Reads the start of the bytes and, in packages that do not name their type there, the list of
-/// parts and that name.
-bool looksLikeOpenDocument(QByteArrayView bytes);
-
 /// Takes time proportional to the uncompressed parts that are read, and memory proportional to the text and
 /// the styles.
 Result<AttributedString, DocumentError> readOpenDocument(QByteArrayView bytes);

@@ -33,6 +33,12 @@ QString nameOf(QByteArrayView value)
                            : QString::fromUtf8(value.first(std::min(value.size(), maxNameLength)));
 }
 
+void setFamily(TextFormat::Script &script, const QString &family)
+{
+    if (!family.isEmpty())
+        script.family = family;
+}
+
 void readSize(TextFormat::Script &script, QByteArrayView value)
 {
     if (const std::optional<double> share = shareOf(value); share && *share > 0) {
@@ -69,6 +75,35 @@ std::optional<double> trackingOf(QByteArrayView value)
 {
     return value == "normal" ? std::optional(0.0) : pointsOf(value);
 }
+
+/// What each script has of its own, under three names.
+struct ScriptProperty {
+    OdfName ofLatin;
+    OdfName ofAsian;
+    OdfName ofComplex;
+    void (*read)(TextFormat::Script &script, QByteArrayView value, const FontFaces &faces);
+};
+
+using Script = TextFormat::Script;
+
+constexpr ScriptProperty scriptProperties[] = {
+    {"style:font-name"_odf, "style:font-name-asian"_odf, "style:font-name-complex"_odf,
+        [](Script &script, QByteArrayView value, const FontFaces &faces) {
+            setFamily(script, faces.value(value.toByteArray()));
+        }},
+    {"fo:font-family"_odf, "style:font-family-asian"_odf, "style:font-family-complex"_odf,
+        [](Script &script, QByteArrayView value, const FontFaces &) { setFamily(script, familyOf(value)); }},
+    {"fo:font-size"_odf, "style:font-size-asian"_odf, "style:font-size-complex"_odf,
+        [](Script &script, QByteArrayView value, const FontFaces &) { readSize(script, value); }},
+    {"fo:font-weight"_odf, "style:font-weight-asian"_odf, "style:font-weight-complex"_odf,
+        [](Script &script, QByteArrayView value, const FontFaces &) { script.isBold = boldnessOf(value); }},
+    {"fo:font-style"_odf, "style:font-style-asian"_odf, "style:font-style-complex"_odf,
+        [](Script &script, QByteArrayView value, const FontFaces &) { script.isItalic = value != "normal"; }},
+    {"fo:language"_odf, "style:language-asian"_odf, "style:language-complex"_odf,
+        [](Script &script, QByteArrayView value, const FontFaces &) { script.language = nameOf(value); }},
+    {"fo:country"_odf, "style:country-asian"_odf, "style:country-complex"_odf,
+        [](Script &script, QByteArrayView value, const FontFaces &) { script.country = nameOf(value); }},
+};
 
 CharacterFormat formatOf(
     const TextFormat &format, const TextFormat::Script &script, const QString &otherFamily)
@@ -118,78 +153,22 @@ void TextFormat::Script::overlay(const Script &other)
 
 void TextFormat::read(const XmlElement &properties, const FontFaces &faces)
 {
-    const auto setFamily = [](QString &family, const QString &found) {
-        if (!found.isEmpty())
-            family = found;
-    };
     properties.forEachAttribute([&](XmlName attribute, QByteArrayView value) {
-        switch (odfName(attribute)) {
-        case "style:font-name"_odf:
-            return setFamily(latin.family, faces.value(value.toByteArray()));
-        case "style:font-name-asian"_odf:
-            return setFamily(asian.family, faces.value(value.toByteArray()));
-        case "style:font-name-complex"_odf:
-            return setFamily(complex.family, faces.value(value.toByteArray()));
-        case "fo:font-family"_odf:
-            return setFamily(latin.family, familyOf(value));
-        case "style:font-family-asian"_odf:
-            return setFamily(asian.family, familyOf(value));
-        case "style:font-family-complex"_odf:
-            return setFamily(complex.family, familyOf(value));
-        case "fo:font-size"_odf:
-            return readSize(latin, value);
-        case "style:font-size-asian"_odf:
-            return readSize(asian, value);
-        case "style:font-size-complex"_odf:
-            return readSize(complex, value);
-        case "fo:font-weight"_odf:
-            latin.isBold = boldnessOf(value);
-            break;
-        case "style:font-weight-asian"_odf:
-            asian.isBold = boldnessOf(value);
-            break;
-        case "style:font-weight-complex"_odf:
-            complex.isBold = boldnessOf(value);
-            break;
-        case "fo:font-style"_odf:
-            latin.isItalic = value != "normal";
-            break;
-        case "style:font-style-asian"_odf:
-            asian.isItalic = value != "normal";
-            break;
-        case "style:font-style-complex"_odf:
-            complex.isItalic = value != "normal";
-            break;
-        case "fo:language"_odf:
-            latin.language = nameOf(value);
-            break;
-        case "style:language-asian"_odf:
-            asian.language = nameOf(value);
-            break;
-        case "style:language-complex"_odf:
-            complex.language = nameOf(value);
-            break;
-        case "fo:country"_odf:
-            latin.country = nameOf(value);
-            break;
-        case "style:country-asian"_odf:
-            asian.country = nameOf(value);
-            break;
-        case "style:country-complex"_odf:
-            complex.country = nameOf(value);
-            break;
-        case "fo:letter-spacing"_odf:
-            overlayValue(tracking, trackingOf(value));
-            break;
-        case "style:text-position"_odf:
-            overlayValue(position, textPositionOf(value));
-            break;
-        case "text:display"_odf:
-            isHidden = value == "none";
-            break;
-        default:
-            break;
+        const OdfName name = odfName(attribute);
+        for (const ScriptProperty &property : scriptProperties) {
+            if (name == property.ofLatin)
+                return property.read(latin, value, faces);
+            if (name == property.ofAsian)
+                return property.read(asian, value, faces);
+            if (name == property.ofComplex)
+                return property.read(complex, value, faces);
         }
+        if (name == "fo:letter-spacing"_odf)
+            overlayValue(tracking, trackingOf(value));
+        else if (name == "style:text-position"_odf)
+            overlayValue(position, textPositionOf(value));
+        else if (name == "text:display"_odf)
+            isHidden = value == "none";
     });
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "documents/package/ZipPackage.h"
 
-#include <QtEndian>
-
 #include <zip.h>
 
 #include <algorithm>
@@ -131,25 +129,4 @@ Result<QByteArray, DocumentError::Cause> ZipPackage::contents(const QByteArray &
     if (failure)
         return *failure;
     return bytes;
-}
-
-QByteArrayView mimeTypeAtStart(QByteArrayView bytes)
-{
-    // APPNOTE.TXT 4.3.7: a local header of 30 bytes, the name, an extra field.
-    constexpr qsizetype headerLength = 30;
-    constexpr qsizetype maxTypeLength = 200;
-    constexpr QByteArrayView name("mimetype");
-    const auto number = [bytes](qsizetype place) {
-        return static_cast<qsizetype>(qFromLittleEndian<quint16>(bytes.data() + place));
-    };
-    if (bytes.size() < headerLength || !bytes.startsWith("PK\3\4") || number(8) != 0
-        || number(26) != name.size())
-        return {};
-    const QByteArrayView rest = bytes.sliced(headerLength);
-    const qsizetype start = name.size() + number(28);
-    if (!rest.startsWith(name) || rest.size() < start)
-        return {};
-    // The length may be missing in the header of a stream; the next header follows in any case.
-    const QByteArrayView contents = rest.sliced(start).first(std::min(rest.size() - start, maxTypeLength));
-    return contents.first(std::max<qsizetype>(0, contents.indexOf("PK"))).trimmed();
 }

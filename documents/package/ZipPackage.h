@@ -59,8 +59,3 @@ private:
     QHash<QByteArray, quint64> m_parts; // from normalized names to indices in the archive
     ReadAllowance *m_allowance;
 };
-
-/// The MIME type that OpenDocument and EPUB write at the start of their packages: the contents of the first
-/// entry, named "mimetype" and not compressed. Empty if the bytes do not begin so. Reads nothing else of the
-/// archive.
-QByteArrayView mimeTypeAtStart(QByteArrayView bytes);

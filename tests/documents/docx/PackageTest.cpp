@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/documents/KindOf.h"
 #include "tests/documents/docx/DocxTest.h"
 
 #include <QStringEncoder>
@@ -37,19 +38,18 @@ const WordPackage hello{.body = textParagraph("hello")};
 
 } // namespace
 
-TEST(DocxPackage, IsRecognizedByItsMainPart)
+TEST(DocxPackage, IsRecognizedByItsParts)
 {
-    EXPECT_TRUE(looksLikeDocx(hello.bytes()));
+    EXPECT_TRUE(isOfKind(DocumentKind::WordDocument, hello.bytes()));
     WordPackage sheet = hello;
     sheet.mainType = "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml";
-    EXPECT_FALSE(looksLikeDocx(sheet.bytes()));
     EXPECT_EQ(readWordDocument(sheet.bytes()).error().cause, Cause::WrongKind);
     ZipWriter zip;
     zip.add({"word/document.xml", hello.mainPart()});
-    EXPECT_FALSE(looksLikeDocx(zip.archive()));
-    EXPECT_FALSE(looksLikeDocx("PK\x03\x04 and no more"));
-    EXPECT_FALSE(looksLikeDocx("word/document.xml"));
-    EXPECT_FALSE(looksLikeDocx({}));
+    EXPECT_FALSE(isOfKind(DocumentKind::WordDocument, zip.archive()));
+    EXPECT_FALSE(isOfKind(DocumentKind::WordDocument, "PK\x03\x04 and no more"));
+    EXPECT_FALSE(isOfKind(DocumentKind::WordDocument, "word/document.xml"));
+    EXPECT_FALSE(isOfKind(DocumentKind::WordDocument, {}));
 }
 
 TEST(DocxPackage, MayBeATemplateOrHaveMacros)
@@ -60,7 +60,7 @@ TEST(DocxPackage, MayBeATemplateOrHaveMacros)
             "application/vnd.ms-word.template.macroEnabledTemplate.main+xml"}) {
         WordPackage document = hello;
         document.mainType = type;
-        EXPECT_TRUE(looksLikeDocx(document.bytes())) << type;
+        EXPECT_TRUE(isOfKind(DocumentKind::WordDocument, document.bytes())) << type;
         EXPECT_EQ(textOf(document), QStringLiteral("hello\n")) << type;
     }
 }
@@ -185,11 +185,11 @@ TEST(DocxPackage, ThatIsEncryptedIsReportedAsSuch)
     QByteArray compound("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     compound.resize(1024, '\0');
     EXPECT_EQ(readWordDocument(compound).error().cause, Cause::OldFormat);
-    EXPECT_FALSE(looksLikeDocx(compound));
+    EXPECT_FALSE(isOfKind(DocumentKind::WordDocument, compound));
     const char16_t name[] = u"EncryptedPackage";
     compound.append(reinterpret_cast<const char *>(name), sizeof name);
     EXPECT_EQ(readWordDocument(compound).error().cause, Cause::Encrypted);
-    EXPECT_TRUE(looksLikeDocx(compound));
+    EXPECT_TRUE(isOfKind(DocumentKind::WordDocument, compound));
     for (const char16_t *otherCase : {u"ENCRYPTEDPACKAGE", u"encryptedPackage"}) {
         compound.replace(1024, sizeof name, reinterpret_cast<const char *>(otherCase), sizeof name);
         EXPECT_EQ(readWordDocument(compound).error().cause, Cause::Encrypted);

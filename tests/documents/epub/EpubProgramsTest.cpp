@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Compares books that other programs write with the text that they were given.
 #include "documents/epub/EpubReader.h"
+#include "tests/documents/KindOf.h"
 #include "tests/documents/LibreOffice.h"
 #include "tests/harness/QuillbayTest.h"
 
@@ -16,7 +17,7 @@ protected:
     /// The lines of a book that contain text; paragraphs of a web page have empty lines between them.
     static QStringList linesOf(const QByteArray &book)
     {
-        EXPECT_TRUE(looksLikeEpub(book));
+        EXPECT_TRUE(isOfKind(DocumentKind::Epub, book));
         const Result<AttributedString, DocumentError> text = readEpub(book);
         return text ? text.value().string().split(u'\n', Qt::SkipEmptyParts)
                     : QStringList(causeText(text.error()));

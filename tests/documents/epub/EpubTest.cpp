@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/epub/EpubReader.h"
 
+#include "tests/documents/KindOf.h"
 #include "tests/documents/epub/BookWriter.h"
 #include "tests/harness/QuillbayTest.h"
 
@@ -36,19 +37,19 @@ const QString isEncrypted = QStringLiteral("is encrypted (DRM); count a copy wit
 TEST(Epub, IsRecognizedByItsTypeOrItsContainer)
 {
     BookWriter book = twoChapters;
-    EXPECT_TRUE(looksLikeEpub(book.bytes()));
+    EXPECT_TRUE(isOfKind(DocumentKind::Epub, book.bytes()));
     book.mimeType = "application/epub+zip\r\n";
-    EXPECT_TRUE(looksLikeEpub(book.bytes()));
+    EXPECT_TRUE(isOfKind(DocumentKind::Epub, book.bytes()));
     book.mimeType.clear();
-    EXPECT_TRUE(looksLikeEpub(book.bytes()));
+    EXPECT_TRUE(isOfKind(DocumentKind::Epub, book.bytes()));
     EXPECT_EQ(textOfBook(book), twoTexts);
     book.mimeType = "application/vnd.oasis.opendocument.text";
-    EXPECT_FALSE(looksLikeEpub(book.bytes()));
+    EXPECT_FALSE(isOfKind(DocumentKind::Epub, book.bytes()));
     ZipWriter pictures;
     pictures.add({.name = "sun.png", .contents = "a picture"});
-    EXPECT_FALSE(looksLikeEpub(pictures.archive()));
-    EXPECT_FALSE(looksLikeEpub("PK"));
-    EXPECT_FALSE(looksLikeEpub({}));
+    EXPECT_FALSE(isOfKind(DocumentKind::Epub, pictures.archive()));
+    EXPECT_FALSE(isOfKind(DocumentKind::Epub, "PK"));
+    EXPECT_FALSE(isOfKind(DocumentKind::Epub, {}));
     EXPECT_EQ(readEpub(pictures.archive()).error().cause, Cause::WrongKind);
     EXPECT_EQ(textOfBook("no archive"), QStringLiteral("is not an EPUB"));
 }

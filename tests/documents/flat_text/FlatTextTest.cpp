@@ -3,12 +3,10 @@
 #include "documents/flat_text/FlatTextReader.h"
 #include "documents/flat_text/FlatTextWriter.h"
 #include "documents/reading/DocumentReader.h"
-#include "documents/reading/KindDetection.h"
+#include "tests/documents/ForeignDocuments.h"
 #include "tests/documents/rtf/writer/RandomText.h"
 #include "tests/documents/rtf/writer/TextDifference.h"
 #include "tests/harness/QuillbayTest.h"
-
-#include <QDirIterator>
 
 #include <cstddef>
 #include <cstring>
@@ -92,20 +90,13 @@ TEST(FlatText, ForeignDocumentsStayEqual)
     if (corporaFolder().isEmpty())
         GTEST_SKIP() << "QUILLBAY_CORPORA names no folder with documents";
     int count = 0;
-    for (QDirIterator files(corporaFolder(), QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
-        const QString path = files.next();
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
-        const Result<DocumentKind, DocumentError> kind = kindOfDocument(QFile::encodeName(path), bytes);
-        if (!kind)
-            continue;
-        const Result<AttributedString, DocumentError> text = readDocument(kind.value(), bytes);
+    forEachForeignDocument([&](DocumentKind kind, const QByteArray &bytes, const QString &path) {
+        const Result<AttributedString, DocumentError> text = readDocument(kind, bytes);
         if (!text)
-            continue;
+            return;
         ++count;
         ASSERT_EQ(differenceBetween(text.value(), writeAndRead(text.value())), QString()) << qPrintable(path);
-    }
+    });
     EXPECT_GT(count, 10);
 }
 

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A document has the same text, read in the program and in this process.
 #include "documents/loading/SandboxedReader.h"
-#include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdWriter.h"
+#include "tests/documents/ForeignDocuments.h"
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/documents/rtf/writer/RandomText.h"
 #include "tests/documents/rtf/writer/TextDifference.h"
 #include "tests/harness/QuillbayTest.h"
-
-#include <QDirIterator>
 
 namespace {
 
@@ -53,17 +51,7 @@ TEST_F(SameAsInProcess, ForeignDocumentsReadTheSame)
 {
     if (corporaFolder().isEmpty())
         GTEST_SKIP() << "QUILLBAY_CORPORA names no folder with documents";
-    int count = 0;
-    for (QDirIterator files(corporaFolder(), QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
-        const QString path = files.next();
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
-        const Result<DocumentKind, DocumentError> kind = kindOfDocument(QFile::encodeName(path), bytes);
-        if (!kind)
-            continue;
-        expectSame(kind.value(), bytes, path);
-        ++count;
-    }
+    const int count = forEachForeignDocument([](DocumentKind kind, const QByteArray &bytes,
+                                                 const QString &path) { expectSame(kind, bytes, path); });
     EXPECT_GT(count, 10);
 }

@@ -69,8 +69,7 @@ TEST(HostileOdt, WithEntitiesIsDamaged)
     const QByteArray type = "<!DOCTYPE x [<!ENTITY a 'aaaa'>]>";
     const QByteArray document = QByteArray(flat).insert(flat.indexOf("<office:document"), type);
     const Result<AttributedString, DocumentError> text = readOpenDocument(document);
-    ASSERT_FALSE(text);
-    EXPECT_FALSE(looksLikeOpenDocument(document));
+    EXPECT_FALSE(text);
 }
 
 TEST(HostileOdt, WithElementsInWrongPlacesIsRead)

@@ -46,18 +46,3 @@ TEST(ZipPackage, OfOtherBytesIsOfTheWrongKind)
     ReadAllowance allowance;
     EXPECT_EQ(ZipPackage::open("Some words.", allowance).error(), DocumentError::Cause::WrongKind);
 }
-
-TEST(ZipPackage, MayDeclareItsMimeTypeAtItsStart)
-{
-    EXPECT_EQ(mimeTypeAtStart(archiveOf({{.name = "mimetype", .contents = mimeType}})), mimeType);
-    EXPECT_EQ(mimeTypeAtStart(archiveOf({{.name = "mimetype", .contents = mimeType + "\r\n"}})), mimeType);
-    EXPECT_EQ(
-        mimeTypeAtStart(archiveOf({{.name = "other"}, {.name = "mimetype", .contents = mimeType}})), "");
-    EXPECT_EQ(mimeTypeAtStart(archiveOf({{.name = "mimetype", .contents = QByteArray(1'000, 'a')}})), "");
-    EXPECT_EQ(mimeTypeAtStart(archiveOf(
-                  {{.name = "mimetype", .contents = mimeType, .method = ZipWriter::Method::Deflated}})),
-        "");
-    const QByteArray archive = archiveOf({{.name = "mimetype", .contents = mimeType}});
-    for (qsizetype length = 0; length < 58; ++length)
-        EXPECT_EQ(mimeTypeAtStart(archive.first(length)), "") << length;
-}

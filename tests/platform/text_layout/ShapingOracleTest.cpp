@@ -21,6 +21,11 @@ const QStringList families{QStringLiteral("Helvetica"), QStringLiteral("Times"),
     QStringLiteral("Noto Nastaliq Urdu"), QStringLiteral("Noto Sans Devanagari"),
     QStringLiteral("Noto Sans Thai"), QStringLiteral("Noto Sans CJK JP")};
 
+// Skin tones, flags, a keycap, a flag of tags, the longest emoji of all.
+const QString emojiRow = QStringLiteral("\U0001F600\U0001F44D\U0001F3FD\U0001F1E9\U0001F1EA\U0001F1EB")
+    + QStringLiteral("1\uFE0F\u20E3\U0001F3F4\U000E0067\U000E0062\U000E0065\U000E006E\U000E0067\U000E007F")
+    + QStringLiteral("\U0001F469\U0001F3FD\u200D\u2764\uFE0F\u200D\U0001F48B\u200D\U0001F468\U0001F3FF");
+
 const QStringList pieces{QStringLiteral("the"), QStringLiteral("AVATAR"), QStringLiteral("T."),
     QStringLiteral("\"Wo\","), QStringLiteral("office"), QStringLiteral("fi"), QStringLiteral("fl\u200Dx"),
     QStringLiteral("well-known"), QStringLiteral("1,234.50"), QStringLiteral("Größe"),
@@ -31,12 +36,8 @@ const QStringList pieces{QStringLiteral("the"), QStringLiteral("AVATAR"), QStrin
     QStringLiteral("क्षत्रिय।"), QStringLiteral("र्\u200Dय"), QStringLiteral("ภาษาไทยง่ายมาก"),
     QStringLiteral("漢字かな交じり"), QStringLiteral("「引用」。"), QStringLiteral("한국어"),
     QStringLiteral("😀"), QStringLiteral("👩‍👩‍👧"), QStringLiteral("❤\uFE0F"),
-    QStringLiteral("🇩🇪"),
-    QStringLiteral("😀👍🏽🇩🇪🇫🇷🇪1\uFE0F\u20E3🏴󠁧󠁢󠁥󠁮󠁧󠁿😀😀👩🏽‍❤️‍💋‍👨"
-                   "🏿"),
-    QStringLiteral(
-        "👩‍🚒👩‍🚒👩‍🚒👩‍🚒👩‍🚒👩‍🚒👩‍🚒👩‍🚒"),
-    QStringList(9, QStringLiteral("👨")).join(QChar(0x200D)), QStringLiteral("\u00AD"),
+    QStringLiteral("🇩🇪"), emojiRow, QStringLiteral("\U0001F469\u200D\U0001F692").repeated(8),
+    QStringList(9, QStringLiteral("\U0001F468")).join(QChar(0x200D)), QStringLiteral("\u00AD"),
     QStringLiteral("a\u00A0b"), QStringLiteral("\t"), QStringLiteral("\u200B"), QStringLiteral("\u200F"),
     QStringLiteral("\u2028"), QStringLiteral("\u0001"), QString(QChar(0xD83D)), QString(QChar(0xFFFC)),
     QStringLiteral("—"), QStringLiteral("..."),
