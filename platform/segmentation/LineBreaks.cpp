@@ -182,6 +182,8 @@ qsizetype LineBreaks::lastAtOrBefore(qsizetype position)
 {
     if (position >= m_text.size())
         return m_text.size();
+    if (m_last <= position && position < m_next)
+        return m_last;
     bool isOneWord = true; // no break from the simple boundary to the position
     const qsizetype limit = std::max<qsizetype>(1, position - maxLookBack);
     for (qsizetype at = position; at >= limit; --at) {

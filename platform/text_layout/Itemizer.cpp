@@ -13,8 +13,7 @@ TextRun::Kind kindOf(char16_t unit)
         return TextRun::Kind::Tab;
     if (unit == attachmentCharacter)
         return TextRun::Kind::Attachment;
-    const bool isControl = unit < 0x20 || (unit >= 0x7F && unit < 0xA0) || unit == 0x2028 || unit == 0x2029;
-    return isControl ? TextRun::Kind::Invisible : TextRun::Kind::Text;
+    return isInvisibleControl(unit) ? TextRun::Kind::Invisible : TextRun::Kind::Text;
 }
 
 BidiRuns::Base baseOf(WritingDirection direction)

@@ -26,6 +26,11 @@ constexpr size_t maxTables = 24; // of a third of a megabyte each
 // such a place for half of that is left to it.
 constexpr qsizetype maxUnsafeLength = 1024;
 
+bool hangs(char16_t unit)
+{
+    return isHangingBlank(unit) || isInvisibleControl(unit);
+}
+
 } // namespace
 
 LineFiller::LineFiller(MeasuredParagraph &measured, LineBreaks &breaks)
@@ -56,15 +61,21 @@ std::optional<quint64> LineFiller::countLines(const AttributedString &text, cons
     m_lastSafePlace = 0;
     m_hasGivenUp = false;
     quint64 count = 0;
-    for (qsizetype start = 0; start < m_length;) {
-        const qsizetype end = nextLine(start);
-        checkSafePlaces(start, end);
+    LineBreaker::Line line{0, true};
+    for (qsizetype start = 0; start < m_length; start = line.end) {
+        line = nextLine(start);
+        checkSafePlaces(line.end);
         if (m_hasGivenUp)
             return std::nullopt;
         ++count;
         if (ends)
-            ends->push_back(end);
-        start = end;
+            ends->push_back(line.end);
+    }
+    // If the last line ended in a forced break, the separator is on a line of its own.
+    if (line.isForced && paragraph.length > m_length) {
+        ++count;
+        if (ends)
+            ends->push_back(m_length);
     }
     return count;
 }
@@ -81,6 +92,8 @@ std::optional<quint32> LineFiller::findScript() const
                 return scriptOfPlainCharacter(unit);
             continue;
         }
+        if (isInvisibleControl(unit))
+            continue;
         if (!isPlainCharacter(unit))
             return std::nullopt;
         const quint32 script = scriptOfPlainCharacter(unit);
@@ -127,31 +140,21 @@ PairAdvances *LineFiller::pairsFor(const TextStyle &style, quint32 script)
     return pairs.get();
 }
 
-int LineFiller::pair(qsizetype at)
+int LineFiller::measurePair(qsizetype at)
 {
-    const auto known = [&] {
-        const quint8 next = at + 1 < m_length ? classAt(at + 1) : PairAdvances::endClass;
-        return m_advances[static_cast<size_t>(classAt(at)) << 8 | next];
-    };
-    if (const int advance = known(); advance != PairAdvances::unknown)
-        return advance;
     if (at + 1 < m_length)
         m_selection.pairs->measure(m_units[at], m_units[at + 1]);
     else
         m_selection.pairs->measureAlone(m_units[at]);
-    return known();
-}
-
-bool LineFiller::isJoined(qsizetype at)
-{
-    return at >= 0 && at + 1 < m_length && pair(at) == PairAdvances::joined;
+    return knownPair(at);
 }
 
 double LineFiller::advance(qsizetype at)
 {
     if (!m_chain.holds(at)) {
         const int own = pair(at);
-        if (own < PairAdvances::limit && !isJoined(at - 1) && !isJoined(at + 1))
+        const bool touchesChain = isJoined(at - 1) || (isJoined(at + 1) && !isApart(m_units[at]));
+        if (own < PairAdvances::limit && !touchesChain)
             return own;
         if (own >= PairAdvances::limit && own != PairAdvances::joined) {
             m_hasGivenUp = true;
@@ -176,9 +179,9 @@ void LineFiller::loadChain(qsizetype at)
     qsizetype end = at + 1;
     while (end < m_length && end - at < Chain::maxLength && isInChain(end))
         ++end;
-    if (start > 0 && m_units[start - 1] != u'\t')
+    if (start > 0 && !isApart(m_units[start - 1]))
         --start;
-    const qsizetype shapedEnd = end < m_length && m_units[end] != u'\t' ? end + 1 : end;
+    const qsizetype shapedEnd = end < m_length && !isApart(m_units[end]) ? end + 1 : end;
     if (shapedEnd - start > Chain::maxLength || m_selection.tracking != 0)
         return;
     const QStringView text(m_units + start, shapedEnd - start);
@@ -196,7 +199,7 @@ void LineFiller::loadChain(qsizetype at)
 // Whether the text on both sides of a place must be measured again if a line ends there.
 bool LineFiller::isUnsafe(qsizetype at)
 {
-    if (at <= 0 || at >= m_length || m_units[at - 1] == u'\t' || m_units[at] == u'\t')
+    if (at <= 0 || at >= m_length || isApart(m_units[at - 1]) || isApart(m_units[at]))
         return false;
     if (isInChain(at - 1) || isInChain(at)) {
         loadChain(isInChain(at) ? at : at - 1);
@@ -239,20 +242,45 @@ qsizetype LineFiller::addBlocks(qsizetype at, Stretch &stretch) const
         if (flow > stretch.fitting || following >= PairAdvances::limit)
             break;
         stretch.flow = flow;
+        stretch.weightless += sum == 0 ? blockLength : 0;
         at += blockLength;
     }
     return at;
 }
 
+// Adds single characters, up to the one that may not fit or is not plain.
+qsizetype LineFiller::addPlain(qsizetype at, Stretch &stretch) const
+{
+    if (at >= m_length)
+        return at;
+    for (int own = knownPair(at); own < PairAdvances::limit;) {
+        const int next = at + 1 < m_length ? knownPair(at + 1) : 0;
+        const double flow = stretch.flow + own + m_selection.tracking;
+        if (flow > stretch.fitting || next >= PairAdvances::limit)
+            break;
+        stretch.flow = flow;
+        if (++at == m_length)
+            break;
+        own = next;
+    }
+    return at;
+}
+
+// Whether the sum may be less exact than margin says.
+bool LineFiller::isTooLong(qsizetype start, qsizetype at, const Stretch &stretch)
+{
+    return at - start - stretch.weightless > maxLineLength;
+}
+
 // Blanks hang. Their advances matter only for a tab after them.
 void LineFiller::skipBlanks(qsizetype start, qsizetype &at, Stretch &stretch)
 {
-    if (at - start > maxLineLength) {
+    if (isTooLong(start, at, stretch)) {
         m_hasGivenUp = true;
         return;
     }
     const qsizetype first = at;
-    while (at + 2 < m_length && m_units[at + 1] == u' ' && m_units[at + 2] == u' ')
+    while (at + 2 < m_length && m_units[at + 1] == m_units[at] && m_units[at + 2] == m_units[at])
         ++at;
     if (at > first)
         stretch.flow += (advance(at) + m_selection.tracking) * static_cast<double>(at - first);
@@ -266,12 +294,14 @@ bool LineFiller::addOne(qsizetype start, qsizetype &at, Stretch &stretch)
         at += fits ? 1 : 0;
         return fits;
     }
+    if (classAt(at) == PairAdvances::forcedBreakClass)
+        return false;
     const bool fitted = stretch.flow <= stretch.fitting;
     stretch.flow += advance(at) + m_selection.tracking;
     if (stretch.flow > stretch.fitting) {
-        if (!isHangingBlank(m_units[at])) {
-            m_hasGivenUp =
-                m_hasGivenUp || stretch.flow < stretch.overflowing || (fitted && at - start > maxLineLength);
+        if (!hangs(m_units[at])) {
+            m_hasGivenUp = m_hasGivenUp || stretch.flow < stretch.overflowing
+                || (fitted && isTooLong(start, at, stretch));
             return false;
         }
         if (fitted)
@@ -292,13 +322,13 @@ bool LineFiller::movePastTab(qsizetype start, qsizetype at, Stretch &stretch)
     const TabStop stop = m_tabStops->nextAfter(position - margin);
     const bool isCertain = stop == m_tabStops->nextAfter(position + margin);
     const bool fits = stop.position <= m_edges->end + LineEdges::tolerance;
-    if (fits && (!isCertain || stop.alignment != TabAlignment::Left || at - start > maxLineLength))
+    if (fits && (!isCertain || stop.alignment != TabAlignment::Left || isTooLong(start, at, stretch)))
         m_hasGivenUp = true;
     stretch = stretchAt(at + 1, stop.position);
     return true;
 }
 
-// The character that does not fit into the line; absent if all do.
+// The character that does not fit into the line, or ends it; absent if all fit.
 std::optional<qsizetype> LineFiller::findObstacle(qsizetype start, Stretch &stretch)
 {
     qsizetype at = start;
@@ -308,14 +338,13 @@ std::optional<qsizetype> LineFiller::findObstacle(qsizetype start, Stretch &stre
     }
     while (at < m_length) {
         if (!m_chain.holds(at))
-            at = addBlocks(at, stretch);
-        const qsizetype end = std::min(m_length, at + blockLength);
-        while (at < end || (at < m_length && m_chain.holds(at))) {
+            at = addPlain(addBlocks(at, stretch), stretch);
+        if (at < m_length) {
             const bool fits = addOne(start, at, stretch);
             if (m_hasGivenUp || !fits)
                 return at;
         }
-        if (at - start > maxLineLength && stretch.flow <= stretch.overflowing)
+        if (isTooLong(start, at, stretch) && stretch.flow <= stretch.overflowing)
             m_hasGivenUp = true;
     }
     return std::nullopt;
@@ -350,25 +379,29 @@ bool LineFiller::fitsWhenBrokenAt(qsizetype start, qsizetype end, const Stretch 
     return flow <= stretch.fitting;
 }
 
-qsizetype LineFiller::breakWithinWord(qsizetype start, qsizetype obstacle) const
+LineBreaker::Line LineFiller::breakWithinWord(qsizetype start, qsizetype obstacle) const
 {
     qsizetype end = std::max(start + 1, obstacle);
     bool hasTab = false;
     for (; end < m_length; ++end) {
         const bool isTab = m_units[end] == u'\t';
-        if ((!isTab && !isHangingBlank(m_units[end])) || (isTab && std::exchange(hasTab, true)))
+        if ((!isTab && !hangs(m_units[end])) || (isTab && std::exchange(hasTab, true)))
             break;
+        if (isForcedLineBreak(m_units[end]))
+            return {end + 1, true};
     }
-    return end;
+    return {end, false};
 }
 
-qsizetype LineFiller::nextLine(qsizetype start)
+LineBreaker::Line LineFiller::nextLine(qsizetype start)
 {
     Stretch stretch = stretchAt(start, start == 0 ? m_edges->firstIndent : m_edges->indent);
     const std::optional<qsizetype> obstacle = findObstacle(start, stretch);
     m_startsWithinWord = false;
     if (!obstacle || m_hasGivenUp)
-        return m_length;
+        return {m_length, false};
+    if (isForcedLineBreak(m_units[*obstacle]))
+        return {*obstacle + 1, true};
     // As LineBreaker does.
     constexpr int maxAttempts = 4;
     qsizetype end = m_breaks.lastAtOrBefore(*obstacle);
@@ -382,27 +415,18 @@ qsizetype LineFiller::nextLine(qsizetype start)
     }
     end = std::max(end, stretch.start);
     if (end > start)
-        return end;
+        return {end, false};
     m_startsWithinWord = true;
     return breakWithinWord(start, *obstacle);
 }
 
-void LineFiller::checkSafePlaces(qsizetype start, qsizetype end)
+void LineFiller::checkSafePlaces(qsizetype end)
 {
-    constexpr qsizetype shortLine = 512;
-    if (m_hasGivenUp)
-        return;
-    if (end - start > shortLine) {
-        for (qsizetype at = start + 1; at <= end && at - m_lastSafePlace <= maxUnsafeLength; ++at) {
-            if (!isUnsafe(at))
-                m_lastSafePlace = at;
-        }
-    } else {
-        qsizetype at = end;
-        while (at > start && isUnsafe(at))
+    while (!m_hasGivenUp && end - m_lastSafePlace > maxUnsafeLength) {
+        qsizetype at = m_lastSafePlace + maxUnsafeLength;
+        while (at > m_lastSafePlace && isUnsafe(at))
             --at;
-        if (at > start)
-            m_lastSafePlace = at;
+        m_hasGivenUp = at == m_lastSafePlace;
+        m_lastSafePlace = at;
     }
-    m_hasGivenUp = end - m_lastSafePlace > maxUnsafeLength;
 }

@@ -39,27 +39,44 @@ private:
         double flow = 0; // font units, its advance so far
         double fitting = 0; // a flow that fits for certain
         double overflowing = 0; // a flow that does not, for certain
+        qsizetype weightless = 0; // characters without an advance, as far as known
     };
 
     [[nodiscard]] bool selectStyle(const TextAttributes &attributes, quint32 script);
     [[nodiscard]] PairAdvances *pairsFor(const TextStyle &style, quint32 script);
     [[nodiscard]] std::optional<quint32> findScript() const;
 
-    qsizetype nextLine(qsizetype start);
+    LineBreaker::Line nextLine(qsizetype start);
     [[nodiscard]] std::optional<qsizetype> findObstacle(qsizetype start, Stretch &stretch);
     qsizetype addBlocks(qsizetype at, Stretch &stretch) const;
+    qsizetype addPlain(qsizetype at, Stretch &stretch) const;
     [[nodiscard]] bool addOne(qsizetype start, qsizetype &at, Stretch &stretch);
     void skipBlanks(qsizetype start, qsizetype &at, Stretch &stretch);
     [[nodiscard]] bool movePastTab(qsizetype start, qsizetype at, Stretch &stretch);
     [[nodiscard]] Stretch stretchAt(qsizetype start, double base);
     [[nodiscard]] bool fitsWhenBrokenAt(qsizetype start, qsizetype end, const Stretch &stretch);
-    [[nodiscard]] qsizetype breakWithinWord(qsizetype start, qsizetype obstacle) const;
-    void checkSafePlaces(qsizetype start, qsizetype end);
+    [[nodiscard]] LineBreaker::Line breakWithinWord(qsizetype start, qsizetype obstacle) const;
+    void checkSafePlaces(qsizetype end);
+    [[nodiscard]] static bool isTooLong(qsizetype start, qsizetype at, const Stretch &stretch);
 
     [[nodiscard]] quint8 classAt(qsizetype at) const { return m_classes[m_units[at]]; }
-    int pair(qsizetype at);
+    /// As of PairAdvances::advances().
+    [[nodiscard]] int knownPair(qsizetype at) const
+    {
+        const quint8 next = at + 1 < m_length ? classAt(at + 1) : PairAdvances::endClass;
+        return m_advances[static_cast<size_t>(classAt(at)) << 8 | next];
+    }
+    int pair(qsizetype at)
+    {
+        const int advance = knownPair(at);
+        return advance != PairAdvances::unknown ? advance : measurePair(at);
+    }
+    int measurePair(qsizetype at);
     double advance(qsizetype at);
-    [[nodiscard]] bool isJoined(qsizetype at);
+    [[nodiscard]] bool isJoined(qsizetype at)
+    {
+        return at >= 0 && at + 1 < m_length && pair(at) == PairAdvances::joined;
+    }
     [[nodiscard]] bool isInChain(qsizetype at) { return isJoined(at - 1) || isJoined(at); }
     void loadChain(qsizetype at);
     [[nodiscard]] bool isUnsafe(qsizetype at);

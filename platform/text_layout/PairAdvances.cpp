@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_layout/PairAdvances.h"
 
+#include "platform/segmentation/LineBreaks.h"
 #include "platform/segmentation/PlainCharacters.h"
 #include "platform/segmentation/ScriptRuns.h"
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr size_t classCount = 256;
 constexpr quint8 unknownClass = 0;
+constexpr quint8 controlClass = 1; // of the control characters without an advance
 constexpr quint8 unsupportedClass = 0x7F; // no text has a printable character there
 
 // Blocks of letters and punctuation whose rules are read. Other characters are only supported if no rule
@@ -46,16 +48,32 @@ PairAdvances::PairAdvances(FontChain &fonts, Shaper &shaper, const ShapingStyle 
     m_classes.resize(size_t{1} << 16);
     m_advances.resize(classCount * classCount, unknown);
     m_isUnsafe.resize(classCount * classCount);
-    for (char16_t control = 0; control < u' '; ++control)
-        m_classes[control] = unsupportedClass;
-    m_classes[unsupportedClass] = unsupportedClass;
-    m_classes[endClass] = endClass;
+    addControls();
     for (size_t other = 0; other < classCount; ++other) {
-        const auto second = static_cast<quint8>(other);
-        at(unsupportedClass, second) = unsupported;
-        at(second, unsupportedClass) = unsupported;
-        at(endClass, second) = unsupported;
+        const auto own = static_cast<quint8>(other);
+        at(endClass, own) = unsupported;
+        at(forcedBreakClass, own) = unsupported;
+        at(controlClass, own) = 0;
     }
+    for (size_t other = 0; other < classCount; ++other) {
+        const auto own = static_cast<quint8>(other);
+        at(unsupportedClass, own) = unsupported;
+        at(own, unsupportedClass) = unsupported;
+    }
+}
+
+// Control characters are invisible, and not shaped with the text around them.
+void PairAdvances::addControls()
+{
+    // Tracking adds to every advance but theirs.
+    const quint8 ownClass = m_style.mayHaveLigatures() ? controlClass : unsupportedClass;
+    for (char16_t unit = 0; unit < 0xA0; ++unit) {
+        if (isInvisibleControl(unit))
+            m_classes[unit] = ownClass;
+    }
+    for (const char16_t unit : {u'\v', u'\f', u'\u0085', u'\u2028'})
+        m_classes[unit] = isForcedLineBreak(unit) ? forcedBreakClass : unsupportedClass;
+    m_classes[endClass] = endClass;
 }
 
 bool PairAdvances::isCandidate(char16_t unit) const
@@ -140,7 +158,7 @@ int PairAdvances::advanceOfPair(char16_t first, char16_t second, bool &isUnsafe)
         const bool isUsable = advance >= 0 && advance < limit / 64 && advance == std::floor(advance);
         return isUsable ? static_cast<int>(advance) : unsupported;
     };
-    if (second == endClass) {
+    if (isApart(second)) {
         shape(0, 1);
         return supported(advances[0]);
     }

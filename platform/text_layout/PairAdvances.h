@@ -10,6 +10,13 @@
 
 #include <array>
 
+/// Whether text is not shaped together with what follows or precedes this code unit: a tab or another
+/// control.
+inline bool isApart(char16_t unit)
+{
+    return unit == u'\t' || isInvisibleControl(unit);
+}
+
 class PairAdvances {
 public:
     // Values of advance() that are not advances; greater than any sum of a few advances.
@@ -32,6 +39,8 @@ public:
     [[nodiscard]] const int *advances() const { return m_advances.data(); }
     /// The class that stands for a tab or the end of the text as next character.
     static constexpr quint8 endClass = u'\t';
+    /// That of a control character that ends a line; like a tab, it has no advance of its own here.
+    static constexpr quint8 forcedBreakClass = u'\v';
 
     /// Finds the advance of a pair that is unknown, so that from now on advances() has it.
     void measure(char16_t first, char16_t second);
@@ -51,6 +60,7 @@ private:
         quint8 ownClass;
     };
 
+    void addControls();
     [[nodiscard]] bool isCandidate(char16_t unit) const;
     void collectGlyphs(hb_set_t *glyphs) const;
     quint8 classify(char16_t unit);

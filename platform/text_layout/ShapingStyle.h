@@ -39,6 +39,7 @@ public:
 
     [[nodiscard]] const FontFace &face() const { return m_face; }
     [[nodiscard]] quint32 script() const { return m_script; }
+    [[nodiscard]] bool mayHaveLigatures() const { return m_hasLigatures; }
 
     /// The glyph of a character alone. Returns false if the font has none.
     bool glyphOf(char32_t character, quint32 &glyph) const;

@@ -22,6 +22,13 @@ inline constexpr double attachmentAdvance = 32; // points
 /// about that of a letter in Helvetica.
 inline constexpr double fontlessAdvance = 0.55;
 
+/// Whether a code unit is a control character without an advance: all but the tab.
+inline bool isInvisibleControl(char16_t unit)
+{
+    const bool isControl = unit < 0x20 || (unit >= 0x7F && unit < 0xA0) || unit == 0x2028 || unit == 0x2029;
+    return isControl && unit != u'\t';
+}
+
 /// The attributes of a text that affect widths. All numbers are finite and in their ranges.
 struct TextStyle {
     FontChain *fonts = nullptr; ///< null if the machine has none
