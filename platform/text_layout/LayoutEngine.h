@@ -67,6 +67,6 @@ private:
     FontLibrary m_fonts;
     MeasuredParagraph m_paragraph;
     LineBreaks m_breaks;
-    LineFiller m_filler{m_paragraph, m_breaks};
+    LineFiller m_filler{m_fonts, m_paragraph.shaper(), m_breaks};
     bool m_isByPairs;
 };

@@ -49,11 +49,7 @@ public:
 
     [[nodiscard]] TextStyle styleOfSeparator(qsizetype position) { return m_itemizer.styleAt(position); }
 
-    // For those who measure without a paragraph.
-    [[nodiscard]] TextStyle resolve(const TextAttributes &attributes)
-    {
-        return m_itemizer.resolve(attributes);
-    }
+    /// For those who measure without a paragraph.
     [[nodiscard]] Shaper &shaper() { return m_shaper; }
 
 private:

@@ -31,7 +31,7 @@ constexpr int lastClass = 0xFF;
 
 } // namespace
 
-PairAdvances::PairAdvances(FontChain &fonts, Shaper &shaper, const ShapingStyle &style)
+PairAdvances::PairAdvances(FontChain *fonts, Shaper &shaper, const ShapingStyle &style)
     : m_fonts(fonts)
     , m_shaper(shaper)
     , m_style(style)
@@ -107,7 +107,7 @@ quint8 PairAdvances::findClass(char16_t unit)
 {
     hb_codepoint_t glyph = 0;
     if (!isCandidate(unit) || !m_style.glyphOf(unit, glyph) || hb_set_has(m_rules.changed.get(), glyph)
-        || m_fonts.faceFor(QStringView(&unit, 1), nullptr) != &m_style.face())
+        || (m_fonts && m_fonts->faceFor(QStringView(&unit, 1), nullptr) != &m_style.face()))
         return unsupportedClass;
     if (hb_set_has(m_named.get(), glyph))
         return hb_set_has(m_covered.get(), glyph) ? addClass(unit) : unsupportedClass;

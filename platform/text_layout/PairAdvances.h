@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // PairAdvances gives the advance of a character from itself and the next one, for the characters of one
 // shaping style whose advances depend on nothing else; FontRules knows which. It measures each pair once,
-// when a text first has it. Adding up is left to LineFiller.
-// Thread: one at a time.  Owner: LineFiller.
+// when a text first has it. Adding up is left to PairText and LineFiller.
+// Thread: one at a time.  Owner: PairRuns.
 #pragma once
 
 #include "platform/text_layout/FontRules.h"
@@ -26,9 +26,9 @@ public:
     /// Anything less than this is an advance, in font units.
     static constexpr int limit = unknown;
 
-    /// fonts: only characters are supported for which its first font is used.
-    /// style: of that font, and from left to right; both must outlive this object.
-    PairAdvances(FontChain &fonts, Shaper &shaper, const ShapingStyle &style);
+    /// style: from left to right. fonts: unless null, only characters are supported for which these give the
+    /// font of the style. All must outlive this object.
+    PairAdvances(FontChain *fonts, Shaper &shaper, const ShapingStyle &style);
 
     /// If false, no character is supported.
     [[nodiscard]] bool isUsable() const { return m_rules.areSimple; }
@@ -70,7 +70,7 @@ private:
 
     int &at(quint8 first, quint8 second) { return m_advances[static_cast<size_t>(first) << 8 | second]; }
 
-    FontChain &m_fonts;
+    FontChain *m_fonts;
     Shaper &m_shaper;
     const ShapingStyle &m_style;
     FontRules m_rules;

@@ -15,9 +15,9 @@ class LineFilling : public QuillbayTest {
 protected:
     struct Filler {
         FontLibrary fonts;
-        MeasuredParagraph measured{fonts, true};
+        Shaper shaper;
         LineBreaks breaks;
-        LineFiller lines{measured, breaks};
+        LineFiller lines{fonts, shaper, breaks};
 
         std::optional<Ends> endsOf(const AttributedString &text, double width)
         {
@@ -144,9 +144,9 @@ TEST_F(LineFilling, EndsEveryLineWhereTheSimpleLayoutDoes)
         QStringLiteral("Courier"), QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans"),
         QStringLiteral("Noto Serif")};
     std::mt19937 random(30);
-    Filler filler;
     LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
     for (const Sample &sample : samples()) {
+        Filler filler; // of its own, as an engine has a limited number of tables
         int filled = 0;
         constexpr int rounds = 120;
         for (int round = 0; round < rounds; ++round) {
@@ -166,6 +166,52 @@ TEST_F(LineFilling, EndsEveryLineWhereTheSimpleLayoutDoes)
     }
 }
 
+// Words in several styles, scripts and fonts, among them fonts that the text does not name.
+TEST_F(LineFilling, EndsEveryLineOfMixedTextsWhereTheSimpleLayoutDoes)
+{
+    useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf"), QStringLiteral("NimbusSans-Bold.otf"),
+        QStringLiteral("NimbusSans-Italic.otf"), QStringLiteral("DejaVuSans.ttf"),
+        QStringLiteral("NotoSansCJK-Regular.ttc")});
+    const QStringList families{QStringLiteral("Helvetica"), QStringLiteral("DejaVu Sans")};
+    const Sample chinese{"Chinese",
+        QStringLiteral("他们 现在 学校 图书馆 ， 。 “好” 2024 年 「引」 A").split(u' '),
+        QStringLiteral("的一是不了，。！？（）1a ")};
+    const Sample japanese{"Japanese",
+        QStringLiteral("東京 です を コンピューター 、 。 「本」 っ ー Web").split(u' '),
+        QStringLiteral("のはをに漢字カナ、。「」ー ")};
+    std::vector<Sample> parts = samples();
+    parts.push_back(chinese);
+    parts.push_back(japanese);
+    std::mt19937 random(33);
+    std::optional<Filler> filler;
+    LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
+    int filled = 0;
+    constexpr int rounds = 200;
+    for (int round = 0; round < rounds; ++round) {
+        if (round % 20 == 0)
+            filler.emplace();
+        AttributedStringBuilder builder;
+        TextAttributes attributes = randomAttributes(families, random);
+        attributes.font->tracking = 0;
+        while (builder.length() < 500) {
+            const QString words = randomText(parts[random() % parts.size()], random);
+            builder.append(words.left(1 + static_cast<qsizetype>(random() % 80)), attributes);
+            FontAttributes &font = *attributes.font;
+            font.weight = random() % 2 ? regularFontWeight : boldFontWeight;
+            font.slant = random() % 3 ? FontSlant::Upright : FontSlant::Italic;
+            font.pointSize = random() % 2 ? 12 : 9.5;
+        }
+        const AttributedString text = builder.build();
+        const double width = 40 + static_cast<double>(random() % 5000) / 7;
+        const std::optional<Ends> ends = filler->endsOf(text, width);
+        if (!ends)
+            continue;
+        ++filled;
+        ASSERT_EQ(*ends, exactEndsOf(exact, text, width)) << width << ": " << text.string().toStdString();
+    }
+    EXPECT_GE(filled, rounds / 2);
+}
+
 TEST_F(LineFilling, FillsPlainTextOnAMachineWithOneFont)
 {
     useOnlyFonts({QStringLiteral("DejaVuSans.ttf")});
@@ -182,6 +228,23 @@ TEST_F(LineFilling, FillsPlainTextOnAMachineWithOneFont)
         ASSERT_EQ(*ends, exactEndsOf(exact, text, 200)) << text.string().toStdString();
     }
     EXPECT_GE(filled, 55);
+}
+
+// Tables are discarded and made again.
+TEST_F(LineFilling, FillsTextsInMoreStylesThanItHasTablesFor)
+{
+    useOnlyFonts({QStringLiteral("DejaVuSans.ttf")});
+    Filler filler;
+    LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
+    const QString prose = QStringLiteral("All of these words have a style of their own. ").repeated(200);
+    const Ends expected = exactEndsOf(exact, AttributedString(prose), 300);
+    for (int style = 0; style < 120; ++style) {
+        TextAttributes attributes;
+        attributes.font = FontAttributes{.family = QStringLiteral("DejaVu Sans"), .weight = 300 + style % 60};
+        const std::optional<Ends> ends = filler.endsOf(AttributedString(prose, attributes), 300);
+        ASSERT_TRUE(ends) << style;
+        ASSERT_EQ(*ends, expected) << style;
+    }
 }
 
 TEST_F(LineFilling, BreaksLongWordsWithinLigaturesLikeTheSimpleLayout)
@@ -209,7 +272,7 @@ TEST_F(LineFilling, LeavesWhatItCannotProveToTheSimpleLayout)
     const QStringView plain = u"plain words";
     ASSERT_TRUE(filler.endsOf(styled(plain.toString()), 100));
     const QStringView others[]{u"soft\u00ADhyphen", u"e\u0301", u"1\u20442", u"a\u200Bb", u"شكرا",
-        u"Latin и кириллица", u"\xD83D\xDE00", u"a\uFFFC", u"漢字"};
+        u"\xD83D\xDE00", u"a\uFFFC", u"한국어"};
     for (const QStringView other : others) {
         EXPECT_FALSE(filler.endsOf(styled(plain.toString() + other.toString()), 100))
             << other.toUtf8().toStdString();

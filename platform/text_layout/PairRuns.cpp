@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text_layout/PairRuns.h"
+
+#include "platform/segmentation/PlainCharacters.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr size_t maxTables = 48; // of a third of a megabyte each
+constexpr size_t maxKnownStyles = 4096;
+
+// When all tables are in use, another one is made for a style only after this much text, for which the time
+// to make it is short.
+constexpr qsizetype minDemand = 8'192; // UTF-16 code units
+
+} // namespace
+
+PairRuns::PairRuns(FontLibrary &fonts, Shaper &shaper)
+    : m_itemizer(fonts)
+    , m_shaper(shaper)
+{
+}
+
+bool PairRuns::setParagraph(const AttributedString &text, const Paragraph &paragraph, bool isOneRun)
+{
+    m_runs.clear();
+    m_length = paragraph.contentLength;
+    m_runsEnd = 0;
+    m_isItemized = !isOneRun;
+    if (isOneRun)
+        return addOneRun(text, paragraph);
+    if (!isPlain(paragraph.content(text.string())))
+        return false;
+    m_itemizer.setParagraph(text, paragraph);
+    return addNextRun();
+}
+
+bool PairRuns::isPlain(QStringView content)
+{
+    for (const QChar character : content) {
+        const char16_t unit = character.unicode();
+        std::unique_ptr<PlainPage> &page = m_plainPages[unit >> 8];
+        if (!page) {
+            page = std::make_unique<PlainPage>();
+            for (unsigned low = 0; low < page->size(); ++low) {
+                const auto other = static_cast<char16_t>((unit & 0xFF00) | low);
+                (*page)[low] = isPlainCharacter(other) || isApart(other);
+            }
+        }
+        if (!(*page)[unit & 0xFF])
+            return false;
+    }
+    return true;
+}
+
+bool PairRuns::addOneRun(const AttributedString &text, const Paragraph &paragraph)
+{
+    const AttributedString::Run attributesRun = text.run(text.runIndexAt(paragraph.start));
+    const std::optional<quint32> script = findScript(paragraph.content(text.string()));
+    if (attributesRun.start + attributesRun.length < paragraph.start + m_length || !script)
+        return false;
+    const TextAttributes &attributes = text.distinctAttributes()[attributesRun.attributesIndex];
+    if (!m_oneRun.pairs || m_script != *script || m_language != attributes.language
+        || m_font != attributes.font) {
+        m_font = attributes.font;
+        m_language = attributes.language;
+        m_script = *script;
+        const TextStyle style = m_itemizer.resolve(attributes);
+        const TextRun run{.start = 0,
+            .end = m_length,
+            .kind = TextRun::Kind::Text,
+            .isCut = false,
+            .isRightToLeft = false,
+            .script = *script,
+            .face = style.fonts ? style.fonts->primary() : nullptr,
+            .style = style};
+        m_oneRun = makeRun(run);
+    }
+    if (!m_oneRun.pairs)
+        return false;
+    m_oneRun.end = m_length;
+    m_runsEnd = m_length;
+    m_runs.push_back(m_oneRun);
+    return true;
+}
+
+// The script of the first letter; characters that scripts share take it on.
+std::optional<quint32> PairRuns::findScript(QStringView content) const
+{
+    for (const QChar character : content) {
+        const char16_t unit = character.unicode();
+        if (unit < 0x80) {
+            const int lower = unit | 0x20;
+            if (lower >= u'a' && lower <= u'z')
+                return scriptOfPlainCharacter(unit);
+            continue;
+        }
+        if (isInvisibleControl(unit))
+            continue;
+        if (!isPlainCharacter(unit))
+            return std::nullopt;
+        const quint32 script = scriptOfPlainCharacter(unit);
+        if (script != sharedScript)
+            return script;
+    }
+    return sharedScript;
+}
+
+const PairRun *PairRuns::runAt(qsizetype position)
+{
+    while (m_isItemized && m_runsEnd <= position) {
+        if (!addNextRun())
+            return nullptr;
+    }
+    const auto behind = std::upper_bound(m_runs.begin(), m_runs.end(), position,
+        [](qsizetype wanted, const PairRun &run) { return wanted < run.start; });
+    return behind != m_runs.begin() ? &*(behind - 1) : nullptr;
+}
+
+void PairRuns::discardBefore(qsizetype position)
+{
+    while (m_runs.size() > 1 && m_runs.front().end <= position)
+        m_runs.pop_front();
+}
+
+// Tabs and controls count to the run before them, or after them at the paragraph's start: they are measured
+// alone.
+bool PairRuns::addNextRun()
+{
+    while (!m_itemizer.isAtEnd()) {
+        const TextRun run = m_itemizer.next(std::numeric_limits<qsizetype>::max() / 2);
+        const bool isApart = run.kind == TextRun::Kind::Tab || run.kind == TextRun::Kind::Invisible;
+        if (isApart && !m_runs.empty()) {
+            m_runs.back().end = run.end;
+            m_runsEnd = run.end;
+            return true;
+        }
+        if (isApart)
+            continue;
+        if (run.kind != TextRun::Kind::Text || run.isRightToLeft || !run.face)
+            return false;
+        PairRun added = makeRun(run);
+        if (!added.pairs)
+            return false;
+        added.start = m_runsEnd;
+        added.end = run.end;
+        m_runsEnd = run.end;
+        m_runs.push_back(added);
+        return true;
+    }
+    return false;
+}
+
+PairRun PairRuns::makeRun(const TextRun &run)
+{
+    PairRun made;
+    if (!run.face || run.style.tracking < 0)
+        return made;
+    FontChain *const fonts = run.face == run.style.fonts->primary() ? run.style.fonts : nullptr;
+    made.pairs = tableFor({fonts, &m_shaper.styleOf(run)}, run.end - run.start);
+    made.pointsPerUnit = run.style.pointSize / run.face->unitsPerEm();
+    made.tracking = run.style.tracking / made.pointsPerUnit;
+    return made;
+}
+
+PairAdvances *PairRuns::tableFor(TableKey key, qsizetype length)
+{
+    if (m_tables.size() >= maxKnownStyles && !m_tables.contains(key))
+        return nullptr;
+    Table &table = m_tables[key];
+    table.lastUse = ++m_uses;
+    if (!table.pairs) {
+        table.demand += length;
+        if (m_tableCount >= maxTables) {
+            const bool areAllInUse = !m_runs.empty(); // by the paragraph's other runs
+            if (table.demand < minDemand || areAllInUse)
+                return nullptr;
+            discardLeastUsed();
+        }
+        table.pairs = std::make_unique<PairAdvances>(key.first, m_shaper, *key.second);
+        table.demand = 0;
+        ++m_tableCount;
+    }
+    return table.pairs->isUsable() ? table.pairs.get() : nullptr;
+}
+
+void PairRuns::discardLeastUsed()
+{
+    const auto least =
+        std::min_element(m_tables.begin(), m_tables.end(), [](const auto &left, const auto &right) {
+            return std::pair(!left.second.pairs, left.second.lastUse)
+                < std::pair(!right.second.pairs, right.second.lastUse);
+        });
+    least->second.pairs.reset();
+    m_oneRun = {};
+    --m_tableCount;
+}
