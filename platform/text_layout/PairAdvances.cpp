@@ -45,6 +45,7 @@ PairAdvances::PairAdvances(FontChain *fonts, Shaper &shaper, const ShapingStyle 
     if (!m_rules.areSimple)
         return;
     m_named = style.namedGlyphs();
+    m_hasKerningTable = style.mayHaveKerningTable();
     m_classes.resize(size_t{1} << 16);
     m_advances.resize(classCount * classCount, unknown);
     m_isUnsafe.resize(classCount * classCount);
@@ -109,7 +110,7 @@ quint8 PairAdvances::findClass(char16_t unit)
     if (!isCandidate(unit) || !m_style.glyphOf(unit, glyph) || hb_set_has(m_rules.changed.get(), glyph)
         || (m_fonts && m_fonts->faceFor(QStringView(&unit, 1), nullptr) != &m_style.face()))
         return unsupportedClass;
-    if (hb_set_has(m_named.get(), glyph))
+    if (m_hasKerningTable || hb_set_has(m_named.get(), glyph))
         return hb_set_has(m_covered.get(), glyph) ? addClass(unit) : unsupportedClass;
     // No pair begins with it, and as second of a pair all such glyphs are equal.
     float advance = 0;

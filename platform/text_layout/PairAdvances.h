@@ -76,6 +76,7 @@ private:
     FontRules m_rules;
     GlyphSet m_named;
     GlyphSet m_covered; // by m_rules
+    bool m_hasKerningTable = false; // so that any glyph may be in a pair
     std::vector<quint8> m_classes; // by code unit
     std::vector<int> m_advances; // by pair of classes
     std::vector<bool> m_isUnsafe;

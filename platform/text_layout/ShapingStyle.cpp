@@ -58,19 +58,25 @@ ShapingStyle::ShapingStyle(const TextRun &run, quint32 number)
     m_areWordsSeparable = isOfOpenTypeRules() && !hb_set_has(namedGlyphs().get(), space);
 }
 
+bool ShapingStyle::hasTable(quint32 tag, bool onlyOfVersionOne) const
+{
+    hb_blob_t *table = hb_face_reference_table(hb_font_get_face(m_face.shapingFont()), tag);
+    unsigned length = 0;
+    const char *data = hb_blob_get_data(table, &length);
+    const bool isThere = length > 1 && (!onlyOfVersionOne || data[1] == 1);
+    hb_blob_destroy(table);
+    return isThere;
+}
+
+bool ShapingStyle::mayHaveKerningTable() const
+{
+    return hasTable(HB_TAG('k', 'e', 'r', 'n'), false);
+}
+
 // AAT tables are state machines over any number of glyphs, which HarfBuzz does not list. A 'kern' table of
 // version 1 is one, too; one of version 0 has only pairs.
 bool ShapingStyle::hasStateMachines() const
 {
-    const hb_face_t *const face = hb_font_get_face(m_face.shapingFont());
-    const auto hasTable = [face](hb_tag_t tag, bool onlyOfVersionOne) {
-        hb_blob_t *table = hb_face_reference_table(face, tag);
-        unsigned length = 0;
-        const char *data = hb_blob_get_data(table, &length);
-        const bool isThere = length > 1 && (!onlyOfVersionOne || data[1] == 1);
-        hb_blob_destroy(table);
-        return isThere;
-    };
     return hasTable(HB_TAG('m', 'o', 'r', 'x'), false) || hasTable(HB_TAG('m', 'o', 'r', 't'), false)
         || hasTable(HB_TAG('k', 'e', 'r', 'x'), false) || hasTable(HB_TAG('k', 'e', 'r', 'n'), true);
 }

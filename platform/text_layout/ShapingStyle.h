@@ -46,10 +46,13 @@ public:
 
     /// Whether the only rules that apply here are those that rulesFor() and namedGlyphs() know.
     [[nodiscard]] bool isOfOpenTypeRules() const;
+    /// Whether there may be kerning that no rule names: of a 'kern' table, which has pairs.
+    [[nodiscard]] bool mayHaveKerningTable() const;
     [[nodiscard]] FontRules rulesFor(const hb_set_t *glyphs) const;
     [[nodiscard]] GlyphSet namedGlyphs() const;
 
 private:
+    [[nodiscard]] bool hasTable(quint32 tag, bool onlyOfVersionOne) const;
     [[nodiscard]] bool hasStateMachines() const;
 
     struct PlanDeleter {

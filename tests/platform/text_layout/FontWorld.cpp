@@ -14,7 +14,8 @@ QString installedFont(const QString &fileName)
     static const QStringList folders{QStringLiteral("/usr/share/fonts/opentype/urw-base35"),
         QStringLiteral("/usr/share/fonts/type1/urw-base35"),
         QStringLiteral("/usr/share/fonts/truetype/dejavu"), QStringLiteral("/usr/share/fonts/truetype/noto"),
-        QStringLiteral("/usr/share/fonts/opentype/noto")};
+        QStringLiteral("/usr/share/fonts/opentype/noto"),
+        QStringLiteral("/usr/share/fonts/truetype/liberation2")};
     for (const QString &folder : folders) {
         QString path = folder + u'/' + fileName;
         if (QFile::exists(path))

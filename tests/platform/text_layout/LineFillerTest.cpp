@@ -5,6 +5,8 @@
 #include "tests/harness/QuillbayTest.h"
 #include "tests/platform/text_layout/FontWorld.h"
 
+#include <QFile>
+
 #include <random>
 
 namespace {
@@ -228,6 +230,24 @@ TEST_F(LineFilling, FillsPlainTextOnAMachineWithOneFont)
         ASSERT_EQ(*ends, exactEndsOf(exact, text, 200)) << text.string().toStdString();
     }
     EXPECT_GE(filled, 55);
+}
+
+// Of this font, digits among Chinese letters are kerned by the older 'kern' table, which no rule mentions.
+TEST_F(LineFilling, HeedsKerningWithoutRules)
+{
+    if (!QFile::exists(QStringLiteral("/usr/share/fonts/truetype/liberation2/LiberationSerif-Regular.ttf")))
+        GTEST_SKIP() << "the package fonts-liberation2 is not installed";
+    useOnlyFonts({QStringLiteral("LiberationSerif-Regular.ttf"), QStringLiteral("NotoSansCJK-Regular.ttc")});
+    Filler filler;
+    LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
+    for (const QString &text :
+        {QStringLiteral("来2118的图书馆的这一大"), QStringLiteral("2 1 8 11 118 111 1111 21 12")}) {
+        for (double width = 20; width < 120; width += 0.3) {
+            const AttributedString tested = styled(text, QStringLiteral("Liberation Serif"));
+            const Ends expected = exactEndsOf(exact, tested, width);
+            ASSERT_EQ(filler.endsOf(tested, width).value_or(expected), expected) << width;
+        }
+    }
 }
 
 // Tables are discarded and made again.
