@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Lines of generated texts of 20 MB in UTF-8, one style, 451 points wide: bytes per second, and the maximum
-// resident size of the process so far.
+// resident size of the process so far. Beside our layout, its simpler forms, which give the same lines, and
+// QTextLayout, paragraph by paragraph, which does not, all on shorter texts.
 #include "platform/text_layout/LayoutEngine.h"
+
+#include <QGuiApplication>
+#include <QTextLayout>
 
 #include <benchmark/benchmark.h>
 
@@ -13,6 +17,7 @@
 namespace {
 
 constexpr qsizetype byteCount = 20'000'000;
+constexpr qsizetype shortByteCount = 1'000'000;
 constexpr double columnWidth = 451;
 
 struct Language {
@@ -68,14 +73,14 @@ QStringList vocabularyOf(const Language &language, std::mt19937 &random)
 
 // Words as frequent as in natural texts (Zipf), sentences of a dozen words, paragraphs of half a dozen
 // sentences.
-QString textOf(const Language &language)
+QString textOf(const Language &language, qsizetype length)
 {
     std::mt19937 random(1);
     const QStringList words = vocabularyOf(language, random);
     std::uniform_real_distribution<double> uniform(0, std::log(static_cast<double>(words.size())));
     QString text;
     qsizetype bytes = 0;
-    for (int count = 1; bytes < byteCount; ++count) {
+    for (int count = 1; bytes < length; ++count) {
         const qsizetype start = text.size();
         text += words[static_cast<qsizetype>(std::exp(uniform(random))) - 1];
         if (count % 72 == 0)
@@ -87,23 +92,67 @@ QString textOf(const Language &language)
     return text;
 }
 
-void countLines(benchmark::State &state)
+void report(benchmark::State &state, const Language &language, qsizetype bytes, quint64 lines)
 {
-    const Language &language = languages[state.range(0)];
-    const QString text = textOf(language);
-    const AttributedString styled(text);
-    LayoutEngine engine;
-    quint64 lines = 0;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(lines = engine.countLines(styled, columnWidth));
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * byteCount);
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * bytes);
     state.SetLabel(language.name);
     state.counters["lines"] = static_cast<double>(lines);
     state.counters["residentMiB"] = static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
-BENCHMARK(countLines)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+void countLines(benchmark::State &state, LayoutEngine::Shaping shaping, qsizetype bytes)
+{
+    const Language &language = languages[state.range(0)];
+    const AttributedString styled(textOf(language, bytes));
+    LayoutEngine engine(shaping);
+    quint64 lines = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(lines = engine.countLines(styled, columnWidth));
+    report(state, language, bytes, lines);
+}
+
+void countLinesWithQt(benchmark::State &state)
+{
+    const Language &language = languages[state.range(0)];
+    const QStringList paragraphs = textOf(language, shortByteCount).split(u'\n');
+    QFont font(QStringLiteral("Helvetica"));
+    font.setPixelSize(12);
+    quint64 lines = 0;
+    for (auto _ : state) {
+        lines = 0;
+        for (const QString &paragraph : paragraphs) {
+            QTextLayout layout(paragraph, font);
+            layout.beginLayout();
+            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine(), ++lines)
+                line.setLineWidth(columnWidth);
+            layout.endLayout();
+        }
+    }
+    report(state, language, shortByteCount, lines);
+}
+
+BENCHMARK_CAPTURE(countLines, ByPairs, LayoutEngine::Shaping::ByPairs, byteCount)
+    ->DenseRange(0, 3)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countLines, ByPairsShort, LayoutEngine::Shaping::ByPairs, shortByteCount)
+    ->DenseRange(0, 3)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countLines, ByWords, LayoutEngine::Shaping::ByWords, shortByteCount)
+    ->DenseRange(0, 3)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countLines, WholeRuns, LayoutEngine::Shaping::WholeRuns, shortByteCount)
+    ->DenseRange(0, 3)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(countLinesWithQt)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argumentCount, arguments);
+    benchmark::Initialize(&argumentCount, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+}
