@@ -47,12 +47,20 @@ void pass(std::chrono::milliseconds duration)
     loop.exec();
 }
 
-/// Lines of twelve words of four letters.
+/// Words of one to seven letters, in paragraphs of 24 and sentences of eight; no paragraph comes twice.
 QByteArray textOf(qint64 words)
 {
-    QByteArray text =
-        QByteArray("word word word word word word word word word word word word\n").repeated(words / 12);
-    return text + QByteArray("word ").repeated(words % 12);
+    QByteArray text;
+    quint32 random = 1;
+    for (qint64 i = 1; i <= words; ++i) {
+        random = random * 1'664'525 + 1'013'904'223;
+        quint32 letters = random >> 8;
+        for (quint32 length = 1 + (random >> 29); length > 0; --length, letters /= 5)
+            text += "etnry"[letters % 5];
+        text += "xa"; // a word alone must not be a single letter
+        text += i % 24 == 0 ? ".\n" : i % 8 == 0 ? ". " : " ";
+    }
+    return text;
 }
 
 void save(const QString &path, const QByteArray &text)
@@ -118,7 +126,7 @@ public:
     void measureSaves(qint64 size, int saves)
     {
         const QString path = m_folder.filePath(QStringLiteral("novel.txt"));
-        qint64 words = size / 5;
+        qint64 words = size * 2 / 15;
         save(path, textOf(words));
         const auto watcher = watch(path);
         wait([&] { return shows(*watcher, words); });
@@ -146,7 +154,7 @@ public:
         std::vector<std::shared_ptr<WatchTextFileMenuBarController>> watchers;
         const auto add = [&] {
             const QString path = m_folder.filePath(QStringLiteral("chapter%1.txt").arg(watchers.size()));
-            save(path, textOf(200'000));
+            save(path, textOf(133'000));
             watchers.push_back(watch(path));
         };
         const auto allRest = [&] {

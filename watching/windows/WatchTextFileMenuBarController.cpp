@@ -76,8 +76,9 @@ void WatchTextFileMenuBarController::readAndCount(const QUrl &url)
     m_firstReading->passResultTo([this](const Text &text) { countFirst(text); });
 }
 
-void WatchTextFileMenuBarController::countFirst(const Text &text)
+void WatchTextFileMenuBarController::countFirst(Text text)
 {
+    m_firstReading.reset(); // keeps the text, too
     m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(false);
     if (text)
         count(text.value());

@@ -113,7 +113,8 @@ private:
     using Text = Result<AttributedString, DocumentError>;
 
     void readAndCount(const QUrl &url);
-    void countFirst(const Text &text);
+    /// text: a copy, as that of the reading is freed.
+    void countFirst(Text text);
     /// whenCounted: called when the counts are on the screen.
     void count(
         const AttributedString &attributedString, const std::function<void()> &whenCounted = [] {});
@@ -140,6 +141,6 @@ private:
     std::unique_ptr<WatchTextFileModel> m_watchFileModel;
     std::unique_ptr<ClockTimer> m_popoverTimer; // until the pop-over opens by itself
     quint64 m_lastCalledOutWordCount = 0;
-    std::optional<BackgroundWork<Text>> m_firstReading; // until a later content replaces it
+    std::optional<BackgroundWork<Text>> m_firstReading; // until it is counted, or a later content is
     bool m_isChangeUncounted = false; // of a Word document, dropped while the panel was counting
 };
