@@ -4,6 +4,7 @@
 // bytes: body, styles, numbering, footnotes, a chunk.
 #include "documents/docx/DocxReader.h"
 #include "documents/reading/DocumentReader.h"
+#include "documents/reading/KindDetection.h"
 #include "fuzz/SoundText.h"
 #include "fuzz/XmlMutator.h"
 #include "tests/documents/docx/PackageWriter.h"

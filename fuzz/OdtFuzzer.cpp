@@ -4,6 +4,7 @@
 // sound document, separated by NUL bytes: body, automatic styles, styles, fonts, settings. It is read as a
 // package and as a flat file.
 #include "documents/odt/OdtReader.h"
+#include "documents/reading/KindDetection.h"
 #include "fuzz/SoundText.h"
 #include "fuzz/XmlMutator.h"
 #include "tests/documents/odt/OdtWriter.h"

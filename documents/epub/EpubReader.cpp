@@ -5,6 +5,8 @@
 #include "documents/html/HtmlReader.h"
 #include "documents/package/ZipPackage.h"
 
+#include <QHash>
+
 #include <new>
 #include <utility>
 
@@ -30,6 +32,34 @@ void appendPage(AttributedStringBuilder &book, AttributedString &last, Attribute
     last = std::move(page);
 }
 
+/// The style sheets of a book, each unpacked once. A sheet that cannot be read hides nothing.
+class BookSheets {
+public:
+    explicit BookSheets(const ZipPackage &package)
+        : m_package(package)
+    {
+    }
+
+    /// To which a page refers.
+    QByteArray sheetAt(const QByteArray &page, const QByteArray &reference)
+    {
+        const QByteArray part = partAt(m_package, page, reference);
+        const auto known = m_sheets.constFind(part);
+        if (known != m_sheets.cend())
+            return *known;
+        const Result<QByteArray, Cause> contents = m_package.contents(part);
+        QByteArray sheet = contents ? contents.value() : QByteArray();
+        constexpr QByteArrayView mark("\xEF\xBB\xBF");
+        if (sheet.startsWith(mark))
+            sheet.remove(0, mark.size());
+        return *m_sheets.insert(part, std::move(sheet));
+    }
+
+private:
+    const ZipPackage &m_package;
+    QHash<QByteArray, QByteArray> m_sheets; // by part
+};
+
 Result<AttributedString, Cause> readBook(QByteArrayView bytes)
 {
     ReadAllowance allowance{.bytes = maxBookLength};
@@ -41,14 +71,17 @@ Result<AttributedString, Cause> readBook(QByteArrayView bytes)
     const Result<std::vector<QByteArray>, Cause> pages = pagesOfEpub(package.value());
     if (!pages)
         return pages.error();
+    BookSheets sheets(package.value());
     AttributedStringBuilder book;
     AttributedString last; // page with text
     for (const QByteArray &part : pages.value()) {
         const Result<QByteArray, Cause> page = package.value().contents(part);
         if (!page)
             return page.error();
-        Result<AttributedString, DocumentError> text =
-            readHtml(page.value(), {.charset = {}, .isXhtml = true});
+        Result<AttributedString, DocumentError> text = readHtml(
+            page.value(), {.charset = {}, .isXhtml = true, .linkedSheet = [&](const QByteArray &reference) {
+                               return sheets.sheetAt(part, reference);
+                           }});
         if (!text)
             return causeOfPage(text.error().cause);
         appendPage(book, last, std::move(text).value());

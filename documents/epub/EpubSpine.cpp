@@ -130,15 +130,6 @@ private:
     std::vector<QByteArray> m_order; // identifiers
 };
 
-/// Some programs do not escape the references that they write.
-QByteArray partAt(const ZipPackage &package, const QByteArray &source, const QByteArray &reference)
-{
-    QByteArray name = resolvePartName(source, reference);
-    if (package.contains(name))
-        return name;
-    return resolvePartName(source, reference.toPercentEncoding("/"));
-}
-
 std::optional<Cause> readXml(const ZipPackage &package, const QByteArray &part, XmlHandler &handler)
 {
     XmlNamespaces namespaces({});
@@ -146,6 +137,15 @@ std::optional<Cause> readXml(const ZipPackage &package, const QByteArray &part, 
 }
 
 } // namespace
+
+// Some programs do not escape the references that they write.
+QByteArray partAt(const ZipPackage &package, const QByteArray &source, const QByteArray &reference)
+{
+    QByteArray name = resolvePartName(source, reference);
+    if (package.contains(name))
+        return name;
+    return resolvePartName(source, reference.toPercentEncoding("/"));
+}
 
 Result<std::vector<QByteArray>, Cause> pagesOfEpub(const ZipPackage &package)
 {

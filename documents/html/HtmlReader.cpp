@@ -14,13 +14,13 @@
 
 namespace {
 
-Result<AttributedString, DocumentError> readUtf8(QByteArrayView page)
+Result<AttributedString, DocumentError> readUtf8(QByteArrayView page, const HtmlOptions &options)
 {
     const Result<HtmlTree, DocumentError::Cause> tree = HtmlTree::parse(page);
     if (!tree)
         return DocumentError(tree.error(), DocumentKind::Html);
     const Result<StyleSheets, DocumentError::Cause> sheets =
-        StyleSheets::ofPage(page, tree.value().document());
+        StyleSheets::ofPage(page, tree.value().document(), options.linkedSheet);
     if (!sheets)
         return DocumentError(sheets.error(), DocumentKind::Html);
     Result<AttributedString, DocumentError::Cause> text =
@@ -40,9 +40,9 @@ Result<AttributedString, DocumentError> readHtml(QByteArrayView bytes, const Htm
         const TextEncoding encoding = encodingOfPage(bytes, options.charset);
         const QByteArrayView page = bytes.sliced(encoding.markLength);
         if (std::strcmp(encoding.name, "UTF-8") == 0 && page.isValidUtf8())
-            return options.isXhtml ? readUtf8(htmlOfXhtml(page)) : readUtf8(page);
+            return readUtf8(options.isXhtml ? htmlOfXhtml(page) : page, options);
         const QByteArray utf8 = decodeText(page, encoding.name).toUtf8();
-        return options.isXhtml ? readUtf8(htmlOfXhtml(utf8)) : readUtf8(utf8);
+        return readUtf8(options.isXhtml ? htmlOfXhtml(utf8) : utf8, options);
     } catch (const std::bad_alloc &) {
         return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Html);
     }

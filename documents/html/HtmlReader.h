@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// HtmlReader turns the bytes of a web page into styled text. Resources of the page (style sheets, images,
-// frames, scripts) are neither fetched nor run.
+// HtmlReader turns the bytes of a web page into styled text. Resources of the page (images, frames, scripts)
+// are neither fetched nor run, and style sheets are those that the caller has.
 // Thread: any.
 //
 // The text is that of the innerText attribute of the root element (HTML standard, "rendered text collection
@@ -16,7 +16,8 @@
 //  - Of the sheets in style elements, display and visibility are applied: by selectors of elements, classes
 //    and ids, with descendants and children, with !important, and by @media as CssText.h supports it. Rules
 //    with other selectors (attributes, pseudo-classes, siblings) are ignored. Sheets do not hide the html
-//    and body elements: such pages are shown by scripts. Linked and imported sheets are not fetched.
+//    and body elements: such pages are shown by scripts. Linked sheets are those of the options, imported
+//    ones are ignored.
 //  - text-transform, generated content (quotation marks of q, list markers, numbers), images and their
 //    alternative texts add no text.
 //  - Scripting counts as enabled: noscript is hidden. Details and dialogs that are not open, and popovers,
@@ -39,9 +40,14 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
+#include <functional>
+
 struct HtmlOptions {
     QByteArray charset; ///< from a MIME type or an HTTP header; ignored if empty or unknown
     bool isXhtml = false; ///< the page is known to be XML; see XhtmlSource.h
+    /// The style sheet to which a link element of the page refers, in UTF-8; empty where there is none.
+    /// reference: as the page has it. Without this function, linked sheets do not apply.
+    std::function<QByteArray(const QByteArray &reference)> linkedSheet = {};
 };
 
 /// Accepts any sequence of bytes. encodingOfPage() determines the encoding from a byte order mark, the

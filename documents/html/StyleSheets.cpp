@@ -5,14 +5,15 @@
 #include "documents/html/HtmlStyle.h"
 #include "platform/text_encoding/AsciiBytes.h"
 
+#include <QByteArrayList>
+
 #include <cstring>
 
 namespace {
 
 /// Fast: most pages have none, and long pages are long to walk.
-bool mayHaveStyleElement(QByteArrayView page)
+bool mayHaveElement(QByteArrayView page, QByteArrayView tag)
 {
-    constexpr QByteArrayView tag("<style");
     for (const char *at = page.begin(); at != page.end(); ++at) {
         at = static_cast<const char *>(std::memchr(at, '<', static_cast<size_t>(page.end() - at)));
         if (!at)
@@ -23,10 +24,14 @@ bool mayHaveStyleElement(QByteArrayView page)
     return false;
 }
 
-bool isStyleSheet(const GumboElement &element)
+bool isStyleElement(const GumboElement &element)
 {
-    if (element.tag != GUMBO_TAG_STYLE && !isElement(element, GUMBO_NAMESPACE_SVG, "style"))
-        return false;
+    return element.tag == GUMBO_TAG_STYLE || isElement(element, GUMBO_NAMESPACE_SVG, "style");
+}
+
+/// Whether the sheet of a style or link element applies.
+bool isForScreens(const GumboElement &element)
+{
     const GumboAttribute *type = gumbo_get_attribute(&element.attributes, "type");
     const GumboAttribute *media = gumbo_get_attribute(&element.attributes, "media");
     return (!type || *type->value == '\0' || qstricmp(type->value, "text/css") == 0)
@@ -39,8 +44,30 @@ bool areSheetsInsideRead(const GumboNode &node)
     return node.type == GUMBO_NODE_ELEMENT && node.v.element.tag != GUMBO_TAG_NOSCRIPT;
 }
 
+/// The reference of a link element to a sheet; null for other elements.
+const char *linkToSheet(const GumboElement &element)
+{
+    const GumboAttribute *relation = gumbo_get_attribute(&element.attributes, "rel");
+    const GumboAttribute *reference = gumbo_get_attribute(&element.attributes, "href");
+    if (element.tag != GUMBO_TAG_LINK || !relation || !reference)
+        return nullptr;
+    const QByteArrayList words = QByteArray(relation->value).toLower().simplified().split(' ');
+    return words.contains("stylesheet") && !words.contains("alternate") ? reference->value : nullptr;
+}
+
+QByteArray textIn(const GumboElement &element)
+{
+    QByteArray text;
+    for (unsigned int i = 0; i < element.children.length; ++i) {
+        const auto &child = *static_cast<const GumboNode *>(element.children.data[i]);
+        if (child.type == GUMBO_NODE_TEXT || child.type == GUMBO_NODE_CDATA)
+            text.append(child.v.text.text);
+    }
+    return text;
+}
+
 /// The style sheets of a page, in their order.
-std::vector<QByteArray> sheetsOf(const GumboNode &document)
+std::vector<QByteArray> sheetsOf(const GumboNode &document, const LinkedSheet &linkedSheet)
 {
     struct Level {
         const GumboVector *children;
@@ -57,31 +84,26 @@ std::vector<QByteArray> sheetsOf(const GumboNode &document)
         const auto &node = *static_cast<const GumboNode *>(level.children->data[level.next++]);
         if (!areSheetsInsideRead(node))
             continue;
-        const GumboVector &children = node.v.element.children;
-        if (!isStyleSheet(node.v.element)) {
-            path.push_back({&children, 0});
-            continue;
-        }
-        QByteArray sheet;
-        for (unsigned int i = 0; i < children.length; ++i) {
-            const auto &child = *static_cast<const GumboNode *>(children.data[i]);
-            if (child.type == GUMBO_NODE_TEXT || child.type == GUMBO_NODE_CDATA)
-                sheet.append(child.v.text.text);
-        }
-        sheets.push_back(std::move(sheet));
+        const GumboElement &element = node.v.element;
+        const char *const link = linkedSheet ? linkToSheet(element) : nullptr;
+        if ((link || isStyleElement(element)) && isForScreens(element))
+            sheets.push_back(link ? linkedSheet(link) : textIn(element));
+        else
+            path.push_back({&element.children, 0});
     }
     return sheets;
 }
 
 } // namespace
 
-Result<StyleSheets, DocumentError::Cause> StyleSheets::ofPage(QByteArrayView page, const GumboNode &document)
+Result<StyleSheets, DocumentError::Cause> StyleSheets::ofPage(
+    QByteArrayView page, const GumboNode &document, const LinkedSheet &linkedSheet)
 {
     StyleSheets sheets;
-    if (!mayHaveStyleElement(page))
+    if (!mayHaveElement(page, "<style") && !(linkedSheet && mayHaveElement(page, "<link")))
         return sheets;
     sheets.m_names = CssNames(document.v.document.doc_type_quirks_mode == GUMBO_DOCTYPE_QUIRKS);
-    for (const QByteArray &sheet : sheetsOf(document)) {
+    for (const QByteArray &sheet : sheetsOf(document, linkedSheet)) {
         sheets.readSheet(sheet);
         if (sheets.areTooMany())
             return DocumentError::Cause::TooComplex;

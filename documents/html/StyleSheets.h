@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // StyleSheets are the rules in the style elements of a page that set display or visibility, the properties
-// that hide text. Sheets to which the page refers are not fetched. Which rules apply to an element is left to
-// StyleCascade.
-// Thread: any; a value.
+// that hide text, and in the sheets to which its link elements refer if the caller has them. Which rules
+// apply to an element is left to StyleCascade. Thread: any; a value.
 #pragma once
 
 #include "documents/DocumentError.h"
@@ -12,17 +11,23 @@
 
 #include <gumbo.h>
 
+#include <QByteArray>
 #include <QByteArrayView>
 
+#include <functional>
 #include <unordered_map>
 #include <vector>
+
+/// The style sheet to which a page refers; empty where there is none. reference: as the page has it.
+using LinkedSheet = std::function<QByteArray(const QByteArray &reference)>;
 
 class StyleSheets {
 public:
     /// Fails as TooComplex if there are too many selectors or names in them. Takes time proportional to the
-    /// page, and nearly none if no style element is in it. page: UTF-8. document: a node of type
-    /// GUMBO_NODE_DOCUMENT.
-    static Result<StyleSheets, DocumentError::Cause> ofPage(QByteArrayView page, const GumboNode &document);
+    /// page and the linked sheets, and nearly none if no such element is in it. page: UTF-8. document: a node
+    /// of type GUMBO_NODE_DOCUMENT.
+    static Result<StyleSheets, DocumentError::Cause> ofPage(
+        QByteArrayView page, const GumboNode &document, const LinkedSheet &linkedSheet);
 
     struct Rule {
         CssSelector selector;

@@ -167,6 +167,36 @@ TEST(Epub, StyleSheetsOfAPageHideItsText)
         QStringLiteral("a b"));
 }
 
+TEST(Epub, StyleSheetsInFilesOfTheBookHideTheTextOfThePagesThatLinkThem)
+{
+    const auto page = [](const QByteArray &links) {
+        return "<?xml version='1.0'?><html><head>" + links
+            + "</head><body><p>a<span class='page'>17</span> b</p></body></html>";
+    };
+    const QByteArray link = "<link rel='stylesheet' type='text/css' href='../styles/all%20pages.css'/>";
+    const auto textWith = [&](const QByteArray &links, const QByteArray &sheet) {
+        const BookWriter book{.pages = {{"pages/a.xhtml", page(links)}, {"pages/b.xhtml", page(links)}}};
+        ZipWriter zip = book.writer();
+        zip.add({.name = "OEBPS/styles/all pages.css", .contents = sheet});
+        return textOfBook(zip.archive());
+    };
+    const QByteArray hiding = "\xEF\xBB\xBF.page { display: none }";
+    EXPECT_EQ(textWith(link, hiding), QStringLiteral("a b\na b"));
+    EXPECT_EQ(textWith(link, "p { margin: 0 }"), QStringLiteral("a17 b\na17 b"));
+    EXPECT_EQ(
+        textWith(link + "<style>.page { display: inline }</style>", hiding), QStringLiteral("a17 b\na17 b"))
+        << "the later sheet";
+    for (const char *other : {"rel='alternate stylesheet'", "rel='stylesheet' media='print'", "rel='icon'",
+             "rel='stylesheet' type='text/less'"}) {
+        const QByteArray ignored = QByteArray("<link href='../styles/all%20pages.css' ") + other + "/>";
+        EXPECT_EQ(textWith(ignored, hiding), QStringLiteral("a17 b\na17 b")) << other;
+    }
+    for (const char *missing : {"none.css", "", "http://example.org/a.css", "../../../../etc/passwd"}) {
+        const QByteArray dead = QByteArray("<link rel='stylesheet' href='") + missing + "'/>";
+        EXPECT_EQ(textWith(dead, hiding), QStringLiteral("a17 b\na17 b")) << missing;
+    }
+}
+
 TEST(Epub, MayHaveADocumentTypeButNoEntities)
 {
     BookWriter book = twoChapters;
