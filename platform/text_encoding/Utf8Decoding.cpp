@@ -48,7 +48,7 @@ HWY_INLINE bool decodeSequence(Cursor &cursor)
         const int unit = (first & 0x0F) << 12 | (bytes[1] & 0x3F) << 6 | (bytes[2] & 0x3F);
         *cursor.target++ = static_cast<char16_t>(unit);
         cursor.source += 3;
-        return unit >= 0x800 && !(unit >= 0xD800 && unit <= 0xDFFF);
+        return unit >= 0x800 && (unit < 0xD800 || unit > 0xDFFF);
     }
     if (first > 0xF4 || left < 4 || !isContinuation(bytes[3]))
         return false;

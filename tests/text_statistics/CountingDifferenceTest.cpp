@@ -59,16 +59,16 @@ protected:
     PlainTextCounter m_plain;
 };
 
-// One character of each combination of classes and, as a second opinion, of what Qt's tables say of it.
+// One character of each combination of classes, of one code unit and of two.
 const std::vector<QString> &representatives()
 {
     static const std::vector<QString> characters = [] {
-        std::map<std::pair<quint32, QChar::Category>, char32_t> found;
+        std::map<quint32, char32_t> found;
         for (char32_t character = 0; character < 0x110000; ++character) {
             const CharacterClasses classes = classesOf(character);
             const quint32 key = classes.flags() << 4 | static_cast<quint32>(classes.sentence());
             const bool isSupplementary = character > 0xFFFF;
-            found.try_emplace({key << 1 | (isSupplementary ? 1U : 0U), QChar::Other_NotAssigned}, character);
+            found.try_emplace(key << 1 | (isSupplementary ? 1U : 0U), character);
         }
         std::vector<QString> list;
         for (const auto &[key, character] : found)
