@@ -4,6 +4,7 @@
 // ready before each document, as it is when a user opens one.
 #include "documents/loading/SandboxedReader.h"
 #include "tests/documents/docx/PackageWriter.h"
+#include "tests/documents/odt/OdtWriter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -29,6 +30,14 @@ QByteArray documentOf(DocumentKind kind, qsizetype kilobytes)
     case DocumentKind::Html: {
         const QByteArray paragraph = "<p>" + sentence + "<b>bold</b> " + sentence + "</p>\n";
         return "<!doctype html>" + paragraph.repeated(length / paragraph.size() + 1);
+    }
+    case DocumentKind::OpenDocument: {
+        const QByteArray paragraph =
+            "<text:p>" + sentence + "<text:span text:style-name=\"T1\">bold</text:span></text:p>";
+        return OpenDocumentText{.body = paragraph.repeated(length / paragraph.size() + 1),
+            .automaticStyles = "<style:style style:name=\"T1\" style:family=\"text\">"
+                               "<style:text-properties fo:font-weight=\"bold\"/></style:style>"}
+            .package();
     }
     default: {
         const QByteArray paragraph = "<w:p><w:pPr><w:ind w:firstLine=\"360\"/></w:pPr><w:r><w:t>" + sentence
@@ -72,8 +81,9 @@ void readInProgram(benchmark::State &state)
 
 void documents(benchmark::internal::Benchmark *benchmark)
 {
-    benchmark->Unit(benchmark::kMicrosecond)->UseRealTime();
-    for (const DocumentKind kind : {DocumentKind::Rtf, DocumentKind::Html, DocumentKind::WordDocument}) {
+    benchmark->Unit(benchmark::kMicrosecond)->UseRealTime()->MinTime(0.1);
+    for (const DocumentKind kind :
+        {DocumentKind::Rtf, DocumentKind::Html, DocumentKind::WordDocument, DocumentKind::OpenDocument}) {
         for (const int kilobytes : {10, 1'000, 20'000})
             benchmark->Args({static_cast<int>(kind), kilobytes});
     }

@@ -328,7 +328,12 @@ TEST_F(WatchTextFileModelTest, ALockedDocumentThatCannotBeLoadedIsAnErrorAndWatc
     EXPECT_TRUE(model->isWatchingTextFile());
     writer.close();
     pass(2s);
-    EXPECT_THAT(m_delegate.takeMessages(), ElementsAre(QStringLiteral("failed")));
+    QStringList messages;
+    EXPECT_TRUE(waitUntil([&] {
+        messages += m_delegate.takeMessages();
+        return !messages.isEmpty();
+    }));
+    EXPECT_THAT(messages, ElementsAre(QStringLiteral("failed")));
 }
 
 TEST_F(WatchTextFileModelTest, ADocumentGrantedToOthersIsNotReadUntilItIsReturned)
