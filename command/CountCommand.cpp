@@ -53,7 +53,7 @@ qint64 sizeOfAll(const QByteArrayList &names)
 /// Each thread lists and loads fonts of its own, which takes as long as counting this much.
 int threadsFor(const QByteArrayList &names, qint64 size)
 {
-    constexpr qint64 sizePerThread = 256 * 1024; // bytes
+    constexpr qint64 sizePerThread = 262'144; // bytes
     constexpr qint64 filesPerThread = 32;
     if (names.contains(standardInputName))
         return 1; // all of its names stand for one input

@@ -52,7 +52,7 @@ public:
         constexpr QByteArrayView mark("\xEF\xBB\xBF");
         if (sheet.startsWith(mark))
             sheet.remove(0, mark.size());
-        return *m_sheets.insert(part, std::move(sheet));
+        return *m_sheets.insert(part, sheet);
     }
 
 private:

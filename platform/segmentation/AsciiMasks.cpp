@@ -109,7 +109,8 @@ void readMasks(const char16_t *units, ClassMasks *masks, size_t count)
         for (size_t offset = 0; offset < 64; offset += hn::Lanes(Bytes()))
             readVector(units, masks[i], offset);
         if constexpr (Q_BYTE_ORDER == Q_BIG_ENDIAN)
-            qbswap<sizeof(quint64)>(masks[i].data(), masks[i].size(), masks[i].data());
+            qbswap<sizeof(quint64)>(
+                masks[i].data(), static_cast<qsizetype>(masks[i].size()), masks[i].data());
     }
 }
 #endif

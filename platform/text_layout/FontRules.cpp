@@ -105,7 +105,7 @@ private:
             && hb_ot_layout_get_glyph_class(m_face, glyph) == HB_OT_LAYOUT_GLYPH_CLASS_MARK;
     }
 
-    Ends endsOf(quint32 glyph) const
+    [[nodiscard]] Ends endsOf(quint32 glyph) const
     {
         const auto found = m_ligatureEnds.find(glyph);
         Ends ends = found != m_ligatureEnds.end() ? found->second : Ends{};

@@ -155,8 +155,9 @@ int PairAdvances::advanceOfPair(char16_t first, char16_t second, bool &isUnsafe)
         m_shaper.shape(m_style, QStringView(text.data() + start, end - start), 0, end - start,
             advances.data(), flags.data());
     };
+    constexpr int maxAdvance = limit / 64;
     const auto supported = [](float advance) {
-        const bool isUsable = advance >= 0 && advance < limit / 64 && advance == std::floor(advance);
+        const bool isUsable = advance >= 0 && advance < maxAdvance && advance == std::floor(advance);
         return isUsable ? static_cast<int>(advance) : unsupported;
     };
     if (isApart(second)) {

@@ -158,8 +158,9 @@ PairRun PairRuns::makeRun(const TextRun &run)
     PairRun made;
     if (!run.face || run.style.tracking < 0)
         return made;
-    FontChain *const fonts = run.face == run.style.fonts->primary() ? run.style.fonts : nullptr;
-    made.pairs = tableFor({fonts, &m_shaper.styleOf(run)}, run.end - run.start);
+    const bool isPrimary = run.face == run.style.fonts->primary();
+    made.pairs =
+        tableFor({isPrimary ? run.style.fonts : nullptr, &m_shaper.styleOf(run)}, run.end - run.start);
     made.pointsPerUnit = run.style.pointSize / run.face->unitsPerEm();
     made.tracking = run.style.tracking / made.pointsPerUnit;
     return made;

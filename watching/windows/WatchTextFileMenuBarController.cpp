@@ -81,7 +81,7 @@ void WatchTextFileMenuBarController::countFirst(Text text)
     m_firstReading.reset(); // keeps the text, too
     m_watchTextFileViewControllerForPopover->setSpinActivityIndicator(false);
     if (text)
-        count(text.value());
+        count(std::move(text).value());
     else
         LogChannel::standard().error(
             u"Error loading attributed string {}", {publicly(causeText(text.error()))});
