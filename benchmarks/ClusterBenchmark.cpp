@@ -24,15 +24,31 @@ QString markedText(char16_t letter, char16_t firstMark, qsizetype marks)
     return word.repeated(unitCount / word.size());
 }
 
+QString latin(qsizetype marks)
+{
+    return markedText(u'a', 0x300, marks);
+}
+
+QString arabic(qsizetype marks)
+{
+    return markedText(u'\u0628', 0x64B, marks);
+}
+
+QString hindi(qsizetype marks)
+{
+    return markedText(u'\u0915', 0x951, marks);
+}
+
 /// Sequences of that number of people, joined.
-QString emojiText(qsizetype people)
+QString emoji(qsizetype people)
 {
     const QString joined = QStringList(people, QStringLiteral("\U0001F468")).join(QChar(0x200D)) + u' ';
     return joined.repeated(unitCount / joined.size());
 }
 
-void countLines(benchmark::State &state, const QString &text)
+void countLines(benchmark::State &state, QString (*textOf)(qsizetype))
 {
+    const QString text = textOf(state.range(0));
     LayoutEngine engine;
     AttributedString styled(text);
     for (auto _ : state)
@@ -40,8 +56,9 @@ void countLines(benchmark::State &state, const QString &text)
     state.SetItemsProcessed(state.iterations() * text.size());
 }
 
-void countWords(benchmark::State &state, const QString &text)
+void countWords(benchmark::State &state, QString (*textOf)(qsizetype))
 {
+    const QString text = textOf(state.range(0));
     const TextRules rules{.localeIdentifier = [] { return QStringLiteral("en_US"); }};
     TextCounter counter;
     for (auto _ : state)
@@ -49,47 +66,18 @@ void countWords(benchmark::State &state, const QString &text)
     state.SetItemsProcessed(state.iterations() * text.size());
 }
 
-void latinLines(benchmark::State &state)
-{
-    countLines(state, markedText(u'a', 0x300, state.range(0)));
-}
-
-void arabicLines(benchmark::State &state)
-{
-    countLines(state, markedText(u'\u0628', 0x64B, state.range(0)));
-}
-
-void hindiLines(benchmark::State &state)
-{
-    countLines(state, markedText(u'\u0915', 0x951, state.range(0)));
-}
-
-void emojiLines(benchmark::State &state)
-{
-    countLines(state, emojiText(state.range(0)));
-}
-
-void latinWords(benchmark::State &state)
-{
-    countWords(state, markedText(u'a', 0x300, state.range(0)));
-}
-
-void arabicWords(benchmark::State &state)
-{
-    countWords(state, markedText(u'\u0628', 0x64B, state.range(0)));
-}
-
-void emojiWords(benchmark::State &state)
-{
-    countWords(state, emojiText(state.range(0)));
-}
-
 } // namespace
 
-BENCHMARK(latinLines)->Arg(0)->Arg(2)->Arg(10)->Arg(30)->Arg(62)->Arg(1'000)->Unit(benchmark::kMillisecond);
-BENCHMARK(arabicLines)->Arg(0)->Arg(2)->Arg(10)->Arg(30)->Arg(62)->Arg(1'000)->Unit(benchmark::kMillisecond);
-BENCHMARK(hindiLines)->Arg(0)->Arg(2)->Arg(10)->Arg(30)->Arg(62)->Unit(benchmark::kMillisecond);
-BENCHMARK(emojiLines)->Arg(1)->Arg(4)->Arg(16)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
-BENCHMARK(latinWords)->Arg(0)->Arg(2)->Arg(62)->Unit(benchmark::kMillisecond);
-BENCHMARK(arabicWords)->Arg(2)->Arg(62)->Unit(benchmark::kMillisecond);
-BENCHMARK(emojiWords)->Arg(4)->Arg(1'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countLines, latin, latin)
+    ->ArgsProduct({{0, 2, 10, 30, 62, 1'000}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countLines, arabic, arabic)
+    ->ArgsProduct({{0, 2, 10, 30, 62, 1'000}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countLines, hindi, hindi)->ArgsProduct({{0, 2, 10, 30, 62}})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countLines, emoji, emoji)
+    ->ArgsProduct({{1, 4, 16, 1'000, 100'000}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countWords, latin, latin)->ArgsProduct({{0, 2, 62}})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countWords, arabic, arabic)->ArgsProduct({{2, 62}})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(countWords, emoji, emoji)->ArgsProduct({{4, 1'000}})->Unit(benchmark::kMillisecond);

@@ -68,7 +68,6 @@ ParallelCount::Outcome ParallelCount::next(ProgressLine &progress)
 {
     std::unique_lock lock(m_mutex);
     const qsizetype index = m_returned;
-    progress.startReading(m_names[index], index);
     const std::shared_ptr<Task> task = taskAt(index);
     if (m_countHere)
         task->outcome = m_countHere(m_names[index], task->position);

@@ -49,60 +49,41 @@ void LineBreaks::readUpTo(qsizetype position)
     }
 }
 
-std::unique_ptr<LineBreaks::Page> LineBreaks::makePage(int page)
+LineBreaks::Class LineBreaks::classOf(char16_t unit)
 {
-    auto classes = std::make_unique<Page>();
-    for (int i = 0; i < 256; ++i) {
-        Class &own = (*classes)[static_cast<size_t>(i)];
-        switch (u_getIntPropertyValue(page << 8 | i, UCHAR_LINE_BREAK)) {
-        case U_LB_SPACE:
-            own = Class::Space;
-            break;
-        case U_LB_ALPHABETIC:
-            own = Class::Letter;
-            break;
-        case U_LB_NUMERIC:
-            own = Class::Digit;
-            break;
-        case U_LB_IDEOGRAPHIC:
-            own = Class::Ideograph;
-            break;
-        case U_LB_OPEN_PUNCTUATION:
-            own = Class::Open;
-            break;
-        case U_LB_CLOSE_PUNCTUATION:
-        case U_LB_CLOSE_PARENTHESIS:
-            own = Class::Close;
-            break;
-        case U_LB_QUOTATION:
-            own = Class::Quote;
-            break;
-        case U_LB_INFIX_NUMERIC:
-            own = Class::Infix;
-            break;
-        case U_LB_HYPHEN:
-            own = Class::Hyphen;
-            break;
-        case U_LB_EXCLAMATION:
-        case U_LB_INSEPARABLE:
-        case U_LB_NONSTARTER:
-        case U_LB_CONDITIONAL_JAPANESE_STARTER:
-            own = Class::Follower;
-            break;
-        default:
-            own = Class::Other;
-        }
+    switch (u_getIntPropertyValue(unit, UCHAR_LINE_BREAK)) {
+    case U_LB_SPACE:
+        return Class::Space;
+    case U_LB_ALPHABETIC:
+        return Class::Letter;
+    case U_LB_NUMERIC:
+        return Class::Digit;
+    case U_LB_IDEOGRAPHIC:
+        return Class::Ideograph;
+    case U_LB_OPEN_PUNCTUATION:
+        return Class::Open;
+    case U_LB_CLOSE_PUNCTUATION:
+    case U_LB_CLOSE_PARENTHESIS:
+        return Class::Close;
+    case U_LB_QUOTATION:
+        return Class::Quote;
+    case U_LB_INFIX_NUMERIC:
+        return Class::Infix;
+    case U_LB_HYPHEN:
+        return Class::Hyphen;
+    case U_LB_EXCLAMATION:
+    case U_LB_INSEPARABLE:
+    case U_LB_NONSTARTER:
+    case U_LB_CONDITIONAL_JAPANESE_STARTER:
+        return Class::Follower;
+    default:
+        return Class::Other;
     }
-    return classes;
 }
 
 LineBreaks::Class LineBreaks::classAt(qsizetype position)
 {
-    const char16_t unit = m_text.utf16()[position];
-    std::unique_ptr<Page> &page = m_pages[unit >> 8];
-    if (!page)
-        page = makePage(unit >> 8);
-    return (*page)[unit & 0xFF];
+    return m_classes.at(m_text.utf16()[position]);
 }
 
 // Whether lines never break between two adjacent characters, whatever is around them.

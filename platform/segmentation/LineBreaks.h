@@ -6,11 +6,9 @@
 #pragma once
 
 #include "platform/segmentation/BreakIterator.h"
+#include "platform/segmentation/CodeUnitTable.h"
 
 #include <QStringView>
-
-#include <array>
-#include <memory>
 
 /// Whether a line always ends after this character (classes BK and NL, LB4 and LB5). Carriage return and line
 /// feed also end lines, but never occur inside a paragraph.
@@ -42,10 +40,9 @@ private:
         Hyphen, // HY
         Follower, // EX, IN, NS and CJ: like Close, never the first of a line
     };
-    using Page = std::array<Class, 256>;
 
     [[nodiscard]] static bool areJoined(Class first, Class second);
-    [[nodiscard]] static std::unique_ptr<Page> makePage(int page);
+    [[nodiscard]] static Class classOf(char16_t unit);
     Class classAt(qsizetype position);
     bool isSimpleBoundary(qsizetype position);
     bool isJoined(qsizetype position);
@@ -57,5 +54,5 @@ private:
     qsizetype m_base = 0; // a boundary, where the text of m_iterator starts
     qsizetype m_last = 0; // the last two boundaries of m_iterator
     qsizetype m_next = 0;
-    std::array<std::unique_ptr<Page>, 256> m_pages; // made when first needed
+    CodeUnitTable<Class> m_classes{&classOf};
 };

@@ -20,6 +20,7 @@ constexpr qsizetype minDemand = 8'192; // UTF-16 code units
 PairRuns::PairRuns(FontLibrary &fonts, Shaper &shaper)
     : m_itemizer(fonts)
     , m_shaper(shaper)
+    , m_isPlain([](char16_t unit) { return isPlainCharacter(unit) || isApart(unit); })
 {
 }
 
@@ -39,20 +40,8 @@ bool PairRuns::setParagraph(const AttributedString &text, const Paragraph &parag
 
 bool PairRuns::isPlain(QStringView content)
 {
-    for (const QChar character : content) {
-        const char16_t unit = character.unicode();
-        std::unique_ptr<PlainPage> &page = m_plainPages[unit >> 8];
-        if (!page) {
-            page = std::make_unique<PlainPage>();
-            for (unsigned low = 0; low < page->size(); ++low) {
-                const auto other = static_cast<char16_t>((unit & 0xFF00) | low);
-                (*page)[low] = isPlainCharacter(other) || isApart(other);
-            }
-        }
-        if (!(*page)[unit & 0xFF])
-            return false;
-    }
-    return true;
+    return std::all_of(content.begin(), content.end(),
+        [this](QChar character) { return m_isPlain.at(character.unicode()); });
 }
 
 bool PairRuns::addOneRun(const AttributedString &text, const Paragraph &paragraph)

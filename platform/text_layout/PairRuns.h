@@ -4,11 +4,13 @@
 // Thread: one at a time.  Owner: PairText.
 #pragma once
 
+#include "platform/segmentation/CodeUnitTable.h"
 #include "platform/text_layout/Itemizer.h"
 #include "platform/text_layout/PairAdvances.h"
 
 #include <deque>
 #include <map>
+#include <memory>
 #include <optional>
 
 /// A stretch of text that is shaped together, or with controls and tabs between its parts.
@@ -46,8 +48,6 @@ private:
     // The chain is null if the font is not its first one; then characters are known to be in the font.
     using TableKey = std::pair<FontChain *, const ShapingStyle *>;
 
-    using PlainPage = std::array<bool, 256>;
-
     /// Whether all characters are plain, tabs or controls; the rest is not worth cutting into runs.
     bool isPlain(QStringView content);
     bool addOneRun(const AttributedString &text, const Paragraph &paragraph);
@@ -59,7 +59,7 @@ private:
 
     Itemizer m_itemizer;
     Shaper &m_shaper;
-    std::array<std::unique_ptr<PlainPage>, 256> m_plainPages; // made when first needed
+    CodeUnitTable<bool> m_isPlain;
     std::map<TableKey, Table> m_tables;
     size_t m_tableCount = 0; // of those with pairs
     quint64 m_uses = 0;

@@ -91,8 +91,11 @@ ParagraphStyle RandomText::paragraphStyle()
             &style.lineSpacing, &style.paragraphSpacingBefore, &style.paragraphSpacing})
         if (oneIn(3))
             *value = length(0.05);
-    const size_t mostStops = oneIn(20) ? 200 : 1;
-    const size_t stops = oneIn(3) ? below(5) : below(mostStops);
+    size_t stops = 0;
+    if (oneIn(3))
+        stops = below(5);
+    else if (oneIn(20))
+        stops = below(200);
     for (size_t i = 0; i < stops; ++i)
         style.tabStops.push_back({length(0.05), static_cast<TabAlignment>(below(4))});
     std::stable_sort(style.tabStops.begin(), style.tabStops.end(),
