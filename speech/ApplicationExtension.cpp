@@ -6,13 +6,15 @@
 #include "platform/system/Processes.h"
 #include "platform/views/Desktop.h"
 
+QString QBYExtension::wordCountPhrase(quint64 wordCount)
+{
+    static const SpelledOutNumber speller(currentLocaleIdentifier());
+    return speller.text(wordCount).value_or(QString::number(wordCount)) + QStringLiteral(" words");
+}
+
 bool QBYExtension::sayWordCountOutloud(quint64 wordCount, Desktop &desktop, const QString &launchPath)
 {
-    if (wordCount == 0)
-        return false;
-    static const SpelledOutNumber speller(currentLocaleIdentifier());
-    const QString number = speller.text(wordCount).value_or(QString::number(wordCount));
-    return sayStringOutloud(number + QStringLiteral(" words"), desktop, launchPath);
+    return wordCount > 0 && sayStringOutloud(wordCountPhrase(wordCount), desktop, launchPath);
 }
 
 bool QBYExtension::sayStringOutloud(

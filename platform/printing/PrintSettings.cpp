@@ -106,7 +106,11 @@ void PrintSettings::ask()
     } catch (const std::system_error &) {
         m_pending = {}; // no thread is available
     }
-    m_answer = waitForAnswer(m_timeout) ? m_pending.get() : Answer(PrinterFailure::NotAnswering);
+    const bool waits = m_timeout > std::chrono::milliseconds(0);
+    if (waitForAnswer(m_timeout))
+        m_answer = m_pending.get();
+    else if (waits || !m_answer)
+        m_answer = Answer(PrinterFailure::NotAnswering);
 }
 
 QSizeF PrintSettings::paperSize()

@@ -23,6 +23,8 @@ struct PrinterAnswer {
     std::vector<Paper> papers; ///< the printer's in its order, otherwise the built-in catalogue; never empty
     std::optional<Paper> defaultPaper; ///< absent only while the printer is not answering
     std::optional<double> pageScale; ///< per cent; absent only while the printer is not answering
+
+    bool operator==(const PrinterAnswer &) const = default;
 };
 
 class PrintSettings {
@@ -43,6 +45,12 @@ public:
 
     /// The next call may return another answer: look for a paper and for its substitute in the same one.
     [[nodiscard]] PrinterAnswer printer();
+
+    /// The maximum wait of later calls for the printing system; 0 for a program whose windows must not wait.
+    /// Until an answer arrives, printer() then returns the former one.
+    void setTimeout(std::chrono::milliseconds timeout) { m_timeout = timeout; }
+    /// Whether a query is running whose answer the next printer() may return.
+    [[nodiscard]] bool isAsking() const { return m_pending.valid(); }
 
     // The page of a text if no paper of the printer is used, in points. The margins are the usual inch.
     [[nodiscard]] QSizeF paperSize();

@@ -12,6 +12,7 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QXmlStreamReader>
 
 #include <csignal>
@@ -79,12 +80,14 @@ TEST_F(Install, IsComplete)
 {
     install({"--prefix", QFile::encodeName(prefix())});
     QStringList expected = filesWithCommands
-        + QStringList{QStringLiteral("bin/quillbay"), QStringLiteral("libexec/quillbay-counting-service"),
+        + QStringList{QStringLiteral("bin/quillbay"), QStringLiteral("bin/quillbay-desk"),
+            QStringLiteral("libexec/quillbay-counting-service"),
             QStringLiteral("libexec/quillbay-document-reader"),
             QStringLiteral("libexec/quillbay-service-provider"),
             QStringLiteral("share/dbus-1/interfaces/com.quillbay.ServiceProvider.xml"),
             QStringLiteral("share/icons/hicolor/scalable/apps/com.quillbay.Quillbay.svg"),
-            QStringLiteral("share/icons/hicolor/symbolic/apps/com.quillbay.Quillbay-symbolic.svg")};
+            QStringLiteral("share/icons/hicolor/symbolic/apps/com.quillbay.Quillbay-symbolic.svg"),
+            QStringLiteral("share/metainfo/com.quillbay.Quillbay.metainfo.xml")};
     QStringList installed = filesBelow(prefix());
     expected.sort();
     installed.sort();
@@ -111,10 +114,10 @@ TEST_F(Install, IntoTheRootOfAPackageNamesTheProgramsWhereTheyWillLie)
     const QString installed = root + QStringLiteral("/opt/quill bay/");
     EXPECT_TRUE(QFileInfo::exists(installed + QStringLiteral("bin/quillbay")));
     EXPECT_EQ(commandsIn(installed + filesWithCommands[0])[0],
-        QStringLiteral("\"/opt/quill bay/bin/quillbay\" selection"));
+        QStringLiteral("\"/opt/quill bay/bin/quillbay-desk\""));
 }
 
-TEST_F(Install, HasValidDesktopFilesWhoseCommandsAreAllTheCommandQuillbay)
+TEST_F(Install, HasValidDesktopFilesForTheMainWindowAndTheCommandQuillbay)
 {
     install({"--prefix", QFile::encodeName(prefix())});
     for (const QString &file : {desktopFile(), desktopFile(QStringLiteral("Watch"))}) {
@@ -125,11 +128,23 @@ TEST_F(Install, HasValidDesktopFilesWhoseCommandsAreAllTheCommandQuillbay)
     }
     const QString command = u'"' + prefix() + QStringLiteral("/bin/quillbay\" ");
     EXPECT_THAT(commandsIn(desktopFile()),
-        UnorderedElementsAre(command + QStringLiteral("selection"), command + QStringLiteral("selection"),
-            command + QStringLiteral("selection --clipboard"),
+        UnorderedElementsAre(u'"' + prefix() + QStringLiteral("/bin/quillbay-desk\""),
+            command + QStringLiteral("selection"), command + QStringLiteral("selection --clipboard"),
             command + QStringLiteral("watch --clipboard")));
     EXPECT_THAT(commandsIn(desktopFile(QStringLiteral("Watch"))),
         UnorderedElementsAre(command + QStringLiteral("watch %F")));
+}
+
+TEST_F(Install, HasValidDataForSoftwareCentres)
+{
+    SKIP_WITHOUT_PACKAGE(
+        !QStandardPaths::findExecutable(QStringLiteral("appstreamcli")).isEmpty(), "appstream");
+    install({"--prefix", QFile::encodeName(prefix())});
+    const ChildProcess::Outcome outcome =
+        ChildProcess(QStringLiteral("appstreamcli"))
+            .run({"validate", "--no-net",
+                QFile::encodeName(prefix()) + "/share/metainfo/com.quillbay.Quillbay.metainfo.xml"});
+    EXPECT_EQ(outcome.exitStatus, 0) << (outcome.output + outcome.errors).toStdString();
 }
 
 TEST_F(Install, HasIconsThatAreWellFormed)

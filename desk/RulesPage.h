@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// RulesPage is the page with the rules of the counts: what is shown, what is a sentence and a paragraph, and
+// what is spoken. It applies every change at once.
+// Thread: main.  Owner: the stack of pages, as a Qt child.
+#pragma once
+
+#include "desk/RulesEditor.h"
+#include "desk/SpeechSample.h"
+
+#include <QScrollArea>
+
+#include <memory>
+
+class QAction;
+class QCheckBox;
+namespace Ui {
+class RulesPage;
+}
+
+class RulesPage : public QScrollArea {
+    Q_OBJECT
+
+public:
+    /// editor: outlives the page. restoreDefaults: what the button of that name does. launchPath: of the
+    /// speech command.
+    RulesPage(RulesEditor &editor, QAction &restoreDefaults, const QString &launchPath);
+    ~RulesPage() override;
+
+    /// All of the page, without scroll bars.
+    [[nodiscard]] QSize sizeHint() const override;
+
+private:
+    void bindCheckBox(QCheckBox &checkBox);
+    void bindMinimum();
+    void showValues();
+    void showSpeech(const QString &problem);
+
+    RulesEditor &m_editor;
+    SpeechSample m_sample;
+    std::unique_ptr<Ui::RulesPage> m_ui;
+};

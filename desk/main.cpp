@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+// quillbay-desk: the main window, in which the user sets the rules of the counts.
+#include "desk/DeskWindow.h"
+#include "platform/session_bus/UniqueApplication.h"
+#include "platform/system/Processes.h"
+#include "platform/views/widgets/DesktopAppearance.h"
+#include "platform/views/widgets/WindowActivation.h"
+#include "preferences/QBYUserDefaultsController.h"
+#include "speech/ApplicationExtension.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <cstdio>
+#include <string_view>
+
+namespace {
+
+// Exit statuses, besides 0.
+constexpr int notShown = 1; // no display
+constexpr int wrongUsage = 2;
+
+constexpr char helpText[] = R"(Usage: quillbay-desk
+
+Opens Quillbay's main window, in which you set the rules of the counts. If it is
+open already, it comes to the front.
+
+  -h, --help  print this help and exit
+  --version   print the version and exit
+
+Exit status: 0 when the window was closed or another process shows it, 1 if it
+could not be shown, 2 after wrong usage.
+)";
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+/// Tokens are valid once, so child processes must not inherit it. That of X11 if there are two, of which Qt
+/// uses X11.
+QByteArray takeActivationToken()
+{
+    QByteArray token;
+    for (const char *const name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
+        if (const QByteArray value = qgetenv(name); !value.isEmpty())
+            token = value;
+        qunsetenv(name);
+    }
+    return token;
+}
+
+int printText(const char *text)
+{
+    std::fputs(text, stdout);
+    return std::fflush(stdout) == 0 ? 0 : 1;
+}
+
+int showWindow(UniqueApplication &unique, const UniqueApplication::Request &request, bool hasBus)
+{
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    DeskWindow window(QBYExtension::speechLaunchPath());
+    if (!hasBus) {
+        window.setNotice(DeskWindow::tr("There is no session bus: open windows of other programs of "
+                                        "Quillbay follow a change only at their next count."));
+    }
+    const auto show = [&window](const UniqueApplication::Request &wanted) {
+        WindowActivation::setToken(wanted.activationToken);
+        if (window.isMinimized())
+            window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+        WindowActivation::showAndActivate(window);
+    };
+    QObject::connect(&unique, &UniqueApplication::requested, &window, show);
+    show(request);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    keepMemoryPrivate();
+    const std::string_view word = argumentCount > 1 ? arguments[1] : "";
+    if (word == "--help" || word == "-h")
+        return printText(helpText);
+    if (word == "--version")
+        return printText("quillbay-desk " QUILLBAY_VERSION "\n");
+    if (!hasDisplay()) {
+        std::fputs("quillbay-desk: no display for its window; set DISPLAY or WAYLAND_DISPLAY\n", stderr);
+        return notShown;
+    }
+    const UniqueApplication::Request request{.activationToken = takeActivationToken()};
+    const QApplication application(argumentCount, arguments);
+    if (QApplication::arguments().size() > 1) {
+        std::fputs("quillbay-desk: takes no arguments\nTry 'quillbay-desk --help' for more.\n", stderr);
+        return wrongUsage;
+    }
+    QApplication::setApplicationName(QStringLiteral("Quillbay")); // screen readers read it
+    QApplication::setApplicationVersion(QStringLiteral(QUILLBAY_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("com.quillbay.Quillbay")));
+    UniqueApplication unique(QStringLiteral("com.quillbay.Quillbay"));
+    const UniqueApplication::Role role = unique.start(request);
+    if (role == UniqueApplication::Role::Later)
+        return 0;
+    const DesktopAppearance appearance;
+    return showWindow(unique, request, role == UniqueApplication::Role::First);
+}
