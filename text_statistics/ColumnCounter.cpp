@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/ColumnCounter.h"
 
+#include "text_statistics/ItemReport.h"
+
 QBYWordCounterStats ColumnCounter::count(const AttributedString &text, const TextCounter::Progress &progress)
 {
     // Layout and counting are two passes over the text; each reports half of the progress.
@@ -13,4 +15,36 @@ QBYWordCounterStats ColumnCounter::count(const AttributedString &text, const Tex
     QBYWordCounterStats stats = m_counter.count(text.string(), m_rules, half(text.length()));
     stats.numberOfLines = lines;
     return stats;
+}
+
+quint64 ColumnCounter::forEachItem(const AttributedString &text, Statistic statistic, const YieldItem &yield,
+    const TextCounter::Progress &progress)
+{
+    if (statistic == Statistic::Lines)
+        return forEachLine(text, yield, progress);
+    ItemReport report(text.string(), statistic, [&](CountedItem item) {
+        // Plain text has no styles, so its counter knows none.
+        if (item.reason == CountingReason::NoIndent
+            && text.attributesAt(item.start).paragraphStyle.firstLineHeadIndent > 0)
+            item.reason = CountingReason::IndentOfStyle;
+        yield(item);
+    });
+    const QBYWordCounterStats stats = m_counter.count(text.string(), m_rules, progress, &report);
+    return stats.*statisticTable.at(static_cast<std::size_t>(statistic)).count;
+}
+
+quint64 ColumnCounter::forEachLine(
+    const AttributedString &text, const YieldItem &yield, const TextCounter::Progress &progress)
+{
+    ItemReport report(text.string(), Statistic::Lines, yield);
+    quint64 lines = 0;
+    for (qsizetype start = 0; start < text.length();) {
+        const Paragraph paragraph = paragraphAt(text.string(), start);
+        lines += m_engine.countLinesOfParagraph(text, paragraph, m_columnWidth,
+            [&](qsizetype from, qsizetype to) { report.addLine(Statistic::Lines, from, to); });
+        start = paragraph.end();
+        if (progress)
+            progress(start);
+    }
+    return lines;
 }

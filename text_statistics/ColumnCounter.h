@@ -6,6 +6,7 @@
 
 #include "platform/styled_text/AttributedString.h"
 #include "platform/text_layout/LayoutEngine.h"
+#include "text_statistics/CountedItem.h"
 #include "text_statistics/TextCounter.h"
 
 class ColumnCounter {
@@ -22,7 +23,17 @@ public:
     [[nodiscard]] QBYWordCounterStats count(
         const AttributedString &text, const TextCounter::Progress &progress = {});
 
+    /// Counts one statistic, and yields what it counts and what it does not, in the order of the text. The
+    /// items add up to the result; none of them is kept.
+    quint64 forEachItem(const AttributedString &text, Statistic statistic, const YieldItem &yield,
+        const TextCounter::Progress &progress = {});
+
+    [[nodiscard]] const TextRules &rules() const { return m_rules; }
+
 private:
+    quint64 forEachLine(
+        const AttributedString &text, const YieldItem &yield, const TextCounter::Progress &progress);
+
     const TextRules m_rules;
     const double m_columnWidth;
     TextCounter m_counter;

@@ -3,6 +3,7 @@
 
 #include "platform/locale/CurrentLocale.h"
 #include "platform/printing/PrintSettings.h"
+#include "platform/segmentation/Segmenter.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
@@ -10,6 +11,12 @@
 bool TextRules::areLoneUnitsCounted() const
 {
     return localeIdentifier() != QStringLiteral("en_US");
+}
+
+bool TextRules::isWordCounted(QStringView word) const
+{
+    // In American English a single letter or digit is not a word, except a, I, O and x.
+    return word.size() != 1 || isEnglishWordOfOneLetter(word.utf16()[0]) || areLoneUnitsCounted();
 }
 
 bool TextRules::areEnoughSentences(quint64 sentencesOfParagraph) const

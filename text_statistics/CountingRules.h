@@ -6,6 +6,7 @@
 
 #include <QSizeF>
 #include <QString>
+#include <QStringView>
 
 #include <functional>
 #include <optional>
@@ -22,6 +23,8 @@ struct TextRules {
 
     /// Whether a word of one UTF-16 code unit counts at this moment; a, I, O and x always do.
     [[nodiscard]] bool areLoneUnitsCounted() const;
+    /// word: as Segmenter finds it.
+    [[nodiscard]] bool isWordCounted(QStringView word) const;
     [[nodiscard]] bool areEnoughSentences(quint64 sentencesOfParagraph) const;
 };
 

@@ -8,6 +8,7 @@
 #include "platform/segmentation/Paragraphs.h"
 #include "platform/segmentation/Segmenter.h"
 #include "text_statistics/CountingRules.h"
+#include "text_statistics/ItemReport.h"
 #include "text_statistics/QBYWordCounterStats.h"
 
 #include <QStringView>
@@ -15,16 +16,20 @@
 class PlainTextCounter {
 public:
     /// All counts but numberOfLines, which stays 0, in time proportional to the length of the text.
-    [[nodiscard]] QBYWordCounterStats count(QStringView text, const TextRules &rules);
+    /// report: unless null, gets what is counted.
+    [[nodiscard]] QBYWordCounterStats count(
+        QStringView text, const TextRules &rules, ItemReport *report = nullptr);
 
-    /// sentence: one sentence as Segmenter finds it.
-    [[nodiscard]] bool isSentenceCounted(QStringView sentence, const TextRules &rules);
+    /// Whether and why a sentence counts, without a look at blank ones. sentence: as Segmenter finds it.
+    [[nodiscard]] CountingReason judgeSentence(QStringView sentence, const TextRules &rules);
 
 private:
     [[nodiscard]] QBYWordCounterStats countParagraph(
-        QStringView text, const Paragraph &paragraph, const TextRules &rules);
-    [[nodiscard]] quint64 wordsOf(QStringView content, const TextRules &rules);
-    [[nodiscard]] quint64 sentencesOf(QStringView content, const TextRules &rules);
+        QStringView text, const Paragraph &paragraph, const TextRules &rules, ItemReport *report);
+    [[nodiscard]] quint64 wordsOf(
+        QStringView text, QStringView content, const TextRules &rules, ItemReport *report);
+    [[nodiscard]] quint64 sentencesOf(
+        QStringView text, QStringView content, const TextRules &rules, ItemReport *report);
 
     Segmenter m_segmenter;
 };

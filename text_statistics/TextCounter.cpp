@@ -13,29 +13,38 @@ using Fact = TextMasks::WordFact;
 
 } // namespace
 
-/// One text on its way through the windows of the scanner.
+/// One text on its way through the windows of the scanner. A class of its own counts without a report, so
+/// that reports cost nothing where nobody wants them.
+template <bool isReporting>
 class TextCounter::Pass {
 public:
-    Pass(TextCounter &counter, QStringView text, const TextRules &rules, const Progress &progress)
+    /// report: null unless isReporting.
+    Pass(TextCounter &counter, QStringView text, const TextRules &rules, const Progress &progress,
+        ItemReport *report)
         : m_counter(counter)
         , m_scanner(counter.m_scanner)
         , m_text(text)
         , m_rules(rules)
         , m_progress(progress)
+        , m_report(report)
     {
     }
 
     QBYWordCounterStats run()
     {
-        m_scanner.setText(m_text);
+        WordTrace trace([this](qsizetype start, qsizetype end) { m_report->addWord(start, end, m_rules); });
+        const bool wantsWords = isReporting && m_report->wants(Statistic::Words);
+        m_scanner.setText(m_text, wantsWords ? &trace : nullptr);
         while (m_scanner.next())
             countWindow();
         if (m_paragraph < m_text.size()) {
             closeParagraph(m_text.size());
-            const bool isLineOpen = !isLineEnd(m_text.back().unicode());
-            m_counts.numberOfHardLineBreaks += isLineOpen ? 1 : 0;
+            if (!isLineEnd(m_text.back().unicode()))
+                endHardLine(m_text.size());
             reportProgress(m_text.size());
         }
+        if constexpr (isReporting)
+            m_report->finish();
         m_counts.numberOfCharactersIncludingWhitespace = static_cast<quint64>(m_text.size());
         return m_counts;
     }
@@ -49,12 +58,11 @@ private:
         for (qsizetype index = 0; index < masks.wordCount(); ++index) {
             const quint64 white = masks.word(CharacterClass::White, index);
             m_counts.numberOfCharacters -= TextMasks::countBits(white);
-            const quint64 lineSeparators = masks.word(CharacterClass::LineSeparator, index);
-            if (lineSeparators)
-                countLineSeparators(lineSeparators, index);
-            const quint64 ends = lineSeparators | masks.word(CharacterClass::Terminator, index)
+            const quint64 separators = masks.word(CharacterClass::LineSeparator, index)
                 | masks.word(CharacterClass::ParagraphSeparator, index);
-            endSentences(ends, index);
+            endSentences(separators | masks.word(CharacterClass::Terminator, index), index);
+            if constexpr (isReporting)
+                reportCharacters(white, index);
         }
         m_hasCounted = m_hasCounted || hasCountedWord(m_scanner.end());
         m_hasLettered = m_hasLettered || hasLetter(m_scanner.end());
@@ -72,20 +80,36 @@ private:
         m_counts.numberOfWords += m_scanner.words() - dropped;
     }
 
-    // U+2028 ends a line; U+0085 is of the same class and does not.
-    void countLineSeparators(quint64 bits, qsizetype index)
+    void endHardLine(qsizetype end)
     {
-        for (; bits; bits &= bits - 1)
-            m_counts.numberOfHardLineBreaks += isLineEnd(m_text.utf16()[textPosition(bits, index)]) ? 1 : 0;
+        m_counts.numberOfHardLineBreaks += 1;
+        if constexpr (isReporting)
+            m_report->addLine(Statistic::HardLineBreaks, std::exchange(m_line, end), end);
+    }
+
+    void reportCharacters(quint64 white, qsizetype index)
+    {
+        const qsizetype start = m_scanner.start() + index * TextMasks::bitsPerWord;
+        const qsizetype length = std::min(m_scanner.end() - start, TextMasks::bitsPerWord);
+        for (qsizetype at = 0; at < length;) {
+            const bool isWhite = white >> at & 1;
+            const quint64 others = (isWhite ? ~white : white) >> at;
+            const qsizetype next = std::min(length, at + std::countr_zero(others));
+            m_report->addCharacters(start + at, start + next, isWhite);
+            at = next;
+        }
     }
 
     void endSentences(quint64 ends, qsizetype index)
     {
         for (; ends; ends &= ends - 1) {
             const qsizetype position = textPosition(ends, index);
+            const char16_t unit = m_text.utf16()[position];
+            if (unit == u'\u2028')
+                endHardLine(position + 1);
             if (position < m_next)
                 continue;
-            if (isParagraphSeparator(m_text.utf16()[position])) {
+            if (isParagraphSeparator(unit)) {
                 endParagraph(position);
                 continue;
             }
@@ -99,11 +123,11 @@ private:
     void endParagraph(qsizetype separator)
     {
         closeParagraph(separator);
-        m_counts.numberOfHardLineBreaks += 1;
         const char16_t *units = m_text.utf16();
         const bool isPair =
             units[separator] == u'\r' && separator + 1 < m_text.size() && units[separator + 1] == u'\n';
         m_paragraph = separator + (isPair ? 2 : 1);
+        endHardLine(m_paragraph);
         m_sentence = m_paragraph;
         m_next = m_paragraph;
         reportProgress(m_paragraph);
@@ -117,7 +141,10 @@ private:
         m_hasInk = false;
         m_isExact = false;
         m_counts.numberOfSentences += sentences;
-        if (isBlank || !m_rules.areEnoughSentences(sentences))
+        const bool isCounted = !isBlank && m_rules.areEnoughSentences(sentences);
+        if constexpr (isReporting)
+            m_report->addParagraph(m_paragraph, end, isCounted);
+        if (!isCounted)
             return;
         m_counts.numberOfParagraphs += 1;
         m_counts.numberOfIndentedParagraphs += m_text.utf16()[m_paragraph] == u'\t' ? 1 : 0;
@@ -127,27 +154,33 @@ private:
     {
         if (end == m_sentence)
             return;
-        m_sentencesOfParagraph += isSentenceCounted(end) ? 1 : 0;
+        const CountingReason reason = judgeSentence(end);
+        m_sentencesOfParagraph += reason == CountingReason::Sentence ? 1 : 0;
+        if constexpr (isReporting)
+            m_report->addSentence(m_sentence, end, reason);
         m_isExact = m_scanner.isInsideWord(end);
         m_hasCounted = false;
         m_hasLettered = false;
         m_sentence = end;
     }
 
-    [[nodiscard]] bool isSentenceCounted(qsizetype end)
+    [[nodiscard]] CountingReason judgeSentence(qsizetype end)
     {
         const QStringView sentence = m_text.sliced(m_sentence, end - m_sentence);
         if (m_isExact || m_scanner.isInsideWord(end)) {
             if (!m_counter.m_plain)
                 m_counter.m_plain.emplace();
-            return m_counter.m_plain->isSentenceCounted(sentence, m_rules);
+            return m_counter.m_plain->judgeSentence(sentence, m_rules);
         }
         if (m_rules.sentencesNeedTerminalPunctuation
             && !FixedRules::endsWithTerminalPunctuationMark(sentence))
-            return false;
+            return CountingReason::NoEndPunctuation;
         if (m_hasCounted || hasCountedWord(end))
-            return true;
-        return (m_hasLettered || hasLetter(end)) && m_rules.areLoneUnitsCounted();
+            return CountingReason::Sentence;
+        if (!m_hasLettered && !hasLetter(end))
+            return CountingReason::NoWord;
+        return m_rules.areLoneUnitsCounted() ? CountingReason::Sentence
+                                             : CountingReason::OnlySingleCharacters;
     }
 
     // Whether the open sentence has a word for every reader in this window and before end.
@@ -201,9 +234,11 @@ private:
     QStringView m_text;
     const TextRules &m_rules;
     const Progress &m_progress;
+    ItemReport *m_report;
     QBYWordCounterStats m_counts;
     qsizetype m_paragraph = 0; // where the open paragraph starts
     qsizetype m_sentence = 0; // where the open sentence starts
+    qsizetype m_line = 0; // where the open hard line starts; only for m_report
     qsizetype m_next = 0; // nothing before ends a sentence
     quint64 m_sentencesOfParagraph = 0;
     // What the windows before had of the open sentence and paragraph.
@@ -213,9 +248,11 @@ private:
     bool m_isExact = false; // the open sentence starts where its words may differ from those of the text
 };
 
-QBYWordCounterStats TextCounter::count(QStringView text, const TextRules &rules, const Progress &progress)
+QBYWordCounterStats TextCounter::count(
+    QStringView text, const TextRules &rules, const Progress &progress, ItemReport *report)
 {
-    return Pass(*this, text, rules, progress).run();
+    return report ? Pass<true>(*this, text, rules, progress, report).run()
+                  : Pass<false>(*this, text, rules, progress, nullptr).run();
 }
 
 QBYWordCounterStats TextCounter::countParagraph(

@@ -21,9 +21,10 @@ public:
     /// then in long ones.
     using Progress = std::function<void(qsizetype position)>;
 
-    /// All counts but numberOfLines, which stays 0, in time proportional to the length of the text.
-    [[nodiscard]] QBYWordCounterStats count(
-        QStringView text, const TextRules &rules, const Progress &progress = {});
+    /// All counts but numberOfLines, which stays 0, in time proportional to the length of the text. report:
+    /// unless null, gets what is counted.
+    [[nodiscard]] QBYWordCounterStats count(QStringView text, const TextRules &rules,
+        const Progress &progress = {}, ItemReport *report = nullptr);
 
     /// The same for one paragraph of a text, its separator included. No count of a paragraph depends on its
     /// neighbours: the counts of a text are the sum over its paragraphs.
@@ -37,6 +38,7 @@ public:
     [[nodiscard]] quint64 numberOfParagraphsIndented(QStringView text, const TextRules &rules);
 
 private:
+    template <bool isReporting>
     class Pass;
 
     WordScanner m_scanner;

@@ -59,9 +59,10 @@ struct WordScanner::Word {
     quint64 signs;
 };
 
-void WordScanner::setText(QStringView text)
+void WordScanner::setText(QStringView text, WordTrace *trace)
 {
     m_text = text;
+    m_trace = trace;
     m_masks.truncate(0);
     m_start = 0;
     m_softUntil = 0;
@@ -81,8 +82,11 @@ bool WordScanner::next()
     m_masks.read(m_text, m_start, length);
     markHebrewQuotes();
     scanWindow(length);
-    if (end() >= m_text.size())
+    if (end() >= m_text.size()) {
         m_loneUnits += std::exchange(m_openLoneUnits, 0);
+        if (m_trace)
+            m_trace->finish();
+    }
     return true;
 }
 
@@ -277,6 +281,14 @@ void WordScanner::countWord(const Word &word)
         m_masks.word(Fact::CountedAcross, word.index) |= across;
     }
     countLoneUnits(word, starts, hangulStarts);
+    if (m_trace) {
+        const quint64 allStarts = starts | hangulStarts;
+        m_trace->addBits(m_start + word.index * TextMasks::bitsPerWord,
+            {.starts = allStarts,
+                .continuing = (word.joining | word.hangul) & ~allStarts,
+                .extenders = word.extenders,
+                .lettered = (word.joining & ~word.unlettered) | word.hangul});
+    }
 }
 
 // The same where segments begin with connectors and the like: they are words only if a letter follows.
@@ -373,6 +385,8 @@ void WordScanner::countSegment()
     if (!isWord(segment))
         return;
     ++m_words;
+    if (m_trace)
+        m_trace->addWord(m_segmentStart, m_segmentEnd);
     const bool isLone = segment.size() == 1 && !isEnglishWordOfOneLetter(segment.utf16()[0]);
     m_loneUnits += isLone ? 1 : 0;
     m_masks.set(isLone ? Fact::Lettered : Fact::Counted, m_segmentStart - m_start);

@@ -7,6 +7,7 @@
 
 #include "platform/segmentation/BreakIterator.h"
 #include "platform/segmentation/TextMasks.h"
+#include "platform/segmentation/WordTrace.h"
 
 #include <QStringView>
 
@@ -14,8 +15,9 @@
 
 class WordScanner {
 public:
-    /// text: must live, unchanged, until the last next().
-    void setText(QStringView text);
+    /// text: must live, unchanged, until the last next(). trace: unless null, gets every word of the text;
+    /// must live as long.
+    void setText(QStringView text, WordTrace *trace = nullptr);
 
     /// Goes on to the next window; false after the last one. All calls together take time proportional to
     /// the length of the text.
@@ -95,6 +97,7 @@ private:
     qsizetype m_hardStart = 0;
     qsizetype m_segmentStart = 0;
     qsizetype m_segmentEnd = 0;
+    WordTrace *m_trace = nullptr;
     Carry m_carry;
     quint64 m_words = 0;
     quint64 m_loneUnits = 0;

@@ -104,14 +104,21 @@ LineFragment LayoutEngine::describe(const AttributedString &text, const Paragrap
 
     LineFragment fragment{};
     fragment.start = paragraph.start + start;
-    const bool holdsSeparator =
-        line.end == m_paragraph.text().size() && (!line.isForced || start == line.end);
-    fragment.length = (holdsSeparator ? paragraph.length : line.end) - start;
+    fragment.length = endOf(paragraph, start, line) - fragment.start;
     fragment.left = leftEdge + freeSpace * leftShare(style.alignment, isRightToLeft);
     fragment.width = extent.width;
     const qsizetype separator = paragraph.start + paragraph.contentLength;
     fragment.height = heightOf(start, line.end, separator) + clampNumber(style.lineSpacing, 0, 10'000);
     return fragment;
+}
+
+// In the text; start: in the paragraph.
+qsizetype LayoutEngine::endOf(
+    const Paragraph &paragraph, qsizetype start, const LineBreaker::Line &line) const
+{
+    const bool holdsSeparator =
+        line.end == m_paragraph.text().size() && (!line.isForced || start == line.end);
+    return paragraph.start + (holdsSeparator ? paragraph.length : line.end);
 }
 
 void LayoutEngine::layOutParagraph(
@@ -124,16 +131,31 @@ void LayoutEngine::layOutParagraph(
 }
 
 quint64 LayoutEngine::countLinesOfParagraph(
-    const AttributedString &text, const Paragraph &paragraph, double columnWidth)
+    const AttributedString &text, const Paragraph &paragraph, double columnWidth, const YieldLine &yield)
 {
-    if (paragraph.contentLength == 0)
+    if (paragraph.contentLength == 0) {
+        if (yield)
+            yield(paragraph.start, paragraph.end());
         return 1;
+    }
     if (m_isByPairs) {
-        if (const std::optional<quint64> count = m_filler.countLines(text, paragraph, columnWidth))
+        const std::optional<quint64> count =
+            m_filler.countLines(text, paragraph, columnWidth, yield ? &m_lineEnds : nullptr);
+        if (count && yield) {
+            m_lineEnds.back() = paragraph.length; // with the separator
+            for (qsizetype start = 0; const qsizetype end : m_lineEnds) {
+                yield(paragraph.start + start, paragraph.start + end);
+                start = end;
+            }
+        }
+        if (count)
             return *count;
     }
-    return fillLines(
-        text, paragraph, columnWidth, [](LineBreaker &, qsizetype, const LineBreaker::Line &) {});
+    return fillLines(text, paragraph, columnWidth,
+        [&](const LineBreaker &, qsizetype start, const LineBreaker::Line &line) {
+            if (yield)
+                yield(paragraph.start + start, endOf(paragraph, start, line));
+        });
 }
 
 quint64 LayoutEngine::countLines(const AttributedString &text, double columnWidth, const Progress &progress)

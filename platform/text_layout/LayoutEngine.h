@@ -36,9 +36,12 @@ public:
     void layOutParagraph(
         const AttributedString &text, const Paragraph &paragraph, double columnWidth, const Yield &yield);
 
-    /// The number of lines that layOutParagraph() would yield.
-    quint64 countLinesOfParagraph(
-        const AttributedString &text, const Paragraph &paragraph, double columnWidth);
+    /// Called for every line; start, end: UTF-16 code units of the text, as of LineFragment.
+    using YieldLine = std::function<void(qsizetype start, qsizetype end)>;
+
+    /// The number of lines that layOutParagraph() would yield. yield: called for each, unless empty.
+    quint64 countLinesOfParagraph(const AttributedString &text, const Paragraph &paragraph,
+        double columnWidth, const YieldLine &yield = {});
 
     /// Called after every paragraph. position: the UTF-16 code units laid out so far.
     using Progress = std::function<void(qsizetype position)>;
@@ -62,11 +65,14 @@ private:
         const AttributedString &text, const Paragraph &paragraph, double columnWidth, Report &&report);
     [[nodiscard]] LineFragment describe(const AttributedString &text, const Paragraph &paragraph,
         LineBreaker &breaker, qsizetype start, const LineBreaker::Line &line);
+    [[nodiscard]] qsizetype endOf(
+        const Paragraph &paragraph, qsizetype start, const LineBreaker::Line &line) const;
     [[nodiscard]] double heightOf(qsizetype start, qsizetype end, qsizetype separator);
 
     FontLibrary m_fonts;
     MeasuredParagraph m_paragraph;
     LineBreaks m_breaks;
     LineFiller m_filler{m_fonts, m_paragraph.shaper(), m_breaks};
+    std::vector<qsizetype> m_lineEnds; // of the paragraph, if its lines are wanted
     bool m_isByPairs;
 };
