@@ -64,6 +64,7 @@ int main(int argumentCount, char **arguments)
     choosePlatform();
     SandboxedReader::shared().prepare(); // the first selection is on its way
     const QApplication application(argumentCount, arguments);
+    QApplication::setApplicationName(QStringLiteral("Quillbay")); // the window class, and for screen readers
     QApplication::setApplicationDisplayName(QStringLiteral("Quillbay"));
     QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("com.quillbay.Quillbay")));

@@ -6,6 +6,7 @@
 #include "platform/views/widgets/LabelText.h"
 #include "platform/views/widgets/PixelGeometry.h"
 #include "platform/views/widgets/WindowActivation.h"
+#include "platform/views/widgets/WindowPlaces.h"
 #include "platform/views/widgets/WindowWidget.h"
 
 #include <QApplication>
@@ -96,6 +97,16 @@ std::unique_ptr<QMessageBox> makeMessageBox(
     // The box is about windows that float; it must not be covered by them.
     box->setWindowFlag(Qt::WindowStaysOnTopHint);
     return box;
+}
+
+/// In the middle of the screen with the pointer, where Qt places dialogs, or next to others that wait there.
+void placeInCascade(QDialog &dialog)
+{
+    const QScreen *const atPointer = QGuiApplication::screenAt(QCursor::pos());
+    const QRect workArea = (atPointer ? atPointer : QGuiApplication::primaryScreen())->availableGeometry();
+    QRect wanted(QPoint(), dialog.sizeHint());
+    wanted.moveCenter(workArea.center());
+    dialog.move(WindowPlaces::freePlace(wanted, WindowPlaces::placesOfWindows(dialog), workArea));
 }
 
 /// QMessageBox::setTextFormat() does not affect the informative text.
@@ -200,6 +211,7 @@ void WidgetDesktop::showAlert(std::unique_ptr<QDialog> dialog, Finish finish)
     QDialog &shown = *dialog;
     addDialog(std::move(dialog), std::move(finish));
     new AnswerGuard(shown, m_clock); // owned by the dialog
+    placeInCascade(shown);
     WindowActivation::showForAttention(shown);
 }
 

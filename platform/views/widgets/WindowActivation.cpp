@@ -32,7 +32,7 @@ void WindowActivation::setToken(const QByteArray &token)
 void WindowActivation::showForAttention(QWidget &window)
 {
     window.setAttribute(Qt::WA_ShowWithoutActivating); // on X11 a user time of 0: no focus wanted
-    window.winId(); // makes the native window
+    X11::setDesktopFile(static_cast<quint32>(window.winId()), QGuiApplication::desktopFileName());
     QWindow *const native = window.windowHandle();
     // Qt requests the focus for modal dialogs, and some window managers give it to every new window that
     // accepts it.
@@ -51,12 +51,14 @@ void WindowActivation::showForAttention(QWidget &window)
 void WindowActivation::showAndActivate(QWidget &window)
 {
     const QByteArray token = std::exchange(nextToken(), {});
+    const auto native = static_cast<quint32>(window.winId());
+    X11::setDesktopFile(native, QGuiApplication::desktopFileName());
     if (X11::isAvailable())
-        X11::setStartupToken(static_cast<quint32>(window.winId()), token);
+        X11::setStartupToken(native, token);
     else if (!token.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", token); // Qt's Wayland plugin reads it from there
     window.show();
     window.raise();
     window.activateWindow();
-    X11::requestFocus(static_cast<quint32>(window.winId()), token);
+    X11::requestFocus(native, token);
 }

@@ -4,6 +4,7 @@
 #include "platform/views/widgets/LabelText.h"
 #include "platform/views/widgets/PixelGeometry.h"
 #include "platform/views/widgets/WindowActivation.h"
+#include "platform/views/widgets/WindowPlaces.h"
 #include "platform/views/widgets/X11.h"
 
 #include <QApplication>
@@ -33,7 +34,8 @@ Qt::WindowFlags makeWindowFlags(const Window &window)
 {
     const unsigned style = window.styleMask();
     const bool isFloating = window.level() == WindowLevel::Floating;
-    Qt::WindowFlags flags = isFloating ? Qt::Tool | Qt::WindowStaysOnTopHint : Qt::Window;
+    // Not Qt::Tool: window managers leave tool windows out of taskbar and Alt+Tab.
+    Qt::WindowFlags flags = isFloating ? Qt::Window | Qt::WindowStaysOnTopHint : Qt::Window;
     flags |= Qt::CustomizeWindowHint;
     flags |=
         style & Window::titled ? Qt::WindowTitleHint | Qt::WindowSystemMenuHint : Qt::FramelessWindowHint;
@@ -155,6 +157,12 @@ void WindowWidget::applyFrame()
     m_dragPoll.stop();
     m_knownOrigin = m_window->frame().topLeft();
     const QRect pixels = pixelRectOnScreen(m_window->frame(), primaryScreenRect());
+    if (!isPlaced && isVisible()) {
+        const QRect kept =
+            WindowPlaces::keptInside(pixels, geometry(), WindowPlaces::workAreaAround(geometry()));
+        if (kept != pixels)
+            return moveTo(kept.topLeft());
+    }
     m_ownPlaces += {geometry().topLeft(), pixels.topLeft()};
     m_settling.start();
     // Widens the limits first, so that place and size change in one step and the window does not jump.
@@ -209,8 +217,22 @@ void WindowWidget::adoptScreen()
     Q_EMIT m_window->textMetricsDidChange();
 }
 
+/// Moves the window as the user would: its frame follows.
+void WindowWidget::moveTo(const QPoint &corner)
+{
+    const QRectF &frame = m_window->frame();
+    QRect pixels = pixelRectOnScreen(frame, primaryScreenRect());
+    pixels.moveTopLeft(corner);
+    m_window->setFrame(frameOnScreen(pixels, primaryScreenRect(), frame), false, false);
+}
+
 void WindowWidget::bringToFront()
 {
+    const QRect wanted = pixelRectOnScreen(m_window->frame(), primaryScreenRect());
+    moveTo(WindowPlaces::freePlace(
+        wanted, WindowPlaces::placesOfWindows(*this), WindowPlaces::workAreaAround(wanted)));
+    if (!isVisible())
+        setFocus(); // no control has the focus until the user gives it one: a space must not press a button
     if (m_window->canBecomeKeyWindow()) {
         WindowActivation::showAndActivate(*this);
         return;

@@ -5,14 +5,16 @@
 // Thread: main.  Owner: WidgetDesktop's WindowOnScreen; shares the ownership of the window.
 //
 // - The widget covers the frame, without the title bar; PixelGeometry.h relates points and pixels.
-// - A window without a title bar is frameless; a floating one is a tool window above all others.
-// - The frame of the window follows when the user, the window manager or a change of the primary screen moves
-// or
-//   resizes the widget. Without the style resizable the window keeps its size.
+// - A window without a title bar is frameless; a floating one is above all others. Taskbar and Alt+Tab have
+//   both.
+// - A window that comes to the front where it would hide another one of the program is moved to the next free
+//   place of a cascade; one that grows over an edge of the work area is moved back into it.
+// - The frame of the window follows when the user, the window manager, a change of the primary screen or one
+//   of these moves changes the widget. Without the style resizable the window keeps its size.
+// - No control has the focus when the window opens.
 // - Escape and Ctrl+W act like the window manager's close.
 // - The labels of the window get a text measurer, and a new one whenever the user's font or the scale
-// changes;
-//   then the window emits textMetricsDidChange().
+//   changes; then the window emits textMetricsDidChange().
 #pragma once
 
 #include "platform/views/Window.h"
@@ -61,6 +63,7 @@ private:
     void applySizeLimits();
     void adoptGeometry();
     void adoptScreen();
+    void moveTo(const QPoint &corner);
     void bringToFront();
 
     std::shared_ptr<Window> m_window;

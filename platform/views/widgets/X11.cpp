@@ -79,6 +79,13 @@ void setUserTime(xcb_connection_t *connection, quint32 window, quint32 time)
         XCB_ATOM_CARDINAL, 32, 1, &time);
 }
 
+/// text: in UTF-8.
+void setText(xcb_connection_t *connection, quint32 window, const char *property, const QByteArray &text)
+{
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atom(connection, property),
+        atom(connection, "UTF8_STRING"), 8, static_cast<quint32>(text.size()), text.constData());
+}
+
 /// data: the first four of the five values of a client message; the last one is 0.
 void sendToWindowManager(
     xcb_connection_t *connection, quint32 window, const char *type, const std::array<quint32, 4> &data)
@@ -129,13 +136,21 @@ bool X11::isPointerGrabbed(quint32 window)
     return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
 
+void X11::setDesktopFile(quint32 window, const QString &name)
+{
+    xcb_connection_t *const connection = qtConnection();
+    if (!connection || name.isEmpty())
+        return;
+    // The names that KDE's and GNOME's window lists read; others read WM_CLASS, which Qt sets.
+    for (const char *const property : {"_KDE_NET_WM_DESKTOP_FILE", "_GTK_APPLICATION_ID"})
+        setText(connection, window, property, name.toUtf8());
+}
+
 void X11::setStartupToken(quint32 window, const QByteArray &token)
 {
     xcb_connection_t *const connection = qtConnection();
-    if (!connection || token.isEmpty())
-        return;
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atom(connection, "_NET_STARTUP_ID"),
-        atom(connection, "UTF8_STRING"), 8, static_cast<quint32>(token.size()), token.constData());
+    if (connection && !token.isEmpty())
+        setText(connection, window, "_NET_STARTUP_ID", token);
 }
 
 void X11::requestFocus(quint32 window, const QByteArray &token)

@@ -20,6 +20,10 @@ bool isButtonPressed();
 /// window of this program.
 bool isPointerGrabbed(quint32 window);
 
+/// To be called before the window is shown: names the program's desktop file, by which desktops find its
+/// icon and group its windows.
+void setDesktopFile(quint32 window, const QString &name);
+
 /// To be called before the window is shown: marks it as belonging to a startup notification.
 void setStartupToken(quint32 window, const QByteArray &token);
 

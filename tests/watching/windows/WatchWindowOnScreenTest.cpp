@@ -73,15 +73,26 @@ TEST_F(WatchWindowOnScreen, StopEndsTheProgramWithItsLastWindow)
     const QString first = open(m_novel, 3);
     const QRect rect = rectOf(first);
     const pid_t process = provider();
-    // The second one opens in the same place, above the first.
+    // The second one is wanted in the same place, and shifted so that both are visible.
     const QString second = open(other, 2);
-    EXPECT_EQ(rectOf(second).center(), rect.center());
+    EXPECT_EQ(rectOf(second).topLeft(), rect.topLeft() + QPoint(32, 32));
     clickStop(second);
     waitForWindowsOf(0, QStringLiteral("other.txt"));
     EXPECT_EQ(provider(), process);
     clickStop(first);
     waitForWindowsOf(0, QStringLiteral("novel.txt"));
     waitForEnd(process);
+}
+
+TEST_F(WatchWindowOnScreen, ASpaceTypedForAnotherWindowDoesNotEndTheWatch)
+{
+    open(m_novel, 3);
+    press("space");
+    press("Return");
+    EXPECT_TRUE(shows(3)); // handled after the other keys
+    press("Tab");
+    press("space");
+    waitForWindowsOf(0, QStringLiteral("novel.txt"));
 }
 
 TEST_F(WatchWindowOnScreen, ThereIsNoCloseButtonAndTheKeysForClosingStop)

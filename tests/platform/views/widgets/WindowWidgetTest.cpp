@@ -132,7 +132,7 @@ TEST(WindowWidget, HasTheStyleAndLevelOfTheWindow)
     shown.show();
     const auto has = [&shown](
                          Qt::WindowFlags flags) { return (shown.widget().windowFlags() & flags) == flags; };
-    EXPECT_TRUE(has(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint));
+    EXPECT_TRUE(has(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint));
     EXPECT_THAT(
         propertyOf(shown, "_NET_WM_STATE").toStdString(), ::testing::HasSubstr("_NET_WM_STATE_ABOVE"));
     EXPECT_THAT(propertyOf(shown, "_NET_FRAME_EXTENTS").toStdString(), ::testing::HasSubstr("0, 0, 0, 0"));
