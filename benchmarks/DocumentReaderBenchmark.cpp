@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Reading a document through the program that reads documents, beside reading it in this process. The first
 // number of a row is the kind of the document, the second its length in kilobytes. The program that waits is
-// ready before each document, as it is when a user opens one.
+// ready before each document, as it is when a user opens one. The memory is the largest of all programs so
+// far, or that of this process if it was larger when it started one: run a row alone to know it.
 #include "documents/loading/SandboxedReader.h"
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/documents/odt/OdtWriter.h"

@@ -7,6 +7,8 @@
 #include "documents/reading/TextBytes.h"
 #include "documents/rtf/RtfSignature.h"
 #include "documents/rtfd/RtfdPackage.h"
+#include "platform/text_encoding/EncodingConverter.h"
+#include "platform/text_encoding/TextEncoding.h"
 
 #include <QMimeDatabase>
 
@@ -55,7 +57,7 @@ std::optional<DocumentKind> kindByName(const QByteArray &path)
 /// From the first element of an XML document on; empty for other bytes.
 QByteArrayView xmlRoot(QByteArrayView bytes)
 {
-    if (!bytes.startsWith("<?xml") && !bytes.startsWith("\xEF\xBB\xBF<?xml"))
+    if (!bytes.startsWith("<?xml"))
         return {};
     qsizetype at = bytes.indexOf('<');
     while (at >= 0 && at + 1 < bytes.size() && (bytes[at + 1] == '?' || bytes[at + 1] == '!')) {
@@ -66,11 +68,20 @@ QByteArrayView xmlRoot(QByteArrayView bytes)
     return at < 0 ? QByteArrayView() : bytes.sliced(at);
 }
 
+/// The first bytes of a text, in UTF-8 if its byte order mark announces another encoding of Unicode. Enough
+/// for the root element of an office document, which declares many namespaces.
+QByteArray startOfText(QByteArrayView bytes)
+{
+    constexpr qsizetype startLength = 32'768;
+    const QByteArrayView start = bytes.first(std::min(bytes.size(), startLength));
+    const std::optional<TextEncoding> marked = markedEncoding(start);
+    return marked ? decodeText(start.sliced(marked->markLength), marked->name).toUtf8() : start.toByteArray();
+}
+
 /// The type that an office document in one XML file declares; empty for other bytes.
 QByteArray flatDocumentType(QByteArrayView bytes)
 {
-    constexpr qsizetype startLength = 16'384; // its declarations of namespaces are long
-    const QByteArrayView root = xmlRoot(bytes.first(std::min(bytes.size(), startLength)));
+    const QByteArrayView root = xmlRoot(bytes);
     constexpr QByteArrayView attribute(" office:mimetype=");
     const QByteArrayView tag = root.first(std::max<qsizetype>(root.indexOf('>'), 0));
     const qsizetype at = tag.indexOf(attribute);
@@ -109,7 +120,7 @@ Result<DocumentKind, DocumentError> kindOfDocument(const QByteArray &name, QByte
         return kindOfBinary(path, bytes);
     if (looksLikeFlatWordDocument(bytes))
         return DocumentKind::WordDocument;
-    if (const QByteArray type = flatDocumentType(bytes); !type.isEmpty())
+    if (const QByteArray type = flatDocumentType(startOfText(bytes)); !type.isEmpty())
         return kindOfDeclaredType(type);
     return kindOfText(path, bytes);
 }

@@ -37,15 +37,15 @@ void appendEscaped(QByteArray &rtf, char16_t unit)
 }
 
 constexpr qsizetype blockLength = 8; // code units
-using Units = char16_t __attribute__((vector_size(2 * blockLength)));
+// Of numbers, as Clang 14 crashes over comparisons of vectors of char16_t.
+using Units = quint16 __attribute__((vector_size(2 * blockLength)));
 using Bytes = uchar __attribute__((vector_size(blockLength)));
 
 bool isLiteralBlock(const char16_t *from)
 {
     Units units;
     std::memcpy(&units, from, sizeof units);
-    const auto others =
-        (units < 0x20) | (units > 0x7E) | (units == u'\\') | (units == u'{') | (units == u'}');
+    const auto others = (units < 0x20) | (units > 0x7E) | (units == '\\') | (units == '{') | (units == '}');
     std::array<quint64, 2> bits;
     std::memcpy(bits.data(), &others, sizeof bits);
     return (bits[0] | bits[1]) == 0;

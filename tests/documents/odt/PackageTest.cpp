@@ -80,7 +80,8 @@ TEST(OdtPackage, MayBeAFlatFileWithAByteOrderMarkOrInUtf16)
                              .replace(QStringLiteral("UTF-8"), QStringLiteral("UTF-16"))
                              .prepend(QChar::ByteOrderMark);
     const QByteArray bytes(reinterpret_cast<const char *>(wide.utf16()), wide.size() * 2);
-    EXPECT_EQ(kindOfDocument("text.fodt", bytes).value(), DocumentKind::OpenDocument);
+    for (const char *name : {"text.fodt", "", "text.xml"})
+        EXPECT_EQ(kindOfDocument(name, bytes).value(), DocumentKind::OpenDocument) << name;
     EXPECT_EQ(readOpenDocument(bytes).value().string(), u"text\n");
 }
 
