@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             readDocument(DocumentKind::WordDocument, package)) {
         const Result<DocumentKind, DocumentError> kind = kindOfDocument({}, package);
         require(kind && kind.value() == DocumentKind::WordDocument);
-        requireSound(text.value());
+        requireSoundParagraphs(text.value());
     }
     return 0;
 }

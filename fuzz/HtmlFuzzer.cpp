@@ -3,13 +3,13 @@
 // with "charset " is the charset that the transfer names.
 #include "documents/html/HtmlReader.h"
 #include "documents/html/HtmlStyleAttribute.h"
-#include "fuzz/FuzzerInput.h"
+#include "fuzz/SoundText.h"
 
 #include <cstdint>
 
 namespace {
 
-void requireSound(const TextAttributes &attributes)
+void requireSoundAttributes(const TextAttributes &attributes)
 {
     require(attributes.font.has_value() && !attributes.attachment);
     require(attributes.font->pointSize >= 1 && attributes.font->pointSize <= 1000);
@@ -25,13 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     QByteArrayView page(data, static_cast<qsizetype>(size));
     HtmlOptions options;
-    constexpr QByteArrayView charset = "charset ";
-    if (page.startsWith(charset)) {
-        const qsizetype end = page.indexOf('\n');
-        const QByteArrayView line = page.first(end < 0 ? page.size() : end);
-        options.charset = line.sliced(charset.size()).toByteArray();
-        page = page.sliced(line.size());
-    }
+    options.charset = takeFirstLine(page, "charset ");
     static_cast<void>(looksLikeHtml(page));
     static_cast<void>(parseStyleAttribute(page));
 
@@ -44,15 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const AttributedString &text = read.value();
     require(text.string().isValidUtf16());
     require(text.length() <= page.size());
-    qsizetype end = 0;
-    for (qsizetype i = 0; i < text.runCount(); ++i) {
-        const AttributedString::Run run = text.run(i);
-        require(run.start == end && run.length > 0);
-        require(i == 0 || text.run(i - 1).attributesIndex != run.attributesIndex);
-        end += run.length;
-    }
-    require(end == text.length());
+    requireSound(text);
     for (const TextAttributes &attributes : text.distinctAttributes())
-        requireSound(attributes);
+        requireSoundAttributes(attributes);
     return 0;
 }

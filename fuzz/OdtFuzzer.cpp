@@ -81,7 +81,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     if (bytes.startsWith("PK") || bytes.startsWith("<?xml")) {
         if (const Result<AttributedString, DocumentError> text = readOpenDocument(bytes))
-            requireSound(text.value());
+            requireSoundParagraphs(text.value());
         return 0;
     }
     const OpenDocumentText document = documentOf(bytes);
@@ -89,7 +89,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         if (const Result<AttributedString, DocumentError> text = readOpenDocument(form)) {
             const Result<DocumentKind, DocumentError> kind = kindOfDocument({}, form);
             require(kind && kind.value() == DocumentKind::OpenDocument);
-            requireSound(text.value());
+            requireSoundParagraphs(text.value());
         }
     }
     return 0;
