@@ -5,6 +5,7 @@
 #include "counting_service/worker/CountingWorker.h"
 #include "platform/system/ProcessLimits.h"
 #include "platform/system/Processes.h"
+#include "platform/system/Sanitizers.h"
 #include "platform/system/SystemError.h"
 
 #include <fcntl.h>
@@ -20,11 +21,6 @@ namespace {
 
 constexpr qint64 mebibyte = 1 << 20;
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool isMemoryLimited = false; // sanitizers reserve terabytes of address space
-#else
-constexpr bool isMemoryLimited = true;
-#endif
 /// Bytes of address space for the program, its libraries, all fonts of a machine, and a heap for each thread.
 constexpr quint64 baseMemory = quint64{4096} * mebibyte;
 /// Bytes for each byte of a document: text, attributes, lines, and a copy of them while they grow.
@@ -157,7 +153,7 @@ void WorkerProcess::end(WorkerEnd reason)
 
 void WorkerProcess::limitMemory(quint64 length) const
 {
-    if (isMemoryLimited)
+    if (!isSanitized)
         limitResourceForNow(m_process, RLIMIT_AS, baseMemory + memoryPerByte * length);
 }
 

@@ -6,6 +6,7 @@
 #include "platform/system/PacketSocket.h"
 #include "platform/system/ProcessLimits.h"
 #include "platform/system/Processes.h"
+#include "platform/system/Sanitizers.h"
 #include "platform/system/SealedMemory.h"
 
 #include <fcntl.h>
@@ -30,12 +31,6 @@ constexpr qint64 mebibyte = 1'048'576;
 constexpr auto startTimeout = 60s;
 /// Real seconds for each second of the processor: other work may share the machine.
 constexpr int realTimeFactor = 20;
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool isSanitized = true; // sanitizers reserve terabytes of address space
-#else
-constexpr bool isSanitized = false;
-#endif
 
 /// A copy with a number above those that the program's files get: another one would be replaced by them.
 OwnedDescriptor duplicateAboveFilesOfProgram(int descriptor)

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sandbox/AllowedCalls.h"
 
+#include "platform/system/Sanitizers.h"
+
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool isSanitized = true;
-#else
-constexpr bool isSanitized = false;
-#endif
 
 // Arguments of the type int: the kernel ignores the upper half of the register.
 constexpr quint64 wholeInt = 0xFFFFFFFF;
