@@ -1,42 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "documents/docx/CompoundFile.h"
 
-#include <algorithm>
-#include <string_view>
+#include "platform/text_encoding/AsciiBytes.h"
 
-namespace {
+#include <algorithm>
 
 bool isCompoundFile(QByteArrayView bytes)
 {
     return bytes.startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
 }
 
-/// Whether a compound file has the stream of an encrypted package (MS-OFFCRYPTO 2.3.4.4). Directory entries
-/// may be anywhere in the file, at multiples of their length. They begin with the name of the stream in
-/// UTF-16 and a NUL; names are not case-sensitive (MS-CFB 2.6.4).
-bool hasEncryptedPackage(QByteArrayView bytes)
+bool hasStream(QByteArrayView compoundFile, std::string_view name)
 {
+    // Directory entries may be anywhere in the file, at multiples of their length. They begin with the name
+    // in UTF-16 and a NUL (MS-CFB 2.6).
     constexpr qsizetype entryLength = 128;
-    constexpr std::string_view name("encryptedpackage\0", 17);
-    constexpr auto nameLength = 2 * static_cast<qsizetype>(name.size());
-    for (qsizetype entry = 0; entry + nameLength <= bytes.size(); entry += entryLength) {
-        qsizetype place = entry;
+    const auto length = 2 * static_cast<qsizetype>(name.size() + 1);
+    for (qsizetype entry = 0; entry + length <= compoundFile.size(); entry += entryLength) {
+        const QByteArrayView stored = compoundFile.sliced(entry, length);
+        qsizetype at = 0;
         const bool isName = std::ranges::all_of(name, [&](char letter) {
-            const char low = bytes[place++];
-            const char lower = low >= 'A' && low <= 'Z' ? static_cast<char>(low - 'A' + 'a') : low;
-            return lower == letter && bytes[place++] == '\0';
+            const bool isSame = startsWithWord(stored.sliced(at), {&letter, 1}) && stored[at + 1] == '\0';
+            at += 2;
+            return isSame;
         });
-        if (isName)
+        if (isName && stored[at] == '\0' && stored[at + 1] == '\0')
             return true;
     }
     return false;
-}
-
-} // namespace
-
-std::optional<DocumentError::Cause> causeOfCompoundFile(QByteArrayView bytes)
-{
-    if (!isCompoundFile(bytes))
-        return std::nullopt;
-    return hasEncryptedPackage(bytes) ? DocumentError::Cause::Encrypted : DocumentError::Cause::OldFormat;
 }

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-// CompoundFile recognizes the Word documents that are no packages: those of Word 97 to 2003, and encrypted
-// ones. Thread: any.
+// CompoundFile recognizes compound files (MS-CFB): the packages of office programs before 2007, and of
+// encrypted documents since then. Their streams are not read.
+// Thread: any.
 #pragma once
-
-#include "documents/DocumentError.h"
 
 #include <QByteArrayView>
 
-#include <optional>
+#include <string_view>
 
-/// Encrypted or OldFormat for a compound file (MS-CFB); absent for other bytes.
-std::optional<DocumentError::Cause> causeOfCompoundFile(QByteArrayView bytes);
+bool isCompoundFile(QByteArrayView bytes);
+
+/// Whether a compound file has a stream or storage of that name, in ASCII; case does not matter.
+bool hasStream(QByteArrayView compoundFile, std::string_view name);

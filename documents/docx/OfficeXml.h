@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// OfficeXml is what the parts of a Word document have in common: their namespaces, and the forms of their
-// values. What elements mean is left to the handlers. Thread: any.
+// OfficeXml is what the parts of a Word document have in common: their namespaces, alternatives for other
+// versions of Word, and the forms of their values. What elements mean is left to the handlers.
+// Thread: any.
 #pragma once
 
 #include "documents/package/XmlReader.h"
@@ -35,8 +36,8 @@ inline std::optional<QByteArrayView> valueOf(const XmlElement &element)
     return element.attribute("val"_tag);
 }
 
-/// Passes the elements of a part that MarkupCompatibility keeps to the handler, in document order; see
-/// readOfficePart().
+/// Passes the elements of a part to the handler, in document order: of several alternatives the first one
+/// that is supported, and no elements that are not supported and may be ignored.
 [[nodiscard]] std::optional<DocumentError::Cause> readOfficePart(
     const ZipPackage &package, const QByteArray &partName, XmlHandler &handler);
 

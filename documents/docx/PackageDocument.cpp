@@ -2,6 +2,10 @@
 #include "documents/docx/PackageDocument.h"
 
 #include "documents/Lengths.h"
+#include "documents/Notes.h"
+#include "documents/docx/AlternativeChunk.h"
+#include "documents/docx/CompoundFile.h"
+#include "documents/docx/StoryReader.h"
 
 namespace {
 
@@ -46,6 +50,58 @@ std::optional<DocumentError::Cause> assign(Value &place, Result<Value, DocumentE
     return std::nullopt;
 }
 
+/// Appends the notes of one part in the order of their references. References without a note are ignored.
+std::optional<DocumentError::Cause> appendNotes(AttributedStringBuilder &text,
+    const PackageDocument &document, const char *type, const NoteReferences &references, StoryNotes &notes)
+{
+    const std::optional<QByteArray> part = document.relationships.partByType(type);
+    if (references.inOrder().empty() || !part || !document.package.contains(*part))
+        return std::nullopt;
+    const Result<Relationships, DocumentError::Cause> relationships =
+        Relationships::read(document.package, *part);
+    if (!relationships)
+        return relationships.error();
+    StoryReader reader(document.styles, notes, [&](const QByteArray &identifier) {
+        return readAlternativeChunk(document, relationships.value(), identifier);
+    });
+    // Reading the notes adds their own references to the original.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const NoteReferences wanted = references;
+    reader.setWantedNotes(&wanted);
+    if (const std::optional<DocumentError::Cause> failure = readOfficePart(document.package, *part, reader))
+        return failure;
+    if (reader.error())
+        return reader.error();
+    for (const QByteArray &identifier : wanted.inOrder())
+        text.append(reader.note(identifier));
+    return std::nullopt;
+}
+
+Result<AttributedString, DocumentError::Cause> textOf(const PackageDocument &document)
+{
+    StoryNotes notes;
+    StoryReader reader(document.styles, notes, [&document](const QByteArray &identifier) {
+        return readAlternativeChunk(document, document.relationships, identifier);
+    });
+    if (const std::optional<DocumentError::Cause> failure =
+            readOfficePart(document.package, document.mainPart, reader))
+        return *failure;
+    if (reader.error())
+        return *reader.error();
+    const AttributedString body = reader.takeBody();
+    if (!notesAreText || (notes.footnotes.inOrder().empty() && notes.endnotes.inOrder().empty()))
+        return body;
+    AttributedStringBuilder text;
+    text.append(body);
+    std::optional<DocumentError::Cause> failure =
+        appendNotes(text, document, "footnotes", notes.footnotes, notes);
+    if (!failure)
+        failure = appendNotes(text, document, "endnotes", notes.endnotes, notes);
+    if (failure)
+        return *failure;
+    return text.build();
+}
+
 } // namespace
 
 Result<DocumentStyles, DocumentError::Cause> DocumentStyles::read(
@@ -70,4 +126,31 @@ Result<DocumentStyles, DocumentError::Cause> DocumentStyles::read(
     if (failure)
         return *failure;
     return styles;
+}
+
+Result<AttributedString, DocumentError::Cause> readPackageDocument(
+    QByteArrayView bytes, ReadAllowance &allowance, const ChunkReader &readChunk)
+{
+    if (isCompoundFile(bytes))
+        return hasStream(bytes, "EncryptedPackage") ? DocumentError::Cause::Encrypted
+                                                    : DocumentError::Cause::OldFormat;
+    const Result<ZipPackage, DocumentError::Cause> package = ZipPackage::open(bytes, allowance);
+    if (!package)
+        return package.error();
+    const Result<ContentTypes, DocumentError::Cause> types = ContentTypes::read(package.value());
+    if (!types)
+        return types.error();
+    const Result<QByteArray, DocumentError::Cause> mainPart = mainPartOf(package.value(), types.value());
+    if (!mainPart)
+        return mainPart.error();
+    const Result<Relationships, DocumentError::Cause> relationships =
+        Relationships::read(package.value(), mainPart.value());
+    if (!relationships)
+        return relationships.error();
+    const Result<DocumentStyles, DocumentError::Cause> styles =
+        DocumentStyles::read(package.value(), relationships.value());
+    if (!styles)
+        return styles.error();
+    return textOf(
+        {package.value(), types.value(), mainPart.value(), relationships.value(), styles.value(), readChunk});
 }

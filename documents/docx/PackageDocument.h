@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// PackageDocument is a Word document whose parts are listed and whose styles are read. Reading its text is
-// left to StoryReader.
+// PackageDocument reads a Word document as a package: it lists the parts, reads the styles, and puts the body
+// and the notes together, which StoryReader reads.
 // Thread: one at a time.  Owner: DocxReader.
 #pragma once
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "documents/reading/BinaryKind.h"
 
+#include "documents/docx/CompoundFile.h"
 #include "documents/reading/TypeDescription.h"
 #include "documents/reading/ZipListing.h"
 
@@ -93,33 +94,14 @@ bool isOlderWordDocument(QByteArrayView bytes)
     return std::ranges::any_of(magicNumbers, [&](std::string_view magic) { return bytes.startsWith(magic); });
 }
 
-/// Whether a compound file has a stream or storage of that name. Directory entries may be anywhere in the
-/// file, at multiples of their length; they begin with the name in UTF-16 and a NUL (MS-CFB 2.6.1).
-bool hasStream(QByteArrayView compound, std::u16string_view name)
-{
-    constexpr qsizetype entryLength = 128;
-    const auto length = static_cast<qsizetype>(name.size() + 1) * 2;
-    for (qsizetype entry = 0; entry + length <= compound.size(); entry += entryLength) {
-        qsizetype at = entry;
-        const bool isName = std::ranges::all_of(name, [&](char16_t unit) {
-            const bool isSame = compound[at] == static_cast<char>(unit) && compound[at + 1] == '\0';
-            at += 2;
-            return isSame;
-        });
-        if (isName && compound[at] == '\0' && compound[at + 1] == '\0')
-            return true;
-    }
-    return false;
-}
-
 Kind kindOfCompoundFile(const QByteArray &path, QByteArrayView bytes)
 {
     // A Word document may have a spreadsheet inside.
-    if (hasStream(bytes, u"WordDocument") || hasStream(bytes, u"EncryptedPackage"))
+    if (hasStream(bytes, "WordDocument") || hasStream(bytes, "EncryptedPackage"))
         return DocumentKind::WordDocument;
-    if (hasStream(bytes, u"Workbook") || hasStream(bytes, u"Book"))
+    if (hasStream(bytes, "Workbook") || hasStream(bytes, "Book"))
         return spreadsheet();
-    if (hasStream(bytes, u"PowerPoint Document"))
+    if (hasStream(bytes, "PowerPoint Document"))
         return presentation();
     const QMimeType storage = QMimeDatabase().mimeTypeForName(QStringLiteral("application/x-ole-storage"));
     const QList<QMimeType> types = QMimeDatabase().mimeTypesForFileName(QString::fromLocal8Bit(path));
@@ -228,7 +210,7 @@ Kind kindOfBinary(const QByteArray &path, QByteArrayView bytes)
 {
     if (const std::optional<ZipListing> package = listZip(bytes))
         return kindOfZip(*package, path);
-    if (bytes.startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1"))
+    if (isCompoundFile(bytes))
         return kindOfCompoundFile(path, bytes);
     if (isOlderWordDocument(bytes))
         return DocumentError(Cause::OldFormat, DocumentKind::WordDocument);
