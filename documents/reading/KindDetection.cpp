@@ -92,6 +92,27 @@ QByteArray flatDocumentType(QByteArrayView bytes)
     return end < 0 ? QByteArray() : tag.sliced(quote + 1, end - quote - 1).toByteArray();
 }
 
+/// Documents of which the text would be counted with their markup, and pictures in letters. Absent for other
+/// bytes.
+std::optional<DocumentError> refusalOfXml(QByteArrayView bytes)
+{
+    struct Format {
+        const char *root;
+        const char *description;
+    };
+    static constexpr std::array formats{
+        Format{"<FictionBook", "an e-book in the format FictionBook; convert it to EPUB"},
+        Format{"<abiword", "an AbiWord document; save it as .odt or RTF"},
+        Format{"<uof:UOF", "a document in the Uniform Office Format; save it as .odt or .docx"},
+    };
+    const QByteArrayView root = xmlRoot(bytes);
+    const auto *const format = std::ranges::find_if(
+        formats, [&](const Format &candidate) { return root.startsWith(candidate.root); });
+    if (format == formats.end())
+        return std::nullopt;
+    return unsupportedFormat(QString::fromLatin1(format->description));
+}
+
 DocumentKind kindOfText(const QByteArray &path, QByteArrayView bytes)
 {
     if (const std::optional<DocumentKind> kind = kindByName(path))
@@ -120,7 +141,10 @@ Result<DocumentKind, DocumentError> kindOfDocument(const QByteArray &name, QByte
         return kindOfBinary(path, bytes);
     if (looksLikeFlatWordDocument(bytes))
         return DocumentKind::WordDocument;
-    if (const QByteArray type = flatDocumentType(startOfText(bytes)); !type.isEmpty())
+    const QByteArray start = startOfText(bytes);
+    if (const QByteArray type = flatDocumentType(start); !type.isEmpty())
         return kindOfDeclaredType(type);
+    if (const std::optional<DocumentError> refusal = refusalOfXml(start))
+        return *refusal;
     return kindOfText(path, bytes);
 }

@@ -54,6 +54,21 @@ constexpr char presentation[] = "is a presentation; save it as PDF";
 
 } // namespace
 
+TEST(Refusal, DocumentsInXmlAreNotCountedWithTheirMarkup)
+{
+    const QByteArray declaration = "<?xml version='1.0' encoding='UTF-8'?>\n<!-- made by hand -->\n";
+    for (const char *name : {"", "book.fb2", "book.txt", "book.xml"})
+        EXPECT_EQ(refusal(name, declaration + "<FictionBook xmlns='x'><body>"),
+            "is an e-book in the format FictionBook; convert it to EPUB")
+            << name;
+    EXPECT_EQ(refusal("letter.abw", declaration + "<!DOCTYPE abiword>\n<abiword version='3'>"),
+        "is an AbiWord document; save it as .odt or RTF");
+    EXPECT_EQ(refusal("letter.uot", declaration + "<uof:UOF xmlns:uof='x'>"),
+        "is a document in the Uniform Office Format; save it as .odt or .docx");
+    EXPECT_EQ(refusal("list.xml", declaration + "<list>"), "");
+    EXPECT_EQ(refusal("notes.txt", "<FictionBook is the root of such a book."), "");
+}
+
 TEST(Refusal, MagicNumbersHoldWhateverTheName)
 {
     const QByteArray png("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\1\0\0\0\1", 24);
