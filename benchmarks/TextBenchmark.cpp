@@ -3,6 +3,7 @@
 // seconds, the shortest of several runs. script/bench compares the kinds.
 #include "documents/PlainTextReader.h"
 #include "platform/segmentation/BreakIterator.h"
+#include "platform/text_layout/LayoutEngine.h"
 #include "text_statistics/PlainTextCounter.h"
 #include "text_statistics/TextCounter.h"
 #include "text_statistics/WordCounterModel.h"
@@ -53,6 +54,13 @@ quint64 countAll(const QByteArray & /*bytes*/, const QString &text)
     return model.numberOfWords() + model.numberOfLines();
 }
 
+quint64 countLines(const QString &text, LayoutEngine::Shaping shaping)
+{
+    static std::map<LayoutEngine::Shaping, LayoutEngine> engines;
+    return engines.try_emplace(shaping, shaping)
+        .first->second.countLines(AttributedString(text), columnWidth);
+}
+
 quint64 segment(const QString &text, BreakKind kind)
 {
     BreakIterator iterator(kind);
@@ -94,6 +102,14 @@ const std::map<QByteArray, Work> &works()
                 return PlainTextCounter().count(text, textRules()).numberOfWords;
             }},
         {"all", countAll},
+        {"lines",
+            [](const QByteArray &, const QString &text) {
+                return countLines(text, LayoutEngine::Shaping::ByPairs);
+            }},
+        {"plain-lines",
+            [](const QByteArray &, const QString &text) {
+                return countLines(text, LayoutEngine::Shaping::WholeRuns);
+            }},
         {"icu",
             [](const QByteArray &, const QString &text) {
                 return segment(text, BreakKind::Word) + segment(text, BreakKind::Sentence);
@@ -129,7 +145,8 @@ int main(int argumentCount, char **arguments)
     const auto work = works().find(argumentCount == 3 ? arguments[1] : "");
     QFile file(argumentCount == 3 ? QString::fromLocal8Bit(arguments[2]) : QString());
     if (work == works().end() || !file.open(QIODevice::ReadOnly)) {
-        std::fputs("usage: text_benchmark read|text|plain-text|all|icu|qtextlayout FILE\n", stderr);
+        std::fputs("usage: text_benchmark read|text|plain-text|all|lines|plain-lines|icu|qtextlayout FILE\n",
+            stderr);
         return 2;
     }
     const QByteArray bytes = file.readAll();

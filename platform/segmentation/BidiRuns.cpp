@@ -18,7 +18,7 @@ bool mayChangeDirection(char16_t unit)
     if (unit < 0x2070)
         return unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) || unit >= 0x2066;
     const bool isRightToLeftPlane = unit == 0xD802 || unit == 0xD803 || unit == 0xD83A || unit == 0xD83B;
-    const bool isPresentationForm = unit >= 0xFB1D && unit <= 0xFEFE;
+    const bool isPresentationForm = (unit >= 0xFB1D && unit < 0xFE00) || (unit >= 0xFE70 && unit < 0xFEFF);
     return isRightToLeftPlane || isPresentationForm;
 }
 

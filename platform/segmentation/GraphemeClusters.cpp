@@ -164,6 +164,21 @@ qsizetype graphemeClusterEnd(QStringView text, qsizetype start)
     return end;
 }
 
+bool standsAlone(char16_t unit)
+{
+    if (QChar::isSurrogate(unit))
+        return false;
+    switch (breakClass(unit)) {
+    case U_GCB_OTHER:
+    case U_GCB_CONTROL:
+    case U_GCB_LV: // Hangul syllables; only single vowels and finals continue them
+    case U_GCB_LVT:
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool continuesGraphemeCluster(char32_t character)
 {
     if (character < 0x300)

@@ -11,6 +11,10 @@
 /// is a cluster.
 qsizetype graphemeClusterEnd(QStringView text, qsizetype start);
 
+/// Whether a code unit is a character that never forms a cluster with another one of these: a text of such
+/// characters has as many clusters as code units.
+bool standsAlone(char16_t unit);
+
 /// Whether a character joins the cluster before it: marks, joiners, modifiers.
 bool continuesGraphemeCluster(char32_t character);
 

@@ -55,10 +55,14 @@ LineBreaks::Class LineBreaks::classOf(char16_t unit)
     case U_LB_SPACE:
         return Class::Space;
     case U_LB_ALPHABETIC:
+    case U_LB_AMBIGUOUS: // LB1
+    case U_LB_UNKNOWN:
         return Class::Letter;
     case U_LB_NUMERIC:
         return Class::Digit;
     case U_LB_IDEOGRAPHIC:
+    case U_LB_H2: // among these classes, LB26 and LB27 change nothing
+    case U_LB_H3:
         return Class::Ideograph;
     case U_LB_OPEN_PUNCTUATION:
         return Class::Open;
@@ -137,7 +141,8 @@ bool LineBreaks::isSimpleBoundary(qsizetype position)
         if (before < limit)
             return false;
         first = classAt(before);
-        const bool startsWord = second == Class::Letter || second == Class::Digit;
+        const bool startsWord =
+            second == Class::Letter || second == Class::Digit || second == Class::Ideograph;
         switch (first) {
         case Class::Letter:
         case Class::Digit:

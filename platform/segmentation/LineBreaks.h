@@ -30,9 +30,9 @@ private:
     enum class Class : quint8 {
         Other,
         Space, // U+0020
-        Letter, // AL
+        Letter, // AL, AI and XX
         Digit, // NU
-        Ideograph, // ID
+        Ideograph, // ID, H2 and H3
         Open, // OP
         Close, // CL and CP
         Quote, // QU

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/segmentation/PlainCharacters.h"
 
-#include "platform/segmentation/ScriptRuns.h"
+#include "platform/segmentation/GraphemeClusters.h"
 
 #include <unicode/uchar.h>
 #include <unicode/uscript.h>
-
-#include <QStringView>
 
 namespace {
 
@@ -27,6 +25,8 @@ bool isOfSimpleScript(char16_t unit)
     case USCRIPT_HIRAGANA:
     case USCRIPT_KATAKANA:
     case USCRIPT_BOPOMOFO:
+    case USCRIPT_HANGUL:
+    case USCRIPT_UNKNOWN:
         return true;
     default:
         return false;
@@ -36,7 +36,8 @@ bool isOfSimpleScript(char16_t unit)
 // Blocks of scripts that are written from right to left, with their unassigned and shared characters.
 bool isInRightToLeftBlock(char16_t unit)
 {
-    return (unit >= 0x590 && unit < 0x900) || (unit >= 0xFB1D && unit <= 0xFEFF);
+    return (unit >= 0x590 && unit < 0x900) || (unit >= 0xFB1D && unit < 0xFE00)
+        || (unit >= 0xFE70 && unit <= 0xFEFF);
 }
 
 } // namespace
@@ -45,13 +46,14 @@ bool isPlainCharacter(char16_t unit)
 {
     if (unit < 0x80)
         return unit >= u' ' && unit <= u'~';
-    constexpr uint32_t visible = U_GC_L_MASK | U_GC_N_MASK | U_GC_P_MASK | U_GC_S_MASK | U_GC_ZS_MASK;
+    constexpr uint32_t visible =
+        U_GC_L_MASK | U_GC_N_MASK | U_GC_P_MASK | U_GC_S_MASK | U_GC_ZS_MASK | U_GC_CO_MASK | U_GC_CN_MASK;
     return (U_GET_GC_MASK(unit) & visible) != 0 && unit != fractionSlash && !isInRightToLeftBlock(unit)
-        && u_getIntPropertyValue(unit, UCHAR_GRAPHEME_CLUSTER_BREAK) == U_GCB_OTHER
-        && !u_hasBinaryProperty(unit, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) && isOfSimpleScript(unit);
+        && standsAlone(unit) && !u_hasBinaryProperty(unit, UCHAR_DEFAULT_IGNORABLE_CODE_POINT)
+        && isOfSimpleScript(unit);
 }
 
-quint32 scriptOfPlainCharacter(char16_t unit)
+bool isWithoutMeaning(char16_t unit)
 {
-    return scriptRunAt(QStringView(&unit, 1), 0, 0).script;
+    return (U_GET_GC_MASK(unit) & (U_GC_CO_MASK | U_GC_CN_MASK)) != 0;
 }

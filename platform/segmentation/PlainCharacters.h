@@ -10,5 +10,5 @@
 /// False for controls, marks, joiners, surrogates, and the fraction slash, around which digits change.
 bool isPlainCharacter(char16_t unit);
 
-/// The script of a plain character as of ScriptRun, or sharedScript.
-quint32 scriptOfPlainCharacter(char16_t unit);
+/// Whether a code unit is a private or unassigned character: Unicode has nothing to say about it.
+bool isWithoutMeaning(char16_t unit);

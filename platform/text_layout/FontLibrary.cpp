@@ -149,14 +149,20 @@ quint16 FontChain::findFontFor(char32_t character)
     }).value_or(m_named.front());
 }
 
-quint16 FontChain::fontFor(char32_t character)
+FontChain::Page &FontChain::pageOf(char32_t character)
 {
-    std::unique_ptr<Page> &page = m_pages[character >> 8];
+    const char32_t index = character >> 8;
+    std::unique_ptr<Page> &page = index < m_basicPages.size() ? m_basicPages[index] : m_otherPages[index];
     if (!page) {
         page = std::make_unique<Page>();
         page->fill(unknown);
     }
-    quint16 &font = (*page)[character & 0xFF];
+    return *page;
+}
+
+quint16 FontChain::fontFor(char32_t character)
+{
+    quint16 &font = pageOf(character)[character & 0xFF];
     if (font == unknown)
         font = findFontFor(character);
     return font;
@@ -176,6 +182,12 @@ quint16 FontChain::findFontForCluster(QStringView cluster)
     return firstFontThat([&](quint16 font) { return coversAll(fonts[font], cluster); }).value_or(forFirst);
 }
 
+bool FontChain::isNamed(const FontFace *face) const
+{
+    return std::any_of(
+        m_named.begin(), m_named.end(), [&](quint16 font) { return m_library.m_faces[font].get() == face; });
+}
+
 FontFace *FontChain::faceFor(QStringView cluster, FontFace *preferred)
 {
     const char32_t first = codePointAt(cluster, 0);
@@ -184,11 +196,13 @@ FontFace *FontChain::faceFor(QStringView cluster, FontFace *preferred)
     FontFace *face = m_library.load(found);
     if (face == preferred || !preferred)
         return face;
-    const bool isNamed = std::find(m_named.begin(), m_named.end(), found) != m_named.end();
+    if (isNamed(face))
+        return face;
+    // If a named font had the character, it would have been found.
+    if (isOneCharacter && isNamed(preferred) && !isDefaultIgnorable(first))
+        return face;
     // A comma between two words in a fallback font should be in the same font.
-    if (!isNamed && !isEmojiCluster(cluster) && coversAll(preferred->source(), cluster))
-        return preferred;
-    return face;
+    return !isEmojiCluster(cluster) && coversAll(preferred->source(), cluster) ? preferred : face;
 }
 
 FontLibrary::FontLibrary()

@@ -40,10 +40,12 @@ private:
     static constexpr quint16 unknown = 0xFFFF;
     using Page = std::array<quint16, 256>;
 
+    Page &pageOf(char32_t character);
     quint16 fontFor(char32_t character);
     quint16 findFontFor(char32_t character);
     quint16 findFontForCluster(QStringView cluster);
     std::optional<quint16> coloredFontFor(QStringView emoji);
+    [[nodiscard]] bool isNamed(const FontFace *face) const;
     /// The first font for which covers(font) is true: of the named fonts, then of the others.
     template <typename Covers>
     std::optional<quint16> firstFontThat(Covers covers);
@@ -54,7 +56,9 @@ private:
     QByteArray m_language;
     std::vector<quint16> m_named; // fonts of the requested families, by index in the catalogue; never empty
     std::vector<quint16> m_fallbacks; // all others, sorted on first use
-    std::map<char32_t, std::unique_ptr<Page>> m_pages; // fonts found so far, 256 code points per page
+    // The fonts found so far, 256 code points per page.
+    std::array<std::unique_ptr<Page>, 256> m_basicPages;
+    std::map<char32_t, std::unique_ptr<Page>> m_otherPages; // from U+10000 on
     std::optional<bool> m_isPrimaryForAscii;
 };
 

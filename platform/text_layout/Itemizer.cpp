@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_layout/Itemizer.h"
 
-#include "platform/segmentation/GraphemeClusters.h"
-
 #include <algorithm>
 
 namespace {
@@ -92,12 +90,11 @@ void Itemizer::updateRuns()
     if (m_position >= m_direction.end)
         m_direction = m_bidi.runAt(m_position);
     if (m_position >= m_script.end)
-        m_script = scriptRunAt(m_text, m_position, m_script.script);
+        m_script = m_scripts.runAt(m_text, m_position, m_script.script);
 }
 
 qsizetype Itemizer::textEnd(qsizetype limit, qsizetype maxLength, FontFace *&face)
 {
-    constexpr char16_t firstMark = 0x300;
     const char16_t *units = m_text.utf16();
     const bool isAsciiSimple = m_style.fonts && m_style.fonts->isPrimaryForAscii();
     FontFace *const primary = m_style.fonts ? m_style.fonts->primary() : nullptr;
@@ -106,13 +103,13 @@ qsizetype Itemizer::textEnd(qsizetype limit, qsizetype maxLength, FontFace *&fac
     while (end < softLimit && kindOf(units[end]) == TextRun::Kind::Text) {
         FontFace *own = primary;
         qsizetype clusterEnd = end + 1;
-        const bool isAlone = clusterEnd >= m_text.size() || units[clusterEnd] < firstMark;
-        if (!isAsciiSimple || units[end] > u'~' || !isAlone) {
-            // Clusters are cut at changes of attributes or direction, and at the maximum length.
+        const bool isAlone = m_standsAlone.at(units[end])
+            && (clusterEnd >= m_text.size() || m_standsAlone.at(units[clusterEnd]));
+        // Clusters are cut at changes of attributes or direction, and at the maximum length.
+        if (!isAlone)
             clusterEnd = graphemeClusterEnd(m_text.first(std::min(limit, end + maxClusterLength)), end);
-            if (m_style.fonts)
-                own = m_style.fonts->faceFor(m_text.sliced(end, clusterEnd - end), m_lastFace);
-        }
+        if (m_style.fonts && !(isAlone && isAsciiSimple && units[end] <= u'~'))
+            own = m_style.fonts->faceFor(m_text.sliced(end, clusterEnd - end), m_lastFace);
         if (end == m_position)
             face = own;
         else if (own != face)

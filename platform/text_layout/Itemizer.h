@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/segmentation/BidiRuns.h"
+#include "platform/segmentation/GraphemeClusters.h"
 #include "platform/segmentation/Paragraphs.h"
 #include "platform/segmentation/ScriptRuns.h"
 #include "platform/styled_text/AttributedString.h"
@@ -63,6 +64,8 @@ private:
     TextStyle m_style;
     BidiRuns::Run m_direction{};
     ScriptRun m_script{};
+    ScriptRuns m_scripts;
+    CodeUnitTable<bool> m_standsAlone{&standsAlone};
     FontFace *m_lastFace = nullptr;
 
     struct StyleKey {

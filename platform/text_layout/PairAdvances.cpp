@@ -24,7 +24,7 @@ struct Block {
     char16_t last;
 };
 constexpr Block blocks[]{{0x0020, 0x024F}, {0x0370, 0x058F}, {0x10A0, 0x10FF}, {0x1E00, 0x20CF},
-    {0x3000, 0x30FF}, {0xFF00, 0xFFEF}};
+    {0x3000, 0x312F}, {0xFF00, 0xFFFD}};
 
 constexpr int firstFreeClass = 0x80;
 constexpr int lastClass = 0xFF;
@@ -81,12 +81,21 @@ bool PairAdvances::isCandidate(char16_t unit) const
 {
     if (!isPlainCharacter(unit))
         return false;
-    const quint32 script = scriptOfPlainCharacter(unit);
+    const quint32 script = scriptOf(unit);
     return script == sharedScript || script == m_style.script();
+}
+
+// Characters that no font has are shown as the first font's glyph 0. This does not hold for those that
+// consist of others.
+bool PairAdvances::glyphOf(char16_t unit, quint32 &glyph) const
+{
+    glyph = 0;
+    return m_style.glyphOf(unit, glyph) || (m_fonts && isWithoutMeaning(unit));
 }
 
 void PairAdvances::collectGlyphs(hb_set_t *glyphs) const
 {
+    hb_set_add(glyphs, 0);
     for (const Block &block : blocks) {
         for (char32_t unit = block.first; unit <= block.last; ++unit) {
             hb_codepoint_t glyph = 0;
@@ -107,9 +116,14 @@ quint8 PairAdvances::classify(char16_t unit)
 quint8 PairAdvances::findClass(char16_t unit)
 {
     hb_codepoint_t glyph = 0;
-    if (!isCandidate(unit) || !m_style.glyphOf(unit, glyph) || hb_set_has(m_rules.changed.get(), glyph)
+    if (!isCandidate(unit) || !glyphOf(unit, glyph) || hb_set_has(m_rules.changed.get(), glyph)
         || (m_fonts && m_fonts->faceFor(QStringView(&unit, 1), nullptr) != &m_style.face()))
         return unsupportedClass;
+    if (glyph == 0) {
+        if (m_absentClass == unknownClass)
+            m_absentClass = addClass(unit);
+        return m_absentClass;
+    }
     if (m_hasKerningTable || hb_set_has(m_named.get(), glyph))
         return hb_set_has(m_covered.get(), glyph) ? addClass(unit) : unsupportedClass;
     // No pair begins with it, and as second of a pair all such glyphs are equal.
@@ -166,7 +180,7 @@ int PairAdvances::advanceOfPair(char16_t first, char16_t second, bool &isUnsafe)
     }
     hb_codepoint_t firstGlyph = 0;
     hb_codepoint_t secondGlyph = 0;
-    if (!m_style.glyphOf(first, firstGlyph) || !m_style.glyphOf(second, secondGlyph))
+    if (!glyphOf(first, firstGlyph) || !glyphOf(second, secondGlyph))
         return unsupported;
     if (m_rules.mayJoin(firstGlyph, secondGlyph))
         return joined;

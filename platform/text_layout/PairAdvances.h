@@ -62,6 +62,7 @@ private:
 
     void addControls();
     [[nodiscard]] bool isCandidate(char16_t unit) const;
+    bool glyphOf(char16_t unit, quint32 &glyph) const;
     void collectGlyphs(hb_set_t *glyphs) const;
     quint8 classify(char16_t unit);
     quint8 findClass(char16_t unit);
@@ -81,5 +82,6 @@ private:
     std::vector<int> m_advances; // by pair of classes
     std::vector<bool> m_isUnsafe;
     std::vector<Inert> m_inert; // classes of characters that no rule names
+    quint8 m_absentClass = 0; // of the characters that no font has, when known
     int m_nextClass;
 };

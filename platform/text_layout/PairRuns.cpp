@@ -83,14 +83,14 @@ std::optional<quint32> PairRuns::findScript(QStringView content) const
         if (unit < 0x80) {
             const int lower = unit | 0x20;
             if (lower >= u'a' && lower <= u'z')
-                return scriptOfPlainCharacter(unit);
+                return scriptOf(unit);
             continue;
         }
         if (isInvisibleControl(unit))
             continue;
         if (!isPlainCharacter(unit))
             return std::nullopt;
-        const quint32 script = scriptOfPlainCharacter(unit);
+        const quint32 script = scriptOf(unit);
         if (script != sharedScript)
             return script;
     }

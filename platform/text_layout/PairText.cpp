@@ -74,14 +74,12 @@ void PairText::loadChain(qsizetype at)
         return;
     const QStringView text(m_units + start, shapedEnd - start);
     const ShapingStyle &style = m_run.pairs->style();
-    CachedWord &slot = m_chains.slotFor(style.number(), text);
-    if (!slot.holds(style.number(), text)) {
-        slot.style = style.number();
-        slot.length = static_cast<quint8>(text.size());
-        std::copy_n(text.utf16(), text.size(), slot.text.begin());
-        m_shaper.shape(style, text, 0, text.size(), slot.advances.data(), slot.flags.data());
+    const CachedWord *shaped = m_chains.find(style.number(), text);
+    if (!shaped) {
+        shaped = &m_chains.insert(style.number(), text, true);
+        m_shaper.shape(style, text, 0, text.size(), shaped->advances.data(), shaped->flags.data());
     }
-    m_chain = {start, end, &slot};
+    m_chain = {start, end, shaped};
 }
 
 bool PairText::startsInChain(qsizetype at)
@@ -102,10 +100,10 @@ bool PairText::isUnsafe(qsizetype at)
         return false;
     if (isInChain(at - 1) || isInChain(at)) {
         loadChain(isInChain(at) ? at : at - 1);
-        const qsizetype index = at - m_chain.start;
-        if (!m_chain.shaped || index >= m_chain.shaped->length)
+        const auto index = static_cast<size_t>(at - m_chain.start);
+        if (!m_chain.shaped || index >= m_chain.shaped->flags.size())
             return true;
-        const quint8 flags = m_chain.shaped->flags[static_cast<size_t>(index)];
+        const quint8 flags = m_chain.shaped->flags[index];
         return (flags & (StartsCluster | UnsafeToBreak)) != StartsCluster;
     }
     return m_run.pairs->isUnsafe(classAt(at - 1), classAt(at));

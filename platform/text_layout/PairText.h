@@ -85,7 +85,7 @@ private:
 
     PairRuns m_runs;
     Shaper &m_shaper;
-    WordCache m_chains{size_t{1} << 10};
+    WordCache m_chains{size_t{1} << 10, size_t{1} << 14};
     const char16_t *m_units = nullptr;
     qsizetype m_length = 0;
     PairRun m_run; // the current one

@@ -14,16 +14,6 @@ namespace {
 // Code units that HarfBuzz considers on either side of a stretch.
 constexpr qsizetype contextLength = 8;
 
-// Not safe against collisions on purpose: those only slow down the text that contains them, as new words do.
-size_t hashOf(quint32 style, QStringView word)
-{
-    constexpr quint64 factor = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
-    quint64 hash = style * factor;
-    for (qsizetype i = 0; i < word.size(); ++i)
-        hash = (hash ^ word.utf16()[i]) * factor;
-    return static_cast<size_t>(hash >> 32);
-}
-
 void distributeLigatures(QStringView text, float *advances, const quint8 *flags)
 {
     for (qsizetype start = 0; start < text.size();) {
@@ -54,20 +44,6 @@ bool isHangingBlank(char16_t unit)
         || unit == 0x3000;
 }
 
-bool CachedWord::holds(quint32 wantedStyle, QStringView wanted) const
-{
-    return style == wantedStyle && length == wanted.size()
-        && std::memcmp(text.data(), wanted.utf16(), static_cast<size_t>(wanted.size()) * sizeof(char16_t))
-        == 0;
-}
-
-CachedWord &WordCache::slotFor(quint32 style, QStringView word)
-{
-    if (m_slots.empty())
-        m_slots.resize(m_slotCount);
-    return m_slots[hashOf(style, word) % m_slotCount];
-}
-
 void Shaper::BufferDeleter::operator()(hb_buffer_t *buffer) const
 {
     hb_buffer_destroy(buffer);
@@ -82,9 +58,16 @@ Shaper::~Shaper() = default;
 
 const ShapingStyle &Shaper::styleOf(const TextRun &run)
 {
-    std::unique_ptr<ShapingStyle> &style = m_styles[ShapingStyle::keyOf(run)];
+    const auto number = reinterpret_cast<size_t>(run.face) / alignof(FontFace);
+    RecentStyle &recent =
+        m_recentStyles[(number ^ number >> 8 ^ run.script ^ run.script >> 8) % recentStyles];
+    ShapingStyle::Key key = ShapingStyle::keyOf(run);
+    if (recent.style && recent.key == key)
+        return *recent.style;
+    std::unique_ptr<ShapingStyle> &style = m_styles[key];
     if (!style)
         style = std::make_unique<ShapingStyle>(run, static_cast<quint32>(m_styles.size()));
+    recent = {std::move(key), style.get()};
     return *style;
 }
 
@@ -122,27 +105,23 @@ void Shaper::shape(const ShapingStyle &style, QStringView paragraph, qsizetype s
     distributeLigatures(text, advances, flags);
 }
 
-const CachedWord &Shaper::cachedWord(const ShapingStyle &style, QStringView word)
+const CachedWord &Shaper::wordAlone(const ShapingStyle &style, QStringView word)
 {
-    CachedWord &slot = m_words.slotFor(style.number(), word);
-    if (slot.holds(style.number(), word))
-        return slot;
-    slot.style = style.number();
-    slot.length = static_cast<quint8>(word.size());
-    std::copy_n(word.utf16(), word.size(), slot.text.begin());
-    if (style.areWordsSeparable()) {
-        shapeBetweenSpaces(style, word, slot);
-    } else {
-        shape(style, word, 0, word.size(), slot.advances.data(), slot.flags.data());
-        slot.isSeparable = true; // only used for runs of a single word
-    }
-    return slot;
+    const quint64 key = quint64{style.number()} * 2;
+    if (const CachedWord *known = m_words.find(key, word))
+        return *known;
+    CachedWord &added = m_words.insert(key, word, true);
+    shape(style, word, 0, word.size(), added.advances.data(), added.flags.data());
+    return added;
 }
 
 // With spaces around it, the result shows whether the word measures the same without them.
-void Shaper::shapeBetweenSpaces(const ShapingStyle &style, QStringView word, CachedWord &slot)
+const CachedWord &Shaper::wordBetweenSpaces(const ShapingStyle &style, QStringView word)
 {
-    constexpr auto maxLength = static_cast<size_t>(CachedWord::maxLength) + 2;
+    const quint64 key = quint64{style.number()} * 2 + 1;
+    if (const CachedWord *known = m_words.find(key, word))
+        return *known;
+    constexpr auto maxLength = static_cast<size_t>(WordCache::maxWordLength) + 2;
     const auto length = static_cast<size_t>(word.size());
     std::array<char16_t, maxLength> text;
     std::array<float, maxLength> advances;
@@ -156,10 +135,12 @@ void Shaper::shapeBetweenSpaces(const ShapingStyle &style, QStringView word, Cac
     const auto isSafe = [&](size_t at) {
         return (flags[at] & (StartsCluster | UnsafeToBreak)) == StartsCluster;
     };
-    slot.isSeparable = isSafe(1) && isSafe(length + 1) && advances[0] == style.spaceAdvance()
+    const bool isSeparable = isSafe(1) && isSafe(length + 1) && advances[0] == style.spaceAdvance()
         && advances[length + 1] == style.spaceAdvance();
-    std::copy_n(advances.begin() + 1, length, slot.advances.begin());
-    std::copy_n(flags.begin() + 1, length, slot.flags.begin());
+    CachedWord &added = m_words.insert(key, word, isSeparable);
+    std::copy_n(advances.begin() + 1, length, added.advances.begin());
+    std::copy_n(flags.begin() + 1, length, added.flags.begin());
+    return added;
 }
 
 // A font of emoji has hundreds of ligatures, which HarfBuzz tries at each emoji. They stay within a cluster.
@@ -174,7 +155,7 @@ void Shaper::shapeEmoji(const ShapingStyle &style, QStringView word, float *adva
             clusterEnd = graphemeClusterEnd(word, at);
         }
         const qsizetype end = graphemeClusterEnd(word.first(std::min(clusterEnd, at + maxEmojiLength)), at);
-        const CachedWord &emoji = cachedWord(style, word.sliced(at, end - at));
+        const CachedWord &emoji = wordAlone(style, word.sliced(at, end - at));
         std::copy_n(emoji.advances.begin(), end - at, advances + at);
         std::copy_n(emoji.flags.begin(), end - at, flags + at);
         if (at > cluster) {
@@ -188,21 +169,19 @@ void Shaper::shapeEmoji(const ShapingStyle &style, QStringView word, float *adva
 
 // Returns false if the word cannot be shaped without its neighbours.
 bool Shaper::shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
-    float *advances, quint8 *flags)
+    Neighbours neighbours, float *advances, quint8 *flags)
 {
-    if (style.isOfEmoji()) {
-        shapeEmoji(style, paragraph.sliced(start, end - start), advances, flags);
-        return true;
-    }
     // Letters do not join across a space or a control character.
     const char16_t *units = paragraph.utf16();
-    const bool isApart =
-        (start == 0 || units[start - 1] <= u' ') && (end == paragraph.size() || units[end] <= u' ');
-    if (!isApart || end - start > CachedWord::maxLength) {
+    const bool isApart = !style.mayHaveJoiningLetters()
+        || ((start == 0 || units[start - 1] <= u' ') && (end == paragraph.size() || units[end] <= u' '));
+    if (!isApart || end - start > WordCache::maxWordLength) {
         shape(style, paragraph, start, end, advances, flags);
         return true;
     }
-    const CachedWord &word = cachedWord(style, paragraph.sliced(start, end - start));
+    const QStringView text = paragraph.sliced(start, end - start);
+    const CachedWord &word =
+        neighbours == Neighbours::Spaces ? wordBetweenSpaces(style, text) : wordAlone(style, text);
     std::copy_n(word.advances.begin(), end - start, advances);
     std::copy_n(word.flags.begin(), end - start, flags);
     return word.isSeparable;
@@ -212,12 +191,15 @@ void Shaper::shapeByWords(const ShapingStyle &style, QStringView paragraph, qsiz
     float *advances, quint8 *flags)
 {
     const char16_t *units = paragraph.utf16();
+    if (std::find(units + start, units + end, u' ') == units + end) {
+        shapeWord(style, paragraph, start, end, Neighbours::Other, advances, flags);
+        return;
+    }
     const auto separates = [&](qsizetype at) {
         return units[at] == u' '
             && (at + 1 == paragraph.size() || !continuesGraphemeCluster(codePointAt(paragraph, at + 1)));
     };
-    bool areSeparable =
-        style.areWordsSeparable() || std::find(units + start, units + end, u' ') == units + end;
+    bool areSeparable = style.areWordsSeparable();
     for (qsizetype at = start; at < end && areSeparable;) {
         float *advance = advances + (at - start);
         quint8 *flag = flags + (at - start);
@@ -230,7 +212,7 @@ void Shaper::shapeByWords(const ShapingStyle &style, QStringView paragraph, qsiz
         qsizetype wordEnd = at + 1;
         while (wordEnd < end && !separates(wordEnd))
             ++wordEnd;
-        areSeparable = shapeWord(style, paragraph, at, wordEnd, advance, flag);
+        areSeparable = shapeWord(style, paragraph, at, wordEnd, Neighbours::Spaces, advance, flag);
         at = wordEnd;
     }
     if (!areSeparable)

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/text_layout/ShapingStyle.h"
+#include "platform/text_layout/WordCache.h"
 
 #include <QStringView>
 
@@ -26,38 +27,6 @@ enum UnitFlag : quint8 {
 /// width.
 bool isHangingBlank(char16_t unit);
 
-/// What shaping found of one short word.
-struct CachedWord {
-    static constexpr qsizetype maxLength = 32; // UTF-16 code units
-
-    quint32 style = 0; ///< number of a shaping style, from 1; 0 in an empty slot
-    quint8 length = 0;
-    bool isSeparable = false; ///< shaped the same with or without the words around it
-    std::array<char16_t, maxLength> text;
-    std::array<float, maxLength> advances; ///< as of Shaper
-    std::array<quint8, maxLength> flags;
-
-    [[nodiscard]] bool holds(quint32 wantedStyle, QStringView wanted) const;
-};
-
-/// Lets a text shape each of its words about once. Its size is fixed: words that share a slot replace each
-/// other.
-class WordCache {
-public:
-    explicit WordCache(size_t slotCount)
-        : m_slotCount(slotCount)
-    {
-    }
-
-    /// The only slot for a word of 1 to CachedWord::maxLength code units. If it holds another word, the
-    /// caller fills it. Valid until the next call.
-    CachedWord &slotFor(quint32 style, QStringView word);
-
-private:
-    size_t m_slotCount;
-    std::vector<CachedWord> m_slots; // made at the first use
-};
-
 class Shaper {
 public:
     Shaper();
@@ -76,22 +45,32 @@ public:
         float *advances, quint8 *flags);
 
     /// Gives the same result faster: word by word, with a cache, if the font allows to shape words
-    /// separately.
+    /// separately. start and end are those of a run, or places in one at which shaping may be split.
     void shapeByWords(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
         float *advances, quint8 *flags);
 
 private:
-    const CachedWord &cachedWord(const ShapingStyle &style, QStringView word);
-    void shapeBetweenSpaces(const ShapingStyle &style, QStringView word, CachedWord &slot);
+    const CachedWord &wordAlone(const ShapingStyle &style, QStringView word);
+    const CachedWord &wordBetweenSpaces(const ShapingStyle &style, QStringView word);
+    enum class Neighbours { Spaces, Other }; // of a word in its run
     bool shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
-        float *advances, quint8 *flags);
+        Neighbours neighbours, float *advances, quint8 *flags);
     void shapeEmoji(const ShapingStyle &style, QStringView word, float *advances, quint8 *flags);
 
     struct BufferDeleter {
         void operator()(hb_buffer_t *buffer) const;
     };
 
+    // Random text changes the font and the script at every second character.
+    struct RecentStyle {
+        ShapingStyle::Key key;
+        const ShapingStyle *style = nullptr;
+    };
+    static constexpr size_t recentStyles = 64;
+
     std::unique_ptr<hb_buffer_t, BufferDeleter> m_buffer;
     std::map<ShapingStyle::Key, std::unique_ptr<ShapingStyle>> m_styles;
-    WordCache m_words{size_t{1} << 15}; // about 8 MB; a long novel has half as many different words
+    std::array<RecentStyle, recentStyles> m_recentStyles;
+    // About 8 MB. A long novel has a third as many different words.
+    WordCache m_words{size_t{1} << 16, size_t{1} << 19};
 };

@@ -19,6 +19,40 @@ bool hasLigatures(const TextRun &run)
     return run.style.tracking == 0;
 }
 
+bool hasJoiningLetters(quint32 script)
+{
+    switch (hb_script_from_iso15924_tag(script)) {
+    case HB_SCRIPT_COMMON:
+    case HB_SCRIPT_LATIN:
+    case HB_SCRIPT_GREEK:
+    case HB_SCRIPT_CYRILLIC:
+    case HB_SCRIPT_ARMENIAN:
+    case HB_SCRIPT_GEORGIAN:
+    case HB_SCRIPT_HEBREW:
+    case HB_SCRIPT_HAN:
+    case HB_SCRIPT_HIRAGANA:
+    case HB_SCRIPT_KATAKANA:
+    case HB_SCRIPT_BOPOMOFO:
+    case HB_SCRIPT_HANGUL:
+    case HB_SCRIPT_DEVANAGARI:
+    case HB_SCRIPT_BENGALI:
+    case HB_SCRIPT_GURMUKHI:
+    case HB_SCRIPT_GUJARATI:
+    case HB_SCRIPT_ORIYA:
+    case HB_SCRIPT_TAMIL:
+    case HB_SCRIPT_TELUGU:
+    case HB_SCRIPT_KANNADA:
+    case HB_SCRIPT_MALAYALAM:
+    case HB_SCRIPT_THAI:
+    case HB_SCRIPT_LAO:
+    case HB_SCRIPT_KHMER:
+    case HB_SCRIPT_MYANMAR:
+        return false;
+    default:
+        return true; // of many it is true, and the rest are rare
+    }
+}
+
 } // namespace
 
 void ShapingStyle::PlanDeleter::operator()(hb_shape_plan_t *plan) const
@@ -33,6 +67,7 @@ ShapingStyle::Key ShapingStyle::keyOf(const TextRun &run)
 
 ShapingStyle::ShapingStyle(const TextRun &run, quint32 number)
     : m_number(number)
+    , m_mayHaveJoiningLetters(hasJoiningLetters(run.script))
     , m_face(*run.face)
     , m_script(run.script)
     , m_isRightToLeft(run.isRightToLeft)

@@ -31,6 +31,9 @@ public:
     /// no rule affects both a word and the next one.
     [[nodiscard]] bool areWordsSeparable() const { return m_areWordsSeparable; }
 
+    /// Whether the letters of the script may take other forms next to letters that are not in the run.
+    [[nodiscard]] bool mayHaveJoiningLetters() const { return m_mayHaveJoiningLetters; }
+
     /// Whether each grapheme cluster can be shaped separately.
     [[nodiscard]] bool isOfEmoji() const { return m_face.source().isColored; }
 
@@ -61,6 +64,7 @@ private:
 
     quint32 m_number;
     bool m_areWordsSeparable = false;
+    bool m_mayHaveJoiningLetters;
     float m_spaceAdvance = 0;
     const FontFace &m_face;
     quint32 m_script;

@@ -58,6 +58,23 @@ TEST(GraphemeClusters, EndAtTheBoundariesOfTheBreakIterator)
     }
 }
 
+TEST(GraphemeClusters, NeverConsistOfSeveralCharactersThatStandAlone)
+{
+    std::vector<char16_t> alone;
+    for (int unit = 0; unit < 0x10000; ++unit) {
+        if (standsAlone(static_cast<char16_t>(unit)))
+            alone.push_back(static_cast<char16_t>(unit));
+    }
+    ASSERT_GT(alone.size(), 50'000U);
+    std::mt19937 random(7);
+    for (int round = 0; round < 20'000; ++round) {
+        QString text(1, QChar(alone[random() % alone.size()]));
+        text += QChar(alone[random() % alone.size()]);
+        ASSERT_EQ(boundaries(BreakKind::GraphemeCluster, text), (std::vector<qsizetype>{1, 2}))
+            << text.toStdString();
+    }
+}
+
 TEST(GraphemeClusters, KnowWhichOfThemAreEmoji)
 {
     EXPECT_TRUE(isEmojiCluster(u"😀"));
@@ -152,13 +169,14 @@ TEST(ScriptRuns, GiveSharedCharactersToTheScriptBeforeThem)
     const quint32 latin = 0x4C61746E; // 'Latn'
     const quint32 cyrillic = 0x4379726C; // 'Cyrl'
     const quint32 han = 0x48616E69; // 'Hani'
-    const ScriptRun first = scriptRunAt(text, 0, 0);
+    ScriptRuns scripts;
+    const ScriptRun first = scripts.runAt(text, 0, 0);
     EXPECT_EQ(first.script, latin);
     EXPECT_EQ(first.end, 8);
-    const ScriptRun second = scriptRunAt(text, first.end, first.script);
+    const ScriptRun second = scripts.runAt(text, first.end, first.script);
     EXPECT_EQ(second.script, cyrillic);
     EXPECT_EQ(second.end, 12);
-    const ScriptRun third = scriptRunAt(text, second.end, second.script);
+    const ScriptRun third = scripts.runAt(text, second.end, second.script);
     EXPECT_EQ(third.script, han);
     EXPECT_EQ(third.end, text.size());
 }

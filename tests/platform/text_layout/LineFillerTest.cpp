@@ -168,50 +168,71 @@ TEST_F(LineFilling, EndsEveryLineWhereTheSimpleLayoutDoes)
     }
 }
 
-// Words in several styles, scripts and fonts, among them fonts that the text does not name.
-TEST_F(LineFilling, EndsEveryLineOfMixedTextsWhereTheSimpleLayoutDoes)
+const Sample &chineseSample()
 {
-    useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf"), QStringLiteral("NimbusSans-Bold.otf"),
-        QStringLiteral("NimbusSans-Italic.otf"), QStringLiteral("DejaVuSans.ttf"),
-        QStringLiteral("NotoSansCJK-Regular.ttc")});
-    const QStringList families{QStringLiteral("Helvetica"), QStringLiteral("DejaVu Sans")};
-    const Sample chinese{"Chinese",
+    static const Sample sample{"Chinese",
         QStringLiteral("他们 现在 学校 图书馆 ， 。 “好” 2024 年 「引」 A").split(u' '),
         QStringLiteral("的一是不了，。！？（）1a ")};
-    const Sample japanese{"Japanese",
-        QStringLiteral("東京 です を コンピューター 、 。 「本」 っ ー Web").split(u' '),
-        QStringLiteral("のはをに漢字カナ、。「」ー ")};
-    std::vector<Sample> parts = samples();
-    parts.push_back(chinese);
-    parts.push_back(japanese);
-    std::mt19937 random(33);
-    std::optional<Filler> filler;
-    LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
-    int filled = 0;
-    constexpr int rounds = 200;
-    for (int round = 0; round < rounds; ++round) {
-        if (round % 20 == 0)
-            filler.emplace();
-        AttributedStringBuilder builder;
-        TextAttributes attributes = randomAttributes(families, random);
-        attributes.font->tracking = 0;
-        while (builder.length() < 500) {
-            const QString words = randomText(parts[random() % parts.size()], random);
-            builder.append(words.left(1 + static_cast<qsizetype>(random() % 80)), attributes);
-            FontAttributes &font = *attributes.font;
-            font.weight = random() % 2 ? regularFontWeight : boldFontWeight;
-            font.slant = random() % 3 ? FontSlant::Upright : FontSlant::Italic;
-            font.pointSize = random() % 2 ? 12 : 9.5;
+    return sample;
+}
+
+// Words in several styles, scripts and fonts, among them fonts that the text does not name.
+class MixedLineFilling : public LineFilling {
+protected:
+    void expectTheSameEnds(const std::vector<Sample> &parts)
+    {
+        useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf"), QStringLiteral("NimbusSans-Bold.otf"),
+            QStringLiteral("NimbusSans-Italic.otf"), QStringLiteral("DejaVuSans.ttf"),
+            QStringLiteral("NotoSansCJK-Regular.ttc")});
+        const QStringList families{QStringLiteral("Helvetica"), QStringLiteral("DejaVu Sans")};
+        std::mt19937 random(33);
+        std::optional<Filler> filler;
+        LayoutEngine exact(LayoutEngine::Shaping::WholeRuns);
+        int filled = 0;
+        constexpr int rounds = 200;
+        for (int round = 0; round < rounds; ++round) {
+            if (round % 20 == 0)
+                filler.emplace();
+            AttributedStringBuilder builder;
+            TextAttributes attributes = randomAttributes(families, random);
+            attributes.font->tracking = 0;
+            while (builder.length() < 500) {
+                const QString words = randomText(parts[random() % parts.size()], random);
+                builder.append(words.left(1 + static_cast<qsizetype>(random() % 80)), attributes);
+                FontAttributes &font = *attributes.font;
+                font.weight = random() % 2 ? regularFontWeight : boldFontWeight;
+                font.slant = random() % 3 ? FontSlant::Upright : FontSlant::Italic;
+                font.pointSize = random() % 2 ? 12 : 9.5;
+            }
+            const AttributedString text = builder.build();
+            const double width = 40 + static_cast<double>(random() % 5000) / 7;
+            const std::optional<Ends> ends = filler->endsOf(text, width);
+            if (!ends)
+                continue;
+            ++filled;
+            ASSERT_EQ(*ends, exactEndsOf(exact, text, width)) << width << ": " << text.string().toStdString();
         }
-        const AttributedString text = builder.build();
-        const double width = 40 + static_cast<double>(random() % 5000) / 7;
-        const std::optional<Ends> ends = filler->endsOf(text, width);
-        if (!ends)
-            continue;
-        ++filled;
-        ASSERT_EQ(*ends, exactEndsOf(exact, text, width)) << width << ": " << text.string().toStdString();
+        EXPECT_GE(filled, rounds / 2);
     }
-    EXPECT_GE(filled, rounds / 2);
+};
+
+TEST_F(MixedLineFilling, EndsEveryLineWhereTheSimpleLayoutDoes)
+{
+    std::vector<Sample> parts = samples();
+    parts.push_back(chineseSample());
+    parts.push_back(
+        {"Japanese", QStringLiteral("東京 です を コンピューター 、 。 「本」 っ ー Web").split(u' '),
+            QStringLiteral("のはをに漢字カナ、。「」ー ")});
+    expectTheSameEnds(parts);
+}
+
+TEST_F(MixedLineFilling, FillsKoreanAndWhatBytesThatAreNoTextAreTakenFor)
+{
+    expectTheSameEnds({chineseSample(),
+        {"Korean", QStringLiteral("한국어 문장은 띄어쓰기가 있다. (이것은) 10개 “값” 뷁").split(u' '),
+            QStringLiteral("가힣를이다1a .,(")},
+        {"damaged", QStringLiteral("的\uE58E \uFFFDaT. 1Ж\u0001 가\uE000 \uFE60 \u3113ß \uFFFF").split(u' '),
+            QStringLiteral("的一\uFFFD\uFFFD\uFFFDAVT.1\uE000\uE863\uF8FF\u0378\u2010\uFE63가\u0002가Ж ")}});
 }
 
 TEST_F(LineFilling, FillsPlainTextOnAMachineWithOneFont)
