@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/segmentation/GraphemeClusters.h"
 
+#include "platform/segmentation/CodeUnitTable.h"
+
 #include <unicode/uchar.h>
 #include <unicode/uscript.h>
 
@@ -54,11 +56,42 @@ bool hasConjuncts(char32_t character)
     }
 }
 
-int syllabicCategory(char32_t character)
+// The part of a character in a conjunct.
+enum class Syllabic : quint8 { Other, Consonant, Virama, Transparent };
+
+Syllabic syllabicPart(char32_t character, UGraphemeClusterBreak value)
 {
-    return hasConjuncts(character)
-        ? u_getIntPropertyValue(static_cast<UChar32>(character), UCHAR_INDIC_SYLLABIC_CATEGORY)
-        : U_INSC_OTHER;
+    if (hasConjuncts(character)) {
+        switch (u_getIntPropertyValue(static_cast<UChar32>(character), UCHAR_INDIC_SYLLABIC_CATEGORY)) {
+        case U_INSC_CONSONANT:
+            return Syllabic::Consonant;
+        case U_INSC_VIRAMA:
+            return Syllabic::Virama;
+        default:
+            break;
+        }
+    }
+    const bool isTransparent = value == U_GCB_ZWJ
+        || (value == U_GCB_EXTEND && u_getCombiningClass(static_cast<UChar32>(character)) != 0);
+    return isTransparent ? Syllabic::Transparent : Syllabic::Other;
+}
+
+struct Properties {
+    UGraphemeClusterBreak value;
+    Syllabic syllabic;
+    bool isPictograph;
+};
+
+Properties findProperties(char32_t character)
+{
+    const UGraphemeClusterBreak value = breakClass(character);
+    return {value, syllabicPart(character, value), isPictograph(character)};
+}
+
+Properties propertiesOf(char32_t character)
+{
+    thread_local CodeUnitTable<Properties> known{[](char16_t unit) { return findProperties(unit); }};
+    return character <= 0xFFFF ? known.at(static_cast<char16_t>(character)) : findProperties(character);
 }
 
 bool continuesSyllable(UGraphemeClusterBreak before, UGraphemeClusterBreak after)
@@ -84,8 +117,9 @@ struct Cluster {
     int regionalIndicators;
     enum class Conjunct { None, Consonant, Linked } conjunct; // the part of one at the end
 
-    [[nodiscard]] bool isContinuedBy(char32_t character, UGraphemeClusterBreak value) const
+    [[nodiscard]] bool isContinuedBy(const Properties &next) const
     {
+        const UGraphemeClusterBreak value = next.value;
         if (last == U_GCB_CR)
             return value == U_GCB_LF;
         if (isControl(last) || isControl(value))
@@ -94,36 +128,28 @@ struct Cluster {
             || last == U_GCB_PREPEND)
             return true;
         if (last == U_GCB_ZWJ && endsInPictograph)
-            return isPictograph(character);
+            return next.isPictograph;
         if (value == U_GCB_REGIONAL_INDICATOR)
             return last == U_GCB_REGIONAL_INDICATOR && regionalIndicators == 1;
-        if (conjunct == Conjunct::Linked && syllabicCategory(character) == U_INSC_CONSONANT)
+        if (conjunct == Conjunct::Linked && next.syllabic == Syllabic::Consonant)
             return true;
         return continuesSyllable(last, value);
     }
 
-    void add(char32_t character, UGraphemeClusterBreak value)
+    void add(const Properties &next)
     {
-        if (value != U_GCB_EXTEND && value != U_GCB_ZWJ)
-            endsInPictograph = isPictograph(character);
+        if (next.value != U_GCB_EXTEND && next.value != U_GCB_ZWJ)
+            endsInPictograph = next.isPictograph;
         else if (last == U_GCB_ZWJ)
             endsInPictograph = false; // GB11 allows one ZWJ, directly before the second pictograph
-        regionalIndicators = value == U_GCB_REGIONAL_INDICATOR ? regionalIndicators + 1 : 0;
-        addToConjunct(character, value);
-        last = value;
-    }
-
-    void addToConjunct(char32_t character, UGraphemeClusterBreak value)
-    {
-        const int category = syllabicCategory(character);
-        const bool isTransparent = value == U_GCB_ZWJ
-            || (value == U_GCB_EXTEND && u_getCombiningClass(static_cast<UChar32>(character)) != 0);
-        if (category == U_INSC_CONSONANT)
+        regionalIndicators = next.value == U_GCB_REGIONAL_INDICATOR ? regionalIndicators + 1 : 0;
+        if (next.syllabic == Syllabic::Consonant)
             conjunct = Conjunct::Consonant;
-        else if (category == U_INSC_VIRAMA && conjunct != Conjunct::None)
+        else if (next.syllabic == Syllabic::Virama && conjunct != Conjunct::None)
             conjunct = Conjunct::Linked;
-        else if (!isTransparent)
+        else if (next.syllabic != Syllabic::Transparent)
             conjunct = Conjunct::None;
+        last = next.value;
     }
 };
 
@@ -152,13 +178,13 @@ qsizetype graphemeClusterEnd(QStringView text, qsizetype start)
         && first != 0xA9 && first != 0xAE)
         return end;
     Cluster cluster{U_GCB_OTHER, false, 0, Cluster::Conjunct::None};
-    cluster.add(first, breakClass(first));
+    cluster.add(propertiesOf(first));
     while (end < text.size()) {
         const char32_t next = codePointAt(text, end);
-        const UGraphemeClusterBreak value = breakClass(next);
-        if (!cluster.isContinuedBy(next, value))
+        const Properties properties = propertiesOf(next);
+        if (!cluster.isContinuedBy(properties))
             break;
-        cluster.add(next, value);
+        cluster.add(properties);
         end += lengthOf(next);
     }
     return end;
@@ -183,7 +209,7 @@ bool continuesGraphemeCluster(char32_t character)
 {
     if (character < 0x300)
         return false;
-    switch (breakClass(character)) {
+    switch (propertiesOf(character).value) {
     case U_GCB_EXTEND:
     case U_GCB_ZWJ:
     case U_GCB_SPACING_MARK:

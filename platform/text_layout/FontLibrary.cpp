@@ -168,6 +168,18 @@ quint16 FontChain::fontFor(char32_t character)
     return font;
 }
 
+// Whether every character would get the font, alone. If the font lacks one, all others lack it, too.
+bool FontChain::isFontForAll(quint16 font, QStringView cluster)
+{
+    for (qsizetype i = 0; i < cluster.size();) {
+        const char32_t character = codePointAt(cluster, i);
+        if (fontFor(character) != font)
+            return false;
+        i += character > 0xFFFF ? 2 : 1;
+    }
+    return true;
+}
+
 quint16 FontChain::findFontForCluster(QStringView cluster)
 {
     if (isEmojiCluster(cluster)) {
@@ -177,7 +189,7 @@ quint16 FontChain::findFontForCluster(QStringView cluster)
     // The first font that has the first character is the one for the whole cluster if it has the rest, too.
     const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
     const quint16 forFirst = fontFor(codePointAt(cluster, 0));
-    if (coversAll(fonts[forFirst], cluster))
+    if (isFontForAll(forFirst, cluster) || coversAll(fonts[forFirst], cluster))
         return forFirst;
     return firstFontThat([&](quint16 font) { return coversAll(fonts[font], cluster); }).value_or(forFirst);
 }

@@ -43,6 +43,7 @@ private:
     Page &pageOf(char32_t character);
     quint16 fontFor(char32_t character);
     quint16 findFontFor(char32_t character);
+    bool isFontForAll(quint16 font, QStringView cluster);
     quint16 findFontForCluster(QStringView cluster);
     std::optional<quint16> coloredFontFor(QStringView emoji);
     [[nodiscard]] bool isNamed(const FontFace *face) const;

@@ -14,6 +14,13 @@ namespace {
 // Code units that HarfBuzz considers on either side of a stretch.
 constexpr qsizetype contextLength = 8;
 
+// Whether letters never join across a character. Marks and the soft hyphen are transparent.
+bool stopsJoining(char16_t unit)
+{
+    constexpr char16_t firstMark = 0x300;
+    return unit < firstMark && unit != u'\u00AD';
+}
+
 void distributeLigatures(QStringView text, float *advances, const quint8 *flags)
 {
     for (qsizetype start = 0; start < text.size();) {
@@ -171,10 +178,10 @@ void Shaper::shapeEmoji(const ShapingStyle &style, QStringView word, float *adva
 bool Shaper::shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
     Neighbours neighbours, float *advances, quint8 *flags)
 {
-    // Letters do not join across a space or a control character.
     const char16_t *units = paragraph.utf16();
     const bool isApart = !style.mayHaveJoiningLetters()
-        || ((start == 0 || units[start - 1] <= u' ') && (end == paragraph.size() || units[end] <= u' '));
+        || ((start == 0 || stopsJoining(units[start - 1]))
+            && (end == paragraph.size() || stopsJoining(units[end])));
     if (!isApart || end - start > WordCache::maxWordLength) {
         shape(style, paragraph, start, end, advances, flags);
         return true;
