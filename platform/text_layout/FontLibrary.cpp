@@ -182,13 +182,15 @@ bool FontChain::isFontForAll(quint16 font, QStringView cluster)
 
 quint16 FontChain::findFontForCluster(QStringView cluster)
 {
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    const quint16 forFirst = fontFor(codePointAt(cluster, 0));
     if (isEmojiCluster(cluster)) {
+        if (fonts[forFirst].isColored && coversAll(fonts[forFirst], cluster))
+            return forFirst; // as for the first character, it is the first colour font
         if (const std::optional<quint16> colored = coloredFontFor(cluster))
             return *colored;
     }
     // The first font that has the first character is the one for the whole cluster if it has the rest, too.
-    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
-    const quint16 forFirst = fontFor(codePointAt(cluster, 0));
     if (isFontForAll(forFirst, cluster) || coversAll(fonts[forFirst], cluster))
         return forFirst;
     return firstFontThat([&](quint16 font) { return coversAll(fonts[font], cluster); }).value_or(forFirst);

@@ -14,13 +14,6 @@ namespace {
 
 constexpr size_t maxLigaturePairs = 20'000;
 
-enum SubstitutionType { Ligature = 4, SubstitutionContext = 5, SubstitutionChain = 6 };
-enum PositioningType { Single = 1, Pair = 2, MarkToBase = 4, MarkToMark = 6, Context = 7, Chain = 8 };
-
-// Lookups with one of these flags look past glyphs that are not marks.
-constexpr int ignoresBases = 2;
-constexpr int ignoresLigatures = 4;
-
 // The lookups that a plan applies to every glyph: all but those for fractions.
 GlyphSet lookupsOf(hb_face_t *face, hb_shape_plan_t *plan, hb_tag_t table)
 {
@@ -136,10 +129,11 @@ private:
     void readSubstitution(LayoutTable &table, const LayoutTable::Lookup &lookup)
     {
         for (const size_t subtable : lookup.subtables) {
-            if (lookup.type == Ligature)
+            if (lookup.type == LayoutTable::LigatureSubstitution)
                 readLigatures(table, subtable, lookup.flags);
-            else if (lookup.type == SubstitutionContext || lookup.type == SubstitutionChain)
-                readContext(table, subtable, lookup.type == SubstitutionChain);
+            else if (lookup.type == LayoutTable::ContextSubstitution
+                || lookup.type == LayoutTable::ChainSubstitution)
+                readContext(table, subtable, lookup.type == LayoutTable::ChainSubstitution);
             else
                 excludeCovered(table, table.target(subtable, subtable + 2));
         }
@@ -171,7 +165,7 @@ private:
         }
         if (components.size() < 2)
             return exclude(first);
-        if (flags & (ignoresBases | ignoresLigatures)) {
+        if (flags & (LayoutTable::ignoresBases | LayoutTable::ignoresLigatures)) {
             m_areSimple = false;
             return;
         }
@@ -281,15 +275,16 @@ private:
 
     void readPositioning(LayoutTable &table, const LayoutTable::Lookup &lookup, size_t subtable)
     {
-        if (lookup.type == Single || (lookup.type >= MarkToBase && lookup.type <= MarkToMark))
+        if (lookup.type == LayoutTable::SinglePositioning
+            || (lookup.type >= LayoutTable::MarkToBase && lookup.type <= LayoutTable::MarkToMark))
             return; // depends on the glyph alone, or moves marks, which have no advance
-        if (lookup.type == Context || lookup.type == Chain)
-            return readContext(table, subtable, lookup.type == Chain);
+        if (lookup.type == LayoutTable::ContextPositioning || lookup.type == LayoutTable::ChainPositioning)
+            return readContext(table, subtable, lookup.type == LayoutTable::ChainPositioning);
         const size_t coverage = table.target(subtable, subtable + 2);
-        if (lookup.type != Pair)
+        if (lookup.type != LayoutTable::PairPositioning)
             return excludeCovered(table, coverage);
         const bool affectsSecond = table.value(subtable + 6) != 0;
-        if ((affectsSecond || lookup.flags & (ignoresBases | ignoresLigatures))
+        if ((affectsSecond || lookup.flags & (LayoutTable::ignoresBases | LayoutTable::ignoresLigatures))
             && table.coversAny(coverage, m_glyphs.get()))
             m_areSimple = false;
     }

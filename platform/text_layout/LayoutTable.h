@@ -15,6 +15,31 @@ typedef struct hb_blob_t hb_blob_t;
 
 class LayoutTable {
 public:
+    // The types of lookups.
+    enum Substitution {
+        SingleSubstitution = 1,
+        MultipleSubstitution,
+        AlternateSubstitution,
+        LigatureSubstitution,
+        ContextSubstitution,
+        ChainSubstitution,
+        ReverseSubstitution = 8,
+    };
+    enum Positioning {
+        SinglePositioning = 1,
+        PairPositioning,
+        CursivePositioning,
+        MarkToBase,
+        MarkToLigature,
+        MarkToMark,
+        ContextPositioning,
+        ChainPositioning,
+    };
+
+    // Flags of lookups that look past glyphs that are not marks.
+    static constexpr int ignoresBases = 2;
+    static constexpr int ignoresLigatures = 4;
+
     LayoutTable(hb_face_t *face, quint32 tag);
     LayoutTable(const LayoutTable &) = delete;
     LayoutTable &operator=(const LayoutTable &) = delete;

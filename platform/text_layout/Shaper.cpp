@@ -14,6 +14,14 @@ namespace {
 // Code units that HarfBuzz considers on either side of a stretch.
 constexpr qsizetype contextLength = 8;
 
+// What the cache holds of a text in a style.
+enum class Entry { Alone, BetweenSpaces, PairOfClusters };
+
+quint64 keyOf(const ShapingStyle &style, Entry entry)
+{
+    return quint64{style.number()} << 2 | static_cast<quint64>(entry);
+}
+
 // Whether letters never join across a character. Marks and the soft hyphen are transparent.
 bool stopsJoining(char16_t unit)
 {
@@ -114,7 +122,7 @@ void Shaper::shape(const ShapingStyle &style, QStringView paragraph, qsizetype s
 
 const CachedWord &Shaper::wordAlone(const ShapingStyle &style, QStringView word)
 {
-    const quint64 key = quint64{style.number()} * 2;
+    const quint64 key = keyOf(style, Entry::Alone);
     if (const CachedWord *known = m_words.find(key, word))
         return *known;
     CachedWord &added = m_words.insert(key, word, true);
@@ -122,10 +130,42 @@ const CachedWord &Shaper::wordAlone(const ShapingStyle &style, QStringView word)
     return added;
 }
 
+const CachedWord &Shaper::pairOfClusters(const ShapingStyle &style, QStringView pair)
+{
+    const quint64 key = keyOf(style, Entry::PairOfClusters);
+    if (const CachedWord *known = m_words.find(key, pair))
+        return *known;
+    const CachedWord &added = m_words.insert(key, pair, style.areClustersPlain(pair));
+    shape(style, pair, 0, pair.size(), added.advances.data(), added.flags.data());
+    return added;
+}
+
+// The advance of a cluster, and whether a line may end after it, follow from itself and the next one. Returns
+// false if that is not known.
+bool Shaper::shapeByClusters(const ShapingStyle &style, QStringView text, float *advances, quint8 *flags)
+{
+    qsizetype start = 0;
+    for (qsizetype end = graphemeClusterEnd(text, 0); start < text.size();) {
+        const qsizetype nextEnd = end < text.size() ? graphemeClusterEnd(text, end) : end;
+        if (nextEnd - start > WordCache::maxWordLength)
+            return false;
+        const CachedWord &pair = pairOfClusters(style, text.sliced(start, nextEnd - start));
+        if (!pair.isSeparable)
+            return false;
+        std::copy_n(pair.advances.begin(), end - start, advances + start);
+        // The flags of a cluster's start come from the pair that ends with it.
+        const qsizetype known = start == 0 ? 0 : 1;
+        std::copy(pair.flags.begin() + known, pair.flags.end(), flags + start + known);
+        start = end;
+        end = nextEnd;
+    }
+    return true;
+}
+
 // With spaces around it, the result shows whether the word measures the same without them.
 const CachedWord &Shaper::wordBetweenSpaces(const ShapingStyle &style, QStringView word)
 {
-    const quint64 key = quint64{style.number()} * 2 + 1;
+    const quint64 key = keyOf(style, Entry::BetweenSpaces);
     if (const CachedWord *known = m_words.find(key, word))
         return *known;
     constexpr auto maxLength = static_cast<size_t>(WordCache::maxWordLength) + 2;
@@ -178,6 +218,13 @@ void Shaper::shapeEmoji(const ShapingStyle &style, QStringView word, float *adva
 bool Shaper::shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
     Neighbours neighbours, float *advances, quint8 *flags)
 {
+    const QStringView text = paragraph.sliced(start, end - start);
+    if (style.isOfEmoji()) {
+        shapeEmoji(style, text, advances, flags);
+        return true;
+    }
+    if (style.areClustersSeparable() && shapeByClusters(style, text, advances, flags))
+        return true;
     const char16_t *units = paragraph.utf16();
     const bool isApart = !style.mayHaveJoiningLetters()
         || ((start == 0 || stopsJoining(units[start - 1]))
@@ -186,7 +233,6 @@ bool Shaper::shapeWord(const ShapingStyle &style, QStringView paragraph, qsizety
         shape(style, paragraph, start, end, advances, flags);
         return true;
     }
-    const QStringView text = paragraph.sliced(start, end - start);
     const CachedWord &word =
         neighbours == Neighbours::Spaces ? wordBetweenSpaces(style, text) : wordAlone(style, text);
     std::copy_n(word.advances.begin(), end - start, advances);

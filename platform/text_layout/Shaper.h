@@ -51,10 +51,12 @@ public:
 
 private:
     const CachedWord &wordAlone(const ShapingStyle &style, QStringView word);
+    const CachedWord &pairOfClusters(const ShapingStyle &style, QStringView pair);
     const CachedWord &wordBetweenSpaces(const ShapingStyle &style, QStringView word);
     enum class Neighbours { Spaces, Other }; // of a word in its run
     bool shapeWord(const ShapingStyle &style, QStringView paragraph, qsizetype start, qsizetype end,
         Neighbours neighbours, float *advances, quint8 *flags);
+    bool shapeByClusters(const ShapingStyle &style, QStringView text, float *advances, quint8 *flags);
     void shapeEmoji(const ShapingStyle &style, QStringView word, float *advances, quint8 *flags);
 
     struct BufferDeleter {

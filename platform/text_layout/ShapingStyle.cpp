@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_layout/ShapingStyle.h"
 
+#include "platform/segmentation/GraphemeClusters.h"
+#include "platform/segmentation/ScriptRuns.h"
+
 #include <hb-ot.h>
 #include <hb.h>
 
@@ -91,6 +94,55 @@ ShapingStyle::ShapingStyle(const TextRun &run, quint32 number)
         return;
     m_spaceAdvance = static_cast<float>(hb_font_get_glyph_h_advance(font, space));
     m_areWordsSeparable = isOfOpenTypeRules() && !hb_set_has(namedGlyphs().get(), space);
+    if (mayReadClusterRules())
+        readClusterRules();
+}
+
+// Scripts in which letters neither join nor move, and whose words are not separated by spaces. Without rules
+// for Thai in the font, HarfBuzz has its own.
+bool ShapingStyle::mayReadClusterRules() const
+{
+    const hb_script_t script = hb_script_from_iso15924_tag(m_script);
+    if (script != HB_SCRIPT_THAI && script != HB_SCRIPT_LAO)
+        return false;
+    const hb_tag_t tag = script == HB_SCRIPT_THAI ? HB_TAG('t', 'h', 'a', 'i') : HB_TAG('l', 'a', 'o', ' ');
+    unsigned index = 0;
+    return !m_isRightToLeft && isOfOpenTypeRules() && !mayHaveKerningTable()
+        && hb_ot_layout_table_find_script(
+            hb_font_get_face(m_face.shapingFont()), HB_OT_TAG_GSUB, tag, &index);
+}
+
+void ShapingStyle::readClusterRules()
+{
+    hb_face_t *face = hb_font_get_face(m_face.shapingFont());
+    const GlyphSet characters = makeGlyphSet();
+    hb_face_collect_unicodes(face, characters.get());
+    const GlyphSet bases = makeGlyphSet();
+    const GlyphSet marks = makeGlyphSet();
+    hb_codepoint_t character = HB_SET_VALUE_INVALID;
+    while (hb_set_next(characters.get(), &character)) {
+        const quint32 script = scriptOf(character);
+        hb_codepoint_t glyph = 0;
+        if ((script == sharedScript || script == m_script) && glyphOf(character, glyph))
+            hb_set_add(continuesGraphemeCluster(character) ? marks.get() : bases.get(), glyph);
+    }
+    m_clusterRules = ::readClusterRules(face, bases.get(), marks.get());
+}
+
+bool ShapingStyle::areClustersPlain(QStringView clusters) const
+{
+    constexpr char16_t fractionSlash = 0x2044;
+    for (qsizetype at = 0; at < clusters.size();) {
+        const char32_t character = codePointAt(clusters, at);
+        const quint32 script = scriptOf(character);
+        hb_codepoint_t glyph = 0;
+        if ((script != sharedScript && script != m_script) || !glyphOf(character, glyph)
+            || hb_set_has(m_clusterRules.excluded.get(), glyph) || isDefaultIgnorable(character)
+            || character == fractionSlash)
+            return false;
+        at += character > 0xFFFF ? 2 : 1;
+    }
+    return m_clusterRules.areSimple;
 }
 
 bool ShapingStyle::hasTable(quint32 tag, bool onlyOfVersionOne) const

@@ -4,8 +4,11 @@
 // Thread: one at a time.  Owner: Shaper.
 #pragma once
 
+#include "platform/text_layout/ClusterRules.h"
 #include "platform/text_layout/FontRules.h"
 #include "platform/text_layout/TextRun.h"
+
+#include <QStringView>
 
 #include <memory>
 #include <tuple>
@@ -37,6 +40,11 @@ public:
     /// Whether each grapheme cluster can be shaped separately.
     [[nodiscard]] bool isOfEmoji() const { return m_face.source().isColored; }
 
+    /// Whether the advance of a cluster may follow from itself and the next one; areClustersPlain() knows.
+    [[nodiscard]] bool areClustersSeparable() const { return m_clusterRules.areSimple; }
+    /// Whether it does in a text that consists of clusters like these.
+    [[nodiscard]] bool areClustersPlain(QStringView clusters) const;
+
     /// The advance of a space; valid only if areWordsSeparable().
     [[nodiscard]] float spaceAdvance() const { return m_spaceAdvance; }
 
@@ -55,6 +63,8 @@ public:
     [[nodiscard]] GlyphSet namedGlyphs() const;
 
 private:
+    [[nodiscard]] bool mayReadClusterRules() const;
+    void readClusterRules();
     [[nodiscard]] bool hasTable(quint32 tag, bool onlyOfVersionOne) const;
     [[nodiscard]] bool hasStateMachines() const;
 
@@ -71,5 +81,6 @@ private:
     bool m_isRightToLeft;
     bool m_hasLigatures;
     QByteArray m_language;
+    ClusterRules m_clusterRules;
     std::unique_ptr<hb_shape_plan_t, PlanDeleter> m_plan;
 };

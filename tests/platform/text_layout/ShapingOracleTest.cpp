@@ -148,6 +148,48 @@ TEST_F(ShapingOracle, GivesTheSameLinesForWordsOfOneScript)
     }
 }
 
+// Of Thai and Lao, clusters are measured two by two.
+TEST_F(ShapingOracle, GivesTheSameLinesForLettersWithMarksInAnyOrder)
+{
+    useOnlyFonts({QStringLiteral("NimbusSans-Regular.otf"), QStringLiteral("NotoSansThai-Regular.ttf"),
+        QStringLiteral("NotoSerifThai-Regular.ttf"), QStringLiteral("NotoLoopedThai-Regular.ttf"),
+        QStringLiteral("NotoSansLao-Regular.ttf"), QStringLiteral("NotoSerifLao-Regular.ttf"),
+        QStringLiteral("NotoLoopedLao-Regular.ttf")});
+    const QString words = QStringLiteral("ที่และในของเป็นการมีไม่ได้ให้คนบ้านเมืองแม่น้ำวันคืนใหญ่ประเทศฤๅษีฎุฐุปั้ญู");
+    std::mt19937 random(24);
+    LayoutEngine byWords(LayoutEngine::Shaping::ByWords);
+    LayoutEngine wholeRuns(LayoutEngine::Shaping::WholeRuns);
+    for (const char *family : {"Helvetica", "Noto Sans Thai", "Noto Serif Thai", "Noto Looped Thai",
+             "Noto Sans Lao", "Noto Serif Lao", "Noto Looped Lao"}) {
+        for (const int block : {0x0E00, 0x0E80}) {
+            QString text;
+            while (text.size() < 2500) {
+                const auto start = static_cast<qsizetype>(random() % static_cast<size_t>(words.size() - 12));
+                const QString piece = words.mid(start, static_cast<qsizetype>(random() % 12));
+                for (const QChar unit : piece)
+                    text += QChar(static_cast<char16_t>(unit.unicode() % 0x80 + block));
+                if (random() % 3 == 0)
+                    text += QChar(static_cast<char16_t>(block + static_cast<int>(random() % 0x60)));
+                if (random() % 30 == 0)
+                    text +=
+                        QStringLiteral(" .1“(\u200B\u0301\u00AD").at(static_cast<qsizetype>(random() % 8));
+            }
+            TextAttributes attributes;
+            attributes.font = FontAttributes{.family = QString::fromLatin1(family)};
+            const AttributedString styled(text, attributes);
+            for (const double width : {40.0, 251.0}) {
+                const std::vector<LineFragment> quick = linesOf(byWords, styled, width);
+                const std::vector<LineFragment> plain = linesOf(wholeRuns, styled, width);
+                ASSERT_EQ(quick.size(), plain.size()) << family << ' ' << block;
+                for (size_t i = 0; i < quick.size(); ++i) {
+                    ASSERT_EQ(quick[i].start, plain[i].start) << family << ' ' << block;
+                    ASSERT_NEAR(quick[i].width, plain[i].width, 1e-6) << family << ' ' << block;
+                }
+            }
+        }
+    }
+}
+
 TEST_F(ShapingOracle, GivesTheSameLinesFromAnEngineThatHasSeenOtherTexts)
 {
     std::mt19937 random(21);
