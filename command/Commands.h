@@ -8,6 +8,9 @@
 /// Prints the counts of files or of standard input.
 int runCountCommand(int wordCount, char **words);
 
+/// Prints what the counts of files consist of, and what does not count and why.
+int runExplainCommand(int wordCount, char **words);
+
 /// Prints the text of files or of standard input, as it is counted.
 int runExtractCommand(int wordCount, char **words);
 

@@ -23,7 +23,7 @@ public:
     {
         QByteArray line;
         for (const StatisticRow &row : statisticTable)
-            line += titleOf(row).rightJustified(widthOf(row)) + "  ";
+            line += titleOf(row.statistic).rightJustified(widthOf(row)) + "  ";
         return line + "File\n";
     }
 
@@ -41,13 +41,9 @@ public:
     }
 
 private:
-    static QByteArray titleOf(const StatisticRow &row)
-    {
-        return titles.at(static_cast<std::size_t>(row.statistic));
-    }
     [[nodiscard]] qsizetype widthOf(const StatisticRow &row) const
     {
-        return std::max(titleOf(row).size(), m_digits);
+        return std::max(titleOf(row.statistic).size(), m_digits);
     }
 
     qsizetype m_digits;
@@ -106,6 +102,11 @@ std::unique_ptr<CountReport> CountReport::make(CountFormat format, qint64 expect
         break;
     }
     return std::make_unique<TableReport>(expectedSize);
+}
+
+QByteArray titleOf(Statistic statistic)
+{
+    return titles.at(static_cast<std::size_t>(statistic));
 }
 
 QByteArray explanationOfRules(const CountingRules &rules, const QByteArrayList &fontFiles)

@@ -30,6 +30,9 @@ public:
     [[nodiscard]] virtual QByteArray total(const QBYWordCounterStats &) const { return {}; }
 };
 
+/// The title of a statistic's column in the table, in ASCII.
+QByteArray titleOf(Statistic statistic);
+
 /// The text of --explain-rules: a line with name and value for each rule. fontFiles: the files of the fonts
 /// that the lines were measured with.
 QByteArray explanationOfRules(const CountingRules &rules, const QByteArrayList &fontFiles);

@@ -88,6 +88,10 @@ QByteArray tsvName(const QByteArray &name)
 
 QByteArray jsonName(const QByteArray &name)
 {
+    const bool isPlain = std::all_of(name.begin(), name.end(),
+        [](char byte) { return byte >= ' ' && byte < '\x7F' && byte != '"' && byte != '\\'; });
+    if (isPlain) // most of them, by far
+        return '"' + name + '"';
     const QByteArray array =
         QJsonDocument(QJsonArray{QString::fromUtf8(name)}).toJson(QJsonDocument::Compact);
     // Qt escapes only the control characters below U+0020.

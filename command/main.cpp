@@ -19,6 +19,7 @@ Counts text for people who write.
 
 Commands:
   count      print the counts of files or of standard input
+  explain    print what counts in files, what does not, and why
   extract    print the text of files, as it is counted
   selection  show the counts of the text selected in any application
   text       show the counts of one file or of standard input
@@ -38,6 +39,7 @@ struct Command {
 
 constexpr Command commands[] = {
     {"count", runCountCommand},
+    {"explain", runExplainCommand},
     {"extract", runExtractCommand},
     {"selection", runSelectionCommand},
     {"text", runTextCommand},

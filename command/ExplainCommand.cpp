@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+// "quillbay explain": prints what the counts of documents consist of, and what does not count and why.
+#include "command/CommandWords.h"
+#include "command/Commands.h"
+#include "command/CountReport.h"
+#include "command/FileNames.h"
+#include "command/ItemTally.h"
+#include "command/MarkedText.h"
+#include "command/NamedDocument.h"
+#include "command/ProgressLine.h"
+#include "platform/system/SystemError.h"
+#include "preferences/QBYUserDefaultsController.h"
+#include "text_statistics/ColumnCounter.h"
+#include "text_statistics/MeasuringSurface.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <new>
+#include <optional>
+#include <vector>
+
+namespace {
+
+constexpr char explainHelp[] =
+    R"(Usage: quillbay explain [--words] [--sentences] [--paragraphs] [--indents] [--lines]
+                        [--hard-line-breaks] [--characters] [--all-characters]
+                        [--not-counted] [--json] [--as-text] [FILE…]
+
+Prints the counts of each FILE as 'quillbay count' does, and why they are what they
+are. Without options, prints each count with what was not counted and why. With the
+name of a count, prints the whole text, with what counted in [square brackets] and
+what did not in {curly ones}. Without FILE, or if FILE is -, reads standard input.
+FILE can be of every kind that 'quillbay count' counts.
+
+  --words, --sentences, --paragraphs, --indents, --lines, --hard-line-breaks,
+  --characters, --all-characters
+                 explain this count; several are explained one after another
+  --not-counted  print only what was not counted, with the text around it
+  --json         print a JSON object on a line of its own for each word, sentence and
+                 so on (of all counts, or of those that are named): the file, the kind
+                 of the count, the offset and length in UTF-16 code units, whether it
+                 was counted, the reason as a fixed identifier, and the text, of which
+                 at most 200 code units. A line as of 'quillbay count --json' follows
+  --as-text      read every file as plain text, whatever it is
+  -h, --help     print this help and exit
+
+'quillbay count --explain-rules' prints the rules themselves: your preferences and
+your locale.
+
+Exit status: 0 if all files were explained, 1 if any was not, 2 after wrong usage.
+)";
+
+struct StatisticSwitch {
+    const char *name;
+    Statistic statistic;
+};
+
+constexpr std::array<StatisticSwitch, statisticCount> statisticSwitches{{
+    {"words", Statistic::Words},
+    {"characters", Statistic::Characters},
+    {"all-characters", Statistic::CharactersIncludingWhitespace},
+    {"sentences", Statistic::Sentences},
+    {"lines", Statistic::Lines},
+    {"hard-line-breaks", Statistic::HardLineBreaks},
+    {"paragraphs", Statistic::Paragraphs},
+    {"indents", Statistic::IndentedParagraphs},
+}};
+
+struct ExplainOptions {
+    std::vector<Statistic> statistics; ///< all, unless some are named
+    bool areNamed = false;
+    bool wantsJson = false;
+    bool wantsOnlyNotCounted = false;
+    ReadAs readAs = ReadAs::ItsKind;
+
+    [[nodiscard]] bool isOverview() const { return !areNamed && !wantsOnlyNotCounted; }
+};
+
+/// At most so many code units of an item are printed in JSON.
+constexpr qsizetype maxJsonExcerptLength = 200;
+
+void print(const QByteArray &text)
+{
+    std::fwrite(text.constData(), 1, static_cast<size_t>(text.size()), stdout);
+}
+
+QByteArray jsonOf(const QByteArray &jsonFileName, QStringView text, const CountedItem &item)
+{
+    qsizetype length = std::min(item.length, maxJsonExcerptLength);
+    if (length < item.length && text[item.start + length].isLowSurrogate())
+        --length;
+    return "{\"file\":" + jsonFileName + ",\"kind\":\""
+        + statisticTable.at(static_cast<std::size_t>(item.statistic)).name + "\",\"offset\":"
+        + QByteArray::number(item.start) + ",\"length\":" + QByteArray::number(item.length) + ",\"counted\":"
+        + (item.isCounted() ? "true" : "false") + ",\"reason\":\"" + identifierOf(item.reason)
+        + "\",\"text\":" + jsonName(text.sliced(item.start, length).toUtf8()) + "}\n";
+}
+
+class ExplainCommand {
+public:
+    explicit ExplainCommand(ExplainOptions wanted)
+        : m_options(std::move(wanted))
+    {
+    }
+
+    /// The exit status.
+    int run(const QByteArrayList &names);
+
+private:
+    void explain(const QByteArray &name, qsizetype index, qsizetype count);
+    [[nodiscard]] QByteArray overviewOf(const AttributedString &text, ProgressLine &progress);
+    void printItems(const AttributedString &text, Statistic statistic);
+    void printJson(const QByteArray &name, const AttributedString &text);
+    void fail(const QByteArray &name, const QString &cause);
+
+    const ExplainOptions m_options;
+    std::optional<ColumnCounter> m_counter;
+    bool m_hasFailed = false;
+};
+
+int ExplainCommand::run(const QByteArrayList &names)
+{
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    CountingRules rules = currentCountingRules();
+    rules.text.localeIdentifier = [identifier = rules.text.localeIdentifier()] { return identifier; };
+    m_counter.emplace(rules.text, MeasuringSurface::shared().columnWidthOn(rules.page));
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        // Every step allocates buffers as large as the document.
+        try {
+            explain(names[i], i, names.size());
+        } catch (const std::bad_alloc &) {
+            fail(names[i], causeText(FileError{FileError::Cause::NotEnoughMemory}));
+        }
+    }
+    if (std::fflush(stdout) != 0)
+        fail("standard output", systemErrorText(errno));
+    return m_hasFailed ? 1 : 0;
+}
+
+void ExplainCommand::explain(const QByteArray &name, qsizetype index, qsizetype count)
+{
+    std::optional<ProgressLine> progress(std::in_place, count);
+    progress->startReading(name, index);
+    const Result<AttributedString, DocumentError> document = loadNamedDocument(name, m_options.readAs);
+    if (!document) {
+        progress.reset();
+        fail(name, causeText(document.error()));
+        return;
+    }
+    const AttributedString &text = document.value();
+    if (m_options.wantsJson) {
+        progress.reset(); // the items show the progress
+        printJson(name, text);
+        return;
+    }
+    const QByteArray title = (index > 0 ? "\n" : "") + printableName(name) + '\n';
+    if (m_options.isOverview()) {
+        progress->startCounting(text.length());
+        const QByteArray overview = overviewOf(text, *progress);
+        progress.reset();
+        print(title + overview);
+        return;
+    }
+    progress.reset();
+    print(title);
+    for (const Statistic statistic : m_options.statistics)
+        printItems(text, statistic);
+}
+
+QByteArray ExplainCommand::overviewOf(const AttributedString &text, ProgressLine &progress)
+{
+    QByteArray overview;
+    for (const StatisticRow &row : statisticTable) {
+        ItemTally tally;
+        const auto addPart = [&](qsizetype position) {
+            const auto pass = static_cast<qsizetype>(row.statistic);
+            progress.setPosition((pass * text.length() + position) / qsizetype{statisticCount});
+        };
+        const quint64 count = m_counter->forEachItem(
+            text, row.statistic, [&](const CountedItem &item) { tally.add(item); }, addPart);
+        overview += tally.summary(row.statistic, count, m_counter->rules());
+    }
+    return overview;
+}
+
+void ExplainCommand::printItems(const AttributedString &text, Statistic statistic)
+{
+    ItemTally tally;
+    MarkedText marked(text.string(), m_counter->rules());
+    const quint64 count = m_counter->forEachItem(text, statistic, [&](const CountedItem &item) {
+        tally.add(item);
+        if (!m_options.wantsOnlyNotCounted)
+            marked.add(item);
+        else if (!item.isCounted())
+            marked.addAlone(item);
+    });
+    if (!m_options.wantsOnlyNotCounted)
+        marked.finish();
+    print(tally.summary(statistic, count, m_counter->rules()));
+}
+
+void ExplainCommand::printJson(const QByteArray &name, const AttributedString &text)
+{
+    const QByteArray jsonFileName = jsonName(name);
+    for (const Statistic statistic : m_options.statistics) {
+        m_counter->forEachItem(text, statistic, [&](const CountedItem &item) {
+            if (!m_options.wantsOnlyNotCounted || !item.isCounted())
+                print(jsonOf(jsonFileName, text.string(), item));
+        });
+    }
+    print(CountReport::make(CountFormat::Json, 0)->row(name, m_counter->count(text)));
+}
+
+void ExplainCommand::fail(const QByteArray &name, const QString &cause)
+{
+    m_hasFailed = true;
+    reportDocumentFailure(name, cause);
+}
+
+ExplainOptions optionsOf(const CommandWords &words)
+{
+    ExplainOptions chosen{.statistics = {},
+        .areNamed = false,
+        .wantsJson = words.switches.contains("json"),
+        .wantsOnlyNotCounted = words.switches.contains("not-counted"),
+        .readAs = words.switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind};
+    for (const StatisticSwitch &known : statisticSwitches) {
+        if (words.switches.contains(known.name))
+            chosen.statistics.push_back(known.statistic);
+    }
+    chosen.areNamed = !chosen.statistics.empty();
+    if (!chosen.areNamed) {
+        for (const StatisticSwitch &known : statisticSwitches)
+            chosen.statistics.push_back(known.statistic);
+    }
+    return chosen;
+}
+
+} // namespace
+
+int runExplainCommand(int wordCount, char **words)
+{
+    QByteArrayList known{"json", "not-counted", "as-text"};
+    for (const StatisticSwitch &row : statisticSwitches)
+        known.append(row.name);
+    const std::optional<CommandWords> wanted = CommandWords::parse("explain", known, wordCount, words);
+    if (!wanted)
+        return wrongUsageStatus;
+    if (wanted->wantsHelp())
+        return printText(explainHelp);
+    ExplainCommand command(optionsOf(*wanted));
+    return command.run(wanted->operands.isEmpty() ? QByteArrayList{standardInputName} : wanted->operands);
+}
