@@ -2,6 +2,7 @@
 #include "desk/DeskWindow.h"
 
 #include "desk/RulesPage.h"
+#include "desk/why/WhyPage.h"
 #include "platform/defaults/UserDefaults.h"
 #include "ui_DeskWindow.h"
 
@@ -40,6 +41,9 @@ DeskWindow::DeskWindow(const QString &speechLaunchPath)
     connect(
         m_ui->pageList, &QListWidget::currentRowChanged, m_ui->pageStack, &QStackedWidget::setCurrentIndex);
     addPage(*new RulesPage(m_editor, *m_ui->restoreDefaultsAction, speechLaunchPath), tr("Rules"));
+    auto *const whyPage = new WhyPage;
+    addPage(*whyPage, tr("Why"));
+    connect(&m_editor, &RulesEditor::changed, whyPage, &WhyPage::followRules);
     connect(&m_editor, &RulesEditor::failed, this, [this](const QString &file) {
         setNotice(tr("%1: cannot be written, so the change is not stored. Check the permissions and the "
                      "free space of its folder.")

@@ -20,25 +20,33 @@ QBYWordCounterStats ColumnCounter::count(const AttributedString &text, const Tex
 quint64 ColumnCounter::forEachItem(const AttributedString &text, Statistic statistic, const YieldItem &yield,
     const TextCounter::Progress &progress)
 {
+    return forEachItem(text, 0, text.length(), statistic, yield, progress);
+}
+
+quint64 ColumnCounter::forEachItem(const AttributedString &text, qsizetype start, qsizetype end,
+    Statistic statistic, const YieldItem &yield, const TextCounter::Progress &progress)
+{
     if (statistic == Statistic::Lines)
-        return forEachLine(text, yield, progress);
-    ItemReport report(text.string(), statistic, [&](CountedItem item) {
+        return forEachLine(text, start, end, yield, progress);
+    const QStringView piece = QStringView(text.string()).sliced(start, end - start);
+    ItemReport report(piece, statistic, [&](CountedItem item) {
+        item.start += start;
         // Plain text has no styles, so its counter knows none.
         if (item.reason == CountingReason::NoIndent
             && text.attributesAt(item.start).paragraphStyle.firstLineHeadIndent > 0)
             item.reason = CountingReason::IndentOfStyle;
         yield(item);
     });
-    const QBYWordCounterStats stats = m_counter.count(text.string(), m_rules, progress, &report);
+    const QBYWordCounterStats stats = m_counter.count(piece, m_rules, progress, &report);
     return stats.*statisticTable.at(static_cast<std::size_t>(statistic)).count;
 }
 
-quint64 ColumnCounter::forEachLine(
-    const AttributedString &text, const YieldItem &yield, const TextCounter::Progress &progress)
+quint64 ColumnCounter::forEachLine(const AttributedString &text, qsizetype start, qsizetype end,
+    const YieldItem &yield, const TextCounter::Progress &progress)
 {
     ItemReport report(text.string(), Statistic::Lines, yield);
     quint64 lines = 0;
-    for (qsizetype start = 0; start < text.length();) {
+    while (start < end) {
         const Paragraph paragraph = paragraphAt(text.string(), start);
         lines += m_engine.countLinesOfParagraph(text, paragraph, m_columnWidth,
             [&](qsizetype from, qsizetype to) { report.addLine(Statistic::Lines, from, to); });

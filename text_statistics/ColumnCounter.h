@@ -28,11 +28,16 @@ public:
     quint64 forEachItem(const AttributedString &text, Statistic statistic, const YieldItem &yield,
         const TextCounter::Progress &progress = {});
 
+    /// The same for the paragraphs from start to end (UTF-16 code units); both are where a paragraph starts,
+    /// or the end of the text.
+    quint64 forEachItem(const AttributedString &text, qsizetype start, qsizetype end, Statistic statistic,
+        const YieldItem &yield, const TextCounter::Progress &progress = {});
+
     [[nodiscard]] const TextRules &rules() const { return m_rules; }
 
 private:
-    quint64 forEachLine(
-        const AttributedString &text, const YieldItem &yield, const TextCounter::Progress &progress);
+    quint64 forEachLine(const AttributedString &text, qsizetype start, qsizetype end, const YieldItem &yield,
+        const TextCounter::Progress &progress);
 
     const TextRules m_rules;
     const double m_columnWidth;
