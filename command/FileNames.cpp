@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "command/FileNames.h"
 
+#include "platform/system/FileURL.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QString>
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 namespace {
@@ -46,6 +49,19 @@ QByteArray hexEscapes(const QByteArray &bytes)
     for (const char byte : bytes)
         escaped += "\\x" + hexadecimal(static_cast<uchar>(byte), 2).toLatin1();
     return escaped;
+}
+
+/// Keeps "..": after a symbolic link only the file system can resolve it.
+QByteArray absolutePath(const QByteArray &name)
+{
+    std::error_code error;
+    const std::string path = std::filesystem::absolute(name.toStdString(), error).string();
+    QByteArray absolute;
+    for (const QByteArray &component : QByteArray::fromStdString(path).split('/')) {
+        if (!component.isEmpty() && component != ".")
+            absolute += '/' + component;
+    }
+    return absolute.isEmpty() ? "/" : absolute;
 }
 
 } // namespace
@@ -110,4 +126,9 @@ QByteArrayList namesInList(const QByteArray &list)
     QByteArrayList names = list.split(list.contains('\0') ? '\0' : '\n');
     names.removeAll(QByteArray());
     return names;
+}
+
+QByteArray urlLineOfFile(const QByteArray &name)
+{
+    return fileURLOfPath(absolutePath(name)).toEncoded() + "\r\n";
 }

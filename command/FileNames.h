@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// File names as bytes, which on Linux need not be UTF-8, and the formats in which they are printed and
-// listed.
+// File names as bytes, which on Linux need not be UTF-8, and the formats in which they are printed, listed
+// and handed over.
 // Thread: any.
 #pragma once
 
@@ -24,3 +24,6 @@ QByteArray jsonName(const QByteArray &name);
 
 /// The names in a list: separated by NUL bytes if it contains any, otherwise by LF. Empty names are skipped.
 QByteArrayList namesInList(const QByteArray &list);
+
+/// A line of a list of URLs (RFC 2483) for a file, by its absolute path without empty and "." components.
+QByteArray urlLineOfFile(const QByteArray &name);

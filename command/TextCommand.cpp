@@ -2,6 +2,7 @@
 // "quillbay text": opens a window with the counts of a document or of standard input.
 #include "command/CommandWords.h"
 #include "command/Commands.h"
+#include "command/FileNames.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
 #include "documents/rtfd/RtfdWriter.h"
@@ -22,7 +23,7 @@ Word document, an OpenDocument text, an EPUB or a PDF file, as for
 Exit status: 0 if the window has opened, 1 if not, 2 after wrong usage.
 )";
 
-/// As flat RTFD, which keeps attributes and attachments.
+/// As flat RTFD, which keeps attributes and attachments, beside the file, whose name the window gets.
 Result<Pasteboard, QString> pasteboardOf(const QByteArray &name)
 {
     const Result<AttributedString, DocumentError> text = loadNamedDocument(name);
@@ -31,7 +32,10 @@ Result<Pasteboard, QString> pasteboardOf(const QByteArray &name)
     Result<QByteArray, DocumentError> data = RTFDFromRange(text.value(), 0, text.value().length());
     if (!data)
         return causeText(data.error());
-    return Pasteboard({{QString::fromUtf16(Pasteboard::flatRtfdType), std::move(data).value()}});
+    Pasteboard::Forms forms{{QString::fromUtf16(Pasteboard::flatRtfdType), std::move(data).value()}};
+    if (name != standardInputName)
+        forms.emplace(QString::fromUtf16(Pasteboard::urlListType), urlLineOfFile(name));
+    return Pasteboard(std::move(forms));
 }
 
 int openWindow(const QByteArray &name)

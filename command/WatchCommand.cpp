@@ -2,13 +2,12 @@
 // "quillbay watch": opens a window for each file, whose counts follow every save.
 #include "command/CommandWords.h"
 #include "command/Commands.h"
+#include "command/FileNames.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
-#include "platform/system/FileURL.h"
 
-#include <filesystem>
 #include <new>
 
 namespace {
@@ -30,20 +29,6 @@ Exit status: 0 if the windows have opened, 1 if any FILE cannot be watched,
 2 after wrong usage.
 )";
 
-/// An absolute path without empty and "." components. Keeps "..": after a symbolic link only the file system
-/// can resolve it.
-QByteArray absolutePath(const QByteArray &name)
-{
-    std::error_code error;
-    const std::string path = std::filesystem::absolute(name.toStdString(), error).string();
-    QByteArray absolute;
-    for (const QByteArray &component : QByteArray::fromStdString(path).split('/')) {
-        if (!component.isEmpty() && component != ".")
-            absolute += '/' + component;
-    }
-    return absolute.isEmpty() ? "/" : absolute;
-}
-
 /// A list of URLs (RFC 2483) of the files that can be counted; reports the others and sets isComplete to
 /// false.
 QByteArray urlListOfFiles(const QByteArrayList &names, bool &isComplete)
@@ -56,7 +41,7 @@ QByteArray urlListOfFiles(const QByteArrayList &names, bool &isComplete)
             isComplete = false;
             continue;
         }
-        list += fileURLOfPath(absolutePath(name)).toEncoded() + "\r\n";
+        list += urlLineOfFile(name);
     }
     return list;
 }

@@ -88,20 +88,21 @@ void QBYServiceProviderAppDelegate::wordCountSelectedTextService(
         [pasteboard](const std::stop_token &stop) { return readAttributedString(pasteboard, stop); });
     if (const Text *const text = reading.quickResult()) {
         if (*text)
-            open(std::make_shared<QBYServiceProviderShowStatsWindowController>(**text, desktop));
+            open(std::make_shared<QBYServiceProviderShowStatsWindowController>(**text, desktop), pasteboard);
         else
             setError(error, readingFailure());
         return;
     }
     const auto controller = std::make_shared<QBYServiceProviderShowStatsWindowController>(desktop);
-    open(controller);
+    open(controller, pasteboard);
     reading.passResultTo([&desktop, window = std::weak_ptr(controller)](
                              const Text &text) { finishReading(window, text, desktop); });
     controller->setReading(std::move(reading));
 }
 
-void QBYServiceProviderAppDelegate::open(const StatWindowController &controller)
+void QBYServiceProviderAppDelegate::open(const StatWindowController &controller, const Pasteboard &pasteboard)
 {
+    controller->setDocumentName(lastPathComponent(pasteboard.readFileURLs().value(0)));
     m_statWindowControllerForSelectedText.push_back(controller);
     controller->setDelegate(this);
     controller->showWindow(nullptr);

@@ -82,7 +82,8 @@ public:
 private:
     using StatWindowController = std::shared_ptr<QBYServiceProviderShowStatsWindowController>;
 
-    void open(const StatWindowController &controller);
+    /// pasteboard: the text's, which may name the file that it comes from.
+    void open(const StatWindowController &controller, const Pasteboard &pasteboard);
     void watch(const QUrl &url);
     void reportFinished();
 

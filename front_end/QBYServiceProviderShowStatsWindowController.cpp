@@ -93,7 +93,7 @@ void QBYServiceProviderShowStatsWindowController::count()
 
 void QBYServiceProviderShowStatsWindowController::putWindowOnScreen()
 {
-    window()->setTitle(productName); // for window lists and screen readers
+    window()->setTitle(m_documentName.isEmpty() ? productName : m_documentName);
     PanelHost::setUpWindow(
         *window(), *m_wordCounterViewController, *this, [this] { closeButtonAction(nullptr); });
     m_windowOnScreen = m_desktop.putOnScreen(window());

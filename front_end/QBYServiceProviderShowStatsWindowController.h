@@ -46,6 +46,9 @@ public:
     void setAttributedStringToCount(AttributedString text);
     /// The reading that brings the text; closing the window cancels it.
     void setReading(TextReading reading) { m_reading.emplace(std::move(reading)); }
+    /// The file that the text comes from: the window's name in taskbars and for screen readers; its title row
+    /// shows the product's. Before the window is loaded.
+    void setDocumentName(const QString &name) { m_documentName = name; }
     [[nodiscard]] QBYServiceProviderShowStatsWindowControllerDelegate *delegate() const
     {
         return m_delegate.get();
@@ -103,6 +106,7 @@ private:
     AttributedString m_attributedStringToCount;
     bool m_hasText;
     std::optional<TextReading> m_reading; // until the window is closed
+    QString m_documentName; // empty if the text comes from no file
     Desktop &m_desktop;
     WeakDelegate<QBYServiceProviderShowStatsWindowControllerDelegate> m_delegate;
     std::shared_ptr<WordCounterViewController> m_wordCounterViewController;

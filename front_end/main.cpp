@@ -4,6 +4,7 @@
 #include "front_end/ProviderApplication.h"
 #include "platform/system/Processes.h"
 #include "platform/views/widgets/ApplicationActivitySource.h"
+#include "platform/views/widgets/ClipboardHandOver.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/WidgetDesktop.h"
 
@@ -79,6 +80,8 @@ int main(int argumentCount, char **arguments)
     std::atexit(exitWithoutDisplay);
     isRunning = true;
     const int status = QApplication::exec();
+    ClipboardHandOver::finish(
+        QCoreApplication::applicationDirPath() + QStringLiteral("/quillbay-clipboard-keeper"));
     isRunning = false;
     return status;
 }

@@ -33,13 +33,15 @@ struct OpenPanel {
     using Completion = std::function<void(const std::optional<QList<QUrl>> &urls)>;
 
     /// MIME types; files of derived types are offered too. Empty for all files.
-    QStringList allowedFileTypes;
+    QStringList allowedFileTypes = {};
     /// MIME types that are offered beside them.
     QStringList otherFileTypes = {};
     /// Folders whose names end in one of these suffixes (without the dot, in any case) are chosen as
     /// documents instead of being opened.
     QStringList packageSuffixes = {};
     bool allowsMultipleSelection = false;
+    /// Where the user starts; if it does not exist, the nearest folder above it. Empty: at home.
+    QUrl folder = {};
 };
 
 /// Keeps a window on the screen as long as it lives: shown whenever the window is visible.

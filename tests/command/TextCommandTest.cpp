@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/command/ServiceCommandTest.h"
 
+#include <QJsonArray>
+
 using ::testing::HasSubstr;
 using Outcome = ChildProcess::Outcome;
 
@@ -12,8 +14,17 @@ TEST_F(TextCommand, SendsAFileAsFlatRtfd)
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.errors, QByteArray());
     EXPECT_EQ(request()[u"message"].toString(), QStringLiteral("wordCountSelectedTextService"));
-    EXPECT_EQ(request()[u"forms"].toObject().keys(), QStringList{QStringLiteral("application/x-flat-rtfd")});
+    EXPECT_EQ(request()[u"forms"].toObject().keys(),
+        QStringList({QStringLiteral("application/x-flat-rtfd"), QStringLiteral("text/uri-list")}));
+    EXPECT_EQ(request()[u"files"].toArray(),
+        QJsonArray{QStringLiteral("file://") + world().root() + QStringLiteral("/files/story.txt")});
     EXPECT_TRUE(request()[u"hasDefaults"].toBool());
+}
+
+TEST_F(TextCommand, StandardInputIsNoFile)
+{
+    EXPECT_EQ(quillbay({"text"}, "One.").exitStatus, 0);
+    EXPECT_EQ(request()[u"forms"].toObject().keys(), QStringList{QStringLiteral("application/x-flat-rtfd")});
 }
 
 TEST_F(TextCommand, ReadsTheSameDocumentsAsCount)

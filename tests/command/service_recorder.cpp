@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcessEnvironment>
@@ -49,6 +50,8 @@ private:
             {QStringLiteral("message"), QString::fromLatin1(message)},
             {QStringLiteral("token"), QString::fromUtf8(m_token)},
             {QStringLiteral("forms"), forms},
+            {QStringLiteral("files"),
+                QJsonArray::fromStringList(QUrl::toStringList(pasteboard.readFileURLs()))},
             {QStringLiteral("text"), text ? text->string().left(1000) : QString()},
             {QStringLiteral("environment"), environment},
             // True only after the first-launch step.

@@ -67,6 +67,18 @@ TEST_F(AppDelegate, OpensAWindowForTheSelectedText)
     EXPECT_TRUE(controller->window()->isVisible());
 }
 
+TEST_F(AppDelegate, AWindowHasTheNameOfTheFileThatItsTextComesFrom)
+{
+    count(Pasteboard({{QStringLiteral("text/plain"), "A text."},
+        {QStringLiteral("text/uri-list"), "file:///home/writer/My%20novel.odt\r\n"}}));
+    const auto &controller = delegate.statWindowControllerForSelectedText().front();
+    EXPECT_EQ(controller->window()->title(), QStringLiteral("My novel.odt"));
+    EXPECT_EQ(controller->titleLabel()->stringValue(), QStringLiteral("Quillbay"));
+    count("A text from no file.");
+    EXPECT_EQ(
+        delegate.statWindowControllerForSelectedText().back()->window()->title(), QStringLiteral("Quillbay"));
+}
+
 TEST_F(AppDelegate, OpensAWindowForAnEmptyText)
 {
     EXPECT_EQ(count(""), nothingReported);

@@ -144,6 +144,18 @@ TEST_F(StatsWindowOnScreen, ClosesByItsKeys)
     }
 }
 
+TEST_F(StatsWindowOnScreen, WhatWasCopiedOutlivesTheProgram)
+{
+    const QString window = open();
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == window; }));
+    const QString statistics = copied();
+    const pid_t process = provider();
+    press("Escape");
+    waitForEnd(process);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), statistics);
+    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasHtml());
+}
+
 TEST_F(StatsWindowOnScreen, ClosesByTheSpaceBarOnItsButton)
 {
     open();

@@ -81,6 +81,7 @@ TEST_F(Install, IsComplete)
     install({"--prefix", QFile::encodeName(prefix())});
     QStringList expected = filesWithCommands
         + QStringList{QStringLiteral("bin/quillbay"), QStringLiteral("bin/quillbay-desk"),
+            QStringLiteral("libexec/quillbay-clipboard-keeper"),
             QStringLiteral("libexec/quillbay-counting-service"),
             QStringLiteral("libexec/quillbay-document-reader"),
             QStringLiteral("libexec/quillbay-service-provider"),

@@ -191,8 +191,10 @@ void WatchTextFileMenuBarController::askWhatToDo()
 
 void WatchTextFileMenuBarController::chooseAnotherFile()
 {
-    m_surroundings.desktop.beginOpenPanel(QBYExtension::openPanelForTextFiles(),
-        [self = shared_from_this()](const std::optional<QList<QUrl>> &urls) {
+    OpenPanel panel = QBYExtension::openPanelForTextFiles();
+    panel.folder = urlBeingWatched().adjusted(QUrl::RemoveFilename);
+    m_surroundings.desktop.beginOpenPanel(
+        panel, [self = shared_from_this()](const std::optional<QList<QUrl>> &urls) {
             if (!urls || urls->isEmpty()) {
                 self->watchTextFileViewControllerRequestedStop(nullptr);
                 return;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/DocumentChooser.h"
 
+#include "platform/system/FileURL.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMimeDatabase>
@@ -29,13 +31,23 @@ QString fileFilter(const QStringList &mimeTypes)
     return QStringLiteral("Documents (%1)").arg(patterns.join(u' '));
 }
 
+/// The folder or the nearest one above it that exists; without one the user's, as the bus starts programs in
+/// no useful folder.
+QString startFolder(const QUrl &folder)
+{
+    QString existing = QFile::decodeName(pathOfFileURL(folder));
+    while (!existing.isEmpty() && !QFileInfo(existing).isDir())
+        existing.truncate(existing.lastIndexOf(u'/'));
+    return existing.isEmpty() ? QDir::homePath() : existing;
+}
+
 } // namespace
 
 DocumentChooser::DocumentChooser(const OpenPanel &panel)
     : m_packageSuffixes(panel.packageSuffixes)
 {
     setFileMode(panel.allowsMultipleSelection ? ExistingFiles : ExistingFile);
-    setDirectory(QDir::home()); // the bus starts programs in no useful folder
+    setDirectory(startFolder(panel.folder));
     // Names without an extension match no pattern.
     if (!panel.allowedFileTypes.isEmpty())
         setNameFilters(

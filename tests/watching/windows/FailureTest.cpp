@@ -127,6 +127,14 @@ TEST_F(FailureTest, AnotherFileIsFollowedWithoutAWindowAndNotReadAtOnce)
     EXPECT_TRUE(watcher.detachableWindowForPopover()->isVisible());
 }
 
+TEST_F(FailureTest, TheChoiceStartsInTheFolderOfTheLostFile)
+{
+    watchAndLose();
+    EXPECT_EQ(m_desktop.alert().windowTitle, QStringLiteral("novel.txt"));
+    m_desktop.pressAlertButton(1);
+    EXPECT_EQ(pathOfFileURL(m_desktop.openPanel().folder), QFile::encodeName(QFileInfo(m_path).path()));
+}
+
 TEST_F(FailureTest, AnUnreadableFileIsAFailure)
 {
     watch(m_path);

@@ -166,3 +166,14 @@ TEST_F(DocumentChooserTest, AFolderThatIsNotADocumentCannotBeChosenWithOne)
     EXPECT_TRUE(waitUntil([this] { return !m_chosen.empty(); }));
     EXPECT_THAT(m_chosen, ElementsAre(std::nullopt));
 }
+
+TEST_F(DocumentChooserTest, StartsInTheFolderOrTheNearestThatExists)
+{
+    const auto start = [](const QString &path) {
+        return DocumentChooser({.folder = QUrl::fromLocalFile(path)}).directory().path();
+    };
+    EXPECT_EQ(start(m_folder + QStringLiteral("/plain")), m_folder + QStringLiteral("/plain"));
+    EXPECT_EQ(start(m_folder + QStringLiteral("/plain/novel.txt")), m_folder + QStringLiteral("/plain"));
+    EXPECT_EQ(start(m_folder + QStringLiteral("/gone/deep/")), m_folder);
+    EXPECT_EQ(DocumentChooser(OpenPanel()).directory(), QDir::home());
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "platform/views/widgets/ClipboardHandOver.h"
+
+#include "platform/logging/LogChannel.h"
+#include "platform/system/Processes.h"
+#include "platform/views/widgets/X11.h"
+
+#include <QClipboard>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QTimer>
+
+void ClipboardHandOver::finish(const QString &keeper)
+{
+    const QClipboard &clipboard = *QGuiApplication::clipboard();
+    if (!X11::isAvailable() || !clipboard.ownsClipboard())
+        return;
+    if (const std::optional<LaunchError> error = launchDetached(keeper, {})) {
+        LogChannel::standard().error(
+            u"What was copied is lost: {}; install Quillbay again", {publicly(messageText(*error))});
+        return;
+    }
+    QEventLoop loop;
+    QTimer::singleShot(timeout, &loop, [&loop] { loop.exit(1); });
+    QObject::connect(&clipboard, &QClipboard::dataChanged, &loop, [&] {
+        if (!clipboard.ownsClipboard())
+            loop.quit();
+    });
+    if (loop.exec() != 0)
+        LogChannel::standard().error(u"What was copied is lost: {} does not take it", {publicly(keeper)});
+}
