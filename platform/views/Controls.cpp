@@ -18,10 +18,14 @@ void Label::setAlignment(LabelAlignment alignment)
     Q_EMIT alignmentDidChange();
 }
 
+QSizeF Label::fittingSize() const
+{
+    return m_measurer ? m_measurer->labelSize(m_stringValue) : frame().size();
+}
+
 void Label::sizeToFit()
 {
-    if (m_measurer)
-        setFrameSize(m_measurer->labelSize(m_stringValue));
+    setFrameSize(fittingSize());
 }
 
 void Button::setTitle(const QString &title)
@@ -46,6 +50,11 @@ void Button::setEnabled(bool enabled)
         return;
     m_enabled = enabled;
     Q_EMIT enabledDidChange();
+}
+
+QSizeF Button::fittingSize() const
+{
+    return m_measurer ? m_measurer->buttonSize(m_title) : frame().size();
 }
 
 void Button::performClick()

@@ -14,13 +14,15 @@
 
 enum class LabelAlignment { Left, Center, Right };
 
-/// Measures lines of text in the font of labels.
+/// Measures texts of controls in the fonts that the user has chosen for them.
 class TextMeasurer {
 public:
     virtual ~TextMeasurer() = default;
 
     /// The size, in points, of a label that shows the whole text.
     [[nodiscard]] virtual QSizeF labelSize(const QString &text) const = 0;
+    /// The size, in points, that a button with that title needs.
+    [[nodiscard]] virtual QSizeF buttonSize(const QString &title) const = 0;
 
 protected:
     TextMeasurer() = default;
@@ -44,6 +46,8 @@ public:
     /// Null for a label on no screen.
     void setTextMeasurer(std::shared_ptr<const TextMeasurer> measurer) { m_measurer = std::move(measurer); }
 
+    /// The size that a text needs in this label; its present one without a measurer.
+    [[nodiscard]] QSizeF fittingSize() const;
     /// Takes the size that the text needs; the origin stays. Without a measurer the size stays, too.
     void sizeToFit();
 
@@ -75,6 +79,11 @@ public:
     [[nodiscard]] bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled);
 
+    /// Null for a button on no screen.
+    void setTextMeasurer(std::shared_ptr<const TextMeasurer> measurer) { m_measurer = std::move(measurer); }
+    /// The size that the title needs; the present one without a measurer.
+    [[nodiscard]] QSizeF fittingSize() const;
+
     /// Acts like a press by the user: a disabled button does nothing.
     void performClick();
 
@@ -87,6 +96,7 @@ private:
     QString m_title;
     QString m_iconName;
     bool m_enabled = true;
+    std::shared_ptr<const TextMeasurer> m_measurer;
 };
 
 /// A plain area of one colour, or a separator: a thin line along the longer side, in the colour that the

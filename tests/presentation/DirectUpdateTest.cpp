@@ -36,6 +36,7 @@ void runOneTurn()
 
 class FixedMeasurer : public TextMeasurer {
 public:
+    [[nodiscard]] QSizeF buttonSize(const QString & /*title*/) const override { return {80, 30}; }
     [[nodiscard]] QSizeF labelSize(const QString &text) const override
     {
         return {static_cast<double>(text.size()), 11};

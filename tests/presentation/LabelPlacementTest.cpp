@@ -174,6 +174,7 @@ TEST_F(LabelPlacement, LabelsTakeTheSizesOfTheirTextsAndArePlacedOnce)
 {
     class TenPerCharacter : public TextMeasurer {
     public:
+        [[nodiscard]] QSizeF buttonSize(const QString & /*title*/) const override { return {80, 30}; }
         [[nodiscard]] QSizeF labelSize(const QString &text) const override
         {
             return {10.0 * static_cast<double>(text.size()), 20};

@@ -7,6 +7,7 @@
 #include "platform/views/Popover.h"
 #include "presentation/PanelHost.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -36,6 +37,9 @@ void WatchTextFileViewController::loadView()
     m_horizontalLine = interface.outlet<Box>(QStringLiteral("horizontalLine"));
     m_closeButton = interface.outlet<Button>(QStringLiteral("closeButton"));
     m_activityIndicator = interface.outlet<ProgressIndicator>(QStringLiteral("activityIndicator"));
+    m_titleHeight = titleForFileBeingWatchedLabel()->frame().height();
+    m_closeButtonHeight = closeButton()->frame().height();
+    m_stopButtonSize = stopButton()->frame().size();
     PanelHost::fillPlace(interface, QStringLiteral("wordCounterView"), *m_wordCounterViewController);
     setView(interface.rootView());
 }
@@ -98,6 +102,21 @@ void WatchTextFileViewController::viewsFrameDidChange()
         const QPointF origin = subview->frame().topLeft();
         subview->setFrameOrigin({std::floor(origin.x()), std::floor(origin.y())});
     }
+}
+
+void WatchTextFileViewController::fitControls()
+{
+    const auto title = titleForFileBeingWatchedLabel();
+    if (!title || !closeButton() || !stopButton())
+        return;
+    const double titleHeight = std::max(m_titleHeight, title->fittingSize().height());
+    // The close button has the height of the title row; the title has the row between spinner and button.
+    const double side = closeButton()->frame().width();
+    closeButton()->setFrameSize({side, m_closeButtonHeight + titleHeight - m_titleHeight});
+    title->setFrameSize({std::max(0.0, view()->frame().width() - 2 * side), titleHeight});
+    stopButton()->setFrameSize(stopButton()->fittingSize().expandedTo(m_stopButtonSize));
+    viewsFrameDidChange();
+    wordCounterViewControllerDidRelayoutLabels();
 }
 
 void WatchTextFileViewController::wordCounterViewControllerDidRelayoutLabels()

@@ -69,6 +69,10 @@ public:
     /// Places the controls in the view's frame, then rounds the origins of all direct subviews down to whole
     /// points.
     void viewsFrameDidChange();
+    /// Gives the controls the sizes that their texts need in the user's fonts, at least those of the
+    /// interface file. To be called when the window's text metrics have changed and the statistics are
+    /// fitted.
+    void fitControls();
     /// Fits the container to the statistics; see PanelHost::fittingWidth().
     void wordCounterViewControllerDidRelayoutLabels() override;
 
@@ -90,6 +94,10 @@ private:
     std::weak_ptr<Box> m_horizontalLine;
     std::weak_ptr<Button> m_closeButton;
     std::weak_ptr<ProgressIndicator> m_activityIndicator;
+    // Of the interface file.
+    double m_titleHeight = 0;
+    double m_closeButtonHeight = 0;
+    QSizeF m_stopButtonSize;
     const bool m_shouldAutosyncActivityIndicator;
     bool m_showsCloseButton = true;
     bool m_spinActivityIndicator = false;

@@ -48,6 +48,8 @@ void WatchTextFileMenuBarController::setUpWithMenuItem()
     m_popover->setContentViewController(panel);
     m_popover->setDelegate(this);
     panel->wordCounterViewController()->serve(*m_popover->window());
+    connect(m_popover->window().get(), &Window::textMetricsDidChange, panel.get(),
+        &WatchTextFileViewController::fitControls);
     panel->wordCounterViewController()->fitLabels();
     schedulePopover();
 }
@@ -89,6 +91,8 @@ void WatchTextFileMenuBarController::makeWindow(
     window->setContentView(panel->view());
     PanelHost::setUpWindow(
         *window, *panel->wordCounterViewController(), *this, [this] { windowCloseRequested(); });
+    connect(
+        window.get(), &Window::textMetricsDidChange, panel.get(), &WatchTextFileViewController::fitControls);
     panel->wordCounterViewController()->fitLabels(); // later, the window's text metrics cause it
     m_detachableWindowForPopover = window;
     m_detachableWindowOnScreen = m_surroundings.desktop.putOnScreen(window);

@@ -2,6 +2,8 @@
 #include "platform/views/widgets/LabelText.h"
 
 #include <QApplication>
+#include <QStyle>
+#include <QStyleOptionButton>
 #include <QTextDocument>
 #include <QWidget>
 
@@ -20,6 +22,16 @@ QSizeF LabelTextMeasurer::labelSize(const QString &text) const
     // A character from a fallback font may be taller than this font.
     const QSizeF needed = m_metrics.size(Qt::TextSingleLine, text);
     return {std::ceil(needed.width()), std::ceil(std::max(needed.height(), m_metrics.height()))};
+}
+
+QSizeF LabelTextMeasurer::buttonSize(const QString &title) const
+{
+    QStyleOptionButton option;
+    option.text = title;
+    const QFontMetrics metrics(QApplication::font("QPushButton"));
+    option.fontMetrics = metrics;
+    return QApplication::style()->sizeFromContents(
+        QStyle::CT_PushButton, &option, metrics.size(Qt::TextShowMnemonic, title));
 }
 
 bool LabelTextMeasurer::measuresLike(const LabelTextMeasurer &other) const

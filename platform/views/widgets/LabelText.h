@@ -22,6 +22,8 @@ public:
     /// Rounded up to whole points: a label of this size shows the whole text wherever its frame begins, even
     /// between two pixels. The height is that of the font, or more if a character needs a taller font.
     [[nodiscard]] QSizeF labelSize(const QString &text) const override;
+    /// In the font and style of buttons, rounded up to whole points.
+    [[nodiscard]] QSizeF buttonSize(const QString &title) const override;
 
     /// Whether both measure every text the same.
     [[nodiscard]] bool measuresLike(const LabelTextMeasurer &other) const;

@@ -99,6 +99,8 @@ void ViewBinding::setTextMeasurer()
 {
     if (auto *const label = dynamic_cast<Label *>(m_view.get()))
         label->setTextMeasurer(m_bindings.measurer);
+    else if (auto *const button = dynamic_cast<Button *>(m_view.get()))
+        button->setTextMeasurer(m_bindings.measurer);
     for (const std::unique_ptr<ViewBinding> &subview : m_subviews)
         subview->setTextMeasurer();
 }

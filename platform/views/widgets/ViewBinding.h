@@ -32,7 +32,7 @@ public:
     /// a superview. parentOrigin: the top left corner of the parent in the window's widget.
     void layOut(const QPoint &parentOrigin);
 
-    /// Gives the window's measurer to all labels among this view and its subviews.
+    /// Gives the window's measurer to all labels and buttons among this view and its subviews.
     void setTextMeasurer();
 
 protected:

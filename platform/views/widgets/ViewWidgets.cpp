@@ -3,11 +3,11 @@
 
 #include "platform/views/Controls.h"
 #include "platform/views/widgets/LabelText.h"
+#include "platform/views/widgets/LabelWidget.h"
 #include "platform/views/widgets/SymbolIcon.h"
 
 #include <QBasicTimer>
 #include <QIcon>
-#include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
@@ -229,10 +229,7 @@ Qt::Alignment qtAlignment(LabelAlignment alignment)
 
 QWidget *makeLabel(Label &view, QWidget *parent)
 {
-    auto *const label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setTextInteractionFlags(Qt::NoTextInteraction);
-    label->setIndent(0);
+    auto *const label = new LabelWidget(parent);
     const auto update = [label, &view] {
         label->setText(QString(view.stringValue()).replace(u'\n', u' ')); // labels have one line
         label->setAlignment(qtAlignment(view.alignment()) | Qt::AlignAbsolute);

@@ -184,10 +184,24 @@ TEST_F(WindowFormTest, NewTextMetricsFitTheWindowAgain)
     const auto panel = watcher.watchTextFileViewControllerForPopover();
     class WideMeasurer : public TextMeasurer {
     public:
+        [[nodiscard]] QSizeF buttonSize(const QString & /*title*/) const override { return {120, 40}; }
         [[nodiscard]] QSizeF labelSize(const QString & /*text*/) const override { return {400, 30}; }
     };
     for (const auto &label : panel->wordCounterViewController()->allTextfieldsForLayout())
         label->setTextMeasurer(std::make_shared<WideMeasurer>());
+    panel->titleForFileBeingWatchedLabel()->setTextMeasurer(std::make_shared<WideMeasurer>());
+    panel->stopButton()->setTextMeasurer(std::make_shared<WideMeasurer>());
+    const QSizeF titleBefore = panel->titleForFileBeingWatchedLabel()->frame().size();
+    const double rowBefore = panel->closeButton()->frame().height();
     Q_EMIT watcher.detachableWindowForPopover()->textMetricsDidChange();
-    EXPECT_EQ(watcher.detachableWindowForPopover()->frame().width(), 410);
+    const QSizeF size = watcher.detachableWindowForPopover()->frame().size();
+    EXPECT_EQ(size.width(), 410);
+    EXPECT_EQ(panel->stopButton()->frame().size(), QSizeF(120, 40));
+    const QRectF title = panel->titleForFileBeingWatchedLabel()->frame();
+    EXPECT_EQ(title.height(), 30);
+    EXPECT_EQ(title.center().x(), 205);
+    EXPECT_GT(title.width(), titleBefore.width()) << "long names have the whole row";
+    const double row = panel->closeButton()->frame().height();
+    EXPECT_EQ(row - rowBefore, 30 - titleBefore.height());
+    EXPECT_EQ(size.height(), 40 + panel->wordCounterViewController()->view()->frame().height() + row);
 }
