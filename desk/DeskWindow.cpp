@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desk/DeskWindow.h"
 
+#include "desk/PaperPage.h"
 #include "desk/RulesPage.h"
 #include "desk/why/WhyPage.h"
 #include "platform/defaults/UserDefaults.h"
@@ -41,6 +42,7 @@ DeskWindow::DeskWindow(const QString &speechLaunchPath)
     connect(
         m_ui->pageList, &QListWidget::currentRowChanged, m_ui->pageStack, &QStackedWidget::setCurrentIndex);
     addPage(*new RulesPage(m_editor, *m_ui->restoreDefaultsAction, speechLaunchPath), tr("Rules"));
+    addPage(*new PaperPage(m_editor, m_papers), tr("Page"));
     auto *const whyPage = new WhyPage;
     addPage(*whyPage, tr("Why"));
     connect(&m_editor, &RulesEditor::changed, whyPage, &WhyPage::followRules);

@@ -42,6 +42,8 @@ public:
     [[nodiscard]] Window &window() { return m_window; }
     [[nodiscard]] PageSizeForMeasuringPreviewViewController &preview() { return m_preview; }
     [[nodiscard]] LayoutEngine &engine() { return *m_engine; }
+    /// For other code of the thread that lays text out, as a second engine would list the fonts again.
+    [[nodiscard]] const std::shared_ptr<LayoutEngine> &sharedEngine() const { return m_engine; }
 
 private:
     void setPage(const PageRules &page);

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "desk/LengthUnit.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <cmath>
+
+namespace {
+
+constexpr double pointsPerInch = 72;
+constexpr double millimetresPerInch = 25.4;
+
+} // namespace
+
+LengthUnit::LengthUnit(bool isMetric)
+    : m_isMetric(isMetric)
+    , m_perInch(isMetric ? millimetresPerInch : 1)
+{
+}
+
+LengthUnit LengthUnit::ofUser()
+{
+    return LengthUnit(QLocale().measurementSystem() == QLocale::MetricSystem);
+}
+
+QString LengthUnit::suffix() const
+{
+    return m_isMetric ? QCoreApplication::translate("LengthUnit", " mm")
+                      : QCoreApplication::translate("LengthUnit", " in");
+}
+
+QString LengthUnit::numberText(double points) const
+{
+    // Whole millimetres, as printing systems round papers to points; two digits of an inch.
+    const double factor = m_isMetric ? 1 : 100;
+    const double number = std::round(fromInches(points / pointsPerInch) * factor) / factor;
+    return QLocale().toString(number, 'g', QLocale::FloatingPointShortest);
+}
