@@ -14,6 +14,9 @@ int runExplainCommand(int wordCount, char **words);
 /// Prints the text of files or of standard input, as it is counted.
 int runExtractCommand(int wordCount, char **words);
 
+/// Prints and sets the preferences.
+int runPreferencesCommand(int wordCount, char **words);
+
 /// Opens a window with the counts of the selected text or of the clipboard.
 int runSelectionCommand(int wordCount, char **words);
 

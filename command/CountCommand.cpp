@@ -6,6 +6,7 @@
 #include "command/CountArguments.h"
 #include "command/CountReport.h"
 #include "command/FileNames.h"
+#include "command/FirstLaunchStep.h"
 #include "command/NamedDocument.h"
 #include "command/ParallelCount.h"
 #include "command/ProgressLine.h"
@@ -17,7 +18,6 @@
 #include "platform/system/Processors.h"
 #include "platform/system/Result.h"
 #include "platform/system/SystemError.h"
-#include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/ColumnCounter.h"
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/WordCounterModel.h"
@@ -114,7 +114,7 @@ private:
 
 int CountCommand::run()
 {
-    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    runFirstLaunchStep();
     // The service has its own, unless they are to be explained.
     if (!m_arguments.wantsService || m_arguments.wantsRules)
         m_rules = currentCountingRules();

@@ -3,12 +3,12 @@
 #include "command/CommandWords.h"
 #include "command/Commands.h"
 #include "command/FileNames.h"
+#include "command/FirstLaunchStep.h"
 #include "command/NamedDocument.h"
 #include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "platform/files/FileContents.h"
 #include "platform/system/SystemError.h"
-#include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/TextCounter.h"
 
 #include <unistd.h>
@@ -112,7 +112,7 @@ private:
 int ExtractCommand::run(const QByteArrayList &names)
 {
     if (m_wantsJson)
-        QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+        runFirstLaunchStep();
     for (const QByteArray &name : names) {
         // Every step allocates buffers as large as the document.
         try {

@@ -2,10 +2,10 @@
 #include "command/ServiceCommand.h"
 
 #include "command/FileNames.h"
+#include "command/FirstLaunchStep.h"
 #include "platform/services/ServiceInterface.h"
 #include "platform/services/ServiceMessageSender.h"
 #include "platform/session_bus/UserNotification.h"
-#include "preferences/QBYUserDefaultsController.h"
 
 #include <cstdio>
 
@@ -37,7 +37,7 @@ QString sentenceOf(const QString &cause)
 int performService(const QString &service, const Pasteboard &pasteboard, FailureReport report)
 {
     const QString token = takeActivationToken();
-    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    runFirstLaunchStep();
     exportSessionEnvironment();
     QVariantMap options;
     if (!token.isEmpty())

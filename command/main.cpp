@@ -18,12 +18,13 @@ constexpr char helpText[] = R"(Usage: quillbay COMMAND …
 Counts text for people who write.
 
 Commands:
-  count      print the counts of files or of standard input
-  explain    print what counts in files, what does not, and why
-  extract    print the text of files, as it is counted
-  selection  show the counts of the text selected in any application
-  text       show the counts of one file or of standard input
-  watch      show the counts of files, and update them at every save
+  count        print the counts of files or of standard input
+  explain      print what counts in files, what does not, and why
+  extract      print the text of files, as it is counted
+  preferences  print and set the rules of the counts
+  selection    show the counts of the text selected in any application
+  text         show the counts of one file or of standard input
+  watch        show the counts of files, and update them at every save
 
 Options:
   -h, --help  print this help and exit
@@ -41,6 +42,7 @@ constexpr Command commands[] = {
     {"count", runCountCommand},
     {"explain", runExplainCommand},
     {"extract", runExtractCommand},
+    {"preferences", runPreferencesCommand},
     {"selection", runSelectionCommand},
     {"text", runTextCommand},
     {"watch", runWatchCommand},

@@ -139,6 +139,10 @@ RulesEditor::Values RulesEditor::currentValues()
 
 void RulesEditor::apply(const Values &values)
 {
+    // The folder may have become writable since the launch. Otherwise the next launch would replace the
+    // values.
+    if (QBYUserDefaultsController::unstoredDefaults())
+        QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
     bool isStored = true;
     for (const Change &change : values)
         isStored = setValue(editablePreference(change.preference), change.value) && isStored;

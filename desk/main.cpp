@@ -61,7 +61,12 @@ int showWindow(UniqueApplication &unique, const UniqueApplication::Request &requ
 {
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
     DeskWindow window(QBYExtension::speechLaunchPath());
-    if (!hasBus) {
+    if (const auto unstored = QBYUserDefaultsController::unstoredDefaults()) {
+        window.setNotice(
+            DeskWindow::tr("%1: cannot be written (%2), so the default rules apply and changes are "
+                           "not stored. Make the folder writable to set your own.")
+                .arg(unstored->file, unstored->reason));
+    } else if (!hasBus) {
         window.setNotice(DeskWindow::tr("There is no session bus: open windows of other programs of "
                                         "Quillbay follow a change only at their next count."));
     }

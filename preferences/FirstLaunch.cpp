@@ -39,8 +39,12 @@ void writeFirstLaunchDefaults(UserDefaults &defaults, const DefaultPaperLookup &
         LogChannel::standard().error(u"Error getting default paper name/margins!");
         LogChannel::standard().error(u"{}", {paper.error().code});
     }
+    // Without the key of the step itself, which is still to be done.
+    std::vector<DefaultsEntry> inMemory = entries;
     entries.push_back({hasAppBeenOpened, true});
     // Checked again inside the transaction: another process may have written the defaults meanwhile, and the
     // user may have changed a preference since.
-    defaults.setObjectsUnless(hasAppBeenOpened, entries);
+    if (defaults.setObjectsUnless(hasAppBeenOpened, entries))
+        inMemory.clear();
+    defaults.setFallbackValues(std::move(inMemory));
 }

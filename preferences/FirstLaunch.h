@@ -21,5 +21,6 @@ using DefaultPaperLookup = std::function<Result<Paper, PrintingStatus>()>;
 Result<Paper, PrintingStatus> systemDefaultPaper();
 
 /// Writes the defaults in one transaction. Does nothing if any process has written them before. Without a
-/// paper, does not write the keys of the paper, and logs an error.
+/// paper, does not write the keys of the paper, and logs an error. If the suite cannot be written, they
+/// become its fallback values, so that this process counts like any other of a new user.
 void writeFirstLaunchDefaults(UserDefaults &defaults, const DefaultPaperLookup &lookUpDefaultPaper);

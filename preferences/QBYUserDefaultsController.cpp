@@ -5,6 +5,8 @@
 #include "preferences/FirstLaunch.h"
 #include "preferences/PreferenceTable.h"
 
+#include <QFile>
+
 #include <algorithm>
 
 namespace {
@@ -45,6 +47,14 @@ UserDefaults &QBYUserDefaultsController::sharedUserDefaults()
 void QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch()
 {
     writeFirstLaunchDefaults(sharedUserDefaults(), systemDefaultPaper);
+}
+
+std::optional<QBYUserDefaultsController::UnstoredDefaults> QBYUserDefaultsController::unstoredDefaults()
+{
+    const UserDefaults &defaults = sharedUserDefaults();
+    if (!defaults.hasFallbackValues())
+        return std::nullopt;
+    return UnstoredDefaults{QFile::decodeName(defaults.path()), defaults.writeFault().value_or(QString())};
 }
 
 void QBYUserDefaultsController::postPreferencesChangedNotification()

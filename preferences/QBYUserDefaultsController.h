@@ -28,6 +28,14 @@ public:
     /// as it asks the print settings for the default paper.
     static void configureUserDefaultsOnApplicationLaunch();
 
+    struct UnstoredDefaults {
+        QString file; ///< that could not be written
+        QString reason;
+    };
+    /// Present if the first-launch step could not write the default preferences: this process then has them
+    /// in memory.
+    static std::optional<UnstoredDefaults> unstoredDefaults();
+
     static void postPreferencesChangedNotification();
 
     // Which statistics are shown. Setting the character count also sets the one including white space, which

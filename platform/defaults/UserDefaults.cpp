@@ -41,7 +41,35 @@ Result<std::optional<DefaultsValue>, SuiteFault> UserDefaults::readObjectForKey(
     m_database.setTimeout(timeout(m_reading));
     auto value = m_database.read(key);
     recordOutcome(m_reading, value ? std::nullopt : std::optional(value.error()));
-    return value;
+    if (value && value.value())
+        return value;
+    auto fallback = fallbackValueOf(key);
+    return fallback ? Result<std::optional<DefaultsValue>, SuiteFault>(std::move(fallback)) : value;
+}
+
+std::optional<DefaultsValue> UserDefaults::fallbackValueOf(const QString &key) const
+{
+    const auto found = std::find_if(m_fallbackValues.begin(), m_fallbackValues.end(),
+        [&key](const DefaultsEntry &entry) { return entry.key == key; });
+    return found == m_fallbackValues.end() ? std::nullopt : std::optional(found->value);
+}
+
+void UserDefaults::setFallbackValues(std::vector<DefaultsEntry> values)
+{
+    const std::lock_guard guard(m_mutex);
+    m_fallbackValues = std::move(values);
+}
+
+bool UserDefaults::hasFallbackValues() const
+{
+    const std::lock_guard guard(m_mutex);
+    return !m_fallbackValues.empty();
+}
+
+std::optional<QString> UserDefaults::writeFault() const
+{
+    const std::lock_guard guard(m_mutex);
+    return m_writing.reason.isEmpty() ? std::nullopt : std::optional(m_writing.reason);
 }
 
 std::optional<DefaultsValue> UserDefaults::objectForKey(const QString &key) const

@@ -35,8 +35,9 @@ public:
     /// Of the database, which may not exist. Bytes in any encoding.
     [[nodiscard]] const QByteArray &path() const { return m_database.path(); }
 
-    /// The value as it was written; absent if the key was never written or is too long. A fault if the suite
-    /// cannot be read: the key may have a value.
+    /// The value as it was written, or a fallback value; absent if there is neither, and for a key that is
+    /// too long. A fault if the suite cannot be read and there is no fallback value: the key may have a
+    /// value.
     [[nodiscard]] Result<std::optional<DefaultsValue>, SuiteFault> readObjectForKey(const QString &key) const;
     /// The same, absent also after a fault.
     [[nodiscard]] std::optional<DefaultsValue> objectForKey(const QString &key) const;
@@ -44,6 +45,13 @@ public:
     [[nodiscard]] bool boolForKey(const QString &key) const;
     /// 0 for an absent value; others as integerValue() says.
     [[nodiscard]] qint64 integerForKey(const QString &key) const;
+
+    /// What the getters of this object return for keys that have no value on disk or cannot be read.
+    void setFallbackValues(std::vector<DefaultsEntry> values);
+    [[nodiscard]] bool hasFallbackValues() const;
+
+    /// Why the last write failed, for people; absent if it did not.
+    [[nodiscard]] std::optional<QString> writeFault() const;
 
     // Setters return whether the value is on disk. Infinite numbers, NaN, and keys and texts beyond the
     // limits are refused with a line in the log. Lone surrogates in a text are stored as U+FFFD.
@@ -68,6 +76,7 @@ private:
     std::optional<SuiteFault> writeUnderLock(
         const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
     std::optional<SuiteFault> putBrokenFileAside(const SuiteFault &fault);
+    [[nodiscard]] std::optional<DefaultsValue> fallbackValueOf(const QString &key) const;
     [[nodiscard]] bool canBeStored(const DefaultsEntry &entry) const;
     void recordOutcome(Episode &episode, const std::optional<SuiteFault> &fault) const;
     [[nodiscard]] std::chrono::milliseconds timeout(const Episode &episode) const;
@@ -80,4 +89,5 @@ private:
     mutable SuiteDatabase m_database;
     mutable Episode m_reading{u"Preference suite {} cannot be read: {}"};
     Episode m_writing{u"Preference suite {} cannot be written: {}"};
+    std::vector<DefaultsEntry> m_fallbackValues;
 };

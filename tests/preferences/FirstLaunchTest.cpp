@@ -5,6 +5,7 @@
 #include "preferences/PreferenceTable.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "tests/harness/QuillbayTest.h"
+#include "tests/preferences/UnreachableSuite.h"
 
 #include <QDir>
 
@@ -82,6 +83,27 @@ TEST_F(FirstLaunchTest, APaperThatCannotBeReadIsLoggedWithItsStatusAndLeavesTheP
     EXPECT_EQ(Controller::leftMarginForPaperSizeLineMeasuring(), 0);
     EXPECT_TRUE(Controller::isShowLineCountPreferenceOn());
     EXPECT_EQ(stored(Preference::HasAppBeenOpened), DefaultsValue(true));
+}
+
+TEST_F(FirstLaunchTest, WithoutAPlaceToStoreThemTheDefaultsAreInMemoryUntilThereIsOne)
+{
+    ASSERT_TRUE(QDir().mkpath(world().configuration() + QStringLiteral("/quillbay")));
+    UnreachableSuite obstacle;
+    Controller::configureUserDefaultsOnApplicationLaunch();
+    EXPECT_TRUE(Controller::shouldEnforceTrailingPeriodForSentencesCount());
+    EXPECT_EQ(Controller::paperNameForLineMeasuring(), builtInDefaultPaper().ppdName);
+    EXPECT_EQ(Controller::rightMarginForPaperSizeLineMeasuring(), 0.25);
+    ASSERT_TRUE(Controller::unstoredDefaults().has_value());
+    EXPECT_TRUE(
+        Controller::unstoredDefaults()->file.endsWith(QStringLiteral("K7Q2M9X4T1.com.quillbay.sqlite3")));
+    EXPECT_EQ(Controller::unstoredDefaults()->reason, QStringLiteral("Not a directory"));
+    // Another process has none of them.
+    EXPECT_EQ(stored(Preference::ShowLineCount), std::nullopt);
+
+    obstacle.end();
+    Controller::configureUserDefaultsOnApplicationLaunch();
+    EXPECT_FALSE(Controller::unstoredDefaults().has_value());
+    EXPECT_EQ(stored(Preference::ShowLineCount), DefaultsValue(true));
 }
 
 TEST_F(FirstLaunchTest, TheSecondTimeItChangesNothingAndLooksUpNoPaper)

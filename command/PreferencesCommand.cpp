@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+// "quillbay preferences": prints, sets and resets the preferences, by the names of their table.
+#include "command/CommandWords.h"
+#include "command/Commands.h"
+#include "command/FileNames.h"
+#include "command/FirstLaunchStep.h"
+#include "command/PreferenceText.h"
+#include "preferences/QBYUserDefaultsController.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+constexpr char preferencesHelp[] = R"(Usage: quillbay preferences [--json] [NAME]
+       quillbay preferences NAME VALUE
+       quillbay preferences --reset NAME…
+       quillbay preferences --reset-all
+
+Prints the rules of the counts, or the one called NAME; sets NAME to VALUE; or gives
+rules the values of a new user. Open windows follow at once.
+
+  show-characters                  on or off: show the characters; also sets the
+                                   next one
+  show-characters-with-whitespace  on or off
+  show-sentences                   on or off
+  show-lines                       on or off
+  show-hard-line-breaks            on or off
+  show-paragraphs                  on or off
+  show-indented-paragraphs         on or off
+  minimum-sentences                0 to 1000: paragraphs with fewer sentences are
+                                   not counted
+  terminal-punctuation             on or off: count only sentences that end in a
+                                   full stop, question mark or exclamation mark
+  speak-word-count                 on or off: speak the words of a watched file
+                                   when their number changes
+  paper                            a paper of your printer, such as A4 or Letter
+  left-margin, right-margin        such as 1in, 25.4mm, 2.5cm or 72pt, at most so
+                                   wide that a column of half an inch is left
+
+  --json       print a JSON object; margins are in inches
+  --reset      reset the rules that are named
+  --reset-all  reset all rules
+  -h, --help   print this help and exit
+
+Exit status: 0, 1 if a rule could not be stored, 2 after wrong usage.
+)";
+
+using Rows = std::vector<const EditablePreference *>;
+
+Rows allRows()
+{
+    Rows rows;
+    for (const EditablePreference &row : editablePreferences())
+        rows.push_back(&row);
+    return rows;
+}
+
+int reportUnknown(const QByteArray &name)
+{
+    std::fprintf(stderr, "quillbay: no preference is called '%s'; 'quillbay preferences' lists them\n",
+        printableName(name).constData());
+    return wrongUsageStatus;
+}
+
+void report(const EditablePreference &row, const QString &problem)
+{
+    std::fprintf(stderr, "quillbay: %s: %s\n", QByteArray(row.name.data(), row.name.size()).constData(),
+        printableName(problem.toUtf8()).constData());
+}
+
+/// The exit status.
+int store(const EditablePreference &row, const DefaultsValue &value)
+{
+    if (setValue(row, value))
+        return 0;
+    const UserDefaults &suite = QBYUserDefaultsController::sharedUserDefaults();
+    std::fprintf(stderr,
+        "quillbay: %s: cannot be written: %s; check the permissions and the free space of its folder\n",
+        printableName(suite.path()).constData(),
+        printableName(suite.writeFault().value_or(QStringLiteral("unknown reason")).toUtf8()).constData());
+    return 1;
+}
+
+int set(const EditablePreference &row, const QByteArray &text)
+{
+    const Result<DefaultsValue, QString> value = parseValue(row, QString::fromLocal8Bit(text));
+    if (value)
+        return store(row, value.value());
+    report(row, value.error());
+    return wrongUsageStatus;
+}
+
+int reset(const Rows &rows)
+{
+    const PrinterAnswer printer = PrintSettings::shared().printer();
+    int status = 0;
+    for (const EditablePreference *const row : rows) {
+        const std::optional<DefaultsValue> value = defaultValueOf(*row, printer);
+        if (!value)
+            report(*row,
+                QStringLiteral("its default is unknown while the printer does not answer; retry later"));
+        status = std::max(status, value ? store(*row, *value) : 1);
+    }
+    return status;
+}
+
+QByteArray nameOf(const EditablePreference &row)
+{
+    return {row.name.data(), row.name.size()};
+}
+
+QByteArray table(const Rows &rows)
+{
+    qsizetype width = 0;
+    for (const EditablePreference *const row : rows)
+        width = std::max(width, row->name.size());
+    QByteArray text;
+    for (const EditablePreference *const row : rows)
+        text += nameOf(*row).leftJustified(width) + "  " + printableValue(*row) + '\n';
+    return text;
+}
+
+QByteArray json(const Rows &rows)
+{
+    QByteArrayList members;
+    for (const EditablePreference *const row : rows)
+        members.append('"' + nameOf(*row) + "\":" + jsonValue(*row));
+    return '{' + members.join(',') + "}\n";
+}
+
+/// Wrong combinations, with their message; null if all is right.
+const char *misuseOf(const CommandWords &words)
+{
+    const bool resets = words.switches.contains("reset");
+    const bool resetsAll = words.switches.contains("reset-all");
+    if (resets && resetsAll)
+        return "--reset and --reset-all cannot be combined";
+    if ((resets || resetsAll) && words.switches.contains("json"))
+        return "--json only prints";
+    if (resets && words.operands.isEmpty())
+        return "--reset needs a name";
+    if (resetsAll && !words.operands.isEmpty())
+        return "--reset-all takes no names";
+    if (!resets && words.operands.size() > 2)
+        return "one name and one value at a time";
+    if (words.operands.size() == 2 && words.switches.contains("json"))
+        return "--json only prints";
+    return nullptr;
+}
+
+int run(const CommandWords &words)
+{
+    if (words.switches.contains("reset-all"))
+        return reset(allRows());
+    const bool setsValue = !words.switches.contains("reset") && words.operands.size() == 2;
+    Rows rows;
+    for (const QByteArray &name : setsValue ? words.operands.first(1) : words.operands) {
+        const EditablePreference *const row = editablePreferenceNamed(QString::fromLocal8Bit(name));
+        if (!row)
+            return reportUnknown(name);
+        rows.push_back(row);
+    }
+    if (words.switches.contains("reset"))
+        return reset(rows);
+    if (setsValue)
+        return set(*rows.front(), words.operands.last());
+    if (words.switches.contains("json"))
+        return printText(json(rows.empty() ? allRows() : rows));
+    return printText(rows.empty() ? table(allRows()) : printableValue(*rows.front()) + '\n');
+}
+
+} // namespace
+
+int runPreferencesCommand(int wordCount, char **words)
+{
+    const std::optional<CommandWords> wanted =
+        CommandWords::parse("preferences", {"json", "reset", "reset-all"}, wordCount, words);
+    if (!wanted)
+        return wrongUsageStatus;
+    if (wanted->wantsHelp())
+        return printText(preferencesHelp);
+    if (const char *const misuse = misuseOf(*wanted))
+        return reportWrongUsage("preferences", misuse);
+    const bool prints = wanted->operands.size() < 2 && !wanted->switches.contains("reset")
+        && !wanted->switches.contains("reset-all");
+    if (prints)
+        runFirstLaunchStep();
+    else // setting a value will report that it cannot be stored
+        QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    return run(*wanted);
+}
