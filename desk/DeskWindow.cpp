@@ -106,7 +106,8 @@ void DeskWindow::restoreState()
     const auto geometry = rememberedState().objectForKey(geometryKey());
     const QString *const text = geometry ? std::get_if<QString>(&*geometry) : nullptr;
     if (!text || !restoreGeometry(QByteArray::fromBase64(text->toLatin1())))
-        resize(sizeHint().boundedTo(screen()->availableSize() * 0.9));
+        // Once it is shown, the style makes it a little higher.
+        resize((sizeHint() + QSize(0, fontMetrics().height())).boundedTo(screen()->availableSize() * 0.9));
     const auto page = static_cast<int>(rememberedState().integerForKey(pageKey()));
     if (page > 0 && page < m_ui->pageList->count())
         m_ui->pageList->setCurrentRow(page);

@@ -4,6 +4,7 @@
 #include "platform/styled_text/AttributedString.h"
 #include "text_statistics/MeasuringSurface.h"
 
+#include <QAccessibleWidget>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -39,6 +40,13 @@ void drawStretched(QPainter &painter, const QRectF &rect, const QString &text)
     painter.restore();
 }
 
+/// Screen readers announce the preview as a picture.
+QAccessibleInterface *makeAccessible(const QString & /*className*/, QObject *object)
+{
+    auto *const preview = qobject_cast<PagePreview *>(object);
+    return preview ? new QAccessibleWidget(preview, QAccessible::Graphic) : nullptr;
+}
+
 QString withoutTrailingBlanks(const QString &text)
 {
     qsizetype end = text.size();
@@ -54,6 +62,11 @@ PagePreview::PagePreview(QWidget *parent)
     , m_controller(MeasuringSurface::shared().sharedEngine())
 {
     m_controller.loadView();
+    static const bool isInstalled = [] {
+        QAccessible::installFactory(makeAccessible);
+        return true;
+    }();
+    Q_UNUSED(isInstalled)
 }
 
 void PagePreview::setPage(const PageRules &page)

@@ -34,7 +34,8 @@ PaperPage::~PaperPage() = default;
 
 QSize PaperPage::sizeHint() const
 {
-    return widget()->sizeHint();
+    const QSize hint = widget()->sizeHint();
+    return {hint.width(), std::max(hint.height(), widget()->heightForWidth(hint.width()))};
 }
 
 void PaperPage::showEvent(QShowEvent *event)

@@ -42,7 +42,8 @@ RulesPage::~RulesPage() = default;
 
 QSize RulesPage::sizeHint() const
 {
-    return widget()->sizeHint();
+    const QSize hint = widget()->sizeHint();
+    return {hint.width(), std::max(hint.height(), widget()->heightForWidth(hint.width()))};
 }
 
 void RulesPage::bindCheckBox(QCheckBox &checkBox)
