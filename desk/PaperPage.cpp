@@ -2,6 +2,7 @@
 #include "desk/PaperPage.h"
 
 #include "desk/ControlText.h"
+#include "desk/PageSize.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "ui_PaperPage.h"
 
@@ -34,8 +35,7 @@ PaperPage::~PaperPage() = default;
 
 QSize PaperPage::sizeHint() const
 {
-    const QSize hint = widget()->sizeHint();
-    return {hint.width(), std::max(hint.height(), widget()->heightForWidth(hint.width()))};
+    return sizeOfContent(*this);
 }
 
 void PaperPage::showEvent(QShowEvent *event)

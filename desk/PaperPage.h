@@ -26,7 +26,7 @@ public:
     PaperPage(RulesEditor &editor, PrinterPapers &papers);
     ~PaperPage() override;
 
-    /// All of the page, without scroll bars.
+    /// Shows all of the page.
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:

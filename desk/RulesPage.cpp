@@ -2,6 +2,7 @@
 #include "desk/RulesPage.h"
 
 #include "desk/ControlText.h"
+#include "desk/PageSize.h"
 #include "ui_RulesPage.h"
 
 #include <QAction>
@@ -42,8 +43,7 @@ RulesPage::~RulesPage() = default;
 
 QSize RulesPage::sizeHint() const
 {
-    const QSize hint = widget()->sizeHint();
-    return {hint.width(), std::max(hint.height(), widget()->heightForWidth(hint.width()))};
+    return sizeOfContent(*this);
 }
 
 void RulesPage::bindCheckBox(QCheckBox &checkBox)

@@ -26,7 +26,7 @@ public:
     RulesPage(RulesEditor &editor, QAction &restoreDefaults, const QString &launchPath);
     ~RulesPage() override;
 
-    /// All of the page, without scroll bars.
+    /// Shows all of the page.
     [[nodiscard]] QSize sizeHint() const override;
 
 private:

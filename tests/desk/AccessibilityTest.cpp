@@ -55,6 +55,14 @@ protected:
         return found;
     }
 
+    /// For people who want to look at it.
+    void takePicture(const QString &name)
+    {
+        m_window->repaint();
+        QGuiApplication::sync();
+        saveScreenshot(name);
+    }
+
     [[nodiscard]] static std::string nameOf(const QWidget &widget)
     {
         return widget.objectName().toStdString();
@@ -150,7 +158,7 @@ TEST_P(EveryPage, NothingIsCutWithLargeLetters)
         EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << nameOf(*widget);
     }
     EXPECT_LE(m_window->height(), m_window->screen()->availableSize().height());
-    saveScreenshot(QStringLiteral("desk-large-%1").arg(GetParam()));
+    takePicture(QStringLiteral("desk-large-%1").arg(GetParam()));
 }
 
 TEST_P(EveryPage, IsMirroredFromRightToLeft)
@@ -159,7 +167,7 @@ TEST_P(EveryPage, IsMirroredFromRightToLeft)
     openPage(GetParam());
     const auto xOf = [](const QWidget &widget) { return widget.mapToGlobal(QPoint(0, 0)).x(); };
     EXPECT_GT(xOf(control<QListWidget>("pageList")), xOf(control<QStackedWidget>("pageStack")));
-    saveScreenshot(QStringLiteral("desk-right-to-left-%1").arg(GetParam()));
+    takePicture(QStringLiteral("desk-right-to-left-%1").arg(GetParam()));
 }
 
 TEST_F(AccessibilityTest, ThePageIsWhiteInTheDark)
@@ -171,7 +179,7 @@ TEST_F(AccessibilityTest, ThePageIsWhiteInTheDark)
     auto &preview = control<PagePreview>("preview");
     const QImage page = preview.grab().toImage();
     EXPECT_EQ(page.pixelColor(page.width() / 2, page.height() * 3 / 4), QColor(Qt::white));
-    saveScreenshot(QStringLiteral("desk-dark"));
+    takePicture(QStringLiteral("desk-dark"));
 }
 
 TEST_F(AccessibilityTest, ScreenReadersKnowThePreviewAsAPictureOfThatSize)
