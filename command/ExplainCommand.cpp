@@ -4,12 +4,12 @@
 #include "command/Commands.h"
 #include "command/CountReport.h"
 #include "command/FileNames.h"
+#include "command/FirstLaunchStep.h"
 #include "command/ItemTally.h"
 #include "command/MarkedText.h"
 #include "command/NamedDocument.h"
 #include "command/ProgressLine.h"
 #include "platform/system/SystemError.h"
-#include "preferences/QBYUserDefaultsController.h"
 #include "text_statistics/ColumnCounter.h"
 #include "text_statistics/MeasuringSurface.h"
 
@@ -122,7 +122,7 @@ private:
 
 int ExplainCommand::run(const QByteArrayList &names)
 {
-    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    runFirstLaunchStep();
     CountingRules rules = currentCountingRules();
     rules.text.localeIdentifier = [identifier = rules.text.localeIdentifier()] { return identifier; };
     m_counter.emplace(rules.text, MeasuringSurface::shared().columnWidthOn(rules.page));

@@ -119,6 +119,22 @@ TEST_F(RulesPageTest, AChangeElsewhereShowsAtOnceAnnouncedOrNot)
     EXPECT_TRUE(waitUntil([&] { return !control<QCheckBox>("sentencesCheckBox").isChecked(); }));
 }
 
+TEST_F(RulesPageTest, WindowAndTerminalAgreeAtOnce)
+{
+    const auto quillbay = [](const QByteArrayList &words) {
+        return ChildProcess(productProgram(QStringLiteral("quillbay")))
+            .run(QByteArrayList{"preferences"} + words);
+    };
+    open();
+    EXPECT_EQ(quillbay({"show-lines", "off"}).exitStatus, 0);
+    EXPECT_TRUE(waitUntil([&] { return !control<QCheckBox>("linesCheckBox").isChecked(); }));
+    EXPECT_EQ(quillbay({"terminal-punctuation", "off"}).exitStatus, 0);
+    EXPECT_TRUE(waitUntil([&] { return !control<QCheckBox>("punctuationCheckBox").isChecked(); }));
+    press("alt+t");
+    EXPECT_TRUE(waitUntil([&] { return control<QCheckBox>("punctuationCheckBox").isChecked(); }));
+    EXPECT_EQ(quillbay({"terminal-punctuation"}).output, QByteArray("on\n"));
+}
+
 TEST_F(RulesPageTest, RestoreDefaultsIsOneStepForUndo)
 {
     Controller::setShowLineCountPreference(false);
