@@ -170,6 +170,7 @@ void WhyPage::showReading(const QString &name)
 void WhyPage::showState(const QString &text)
 {
     m_ui->stateLabel->setText(text);
+    m_ui->stateLabel->setVisible(!text.isEmpty());
     if (text.isEmpty())
         return;
     QAccessibleEvent alert(m_ui->stateLabel, QAccessible::Alert);
@@ -220,7 +221,7 @@ void WhyPage::findMarks()
     m_current.reset();
     m_ui->reasonLabel->clear();
     m_marking.reset();
-    m_ui->textView->showItems({}, {});
+    m_ui->textView->showItems(std::make_shared<const FoundItems>(), {});
     if (!m_text)
         return;
     CountingRules rules = currentCountingRules();
@@ -228,16 +229,19 @@ void WhyPage::findMarks()
     const ExplainedText explained{*m_text, rules.text, MeasuringSurface::shared().columnWidthOn(rules.page)};
     m_marking.emplace(QStringLiteral("com.quillbay.desk.marking"),
         [explained, length = m_ui->textView->shownText().length(), wanted = statistic()](
-            const std::stop_token &stop) { return findItems(explained, length, wanted, stop); });
-    m_marking->passResultTo([this, explained](const FoundItems &items) { showMarks(items, explained); });
+            const std::stop_token &stop) {
+            return std::make_shared<const FoundItems>(findItems(explained, length, wanted, stop));
+        });
+    m_marking->passResultTo(
+        [this, explained](const std::shared_ptr<const FoundItems> &items) { showMarks(items, explained); });
 }
 
-void WhyPage::showMarks(const FoundItems &items, const ExplainedText &explained)
+void WhyPage::showMarks(const std::shared_ptr<const FoundItems> &items, const ExplainedText &explained)
 {
     m_marking.reset();
     const WhyTextView &view = *m_ui->textView;
     m_ui->textView->showItems(items, explained.rules);
-    const bool isWhole = view.shownText().length() == m_text->length() && items.isComplete();
+    const bool isWhole = view.shownText().length() == m_text->length() && items->isComplete();
     if (!isWhole)
         showState(tr("The text is too long to be shown and marked to its end. The counts are of all of it."));
     if (std::exchange(m_isWalkWanted, false))

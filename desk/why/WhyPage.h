@@ -47,7 +47,7 @@ private:
     void count();
     void showCounts(bool areKnown);
     void findMarks();
-    void showMarks(const FoundItems &items, const ExplainedText &explained);
+    void showMarks(const std::shared_ptr<const FoundItems> &items, const ExplainedText &explained);
     /// To the next item in a direction that the user wants to see: 1 or -1.
     void walk(int step);
     void goTo(std::size_t index);
@@ -57,7 +57,7 @@ private:
     TextSource m_source;
     std::shared_ptr<WordCounterViewController> m_counter; // its views are never loaded
     std::optional<AttributedString> m_text;
-    std::optional<BackgroundWork<FoundItems>> m_marking; // while items are being found
+    std::optional<BackgroundWork<std::shared_ptr<const FoundItems>>> m_marking; // while items are being found
     std::optional<std::size_t> m_current; // the item that was walked to
     bool m_isWalkWanted = false; // as soon as they have been found
     QTimer m_silence; // of the counting service

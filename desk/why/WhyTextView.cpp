@@ -47,13 +47,13 @@ WhyTextView::WhyTextView(QWidget *parent)
 
 void WhyTextView::showText(ShownText text)
 {
-    m_items = {};
+    m_items = std::make_shared<const FoundItems>();
     m_text = std::move(text);
     setExtraSelections({});
     setPlainText(m_text.string());
 }
 
-void WhyTextView::showItems(FoundItems items, const TextRules &rules)
+void WhyTextView::showItems(std::shared_ptr<const FoundItems> items, const TextRules &rules)
 {
     m_items = std::move(items);
     m_rules = rules;
@@ -62,7 +62,7 @@ void WhyTextView::showItems(FoundItems items, const TextRules &rules)
 
 void WhyTextView::select(std::size_t index)
 {
-    const QTextCursor item = cursorOf(m_items.at(index));
+    const QTextCursor item = cursorOf(m_items->at(index));
     QTextCursor cursor = item;
     // The start of a long item is to be visible.
     cursor.setPosition(item.selectionEnd());
@@ -79,7 +79,7 @@ qsizetype WhyTextView::position() const
 QString WhyTextView::sentenceOn(std::size_t index) const
 {
     constexpr qsizetype maxLength = 60; // of the item's text
-    const CountedItem item = m_items.at(index);
+    const CountedItem item = m_items->at(index);
     QString text = cursorOf(item).selectedText().simplified();
     if (text.size() > maxLength)
         text = text.first(text[maxLength - 1].isHighSurrogate() ? maxLength - 1 : maxLength) + u'…';
@@ -94,9 +94,9 @@ void WhyTextView::markVisibleItems()
     const QTextBlock last = cursorForPosition(viewport()->rect().bottomRight()).block();
     const qsizetype end = m_text.fromShown(last.position() + last.length());
     QList<QTextEdit::ExtraSelection> marks;
-    const std::size_t first = m_items.firstFrom(m_text.fromShown(firstVisibleBlock().position()));
-    for (std::size_t i = first; i < m_items.size() && i - first < maxVisibleMarks; ++i) {
-        const CountedItem item = m_items.at(i);
+    const std::size_t first = m_items->firstFrom(m_text.fromShown(firstVisibleBlock().position()));
+    for (std::size_t i = first; i < m_items->size() && i - first < maxVisibleMarks; ++i) {
+        const CountedItem item = m_items->at(i);
         if (item.start > end)
             break;
         marks.append({cursorOf(item), formatOf(item.isCounted(), i % 2 == 1, isDark)});
@@ -120,7 +120,7 @@ std::optional<std::size_t> WhyTextView::itemUnder(QPoint place) const
     int position = cursor.position();
     if (cursorRect(cursor).center().x() > place.x() && !cursor.atBlockStart())
         --position;
-    return m_items.itemAt(m_text.fromShown(position));
+    return m_items->itemAt(m_text.fromShown(position));
 }
 
 bool WhyTextView::viewportEvent(QEvent *event)

@@ -9,6 +9,8 @@
 
 #include <QPlainTextEdit>
 
+#include <memory>
+
 class WhyTextView : public QPlainTextEdit {
     Q_OBJECT
 
@@ -19,9 +21,9 @@ public:
     void showText(ShownText text);
     [[nodiscard]] const ShownText &shownText() const { return m_text; }
 
-    /// rules: of the count of the items, for their reasons.
-    void showItems(FoundItems items, const TextRules &rules);
-    [[nodiscard]] const FoundItems &items() const { return m_items; }
+    /// items: not null. rules: of their count, for the reasons.
+    void showItems(std::shared_ptr<const FoundItems> items, const TextRules &rules);
+    [[nodiscard]] const FoundItems &items() const { return *m_items; }
 
     /// Selects an item and scrolls to it.
     void select(std::size_t index);
@@ -48,6 +50,6 @@ private:
     [[nodiscard]] std::optional<std::size_t> itemUnder(QPoint place) const;
 
     ShownText m_text;
-    FoundItems m_items;
+    std::shared_ptr<const FoundItems> m_items = std::make_shared<const FoundItems>(); // large
     TextRules m_rules;
 };

@@ -54,8 +54,11 @@ TEST_F(FoundItemsTest, AreFoundByTheirPlace)
 
 TEST_F(FoundItemsTest, AreNotMoreThanMemoryIsMeantFor)
 {
-    const QString text = QStringLiteral("a\n").repeated(static_cast<qsizetype>(FoundItems::maxCount) + 2);
-    const FoundItems items = find(explained(text), Statistic::HardLineBreaks);
+    FoundItems items(Statistic::Words);
+    for (std::size_t i = 0; i < FoundItems::maxCount; ++i)
+        ASSERT_TRUE(items.append({.start = static_cast<qsizetype>(i), .length = 1}));
+    EXPECT_TRUE(items.isComplete());
+    EXPECT_FALSE(items.append({}));
     EXPECT_EQ(items.size(), FoundItems::maxCount);
     EXPECT_FALSE(items.isComplete());
 }

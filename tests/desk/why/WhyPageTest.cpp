@@ -66,6 +66,13 @@ protected:
     std::string reason() { return control<QLabel>("reasonLabel").text().toStdString(); }
     std::string state() { return control<QLabel>("stateLabel").text().toStdString(); }
 
+    static void picture(const QString &name)
+    {
+        QCoreApplication::processEvents(); // paints
+        QGuiApplication::sync();
+        saveScreenshot(name);
+    }
+
     static void clickAt(QPoint place)
     {
         TestDisplay::xdotool({QStringLiteral("mousemove"), QString::number(place.x()),
@@ -102,7 +109,7 @@ TEST_F(WhyPageTest, ShowsTheCountsOfTheServiceAndWhatTheyConsistOf)
     EXPECT_EQ(numbers.join(u' '), QStringLiteral("10 39 55 4 4 4 3 1"));
     EXPECT_EQ(view().toPlainText(), QString::fromUtf8(letter));
     EXPECT_EQ(view().extraSelections().size(), 12); // ten words, "b" and "&"
-    saveScreenshot(QStringLiteral("why-words"));
+    picture(QStringLiteral("why-words"));
 }
 
 TEST_F(WhyPageTest, AClickOnANumberWalksThroughItsItems)
@@ -119,7 +126,7 @@ TEST_F(WhyPageTest, AClickOnANumberWalksThroughItsItems)
     EXPECT_TRUE(waitForReason("2 of 5"));
     press("Return");
     EXPECT_TRUE(waitForReason("3 of 5"));
-    saveScreenshot(QStringLiteral("why-sentences"));
+    picture(QStringLiteral("why-sentences"));
 }
 
 TEST_F(WhyPageTest, TheWalkCanLeaveOutWhatCounts)
@@ -220,17 +227,18 @@ TEST_F(WhyPageTest, SaysWhatCannotBeRead)
 
 TEST_F(WhyPageTest, ALongTextIsMarkedWhereItIsVisible)
 {
-    openText(QByteArray("Many words are in this text, and b too.\n").repeated(50'000) + "The end.");
-    EXPECT_EQ(number(0), QStringLiteral("400,002"));
+    openText(QByteArray("Many words are in this text, and b too.\n").repeated(10'000) + "The end.");
+    EXPECT_EQ(number(0), QStringLiteral("80,002"));
     EXPECT_LT(view().extraSelections().size(), 2000);
     control<QCheckBox>("notCountedCheckBox").click();
     clickCount(6);
     EXPECT_TRUE(waitForReason("no more of them"));
     view().moveCursor(QTextCursor::End);
     clickCount(0);
+    EXPECT_TRUE(waitUntil([this] { return view().items().size() == 90'002; }));
     EXPECT_TRUE(waitForReason("no more of them after"));
     press("alt+v");
-    EXPECT_TRUE(waitForReason("449,999 of 450,002: “b” is not counted"));
+    EXPECT_TRUE(waitForReason("89,999 of 90,002: “b” is not counted"));
 }
 
 TEST_F(WhyPageTest, MarkedTextCanBeReadInDarkAndLight)
@@ -260,7 +268,7 @@ TEST_F(WhyPageTest, MarkedTextCanBeReadInDarkAndLight)
             shapes.insert(mark.format.underlineStyle());
         }
         EXPECT_EQ(shapes.size(), 3);
-        saveScreenshot(isDark ? QStringLiteral("why-dark") : QStringLiteral("why-light"));
+        picture(isDark ? QStringLiteral("why-dark") : QStringLiteral("why-light"));
     }
     EXPECT_EQ(colors.size(), 6);
 }
