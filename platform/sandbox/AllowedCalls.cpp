@@ -97,9 +97,11 @@ std::vector<AllowedCall> allowedCalls(FileAccess files)
         {"exit"},
         {"exit_group"},
     };
-    // Sanitizers look for the stack before an exception, and have threads that wait.
+    // Sanitizers look for the stack before an exception, have threads that wait, and find out through a pipe
+    // whether memory can be read.
     if (isSanitized)
-        calls.insert(calls.end(), {{"sigaltstack"}, {"nanosleep"}, {"clock_nanosleep"}, {"sched_yield"}});
+        calls.insert(calls.end(),
+            {{"sigaltstack"}, {"nanosleep"}, {"clock_nanosleep"}, {"sched_yield"}, {"pipe"}, {"pipe2"}});
     if (files == FileAccess::Reading) {
         // Fonts are opened when a text needs them. The other access modes, O_PATH, O_CREAT, O_TRUNC and all
         // flags of the future stay out.
