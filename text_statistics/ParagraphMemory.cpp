@@ -7,6 +7,7 @@
 #include <array>
 #include <bit>
 #include <memory>
+#include <span>
 
 namespace {
 
@@ -15,11 +16,9 @@ QByteArrayView bytesOf(QStringView text)
     return {reinterpret_cast<const char *>(text.utf16()), text.size() * qsizetype{sizeof(char16_t)}};
 }
 
-template <typename Numbers>
-QByteArrayView bytesOf(const Numbers &numbers)
+QByteArrayView bytesOf(std::span<const quint64> numbers)
 {
-    return {reinterpret_cast<const char *>(std::data(numbers)),
-        static_cast<qsizetype>(std::size(numbers) * sizeof(quint64))};
+    return {reinterpret_cast<const char *>(numbers.data()), static_cast<qsizetype>(numbers.size_bytes())};
 }
 
 ContentHash hashOf(const TextRules &rules, double columnWidth)

@@ -62,6 +62,16 @@ TEST_F(ParagraphMemoryTest, AKnownTextIsNotCountedAgain)
     EXPECT_EQ(countedOf(QString()), 0);
 }
 
+TEST_F(ParagraphMemoryTest, ReadsNothingBehindTheNameOfTheLocale)
+{
+    const QString text = lines(50);
+    for (const QStringView memory :
+        {u"en_US, and what follows in memory", u"en_US; and something else there"}) {
+        const TextRules rules = rulesIn(QString::fromRawData(memory.constData(), 5));
+        EXPECT_EQ(countedOf(AttributedString(text), rules), memory[5] == u',' ? text.size() : 0);
+    }
+}
+
 TEST_F(ParagraphMemoryTest, AnEditCostsAFewPiecesWhereverItIs)
 {
     const QString text = lines(5000);
