@@ -31,21 +31,20 @@ constexpr int lastClass = 0xFF;
 
 } // namespace
 
-PairAdvances::PairAdvances(FontChain *fonts, Shaper &shaper, const ShapingStyle &style)
+PairAdvances::PairAdvances(FontChain *fonts, Shaper &shaper, const ShapingStyle &style, Text text)
     : m_fonts(fonts)
     , m_shaper(shaper)
     , m_style(style)
+    , m_isOfLoneCharacters(text == Text::LoneCharacters)
     , m_covered(makeGlyphSet())
     , m_nextClass(firstFreeClass)
 {
-    if (!style.isOfOpenTypeRules())
-        return;
-    collectGlyphs(m_covered.get());
-    m_rules = style.rulesFor(m_covered.get());
+    if (m_isOfLoneCharacters)
+        m_rules.areSimple = true;
+    else
+        readRules();
     if (!m_rules.areSimple)
         return;
-    m_named = style.namedGlyphs();
-    m_hasKerningTable = style.mayHaveKerningTable();
     m_classes.resize(size_t{1} << 16);
     m_advances.resize(classCount * classCount, unknown);
     m_isUnsafe.resize(classCount * classCount);
@@ -61,6 +60,21 @@ PairAdvances::PairAdvances(FontChain *fonts, Shaper &shaper, const ShapingStyle 
         at(unsupportedClass, own) = unsupported;
         at(own, unsupportedClass) = unsupported;
     }
+}
+
+void PairAdvances::readRules()
+{
+    if (!m_style.isOfOpenTypeRules())
+        return;
+    collectGlyphs(m_covered.get());
+    m_rules = m_style.rulesFor(m_covered.get());
+    m_named = m_style.namedGlyphs();
+    m_hasKerningTable = m_style.mayHaveKerningTable();
+}
+
+bool PairAdvances::isSupported(quint8 ownClass)
+{
+    return ownClass != unsupportedClass;
 }
 
 // Control characters are invisible, and not shaped with the text around them.
@@ -119,6 +133,8 @@ quint8 PairAdvances::findClass(char16_t unit)
     if (!isCandidate(unit) || !glyphOf(unit, glyph) || hb_set_has(m_rules.changed.get(), glyph)
         || (m_fonts && m_fonts->faceFor(QStringView(&unit, 1), nullptr) != &m_style.face()))
         return unsupportedClass;
+    if (m_isOfLoneCharacters)
+        return classOfAdvance(unit);
     if (glyph == 0) {
         if (m_absentClass == unknownClass)
             m_absentClass = addClass(unit);
@@ -127,6 +143,11 @@ quint8 PairAdvances::findClass(char16_t unit)
     if (m_hasKerningTable || hb_set_has(m_named.get(), glyph))
         return hb_set_has(m_covered.get(), glyph) ? addClass(unit) : unsupportedClass;
     // No pair begins with it, and as second of a pair all such glyphs are equal.
+    return classOfAdvance(unit);
+}
+
+quint8 PairAdvances::classOfAdvance(char16_t unit)
+{
     float advance = 0;
     quint8 flags = 0;
     m_shaper.shape(m_style, QStringView(&unit, 1), 0, 1, &advance, &flags);
@@ -178,6 +199,8 @@ int PairAdvances::advanceOfPair(char16_t first, char16_t second, bool &isUnsafe)
         shape(0, 1);
         return supported(advances[0]);
     }
+    if (m_isOfLoneCharacters)
+        return unsupported;
     hb_codepoint_t firstGlyph = 0;
     hb_codepoint_t secondGlyph = 0;
     if (!glyphOf(first, firstGlyph) || !glyphOf(second, secondGlyph))

@@ -26,12 +26,18 @@ public:
     /// Anything less than this is an advance, in font units.
     static constexpr int limit = unknown;
 
+    /// What is measured: pairs, or characters that are alone between tabs and controls or in another font
+    /// than their neighbours. No rule of a font matters to those.
+    enum class Text { Pairs, LoneCharacters };
+
     /// style: from left to right. fonts: unless null, only characters are supported for which these give the
     /// font of the style. All must outlive this object.
-    PairAdvances(FontChain *fonts, Shaper &shaper, const ShapingStyle &style);
+    PairAdvances(FontChain *fonts, Shaper &shaper, const ShapingStyle &style, Text text = Text::Pairs);
 
     /// If false, no character is supported.
     [[nodiscard]] bool isUsable() const { return m_rules.areSimple; }
+
+    [[nodiscard]] bool supports(char16_t character) { return isUsable() && isSupported(classify(character)); }
 
     /// Characters of one class have the same advances. 0: not yet known.
     [[nodiscard]] const quint8 *classes() const { return m_classes.data(); }
@@ -60,13 +66,16 @@ private:
         quint8 ownClass;
     };
 
+    void readRules();
     void addControls();
+    [[nodiscard]] static bool isSupported(quint8 ownClass);
     [[nodiscard]] bool isCandidate(char16_t unit) const;
     bool glyphOf(char16_t unit, quint32 &glyph) const;
     void collectGlyphs(hb_set_t *glyphs) const;
     quint8 classify(char16_t unit);
     quint8 findClass(char16_t unit);
     quint8 addClass(char16_t unit);
+    quint8 classOfAdvance(char16_t unit);
     int advanceOfPair(char16_t first, char16_t second, bool &isUnsafe);
 
     int &at(quint8 first, quint8 second) { return m_advances[static_cast<size_t>(first) << 8 | second]; }
@@ -74,6 +83,7 @@ private:
     FontChain *m_fonts;
     Shaper &m_shaper;
     const ShapingStyle &m_style;
+    bool m_isOfLoneCharacters;
     FontRules m_rules;
     GlyphSet m_named;
     GlyphSet m_covered; // by m_rules

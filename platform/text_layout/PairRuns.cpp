@@ -27,12 +27,12 @@ PairRuns::PairRuns(FontLibrary &fonts, Shaper &shaper)
 bool PairRuns::setParagraph(const AttributedString &text, const Paragraph &paragraph, bool isOneRun)
 {
     m_runs.clear();
-    m_length = paragraph.contentLength;
+    m_content = paragraph.content(text.string());
     m_runsEnd = 0;
     m_isItemized = !isOneRun;
     if (isOneRun)
         return addOneRun(text, paragraph);
-    if (!isPlain(paragraph.content(text.string())))
+    if (!isPlain(m_content))
         return false;
     m_itemizer.setParagraph(text, paragraph);
     return addNextRun();
@@ -47,8 +47,8 @@ bool PairRuns::isPlain(QStringView content)
 bool PairRuns::addOneRun(const AttributedString &text, const Paragraph &paragraph)
 {
     const AttributedString::Run attributesRun = text.run(text.runIndexAt(paragraph.start));
-    const std::optional<quint32> script = findScript(paragraph.content(text.string()));
-    if (attributesRun.start + attributesRun.length < paragraph.start + m_length || !script)
+    const std::optional<quint32> script = findScript(m_content);
+    if (attributesRun.start + attributesRun.length < paragraph.start + m_content.size() || !script)
         return false;
     const TextAttributes &attributes = text.distinctAttributes()[attributesRun.attributesIndex];
     if (!m_oneRun.pairs || m_script != *script || m_language != attributes.language
@@ -58,19 +58,19 @@ bool PairRuns::addOneRun(const AttributedString &text, const Paragraph &paragrap
         m_script = *script;
         const TextStyle style = m_itemizer.resolve(attributes);
         const TextRun run{.start = 0,
-            .end = m_length,
+            .end = m_content.size(),
             .kind = TextRun::Kind::Text,
             .isCut = false,
             .isRightToLeft = false,
             .script = *script,
             .face = style.fonts ? style.fonts->primary() : nullptr,
             .style = style};
-        m_oneRun = makeRun(run);
+        m_oneRun = makeRun(run, PairAdvances::Text::Pairs);
     }
     if (!m_oneRun.pairs)
         return false;
-    m_oneRun.end = m_length;
-    m_runsEnd = m_length;
+    m_oneRun.end = m_content.size();
+    m_runsEnd = m_content.size();
     m_runs.push_back(m_oneRun);
     return true;
 }
@@ -130,7 +130,10 @@ bool PairRuns::addNextRun()
             continue;
         if (run.kind != TextRun::Kind::Text || run.isRightToLeft || !run.face)
             return false;
-        PairRun added = makeRun(run);
+        PairRun added = makeRun(run, PairAdvances::Text::Pairs);
+        const bool isAlone = run.end - run.start == 1;
+        if (isAlone && !(added.pairs && added.pairs->supports(m_content.utf16()[run.start])))
+            added = makeRun(run, PairAdvances::Text::LoneCharacters);
         if (!added.pairs)
             return false;
         added.start = m_runsEnd;
@@ -142,14 +145,14 @@ bool PairRuns::addNextRun()
     return false;
 }
 
-PairRun PairRuns::makeRun(const TextRun &run)
+PairRun PairRuns::makeRun(const TextRun &run, PairAdvances::Text text)
 {
     PairRun made;
     if (!run.face || run.style.tracking < 0)
         return made;
     const bool isPrimary = run.face == run.style.fonts->primary();
-    made.pairs =
-        tableFor({isPrimary ? run.style.fonts : nullptr, &m_shaper.styleOf(run)}, run.end - run.start);
+    FontChain *const fonts = isPrimary ? run.style.fonts : nullptr;
+    made.pairs = tableFor({fonts, &m_shaper.styleOf(run), text}, run.end - run.start);
     made.pointsPerUnit = run.style.pointSize / run.face->unitsPerEm();
     made.tracking = run.style.tracking / made.pointsPerUnit;
     return made;
@@ -169,7 +172,8 @@ PairAdvances *PairRuns::tableFor(TableKey key, qsizetype length)
                 return nullptr;
             discardLeastUsed();
         }
-        table.pairs = std::make_unique<PairAdvances>(key.first, m_shaper, *key.second);
+        table.pairs = std::make_unique<PairAdvances>(std::get<FontChain *>(key), m_shaper,
+            *std::get<const ShapingStyle *>(key), std::get<PairAdvances::Text>(key));
         table.demand = 0;
         ++m_tableCount;
     }

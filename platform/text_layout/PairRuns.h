@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <tuple>
 
 /// A stretch of text that is shaped together, or with controls and tabs between its parts.
 struct PairRun {
@@ -46,14 +47,14 @@ private:
         quint64 lastUse = 0;
     };
     // The chain is null if the font is not its first one; then characters are known to be in the font.
-    using TableKey = std::pair<FontChain *, const ShapingStyle *>;
+    using TableKey = std::tuple<FontChain *, const ShapingStyle *, PairAdvances::Text>;
 
     /// Whether all characters are plain, tabs or controls; the rest is not worth cutting into runs.
     bool isPlain(QStringView content);
     bool addOneRun(const AttributedString &text, const Paragraph &paragraph);
     [[nodiscard]] std::optional<quint32> findScript(QStringView content) const;
     bool addNextRun();
-    [[nodiscard]] PairRun makeRun(const TextRun &run);
+    [[nodiscard]] PairRun makeRun(const TextRun &run, PairAdvances::Text text);
     PairAdvances *tableFor(TableKey key, qsizetype length);
     void discardLeastUsed();
 
@@ -65,7 +66,7 @@ private:
     quint64 m_uses = 0;
 
     std::deque<PairRun> m_runs;
-    qsizetype m_length = 0;
+    QStringView m_content; // of the paragraph
     qsizetype m_runsEnd = 0; // itemized up to here
     bool m_isItemized = false;
 
