@@ -18,7 +18,7 @@ struct CachedWord {
 
 class WordCache {
 public:
-    static constexpr qsizetype maxWordLength = 40; ///< UTF-16 code units
+    static constexpr qsizetype maxWordLength = 240; ///< UTF-16 code units; five letters with many marks
 
     /// unitCount: code units of all words; about 10 bytes each.
     WordCache(size_t wordCount, size_t unitCount);
