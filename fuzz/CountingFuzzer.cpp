@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Compares the fast counter with the plain one. The first byte chooses the rules and how the others become a
-// text, the second how often the text is repeated: windows of the scanner are longer than most inputs.
+// Compares the fast counter with the plain one, and the fast layout with the one that shapes whole runs. The
+// first byte chooses the rules and how the others become a text, the second how often the text is repeated:
+// windows of the scanner are longer than most inputs.
 #include "fuzz/SoundText.h"
+#include "platform/text_layout/LayoutEngine.h"
 #include "text_statistics/PlainTextCounter.h"
 #include "text_statistics/TextCounter.h"
 
@@ -10,6 +12,7 @@
 namespace {
 
 constexpr qsizetype maxLength = 10'000;
+constexpr qsizetype maxLaidOutLength = 1'000; // shaping is slow
 
 // Characters of all classes that segmentation knows, where bytes alone would rarely form them.
 constexpr QStringView alphabet =
@@ -34,6 +37,27 @@ QString textOf(int form, QByteArrayView bytes)
     return text;
 }
 
+std::vector<qsizetype> lineStarts(LayoutEngine &engine, const AttributedString &text, double columnWidth)
+{
+    std::vector<qsizetype> starts;
+    forEachParagraph(text.string(), [&](const Paragraph &paragraph) {
+        engine.layOutParagraph(
+            text, paragraph, columnWidth, [&](const LineFragment &line) { starts.push_back(line.start); });
+    });
+    return starts;
+}
+
+void compareLayouts(const QString &text, double columnWidth)
+{
+    static LayoutEngine byPairs(LayoutEngine::Shaping::ByPairs);
+    static LayoutEngine byWords(LayoutEngine::Shaping::ByWords);
+    static LayoutEngine plain(LayoutEngine::Shaping::WholeRuns);
+    const AttributedString styled(text);
+    const std::vector<qsizetype> starts = lineStarts(plain, styled, columnWidth);
+    require(lineStarts(byWords, styled, columnWidth) == starts);
+    require(byPairs.countLines(styled, columnWidth) == starts.size());
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -55,5 +79,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static TextCounter fast;
     static PlainTextCounter plain;
     require(fast.count(text, rules) == plain.count(text, rules));
+    compareLayouts(text.left(maxLaidOutLength), 20 + data[1] * 2.3);
     return 0;
 }
