@@ -88,12 +88,15 @@ void QBYServiceProviderAppDelegate::wordCountSelectedTextService(
         [pasteboard](const std::stop_token &stop) { return readAttributedString(pasteboard, stop); });
     if (const Text *const text = reading.quickResult()) {
         if (*text)
-            open(std::make_shared<QBYServiceProviderShowStatsWindowController>(**text, desktop), pasteboard);
+            open(std::make_shared<QBYServiceProviderShowStatsWindowController>(
+                     **text, desktop, m_surroundings.clock),
+                pasteboard);
         else
             setError(error, readingFailure());
         return;
     }
-    const auto controller = std::make_shared<QBYServiceProviderShowStatsWindowController>(desktop);
+    const auto controller =
+        std::make_shared<QBYServiceProviderShowStatsWindowController>(desktop, m_surroundings.clock);
     open(controller, pasteboard);
     reading.passResultTo([&desktop, window = std::weak_ptr(controller)](
                              const Text &text) { finishReading(window, text, desktop); });

@@ -24,16 +24,19 @@ QString QBYServiceProviderShowStatsWindowController::windowInterfaceFile()
 }
 
 QBYServiceProviderShowStatsWindowController::QBYServiceProviderShowStatsWindowController(
-    AttributedString attributedStringToCount, Desktop &desktop)
+    AttributedString attributedStringToCount, Desktop &desktop, Clock &clock)
     : m_attributedStringToCount(std::move(attributedStringToCount))
     , m_hasText(true)
     , m_desktop(desktop)
+    , m_clock(clock)
 {
 }
 
-QBYServiceProviderShowStatsWindowController::QBYServiceProviderShowStatsWindowController(Desktop &desktop)
+QBYServiceProviderShowStatsWindowController::QBYServiceProviderShowStatsWindowController(
+    Desktop &desktop, Clock &clock)
     : m_hasText(false)
     , m_desktop(desktop)
+    , m_clock(clock)
 {
 }
 
@@ -96,6 +99,10 @@ void QBYServiceProviderShowStatsWindowController::putWindowOnScreen()
     window()->setTitle(m_documentName.isEmpty() ? productName : m_documentName);
     PanelHost::setUpWindow(
         *window(), *m_wordCounterViewController, *this, [this] { closeButtonAction(nullptr); });
+    if (const auto indicator = activityIndicator()) {
+        m_waitNotice = std::make_unique<WaitNotice>(indicator, *window(), m_clock,
+            [this] { return m_hasText ? WaitNotice::Subject::CountingService : WaitNotice::Subject::Text; });
+    }
     m_windowOnScreen = m_desktop.putOnScreen(window());
 }
 
@@ -104,6 +111,7 @@ void QBYServiceProviderShowStatsWindowController::showStatistics()
     if (const auto indicator = activityIndicator())
         indicator->stopAnimation();
     m_wordCounterViewController->view()->fadeTo(1, fadeTime);
+    window()->announce();
 }
 
 void QBYServiceProviderShowStatsWindowController::showWindow(QObject * /*sender*/)

@@ -11,14 +11,16 @@
 #include "platform/views/Controls.h"
 #include "platform/views/Desktop.h"
 #include "platform/views/WindowController.h"
+#include "presentation/WaitNotice.h"
 #include "presentation/WordCounterViewController.h"
 #include "presentation/WordCounterViewControllerLayoutDelegate.h"
 
 #include <memory>
 #include <optional>
 
-/// While a count fails or is never answered, the spinner turns and the statistics stay invisible; the user
-/// closes the window. Frames are points, with the origin at the bottom left.
+/// While a count fails or is never answered, the spinner turns and the statistics stay invisible; after a
+/// while a notice says so, and the user closes the window. Frames are points, with the origin at the bottom
+/// left.
 class QBYServiceProviderShowStatsWindowController
     : public WindowController,
       public WordCounterViewControllerLayoutDelegate,
@@ -30,11 +32,12 @@ public:
     /// The program's interface file, a resource.
     static QString windowInterfaceFile();
 
-    // Count nothing yet. desktop: outlives the controller.
-    QBYServiceProviderShowStatsWindowController(AttributedString attributedStringToCount, Desktop &desktop);
+    // Count nothing yet. desktop and clock: outlive the controller.
+    QBYServiceProviderShowStatsWindowController(
+        AttributedString attributedStringToCount, Desktop &desktop, Clock &clock = systemClock());
     /// For a text that is still being read; setAttributedStringToCount() follows. Until then the spinner
     /// turns.
-    explicit QBYServiceProviderShowStatsWindowController(Desktop &desktop);
+    explicit QBYServiceProviderShowStatsWindowController(Desktop &desktop, Clock &clock = systemClock());
     ~QBYServiceProviderShowStatsWindowController() override;
 
     /// Empty while the text is being read.
@@ -108,6 +111,7 @@ private:
     std::optional<TextReading> m_reading; // until the window is closed
     QString m_documentName; // empty if the text comes from no file
     Desktop &m_desktop;
+    Clock &m_clock;
     WeakDelegate<QBYServiceProviderShowStatsWindowControllerDelegate> m_delegate;
     std::shared_ptr<WordCounterViewController> m_wordCounterViewController;
     std::weak_ptr<ProgressIndicator> m_activityIndicator;
@@ -115,5 +119,6 @@ private:
     std::weak_ptr<Button> m_closeButton;
     std::weak_ptr<Box> m_lineSeparator;
     std::unique_ptr<WindowOnScreen> m_windowOnScreen;
+    std::unique_ptr<WaitNotice> m_waitNotice;
     bool m_isWideningPanel = false;
 };

@@ -55,8 +55,22 @@ MimeContent WordCounterViewController::statisticsToCopy() const
     return content;
 }
 
+QString WordCounterViewController::statisticsToRead() const
+{
+    if (m_wordCounter->wordCountFormattedString().isNull())
+        return {}; // not counted yet
+    QStringList texts;
+    for (const std::shared_ptr<Label> &label : visibleTextfieldsForLayout())
+        texts.append(label->accessibleName());
+    return texts.join(QStringLiteral(", "));
+}
+
 void WordCounterViewController::serve(Window &window)
 {
+    window.setSummaryProvider([weakPanel = weak_from_this()] {
+        const auto panel = weakPanel.lock();
+        return panel ? panel->statisticsToRead() : QString();
+    });
     window.setCopyProvider([weakPanel = weak_from_this()] {
         const auto panel = weakPanel.lock();
         return panel ? panel->statisticsToCopy() : MimeContent();

@@ -79,8 +79,9 @@ public:
     [[nodiscard]] std::optional<AttributedString> attributedStringRepresentationWithTitle(
         const std::optional<QString> &title) const;
 
-    /// Connects the panel to its window: Copy copies the statistics once there are any, and the labels are
-    /// fitted when the window's text metrics change. The host fits them itself before it shows the window.
+    /// Connects the panel to its window: Copy copies the statistics once there are any, screen readers read
+    /// them as the window's summary, and the labels are fitted when the window's text metrics change. The
+    /// host fits them itself before it shows the window.
     void serve(Window &window);
 
 Q_SIGNALS:
@@ -102,6 +103,7 @@ private:
     void showReply(const QBYWordCounterStats &stats, const Completion &completion);
 
     [[nodiscard]] MimeContent statisticsToCopy() const;
+    [[nodiscard]] QString statisticsToRead() const;
 
     std::shared_ptr<WordCounterModel> m_wordCounter;
     bool m_isAsyncCountOperationInProgress = false;

@@ -113,3 +113,10 @@ void Window::setCopyProvider(std::function<MimeContent()> provider)
     m_copyProvider = std::move(provider);
     Q_EMIT copyProviderDidChange();
 }
+
+QString Window::accessibleDescription() const
+{
+    if (!m_notice.isEmpty())
+        return m_notice;
+    return m_summaryProvider ? m_summaryProvider() : QString();
+}

@@ -89,6 +89,15 @@ public:
     /// Empty without a provider.
     [[nodiscard]] MimeContent contentToCopy() const { return canCopy() ? m_copyProvider() : MimeContent(); }
 
+    /// Provides what the window shows as a whole, in words, for screen readers.
+    void setSummaryProvider(std::function<QString()> provider) { m_summaryProvider = std::move(provider); }
+    /// What screen readers read instead of the summary, such as what the user waits for; empty for none.
+    void setNotice(const QString &notice) { m_notice = notice; }
+    /// The notice, or the summary; empty if there is neither.
+    [[nodiscard]] QString accessibleDescription() const;
+    /// Screen readers read the description now: for what the user has asked for, as they interrupt the user.
+    void announce() { Q_EMIT announced(); }
+
 Q_SIGNALS:
     void frameDidChange(bool display, bool animate);
     void contentViewDidChange();
@@ -101,6 +110,7 @@ Q_SIGNALS:
     void closeRequested();
     void closed();
     void copyProviderDidChange();
+    void announced();
     /// The window's labels need another size: the window came onto a screen, or the user's font or the scale
     /// of the screen changed. The owner of the labels has to fit and place them again.
     void textMetricsDidChange();
@@ -116,4 +126,6 @@ private:
     bool m_visible = false;
     bool m_closesOnRequest = true;
     std::function<MimeContent()> m_copyProvider;
+    std::function<QString()> m_summaryProvider;
+    QString m_notice;
 };

@@ -4,6 +4,7 @@
 #include "front_end/QBYServiceProviderShowStatsWindowController.h"
 
 #include "tests/harness/QuillbayTest.h"
+#include "tests/platform/file_coordination/FakeClock.h"
 #include "tests/platform/session_bus/ServiceStandIn.h"
 #include "tests/platform/views/FakeDesktop.h"
 #include "tests/presentation/CountingPanel.h"
@@ -62,8 +63,9 @@ protected:
 
     ServiceStandIn service{WordCounterServiceProtocol::serviceName(), {"hold"}};
     FakeDesktop desktop;
+    FakeClock clock;
     const AttributedString text{QStringLiteral("A text.")};
-    std::shared_ptr<Controller> controller = std::make_shared<Controller>(text, desktop);
+    std::shared_ptr<Controller> controller = std::make_shared<Controller>(text, desktop, clock);
     RecordingDelegate delegate;
 };
 
@@ -322,4 +324,27 @@ TEST_F(StatsWindow, CopiesTheStatisticsAsTextAndAsAPage)
         panel().htmlRepresentationWithTitle(std::nullopt, true));
     EXPECT_THAT(QString::fromUtf8(content.at(QStringLiteral("text/plain"))).toStdString(),
         testing::HasSubstr("-Chars (+Whitespace): 3"));
+}
+
+TEST_F(StatsWindow, ScreenReadersReadTheCountsOnceTheyAreThere)
+{
+    load();
+    QStringList announced;
+    QObject::connect(controller->window().get(), &Window::announced, controller->window().get(),
+        [&] { announced.append(controller->window()->accessibleDescription()); });
+    EXPECT_EQ(controller->window()->accessibleDescription(), QString());
+    answer();
+    ASSERT_EQ(announced.size(), 1);
+    EXPECT_TRUE(announced.constFirst().startsWith(QStringLiteral("Words: 1, Characters: ")));
+}
+
+TEST_F(StatsWindow, ASpinnerThatTurnsForLongSaysWhatItWaitsFor)
+{
+    load();
+    service.waitForRequests(1);
+    clock.advance(WaitNotice::delay);
+    EXPECT_EQ(controller->activityIndicator()->toolTip(),
+        QStringLiteral("Still waiting for the counting service."));
+    answer();
+    EXPECT_EQ(controller->activityIndicator()->toolTip(), QString());
 }

@@ -44,6 +44,7 @@ void WatchTextFileMenuBarController::watchWithTextFileURL(const QUrl &textFileUR
     const QUrl url = textFileURL.adjusted(QUrl::StripTrailingSlash); // an RTFD folder may have one
     setTitleOfPanels(lastPathComponent(url));
     m_isChangeUncounted = false;
+    m_isCountRequested = true;
     readAndCount(url);
     if (m_watchFileModel) {
         m_watchFileModel->setTextFileURLToWatch(url, true);
@@ -123,6 +124,9 @@ void WatchTextFileMenuBarController::countDidComplete()
     if (m_contentViewControllerForDetachableWindow)
         m_contentViewControllerForDetachableWindow->wordCounterViewController()
             ->updateInterfaceWithPrepopulatedStats(stats);
+    // Once, not at every save: screen readers would interrupt the writing.
+    if (std::exchange(m_isCountRequested, false) && m_detachableWindowForPopover)
+        m_detachableWindowForPopover->announce();
     sayWordCountIfPreferred(stats.numberOfWords);
 }
 

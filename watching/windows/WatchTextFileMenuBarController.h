@@ -11,6 +11,7 @@
 #include "platform/views/ApplicationActivity.h"
 #include "platform/views/Popover.h"
 #include "platform/views/StatusItem.h"
+#include "presentation/WaitNotice.h"
 #include "presentation/WordCounterViewController.h"
 #include "speech/ApplicationExtension.h"
 #include "watching/WatchTextFileModel.h"
@@ -107,7 +108,8 @@ private:
     void setUpWithoutMenuItem();
     void makeWindow(const QRectF &contentRect, const std::shared_ptr<WatchTextFileViewController> &panel);
     void schedulePopover();
-    void setCountingPanel(const std::shared_ptr<WatchTextFileViewController> &panel);
+    /// window: the panel's.
+    void setCountingPanel(const std::shared_ptr<WatchTextFileViewController> &panel, Window &window);
     void setTitleOfPanels(const QString &title);
 
     using Text = Result<AttributedString, DocumentError>;
@@ -138,9 +140,11 @@ private:
     std::shared_ptr<Window> m_detachableWindowForPopover;
     std::unique_ptr<WindowOnScreen> m_detachableWindowOnScreen;
     std::shared_ptr<WatchTextFileViewController> m_contentViewControllerForDetachableWindow;
+    std::unique_ptr<WaitNotice> m_waitNotice; // destroyed before the windows
     std::unique_ptr<WatchTextFileModel> m_watchFileModel;
     std::unique_ptr<ClockTimer> m_popoverTimer; // until the pop-over opens by itself
     quint64 m_lastCalledOutWordCount = 0;
     std::optional<BackgroundWork<Text>> m_firstReading; // until it is counted, or a later content is
+    bool m_isCountRequested = false; // by the user, and not completed yet
     bool m_isChangeUncounted = false; // of a Word document, dropped while the panel was counting
 };

@@ -44,7 +44,7 @@ void WatchTextFileMenuBarController::setUpWithMenuItem()
     const auto panel = std::make_shared<WatchTextFileViewController>(true);
     panel->setDelegate(this);
     panel->view();
-    setCountingPanel(panel);
+    setCountingPanel(panel, *m_popover->window());
     m_popover->setContentViewController(panel);
     m_popover->setDelegate(this);
     panel->wordCounterViewController()->serve(*m_popover->window());
@@ -71,14 +71,16 @@ void WatchTextFileMenuBarController::setUpWithoutMenuItem()
     m_contentViewControllerForDetachableWindow = panel;
     PanelHost::useShortStyle(*panel->wordCounterViewController());
     makeWindow({{0, 0}, panel->view()->frame().size()}, panel);
-    setCountingPanel(panel);
+    setCountingPanel(panel, *m_detachableWindowForPopover);
     m_detachableWindowForPopover->setLevel(WindowLevel::Floating);
 }
 
 void WatchTextFileMenuBarController::setCountingPanel(
-    const std::shared_ptr<WatchTextFileViewController> &panel)
+    const std::shared_ptr<WatchTextFileViewController> &panel, Window &window)
 {
     m_watchTextFileViewControllerForPopover = panel;
+    m_waitNotice = std::make_unique<WaitNotice>(panel->activityIndicator(), window, m_surroundings.clock,
+        [this] { return m_firstReading ? WaitNotice::Subject::Text : WaitNotice::Subject::CountingService; });
     connect(panel->wordCounterViewController().get(),
         &WordCounterViewController::isAsyncCountOperationInProgressChanged, this,
         &WatchTextFileMenuBarController::countingStateDidChange);

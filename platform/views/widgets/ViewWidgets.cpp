@@ -4,16 +4,14 @@
 #include "platform/views/Controls.h"
 #include "platform/views/widgets/LabelText.h"
 #include "platform/views/widgets/LabelWidget.h"
+#include "platform/views/widgets/SpinnerWidget.h"
 #include "platform/views/widgets/SymbolIcon.h"
 
-#include <QBasicTimer>
 #include <QIcon>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QProgressBar>
 #include <QPushButton>
-#include <QTimerEvent>
 #include <QTransform>
 
 #include <algorithm>
@@ -112,98 +110,6 @@ void BoxWidget::paintEvent(QPaintEvent *event)
     else
         line = QRect(width() / 2, 0, 1, height());
     QPainter(this).fillRect(line, palette().color(QPalette::Mid));
-}
-
-constexpr int spokes = 12;
-constexpr int turnTime = 1000; // milliseconds
-// In fractions of the wheel's radius.
-constexpr double innerEnd = 0.5;
-constexpr double outerEnd = 0.9;
-constexpr double thickness = 0.16;
-
-/// An indeterminate progress bar, drawn as a wheel of fading spokes while it turns and invisible otherwise.
-class SpinnerWidget : public QProgressBar {
-public:
-    explicit SpinnerWidget(QWidget *parent);
-
-    void setTurning(bool turning);
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
-    void timerEvent(QTimerEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
-
-private:
-    void updateTimer();
-
-    bool m_turning = false;
-    int m_step = 0; // in spokes
-    QBasicTimer m_timer;
-};
-
-SpinnerWidget::SpinnerWidget(QWidget *parent)
-    : QProgressBar(parent)
-{
-    setRange(0, 0);
-    setTextVisible(false);
-}
-
-void SpinnerWidget::setTurning(bool turning)
-{
-    m_turning = turning;
-    updateTimer();
-    update();
-}
-
-void SpinnerWidget::updateTimer()
-{
-    if (m_turning && isVisible())
-        m_timer.start(turnTime / spokes, this);
-    else
-        m_timer.stop();
-}
-
-void SpinnerWidget::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() != m_timer.timerId()) {
-        QProgressBar::timerEvent(event);
-        return;
-    }
-    m_step = (m_step + 1) % spokes;
-    update();
-}
-
-void SpinnerWidget::showEvent(QShowEvent *event)
-{
-    QProgressBar::showEvent(event);
-    updateTimer();
-}
-
-void SpinnerWidget::hideEvent(QHideEvent *event)
-{
-    QProgressBar::hideEvent(event);
-    updateTimer();
-}
-
-void SpinnerWidget::paintEvent(QPaintEvent * /*event*/)
-{
-    if (!m_turning)
-        return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(QRectF(rect()).center());
-    const double radius = std::min(width(), height()) / 2.0;
-    QColor color = palette().color(QPalette::WindowText);
-    for (int spoke = 0; spoke < spokes; ++spoke) {
-        const int age = (m_step - spoke + spokes) % spokes;
-        color.setAlphaF(1 - 0.8F * static_cast<float>(age) / (spokes - 1));
-        painter.setPen(QPen(color, radius * thickness, Qt::SolidLine, Qt::RoundCap));
-        painter.save();
-        painter.rotate(360.0 * spoke / spokes);
-        painter.drawLine(QPointF(0, -radius * innerEnd), QPointF(0, -radius * outerEnd));
-        painter.restore();
-    }
 }
 
 /// Calls update now and after each of the signals, as long as the widget lives.

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/views/widgets/WindowWidget.h"
 
+#include "platform/views/widgets/AccessibleWidgets.h"
 #include "platform/views/widgets/LabelText.h"
 #include "platform/views/widgets/PixelGeometry.h"
 #include "platform/views/widgets/WindowActivation.h"
 #include "platform/views/widgets/WindowPlaces.h"
 #include "platform/views/widgets/X11.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -57,6 +59,7 @@ WindowWidget::WindowWidget(std::shared_ptr<Window> window)
     , m_bindings{*m_window, nullptr}
     , m_copyShortcut(new QShortcut(QKeySequence::Copy, this, this, &WindowWidget::copy))
 {
+    AccessibleWidgets::install();
     m_settling.setSingleShot(true);
     m_settling.setInterval(settlingTime);
     connect(&m_settling, &QTimer::timeout, this, &WindowWidget::adoptGeometry);
@@ -89,6 +92,10 @@ void WindowWidget::followWindow()
     const auto applyTitle = [this] { setWindowTitle(plainWindowTitle(m_window->title())); };
     connect(window, &Window::titleDidChange, this, applyTitle);
     applyTitle();
+    connect(window, &Window::announced, this, [this] {
+        QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    });
     const auto applyCopy = [this] { m_copyShortcut->setEnabled(m_window->canCopy()); };
     connect(window, &Window::copyProviderDidChange, this, applyCopy);
     applyCopy();

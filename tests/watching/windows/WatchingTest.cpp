@@ -30,6 +30,26 @@ TEST_F(WatchingTest, ReadsCountsAndFollowsTheDocument)
     EXPECT_THAT(m_log.messages(LogLevel::Error), IsEmpty());
 }
 
+TEST_F(WatchingTest, ScreenReadersReadTheCountsOfTheRequestAndNoneOfASave)
+{
+    serve({"answer 3 2 3 4 5 6 7 8", "answer 4 2 3 4 5 6 7 8"});
+    Controller &watcher = makeWindowForm();
+    const Window &window = *watcher.detachableWindowForPopover();
+    QStringList announced;
+    QObject::connect(
+        &window, &Window::announced, &window, [&] { announced.append(window.accessibleDescription()); });
+    watcher.watchWithTextFileURL(QUrl::fromLocalFile(m_path));
+    waitForCount(watcher);
+    ASSERT_THAT(announced, SizeIs(1));
+    EXPECT_TRUE(announced.constFirst().startsWith(QStringLiteral("Words: 3")));
+    writeFile(QStringLiteral("novel.txt"), "Another text");
+    pass();
+    m_service->waitForRequests(2);
+    waitForCount(watcher);
+    EXPECT_TRUE(window.accessibleDescription().startsWith(QStringLiteral("Words: 4")));
+    EXPECT_THAT(announced, SizeIs(1));
+}
+
 TEST_F(WatchingTest, ALargeDocumentIsReadBehindTheWindow)
 {
     serve({"answer 3 2 3 4 5 6 7 8"});
