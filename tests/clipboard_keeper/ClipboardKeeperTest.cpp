@@ -71,8 +71,11 @@ protected:
     void startKeeper()
     {
         copyStatistics();
+        bool hasNewOwner = false;
+        QObject::connect(&clipboard(), &QClipboard::dataChanged, &m_window, [&] { hasNewOwner = true; });
         m_keeper.start({});
-        EXPECT_TRUE(waitUntil([] { return !clipboard().ownsClipboard(); }));
+        EXPECT_TRUE(waitUntil([&] { return hasNewOwner; }));
+        QObject::disconnect(&clipboard(), nullptr, &m_window, nullptr);
     }
     [[nodiscard]] int exitStatus() { return m_keeper.finish().exitStatus; }
 

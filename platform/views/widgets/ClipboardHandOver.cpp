@@ -22,10 +22,9 @@ void ClipboardHandOver::finish(const QString &keeper)
     }
     QEventLoop loop;
     QTimer::singleShot(timeout, &loop, [&loop] { loop.exit(1); });
-    QObject::connect(&clipboard, &QClipboard::dataChanged, &loop, [&] {
-        if (!clipboard.ownsClipboard())
-            loop.quit();
-    });
+    // The signal means another owner. ownsClipboard() stays true if that one has saved the content and
+    // exited.
+    QObject::connect(&clipboard, &QClipboard::dataChanged, &loop, &QEventLoop::quit);
     if (loop.exec() != 0)
         LogChannel::standard().error(u"What was copied is lost: {} does not take it", {publicly(keeper)});
 }
