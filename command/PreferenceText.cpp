@@ -134,7 +134,7 @@ Parsed parse(const PaperAccessors & /*accessors*/, const QString &text)
     };
     const double left = marginOf(Preference::LeftMargin);
     const double right = marginOf(Preference::RightMargin);
-    if (left > maxMargin(paper->paperSize().width(), right)) {
+    if (!leaveColumn(left, right, paper->paperSize().width())) {
         return QStringLiteral("the margins of %1in and %2in leave no column on %3; make them smaller first")
             .arg(QString::number(left), QString::number(right), *paper->paperName());
     }

@@ -19,7 +19,8 @@ constexpr char preferencesHelp[] = R"(Usage: quillbay preferences [--json] [NAME
        quillbay preferences --reset-all
 
 Prints the rules of the counts, or the one called NAME; sets NAME to VALUE; or gives
-rules the values of a new user. Open windows follow at once.
+rules the values of a new user. Open windows show what you want at once; their
+numbers follow at the next count.
 
   show-characters                  on or off: show the characters; also sets the
                                    next one

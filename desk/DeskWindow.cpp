@@ -51,6 +51,7 @@ DeskWindow::DeskWindow(const QString &speechLaunchPath)
                      "free space of its folder.")
                       .arg(file));
     });
+    connect(&m_editor, &RulesEditor::stored, this, [this] { setNotice({}); });
     restoreState();
 }
 

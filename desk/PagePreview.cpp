@@ -8,6 +8,8 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 // More than fits on the largest sheets, and little enough to be laid out at once.
@@ -98,11 +100,12 @@ void PagePreview::resizeEvent(QResizeEvent * /*event*/)
 
 QTransform PagePreview::transformToWidget() const
 {
-    // As large as the page of the controller, in the middle of the widget.
+    // As large as the page of the controller, in the middle of the widget. Of a huge sheet the top left part.
     const QSizeF page = m_controller.wrapperView()->frame().size();
     const double factor = m_controller.mainScrollView()->magnification();
     QTransform transform;
-    transform.translate((width() - page.width() * factor) / 2, (height() - page.height() * factor) / 2);
+    transform.translate(std::max(0.0, (width() - page.width() * factor) / 2),
+        std::max(0.0, (height() - page.height() * factor) / 2));
     transform.scale(factor, factor);
     return transform;
 }

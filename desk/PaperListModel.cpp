@@ -3,20 +3,36 @@
 
 #include "desk/LengthUnit.h"
 
+#include <QSet>
+
 #include <algorithm>
+#include <utility>
 
 void PaperListModel::setPapers(const std::vector<Paper> &papers, const std::optional<QString> &chosen)
 {
-    beginResetModel();
-    m_rows.clear();
+    std::vector<Row> rows;
+    QSet<QString> names;
     for (const Paper &paper : papers) {
         // The first of two papers with one name is the one that is found by it.
-        if (paper.ppdName && rowOf(*paper.ppdName) < 0)
-            m_rows.push_back({*paper.ppdName, QBYPaper(paper)});
+        if (paper.ppdName && !names.contains(*paper.ppdName)) {
+            names.insert(*paper.ppdName);
+            rows.push_back({*paper.ppdName, QBYPaper(paper)});
+        }
     }
-    if (chosen && rowOf(*chosen) < 0)
-        m_rows.insert(m_rows.begin(), {*chosen, std::nullopt});
+    if (chosen && !names.contains(*chosen))
+        rows.insert(rows.begin(), {*chosen, std::nullopt});
+    // A reset would disturb a user who has the list open.
+    if (rows == m_rows)
+        return;
+    beginResetModel();
+    m_rows = std::move(rows);
     endResetModel();
+}
+
+bool PaperListModel::Row::operator==(const Row &other) const
+{
+    return name == other.name && paper.has_value() == other.paper.has_value()
+        && (!paper || paper->pmPaper() == other.paper->pmPaper());
 }
 
 int PaperListModel::rowOf(const QString &paperName) const

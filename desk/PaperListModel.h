@@ -37,6 +37,8 @@ private:
     struct Row {
         QString name;
         std::optional<QBYPaper> paper;
+
+        bool operator==(const Row &other) const;
     };
     [[nodiscard]] static QString textOf(const Row &row);
 

@@ -63,7 +63,7 @@ void PaperPage::choosePaper(int row)
         // A paper on which the margins leave no column brings its own.
         const double left = Preferences::leftMarginForPaperSizeLineMeasuring();
         const double right = Preferences::rightMarginForPaperSizeLineMeasuring();
-        if (left > maxMargin(paper->paperSize().width(), right)) {
+        if (!leaveColumn(left, right, paper->paperSize().width())) {
             changes.push_back({Preference::LeftMargin, paper->leftMarginInInches()});
             changes.push_back({Preference::RightMargin, paper->rightMarginInInches()});
         }

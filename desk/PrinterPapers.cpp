@@ -26,10 +26,14 @@ void PrinterPapers::refresh()
 {
     const bool wasWaiting = isWaiting();
     PrinterAnswer answer = PrintSettings::shared().printer();
-    if (PrintSettings::shared().isAsking())
+    if (PrintSettings::shared().isAsking()) {
         m_poll.start();
-    else
+        // Not yet known to be silent: the former answer stays, unless this is the first query.
+        if (answer.state == PrinterState::NotAnswering && !m_answer.papers.empty())
+            return;
+    } else {
         m_poll.stop();
+    }
     const PrinterAnswer former = std::exchange(m_answer, std::move(answer));
     if (former != m_answer || wasWaiting != isWaiting())
         Q_EMIT changed();

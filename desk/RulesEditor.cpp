@@ -146,7 +146,9 @@ void RulesEditor::apply(const Values &values)
     bool isStored = true;
     for (const Change &change : values)
         isStored = setValue(editablePreference(change.preference), change.value) && isStored;
-    if (!isStored)
+    if (isStored)
+        Q_EMIT stored();
+    else
         Q_EMIT failed(suiteFile());
     Q_EMIT changed();
 }

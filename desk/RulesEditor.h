@@ -38,6 +38,8 @@ public:
 Q_SIGNALS:
     /// A preference may have changed, here or elsewhere: read them again.
     void changed();
+    /// The user's change is on disk.
+    void stored();
     /// A value could not be stored. file: where the preferences are.
     void failed(const QString &file);
 

@@ -69,3 +69,6 @@ inline constexpr double minColumnInInches = 0.5;
 /// The largest margin, in inches, that leaves a column beside the opposite one; 0 or more. paperWidth:
 /// points.
 double maxMargin(double paperWidth, double oppositeMargin);
+
+/// Whether the margins, in inches, leave such a column. paperWidth: points.
+bool leaveColumn(double leftMargin, double rightMargin, double paperWidth);

@@ -109,7 +109,7 @@ void PrintSettings::ask()
     const bool waits = m_timeout > std::chrono::milliseconds(0);
     if (waitForAnswer(m_timeout))
         m_answer = m_pending.get();
-    else if (waits || !m_answer)
+    else if (waits || !m_answer || !m_answer->hasValue())
         m_answer = Answer(PrinterFailure::NotAnswering);
 }
 

@@ -47,7 +47,7 @@ public:
     [[nodiscard]] PrinterAnswer printer();
 
     /// The maximum wait of later calls for the printing system; 0 for a program whose windows must not wait.
-    /// Until an answer arrives, printer() then returns the former one.
+    /// Until an answer arrives, printer() then returns the printer of the former one, or none that answers.
     void setTimeout(std::chrono::milliseconds timeout) { m_timeout = timeout; }
     /// Whether a query is running whose answer the next printer() may return.
     [[nodiscard]] bool isAsking() const { return m_pending.valid(); }

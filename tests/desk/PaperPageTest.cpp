@@ -179,6 +179,15 @@ TEST_F(PaperPageTest, APaperOnWhichTheMarginsLeaveNoColumnBringsItsOwn)
     EXPECT_DOUBLE_EQ(Controller::leftMarginForPaperSizeLineMeasuring(), 3);
 }
 
+TEST_F(PaperPageTest, ARightMarginThatIsTooWideByItselfIsReplacedToo)
+{
+    Controller::setLeftMarginForPaperSizeLineMeasuring(0);
+    Controller::setRightMarginForPaperSizeLineMeasuring(7);
+    openPage();
+    choose("A5");
+    EXPECT_DOUBLE_EQ(Controller::rightMarginForPaperSizeLineMeasuring(), 0.25);
+}
+
 TEST_F(PaperPageTest, MarginsFromElsewhereThatLeaveNoColumnAreShownAndReported)
 {
     openPage();

@@ -167,6 +167,11 @@ TEST_F(RulesPageTest, AValueThatCannotBeStoredIsReportedAndTheOldOneShown)
     EXPECT_TRUE(waitUntil([&] { return notice.isVisible(); }));
     EXPECT_THAT(notice.text().toStdString(), HasSubstr("K7Q2M9X4T1.com.quillbay.sqlite3: cannot be written"));
     EXPECT_FALSE(control<QCheckBox>("speechCheckBox").isChecked());
+
+    ASSERT_TRUE(obstacle.remove());
+    click(control<QCheckBox>("speechCheckBox"));
+    EXPECT_TRUE(waitUntil([&] { return !notice.isVisible(); }));
+    EXPECT_TRUE(Controller::shouldSayWordCountOutloudOnSaveInWatchFileMode());
 }
 
 TEST_F(RulesPageTest, WithoutASpeechCommandItSaysSo)
