@@ -183,6 +183,34 @@ TEST_F(PrintSettingsTest, AQueryThatTakesLongerThanAMinuteIsGivenUpForANewOne)
     EXPECT_EQ(m_printer->questions, 2);
 }
 
+TEST_F(PrintSettingsTest, WithoutATimeoutTheFormerPrinterStandsInUntilTheNextAnswer)
+{
+    ASSERT_EQ(m_settings.printer().state, PrinterState::Answering);
+    m_settings.setTimeout(0ms);
+    m_printer->isSlow = true;
+    m_now += PrintSettings::queryInterval;
+    EXPECT_EQ(m_settings.printer().papers, cardPrinter().papers);
+    EXPECT_TRUE(m_settings.isAsking());
+    m_printer->release();
+    EXPECT_TRUE(waitUntil([this] {
+        static_cast<void>(m_settings.printer());
+        return !m_settings.isAsking();
+    }));
+}
+
+TEST_F(PrintSettingsTest, WithoutATimeoutNoFormerAnswerSaysThatThereIsNoPrinter)
+{
+    m_printer->answer = PrinterFailure::NoPrinter;
+    ASSERT_EQ(m_settings.printer().state, PrinterState::NoPrinter);
+    m_settings.setTimeout(0ms);
+    m_printer->isSlow = true;
+    m_now += PrintSettings::queryInterval;
+    // A paper that the user chose could be replaced otherwise.
+    EXPECT_EQ(m_settings.printer().state, PrinterState::NotAnswering);
+    m_printer->release();
+    EXPECT_TRUE(waitUntil([this] { return m_settings.printer().state == PrinterState::NoPrinter; }));
+}
+
 TEST_F(PrintSettingsTest, AnAnswerToSettingsThatAreGoneIsDropped)
 {
     m_printer->isSlow = true;
