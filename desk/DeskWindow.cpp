@@ -43,9 +43,9 @@ DeskWindow::DeskWindow(const QString &speechLaunchPath)
         m_ui->pageList, &QListWidget::currentRowChanged, m_ui->pageStack, &QStackedWidget::setCurrentIndex);
     addPage(*new RulesPage(m_editor, *m_ui->restoreDefaultsAction, speechLaunchPath), tr("Rules"));
     addPage(*new PaperPage(m_editor, m_papers), tr("Page"));
-    auto *const whyPage = new WhyPage;
-    addPage(*whyPage, tr("Why"));
-    connect(&m_editor, &RulesEditor::changed, whyPage, &WhyPage::followRules);
+    m_whyPage = new WhyPage;
+    addPage(*m_whyPage, tr("Why"));
+    connect(&m_editor, &RulesEditor::changed, m_whyPage, &WhyPage::followRules);
     connect(&m_editor, &RulesEditor::failed, this, [this](const QString &file) {
         setNotice(tr("%1: cannot be written, so the change is not stored. Check the permissions and the "
                      "free space of its folder.")
@@ -83,6 +83,18 @@ void DeskWindow::addPage(QWidget &page, const QString &title)
     if (m_ui->pageList->currentRow() < 0)
         m_ui->pageList->setCurrentRow(0);
     fitPageList();
+}
+
+void DeskWindow::openFiles(const QList<QUrl> &files)
+{
+    if (files.isEmpty())
+        return;
+    m_ui->pageList->setCurrentRow(m_ui->pageStack->indexOf(m_whyPage));
+    if (files.constFirst().isLocalFile())
+        m_whyPage->openFile(files.constFirst().toLocalFile());
+    else
+        setNotice(tr("%1: is not a file of this computer; copy it here first.")
+                      .arg(files.constFirst().toDisplayString()));
 }
 
 void DeskWindow::setNotice(const QString &text)

@@ -12,6 +12,7 @@
 
 #include <memory>
 
+class WhyPage;
 namespace Ui {
 class DeskWindow;
 }
@@ -28,6 +29,9 @@ public:
     /// A page at the end of the list, which the user opens by its title. The window owns it.
     void addPage(QWidget &page, const QString &title);
 
+    /// Shows the first of the files on the page "Why"; does nothing without a file.
+    void openFiles(const QList<QUrl> &files);
+
     /// A line above the pages about the state of the program; empty for none.
     void setNotice(const QString &text);
 
@@ -40,6 +44,7 @@ private:
     void restoreState();
     void fitPageList();
 
+    WhyPage *m_whyPage = nullptr; // in the stack of pages
     PrinterPapers m_papers;
     RulesEditor m_editor;
     std::unique_ptr<Ui::DeskWindow> m_ui;

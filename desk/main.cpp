@@ -9,6 +9,7 @@
 #include "speech/ApplicationExtension.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
 
 #include <cstdio>
@@ -20,10 +21,11 @@ namespace {
 constexpr int notShown = 1; // no display
 constexpr int wrongUsage = 2;
 
-constexpr char helpText[] = R"(Usage: quillbay-desk
+constexpr char helpText[] = R"(Usage: quillbay-desk [FILE]
 
 Opens Quillbay's main window, in which you set the rules of the counts. If it is
-open already, it comes to the front.
+open already, it comes to the front. With FILE, it shows why the counts of that
+text are what they are.
 
   -h, --help  print this help and exit
   --version   print the version and exit
@@ -57,6 +59,12 @@ int printText(const char *text)
     return std::fflush(stdout) == 0 ? 0 : 1;
 }
 
+int reportWrongUsage(const char *message)
+{
+    std::fprintf(stderr, "quillbay-desk: %s\nTry 'quillbay-desk --help' for more.\n", message);
+    return wrongUsage;
+}
+
 int showWindow(UniqueApplication &unique, const UniqueApplication::Request &request, bool hasBus)
 {
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
@@ -75,6 +83,7 @@ int showWindow(UniqueApplication &unique, const UniqueApplication::Request &requ
         if (window.isMinimized())
             window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
         WindowActivation::showAndActivate(window);
+        window.openFiles(wanted.files);
     };
     QObject::connect(&unique, &UniqueApplication::requested, &window, show);
     show(request);
@@ -95,12 +104,18 @@ int main(int argumentCount, char **arguments)
         std::fputs("quillbay-desk: no display for its window; set DISPLAY or WAYLAND_DISPLAY\n", stderr);
         return notShown;
     }
-    const UniqueApplication::Request request{.activationToken = takeActivationToken()};
+    UniqueApplication::Request request{.activationToken = takeActivationToken()};
     const QApplication application(argumentCount, arguments);
-    if (QApplication::arguments().size() > 1) {
-        std::fputs("quillbay-desk: takes no arguments\nTry 'quillbay-desk --help' for more.\n", stderr);
-        return wrongUsage;
-    }
+    // Without the options of Qt.
+    QStringList words = QApplication::arguments().sliced(1);
+    if (!words.isEmpty() && words.constFirst() == QStringLiteral("--"))
+        words.removeFirst();
+    else if (!words.isEmpty() && words.constFirst().startsWith(u'-'))
+        return reportWrongUsage("unknown option");
+    if (words.size() > 1)
+        return reportWrongUsage("one file at a time");
+    for (const QString &file : words)
+        request.files.append(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()));
     QApplication::setApplicationName(QStringLiteral("Quillbay")); // screen readers read it
     QApplication::setApplicationVersion(QStringLiteral(QUILLBAY_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));
