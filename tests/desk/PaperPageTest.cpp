@@ -40,7 +40,13 @@ protected:
             texts.append(box.itemText(i));
         return texts;
     }
-    [[nodiscard]] std::string state() { return control<QLabel>("stateLabel").text().toStdString(); }
+    [[nodiscard]] std::string state()
+    {
+        return control<QWidget>("PaperPage")
+            .findChild<QLabel *>(QStringLiteral("stateLabel"))
+            ->text()
+            .toStdString();
+    }
 
     /// As with the keyboard: the paper that begins with these letters.
     void choose(const char *letters)
@@ -268,7 +274,9 @@ TEST_F(SilentPrinterTest, TheWindowOpensAtOnceAndShowsThePapersWhenTheyArrive)
     const ScopedPrintSettings scope(settings);
     open(); // reaches its end only if nothing waits for the printer
     control<QListWidget>("pageList").setCurrentRow(1);
-    EXPECT_THAT(control<QLabel>("stateLabel").text().toStdString(), HasSubstr("Asking the printing system"));
+    EXPECT_THAT(
+        control<QWidget>("PaperPage").findChild<QLabel *>(QStringLiteral("stateLabel"))->text().toStdString(),
+        HasSubstr("Asking the printing system"));
     printer->release();
     EXPECT_TRUE(waitUntil([&] {
         return control<QComboBox>("paperComboBox").findText(QStringLiteral("Broadsheet (1.39 × 2.78 in)"))
@@ -289,7 +297,8 @@ TEST_F(SilentPrinterTest, APaperThatWasNeverChosenIsNamedAndCanBeChosen)
     ASSERT_EQ(Controller::paperNameForLineMeasuring(), std::nullopt);
     open();
     control<QListWidget>("pageList").setCurrentRow(1);
-    EXPECT_THAT(control<QLabel>("stateLabel").text().toStdString(),
+    EXPECT_THAT(
+        control<QWidget>("PaperPage").findChild<QLabel *>(QStringLiteral("stateLabel"))->text().toStdString(),
         HasSubstr("No paper has been chosen yet, so lines are measured on Letter."));
     auto &box = control<QComboBox>("paperComboBox");
     EXPECT_TRUE(box.currentText().startsWith(QStringLiteral("Letter")));
