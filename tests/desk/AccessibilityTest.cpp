@@ -77,7 +77,7 @@ class EveryPage : public AccessibilityTest, public ::testing::WithParamInterface
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Desk, EveryPage, ::testing::Values(0, 1));
+INSTANTIATE_TEST_SUITE_P(Desk, EveryPage, ::testing::Values(0, 1, 2));
 
 TEST_P(EveryPage, EveryControlIsReachedByTab)
 {
@@ -152,7 +152,9 @@ TEST_P(EveryPage, NothingIsCutWithLargeLetters)
         const auto *const label = qobject_cast<const QLabel *>(widget);
         const bool hasText = qobject_cast<const QAbstractButton *>(widget) || (label && !label->wordWrap())
             || qobject_cast<const QAbstractSpinBox *>(widget);
-        if (!hasText || !widget->isVisible())
+        // The name of a document may be longer than any window.
+        const bool mayBeCut = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+        if (!hasText || mayBeCut || !widget->isVisible())
             continue;
         EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << nameOf(*widget);
         EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << nameOf(*widget);
