@@ -4,6 +4,7 @@
 #include "platform/pasteboard/MediaType.h"
 #include "platform/pasteboard/Selection.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -160,14 +161,12 @@ bool ClipboardOwner::convert(const xcb_selection_request_event_t &request, xcb_a
             request, property, XCB_ATOM_ATOM, 32, static_cast<uint32_t>(targets.size()), targets.data());
         return true;
     }
-    for (const Form &form : m_forms) {
-        if (form.target != request.target)
-            continue;
-        setProperty(request, property, form.target, 8, static_cast<uint32_t>(form.bytes.size()),
-            form.bytes.constData());
-        return true;
-    }
-    return false;
+    const auto form = std::ranges::find(m_forms, request.target, &Form::target);
+    if (form == m_forms.end())
+        return false;
+    setProperty(request, property, form->target, 8, static_cast<uint32_t>(form->bytes.size()),
+        form->bytes.constData());
+    return true;
 }
 
 void ClipboardOwner::setProperty(const xcb_selection_request_event_t &request, xcb_atom_t property,

@@ -16,7 +16,7 @@
 class ClipboardOwner {
 public:
     /// Of all forms together; each fits into one property.
-    static constexpr quint64 maxBytes = 64 * 1024;
+    static constexpr quint64 maxBytes = 65'536;
 
     /// Connects to the display in the environment.
     ClipboardOwner();

@@ -108,7 +108,7 @@ qsizetype Itemizer::textEnd(qsizetype limit, qsizetype maxLength, FontFace *&fac
         // Clusters are cut at changes of attributes or direction, and at the maximum length.
         if (!isAlone)
             clusterEnd = graphemeClusterEnd(m_text.first(std::min(limit, end + maxClusterLength)), end);
-        if (m_style.fonts && !(isAlone && isAsciiSimple && units[end] <= u'~'))
+        if (m_style.fonts && (!isAlone || !isAsciiSimple || units[end] > u'~'))
             own = m_style.fonts->faceFor(m_text.sliced(end, clusterEnd - end), m_lastFace);
         if (end == m_position)
             face = own;

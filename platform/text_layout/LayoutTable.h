@@ -18,11 +18,11 @@ public:
     // The types of lookups.
     enum Substitution {
         SingleSubstitution = 1,
-        MultipleSubstitution,
-        AlternateSubstitution,
-        LigatureSubstitution,
-        ContextSubstitution,
-        ChainSubstitution,
+        MultipleSubstitution = 2,
+        AlternateSubstitution = 3,
+        LigatureSubstitution = 4,
+        ContextSubstitution = 5,
+        ChainSubstitution = 6,
         ReverseSubstitution = 8,
     };
     enum Positioning {

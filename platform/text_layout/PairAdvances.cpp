@@ -111,9 +111,9 @@ void PairAdvances::collectGlyphs(hb_set_t *glyphs) const
 {
     hb_set_add(glyphs, 0);
     for (const Block &block : blocks) {
-        for (char32_t unit = block.first; unit <= block.last; ++unit) {
+        for (char16_t unit = block.first; unit <= block.last; ++unit) {
             hb_codepoint_t glyph = 0;
-            if (m_style.glyphOf(unit, glyph) && isCandidate(static_cast<char16_t>(unit)))
+            if (m_style.glyphOf(unit, glyph) && isCandidate(unit))
                 hb_set_add(glyphs, glyph);
         }
     }

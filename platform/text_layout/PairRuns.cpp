@@ -151,8 +151,8 @@ PairRun PairRuns::makeRun(const TextRun &run, PairAdvances::Text text)
     if (!run.face || run.style.tracking < 0)
         return made;
     const bool isPrimary = run.face == run.style.fonts->primary();
-    FontChain *const fonts = isPrimary ? run.style.fonts : nullptr;
-    made.pairs = tableFor({fonts, &m_shaper.styleOf(run), text}, run.end - run.start);
+    made.pairs =
+        tableFor({isPrimary ? run.style.fonts : nullptr, &m_shaper.styleOf(run), text}, run.end - run.start);
     made.pointsPerUnit = run.style.pointSize / run.face->unitsPerEm();
     made.tracking = run.style.tracking / made.pointsPerUnit;
     return made;

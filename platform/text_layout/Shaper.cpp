@@ -125,7 +125,7 @@ const CachedWord &Shaper::wordAlone(const ShapingStyle &style, QStringView word)
     const quint64 key = keyOf(style, Entry::Alone);
     if (const CachedWord *known = m_words.find(key, word))
         return *known;
-    CachedWord &added = m_words.insert(key, word, true);
+    const CachedWord &added = m_words.insert(key, word, true);
     shape(style, word, 0, word.size(), added.advances.data(), added.flags.data());
     return added;
 }
@@ -184,7 +184,7 @@ const CachedWord &Shaper::wordBetweenSpaces(const ShapingStyle &style, QStringVi
     };
     const bool isSeparable = isSafe(1) && isSafe(length + 1) && advances[0] == style.spaceAdvance()
         && advances[length + 1] == style.spaceAdvance();
-    CachedWord &added = m_words.insert(key, word, isSeparable);
+    const CachedWord &added = m_words.insert(key, word, isSeparable);
     std::copy_n(advances.begin() + 1, length, added.advances.begin());
     std::copy_n(flags.begin() + 1, length, added.flags.begin());
     return added;
