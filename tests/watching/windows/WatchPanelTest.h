@@ -12,7 +12,7 @@
 #include "watching/windows/WatchTextFileViewController.h"
 
 /// Records the panel's messages: "close", "stop", "spins", "rests", "asked for the pop-over".
-class RecordingPresenter : public WatchTextFileViewControllerDelegate {
+class RecordingPanelPresenter : public WatchTextFileViewControllerDelegate {
 public:
     void watchTextFileViewControllerRequestedClose(WatchTextFileViewController &panel) override
     {
@@ -85,7 +85,7 @@ protected:
             labels().at(i)->setFrameSize({widths.at(i), 17});
     }
 
-    RecordingPresenter m_presenter;
+    RecordingPanelPresenter m_presenter;
     FakeDesktop m_desktop;
     std::shared_ptr<WatchTextFileViewController> m_panel;
     std::shared_ptr<Window> m_window;
