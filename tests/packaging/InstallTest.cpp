@@ -84,6 +84,7 @@ TEST_F(Install, IsComplete)
             QStringLiteral("libexec/quillbay-clipboard-keeper"),
             QStringLiteral("libexec/quillbay-counting-service"),
             QStringLiteral("libexec/quillbay-document-reader"),
+            QStringLiteral("libexec/quillbay-say"),
             QStringLiteral("libexec/quillbay-service-provider"),
             QStringLiteral("share/dbus-1/interfaces/com.quillbay.ServiceProvider.xml"),
             QStringLiteral("share/icons/hicolor/scalable/apps/com.quillbay.Quillbay.svg"),
