@@ -27,9 +27,10 @@ target_compile_definitions(quillbay_options INTERFACE
     QT_NO_KEYWORDS
     QT_NO_FOREACH)
 target_compile_options(quillbay_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-    # A unity build includes source files, whose unnamed namespaces this warning takes for those of headers.
-    $<$<BOOL:${QUILLBAY_UNITY_BUILD}>:-Wno-subobject-linkage>
+    -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+    # A unity build puts the unnamed namespaces of many files into one, which these two warnings misunderstand.
+    $<$<NOT:$<BOOL:${QUILLBAY_UNITY_BUILD}>>:-Wshadow>
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${QUILLBAY_UNITY_BUILD}>>:-Wno-subobject-linkage>
     $<$<BOOL:${QUILLBAY_WARNINGS_AS_ERRORS}>:-Werror>)
 if(QUILLBAY_SANITIZERS)
     target_compile_options(quillbay_options INTERFACE

@@ -361,7 +361,7 @@ TEST_F(SuiteFaultTest, OldValuesStayIfNoByteCanBeWritten)
 // The limit allows a part of the journal and of the file, so the write fails in the middle.
 TEST_F(SuiteFaultTest, AWriteThatFailsInTheMiddleIsRolledBack)
 {
-    for (const rlim_t limit : {600, 5'000, 9'000, 14'000, 30'000}) {
+    for (const rlim_t limit : {600U, 5'000U, 9'000U, 14'000U, 30'000U}) {
         ASSERT_TRUE(QDir(folder()).removeRecursively());
         ASSERT_TRUE(
             m_defaults.setObjects({{m_key, qint64(1)}, {QStringLiteral("long"), QString(12'000, u'x')}}));

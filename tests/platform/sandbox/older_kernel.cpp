@@ -23,8 +23,8 @@ int main(int, char **arguments)
     }
     if (missing != "landlock") {
         answer(SCMP_SYS(seccomp), EINVAL);
-        seccomp_rule_add(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1,
-            SCMP_A0_32(SCMP_CMP_EQ, static_cast<scmp_datum_t>(PR_SET_SECCOMP)));
+        const scmp_arg_cmp setsFilter{.arg = 0, .op = SCMP_CMP_EQ, .datum_a = PR_SET_SECCOMP, .datum_b = 0};
+        seccomp_rule_add_array(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1, &setsFilter);
     }
     if (seccomp_load(filter) != 0)
         return 126;

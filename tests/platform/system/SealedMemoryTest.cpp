@@ -236,8 +236,7 @@ TEST(SealedMemory, AMovedBlockKeepsBytesAndDescriptor)
 TEST(SealedMemory, DestroyingABlockClosesItsDescriptorAndMapping)
 {
     int descriptor = -1;
-    QByteArray mapping;
-    const auto isMapped = [&mapping] {
+    const auto isMapped = [] {
         QFile maps(QStringLiteral("/proc/self/maps"));
         EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
         return maps.readAll().contains("memfd:quillbay-document");

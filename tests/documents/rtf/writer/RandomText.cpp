@@ -46,7 +46,7 @@ QString RandomText::characters(size_t longest)
             text += QChar(static_cast<char16_t>(m_random()));
             break;
         case 2:
-            text += QString::fromUcs4(U"\U0001F600\U00020000\U0010FFFF" + below(3), 1);
+            text += QString::fromUcs4(&U"\U0001F600\U00020000\U0010FFFF"[below(3)], 1);
             break;
         default:
             text += QChar(static_cast<char16_t>(0x20 + below(0x5F)));
