@@ -73,7 +73,7 @@ void ClipboardOwner::serve()
     }
 }
 
-/// As the freedesktop.org specification of clipboard managers has it. Without a manager the server refuses.
+/// The protocol of clipboard managers that freedesktop.org describes. Without a manager the server refuses.
 void ClipboardOwner::askManagerToSave() const
 {
     const xcb_atom_t saveTargets = atom("SAVE_TARGETS");

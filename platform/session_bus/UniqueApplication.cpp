@@ -10,7 +10,7 @@
 
 namespace {
 
-// The names of the platform data: that of the specification, and that of programs which know only X11.
+// The names of the platform data: that of freedesktop.org, and that of programs which know only X11.
 QString tokenKey()
 {
     return QStringLiteral("activation-token");
