@@ -8,7 +8,6 @@
 #include <QString>
 
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 
 namespace {
@@ -49,19 +48,6 @@ QByteArray hexEscapes(const QByteArray &bytes)
     for (const char byte : bytes)
         escaped += "\\x" + hexadecimal(static_cast<uchar>(byte), 2).toLatin1();
     return escaped;
-}
-
-/// Keeps "..": after a symbolic link only the file system can resolve it.
-QByteArray absolutePath(const QByteArray &name)
-{
-    std::error_code error;
-    const std::string path = std::filesystem::absolute(name.toStdString(), error).string();
-    QByteArray absolute;
-    for (const QByteArray &component : QByteArray::fromStdString(path).split('/')) {
-        if (!component.isEmpty() && component != ".")
-            absolute += '/' + component;
-    }
-    return absolute.isEmpty() ? "/" : absolute;
 }
 
 } // namespace
@@ -130,5 +116,5 @@ QByteArrayList namesInList(const QByteArray &list)
 
 QByteArray urlLineOfFile(const QByteArray &name)
 {
-    return fileURLOfPath(absolutePath(name)).toEncoded() + "\r\n";
+    return fileURLOfName(name).toEncoded() + "\r\n";
 }

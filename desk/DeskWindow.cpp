@@ -91,7 +91,7 @@ void DeskWindow::openFiles(const QList<QUrl> &files)
         return;
     m_ui->pageList->setCurrentRow(m_ui->pageStack->indexOf(m_whyPage));
     if (files.constFirst().isLocalFile())
-        m_whyPage->openFile(files.constFirst().toLocalFile());
+        m_whyPage->openFile(files.constFirst());
     else
         setNotice(tr("%1: is not a file of this computer; copy it here first.")
                       .arg(files.constFirst().toDisplayString()));

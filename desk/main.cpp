@@ -2,6 +2,7 @@
 // quillbay-desk: the main window, in which the user sets the rules of the counts.
 #include "desk/DeskWindow.h"
 #include "platform/session_bus/UniqueApplication.h"
+#include "platform/system/FileURL.h"
 #include "platform/system/Processes.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/WindowActivation.h"
@@ -9,7 +10,6 @@
 #include "speech/ApplicationExtension.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QIcon>
 
 #include <cstdio>
@@ -106,16 +106,16 @@ int main(int argumentCount, char **arguments)
     }
     UniqueApplication::Request request{.activationToken = takeActivationToken()};
     const QApplication application(argumentCount, arguments);
-    // Without the options of Qt.
-    QStringList words = QApplication::arguments().sliced(1);
-    if (!words.isEmpty() && words.constFirst() == QStringLiteral("--"))
+    // Qt has removed its own options. A file name may be any bytes.
+    QByteArrayList words(arguments + 1, arguments + argumentCount);
+    if (!words.isEmpty() && words.constFirst() == "--")
         words.removeFirst();
-    else if (!words.isEmpty() && words.constFirst().startsWith(u'-'))
+    else if (!words.isEmpty() && words.constFirst().startsWith('-'))
         return reportWrongUsage("unknown option");
     if (words.size() > 1)
         return reportWrongUsage("one file at a time");
-    for (const QString &file : words)
-        request.files.append(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()));
+    for (const QByteArray &file : words)
+        request.files.append(fileURLOfName(file));
     QApplication::setApplicationName(QStringLiteral("Quillbay")); // screen readers read it
     QApplication::setApplicationVersion(QStringLiteral(QUILLBAY_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // CountedItem is one thing in a text that a statistic counted, or that it looked at and did not count, with
-// the reason. ItemReport collects them while a text is counted.
+// the reason. ItemReport hands them on while a text is counted.
 // Thread: any; values.
 #pragma once
 

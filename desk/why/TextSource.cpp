@@ -3,20 +3,19 @@
 
 #include "documents/loading/DocumentLoader.h"
 #include "documents/loading/PasteboardText.h"
+#include "platform/system/FileURL.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QUrl>
 
 #include <new>
 
 namespace {
 
-QString localFile(const QMimeData &data)
+QUrl localFile(const QMimeData &data)
 {
     for (const QUrl &url : data.urls()) {
         if (url.isLocalFile())
-            return url.toLocalFile();
+            return url;
     }
     return {};
 }
@@ -46,25 +45,24 @@ bool TextSource::canRead(const QMimeData &data)
     return !localFile(data).isEmpty() || !pasteboardOf(data).forms().empty();
 }
 
-void TextSource::readFile(const QString &path)
+void TextSource::readFile(const QUrl &file)
 {
-    const QByteArray name = QFile::encodeName(path);
-    const auto work = [name](const std::stop_token &stop) -> Outcome {
+    const auto work = [path = pathOfFileURL(file)](const std::stop_token &stop) -> Outcome {
         try {
             Result<AttributedString, DocumentError> text =
-                loadDocument(name, {.readsPdf = true, .stop = stop});
+                loadDocument(path, {.readsPdf = true, .stop = stop});
             return text ? Outcome(std::move(text).value()) : Outcome(causeText(text.error()));
         } catch (const std::bad_alloc &) {
             return memoryFailure();
         }
     };
-    start(work, QFileInfo(path).fileName());
+    start(work, lastPathComponent(file));
 }
 
 void TextSource::read(const QMimeData &data)
 {
-    if (const QString path = localFile(data); !path.isEmpty()) {
-        readFile(path);
+    if (const QUrl file = localFile(data); !file.isEmpty()) {
+        readFile(file);
         return;
     }
     const auto work = [pasteboard = pasteboardOf(data)](const std::stop_token &stop) -> Outcome {

@@ -20,7 +20,7 @@ public:
     static bool canRead(const QMimeData &data);
 
     // Both cancel what is being read. A signal reports the end, later.
-    void readFile(const QString &path);
+    void readFile(const QUrl &file);
     /// The first file among the URLs, or else the richest form.
     void read(const QMimeData &data);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desk/why/WhyPage.h"
 
+#include "platform/system/FileURL.h"
 #include "presentation/WordCounterViewController.h"
 #include "text_statistics/MeasuringSurface.h"
 #include "ui_WhyPage.h"
@@ -119,17 +120,18 @@ Statistic WhyPage::statistic() const
     return static_cast<Statistic>(m_ui->countList->currentIndex().row());
 }
 
-void WhyPage::openFile(const QString &path)
+void WhyPage::openFile(const QUrl &file)
 {
-    m_source.readFile(path);
-    showReading(QFileInfo(path).fileName());
+    m_source.readFile(file);
+    showReading(lastPathComponent(file));
 }
 
 void WhyPage::chooseFile()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open a Text"));
-    if (!path.isEmpty())
-        openFile(path);
+    const QUrl file =
+        QFileDialog::getOpenFileUrl(this, tr("Open a Text"), {}, {}, nullptr, {}, {QStringLiteral("file")});
+    if (!file.isEmpty())
+        openFile(file);
 }
 
 void WhyPage::paste()

@@ -26,7 +26,7 @@ public:
     ~WhyPage() override;
 
     /// The text appears later, from the event loop.
-    void openFile(const QString &path);
+    void openFile(const QUrl &file);
 
     /// The rules of the counts have changed.
     void followRules();

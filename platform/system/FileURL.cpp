@@ -1,12 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/FileURL.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace {
 
 bool isOnThisMachine(const QUrl &url)
 {
     const QString host = url.host();
     return url.isLocalFile() && (host.isEmpty() || host == QStringLiteral("localhost"));
+}
+
+/// Keeps "..": after a symbolic link only the file system can resolve it.
+QByteArray absolutePath(const QByteArray &name)
+{
+    std::error_code error;
+    const std::string path = std::filesystem::absolute(name.toStdString(), error).string();
+    QByteArray absolute;
+    for (const QByteArray &component : QByteArray::fromStdString(path).split('/')) {
+        if (!component.isEmpty() && component != ".")
+            absolute += '/' + component;
+    }
+    return absolute.isEmpty() ? "/" : absolute;
 }
 
 } // namespace
@@ -30,6 +46,11 @@ QUrl fileURLOfPath(const QByteArray &path)
     // QUrl does not encode these in the URLs that it makes, and treats encoded ones as different.
     constexpr const char *plain = "/!$&'()*+,;=:@[]";
     return QUrl::fromEncoded("file://" + path.toPercentEncoding(plain));
+}
+
+QUrl fileURLOfName(const QByteArray &name)
+{
+    return fileURLOfPath(absolutePath(name));
 }
 
 QString lastPathComponent(const QUrl &url)

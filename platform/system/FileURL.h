@@ -15,6 +15,9 @@ QByteArray pathOfFileURL(const QUrl &url);
 /// Equal paths give equal URLs. path: absolute; an empty path gives an empty URL.
 QUrl fileURLOfPath(const QByteArray &path);
 
+/// name: as a shell gives it, relative to the current folder or absolute.
+QUrl fileURLOfName(const QByteArray &name);
+
 /// The name of the file or folder for display, with U+FFFD for bytes that are not UTF-8. Empty if the URL
 /// does not name a file of this machine.
 QString lastPathComponent(const QUrl &url);

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What the main window does with the files that it is given.
+#include "platform/system/FileURL.h"
 #include "tests/desk/DeskTest.h"
 
+#include <QFile>
 #include <QLabel>
 #include <QStackedWidget>
+
+#include <fstream>
 
 using ::testing::HasSubstr;
 
@@ -21,6 +25,17 @@ TEST_F(DeskWindowTest, AFileIsShownOnThePageWhy)
     EXPECT_EQ(page.objectName(), QStringLiteral("WhyPage"));
     EXPECT_TRUE(waitUntil([&] {
         return page.findChild<QLabel *>(QStringLiteral("sourceLabel"))->text().contains(u"story.txt");
+    }));
+}
+
+TEST_F(DeskWindowTest, AFileMayHaveANameThatIsNotUnicode)
+{
+    const QByteArray path = QFile::encodeName(world().home()) + "/caf\xE9.txt";
+    std::ofstream(path.constData()) << "Two words.";
+    open().openFiles({fileURLOfPath(path)});
+    const auto *const page = control<QStackedWidget>("pageStack").currentWidget();
+    EXPECT_TRUE(waitUntil([&] {
+        return page->findChild<QLabel *>(QStringLiteral("sourceLabel"))->text() == u"caf\uFFFD.txt";
     }));
 }
 

@@ -47,7 +47,7 @@ protected:
     }
     void openText(const QByteArray &text)
     {
-        open().openFile(writeFile(QStringLiteral("letter.txt"), text));
+        open().openFile(QUrl::fromLocalFile(writeFile(QStringLiteral("letter.txt"), text)));
         EXPECT_TRUE(waitUntil([this] { return number(0) != u"…" && !number(0).isEmpty(); }));
         EXPECT_TRUE(waitUntil([this] { return !view().items().isEmpty(); }));
     }
@@ -220,7 +220,7 @@ TEST_F(WhyPageTest, TakesWhatIsDropped)
 
 TEST_F(WhyPageTest, SaysWhatCannotBeRead)
 {
-    open().openFile(QStringLiteral("/no/such/letter.txt"));
+    open().openFile(QUrl(QStringLiteral("file:///no/such/letter.txt")));
     EXPECT_TRUE(waitUntil([this] { return state() == "letter.txt: no such file"; }));
     EXPECT_FALSE(control<QPushButton>("cancelButton").isVisible());
 }
