@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // quillbay-clipboard-keeper: takes over what the user has copied from a window of the service provider, which
-// exits with its last window, and gives it to the desktop's clipboard manager. Where there is none it keeps
-// it until any program copies something else, or the display is gone; so there is never more than one keeper.
+// exits with its last window, and hands it to the desktop's clipboard manager. Without a manager it keeps the
+// content until another program copies something or the display closes. At most one keeper runs at a time.
 #include "platform/pasteboard/ClipboardOwner.h"
 #include "platform/system/Processes.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // UniqueApplication makes a program run once in the user's session: the first process owns a bus name, and a
-// later one passes its files to it, over org.freedesktop.Application of the Desktop Entry Specification.
-// What the program does with them is left to its owner.
+// later one passes its files to it, over the interface org.freedesktop.Application. What the
+// program does with them is left to its owner.
 // Thread: main.  Owner: main() of the program; outlived by its QCoreApplication.
 #pragma once
 
