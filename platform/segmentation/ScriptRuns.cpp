@@ -34,7 +34,7 @@ ScriptRun ScriptRuns::runAt(QStringView text, qsizetype position, quint32 before
     while (end < text.size()) {
         const char16_t unit = text.utf16()[end];
         const bool isPair = QChar::isSurrogate(unit);
-        const char32_t character = isPair ? codePointAt(text, end) : unit;
+        const char32_t character = isPair ? codePointAt(text, end) : char32_t{unit};
         const quint32 own = isPair ? scriptOf(character) : m_scripts.at(unit);
         if (own != sharedScript) {
             if (script != sharedScript && own != script)

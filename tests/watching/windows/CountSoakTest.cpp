@@ -99,7 +99,7 @@ protected:
     }
 
     const unsigned m_seed = qEnvironmentVariableIsSet("QUILLBAY_SOAK_SEED")
-        ? qEnvironmentVariableIntValue("QUILLBAY_SOAK_SEED")
+        ? static_cast<unsigned>(qEnvironmentVariableIntValue("QUILLBAY_SOAK_SEED"))
         : std::random_device()();
     std::mt19937 m_random{m_seed};
     const QString m_path = writeFile(QStringLiteral("novel.txt"), "One two three.");

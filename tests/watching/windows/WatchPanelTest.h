@@ -72,7 +72,8 @@ protected:
         m_window->setContentView(m_panel->view());
     }
 
-    [[nodiscard]] View &view() const { return *m_panel->view(); }
+    /// Loads the view, if it has not been.
+    View &view() const { return *m_panel->view(); }
     [[nodiscard]] View &statistics() const { return *m_panel->wordCounterViewController()->view(); }
     [[nodiscard]] const Labels &labels() const
     {
