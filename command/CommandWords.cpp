@@ -58,6 +58,11 @@ int reportWrongUsage(const char *command, const char *message)
     return wrongUsageStatus;
 }
 
+void print(const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
+}
+
 int printText(const char *text)
 {
     std::fputs(text, stdout);

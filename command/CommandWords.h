@@ -33,5 +33,8 @@ void reportWrongOption(int result, char *const *words);
 /// already. Returns wrongUsageStatus.
 int reportWrongUsage(const char *command, const char *message);
 
+/// Writes to standard output, whose errors show when it is flushed.
+void print(const QByteArray &bytes);
+
 /// Prints to standard output. Returns the exit status: 1 if standard output cannot be written.
 int printText(const char *text);

@@ -102,7 +102,6 @@ private:
     Result<QBYWordCounterStats, QString> countTextInService(
         const Result<AttributedString, DocumentError> &text, ProgressLine &progress);
     void fail(const QByteArray &name, const QString &cause);
-    static void print(const QByteArray &text);
 
     const CountArguments m_arguments;
     CountingRules m_rules; ///< of all files of the run
@@ -119,7 +118,7 @@ int CountCommand::run()
     if (!m_arguments.wantsService || m_arguments.wantsRules)
         m_rules = currentCountingRules();
     if (m_rules.text.localeIdentifier)
-        m_rules.text.localeIdentifier = [identifier = m_rules.text.localeIdentifier()] { return identifier; };
+        m_rules.text.fixLocale();
     const QByteArrayList names = inputNames();
     if (m_arguments.wantsRules)
         explainRules(names);
@@ -279,11 +278,6 @@ void CountCommand::fail(const QByteArray &name, const QString &cause)
 {
     m_hasFailed = true;
     reportDocumentFailure(name, cause);
-}
-
-void CountCommand::print(const QByteArray &text)
-{
-    std::fwrite(text.constData(), 1, static_cast<size_t>(text.size()), stdout);
 }
 
 } // namespace

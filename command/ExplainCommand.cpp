@@ -9,6 +9,7 @@
 #include "command/MarkedText.h"
 #include "command/NamedDocument.h"
 #include "command/ProgressLine.h"
+#include "platform/segmentation/GraphemeClusters.h"
 #include "platform/system/SystemError.h"
 #include "text_statistics/ColumnCounter.h"
 #include "text_statistics/MeasuringSurface.h"
@@ -81,21 +82,14 @@ struct ExplainOptions {
 /// At most so many code units of an item are printed in JSON.
 constexpr qsizetype maxJsonExcerptLength = 200;
 
-void print(const QByteArray &text)
-{
-    std::fwrite(text.constData(), 1, static_cast<size_t>(text.size()), stdout);
-}
-
 QByteArray jsonOf(const QByteArray &jsonFileName, QStringView text, const CountedItem &item)
 {
-    qsizetype length = std::min(item.length, maxJsonExcerptLength);
-    if (length < item.length && text[item.start + length].isLowSurrogate())
-        --length;
+    const QStringView excerpt = firstUnits(text.sliced(item.start, item.length), maxJsonExcerptLength);
     return "{\"file\":" + jsonFileName + ",\"kind\":\""
-        + statisticTable.at(static_cast<std::size_t>(item.statistic)).name + "\",\"offset\":"
-        + QByteArray::number(item.start) + ",\"length\":" + QByteArray::number(item.length) + ",\"counted\":"
-        + (item.isCounted() ? "true" : "false") + ",\"reason\":\"" + identifierOf(item.reason)
-        + "\",\"text\":" + jsonName(text.sliced(item.start, length).toUtf8()) + "}\n";
+        + statisticTable.at(static_cast<std::size_t>(item.statistic)).name
+        + "\",\"offset\":" + QByteArray::number(item.start) + ",\"length\":" + QByteArray::number(item.length)
+        + ",\"counted\":" + (item.isCounted() ? "true" : "false") + ",\"reason\":\""
+        + identifierOf(item.reason) + "\",\"text\":" + jsonName(excerpt.toUtf8()) + "}\n";
 }
 
 class ExplainCommand {
@@ -124,7 +118,7 @@ int ExplainCommand::run(const QByteArrayList &names)
 {
     runFirstLaunchStep();
     CountingRules rules = currentCountingRules();
-    rules.text.localeIdentifier = [identifier = rules.text.localeIdentifier()] { return identifier; };
+    rules.text.fixLocale();
     m_counter.emplace(rules.text, MeasuringSurface::shared().columnWidthOn(rules.page));
     for (qsizetype i = 0; i < names.size(); ++i) {
         // Every step allocates buffers as large as the document.

@@ -139,7 +139,7 @@ void ExtractCommand::extract(const QByteArray &name)
         output = jsonOf(name, document.value());
     else
         output = m_isTerminal ? printableText(text) : text.toUtf8();
-    std::fwrite(output.constData(), 1, static_cast<size_t>(output.size()), stdout);
+    print(output);
 }
 
 QByteArray ExtractCommand::jsonOf(const QByteArray &name, const ReadText &document)

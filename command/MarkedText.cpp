@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "command/MarkedText.h"
 
+#include "command/CommandWords.h"
 #include "command/FileNames.h"
+#include "platform/segmentation/GraphemeClusters.h"
 #include "platform/segmentation/Paragraphs.h"
 
 #include <algorithm>
@@ -27,10 +29,7 @@ QByteArray printablePart(QStringView text)
 /// The characters from a position on, at most so many.
 QStringView firstPart(QStringView text, qsizetype start, qsizetype end)
 {
-    qsizetype length = std::min(end - start, maxExcerptLength);
-    if (length < end - start && text[start + length].isLowSurrogate())
-        --length;
-    return text.sliced(start, length);
+    return firstUnits(text.sliced(start, end - start), maxExcerptLength);
 }
 
 QByteArray excerpt(QStringView text, qsizetype start, qsizetype end)
@@ -73,11 +72,6 @@ bool isWhiteRun(QStringView text, const CountedItem &item)
 bool isVisible(CountingReason reason)
 {
     return isCounted(reason) || reason == CountingReason::Blank || reason == CountingReason::NoIndent;
-}
-
-void printBytes(const QByteArray &bytes)
-{
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
 }
 
 QByteArray lineNumber(qsizetype line)
@@ -135,10 +129,9 @@ void MarkedText::printUpTo(qsizetype end)
         printPiece(start, m_position);
         if (m_position == end)
             return;
-        const bool isFirstOfPair =
-            m_text[m_position] == u'\r' && m_position + 1 < m_text.size() && m_text[m_position + 1] == u'\n';
+        const bool endsLine = lineEndLength(m_text, m_position) == 1; // and not the first half of CR LF
         ++m_position;
-        if (!isFirstOfPair)
+        if (endsLine)
             endLine();
     }
 }
@@ -152,20 +145,20 @@ void MarkedText::printPiece(qsizetype start, qsizetype end)
 void MarkedText::print(const QByteArray &bytes)
 {
     if (!std::exchange(m_isLineStarted, true))
-        printBytes(lineNumber(m_line) + "  ");
-    printBytes(bytes);
+        ::print(lineNumber(m_line) + "  ");
+    ::print(bytes);
 }
 
 void MarkedText::endLine()
 {
-    printBytes(std::exchange(m_isLineStarted, false) ? "\n" : lineNumber(m_line) + '\n');
+    ::print(std::exchange(m_isLineStarted, false) ? "\n" : lineNumber(m_line) + '\n');
     ++m_line;
     for (std::size_t i = 0; i < m_notes.size(); ++i) {
         const Note note = std::exchange(m_notes[i], {});
         if (note.count == 0)
             continue;
         const qsizetype more = note.count - note.excerpts.size();
-        printBytes(noteIndent() + note.excerpts.join(' ')
+        ::print(noteIndent() + note.excerpts.join(' ')
             + (more > 0 ? " and " + QByteArray::number(more) + " more" : QByteArray()) + ": "
             + explanationOf(static_cast<CountingReason>(i), m_rules).toUtf8() + '\n');
     }
@@ -185,7 +178,7 @@ void MarkedText::addAlone(const CountedItem &item)
     skipTo(item.start);
     const qsizetype end = markedEnd(m_text, item);
     const qsizetype from = startOfContext(m_text, item.start);
-    printBytes(lineNumber(m_line) + "  " + printablePart(m_text.sliced(from, item.start - from))
+    ::print(lineNumber(m_line) + "  " + printablePart(m_text.sliced(from, item.start - from))
         + marked(item, excerpt(m_text, item.start, end)) + printablePart(contextFrom(m_text, end)) + '\n'
         + noteIndent() + explanationOf(item.reason, m_rules).toUtf8() + '\n');
 }
@@ -194,8 +187,8 @@ void MarkedText::addAlone(const CountedItem &item)
 void MarkedText::skipTo(qsizetype end)
 {
     for (; m_position < end; ++m_position) {
-        const bool isFirstOfPair =
-            m_text[m_position] == u'\r' && m_position + 1 < m_text.size() && m_text[m_position + 1] == u'\n';
-        m_line += isLineEnd(m_text[m_position].unicode()) && !isFirstOfPair ? 1 : 0;
+        const bool endsLine =
+            isLineEnd(m_text[m_position].unicode()) && lineEndLength(m_text, m_position) == 1;
+        m_line += endsLine ? 1 : 0;
     }
 }

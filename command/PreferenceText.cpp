@@ -12,7 +12,6 @@ namespace {
 
 using Parsed = Result<DefaultsValue, QString>;
 
-constexpr double pointsPerInch = 72;
 constexpr int significantDigits = 10; // of a margin; its last bits come from units
 
 QByteArray numberText(double number)
@@ -84,9 +83,9 @@ Parsed parse(const MarginAccessors &accessors, const QString &text)
     double inches = match.captured(1).replace(u',', u'.').toDouble();
     const QString unit = match.captured(2);
     if (unit == QStringLiteral("mm"))
-        inches /= 25.4;
+        inches /= millimetresPerInch;
     else if (unit == QStringLiteral("cm"))
-        inches /= 2.54;
+        inches /= millimetresPerInch / 10;
     else if (unit == QStringLiteral("pt"))
         inches /= pointsPerInch;
     const double max = maxMargin(widthOfPage(), accessors.getOpposite());

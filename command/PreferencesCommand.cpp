@@ -58,6 +58,11 @@ Rows allRows()
     return rows;
 }
 
+QByteArray nameOf(const EditablePreference &row)
+{
+    return {row.name.data(), row.name.size()};
+}
+
 int reportUnknown(const QByteArray &name)
 {
     std::fprintf(stderr, "quillbay: no preference is called '%s'; 'quillbay preferences' lists them\n",
@@ -67,8 +72,8 @@ int reportUnknown(const QByteArray &name)
 
 void report(const EditablePreference &row, const QString &problem)
 {
-    std::fprintf(stderr, "quillbay: %s: %s\n", QByteArray(row.name.data(), row.name.size()).constData(),
-        printableName(problem.toUtf8()).constData());
+    std::fprintf(
+        stderr, "quillbay: %s: %s\n", nameOf(row).constData(), printableName(problem.toUtf8()).constData());
 }
 
 /// The exit status.
@@ -105,11 +110,6 @@ int reset(const Rows &rows)
         status = std::max(status, value ? store(*row, *value) : 1);
     }
     return status;
-}
-
-QByteArray nameOf(const EditablePreference &row)
-{
-    return {row.name.data(), row.name.size()};
 }
 
 QByteArray table(const Rows &rows)

@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "desk/LengthUnit.h"
 
+#include "platform/printing/Paper.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
 #include <cmath>
-
-namespace {
-
-constexpr double pointsPerInch = 72;
-constexpr double millimetresPerInch = 25.4;
-
-} // namespace
 
 LengthUnit::LengthUnit(bool isMetric)
     : m_isMetric(isMetric)

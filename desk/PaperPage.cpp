@@ -3,6 +3,7 @@
 
 #include "desk/ControlText.h"
 #include "desk/PageSize.h"
+#include "preferences/PrintSettingsExtension.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "ui_PaperPage.h"
 
@@ -93,7 +94,8 @@ void PaperPage::showPapers()
     const std::optional<QString> chosen = QBYUserDefaultsController::paperNameForLineMeasuring();
     const std::vector<Paper> &papers = m_papers.answer().papers;
     m_model.setPapers(papers, chosen);
-    m_ui->paperComboBox->setCurrentIndex(m_model.rowOf(chosen.value_or(QStringLiteral("Letter"))));
+    m_ui->paperComboBox->setCurrentIndex(
+        m_model.rowOf(chosen.value_or(QBYExtension::paperNameWithoutChoice())));
 }
 
 void PaperPage::showMargin(QDoubleSpinBox &spinBox, Preference preference, double paperWidth)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desk/RulesEditor.h"
 
+#include "preferences/PrintSettingsExtension.h"
 #include "preferences/QBYUserDefaultsController.h"
 
 #include <QFile>
@@ -132,7 +133,8 @@ RulesEditor::Values RulesEditor::currentValues()
     Values values;
     for (const EditablePreference &row : editablePreferences()) {
         // A paper that was never chosen counts as this one, and cannot be unset.
-        values.push_back({row.preference, valueOf(row).value_or(DefaultsValue(QStringLiteral("Letter")))});
+        values.push_back(
+            {row.preference, valueOf(row).value_or(DefaultsValue(QBYExtension::paperNameWithoutChoice()))});
     }
     return values;
 }

@@ -12,7 +12,6 @@ namespace {
 using Controller = QBYUserDefaultsController;
 
 constexpr qint64 maxMinimumOfSentences = 1000;
-constexpr double pointsInAnInch = 72;
 
 constexpr std::array editable{
     EditablePreference{Preference::ShowCharacterCount, QLatin1StringView("show-characters"),
@@ -141,10 +140,10 @@ std::optional<DefaultsValue> defaultValueOf(
 
 double maxMargin(double paperWidth, double oppositeMargin)
 {
-    return std::max(0.0, paperWidth / pointsInAnInch - std::max(0.0, oppositeMargin) - minColumnInInches);
+    return std::max(0.0, paperWidth / pointsPerInch - std::max(0.0, oppositeMargin) - minColumnInInches);
 }
 
 bool leaveColumn(double leftMargin, double rightMargin, double paperWidth)
 {
-    return leftMargin + rightMargin + minColumnInInches <= paperWidth / pointsInAnInch;
+    return leftMargin + rightMargin + minColumnInInches <= paperWidth / pointsPerInch;
 }

@@ -36,7 +36,7 @@ std::optional<QBYPaper> QBYExtension::currentPaperObject(PrintSettings &printSet
     std::optional<QString> name = preference ? preference.value() : std::nullopt;
     if (!name) {
         LogChannel::standard().error(u"Error retrieving current paper name. Defaulting to Letter.");
-        name = QStringLiteral("Letter");
+        name = paperNameWithoutChoice();
     }
     // A single answer for both lookups: between two, the printer could start to answer, with a list that has
     // the paper.

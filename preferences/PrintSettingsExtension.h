@@ -11,6 +11,12 @@ class PrintSettings;
 
 namespace QBYExtension {
 
+/// The paper of those who have chosen none.
+inline QString paperNameWithoutChoice()
+{
+    return QStringLiteral("Letter");
+}
+
 /// The current printer's papers in its own order; the built-in catalogue if there is no printer or it does
 /// not answer.
 std::vector<QBYPaper> getAllPaperObjects(PrintSettings &printSettings);

@@ -6,12 +6,6 @@
 
 #include <utility>
 
-namespace {
-
-constexpr double pointsPerInch = 72;
-
-} // namespace
-
 QBYPaper::QBYPaper(Paper pmPaper)
     : m_pmPaper(std::move(pmPaper))
 {

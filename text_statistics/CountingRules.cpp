@@ -8,6 +8,11 @@
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
 
+void TextRules::fixLocale()
+{
+    localeIdentifier = [identifier = localeIdentifier()] { return identifier; };
+}
+
 bool TextRules::areLoneUnitsCounted() const
 {
     return localeIdentifier() != QStringLiteral("en_US");

@@ -21,6 +21,9 @@ struct TextRules {
     /// Whether a sentence counts only if it ends in a full stop, question mark or exclamation mark.
     bool sentencesNeedTerminalPunctuation = false;
 
+    /// Asks for the locale once, so that any thread may count by the rules and all of them count alike.
+    void fixLocale();
+
     /// Whether a word of one UTF-16 code unit counts at this moment; a, I, O and x always do.
     [[nodiscard]] bool areLoneUnitsCounted() const;
     /// word: as Segmenter finds it.

@@ -52,10 +52,8 @@ ShownText::ShownText(const QString &text)
             shown.begin() + at, shown.begin() + at + length, std::back_inserter(m_string), shownForm);
         at += length;
         isLineOpen = at < m_length && isLineEnd(shown[at].unicode());
-        if (isLineOpen) {
-            const bool isPair = shown[at] == u'\r' && at + 1 < m_length && shown[at + 1] == u'\n';
-            at += isPair ? 2 : 1;
-        }
+        if (isLineOpen)
+            at += lineEndLength(shown, at);
     }
 }
 

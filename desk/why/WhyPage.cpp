@@ -2,6 +2,7 @@
 #include "desk/why/WhyPage.h"
 
 #include "platform/system/FileURL.h"
+#include "presentation/WaitNotice.h"
 #include "presentation/WordCounterViewController.h"
 #include "text_statistics/MeasuringSurface.h"
 #include "ui_WhyPage.h"
@@ -38,7 +39,7 @@ WhyPage::WhyPage(QWidget *parent)
     m_ui->setupUi(this);
     fillCountList();
     m_silence.setSingleShot(true);
-    m_silence.setInterval(10'000);
+    m_silence.setInterval(WaitNotice::delay);
     connect(&m_silence, &QTimer::timeout, this,
         [this] { showState(tr("The counting service does not answer. Is Quillbay installed completely?")); });
 
@@ -227,7 +228,7 @@ void WhyPage::findMarks()
     if (!m_text)
         return;
     CountingRules rules = currentCountingRules();
-    rules.text.localeIdentifier = [identifier = rules.text.localeIdentifier()] { return identifier; };
+    rules.text.fixLocale();
     const ExplainedText explained{*m_text, rules.text, MeasuringSurface::shared().columnWidthOn(rules.page)};
     m_marking.emplace(QStringLiteral("com.quillbay.desk.marking"),
         [explained, length = m_ui->textView->shownText().length(), wanted = statistic()](

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desk/why/WhyTextView.h"
 
+#include "platform/segmentation/GraphemeClusters.h"
+
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -82,7 +84,7 @@ QString WhyTextView::sentenceOn(std::size_t index) const
     const CountedItem item = m_items->at(index);
     QString text = cursorOf(item).selectedText().simplified();
     if (text.size() > maxLength)
-        text = text.first(text[maxLength - 1].isHighSurrogate() ? maxLength - 1 : maxLength) + u'…';
+        text = firstUnits(text, maxLength).toString() + u'…';
     const QString reason = explanationOf(item.reason, m_rules);
     return item.isCounted() ? tr("“%1” is counted: %2.").arg(text, reason)
                             : tr("“%1” is not counted: %2.").arg(text, reason);

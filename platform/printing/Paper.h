@@ -9,7 +9,9 @@
 #include <cmath>
 #include <optional>
 
-constexpr double pointsPerMillimetre = 72 / 25.4;
+constexpr double pointsPerInch = 72;
+constexpr double millimetresPerInch = 25.4;
+constexpr double pointsPerMillimetre = pointsPerInch / millimetresPerInch;
 
 /// Points (1/72 inch).
 struct PaperMargins {

@@ -155,6 +155,13 @@ struct Cluster {
 
 } // namespace
 
+QStringView firstUnits(QStringView text, qsizetype max)
+{
+    if (text.size() <= max)
+        return text;
+    return text.first(text[max].isLowSurrogate() ? max - 1 : max);
+}
+
 char32_t codePointAt(QStringView text, qsizetype position)
 {
     const char16_t unit = text.utf16()[position];

@@ -29,5 +29,8 @@ bool isEmojiCluster(QStringView cluster);
 /// Default_Ignorable_Code_Point: invisible if the font has no glyph for it.
 bool isDefaultIgnorable(char32_t character);
 
+/// The first code units of a text, at most max of them (1 or more), without half a surrogate pair.
+QStringView firstUnits(QStringView text, qsizetype max);
+
 /// The code point at a position (0 to the text's length - 1); an unpaired surrogate gives U+FFFD.
 char32_t codePointAt(QStringView text, qsizetype position);

@@ -28,6 +28,12 @@ bool isLineEnd(char16_t unit)
     return isParagraphSeparator(unit) || unit == u'\u2028';
 }
 
+qsizetype lineEndLength(QStringView text, qsizetype position)
+{
+    const char16_t *units = text.utf16();
+    return units[position] == u'\r' && position + 1 < text.size() && units[position + 1] == u'\n' ? 2 : 1;
+}
+
 Paragraph paragraphAt(QStringView text, qsizetype start)
 {
     const char16_t *units = text.utf16();
@@ -39,9 +45,7 @@ Paragraph paragraphAt(QStringView text, qsizetype start)
     while (end < text.size() && !isParagraphSeparator(units[end]))
         ++end;
     const qsizetype contentLength = end - start;
-    if (end < text.size()) {
-        const bool isPair = units[end] == u'\r' && end + 1 < text.size() && units[end + 1] == u'\n';
-        end += isPair ? 2 : 1;
-    }
+    if (end < text.size())
+        end += lineEndLength(text, end);
     return {start, contentLength, end - start};
 }

@@ -11,6 +11,9 @@ bool isParagraphSeparator(char16_t unit);
 /// A paragraph separator or U+2028.
 bool isLineEnd(char16_t unit);
 
+/// How many code units the line end at a position has: 2 for CR LF, otherwise 1.
+qsizetype lineEndLength(QStringView text, qsizetype position);
+
 /// One paragraph of a text: its start, and its length without and with its separator, in UTF-16 code units.
 /// The last paragraph may lack a separator; an empty line is an empty paragraph.
 struct Paragraph {
