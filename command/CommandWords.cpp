@@ -5,11 +5,59 @@
 
 #include <getopt.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <vector>
 
-std::optional<CommandWords> CommandWords::parse(
-    const char *command, const QByteArrayList &known, int wordCount, char **words)
+namespace {
+
+/// What getopt_long() returns for the first option of a page; above all letters.
+constexpr int firstOption = 0x100;
+
+struct OptionTable {
+    std::vector<option> names; ///< refer to the page
+    QByteArray letters = ":"; ///< a missing argument is told apart from an unknown option
+};
+
+OptionTable optionTable(const ManualPage &page)
+{
+    OptionTable table;
+    for (const ManualOption &row : page.options) {
+        const int hasArgument = row.placeholder ? required_argument : no_argument;
+        table.names.push_back(
+            {row.name, hasArgument, nullptr, firstOption + static_cast<int>(table.names.size())});
+        if (row.letter) {
+            table.letters += row.letter;
+            table.letters += row.placeholder ? ":" : "";
+        }
+    }
+    table.names.push_back({});
+    return table;
+}
+
+const ManualOption &optionFor(const ManualPage &page, int result)
+{
+    if (result >= firstOption)
+        return page.options.at(static_cast<size_t>(result - firstOption));
+    return *std::find_if(page.options.begin(), page.options.end(),
+        [result](const ManualOption &row) { return row.letter == result; });
+}
+
+// getopt_long() must not report errors itself: it prints words as they are, even with control characters for
+// the terminal.
+QByteArray wrongOption(int result, char *const *words)
+{
+    // In a group of letters such as -xyz, optopt has the letter, while optind only has the group.
+    const bool isLetter = optopt > 0 && optopt < 0x80;
+    const QByteArray word =
+        isLetter ? '-' + QByteArray(1, static_cast<char>(optopt)) : QByteArray(words[optind - 1]);
+    return (result == ':' ? "missing argument for option '" : "invalid option '") + printableName(word)
+        + '\'';
+}
+
+} // namespace
+
+std::optional<CommandWords> CommandWords::parse(const ManualPage &page, int wordCount, char **words)
 {
     // getopt_long() expects the program's name first.
     char programName[] = "quillbay";
@@ -17,44 +65,36 @@ std::optional<CommandWords> CommandWords::parse(
     argumentVector.insert(argumentVector.end(), words, words + wordCount);
     argumentVector.push_back(nullptr);
 
-    std::vector<option> options{{"help", no_argument, nullptr, 'h'}};
-    for (const QByteArray &name : known)
-        options.push_back({name.constData(), no_argument, nullptr, 0x100});
-    options.push_back({});
-
+    const OptionTable table = optionTable(page);
     CommandWords parsed;
     opterr = 0;
     optind = 0; // resets the state of an earlier call
-    int index = 0;
-    for (int word;
-         (word = getopt_long(wordCount + 1, argumentVector.data(), "h", options.data(), &index)) != -1;) {
-        if (word == '?') {
-            reportWrongOption(word, argumentVector.data());
-            reportWrongUsage(command, nullptr);
+    for (int result; (result = getopt_long(wordCount + 1, argumentVector.data(), table.letters.constData(),
+                          table.names.data(), nullptr))
+         != -1;) {
+        if (result == '?' || result == ':') {
+            reportWrongUsage(page.command, wrongOption(result, argumentVector.data()));
             return std::nullopt;
         }
-        parsed.switches.append(word == 'h' ? "help" : options[static_cast<size_t>(index)].name);
+        const ManualOption &given = optionFor(page, result);
+        parsed.switches.append(given.name);
+        parsed.values.append(QByteArray(given.placeholder ? optarg : ""));
     }
     for (int i = optind; i <= wordCount; ++i)
         parsed.operands.append(argumentVector[static_cast<size_t>(i)]);
     return parsed;
 }
 
-void reportWrongOption(int result, char *const *words)
+std::optional<QByteArray> CommandWords::valueOf(const QByteArray &name) const
 {
-    // In a group of letters such as -xyz, optopt has the letter, while optind only has the group.
-    const bool isLetter = optopt > 0 && optopt < 0x80;
-    const QByteArray word =
-        isLetter ? '-' + QByteArray(1, static_cast<char>(optopt)) : QByteArray(words[optind - 1]);
-    std::fprintf(stderr, "quillbay: %s '%s'\n",
-        result == ':' ? "missing argument for option" : "invalid option", printableName(word).constData());
+    const qsizetype index = switches.indexOf(name);
+    return index < 0 ? std::nullopt : std::optional(values.at(index));
 }
 
-int reportWrongUsage(const char *command, const char *message)
+int reportWrongUsage(const char *command, const QByteArray &message)
 {
-    if (message)
-        std::fprintf(stderr, "quillbay: %s\n", message);
-    std::fprintf(stderr, "Try 'quillbay %s --help' for more.\n", command);
+    const QByteArray name = command ? QByteArray("quillbay ") + command : "quillbay";
+    std::fprintf(stderr, "quillbay: %s\nTry '%s --help' for more.\n", message.constData(), name.constData());
     return wrongUsageStatus;
 }
 
@@ -63,8 +103,8 @@ void print(const QByteArray &bytes)
     std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
 }
 
-int printText(const char *text)
+int printText(const QByteArray &text)
 {
-    std::fputs(text, stdout);
+    print(text);
     return std::fflush(stdout) == 0 ? 0 : 1;
 }

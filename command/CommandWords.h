@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// CommandWords are the words after "quillbay COMMAND", for commands that have only switches and operands;
-// with them the messages for wrong usage, for all commands.
-// Thread: main; a value.
+// CommandWords are the words after "quillbay COMMAND": the options that the command's page of the manual
+// lists, and operands; with them the messages for wrong usage, for all commands. Thread: main; a value.
 #pragma once
+
+#include "manual/ManualPage.h"
 
 #include <QByteArray>
 #include <QByteArrayList>
@@ -14,27 +15,23 @@ inline constexpr int wrongUsageStatus = 2;
 
 struct CommandWords {
     QByteArrayList switches; ///< without dashes, as "clipboard"; "help" also for -h
+    QByteArrayList values; ///< the argument of each switch; empty for those that take none
     QByteArrayList operands; ///< in their order, including "-"
 
     [[nodiscard]] bool wantsHelp() const { return switches.contains("help"); }
+    /// Of the first such switch; absent if it was not given.
+    [[nodiscard]] std::optional<QByteArray> valueOf(const QByteArray &name) const;
 
-    /// known: the switches of the command besides --help. Absent after an unknown switch, which is reported
-    /// on standard error.
-    static std::optional<CommandWords> parse(
-        const char *command, const QByteArrayList &known, int wordCount, char **words);
+    /// Absent after an unknown switch or a missing argument, which is reported on standard error.
+    static std::optional<CommandWords> parse(const ManualPage &page, int wordCount, char **words);
 };
 
-/// Reports an error of getopt_long() on standard error. getopt_long() must not do so itself (opterr is 0): it
-/// prints words as they are, even with control characters for the terminal. result: its result, ':' if an
-/// argument is missing.
-void reportWrongOption(int result, char *const *words);
-
-/// Reports wrong usage on standard error and points to the help. message: null if it has been reported
-/// already. Returns wrongUsageStatus.
-int reportWrongUsage(const char *command, const char *message);
+/// Reports wrong usage on standard error and points to the help. command: null for quillbay itself. Returns
+/// wrongUsageStatus.
+int reportWrongUsage(const char *command, const QByteArray &message);
 
 /// Writes to standard output, whose errors show when it is flushed.
 void print(const QByteArray &bytes);
 
 /// Prints to standard output. Returns the exit status: 1 if standard output cannot be written.
-int printText(const char *text);
+int printText(const QByteArray &text);

@@ -24,6 +24,4 @@ struct CountArguments {
     /// Parses the words after "quillbay count". Absent after wrong usage, which is reported on standard
     /// error.
     static std::optional<CountArguments> fromWords(int wordCount, char **words);
-
-    static const char *helpText();
 };

@@ -13,6 +13,8 @@
 #include "command/ServiceCounter.h"
 #include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "platform/files/FileContents.h"
 #include "platform/system/OwnedDescriptor.h"
 #include "platform/system/Processors.h"
@@ -288,6 +290,6 @@ int runCountCommand(int wordCount, char **words)
     if (!arguments)
         return wrongUsageStatus;
     if (arguments->wantsHelp)
-        return printText(CountArguments::helpText());
+        return printText(helpText(countPage()));
     return CountCommand(*arguments).run();
 }

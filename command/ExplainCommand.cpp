@@ -9,6 +9,8 @@
 #include "command/MarkedText.h"
 #include "command/NamedDocument.h"
 #include "command/ProgressLine.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "platform/segmentation/GraphemeClusters.h"
 #include "platform/system/SystemError.h"
 #include "text_statistics/ColumnCounter.h"
@@ -23,35 +25,6 @@
 #include <vector>
 
 namespace {
-
-constexpr char explainHelp[] =
-    R"(Usage: quillbay explain [--words] [--sentences] [--paragraphs] [--indents] [--lines]
-                        [--hard-line-breaks] [--characters] [--all-characters]
-                        [--not-counted] [--json] [--as-text] [FILE…]
-
-Prints the counts of each FILE as 'quillbay count' does, and why they are what they
-are. Without options, prints each count with what was not counted and why. With the
-name of a count, prints the whole text, with what counted in [square brackets] and
-what did not in {curly ones}. Without FILE, or if FILE is -, reads standard input.
-FILE can be of every kind that 'quillbay count' counts.
-
-  --words, --sentences, --paragraphs, --indents, --lines, --hard-line-breaks,
-  --characters, --all-characters
-                 explain this count; several are explained one after another
-  --not-counted  print only what was not counted, with the text around it
-  --json         print a JSON object on a line of its own for each word, sentence and
-                 so on (of all counts, or of those that are named): the file, the kind
-                 of the count, the offset and length in UTF-16 code units, whether it
-                 was counted, the reason as a fixed identifier, and the text, of which
-                 at most 200 code units. A line as of 'quillbay count --json' follows
-  --as-text      read every file as plain text, whatever it is
-  -h, --help     print this help and exit
-
-'quillbay count --explain-rules' prints the rules themselves: your preferences and
-your locale.
-
-Exit status: 0 if all files were explained, 1 if any was not, 2 after wrong usage.
-)";
 
 struct StatisticSwitch {
     const char *name;
@@ -236,14 +209,11 @@ ExplainOptions optionsOf(const CommandWords &words)
 
 int runExplainCommand(int wordCount, char **words)
 {
-    QByteArrayList known{"json", "not-counted", "as-text"};
-    for (const StatisticSwitch &row : statisticSwitches)
-        known.append(row.name);
-    const std::optional<CommandWords> wanted = CommandWords::parse("explain", known, wordCount, words);
+    const std::optional<CommandWords> wanted = CommandWords::parse(explainPage(), wordCount, words);
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printText(explainHelp);
+        return printText(helpText(explainPage()));
     ExplainCommand command(optionsOf(*wanted));
     return command.run(wanted->operands.isEmpty() ? QByteArrayList{standardInputName} : wanted->operands);
 }

@@ -7,6 +7,8 @@
 #include "command/NamedDocument.h"
 #include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "platform/files/FileContents.h"
 #include "platform/system/SystemError.h"
 #include "text_statistics/TextCounter.h"
@@ -19,28 +21,6 @@
 #include <utility>
 
 namespace {
-
-constexpr char extractHelp[] = R"(Usage: quillbay extract [--json] [--as-text] [FILE…]
-
-Prints the text of each FILE that 'quillbay count' counts, in UTF-8: without
-markup, headers and hidden text, with the notes behind the body. Without FILE, or
-if FILE is -, reads standard input. FILE can be of every kind that
-'quillbay count' counts.
-
-Nothing is added between the files. Pictures and other attachments are the
-character U+FFFC, which is counted. On a terminal, control characters other than
-tabs and line ends are escaped, as \x1b; elsewhere they are printed as they are.
-
-  --json      print a JSON object on a line of its own for each file: its name,
-              its MIME type, the text, the length of the text in UTF-16 code
-              units, and the paragraphs. Each has its offset and its length
-              without the line end, in UTF-16 code units and in bytes of UTF-8,
-              and its counts, which add up to those of 'quillbay count'
-  --as-text   read every file as plain text, whatever it is
-  -h, --help  print this help and exit
-
-Exit status: 0 if all files were printed, 1 if any was not, 2 after wrong usage.
-)";
 
 struct ReadText {
     DocumentKind kind;
@@ -177,12 +157,11 @@ void ExtractCommand::fail(const QByteArray &name, const QString &cause)
 
 int runExtractCommand(int wordCount, char **words)
 {
-    const std::optional<CommandWords> wanted =
-        CommandWords::parse("extract", {"json", "as-text"}, wordCount, words);
+    const std::optional<CommandWords> wanted = CommandWords::parse(extractPage(), wordCount, words);
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printText(extractHelp);
+        return printText(helpText(extractPage()));
     const ReadAs readAs = wanted->switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind;
     ExtractCommand command(wanted->switches.contains("json"), readAs);
     return command.run(wanted->operands.isEmpty() ? QByteArrayList{standardInputName} : wanted->operands);

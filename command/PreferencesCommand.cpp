@@ -5,6 +5,8 @@
 #include "command/FileNames.h"
 #include "command/FirstLaunchStep.h"
 #include "command/PreferenceText.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "preferences/QBYUserDefaultsController.h"
 
 #include <algorithm>
@@ -12,41 +14,6 @@
 #include <vector>
 
 namespace {
-
-constexpr char preferencesHelp[] = R"(Usage: quillbay preferences [--json] [NAME]
-       quillbay preferences NAME VALUE
-       quillbay preferences --reset NAME…
-       quillbay preferences --reset-all
-
-Prints the rules of the counts, or the one called NAME; sets NAME to VALUE; or gives
-rules the values of a new user. Open windows show what you want at once; their
-numbers follow at the next count.
-
-  show-characters                  on or off: show the characters; also sets the
-                                   next one
-  show-characters-with-whitespace  on or off
-  show-sentences                   on or off
-  show-lines                       on or off
-  show-hard-line-breaks            on or off
-  show-paragraphs                  on or off
-  show-indented-paragraphs         on or off
-  minimum-sentences                0 to 1000: paragraphs with fewer sentences are
-                                   not counted
-  terminal-punctuation             on or off: count only sentences that end in a
-                                   full stop, question mark or exclamation mark
-  speak-word-count                 on or off: speak the words of a watched file
-                                   when their number changes
-  paper                            a paper of your printer, such as A4 or Letter
-  left-margin, right-margin        such as 1in, 25.4mm, 2.5cm or 72pt, at most so
-                                   wide that a column of half an inch is left
-
-  --json       print a JSON object; margins are in inches
-  --reset      reset the rules that are named
-  --reset-all  reset all rules
-  -h, --help   print this help and exit
-
-Exit status: 0, 1 if a rule could not be stored, 2 after wrong usage.
-)";
 
 using Rows = std::vector<const EditablePreference *>;
 
@@ -176,12 +143,11 @@ int run(const CommandWords &words)
 
 int runPreferencesCommand(int wordCount, char **words)
 {
-    const std::optional<CommandWords> wanted =
-        CommandWords::parse("preferences", {"json", "reset", "reset-all"}, wordCount, words);
+    const std::optional<CommandWords> wanted = CommandWords::parse(preferencesPage(), wordCount, words);
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printText(preferencesHelp);
+        return printText(helpText(preferencesPage()));
     if (const char *const misuse = misuseOf(*wanted))
         return reportWrongUsage("preferences", misuse);
     const bool prints = wanted->operands.size() < 2 && !wanted->switches.contains("reset")

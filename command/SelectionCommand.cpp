@@ -3,26 +3,12 @@
 #include "command/CommandWords.h"
 #include "command/Commands.h"
 #include "command/ServiceCommand.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
 
 namespace {
-
-constexpr char selectionHelp[] = R"(Usage: quillbay selection [--clipboard]
-
-Opens a small window with the counts of the text that is selected in any
-application. Meant for a keyboard shortcut: errors are reported in a desktop
-notification as well as on standard error.
-
-Some Wayland desktops pass selections to X11 programs, such as this one, only
-while an X11 program has the focus. On those, wl-paste is used if it is installed
-(package wl-clipboard).
-
-  --clipboard  use the text that was copied last instead
-  -h, --help   print this help and exit
-
-Exit status: 0 if the window has opened, 1 if not, 2 after wrong usage.
-)";
 
 int openWindow(SelectionName name)
 {
@@ -39,12 +25,11 @@ int openWindow(SelectionName name)
 
 int runSelectionCommand(int wordCount, char **words)
 {
-    const std::optional<CommandWords> wanted =
-        CommandWords::parse("selection", {"clipboard"}, wordCount, words);
+    const std::optional<CommandWords> wanted = CommandWords::parse(selectionPage(), wordCount, words);
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printText(selectionHelp);
+        return printText(helpText(selectionPage()));
     if (!wanted->operands.isEmpty())
         return reportWrongUsage("selection", "selection takes no file; use 'quillbay text FILE'");
     return openWindow(

@@ -6,22 +6,12 @@
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
 #include "documents/rtfd/RtfdWriter.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 
 #include <new>
 
 namespace {
-
-constexpr char textHelp[] = R"(Usage: quillbay text [FILE]
-
-Opens a small window with the counts of FILE. Without FILE, or if FILE is -, reads
-standard input. FILE can be plain text in any encoding, RTF, RTFD, a web page, a
-Word document, an OpenDocument text, an EPUB or a PDF file, as for
-'quillbay count'.
-
-  -h, --help  print this help and exit
-
-Exit status: 0 if the window has opened, 1 if not, 2 after wrong usage.
-)";
 
 /// As flat RTFD, which keeps attributes and attachments, beside the file, whose name the window gets.
 Result<Pasteboard, QString> pasteboardOf(const QByteArray &name)
@@ -53,11 +43,11 @@ int openWindow(const QByteArray &name)
 
 int runTextCommand(int wordCount, char **words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse("text", {}, wordCount, words);
+    const std::optional<CommandWords> wanted = CommandWords::parse(textPage(), wordCount, words);
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printText(textHelp);
+        return printText(helpText(textPage()));
     if (wanted->operands.size() > 1)
         return reportWrongUsage("text", "one file at a time");
     const QByteArray name = wanted->operands.isEmpty() ? standardInputName : wanted->operands.first();

@@ -5,6 +5,8 @@
 #include "command/FileNames.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
 
@@ -13,21 +15,6 @@
 namespace {
 
 constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
-
-constexpr char watchHelp[] = R"(Usage: quillbay watch FILE…
-       quillbay watch --clipboard
-
-Opens a small window for each FILE, whose counts follow every save, or raises the
-window that FILE already has. Watches every kind of file that 'quillbay count'
-counts; the others are reported and skipped. Errors of the windows are reported in a
-desktop notification as well as on standard error.
-
-  --clipboard  watch the files that were copied last in a file manager
-  -h, --help   print this help and exit
-
-Exit status: 0 if the windows have opened, 1 if any FILE cannot be watched,
-2 after wrong usage.
-)";
 
 /// A list of URLs (RFC 2483) of the files that can be counted; reports the others and sets isComplete to
 /// false.
@@ -72,11 +59,11 @@ int watch(const QByteArrayList &names)
 
 int runWatchCommand(int wordCount, char **words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse("watch", {"clipboard"}, wordCount, words);
+    const std::optional<CommandWords> wanted = CommandWords::parse(watchPage(), wordCount, words);
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printText(watchHelp);
+        return printText(helpText(watchPage()));
     const bool fromClipboard = wanted->switches.contains("clipboard");
     if (wanted->operands.isEmpty() != fromClipboard)
         return reportWrongUsage(

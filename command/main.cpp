@@ -3,35 +3,18 @@
 #include "command/CommandWords.h"
 #include "command/Commands.h"
 #include "command/FileNames.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "platform/system/Processes.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
 namespace {
-
-constexpr char helpText[] = R"(Usage: quillbay COMMAND …
-
-Counts text for people who write.
-
-Commands:
-  count        print the counts of files or of standard input
-  explain      print what counts in files, what does not, and why
-  extract      print the text of files, as it is counted
-  preferences  print and set the rules of the counts
-  selection    show the counts of the text selected in any application
-  text         show the counts of one file or of standard input
-  watch        show the counts of files, and update them at every save
-
-Options:
-  -h, --help  print this help and exit
-  --version   print the version and exit
-
-Run 'quillbay COMMAND --help' for the options of a command.
-)";
 
 struct Command {
     std::string_view name;
@@ -48,29 +31,47 @@ constexpr Command commands[] = {
     {"watch", runWatchCommand},
 };
 
+/// quillbay help [COMMAND]. Returns the exit status.
+int printHelp(int wordCount, char **words)
+{
+    if (wordCount > 1)
+        return reportWrongUsage(nullptr, "one command at a time");
+    if (wordCount == 0)
+        return printText(helpText(quillbayPage()));
+    if (const ManualPage *const page = pageOfCommand(words[0]))
+        return printText(helpText(*page));
+    return reportWrongUsage(nullptr, "unknown command '" + printableName(words[0]) + '\'');
+}
+
+/// name: the first word. Returns the exit status.
+int runNamed(std::string_view name, int wordCount, char **words)
+{
+    if (name == "--help" || name == "-h")
+        return printHelp(0, nullptr);
+    if (name == "--version" || name == "-V")
+        return printText("quillbay " QUILLBAY_VERSION "\n");
+    if (name == "help")
+        return printHelp(wordCount, words);
+    for (const Command &command : commands) {
+        if (command.name == name)
+            return command.run(wordCount, words);
+    }
+    if (name.empty())
+        return reportWrongUsage(nullptr, "no command given");
+    const QByteArray typed(name.data(), static_cast<qsizetype>(name.size()));
+    return reportWrongUsage(nullptr, "unknown command '" + printableName(typed) + '\'');
+}
+
 } // namespace
 
 int main(int argumentCount, char **arguments)
 {
     keepMemoryPrivate();
     const std::string_view name = argumentCount > 1 ? arguments[1] : "";
-    if (name == "--help" || name == "-h")
-        return printText(helpText);
-    if (name == "--version")
-        return printText("quillbay " QUILLBAY_VERSION "\n");
-    for (const Command &command : commands) {
-        if (command.name == name) {
-            const QCoreApplication application(argumentCount, arguments);
-            const int status = command.run(argumentCount - 2, arguments + 2);
-            // Not exit(): static destructors would race with Qt's thread for the bus.
-            std::fflush(nullptr);
-            std::_Exit(status);
-        }
-    }
-    if (name.empty())
-        std::fputs("quillbay: no command given\n", stderr);
-    else
-        std::fprintf(stderr, "quillbay: unknown command '%s'\n", printableName(arguments[1]).constData());
-    std::fputs("Try 'quillbay --help' for more.\n", stderr);
-    return wrongUsageStatus;
+    const QCoreApplication application(argumentCount, arguments);
+    const int named = std::min(argumentCount, 2);
+    const int status = runNamed(name, argumentCount - named, arguments + named);
+    // Not exit(): static destructors would race with Qt's thread for the bus.
+    std::fflush(nullptr);
+    std::_Exit(status);
 }

@@ -2,6 +2,8 @@
 // The counting service: the broker, started by the session bus, and the workers, started by the broker.
 #include "counting_service/broker/CountingService.h"
 #include "counting_service/worker/CountingWorker.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "platform/sandbox/FontSources.h"
 #include "platform/sandbox/Sandbox.h"
 #include "platform/system/Processes.h"
@@ -12,6 +14,7 @@
 #include <charconv>
 #include <cstdio>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace {
@@ -19,35 +22,34 @@ namespace {
 constexpr int wrongUsage = 2;
 constexpr char workerArgument[] = "--worker"; // internal: only the broker starts workers
 
-constexpr char helpText[] = R"(Usage: quillbay-counting-service [--idle-time=MILLISECONDS]
-
-Counts documents for other programs. The session bus starts it for the first request to
-Brisklane.QBYServiceProviderXPC; it exits when it has been idle for a while.
-
-Options:
-  --idle-time=MILLISECONDS  exit after being idle for this long (default: 60000)
-  -h, --help                print this help and exit
-  --version                 print the version and exit
-)";
-
-int printText(const char *text)
+int printText(const QByteArray &text)
 {
-    std::fputs(text, stdout);
+    std::fputs(text.constData(), stdout);
     return std::fflush(stdout) == 0 ? 0 : 1;
 }
 
-std::optional<std::chrono::milliseconds> idleTimeFrom(std::string_view word)
+std::optional<std::chrono::milliseconds> parseIdleTime(std::string_view word)
 {
-    constexpr std::string_view option = "--idle-time=";
     constexpr int maxIdleTime = 24 * 60 * 60 * 1000;
-    if (!word.starts_with(option))
-        return std::nullopt;
-    word.remove_prefix(option.size());
     int number = 0;
     const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
     if (error != std::errc() || end != word.data() + word.size() || number < 0 || number > maxIdleTime)
         return std::nullopt;
     return std::chrono::milliseconds(number);
+}
+
+/// Of "--idle-time=NUMBER" or "--idle-time NUMBER", or the default; absent after wrong usage.
+std::optional<std::chrono::milliseconds> idleTimeFrom(std::span<char *const> words)
+{
+    constexpr std::string_view option = "--idle-time";
+    if (words.empty())
+        return CountingService::defaultIdleTime;
+    const std::string_view word = words[0];
+    if (words.size() == 2 && word == option)
+        return parseIdleTime(words[1]);
+    const bool isOneWord =
+        words.size() == 1 && word.starts_with(option) && word.substr(option.size()).starts_with('=');
+    return isOneWord ? parseIdleTime(word.substr(option.size() + 1)) : std::nullopt;
 }
 
 int runWorker()
@@ -78,12 +80,11 @@ int main(int argumentCount, char **arguments)
     if (word == workerArgument)
         return runWorker();
     if (word == "--help" || word == "-h")
-        return printText(helpText);
-    if (word == "--version")
+        return printText(helpText(countingServicePage()));
+    if (word == "--version" || word == "-V")
         return printText("quillbay-counting-service " QUILLBAY_VERSION "\n");
-    const std::optional<std::chrono::milliseconds> idleTime =
-        word.empty() ? CountingService::defaultIdleTime : idleTimeFrom(word);
-    if (idleTime && argumentCount <= 2)
+    const std::span<char *const> words(arguments, static_cast<size_t>(argumentCount));
+    if (const auto idleTime = idleTimeFrom(words.subspan(1)))
         return runBroker(argumentCount, arguments, *idleTime);
     std::fputs("quillbay-counting-service: invalid arguments\n"
                "Try 'quillbay-counting-service --help' for more.\n",

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // quillbay-desk: the main window, in which the user sets the rules of the counts.
 #include "desk/DeskWindow.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 #include "platform/session_bus/UniqueApplication.h"
 #include "platform/system/FileURL.h"
 #include "platform/system/Processes.h"
@@ -21,19 +23,6 @@ namespace {
 constexpr int notShown = 1; // no display
 constexpr int wrongUsage = 2;
 
-constexpr char helpText[] = R"(Usage: quillbay-desk [FILE]
-
-Opens Quillbay's main window, in which you set the rules of the counts. If it is
-open already, it comes to the front. With FILE, it shows why the counts of that
-text are what they are.
-
-  -h, --help  print this help and exit
-  --version   print the version and exit
-
-Exit status: 0 when the window was closed or another process shows it, 1 if it
-could not be shown, 2 after wrong usage.
-)";
-
 bool hasDisplay()
 {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
@@ -53,9 +42,9 @@ QByteArray takeActivationToken()
     return token;
 }
 
-int printText(const char *text)
+int printText(const QByteArray &text)
 {
-    std::fputs(text, stdout);
+    std::fputs(text.constData(), stdout);
     return std::fflush(stdout) == 0 ? 0 : 1;
 }
 
@@ -97,8 +86,8 @@ int main(int argumentCount, char **arguments)
     keepMemoryPrivate();
     const std::string_view word = argumentCount > 1 ? arguments[1] : "";
     if (word == "--help" || word == "-h")
-        return printText(helpText);
-    if (word == "--version")
+        return printText(helpText(deskPage()));
+    if (word == "--version" || word == "-V")
         return printText("quillbay-desk " QUILLBAY_VERSION "\n");
     if (!hasDisplay()) {
         std::fputs("quillbay-desk: no display for its window; set DISPLAY or WAYLAND_DISPLAY\n", stderr);

@@ -280,8 +280,9 @@ TEST_F(ServiceLifeTest, ExplainsItselfOnTheCommandLine)
     EXPECT_THAT(ChildProcess(program()).run({"--help"}).output.toStdString(), testing::StartsWith("Usage: "));
     EXPECT_THAT(ChildProcess(program()).run({"--version"}).output.toStdString(),
         testing::StartsWith("quillbay-counting-service "));
-    for (const QByteArrayList &words : {QByteArrayList{"--idle-time=soon"}, {"--idle-time=-1"},
-             {"--idle-time="}, {"count"}, {"--idle-time=1", "more"}}) {
+    for (const QByteArrayList &words :
+        {QByteArrayList{"--idle-time=soon"}, {"--idle-time=-1"}, {"--idle-time="}, {"count"},
+            {"--idle-time=1", "more"}, {"--idle-time"}, {"--idle-time", "-1"}}) {
         const ChildProcess::Outcome outcome = ChildProcess(program()).run(words);
         EXPECT_EQ(outcome.exitStatus, 2) << words.join(' ').constData();
         EXPECT_TRUE(outcome.output.isEmpty());

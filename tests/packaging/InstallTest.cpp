@@ -74,6 +74,8 @@ const QStringList filesWithCommands{QStringLiteral("share/applications/com.quill
     QStringLiteral("share/dbus-1/services/com.quillbay.ServiceProvider.service"),
     QStringLiteral("share/systemd/user/quillbay-counting-service.service")};
 
+const QRegularExpression madeFromTheManual(QStringLiteral("^(man|bash-completion|zsh|fish)/"));
+
 } // namespace
 
 TEST_F(Install, IsComplete)
@@ -89,6 +91,11 @@ TEST_F(Install, IsComplete)
             QStringLiteral("share/icons/hicolor/scalable/apps/com.quillbay.Quillbay.svg"),
             QStringLiteral("share/icons/hicolor/symbolic/apps/com.quillbay.Quillbay-symbolic.svg"),
             QStringLiteral("share/metainfo/com.quillbay.Quillbay.metainfo.xml")};
+    for (const QString &file : filesBelow(QStringLiteral(BUILD_FOLDER "/share"))) {
+        if (madeFromTheManual.match(file).hasMatch())
+            expected.append(QStringLiteral("share/") + file);
+    }
+    EXPECT_TRUE(expected.contains(QStringLiteral("share/man/man1/quillbay-count.1")));
     QStringList installed = filesBelow(prefix());
     expected.sort();
     installed.sort();

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "manual/ManualPages.h"
+
+const ManualPage &countPage()
+{
+    static const ManualPage page{
+        .program = "quillbay",
+        .command = "count",
+        .summary = QT_TRANSLATE_NOOP("Manual", "print the counts of files or of standard input"),
+        .usages = {"[--json | --tsv | --explain-rules] [--service] [--as-text] [--files-from LIST] [FILE…]"},
+        .description =
+            {QT_TRANSLATE_NOOP("Manual",
+                 "Counts the words, characters, sentences, lines on your paper, hard line breaks, paragraphs "
+                 "and indented paragraphs of each FILE by your preferences. Without FILE, or if FILE is -, "
+                 "reads standard input."),
+                QT_TRANSLATE_NOOP("Manual",
+                    "FILE can be plain text, RTF, RTFD, a web page, a Word document, an OpenDocument text, "
+                    "an "
+                    "EPUB or a PDF file. A file that is no text, such as a picture, is reported and not "
+                    "counted.")},
+        .completion = ShellCompletion::Files,
+        .options = {{.name = "json",
+                        .text = QT_TRANSLATE_NOOP(
+                            "Manual", "print a JSON object on a line of its own for each file")},
+            {.name = "tsv",
+                .text = QT_TRANSLATE_NOOP(
+                    "Manual", "print tab-separated columns, with their names on the first line")},
+            {.name = "files-from",
+                .placeholder = "LIST",
+                .completion = ShellCompletion::Files,
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "also count the files named in LIST, after those of the command line; the names are "
+                    "separated by line ends, or by NUL bytes if there are any; LIST may be - for "
+                    "standard input")},
+            {.name = "explain-rules",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "instead of the counts, print what they depend on: locale, preferences, paper, "
+                    "margins, and the fonts that the files need (without a file, the font of plain "
+                    "text)")},
+            {.name = "service",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "count in the counting service, in a sandboxed process, as Quillbay's windows do; "
+                    "the counts are the same")},
+            {.name = "as-text",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "count every file as plain text, whatever it is: a web page with its markup, a "
+                    "picture with its bytes")},
+            helpOption()},
+        .notes =
+            {QT_TRANSLATE_NOOP("Manual",
+                 "For several files, the table ends with a row of totals; the other two formats have no such "
+                 "row."),
+                QT_TRANSLATE_NOOP("Manual",
+                    "Control characters in names are escaped: as \\x1b in the table and as \\u001b in JSON. "
+                    "With --tsv, tabs, line feeds, carriage returns and backslashes become \\t, \\n, \\r and "
+                    "\\\\; other control characters and bytes that are not valid UTF-8 become one \\x1b per "
+                    "byte.")},
+        .exitStatuses = {{0, QT_TRANSLATE_NOOP("Manual", "all files were counted")},
+            {1, QT_TRANSLATE_NOOP("Manual", "a file could not be counted")}, {2, wrongUsageMeaning()}},
+        .examples = {{"quillbay count *.txt",
+                         QT_TRANSLATE_NOOP(
+                             "Manual", "count the text files of this folder, with their total")},
+            {"find . -name '*.odt' -print0 | quillbay count --files-from -",
+                QT_TRANSLATE_NOOP(
+                    "Manual", "count all OpenDocument texts below this folder, whatever their names are")},
+            {"quillbay count --json story.txt | jq .words",
+                QT_TRANSLATE_NOOP("Manual", "print nothing but the number of words")}},
+        .seeAlso = {"quillbay-explain(1)", "quillbay-preferences(1)", "wc(1)"},
+    };
+    return page;
+}

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "manual/ManualPages.h"
+
+const ManualPage &textPage()
+{
+    static const ManualPage page{
+        .program = "quillbay",
+        .command = "text",
+        .summary = QT_TRANSLATE_NOOP("Manual", "show the counts of one file or of standard input"),
+        .usages = {"[FILE]"},
+        .description = {QT_TRANSLATE_NOOP("Manual",
+            "Opens a small window with the counts of FILE. Without FILE, or if FILE is -, reads standard "
+            "input. FILE can be of every kind that 'quillbay count' counts.")},
+        .completion = ShellCompletion::Files,
+        .options = {helpOption()},
+        .exitStatuses = {{0, QT_TRANSLATE_NOOP("Manual", "the window has opened")},
+            {1, QT_TRANSLATE_NOOP("Manual", "the window could not be opened")}, {2, wrongUsageMeaning()}},
+        .examples = {{"git diff | quillbay text",
+            QT_TRANSLATE_NOOP("Manual", "show the counts of what another program prints")}},
+        .seeAlso = {"quillbay-selection(1)", "quillbay-watch(1)"},
+    };
+    return page;
+}
