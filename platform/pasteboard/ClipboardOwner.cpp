@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pasteboard/ClipboardOwner.h"
 
-#include "platform/pasteboard/MediaType.h"
 #include "platform/pasteboard/Selection.h"
+#include "platform/pasteboard/SelectionTargets.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
-
-/// The names under which programs request a text in UTF-8. STRING is Latin-1 by the letter of the ICCCM;
-/// those who ask for it alone get UTF-8 from other programs too.
-constexpr std::array textTargets{
-    "UTF8_STRING", "text/plain;charset=utf-8", "text/plain;charset=UTF-8", "text/plain", "STRING", "TEXT"};
 
 uint8_t typeOf(const xcb_generic_event_t &event)
 {
@@ -122,11 +116,7 @@ std::optional<xcb_timestamp_t> ClipboardOwner::serverTime() const
 void ClipboardOwner::setForms(const Pasteboard::Forms &forms)
 {
     for (const auto &[type, bytes] : forms) {
-        if (MediaType::parse(type).name != QStringView(Pasteboard::plainTextType)) {
-            m_forms.push_back({atom(type.toLatin1()), bytes});
-            continue;
-        }
-        for (const char *const target : textTargets)
+        for (const QByteArray &target : SelectionTargets::targetsToOffer(type))
             m_forms.push_back({atom(target), bytes});
     }
 }

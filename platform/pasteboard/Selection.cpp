@@ -3,14 +3,21 @@
 
 #include "platform/pasteboard/SelectionTargets.h"
 #include "platform/pasteboard/SelectionTransfer.h"
-#include "platform/pasteboard/WaylandPaste.h"
+#include "platform/pasteboard/WaylandSelection.h"
+#include "platform/wayland/FocusedWindow.h"
+#include "platform/wayland/WaylandConnection.h"
 
+#include <chrono>
 #include <new>
+
+using namespace std::chrono_literals;
 
 namespace {
 
 using Cause = SelectionFailure::Cause;
 using Source = SelectionSource;
+
+constexpr auto focusTimeout = 2s;
 
 class Display {
 public:
@@ -98,6 +105,11 @@ private:
     bool m_hasEmptyForm = false;
 };
 
+Result<Pasteboard, Cause> readFrom(Source &source, SelectionContent content)
+{
+    return source.hasOwner() ? SelectionReader(content, source).run() : Cause::NothingSelected;
+}
+
 Result<Pasteboard, Cause> readFromXDisplay(SelectionName name, SelectionContent content, quint64 maxBytes)
 {
     const Display display;
@@ -105,21 +117,40 @@ Result<Pasteboard, Cause> readFromXDisplay(SelectionName name, SelectionContent 
         return Cause::NoDisplay;
     SelectionTransfer transfer(
         display.connection(), name == SelectionName::Primary ? "PRIMARY" : "CLIPBOARD", maxBytes);
-    if (!transfer.hasOwner())
-        return qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? Cause::NothingShown : Cause::NothingSelected;
-    return SelectionReader(content, transfer).run();
+    return readFrom(transfer, content);
+}
+
+Result<Pasteboard, Cause> readWithFocus(
+    WaylandConnection &wayland, SelectionName name, SelectionContent content, quint64 maxBytes)
+{
+    constexpr auto access = WaylandSelection::Access::FocusedProgram;
+    if (!WaylandSelection::isOffered(wayland, access, name))
+        return Cause::NothingShown;
+    // First, as the compositor reports the selection before the focus.
+    WaylandSelection selection(wayland, access, name, maxBytes);
+    FocusedWindow window(wayland);
+    if (!window.takeFocus(QDeadlineTimer(focusTimeout)))
+        return Cause::NothingShown;
+    return readFrom(selection, content);
 }
 
 Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, quint64 maxBytes)
 {
-    Result<Pasteboard, Cause> pasteboard = readFromXDisplay(name, content, maxBytes);
-    const bool mayBeElsewhere = !pasteboard
-        && (pasteboard.error() == Cause::NoDisplay || pasteboard.error() == Cause::NothingShown
-            || pasteboard.error() == Cause::Refused);
-    WaylandPaste paste(name, maxBytes);
-    if (!mayBeElsewhere || !paste.isAvailable())
+    // The compositor knows what X clients have selected too, as long as one of them has the focus, but some
+    // compositors show X clients nothing while none of them has it.
+    constexpr auto access = WaylandSelection::Access::AnyProgram;
+    WaylandConnection wayland;
+    const bool isShown = wayland.isConnected() && WaylandSelection::isOffered(wayland, access, name);
+    if (isShown) {
+        WaylandSelection selection(wayland, access, name, maxBytes);
+        const Result<Pasteboard, Cause> pasteboard = readFrom(selection, content);
+        if (pasteboard || pasteboard.error() != Cause::NothingSelected)
+            return pasteboard;
+    }
+    const Result<Pasteboard, Cause> pasteboard = readFromXDisplay(name, content, maxBytes);
+    if (pasteboard || pasteboard.error() != Cause::NoDisplay || !wayland.isConnected())
         return pasteboard;
-    return paste.hasOwner() ? SelectionReader(content, paste).run() : Cause::NothingSelected;
+    return isShown ? Cause::NothingSelected : readWithFocus(wayland, name, content, maxBytes);
 }
 
 } // namespace
@@ -149,10 +180,9 @@ QString causeText(const SelectionFailure &failure)
     case Cause::NothingSelected:
         return isClipboard ? QStringLiteral("the clipboard is empty") : QStringLiteral("nothing is selected");
     case Cause::NothingShown:
-        return QStringLiteral("%1, or the desktop does not show it to X11 programs; "
-                              "it would if wl-paste (package wl-clipboard) were installed")
-            .arg(isClipboard ? QStringLiteral("the clipboard is empty")
-                             : QStringLiteral("nothing is selected"));
+        return QStringLiteral("this desktop shows %1 to no other program; copy the text and run "
+                              "'quillbay text' in a terminal, or open its file with 'quillbay text FILE'")
+            .arg(what);
     case Cause::OtherContent:
         return QStringLiteral("%1 holds no %2")
             .arg(what,

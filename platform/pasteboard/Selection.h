@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Selection reads what the user has selected or copied in any application, without a window or a toolkit:
-// from the X display, including Xwayland (ICCCM 2.0, chapter 2), or with wl-paste(1), if it is installed,
-// from a Wayland compositor that hides the selection from X clients.
-// Thread: any.
+// Selection reads what the user has selected or copied in any application, without a toolkit: from the
+// Wayland compositor, if it shows selections to every program; otherwise from the X display, including
+// Xwayland (ICCCM 2.0, chapter 2); and where there is none, from the compositor with a window that has the
+// focus for a moment. Thread: any.
 #pragma once
 
 #include "platform/pasteboard/Pasteboard.h"
@@ -19,7 +19,7 @@ struct SelectionFailure {
     enum class Cause {
         NoDisplay,
         NothingSelected,
-        NothingShown, ///< or the Wayland compositor hides it from X clients, and wl-paste is not installed
+        NothingShown, ///< the Wayland compositor shows it to no program without the focus, and gave no focus
         OtherContent, ///< there is something, but no text or no files
         Refused, ///< the owner does not list its forms, and provides none
         NoAnswer, ///< from the owner within two seconds, or an incomplete one

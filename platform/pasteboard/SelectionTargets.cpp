@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pasteboard/SelectionTargets.h"
 
+#include "platform/pasteboard/MediaType.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -17,6 +19,11 @@ const QByteArrayList fileTargets{
     "text/uri-list", "application/x-kde4-urilist", "x-special/gnome-copied-files"};
 // For owners that do not list their targets.
 const QByteArrayList commonTargets{"UTF8_STRING", "STRING"};
+
+// Under these, programs request a text in UTF-8. STRING is Latin-1 by the letter of the ICCCM; those who ask
+// for it alone get UTF-8 from other programs too.
+const QByteArrayList offeredTextTargets{
+    "UTF8_STRING", utf8Text, "text/plain;charset=UTF-8", "text/plain", "STRING", "TEXT"};
 
 /// The names of ICCCM are case-sensitive, MIME types are not; blanks may follow a semicolon.
 QByteArray normalize(const QByteArray &target)
@@ -71,4 +78,11 @@ std::optional<SelectionTargets::Form> SelectionTargets::makeForm(
     while (bytes.endsWith('\0'))
         bytes.chop(1);
     return Form{QString::fromLatin1(mimeTypeOf(target == "TEXT" ? type : target)), std::move(bytes)};
+}
+
+QByteArrayList SelectionTargets::targetsToOffer(const QString &type)
+{
+    return MediaType::parse(type).name == QStringView(Pasteboard::plainTextType)
+        ? offeredTextTargets
+        : QByteArrayList{type.toLatin1()};
 }

@@ -28,4 +28,7 @@ struct Form {
 /// The form for a target. type: of the property; the encoding of a TEXT. Absent for an unsupported encoding.
 std::optional<Form> makeForm(const QByteArray &target, const QByteArray &type, QByteArray bytes);
 
+/// The targets under which a form of that MIME type is offered.
+QByteArrayList targetsToOffer(const QString &type);
+
 } // namespace SelectionTargets

@@ -3,6 +3,7 @@
 // copy and paste afterwards.
 #include "platform/views/widgets/ClipboardHandOver.h"
 #include "tests/platform/pasteboard/SelectionTest.h"
+#include "tests/platform/pasteboard/WaylandSelectionTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -83,6 +84,8 @@ protected:
     ChildProcess m_keeper{keeperProgram()};
 };
 
+class WaylandClipboardKeeper : public WaylandSelectionTest { };
+
 } // namespace
 
 TEST_F(ClipboardKeeper, KeepsEveryFormOfTheText)
@@ -93,6 +96,22 @@ TEST_F(ClipboardKeeper, KeepsEveryFormOfTheText)
     EXPECT_EQ(clipboard().text(), QStringLiteral("-Words: 3 – é"));
     EXPECT_EQ(clipboard().mimeData()->html(), QStringLiteral("<p>-Words: 3 – é</p>"));
     EXPECT_FALSE(clipboard().mimeData()->hasImage()) << "other forms are refused";
+}
+
+TEST_F(WaylandClipboardKeeper, TakesOverFromAProgramAndGivesWayToTheNext)
+{
+    std::optional<WaylandOwner> window(std::in_place, "clipboard",
+        SelectionOwner::Forms{{"text/plain", "-Words: 3"}, {"text/html", "<p>-Words: 3"}});
+    ChildProcess keeper(keeperProgram());
+    keeper.start({});
+    window->waitForExit(); // once it has lost the clipboard
+    window.reset();
+    const Pasteboard::Forms kept = formsOf(read(SelectionName::Clipboard));
+    EXPECT_EQ(kept.at(QStringLiteral("text/plain;charset=utf-8")), QByteArray("-Words: 3"));
+    EXPECT_EQ(kept.at(QStringLiteral("text/html")), QByteArray("<p>-Words: 3"));
+    const WaylandOwner other("clipboard", {{"text/plain", "something else"}});
+    EXPECT_EQ(keeper.finish().exitStatus, 0);
+    EXPECT_EQ(textOf(read(SelectionName::Clipboard)), QStringLiteral("something else"));
 }
 
 TEST_F(ClipboardKeeper, EndsWhenAnotherProgramCopies)

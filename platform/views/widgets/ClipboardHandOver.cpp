@@ -4,16 +4,31 @@
 #include "platform/logging/LogChannel.h"
 #include "platform/system/Processes.h"
 #include "platform/views/widgets/X11.h"
+#include "platform/wayland/SelectionInterfaces.h"
+#include "platform/wayland/WaylandConnection.h"
 
 #include <QClipboard>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QTimer>
 
+namespace {
+
+/// Elsewhere only the program with the focus can own the clipboard, and the compositor keeps the content.
+bool canHandOver()
+{
+    if (X11::isAvailable())
+        return true;
+    const WaylandConnection wayland;
+    return wayland.isConnected() && SelectionInterfaces::offeredDataControl(wayland);
+}
+
+} // namespace
+
 void ClipboardHandOver::finish(const QString &keeper)
 {
     const QClipboard &clipboard = *QGuiApplication::clipboard();
-    if (!X11::isAvailable() || !clipboard.ownsClipboard())
+    if (!clipboard.ownsClipboard() || !canHandOver())
         return;
     if (const std::optional<LaunchError> error = launchDetached(keeper, {})) {
         LogChannel::standard().error(
