@@ -6,6 +6,7 @@
 #include "manual/HelpText.h"
 #include "manual/ManualPages.h"
 #include "platform/system/Processes.h"
+#include "translations/Translations.h"
 
 #include <QCoreApplication>
 
@@ -69,6 +70,7 @@ int main(int argumentCount, char **arguments)
     keepMemoryPrivate();
     const std::string_view name = argumentCount > 1 ? arguments[1] : "";
     const QCoreApplication application(argumentCount, arguments);
+    installTranslations();
     const int named = std::min(argumentCount, 2);
     const int status = runNamed(name, argumentCount - named, arguments + named);
     // Not exit(): static destructors would race with Qt's thread for the bus.

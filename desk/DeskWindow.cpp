@@ -59,11 +59,23 @@ DeskWindow::~DeskWindow() = default;
 
 void DeskWindow::makeActions()
 {
-    QAction *const undo = m_editor.undoStack().createUndoAction(this, tr("&Undo"));
+    QUndoStack &steps = m_editor.undoStack();
+    QAction *const undo = steps.createUndoAction(this);
     undo->setObjectName(QStringLiteral("undoAction"));
     undo->setShortcuts(QKeySequence::Undo);
-    QAction *const redo = m_editor.undoStack().createRedoAction(this, tr("&Redo"));
+    QAction *const redo = steps.createRedoAction(this);
     redo->setShortcuts(QKeySequence::Redo);
+    // Qt would put the step behind the word in every language.
+    const auto nameUndo = [undo](const QString &step) {
+        undo->setText(step.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(step));
+    };
+    const auto nameRedo = [redo](const QString &step) {
+        redo->setText(step.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(step));
+    };
+    connect(&steps, &QUndoStack::undoTextChanged, undo, nameUndo);
+    connect(&steps, &QUndoStack::redoTextChanged, redo, nameRedo);
+    nameUndo({});
+    nameRedo({});
     m_ui->editMenu->insertActions(m_ui->editMenu->actions().constFirst(), {undo, redo});
     connect(m_ui->restoreDefaultsAction, &QAction::triggered, &m_editor, &RulesEditor::restoreDefaults);
     // Both close the only window, and with it the program.

@@ -10,6 +10,7 @@
 #include "platform/views/widgets/WindowActivation.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "speech/ApplicationExtension.h"
+#include "translations/Translations.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -95,6 +96,8 @@ int main(int argumentCount, char **arguments)
     }
     UniqueApplication::Request request{.activationToken = takeActivationToken()};
     const QApplication application(argumentCount, arguments);
+    installTranslations();
+    installQtTranslations();
     // Qt has removed its own options. A file name may be any bytes.
     QByteArrayList words(arguments + 1, arguments + argumentCount);
     if (!words.isEmpty() && words.constFirst() == "--")

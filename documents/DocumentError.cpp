@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "documents/DocumentError.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 using Cause = DocumentError::Cause;
@@ -17,45 +19,48 @@ Cause causeOfFile(FileError::Cause cause)
     }
 }
 
-QString kindName(DocumentKind kind)
+QString textOfWrongKind(DocumentKind kind)
 {
     switch (kind) {
     case DocumentKind::PlainText:
-        return QStringLiteral("plain text");
+        return QCoreApplication::translate("documents", "is not plain text");
     case DocumentKind::Rtf:
-        return QStringLiteral("RTF");
+        return QCoreApplication::translate("documents", "is not RTF");
     case DocumentKind::Rtfd:
-        return QStringLiteral("an RTFD");
+        return QCoreApplication::translate("documents", "is not an RTFD");
     case DocumentKind::Html:
-        return QStringLiteral("a web page");
+        return QCoreApplication::translate("documents", "is not a web page");
     case DocumentKind::WordDocument:
-        return QStringLiteral("a Word document");
+        return QCoreApplication::translate("documents", "is not a Word document");
     case DocumentKind::Pdf:
-        return QStringLiteral("a PDF file");
+        return QCoreApplication::translate("documents", "is not a PDF file");
     case DocumentKind::OpenDocument:
-        return QStringLiteral("an OpenDocument text");
+        return QCoreApplication::translate("documents", "is not an OpenDocument text");
     case DocumentKind::Epub:
         break;
     }
-    return QStringLiteral("an EPUB");
+    return QCoreApplication::translate("documents", "is not an EPUB");
 }
 
 QString textOfDamage(DocumentKind kind)
 {
     switch (kind) {
     case DocumentKind::WordDocument:
-        return QStringLiteral("is a damaged Word document; open it in a word processor and save it again");
+        return QCoreApplication::translate(
+            "documents", "is a damaged Word document; open it in a word processor and save it again");
     case DocumentKind::OpenDocument:
-        return QStringLiteral(
-            "is a damaged OpenDocument text; open it in a word processor and save it again");
+        return QCoreApplication::translate(
+            "documents", "is a damaged OpenDocument text; open it in a word processor and save it again");
     case DocumentKind::Pdf:
-        return QStringLiteral("is a damaged PDF file; create it again with the program that wrote it");
+        return QCoreApplication::translate(
+            "documents", "is a damaged PDF file; create it again with the program that wrote it");
     case DocumentKind::Rtfd:
-        return QStringLiteral("is a damaged RTFD; save it again");
+        return QCoreApplication::translate("documents", "is a damaged RTFD; save it again");
     case DocumentKind::Epub:
-        return QStringLiteral("is a damaged EPUB; create it again with the program that wrote it");
+        return QCoreApplication::translate(
+            "documents", "is a damaged EPUB; create it again with the program that wrote it");
     default:
-        return QStringLiteral("is damaged; save it again");
+        return QCoreApplication::translate("documents", "is damaged; save it again");
     }
 }
 
@@ -64,19 +69,23 @@ QString textOfComplexity(DocumentKind kind)
     switch (kind) {
     case DocumentKind::WordDocument:
     case DocumentKind::OpenDocument:
-        return QStringLiteral("takes too much time or memory to read; save it again with a word processor");
+        return QCoreApplication::translate(
+            "documents", "takes too much time or memory to read; save it again with a word processor");
     case DocumentKind::Pdf:
-        return QStringLiteral("takes too much time or memory to read; print it to a new PDF file first");
+        return QCoreApplication::translate(
+            "documents", "takes too much time or memory to read; print it to a new PDF file first");
     default:
-        return QStringLiteral("takes too much time or memory to read; simplify or divide it");
+        return QCoreApplication::translate(
+            "documents", "takes too much time or memory to read; simplify or divide it");
     }
 }
 
 QString textOfEncryption(DocumentKind kind)
 {
     if (kind == DocumentKind::Epub)
-        return QStringLiteral("is encrypted (DRM); count a copy without copy protection");
-    return QStringLiteral("is encrypted; save it without a password");
+        return QCoreApplication::translate(
+            "documents", "is encrypted (DRM); count a copy without copy protection");
+    return QCoreApplication::translate("documents", "is encrypted; save it without a password");
 }
 
 QString textOfFile(const std::optional<FileError> &file)
@@ -99,52 +108,64 @@ QString causeText(const DocumentError &error)
     case Cause::FileUnreadable:
         return textOfFile(error.file);
     case Cause::WrongKind:
-        return QStringLiteral("is not ") + kindName(error.kind);
+        return textOfWrongKind(error.kind);
     case Cause::NotText:
-        return QStringLiteral("is %1, not a text").arg(error.format);
+        return QCoreApplication::translate("documents", "is %1, not a text").arg(error.format);
     case Cause::UnsupportedFormat:
-        return QStringLiteral("is ") + error.format;
+        return QCoreApplication::translate("documents", "is %1")
+            .arg(QCoreApplication::translate("documents/reading", error.format.toUtf8().constData()));
     case Cause::OldFormat:
-        return QStringLiteral("is in a Word format older than 2007; save it as .docx or RTF");
+        return QCoreApplication::translate(
+            "documents", "is in a Word format older than 2007; save it as .docx or RTF");
     case Cause::FlatWordDocument:
-        return QStringLiteral("is a Word document in one XML file; save it as .docx");
+        return QCoreApplication::translate(
+            "documents", "is a Word document in one XML file; save it as .docx");
     case Cause::Encrypted:
         return textOfEncryption(error.kind);
     case Cause::Damaged:
         return textOfDamage(error.kind);
     case Cause::TextMissing:
-        return QStringLiteral("is an RTFD without TXT.rtf; save it again");
+        return QCoreApplication::translate("documents", "is an RTFD without TXT.rtf; save it again");
     case Cause::TextUnreadable:
-        return QStringLiteral("its TXT.rtf cannot be read: ") + textOfFile(error.file);
+        return QCoreApplication::translate("documents", "its TXT.rtf cannot be read: %1")
+            .arg(textOfFile(error.file));
     case Cause::TextNotRtf:
-        return QStringLiteral("is an RTFD whose TXT.rtf is not RTF; save it again");
+        return QCoreApplication::translate("documents", "is an RTFD whose TXT.rtf is not RTF; save it again");
     case Cause::UnsupportedPart:
-        return QStringLiteral("has a part in an unsupported format; save it again with a word processor");
+        return QCoreApplication::translate(
+            "documents", "has a part in an unsupported format; save it again with a word processor");
     case Cause::NoPages:
-        return QStringLiteral("is a PDF file without pages; print the document again");
+        return QCoreApplication::translate(
+            "documents", "is a PDF file without pages; print the document again");
     case Cause::NoText:
-        return QStringLiteral("has no text on its pages; run text recognition on it first");
+        return QCoreApplication::translate(
+            "documents", "has no text on its pages; run text recognition on it first");
     case Cause::UnmappedText:
-        return QStringLiteral("has unreadable text, as its fonts do not map glyphs to characters; "
-                              "run text recognition on it first");
+        return QCoreApplication::translate("documents",
+            "has unreadable text, as its fonts do not map glyphs to characters; "
+            "run text recognition on it first");
     case Cause::TooLong:
         return causeText(FileError{FileError::Cause::TooLarge});
     case Cause::TooLarge:
-        return QStringLiteral("is too large when unpacked; divide it");
+        return QCoreApplication::translate("documents", "is too large when unpacked; divide it");
     case Cause::TooDeep:
-        return QStringLiteral("has more than 1000 elements inside each other; simplify it");
+        return QCoreApplication::translate(
+            "documents", "has more than 1000 elements inside each other; simplify it");
     case Cause::TooComplex:
         return textOfComplexity(error.kind);
     case Cause::PdfNotSupported:
-        return QStringLiteral("is a PDF file, which is not supported here; count it with 'quillbay count'");
+        return QCoreApplication::translate(
+            "documents", "is a PDF file, which is not supported here; count it with 'quillbay count'");
     case Cause::NoReader:
-        return QStringLiteral("needs the program quillbay-document-reader, which is missing or does not "
-                              "start; reinstall Quillbay");
+        return QCoreApplication::translate("documents",
+            "needs the program quillbay-document-reader, which is missing or does not "
+            "start; reinstall Quillbay");
     case Cause::NoSandbox:
-        return QStringLiteral("cannot be read safely, as the system refuses the filter of system calls; "
-                              "allow seccomp in the kernel or container");
+        return QCoreApplication::translate("documents",
+            "cannot be read safely, as the system refuses the filter of system calls; "
+            "allow seccomp in the kernel or container");
     case Cause::Cancelled:
-        return QStringLiteral("was not read, as nobody needs it any more");
+        return QCoreApplication::translate("documents", "was not read, as nobody needs it any more");
     case Cause::NotEnoughMemory:
         break;
     }

@@ -52,11 +52,11 @@ struct DocumentError {
     Cause cause;
     DocumentKind kind = DocumentKind::PlainText; ///< PlainText where it is not known yet
     std::optional<FileError> file = std::nullopt; ///< of FileUnreadable and TextUnreadable
-    QString format = {}; ///< of NotText and UnsupportedFormat, for use after "is": "a PNG image"
+    QString format = {}; ///< of NotText and UnsupportedFormat, for use after "is": "a PNG image"; in English
 
     bool operator==(const DocumentError &) const = default;
 };
 
-/// What is wrong and, where there is a remedy, what to do, in English on one line. Callers print it after the
-/// name of the document and a colon: "is encrypted; save it without a password".
+/// What is wrong and, where there is a remedy, what to do, in the user's language on one line. Callers print
+/// it after the name of the document and a colon: "is encrypted; save it without a password".
 QString causeText(const DocumentError &error);

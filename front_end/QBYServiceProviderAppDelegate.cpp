@@ -5,6 +5,8 @@
 #include "platform/system/FileURL.h"
 #include "watching/FileTypes.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -39,7 +41,7 @@ QList<QUrl> acceptedFiles(const QList<QUrl> &urls)
 // Given text, deliberately odd.
 QString readingFailure()
 {
-    return QStringLiteral("Quillbay failed to read retrieve text.");
+    return QCoreApplication::translate("front_end", "Quillbay failed to read retrieve text.");
 }
 
 /// Hands the text to its window, unless that was closed meanwhile.
@@ -116,12 +118,12 @@ void QBYServiceProviderAppDelegate::watchTheTextFileService(
 {
     const QList<QUrl> urls = pasteboard.readFileURLs();
     if (urls.isEmpty()) {
-        setError(error, QStringLiteral("Quillbay failed to retrieve file urls."));
+        setError(error, QCoreApplication::translate("front_end", "Quillbay failed to retrieve file urls."));
         return;
     }
     const QList<QUrl> accepted = acceptedFiles(urls);
     if (accepted.isEmpty()) {
-        setError(error, QStringLiteral("Quillbay failed to validate file urls."));
+        setError(error, QCoreApplication::translate("front_end", "Quillbay failed to validate file urls."));
         return;
     }
     for (const QUrl &url : accepted)

@@ -7,6 +7,7 @@
 #include "platform/views/widgets/ClipboardHandOver.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/WidgetDesktop.h"
+#include "translations/Translations.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -65,6 +66,8 @@ int main(int argumentCount, char **arguments)
     choosePlatform();
     SandboxedReader::shared().prepare(); // the first selection is on its way
     const QApplication application(argumentCount, arguments);
+    installTranslations();
+    installQtTranslations();
     QApplication::setApplicationName(QStringLiteral("Quillbay")); // the window class, and for screen readers
     QApplication::setApplicationDisplayName(QStringLiteral("Quillbay"));
     QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));

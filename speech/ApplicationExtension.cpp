@@ -6,10 +6,14 @@
 #include "platform/system/Processes.h"
 #include "platform/views/Desktop.h"
 
+#include <QCoreApplication>
+
 QString QBYExtension::wordCountPhrase(quint64 wordCount)
 {
     static const SpelledOutNumber speller(currentLocaleIdentifier());
-    return speller.text(wordCount).value_or(QString::number(wordCount)) + QStringLiteral(" words");
+    const QString number = speller.text(wordCount).value_or(QString::number(wordCount));
+    return number
+        + QCoreApplication::translate("speech", " words", "behind a number in letters, which is spoken");
 }
 
 bool QBYExtension::sayWordCountOutloud(quint64 wordCount, Desktop &desktop, const QString &launchPath)

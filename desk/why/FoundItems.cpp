@@ -14,6 +14,7 @@ bool FoundItems::append(const CountedItem &item)
     }
     m_items.push_back({static_cast<qint32>(item.start), static_cast<qint32>(item.length),
         static_cast<qint32>(item.reason)});
+    m_countedSize += item.isCounted() ? 1 : 0;
     return true;
 }
 

@@ -25,6 +25,7 @@ public:
     bool append(const CountedItem &item);
 
     [[nodiscard]] std::size_t size() const { return m_items.size(); }
+    [[nodiscard]] std::size_t countedSize() const { return m_countedSize; }
     [[nodiscard]] bool isEmpty() const { return m_items.empty(); }
     [[nodiscard]] CountedItem at(std::size_t index) const;
 
@@ -46,6 +47,7 @@ private:
 
     Statistic m_statistic = Statistic::Words;
     std::vector<Item> m_items;
+    std::size_t m_countedSize = 0;
     bool m_isComplete = true;
 };
 

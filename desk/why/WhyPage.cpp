@@ -124,7 +124,7 @@ Statistic WhyPage::statistic() const
 void WhyPage::openFile(const QUrl &file)
 {
     m_source.readFile(file);
-    showReading(lastPathComponent(file));
+    showReading(tr("Reading %1 …").arg(lastPathComponent(file)));
 }
 
 void WhyPage::chooseFile()
@@ -143,7 +143,7 @@ void WhyPage::paste()
         return;
     }
     m_source.read(*contents);
-    showReading(tr("the clipboard"));
+    showReading(tr("Reading the clipboard …"));
 }
 
 void WhyPage::dragEnterEvent(QDragEnterEvent *event)
@@ -155,19 +155,16 @@ void WhyPage::dragEnterEvent(QDragEnterEvent *event)
 void WhyPage::dropEvent(QDropEvent *event)
 {
     m_source.read(*event->mimeData());
-    showReading(tr("what was dropped"));
+    showReading(tr("Reading what was dropped …"));
     event->acceptProposedAction();
 }
 
-void WhyPage::showReading(const QString &name)
+void WhyPage::showReading(const QString &text)
 {
     const bool isReading = m_source.isReading();
     m_ui->progressBar->setVisible(isReading);
     m_ui->cancelButton->setVisible(isReading);
-    if (isReading)
-        showState(tr("Reading %1 …").arg(name));
-    else
-        showState({});
+    showState(isReading ? text : QString());
 }
 
 void WhyPage::showState(const QString &text)
@@ -279,9 +276,11 @@ void WhyPage::goTo(std::size_t index)
 {
     m_current = index;
     m_ui->textView->select(index);
-    const QString place = tr("%1 of %2:")
-                              .arg(locale().toString(quint64{index + 1}),
-                                  locale().toString(quint64{m_ui->textView->items().size()}));
+    const FoundItems &items = m_ui->textView->items();
+    const QString place =
+        tr("Item %1 of %2 (%3 of them counted):")
+            .arg(locale().toString(quint64{index + 1}), locale().toString(quint64{items.size()}),
+                locale().toString(quint64{items.countedSize()}));
     m_ui->reasonLabel->setText(place + u' ' + m_ui->textView->sentenceOn(index));
     QAccessibleEvent alert(m_ui->reasonLabel, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

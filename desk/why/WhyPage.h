@@ -41,7 +41,8 @@ private:
     void fitCountList();
     void chooseFile();
     void paste();
-    void showReading(const QString &name);
+    /// text: shown while a text is read.
+    void showReading(const QString &text);
     void showState(const QString &text);
     void takeText(const AttributedString &text, const QString &name);
     void count();

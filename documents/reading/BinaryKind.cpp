@@ -5,6 +5,7 @@
 #include "documents/reading/TypeDescription.h"
 #include "documents/reading/ZipListing.h"
 
+#include <QCoreApplication>
 #include <QMimeDatabase>
 
 #include <algorithm>
@@ -28,17 +29,20 @@ DocumentError notText(const QString &description)
 
 DocumentError spreadsheet()
 {
-    return unsupportedFormat(QStringLiteral("a spreadsheet; save it as .csv or PDF"));
+    return unsupportedFormat(
+        QStringLiteral(QT_TRANSLATE_NOOP("documents/reading", "a spreadsheet; save it as .csv or PDF")));
 }
 
 DocumentError presentation()
 {
-    return unsupportedFormat(QStringLiteral("a presentation; save it as PDF"));
+    return unsupportedFormat(
+        QStringLiteral(QT_TRANSLATE_NOOP("documents/reading", "a presentation; save it as PDF")));
 }
 
 DocumentError drawing()
 {
-    return unsupportedFormat(QStringLiteral("a drawing; save it as PDF"));
+    return unsupportedFormat(
+        QStringLiteral(QT_TRANSLATE_NOOP("documents/reading", "a drawing; save it as PDF")));
 }
 
 QMimeType typeByMagic(QByteArrayView bytes)
@@ -157,7 +161,8 @@ std::optional<Kind> kindOfUndeclaredPackage(const ZipListing &package, const QBy
         return spreadsheet();
     if (hasSuffix(path, "key"))
         return presentation();
-    return unsupportedFormat(QStringLiteral("a .pages document; export it as .docx or RTF"));
+    return unsupportedFormat(QStringLiteral(
+        QT_TRANSLATE_NOOP("documents/reading", "a .pages document; export it as .docx or RTF")));
 }
 
 Kind kindOfZip(const ZipListing &package, const QByteArray &path)
@@ -201,9 +206,10 @@ Kind kindOfDeclaredType(const QByteArray &type)
     if (type.contains("opendocument.graphics") || type.contains("xml.draw") || type.contains("visio"))
         return drawing();
     if (type.contains("xml.writer"))
-        return unsupportedFormat(
-            QStringLiteral("a document of an older office program; save it as .docx or RTF"));
-    return notText(known.isValid() ? typeDescription(known) : QStringLiteral("a binary file"));
+        return unsupportedFormat(QStringLiteral(QT_TRANSLATE_NOOP(
+            "documents/reading", "a document of an older office program; save it as .docx or RTF")));
+    return notText(known.isValid() ? typeDescription(known)
+                                   : QCoreApplication::translate("documents/reading", "a binary file"));
 }
 
 Kind kindOfBinary(const QByteArray &path, QByteArrayView bytes)
@@ -215,10 +221,11 @@ Kind kindOfBinary(const QByteArray &path, QByteArrayView bytes)
     if (isOlderWordDocument(bytes))
         return DocumentError(Cause::OldFormat, DocumentKind::WordDocument);
     if (bytes.startsWith("\xFFWPC"))
-        return unsupportedFormat(QStringLiteral("a WordPerfect document; save it as .docx or RTF"));
+        return unsupportedFormat(QStringLiteral(
+            QT_TRANSLATE_NOOP("documents/reading", "a WordPerfect document; save it as .docx or RTF")));
     const QMimeType magic = typeByMagic(bytes);
     if (isTextType(magic) || !magic.isValid())
-        return notText(QStringLiteral("a binary file"));
+        return notText(QCoreApplication::translate("documents/reading", "a binary file"));
     return kindOfDeclaredType(refinedByName(magic, path).name().toLatin1());
 }
 

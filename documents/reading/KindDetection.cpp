@@ -10,6 +10,7 @@
 #include "platform/text_encoding/EncodingConverter.h"
 #include "platform/text_encoding/TextEncoding.h"
 
+#include <QCoreApplication>
 #include <QMimeDatabase>
 
 #include <algorithm>
@@ -101,9 +102,14 @@ std::optional<DocumentError> refusalOfXml(QByteArrayView bytes)
         const char *description;
     };
     static constexpr std::array formats{
-        Format{"<FictionBook", "an e-book in the format FictionBook; convert it to EPUB"},
-        Format{"<abiword", "an AbiWord document; save it as .odt or RTF"},
-        Format{"<uof:UOF", "a document in the Uniform Office Format; save it as .odt or .docx"},
+        Format{"<FictionBook",
+            QT_TRANSLATE_NOOP(
+                "documents/reading", "an e-book in the format FictionBook; convert it to EPUB")},
+        Format{"<abiword",
+            QT_TRANSLATE_NOOP("documents/reading", "an AbiWord document; save it as .odt or RTF")},
+        Format{"<uof:UOF",
+            QT_TRANSLATE_NOOP(
+                "documents/reading", "a document in the Uniform Office Format; save it as .odt or .docx")},
     };
     const QByteArrayView root = xmlRoot(bytes);
     const auto *const format = std::ranges::find_if(

@@ -3,6 +3,7 @@
 
 #include "platform/files/FileContents.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QStandardPaths>
 
@@ -13,9 +14,9 @@ namespace {
 
 constexpr qint64 maxTypeFileSize = 1'048'576;
 
-/// Of the file of a type in the database: the comment without a language is the English one. QMimeType itself
-/// has the comment only in the language of the process.
-QString englishComment(const QString &typeName)
+/// Of the file of a type in the database, where the comment without a language is the English one. QMimeType
+/// itself has the comment only in the language of the process, which may be one that our texts do not have.
+QString comment(const QString &typeName, const QByteArray &startTag)
 {
     const QString path = QStandardPaths::locate(
         QStandardPaths::GenericDataLocation, QStringLiteral("mime/%1.xml").arg(typeName));
@@ -25,13 +26,20 @@ QString englishComment(const QString &typeName)
         readFile(QFile::encodeName(path), {.maxSize = maxTypeFileSize, .memory = maxTypeFileSize * 4});
     if (!contents)
         return {};
-    constexpr QByteArrayView start("<comment>");
-    const qsizetype at = contents.value().indexOf(start);
-    const qsizetype end = contents.value().indexOf("</comment>", at + start.size());
-    if (at < 0 || end < 0)
+    const qsizetype at = contents.value().indexOf(startTag);
+    const qsizetype start = at + startTag.size();
+    const qsizetype end = at < 0 ? -1 : contents.value().indexOf("</comment>", start);
+    if (end < 0)
         return {};
-    QString comment = QString::fromUtf8(contents.value().sliced(at + start.size(), end - at - start.size()));
-    return comment.replace(QStringLiteral("&amp;"), QStringLiteral("&")).simplified();
+    QString text = QString::fromUtf8(contents.value().sliced(start, end - start));
+    return text.replace(QStringLiteral("&amp;"), QStringLiteral("&")).simplified();
+}
+
+/// The language of our texts, as "de".
+QString languageOfTexts()
+{
+    //: The code of your language, as "de": that of the names of file types.
+    return QCoreApplication::translate("documents/reading", "en");
 }
 
 bool isVowel(QChar letter)
@@ -77,8 +85,15 @@ QString withArticle(const QString &description)
 QString typeDescription(const QMimeType &type)
 {
     if (!type.isValid() || type.isDefault())
-        return QStringLiteral("a binary file");
-    const QString comment = englishComment(type.name());
-    return comment.isEmpty() ? QStringLiteral("a file of the type %1").arg(type.name())
-                             : withArticle(comment);
+        return QCoreApplication::translate("documents/reading", "a binary file");
+    const QString language = languageOfTexts();
+    if (language != u"en") {
+        const QByteArray startTag = "<comment xml:lang=\"" + language.toUtf8() + "\">";
+        if (const QString translated = comment(type.name(), startTag); !translated.isEmpty())
+            return translated;
+    }
+    const QString english = comment(type.name(), "<comment>");
+    return english.isEmpty()
+        ? QCoreApplication::translate("documents/reading", "a file of the type %1").arg(type.name())
+        : withArticle(english);
 }

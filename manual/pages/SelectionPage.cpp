@@ -8,15 +8,10 @@ const ManualPage &selectionPage()
         .command = "selection",
         .summary = QT_TRANSLATE_NOOP("Manual", "show the counts of the text selected in any application"),
         .usages = {"[--clipboard]"},
-        .description =
-            {QT_TRANSLATE_NOOP("Manual",
-                 "Opens a small window with the counts of the text that is selected in any application. "
-                 "Meant for a keyboard shortcut: errors are reported in a desktop notification as well as on "
-                 "standard error."),
-                QT_TRANSLATE_NOOP("Manual",
-                    "Some Wayland desktops pass selections to X11 programs, such as this one, only while an "
-                    "X11 program has the focus. On those, wl-paste is used if it is installed (package "
-                    "wl-clipboard).")},
+        .description = {QT_TRANSLATE_NOOP("Manual",
+            "Opens a small window with the counts of the text that is selected in any application. "
+            "Meant for a keyboard shortcut: errors are reported in a desktop notification as well as on "
+            "standard error.")},
         .options = {{.name = "clipboard",
                         .text = QT_TRANSLATE_NOOP("Manual", "use the text that was copied last instead")},
             helpOption()},

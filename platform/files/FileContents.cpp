@@ -5,6 +5,7 @@
 #include "platform/system/SystemError.h"
 
 #include <QByteArrayView>
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cerrno>
@@ -234,31 +235,32 @@ QString causeText(const FileError &error)
 {
     switch (error.cause) {
     case FileError::Cause::NoSuchFile:
-        return QStringLiteral("no such file");
+        return QCoreApplication::translate("platform/files", "no such file");
     case FileError::Cause::Folder:
-        return QStringLiteral("is a folder");
+        return QCoreApplication::translate("platform/files", "is a folder");
     case FileError::Cause::NamedPipe:
-        return QStringLiteral("is a named pipe");
+        return QCoreApplication::translate("platform/files", "is a named pipe");
     case FileError::Cause::Device:
-        return QStringLiteral("is a device");
+        return QCoreApplication::translate("platform/files", "is a device");
     case FileError::Cause::Socket:
-        return QStringLiteral("is a socket");
+        return QCoreApplication::translate("platform/files", "is a socket");
     case FileError::Cause::NoPermission:
-        return QStringLiteral("permission denied");
+        return QCoreApplication::translate("platform/files", "permission denied");
     case FileError::Cause::TooLarge:
-        return QStringLiteral("is larger than 2 GiB");
+        return QCoreApplication::translate("platform/files", "is larger than 2 GiB");
     case FileError::Cause::NotEnoughMemory:
-        return QStringLiteral("not enough memory");
+        return QCoreApplication::translate("platform/files", "not enough memory");
     case FileError::Cause::TooManySymbolicLinks:
-        return QStringLiteral("too many symbolic links");
+        return QCoreApplication::translate("platform/files", "too many symbolic links");
     case FileError::Cause::NameTooLong:
-        return QStringLiteral("name is too long");
+        return QCoreApplication::translate("platform/files", "name is too long");
     case FileError::Cause::InUse:
-        return QStringLiteral("is in use by another program");
+        return QCoreApplication::translate("platform/files", "is in use by another program");
     case FileError::Cause::ReadFailed:
         break;
     }
-    return QStringLiteral("cannot be read (%1)").arg(systemErrorText(error.systemError));
+    return QCoreApplication::translate("platform/files", "cannot be read (%1)")
+        .arg(systemErrorText(error.systemError));
 }
 
 Contents readFile(const QByteArray &path, const FileLimits &limits)

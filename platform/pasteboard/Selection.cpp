@@ -7,6 +7,8 @@
 #include "platform/wayland/FocusedWindow.h"
 #include "platform/wayland/WaylandConnection.h"
 
+#include <QCoreApplication>
+
 #include <chrono>
 #include <new>
 
@@ -172,29 +174,48 @@ Result<Pasteboard, SelectionFailure> readSelection(
 QString causeText(const SelectionFailure &failure)
 {
     const bool isClipboard = failure.name == SelectionName::Clipboard;
-    const QString what = isClipboard ? QStringLiteral("the clipboard") : QStringLiteral("the selection");
+    const auto text = [isClipboard](const char *ofClipboard, const char *ofSelection) {
+        return QCoreApplication::translate("platform/pasteboard", isClipboard ? ofClipboard : ofSelection);
+    };
     switch (failure.cause) {
     case Cause::NoDisplay:
-        return QStringLiteral("there is no display to take %1 from; 'quillbay text' takes a text from a pipe")
-            .arg(what);
+        return text(
+            QT_TRANSLATE_NOOP("platform/pasteboard",
+                "there is no display to take the clipboard from; 'quillbay text' takes a text from a pipe"),
+            QT_TRANSLATE_NOOP("platform/pasteboard",
+                "there is no display to take the selection from; 'quillbay text' takes a text from a pipe"));
     case Cause::NothingSelected:
-        return isClipboard ? QStringLiteral("the clipboard is empty") : QStringLiteral("nothing is selected");
+        return text(QT_TRANSLATE_NOOP("platform/pasteboard", "the clipboard is empty"),
+            QT_TRANSLATE_NOOP("platform/pasteboard", "nothing is selected"));
     case Cause::NothingShown:
-        return QStringLiteral("this desktop shows %1 to no other program; copy the text and run "
-                              "'quillbay text' in a terminal, or open its file with 'quillbay text FILE'")
-            .arg(what);
+        return text(QT_TRANSLATE_NOOP("platform/pasteboard",
+                        "this desktop shows the clipboard to no other program; copy the text and run "
+                        "'quillbay text' in a terminal, or open its file with 'quillbay text FILE'"),
+            QT_TRANSLATE_NOOP("platform/pasteboard",
+                "this desktop shows the selection to no other program; copy the text and run "
+                "'quillbay text' in a terminal, or open its file with 'quillbay text FILE'"));
     case Cause::OtherContent:
-        return QStringLiteral("%1 holds no %2")
-            .arg(what,
-                failure.content == SelectionContent::Text ? QStringLiteral("text") : QStringLiteral("files"));
+        return failure.content == SelectionContent::Text
+            ? text(QT_TRANSLATE_NOOP("platform/pasteboard", "the clipboard holds no text"),
+                QT_TRANSLATE_NOOP("platform/pasteboard", "the selection holds no text"))
+            : text(QT_TRANSLATE_NOOP("platform/pasteboard", "the clipboard holds no files"),
+                QT_TRANSLATE_NOOP("platform/pasteboard", "the selection holds no files"));
     case Cause::Refused:
-        return QStringLiteral("the application that has %1 does not hand it over").arg(what);
+        return text(QT_TRANSLATE_NOOP("platform/pasteboard",
+                        "the application that has the clipboard does not hand it over"),
+            QT_TRANSLATE_NOOP(
+                "platform/pasteboard", "the application that has the selection does not hand it over"));
     case Cause::NoAnswer:
-        return QStringLiteral("the application that has %1 does not answer").arg(what);
+        return text(QT_TRANSLATE_NOOP(
+                        "platform/pasteboard", "the application that has the clipboard does not answer"),
+            QT_TRANSLATE_NOOP(
+                "platform/pasteboard", "the application that has the selection does not answer"));
     case Cause::TooLarge:
-        return QStringLiteral("%1 is too large").arg(what);
+        return text(QT_TRANSLATE_NOOP("platform/pasteboard", "the clipboard is too large"),
+            QT_TRANSLATE_NOOP("platform/pasteboard", "the selection is too large"));
     case Cause::NotEnoughMemory:
         break;
     }
-    return QStringLiteral("not enough memory for %1").arg(what);
+    return text(QT_TRANSLATE_NOOP("platform/pasteboard", "not enough memory for the clipboard"),
+        QT_TRANSLATE_NOOP("platform/pasteboard", "not enough memory for the selection"));
 }

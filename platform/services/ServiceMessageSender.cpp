@@ -5,6 +5,7 @@
 #include "platform/services/ServiceInterface.h"
 #include "platform/session_bus/SessionBusConnection.h"
 
+#include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 
@@ -27,9 +28,10 @@ QString causeText(const ServiceMessageFailure &failure)
 {
     switch (failure.cause) {
     case ServiceMessageFailure::Cause::NoBus:
-        return QStringLiteral("there is no session bus");
+        return QCoreApplication::translate("platform/services", "there is no session bus");
     case ServiceMessageFailure::Cause::NoProvider:
-        return QStringLiteral("the service provider does not answer: %1").arg(failure.text);
+        return QCoreApplication::translate("platform/services", "the service provider does not answer: %1")
+            .arg(failure.text);
     case ServiceMessageFailure::Cause::Refused:
         return failure.text;
     }

@@ -3,6 +3,7 @@
 
 #include "platform/system/SystemError.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <fcntl.h>
@@ -134,7 +135,7 @@ bool waitUntilReadable(int descriptor, std::chrono::milliseconds timeout)
 
 QString messageText(const LaunchError &error)
 {
-    return QStringLiteral("%1 cannot be started: %2")
+    return QCoreApplication::translate("platform/system", "%1 cannot be started: %2")
         .arg(error.launchPath, systemErrorText(error.systemError));
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/views/Controls.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QVariant>
 #include <QXmlStreamReader>
@@ -118,7 +119,9 @@ private:
         if (!m_xml.readNextStartElement() || m_xml.name() != u"ui" || !attribute("version").startsWith(u"4."))
             return fail(QStringLiteral("not a form of version 4"));
         while (m_xml.readNextStartElement()) {
-            if (m_xml.name() != u"widget")
+            if (m_xml.name() == u"class")
+                m_context = m_xml.readElementText().toUtf8();
+            else if (m_xml.name() != u"widget")
                 m_xml.skipCurrentElement(); // does not describe views
             else if (m_file.m_rootView)
                 fail(QStringLiteral("more than one root widget"));
@@ -200,10 +203,11 @@ private:
             return fail(QStringLiteral("property %1 has no value").arg(name));
         const bool isIcon = m_xml.name() == u"iconset";
         const bool isNumber = m_xml.name() == u"number";
+        const bool isTranslated = m_xml.name() == u"string" && attribute("notr") != u"true";
         const QString theme = attribute("theme");
         const QString text = m_xml.readElementText(
             isIcon ? QXmlStreamReader::SkipChildElements : QXmlStreamReader::ErrorOnUnexpectedElement);
-        const QString value = isIcon ? theme : text;
+        const QString value = isIcon ? theme : isTranslated ? translated(text) : text;
         bool isInteger = false;
         const qint64 number = value.toLongLong(&isInteger);
         if (!setProperty(view, name, value)) {
@@ -216,8 +220,16 @@ private:
             fail(QStringLiteral("property %1 has a second value").arg(name));
     }
 
+    // The class of the form is the context of its texts, as for forms that Qt compiles.
+    [[nodiscard]] QString translated(const QString &text) const
+    {
+        return text.isEmpty() ? text
+                              : QCoreApplication::translate(m_context.constData(), text.toUtf8().constData());
+    }
+
     QXmlStreamReader m_xml;
     InterfaceFile m_file;
+    QByteArray m_context;
 };
 
 InterfaceFile InterfaceFile::load(const QString &path)

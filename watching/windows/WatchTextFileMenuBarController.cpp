@@ -10,6 +10,7 @@
 #include "speech/ApplicationExtension.h"
 #include "watching/FileTypes.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <utility>
@@ -21,12 +22,13 @@ constexpr int closeButton = 0;
 
 Alert failureAlert(const QUrl &document)
 {
-    return {.messageText = QStringLiteral("Failed to load text."),
-        .informativeText = QStringLiteral(
+    return {.messageText = QCoreApplication::translate("watching/windows", "Failed to load text."),
+        .informativeText = QCoreApplication::translate("watching/windows",
             "Quillbay was unable to update the stats of the text file currently being watched. "
             "This usually means the file was either renamed or deleted. You can choose another "
             "text file to watch or cancel."),
-        .buttons = {QStringLiteral("Close"), QStringLiteral("Choose another file.")},
+        .buttons = {QCoreApplication::translate("watching/windows", "Close"),
+            QCoreApplication::translate("watching/windows", "Choose another file.")},
         .windowTitle = document.adjusted(QUrl::StripTrailingSlash).fileName()};
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/system/FileURL.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMimeDatabase>
@@ -28,7 +29,7 @@ QString fileFilter(const QStringList &mimeTypes)
     patterns.removeDuplicates();
     if (patterns.isEmpty())
         patterns.append(QStringLiteral("*"));
-    return QStringLiteral("Documents (%1)").arg(patterns.join(u' '));
+    return QCoreApplication::translate("DocumentChooser", "Documents (%1)").arg(patterns.join(u' '));
 }
 
 /// The folder or the nearest one above it that exists; without one the user's, as the bus starts programs in
@@ -50,8 +51,8 @@ DocumentChooser::DocumentChooser(const OpenPanel &panel)
     setDirectory(startFolder(panel.folder));
     // Names without an extension match no pattern.
     if (!panel.allowedFileTypes.isEmpty())
-        setNameFilters(
-            {fileFilter(panel.allowedFileTypes + panel.otherFileTypes), QStringLiteral("All files (*)")});
+        setNameFilters({fileFilter(panel.allowedFileTypes + panel.otherFileTypes),
+            QCoreApplication::translate("DocumentChooser", "All files (*)")});
     setOption(HideNameFilterDetails);
     // After a double click Qt's chooser, and that of most desktops, enters the folder first.
     connect(this, &QFileDialog::directoryEntered, this, [this](const QString &folder) {

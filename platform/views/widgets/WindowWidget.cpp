@@ -313,7 +313,7 @@ void WindowWidget::contextMenuEvent(QContextMenuEvent *event)
     auto *const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     // Qt's own text, in the user's language.
-    QAction *const action = menu->addAction(QCoreApplication::translate("QWidgetTextControl", "&Copy"));
+    QAction *const action = menu->addAction(QCoreApplication::translate("WindowWidget", "&Copy"));
     action->setShortcut(QKeySequence::Copy);
     connect(action, &QAction::triggered, this, &WindowWidget::copy);
     menu->popup(event->globalPos());

@@ -116,11 +116,12 @@ TEST_F(WhyPageTest, AClickOnANumberWalksThroughItsItems)
 {
     openText(letter);
     clickCount(3);
-    EXPECT_TRUE(waitForReason("1 of 5: “I saw b.” is counted"));
+    EXPECT_TRUE(waitForReason("Item 1 of 5 (4 of them counted): “I saw b.” is counted"));
     clickCount(3);
-    EXPECT_TRUE(waitForReason("2 of 5: “It was late.”"));
+    EXPECT_TRUE(waitForReason("Item 2 of 5 (4 of them counted): “It was late.”"));
     press("F3");
-    EXPECT_TRUE(waitForReason("3 of 5: “No end &” is not counted: it does not end in a full stop"));
+    EXPECT_TRUE(waitForReason(
+        "Item 3 of 5 (4 of them counted): “No end &” is not counted: it does not end in a full stop"));
     EXPECT_EQ(view().textCursor().selectedText(), QStringLiteral("No end &"));
     press("shift+F3");
     EXPECT_TRUE(waitForReason("2 of 5"));
