@@ -4,6 +4,7 @@
 #include "common_views/ViewExtension.h"
 #include "text_statistics/TrimTrailingNumbersOffDecimal.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <limits>
@@ -118,5 +119,6 @@ double PageSizeForMeasuringPreviewViewController::embeddedTextViewOffsetMagnifie
 
 QString PageSizeForMeasuringPreviewViewController::formattedPageSizeInInches() const
 {
-    return QStringLiteral("%1 x %2 inches").arg(inches(pageSize().width()), inches(pageSize().height()));
+    return QCoreApplication::translate("PageSizeForMeasuringPreviewViewController", "%1 x %2 inches")
+        .arg(inches(pageSize().width()), inches(pageSize().height()));
 }

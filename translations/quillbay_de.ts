@@ -194,6 +194,13 @@
     </message>
 </context>
 <context>
+    <name>PageSizeForMeasuringPreviewViewController</name>
+    <message>
+        <source>%1 x %2 inches</source>
+        <translation>%1 × %2 Zoll</translation>
+    </message>
+</context>
+<context>
     <name>PaperListModel</name>
     <message>
         <source>%1 (not available)</source>

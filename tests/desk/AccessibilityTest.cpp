@@ -4,6 +4,7 @@
 #include "desk/PagePreview.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "tests/desk/DeskTest.h"
+#include "tests/translations/ShownLanguage.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -14,6 +15,8 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QStackedWidget>
+
+#include <tuple>
 
 using ::testing::Contains;
 
@@ -75,9 +78,21 @@ private:
 
 class EveryPage : public AccessibilityTest, public ::testing::WithParamInterface<int> { };
 
+class EveryPageInEveryLanguage : public AccessibilityTest,
+                                 public ::testing::WithParamInterface<std::tuple<int, const char *>> {
+protected:
+    [[nodiscard]] static int page() { return std::get<0>(GetParam()); }
+    [[nodiscard]] static QString languageName() { return QString::fromLatin1(std::get<1>(GetParam())); }
+
+private:
+    const ShownLanguage m_language{languageName()};
+};
+
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Desk, EveryPage, ::testing::Values(0, 1, 2));
+INSTANTIATE_TEST_SUITE_P(Desk, EveryPageInEveryLanguage,
+    ::testing::Combine(::testing::Values(0, 1, 2), ::testing::Values("en", "de", "fr")));
 
 TEST_P(EveryPage, EveryControlIsReachedByTab)
 {
@@ -120,9 +135,9 @@ TEST_P(EveryPage, EveryFieldBelongsToItsLabel)
     }
 }
 
-TEST_P(EveryPage, NoTwoMnemonicsAreTheSame)
+TEST_P(EveryPageInEveryLanguage, NoTwoMnemonicsAreTheSame)
 {
-    openPage(GetParam());
+    openPage(page());
     QStringList mnemonics;
     const auto add = [&mnemonics](const QString &text) {
         if (const QKeySequence mnemonic = QKeySequence::mnemonic(text); !mnemonic.isEmpty())
@@ -142,12 +157,12 @@ TEST_P(EveryPage, NoTwoMnemonicsAreTheSame)
     EXPECT_EQ(mnemonics.removeDuplicates(), 0) << mnemonics.join(u' ').toStdString();
 }
 
-TEST_P(EveryPage, NothingIsCutWithLargeLetters)
+TEST_P(EveryPageInEveryLanguage, NothingIsCutWithLargeLetters)
 {
     QFont font = QApplication::font();
     font.setPointSize(22);
     QApplication::setFont(font);
-    openPage(GetParam());
+    openPage(page());
     for (const QWidget *const widget : m_window->centralWidget()->findChildren<QWidget *>()) {
         const auto *const label = qobject_cast<const QLabel *>(widget);
         const bool hasText = qobject_cast<const QAbstractButton *>(widget) || (label && !label->wordWrap())
@@ -160,7 +175,7 @@ TEST_P(EveryPage, NothingIsCutWithLargeLetters)
         EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << nameOf(*widget);
     }
     EXPECT_LE(m_window->height(), m_window->screen()->availableSize().height());
-    takePicture(QStringLiteral("desk-large-%1").arg(GetParam()));
+    takePicture(QStringLiteral("desk-large-%1-%2").arg(languageName()).arg(page()));
 }
 
 TEST_P(EveryPage, IsMirroredFromRightToLeft)
