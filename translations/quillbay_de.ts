@@ -967,14 +967,6 @@
         <translation>es ist nichts ausgewählt</translation>
     </message>
     <message>
-        <source>the clipboard is empty, or the desktop does not show it to X11 programs; it would if wl-paste (package wl-clipboard) were installed</source>
-        <translation>die Zwischenablage ist leer, oder der Desktop zeigt sie X11-Programmen nicht; mit wl-paste (Paket wl-clipboard) wäre sie zu lesen</translation>
-    </message>
-    <message>
-        <source>nothing is selected, or the desktop does not show it to X11 programs; it would if wl-paste (package wl-clipboard) were installed</source>
-        <translation>es ist nichts ausgewählt, oder der Desktop zeigt die Auswahl X11-Programmen nicht; mit wl-paste (Paket wl-clipboard) wäre sie zu lesen</translation>
-    </message>
-    <message>
         <source>the clipboard holds no text</source>
         <translation>die Zwischenablage enthält keinen Text</translation>
     </message>
@@ -1021,6 +1013,14 @@
     <message>
         <source>not enough memory for the selection</source>
         <translation>nicht genug Speicher für die Auswahl</translation>
+    </message>
+    <message>
+        <source>this desktop shows the clipboard to no other program; copy the text and run &apos;quillbay text&apos; in a terminal, or open its file with &apos;quillbay text FILE&apos;</source>
+        <translation>dieser Desktop zeigt die Zwischenablage keinem anderen Programm; kopieren Sie den Text und starten Sie &apos;quillbay text&apos; in einem Terminal, oder öffnen Sie seine Datei mit &apos;quillbay text FILE&apos;</translation>
+    </message>
+    <message>
+        <source>this desktop shows the selection to no other program; copy the text and run &apos;quillbay text&apos; in a terminal, or open its file with &apos;quillbay text FILE&apos;</source>
+        <translation>dieser Desktop zeigt die Auswahl keinem anderen Programm; kopieren Sie den Text und starten Sie &apos;quillbay text&apos; in einem Terminal, oder öffnen Sie seine Datei mit &apos;quillbay text FILE&apos;</translation>
     </message>
 </context>
 <context>

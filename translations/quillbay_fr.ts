@@ -967,14 +967,6 @@
         <translation>rien n’est sélectionné</translation>
     </message>
     <message>
-        <source>the clipboard is empty, or the desktop does not show it to X11 programs; it would if wl-paste (package wl-clipboard) were installed</source>
-        <translation>le presse-papiers est vide, ou le bureau ne le montre pas aux programmes X11&#x202f;; avec wl-paste (paquet wl-clipboard), il serait lisible</translation>
-    </message>
-    <message>
-        <source>nothing is selected, or the desktop does not show it to X11 programs; it would if wl-paste (package wl-clipboard) were installed</source>
-        <translation>rien n’est sélectionné, ou le bureau ne montre pas la sélection aux programmes X11&#x202f;; avec wl-paste (paquet wl-clipboard), elle serait lisible</translation>
-    </message>
-    <message>
         <source>the clipboard holds no text</source>
         <translation>le presse-papiers ne contient pas de texte</translation>
     </message>
@@ -1021,6 +1013,14 @@
     <message>
         <source>not enough memory for the selection</source>
         <translation>mémoire insuffisante pour la sélection</translation>
+    </message>
+    <message>
+        <source>this desktop shows the clipboard to no other program; copy the text and run &apos;quillbay text&apos; in a terminal, or open its file with &apos;quillbay text FILE&apos;</source>
+        <translation>ce bureau ne montre le presse-papiers à aucun autre programme&#x202f;; copiez le texte et lancez &apos;quillbay text&apos; dans un terminal, ou ouvrez son fichier avec &apos;quillbay text FILE&apos;</translation>
+    </message>
+    <message>
+        <source>this desktop shows the selection to no other program; copy the text and run &apos;quillbay text&apos; in a terminal, or open its file with &apos;quillbay text FILE&apos;</source>
+        <translation>ce bureau ne montre la sélection à aucun autre programme&#x202f;; copiez le texte et lancez &apos;quillbay text&apos; dans un terminal, ou ouvrez son fichier avec &apos;quillbay text FILE&apos;</translation>
     </message>
 </context>
 <context>
