@@ -93,7 +93,8 @@ CountingServiceTest::~CountingServiceTest()
 
 void CountingServiceTest::installService(const QString &arguments) const
 {
-    writeServiceFile(productProgram(QStringLiteral("quillbay-counting-service")) + u' ' + arguments);
+    const QString program = productProgram(QStringLiteral("quillbay-counting-service"));
+    writeServiceFile(arguments.isEmpty() ? program : program + u' ' + arguments);
 }
 
 void CountingServiceTest::installServiceWithDescriptors(int limit) const
