@@ -15,6 +15,8 @@ const char *wrongCombinationIn(const CommandWords &words)
         return "--files-from can be given only once";
     if (words.switches.contains("service") && words.switches.contains("explain-rules"))
         return "--service and --explain-rules cannot be combined";
+    if (words.switches.contains("tsv") && words.switches.contains("explain-rules"))
+        return "--explain-rules prints a table or, with --json, an object; leave out --tsv";
     if (words.valueOf("files-from") == "-" && words.operands.contains("-"))
         return "standard input cannot be both a document and the list of files";
     return nullptr;

@@ -15,8 +15,6 @@
 #include "documents/rtfd/RtfdReader.h"
 #include "manual/HelpText.h"
 #include "manual/ManualPages.h"
-#include "platform/files/FileContents.h"
-#include "platform/system/OwnedDescriptor.h"
 #include "platform/system/Processors.h"
 #include "platform/system/Result.h"
 #include "platform/system/SystemError.h"
@@ -24,9 +22,7 @@
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/WordCounterModel.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -62,18 +58,6 @@ int threadsFor(const QByteArrayList &names, qint64 size)
     const qint64 worthwhile = std::max(size / sizePerThread, names.size() / filesPerThread);
     return static_cast<int>(std::clamp<qint64>(
         worthwhile, 1, std::min<qint64>(availableProcessors(), std::max<qsizetype>(names.size(), 1))));
-}
-
-// Unlike a document, a list may be a pipe: shells pass one for "--files-from <(find …)".
-Result<QByteArray, FileError> readList(const QByteArray &name)
-{
-    if (name == standardInputName)
-        return readDescriptor(STDIN_FILENO);
-    Result<QByteArray, FileError> list = readFile(name);
-    if (list || list.error().cause != FileError::Cause::NamedPipe)
-        return list;
-    const OwnedDescriptor pipe(::open(name.constData(), O_RDONLY | O_CLOEXEC));
-    return pipe ? readDescriptor(pipe.get()) : list;
 }
 
 constexpr qint64 minLargeSize = qint64{16} * 1024 * 1024; // bytes
@@ -167,7 +151,9 @@ void CountCommand::explainRules(const QByteArrayList &names)
     if (names.isEmpty())
         m_model.setAttributedStringToCount(AttributedString(QStringLiteral("a")));
     progress.hide();
-    print(explanationOfRules(m_rules, MeasuringSurface::shared().engine().fontFilesInUse()));
+    const QByteArrayList fontFiles = MeasuringSurface::shared().engine().fontFilesInUse();
+    print(m_arguments.format == CountFormat::Json ? jsonOfRules(m_rules, fontFiles)
+                                                  : explanationOfRules(m_rules, fontFiles));
 }
 
 QByteArrayList CountCommand::inputNames()
@@ -175,7 +161,7 @@ QByteArrayList CountCommand::inputNames()
     QByteArrayList names = m_arguments.fileNames;
     if (!m_arguments.listName)
         return names;
-    const Result<QByteArray, FileError> list = readList(*m_arguments.listName);
+    const Result<QByteArray, FileError> list = readNamed(*m_arguments.listName);
     if (!list) {
         fail(*m_arguments.listName, causeText(list.error()));
         return names;
@@ -254,8 +240,7 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
     if (asText || (name != standardInputName && isRtfdPackage(name)))
         return countTextInService(loadNamedDocument(name, m_arguments.readAs), progress);
     const QByteArray path = name == standardInputName ? QByteArray() : name;
-    const Result<QByteArray, FileError> contents =
-        path.isEmpty() ? readDescriptor(STDIN_FILENO) : readFile(path);
+    const Result<QByteArray, FileError> contents = readNamed(name);
     if (!contents)
         return causeText(DocumentError(contents.error()));
     const Result<DocumentKind, DocumentError> kind = kindOfDocument(path, contents.value());

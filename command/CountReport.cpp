@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <vector>
 
 namespace {
 
@@ -53,7 +55,7 @@ class JsonReport final : public CountReport {
 public:
     [[nodiscard]] QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
     {
-        QByteArray line = "{\"file\":" + jsonName(fileName);
+        QByteArray line = '{' + jsonFileMembers(fileName);
         for (const StatisticRow &row : statisticTable)
             line += QByteArray(",\"") + row.name + "\":" + QByteArray::number(stats.*row.count);
         return line + "}\n";
@@ -79,14 +81,54 @@ public:
     }
 };
 
-QByteArray inPoints(double length)
+/// A line of the explanation, and its member in JSON.
+struct RuleRow {
+    QByteArray title;
+    QByteArray text;
+    QByteArray name;
+    QByteArray json;
+};
+
+RuleRow numberRow(const char *title, double number, const char *unit, const char *name)
 {
-    return QByteArray::number(length, 'g', 6) + " points";
+    const QByteArray digits = QByteArray::number(number, 'g', 6);
+    return {title, digits + unit, name, digits};
 }
 
-QByteArray ruleLine(const char *name, const QByteArray &value)
+RuleRow lengthRow(const char *title, double length, const char *name)
 {
-    return QByteArray(name).leftJustified(38) + value + '\n';
+    return numberRow(title, length, " points", name);
+}
+
+std::vector<RuleRow> rulesAsRows(const CountingRules &rules)
+{
+    const PageRules &page = rules.page;
+    const QByteArray locale = rules.text.localeIdentifier().toUtf8();
+    const bool needsPunctuation = rules.text.sentencesNeedTerminalPunctuation;
+    const auto minimumSentences = static_cast<double>(rules.text.minimumSentencesOfParagraph);
+    const std::optional<QByteArray> paper =
+        page.paperName ? std::optional(page.paperName->toUtf8()) : std::nullopt;
+    const std::optional<double> columnWidth = columnWidthOf(page);
+    return {
+        {"Locale", printableName(locale), "locale", jsonName(locale)},
+        {"Sentences end in punctuation", needsPunctuation ? "yes" : "no", "terminalPunctuation",
+            needsPunctuation ? "true" : "false"},
+        numberRow("Sentences of a paragraph, at least", minimumSentences, "", "minimumSentences"),
+        {"Paper", paper ? printableName(*paper) : "of the print settings", "paper",
+            paper ? jsonName(*paper) : "null"},
+        lengthRow("Paper width", page.paperSize.width(), "paperWidth"),
+        lengthRow("Paper height", page.paperSize.height(), "paperHeight"),
+        lengthRow("Left margin", page.leftMargin, "leftMargin"),
+        lengthRow("Right margin", page.rightMargin, "rightMargin"),
+        columnWidth ? lengthRow("Column", *columnWidth, "column")
+                    : RuleRow{"Column", "none: the margins leave no width", "column", "null"},
+        numberRow("Pixels per point", page.scale, "", "pixelsPerPoint"),
+    };
+}
+
+QByteArray ruleLine(const QByteArray &title, const QByteArray &text)
+{
+    return title.leftJustified(38) + text + '\n';
 }
 
 } // namespace
@@ -111,23 +153,23 @@ QByteArray titleOf(Statistic statistic)
 
 QByteArray explanationOfRules(const CountingRules &rules, const QByteArrayList &fontFiles)
 {
-    const PageRules &page = rules.page;
-    const std::optional<double> columnWidth = columnWidthOf(page);
-    QByteArray text = ruleLine("Locale", printableName(rules.text.localeIdentifier().toUtf8()))
-        + ruleLine("Sentences end in punctuation", rules.text.sentencesNeedTerminalPunctuation ? "yes" : "no")
-        + ruleLine(
-            "Sentences of a paragraph, at least", QByteArray::number(rules.text.minimumSentencesOfParagraph))
-        + ruleLine(
-            "Paper", page.paperName ? printableName(page.paperName->toUtf8()) : "of the print settings")
-        + ruleLine("Paper width", inPoints(page.paperSize.width()))
-        + ruleLine("Paper height", inPoints(page.paperSize.height()))
-        + ruleLine("Left margin", inPoints(page.leftMargin))
-        + ruleLine("Right margin", inPoints(page.rightMargin))
-        + ruleLine("Column", columnWidth ? inPoints(*columnWidth) : "none: the margins leave no width")
-        + ruleLine("Pixels per point", QByteArray::number(page.scale));
+    QByteArray text;
+    for (const RuleRow &row : rulesAsRows(rules))
+        text += ruleLine(row.title, row.text);
     for (const QByteArray &file : fontFiles)
         text += ruleLine("Font", printableName(file));
     if (fontFiles.isEmpty())
         text += ruleLine("Font", "none: lines are measured with a fixed character width");
     return text;
+}
+
+QByteArray jsonOfRules(const CountingRules &rules, const QByteArrayList &fontFiles)
+{
+    QByteArray json;
+    for (const RuleRow &row : rulesAsRows(rules))
+        json += (json.isEmpty() ? "{\"" : ",\"") + row.name + "\":" + row.json;
+    QByteArrayList fonts;
+    for (const QByteArray &file : fontFiles)
+        fonts.append(jsonName(file));
+    return json + ",\"fonts\":[" + fonts.join(',') + "]}\n";
 }

@@ -36,3 +36,5 @@ QByteArray titleOf(Statistic statistic);
 /// The text of --explain-rules: a line with name and value for each rule. fontFiles: the files of the fonts
 /// that the lines were measured with.
 QByteArray explanationOfRules(const CountingRules &rules, const QByteArrayList &fontFiles);
+/// The same as a JSON object on a line of its own; lengths in points.
+QByteArray jsonOfRules(const CountingRules &rules, const QByteArrayList &fontFiles);

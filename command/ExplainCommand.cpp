@@ -55,10 +55,10 @@ struct ExplainOptions {
 /// At most so many code units of an item are printed in JSON.
 constexpr qsizetype maxJsonExcerptLength = 200;
 
-QByteArray jsonOf(const QByteArray &jsonFileName, QStringView text, const CountedItem &item)
+QByteArray jsonOf(const QByteArray &fileMembers, QStringView text, const CountedItem &item)
 {
     const QStringView excerpt = firstUnits(text.sliced(item.start, item.length), maxJsonExcerptLength);
-    return "{\"file\":" + jsonFileName + ",\"kind\":\""
+    return '{' + fileMembers + ",\"kind\":\""
         + statisticTable.at(static_cast<std::size_t>(item.statistic)).name
         + "\",\"offset\":" + QByteArray::number(item.start) + ",\"length\":" + QByteArray::number(item.length)
         + ",\"counted\":" + (item.isCounted() ? "true" : "false") + ",\"reason\":\""
@@ -170,11 +170,11 @@ void ExplainCommand::printItems(const AttributedString &text, Statistic statisti
 
 void ExplainCommand::printJson(const QByteArray &name, const AttributedString &text)
 {
-    const QByteArray jsonFileName = jsonName(name);
+    const QByteArray fileMembers = jsonFileMembers(name);
     for (const Statistic statistic : m_options.statistics) {
         m_counter->forEachItem(text, statistic, [&](const CountedItem &item) {
             if (!m_options.wantsOnlyNotCounted || !item.isCounted())
-                print(jsonOf(jsonFileName, text.string(), item));
+                print(jsonOf(fileMembers, text.string(), item));
         });
     }
     print(CountReport::make(CountFormat::Json, 0)->row(name, m_counter->count(text)));

@@ -36,7 +36,7 @@ Result<ReadText, DocumentError> readNamedText(const QByteArray &name, ReadAs rea
         return text ? Result<ReadText, DocumentError>(ReadText{DocumentKind::Rtfd, text.value().string()})
                     : text.error();
     }
-    const Result<QByteArray, FileError> contents = isInput ? readDescriptor(STDIN_FILENO) : readFile(name);
+    const Result<QByteArray, FileError> contents = readNamed(name);
     if (!contents)
         return DocumentError(contents.error());
     const QByteArray path = isInput ? QByteArray() : name;
@@ -126,7 +126,7 @@ QByteArray ExtractCommand::jsonOf(const QByteArray &name, const ReadText &docume
 {
     const QString &text = document.text;
     const CountingRules rules = currentCountingRules();
-    QByteArray json = "{\"file\":" + jsonName(name)
+    QByteArray json = '{' + jsonFileMembers(name)
         + ",\"type\":" + jsonName(mimeTypes(document.kind).first().toUtf8()) + ",\"length\":"
         + QByteArray::number(text.size()) + ",\"text\":" + jsonName(text.toUtf8()) + ",\"paragraphs\":[";
     qsizetype byteOffset = 0;

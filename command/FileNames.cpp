@@ -107,6 +107,14 @@ QByteArray jsonName(const QByteArray &name)
     return escaped.toUtf8();
 }
 
+QByteArray jsonFileMembers(const QByteArray &name)
+{
+    const QByteArray file = "\"file\":" + jsonName(name);
+    if (QByteArrayView(name).isValidUtf8())
+        return file;
+    return file + ",\"url\":\"" + fileURLOfName(name).toEncoded() + '"'; // printable ASCII without quotes
+}
+
 QByteArrayList namesInList(const QByteArray &list)
 {
     QByteArrayList names = list.split(list.contains('\0') ? '\0' : '\n');

@@ -22,6 +22,10 @@ QByteArray tsvName(const QByteArray &name);
 /// U+FFFD.
 QByteArray jsonName(const QByteArray &name);
 
+/// The members of a JSON object that name a file: "file", and, if the name is not valid UTF-8, "url" with the
+/// percent-encoded bytes of its absolute path (RFC 8089), so that no two files have the same members.
+QByteArray jsonFileMembers(const QByteArray &name);
+
 /// The names in a list: separated by NUL bytes if it contains any, otherwise by LF. Empty names are skipped.
 QByteArrayList namesInList(const QByteArray &list);
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <system_error>
 
 using namespace std::chrono_literals;
@@ -16,6 +17,40 @@ namespace {
 
 constexpr auto delay = 1s;
 constexpr auto interval = 200ms;
+
+constexpr char eraseLine[] = "\r\033[K";
+
+std::atomic<bool> isLineShown = false; // of the process, which has one terminal
+static_assert(std::atomic<bool>::is_always_lock_free); // read by a signal handler
+
+/// Terminals without control sequences say so by their type, as does what is no terminal at all.
+bool canErase()
+{
+    const QByteArray type = qgetenv("TERM");
+    return ::isatty(STDERR_FILENO) && !type.isEmpty() && type != "dumb";
+}
+
+/// The shell's prompt would follow a line that Ctrl+C leaves behind. Calls async-signal-safe functions only.
+extern "C" void eraseAndEnd(int signal)
+{
+    if (isLineShown) {
+        [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, eraseLine, sizeof eraseLine - 1);
+    }
+    std::raise(signal); // SA_RESETHAND: ends the process once this handler returns
+}
+
+/// Leaves signals alone that somebody ignores or handles already.
+void eraseAtSignals()
+{
+    struct sigaction action { };
+    action.sa_handler = eraseAndEnd;
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    for (const int signal : {SIGINT, SIGTERM}) {
+        struct sigaction previous { };
+        if (::sigaction(signal, nullptr, &previous) == 0 && previous.sa_handler == SIG_DFL)
+            ::sigaction(signal, &action, nullptr);
+    }
+}
 
 void writeToStandardError(const QByteArray &text)
 {
@@ -35,8 +70,9 @@ qsizetype terminalWidth()
 ProgressLine::ProgressLine(qsizetype fileCount)
     : m_fileCount(fileCount)
 {
-    if (!::isatty(STDERR_FILENO))
+    if (!canErase())
         return;
+    eraseAtSignals();
     try {
         m_thread = std::thread([this] { drawUntilStopped(); });
     } catch (const std::system_error &) { // no thread available: work without showing the progress
@@ -97,13 +133,12 @@ void ProgressLine::draw()
         line += QStringLiteral("%1 %, ").arg(100 * m_position.load(std::memory_order_relaxed) / m_length);
     line +=
         m_fileName == "-" ? QStringLiteral("standard input") : QString::fromUtf8(printableName(m_fileName));
-    writeToStandardError("\r\033[K" + line.left(terminalWidth() - 1).toUtf8());
-    m_isShown = true;
+    isLineShown = true;
+    writeToStandardError(eraseLine + line.left(terminalWidth() - 1).toUtf8());
 }
 
 void ProgressLine::erase()
 {
-    if (m_isShown)
-        writeToStandardError("\r\033[K");
-    m_isShown = false;
+    if (isLineShown.exchange(false))
+        writeToStandardError(eraseLine);
 }

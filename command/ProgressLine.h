@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// ProgressLine shows the progress of a command on standard error, if that is a terminal and the work takes
-// longer than a second.
+// ProgressLine shows the progress of a command on standard error, if that is a terminal that can erase a line
+// and the work takes longer than a second. Ctrl+C erases the line too.
 // Thread: one; draws on a thread of its own.  Owner: a command.
 #pragma once
 
@@ -39,7 +39,6 @@ private:
     std::mutex m_mutex; ///< guards all below
     std::condition_variable m_stop;
     bool m_isStopped = false;
-    bool m_isShown = false;
     QByteArray m_fileName;
     qsizetype m_index = 0;
     qsizetype m_length = 0; ///< 0 while the file is being read

@@ -32,6 +32,25 @@ QString sentenceOf(const QString &cause)
     return sentence;
 }
 
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+QString explanationOf(const ServiceMessageFailure &failure)
+{
+    using Cause = ServiceMessageFailure::Cause;
+    const QString alternative = QStringLiteral("or use 'quillbay count', which needs none");
+    // Not asked before: a provider that runs already has its display.
+    if (failure.cause != Cause::Refused && !hasDisplay())
+        return QStringLiteral("there is no display for the window; run this in a terminal of your desktop, ")
+            + alternative;
+    if (failure.cause == Cause::NoBus)
+        return causeText(failure) + QStringLiteral(", which opens the window; log in to a desktop, ")
+            + alternative;
+    return causeText(failure);
+}
+
 } // namespace
 
 int performService(const QString &service, const Pasteboard &pasteboard, FailureReport report)
@@ -43,7 +62,7 @@ int performService(const QString &service, const Pasteboard &pasteboard, Failure
     if (!token.isEmpty())
         options.insert(ServiceInterface::activationTokenOption(), token);
     const std::optional<ServiceMessageFailure> failure = sendServiceMessage(service, pasteboard, options);
-    return failure ? reportFailure(causeText(*failure), report) : 0;
+    return failure ? reportFailure(explanationOf(*failure), report) : 0;
 }
 
 int reportFailure(const QString &cause, FailureReport report)

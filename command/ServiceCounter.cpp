@@ -2,6 +2,7 @@
 #include "command/ServiceCounter.h"
 
 #include "documents/rtfd/RtfdWriter.h"
+#include "platform/session_bus/SessionBusState.h"
 #include "presentation/WordCounterServiceProtocol.h"
 
 #include <future>
@@ -35,6 +36,9 @@ Outcome ServiceCounter::countText(const AttributedString &text)
 
 Outcome ServiceCounter::countDocument(DocumentKind kind, QByteArrayView bytes)
 {
+    if (sessionBusFault())
+        return QStringLiteral("there is no session bus, over which the counting service is reached; run "
+                              "again without --service");
     SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
     if (!memory)
         return memoryFailure();

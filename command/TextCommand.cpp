@@ -23,7 +23,7 @@ Result<Pasteboard, QString> pasteboardOf(const QByteArray &name)
     if (!data)
         return causeText(data.error());
     Pasteboard::Forms forms{{QString::fromUtf16(Pasteboard::flatRtfdType), std::move(data).value()}};
-    if (name != standardInputName)
+    if (name != standardInputName && !isNamedPipe(name))
         forms.emplace(QString::fromUtf16(Pasteboard::urlListType), urlLineOfFile(name));
     return Pasteboard(std::move(forms));
 }

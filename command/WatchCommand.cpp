@@ -9,50 +9,86 @@
 #include "manual/ManualPages.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
+#include "platform/session_bus/UserNotification.h"
+#include "platform/system/FileURL.h"
 
+#include <algorithm>
 #include <new>
+#include <vector>
 
 namespace {
 
 constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
 
-/// A list of URLs (RFC 2483) of the files that can be counted; reports the others and sets isComplete to
-/// false.
-QByteArray urlListOfFiles(const QByteArrayList &names, bool &isComplete)
+/// A file that is not watched, and why.
+struct LeftOut {
+    QByteArray name;
+    QString cause;
+};
+
+struct CheckedFiles {
+    QByteArray urlList; ///< RFC 2483, of the files that can be counted
+    std::vector<LeftOut> leftOut;
+};
+
+/// Reports the files that cannot be counted on standard error.
+CheckedFiles checkFiles(const QByteArrayList &names)
 {
-    QByteArray list;
+    CheckedFiles checked;
     for (const QByteArray &name : names) {
-        if (const Result<AttributedString, DocumentError> text = loadDocument(name, {.readsPdf = true});
-            !text) {
-            reportDocumentFailure(name, causeText(text.error()));
-            isComplete = false;
+        const Result<AttributedString, DocumentError> text = loadDocument(name, {.readsPdf = true});
+        if (text) {
+            checked.urlList += urlLineOfFile(name);
             continue;
         }
-        list += urlLineOfFile(name);
+        checked.leftOut.push_back({name, causeText(text.error())});
+        reportDocumentFailure(name, checked.leftOut.back().cause);
     }
-    return list;
+    return checked;
 }
 
-int send(const Pasteboard &pasteboard)
+/// One notification for all: a file manager shows nothing of standard error.
+void notifyOf(const std::vector<LeftOut> &leftOut)
 {
-    return performService(QStringLiteral("watchTheTextFileService"), pasteboard, report);
-}
-
-int watchCopiedFiles()
-{
-    const Result<Pasteboard, SelectionFailure> files =
-        readSelection(SelectionName::Clipboard, SelectionContent::Files, PasteboardWire::maxPasteboardSize);
-    return files ? send(files.value()) : reportFailure(causeText(files.error()), report);
+    const LeftOut &first = leftOut.front();
+    QString text = QStringLiteral("%1: %2.").arg(
+        QString::fromUtf8(printableName(first.name)), QString::fromUtf8(printableName(first.cause.toUtf8())));
+    if (leftOut.size() == 2)
+        text += QStringLiteral(" Another file cannot be watched either.");
+    else if (leftOut.size() > 2)
+        text += QStringLiteral(" %1 other files cannot be watched either.").arg(leftOut.size() - 1);
+    showUserNotification(QStringLiteral("Quillbay"), text);
 }
 
 int watch(const QByteArrayList &names)
 {
-    bool isComplete = true;
-    const QByteArray list = urlListOfFiles(names, isComplete);
-    if (list.isEmpty())
-        return 1;
-    const int status = send(Pasteboard({{QString::fromUtf16(Pasteboard::urlListType), list}}));
-    return isComplete ? status : 1;
+    const CheckedFiles files = checkFiles(names);
+    int status = files.leftOut.empty() ? 0 : 1;
+    if (!files.urlList.isEmpty()) {
+        const Pasteboard pasteboard({{QString::fromUtf16(Pasteboard::urlListType), files.urlList}});
+        const int sent = performService(QStringLiteral("watchTheTextFileService"), pasteboard, report);
+        status = std::max(status, sent);
+    }
+    // Last: a notification server may take its time.
+    if (!files.leftOut.empty())
+        notifyOf(files.leftOut);
+    return status;
+}
+
+int watchCopiedFiles()
+{
+    const Result<Pasteboard, SelectionFailure> copied =
+        readSelection(SelectionName::Clipboard, SelectionContent::Files, PasteboardWire::maxPasteboardSize);
+    if (!copied)
+        return reportFailure(causeText(copied.error()), report);
+    QByteArrayList names;
+    for (const QUrl &url : copied.value().readFileURLs())
+        names.append(pathOfFileURL(url));
+    if (names.isEmpty())
+        return reportFailure(
+            QStringLiteral("the copied files are not on this computer; copy them here and watch the copies"),
+            report);
+    return watch(names);
 }
 
 } // namespace
@@ -68,10 +104,8 @@ int runWatchCommand(int wordCount, char **words)
     if (wanted->operands.isEmpty() != fromClipboard)
         return reportWrongUsage(
             "watch", fromClipboard ? "either --clipboard or files, not both" : "no file given");
-    if (fromClipboard)
-        return watchCopiedFiles();
     try {
-        return watch(wanted->operands);
+        return fromClipboard ? watchCopiedFiles() : watch(wanted->operands);
     } catch (const std::bad_alloc &) {
         return reportFailure(causeText(FileError{FileError::Cause::NotEnoughMemory}), report);
     }

@@ -3,11 +3,16 @@
 #include "tests/command/CommandTest.h"
 
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <fcntl.h>
 #include <sys/resource.h>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -159,6 +164,47 @@ TEST_F(CountCommandTest, AnUnreadableFileIsReportedOnOneLineAndTheOthersAreStill
     EXPECT_EQ(lines[3], QByteArray("quillbay: /dev/zero: is a device"));
 }
 
+TEST_F(CountCommandTest, APipeOfTheShellIsReadLikeStandardInput)
+{
+    const QByteArray program = QFile::encodeName(productProgram(QStringLiteral("quillbay")));
+    const std::vector<std::pair<QByteArray, const char *>> cases{
+        {"count --tsv", "\t2\t7\t8\t1\t1\t1\t1\t0\n"},
+        {"explain", "\nWords                 2\n"},
+        {"extract", "One two."},
+    };
+    for (const auto &[words, expected] : cases) {
+        ChildProcess shell(QStringLiteral("/bin/bash"));
+        const ChildProcess::Outcome outcome =
+            shell.run({"-c", "'" + program + "' " + words + " <(printf 'One two.') <(true)"});
+        EXPECT_EQ(outcome.exitStatus, 0) << words.constData();
+        EXPECT_EQ(outcome.errors, QByteArray());
+        EXPECT_THAT(outcome.output.toStdString(), HasSubstr(expected));
+    }
+}
+
+TEST_F(CountCommandTest, APipeOfAFolderIsReadOnceSomebodyWrites)
+{
+    const QByteArray pipe = QFile::encodeName(world().home()) + "/pipe";
+    ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
+    ChildProcess writer(QStringLiteral("/bin/sh")); // its redirection waits for the reader
+    writer.start({"-c", "printf 'One two.' > '" + pipe + "'"});
+    const ChildProcess::Outcome outcome = count({"--tsv", pipe});
+    EXPECT_EQ(outcome.exitStatus, 0) << outcome.errors.constData();
+    EXPECT_THAT(outcome.output.toStdString(), EndsWith("/pipe\t2\t7\t8\t1\t1\t1\t1\t0\n"));
+    writer.finish();
+}
+
+TEST_F(CountCommandTest, CountingInTheServiceWithoutABusIsOneSentence)
+{
+    const QByteArray name = file("one", "One.");
+    const ChildProcess::Outcome outcome = count({"--service", name});
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.errors,
+        "quillbay: " + name
+            + ": there is no session bus, over which the counting service is reached; "
+              "run again without --service\n");
+}
+
 TEST_F(CountCommandTest, WithoutACountedFileThereIsNoTotal)
 {
     const ChildProcess::Outcome outcome = count({"/no/such/file", "/no/such/other"});
@@ -269,6 +315,28 @@ TEST_F(CountCommandTest, ExplainedRulesNameEverythingThatTheCountsDependOn)
              "Paper width 612 points", "Left margin 72 points", "Right margin 18 points", "Column 522 points",
              "Pixels per point 1", "Font "})
         EXPECT_THAT(text, HasSubstr(rule));
+}
+
+TEST_F(CountCommandTest, ExplainedRulesAreAnObjectInJson)
+{
+    QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
+    QBYUserDefaultsController::setCurrentPaperNamePreference(QStringLiteral("Legal"));
+    QBYUserDefaultsController::setLeftMarginForPaperSizeLineMeasuring(1);
+    QBYUserDefaultsController::setMinNumberOfSentencesForParagraphCount(2);
+    const QByteArray output = count({"--explain-rules", "--json"}).output;
+    const QJsonObject rules = QJsonDocument::fromJson(output).object();
+    EXPECT_EQ(output.count('\n'), 1);
+    EXPECT_EQ(rules[u"locale"], QStringLiteral("en_US"));
+    EXPECT_EQ(rules[u"terminalPunctuation"], true);
+    EXPECT_EQ(rules[u"minimumSentences"], 2);
+    EXPECT_EQ(rules[u"paper"], QStringLiteral("Legal"));
+    EXPECT_EQ(rules[u"leftMargin"], 72);
+    EXPECT_EQ(rules[u"column"], 522);
+    EXPECT_FALSE(rules[u"fonts"].toArray().isEmpty());
+
+    QBYUserDefaultsController::setLeftMarginForPaperSizeLineMeasuring(10);
+    const QByteArray narrow = count({"--explain-rules", "--json"}).output;
+    EXPECT_TRUE(QJsonDocument::fromJson(narrow).object()[u"column"].isNull());
 }
 
 TEST_F(CountCommandTest, ExplainedRulesNameTheFontsThatTheFilesNeed)

@@ -28,6 +28,7 @@ TEST_F(CountUsageTest, WrongUsageExitsWithTwoAndAHintOnStandardError)
         {{"frobnicate"}, "unknown command 'frobnicate'"},
         {{"count", "--nonsense"}, "--nonsense"},
         {{"count", "--json", "--tsv"}, "--json and --tsv cannot be combined"},
+        {{"count", "--explain-rules", "--tsv"}, "leave out --tsv"},
         {{"count", "--files-from"}, "--files-from"},
         {{"count", "--files-from", "a", "--files-from", "b"}, "only once"},
         {{"count", "--files-from", "-", "-"}, "standard input cannot be both"},

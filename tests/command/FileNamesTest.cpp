@@ -31,6 +31,14 @@ TEST(FileNames, JsonNamesAreJsonStrings)
         jsonName("\x7F\xC2\x9B\xE2\x80\xAE\xE2\x80\xA8"), QByteArray("\"\\u007f\\u009b\\u202e\\u2028\""));
 }
 
+TEST(FileNames, JsonNamesAFileByItsBytesToo)
+{
+    EXPECT_EQ(jsonFileMembers("caf\xC3\xA9"), QByteArray("\"file\":\"caf\xC3\xA9\""));
+    EXPECT_EQ(jsonFileMembers("/a\xFF\"b\\\n"),
+        QByteArray("\"file\":\"/a\xEF\xBF\xBD\\\"b\\\\\\n\",\"url\":\"file:///a%FF%22b%5C%0A\""));
+    EXPECT_NE(jsonFileMembers("\xFE"), jsonFileMembers("\xFF"));
+}
+
 TEST(FileNames, TsvNamesEscapeSeparatorsAndTheEscape)
 {
     EXPECT_EQ(tsvName("a\tb\nc\rd\\t"), QByteArray("a\\tb\\nc\\rd\\\\t"));

@@ -72,6 +72,44 @@ TEST_F(TextCommand, ReportsTheProvidersErrorOnStandardError)
     EXPECT_EQ(outcome.errors, QByteArray("quillbay: No_such_text.\n"));
 }
 
+TEST_F(TextCommand, SaysWhatToDoWithoutADisplay)
+{
+    removeProvider();
+    ChildProcess command(productProgram(QStringLiteral("quillbay")));
+    const Outcome outcome = command.withoutVariable("DISPLAY").run({"text"}, "text");
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.errors,
+        QByteArray("quillbay: there is no display for the window; run this in a terminal of your desktop, "
+                   "or use 'quillbay count', which needs none\n"));
+}
+
+TEST_F(TextCommand, NeedsNoDisplayOfItsOwnWhereTheProviderHasOne)
+{
+    ChildProcess command(productProgram(QStringLiteral("quillbay")));
+    EXPECT_EQ(command.withoutVariable("DISPLAY").run({"text"}, "text").exitStatus, 0);
+    EXPECT_EQ(request()[u"text"].toString(), QStringLiteral("text"));
+}
+
+TEST_F(TextCommand, SaysWhatToDoWithoutASessionBus)
+{
+    ChildProcess command(productProgram(QStringLiteral("quillbay")));
+    const Outcome outcome =
+        command.withVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nobody").run({"text"}, "text");
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.errors,
+        QByteArray("quillbay: there is no session bus, which opens the window; log in to a desktop, "
+                   "or use 'quillbay count', which needs none\n"));
+}
+
+TEST_F(TextCommand, GivesAWindowOfAPipeNoName)
+{
+    ChildProcess shell(QStringLiteral("/bin/bash"));
+    const QByteArray program = QFile::encodeName(productProgram(QStringLiteral("quillbay")));
+    EXPECT_EQ(shell.run({"-c", "'" + program + "' text <(printf One.)"}).exitStatus, 0);
+    EXPECT_EQ(request()[u"text"].toString(), QStringLiteral("One."));
+    EXPECT_EQ(request()[u"forms"].toObject().keys(), QStringList{QStringLiteral("application/x-flat-rtfd")});
+}
+
 TEST_F(TextCommand, AcceptsOneFile)
 {
     const Outcome outcome = quillbay({"text", "a", "b"});
