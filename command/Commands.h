@@ -8,6 +8,9 @@
 /// Prints the counts of files or of standard input.
 int runCountCommand(int wordCount, char **words);
 
+/// Prints what works on this desktop, what does not, and what to do about it.
+int runDoctorCommand(int wordCount, char **words);
+
 /// Prints what the counts of files consist of, and what does not count and why.
 int runExplainCommand(int wordCount, char **words);
 

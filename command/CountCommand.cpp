@@ -10,7 +10,7 @@
 #include "command/NamedDocument.h"
 #include "command/ParallelCount.h"
 #include "command/ProgressLine.h"
-#include "command/ServiceCounter.h"
+#include "presentation/ServiceCounter.h"
 #include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "manual/HelpText.h"

@@ -24,6 +24,7 @@ struct Command {
 
 constexpr Command commands[] = {
     {"count", runCountCommand},
+    {"doctor", runDoctorCommand},
     {"explain", runExplainCommand},
     {"extract", runExtractCommand},
     {"preferences", runPreferencesCommand},

@@ -63,6 +63,13 @@ void appendGroupOf(QStringList &families, const QString &name)
     }
 }
 
+QStringList familiesWithDefaultAdvances()
+{
+    QStringList list{QStringLiteral("helvetica")};
+    appendGroupOf(list, list.first());
+    return list;
+}
+
 } // namespace
 
 QString familyKey(QStringView family)
@@ -78,12 +85,16 @@ QString familyKey(QStringView family)
 const QStringList &defaultFamilies()
 {
     static const QStringList families = [] {
-        QStringList list{QStringLiteral("helvetica")};
-        appendGroupOf(list, list.first());
+        QStringList list = familiesWithDefaultAdvances();
         list << QStringLiteral("dejavusans") << QStringLiteral("notosans");
         return list;
     }();
     return families;
+}
+
+bool hasDefaultAdvances(const QString &key)
+{
+    return familiesWithDefaultAdvances().contains(key);
 }
 
 FontRequest makeFontRequest(const FontAttributes &attributes)

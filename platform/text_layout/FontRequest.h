@@ -23,6 +23,10 @@ QString familyKey(QStringView family);
 /// The families for text without a font, which means Helvetica: that and its substitutes.
 const QStringList &defaultFamilies();
 
+/// Whether a family has the same advances as Helvetica, unlike the last resorts among the default families.
+/// key: of familyKey().
+bool hasDefaultAdvances(const QString &key);
+
 /// Parses a name as documents write it: a family ("Times New Roman") or a PostScript name ("Helvetica-Bold",
 /// "TimesNewRomanPSMT"). The family itself is followed by the families with the same advances, then by the
 /// default ones, so that a name gives the same font on every machine with the same fonts.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "command/ServiceCounter.h"
+#include "presentation/ServiceCounter.h"
 
 #include "documents/rtfd/RtfdWriter.h"
 #include "platform/session_bus/SessionBusState.h"
