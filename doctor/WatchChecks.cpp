@@ -25,6 +25,18 @@ int watchError()
     return ::inotify_add_watch(events.get(), "/", IN_CLOSE_WRITE) >= 0 ? 0 : errno;
 }
 
+QString causeOf(int error)
+{
+    switch (error) {
+    case EMFILE:
+        return Doctor::tr("no instance of inotify is left");
+    case ENOSPC:
+        return Doctor::tr("no watch of inotify is left");
+    default:
+        return systemErrorText(error);
+    }
+}
+
 QString remedyForWatchError(int error)
 {
     const bool isInstance = error == EMFILE;
@@ -48,7 +60,7 @@ Finding checkWatches()
     if (const int error = watchError())
         return limitedFinding(Doctor::tr("The kernel does not report changes of further files (%1), so they "
                                          "are checked every two seconds.")
-                                  .arg(systemErrorText(error))
+                                  .arg(causeOf(error))
                 + u' ' + numbers,
             remedyForWatchError(error));
     return goodFinding(Doctor::tr("The kernel reports changes of watched files.") + u' ' + numbers);
