@@ -48,6 +48,8 @@ QString explanationOf(const ServiceMessageFailure &failure)
     if (failure.cause == Cause::NoBus)
         return causeText(failure) + QStringLiteral(", which opens the window; log in to a desktop, ")
             + alternative;
+    if (failure.cause == Cause::NoProvider)
+        return causeText(failure) + QStringLiteral("; run 'quillbay doctor' to find out why");
     return causeText(failure);
 }
 

@@ -83,8 +83,8 @@ Finding checkLocale()
         ? Doctor::tr("A letter that stands alone counts as a word.")
         : Doctor::tr("A letter that stands alone counts as a word only if it is a, I, O or x.");
     const bool isWanted = !wanted.isEmpty() && wanted != "C" && !wanted.startsWith("C.") && wanted != "POSIX";
-    const QByteArray inForce = std::setlocale(LC_MESSAGES, nullptr);
-    if (isWanted && inForce == "C")
+    const QByteArray currentName = std::setlocale(LC_MESSAGES, nullptr);
+    if (isWanted && currentName == "C")
         return limitedFinding(
             Doctor::tr("The locale %1 is not installed; words are counted by the rules of %2.")
                     .arg(QString::fromUtf8(wanted), identifier)

@@ -54,6 +54,8 @@ Outcome ServiceCounter::countDocument(DocumentKind kind, QByteArrayView bytes)
     try {
         return answer.get();
     } catch (const std::future_error &) {
-        return QStringLiteral("the counting service does not answer; run again without --service");
+        return QStringLiteral(
+            "the counting service does not answer; run again without --service, or 'quillbay doctor' to find "
+            "out why");
     }
 }
