@@ -10,6 +10,7 @@
 #include <chrono>
 #include <csignal>
 #include <system_error>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -126,6 +127,12 @@ void ProgressLine::drawUntilStopped()
 
 void ProgressLine::draw()
 {
+    if (m_length == 0 && m_fileName == "-" && ::isatty(STDIN_FILENO)) {
+        // The user types into this line: it must not be drawn over.
+        if (!std::exchange(m_hasPrompted, true))
+            writeToStandardError("reading standard input; Ctrl+D on an empty line ends it\n");
+        return;
+    }
     QString line = m_length > 0 ? QStringLiteral("counting ") : QStringLiteral("reading ");
     if (m_fileCount > 1)
         line += QStringLiteral("%1 of %2, ").arg(m_index + 1).arg(m_fileCount);

@@ -39,6 +39,7 @@ private:
     std::mutex m_mutex; ///< guards all below
     std::condition_variable m_stop;
     bool m_isStopped = false;
+    bool m_hasPrompted = false; ///< the user knows that they can type
     QByteArray m_fileName;
     qsizetype m_index = 0;
     qsizetype m_length = 0; ///< 0 while the file is being read

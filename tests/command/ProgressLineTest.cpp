@@ -60,6 +60,21 @@ TEST_F(ProgressLineTest, ShowsTheFileThatIsBeingReadAndErasesTheLineAtTheEnd)
     EXPECT_THAT(terminalOutput().toStdString(), EndsWith("\r\033[K"));
 }
 
+TEST_F(ProgressLineTest, WhatTheUserTypesIsNotDrawnOver)
+{
+    ChildProcess process(productProgram(QStringLiteral("quillbay")));
+    process.withVariable("TERM", "xterm").afterFork([this] {
+        ::dup2(m_end, STDIN_FILENO);
+        ::dup2(m_end, STDERR_FILENO);
+    });
+    process.start({"count"});
+    EXPECT_TRUE(waitUntil([this] { return terminalOutput().contains("Ctrl+D on an empty line ends it"); }));
+    ASSERT_EQ(::write(m_terminal, "One two.\n\x04", 10), 10);
+    EXPECT_EQ(process.finish().exitStatus, 0);
+    EXPECT_EQ(terminalOutput().count("reading"), 1);
+    EXPECT_FALSE(terminalOutput().contains('\x1B'));
+}
+
 TEST_F(ProgressLineTest, CtrlCErasesTheLineAndEndsTheCommandByItsSignal)
 {
     ChildProcess process(productProgram(QStringLiteral("quillbay")));
