@@ -4,31 +4,17 @@
 #include "command/Commands.h"
 #include "command/DoctorReport.h"
 #include "doctor/Examination.h"
+#include "manual/HelpText.h"
+#include "manual/ManualPages.h"
 
 #include <cstdio>
 
 namespace {
 
-constexpr char doctorHelp[] = R"(Usage: quillbay doctor [--json]
-
-Tries what Quillbay needs of this computer and of the desktop, and prints a line for
-each: ok, note (worth knowing), limited or broken, with what it has found and what to
-do about it. It starts the programs of Quillbay as the other commands do, and opens
-no window. The output names no document, and your home folder is ~ in it, so that
-you can paste it into a report of a fault.
-
-  --json      print a JSON object with the worst severity and the list of findings:
-              the name of each check, its severity, the text and the remedy
-  -h, --help  print this help and exit
-
-Exit status: 0 if everything works, 1 if something is limited, 2 after wrong usage,
-3 if something is broken.
-)";
-
 int printFindings()
 {
-    const Severity worst = examine(allChecks(), [](const Check &, const Finding &finding) {
-        print(textOfFinding(finding));
+    const Severity worst = examine(allChecks(), [](const Check &check, const Finding &finding) {
+        print(textOfFinding(check, finding));
         std::fflush(stdout); // the next check may take a while
     });
     print(summaryOf(worst));
@@ -49,11 +35,11 @@ int printJson()
 
 int runDoctorCommand(int wordCount, char **words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse("doctor", {"json"}, wordCount, words);
+    const std::optional<CommandWords> wanted = CommandWords::parse(doctorPage(), wordCount, words);
     if (!wanted)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
-        return printText(doctorHelp);
+        return printText(helpText(doctorPage()));
     if (!wanted->operands.isEmpty())
         return reportWrongUsage("doctor", "doctor takes no file");
     const int status = wanted->switches.contains("json") ? printJson() : printFindings();

@@ -66,9 +66,10 @@ const char *nameOf(Severity severity)
     return "broken";
 }
 
-QByteArray textOfFinding(const Finding &finding)
+QByteArray textOfFinding(const Check &check, const Finding &finding)
 {
-    QStringList lines = linesOf(publicText(finding.text));
+    const QString name = QString::fromLatin1(check.name) + QStringLiteral(": ");
+    QStringList lines = linesOf(name + publicText(finding.text));
     if (!finding.remedy.isEmpty())
         lines += linesOf(publicText(finding.remedy));
     QByteArray text = QByteArray(nameOf(finding.severity)).leftJustified(indent);

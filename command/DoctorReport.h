@@ -13,8 +13,9 @@
 int exitStatusOf(Severity severity);
 const char *nameOf(Severity severity);
 
-/// The severity and the sentences, in lines of at most 80 characters where words allow it, with line ends.
-QByteArray textOfFinding(const Finding &finding);
+/// The severity, the name of the check and the sentences, in lines of at most 80 characters where words allow
+/// it, with line ends.
+QByteArray textOfFinding(const Check &check, const Finding &finding);
 
 /// A sentence on all findings.
 QByteArray summaryOf(Severity worst);

@@ -14,7 +14,7 @@ const std::vector<Check> &allChecks()
         {"sandbox", {}, checkSandbox, startTimeout},
         {"fonts", {}, checkFonts, startTimeout},
         {"paper", {}, checkPaper},
-        {"display", {}, checkDisplay},
+        {"display", {}, checkDisplay, startTimeout},
         {"session-bus", {}, checkSessionBus},
         {"counting-service", {"session-bus"}, checkCountingService, startTimeout},
         {"windows", {"session-bus", "display"}, checkWindows, startTimeout},

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The checks of the display: windows, selections, the tray.
 #include "doctor/Checks.h"
-#include "platform/display/WaylandSocket.h"
 #include "platform/display/XDisplay.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/session_bus/SessionBusState.h"
+#include "platform/wayland/WaylandConnection.h"
 
 #include <algorithm>
 #include <array>
@@ -28,7 +28,7 @@ Finding waylandFinding(const QString &text)
 
 Finding checkDisplay()
 {
-    const bool hasWayland = isWaylandCompositorListening();
+    const bool hasWayland = WaylandConnection().isConnected();
     if (xDisplayName().isEmpty()) {
         if (hasWayland)
             return waylandFinding(Doctor::tr("DISPLAY is not set."));

@@ -5,7 +5,7 @@
 
 std::span<const ManualPage *const> manualPages()
 {
-    static const std::array pages{&quillbayPage(), &countPage(), &explainPage(), &extractPage(),
+    static const std::array pages{&quillbayPage(), &countPage(), &doctorPage(), &explainPage(), &extractPage(),
         &preferencesPage(), &selectionPage(), &textPage(), &watchPage(), &deskPage(), &sayPage(),
         &countingServicePage(), &serviceProviderPage(), &documentReaderPage(), &clipboardKeeperPage()};
     return pages;

@@ -9,6 +9,7 @@
 
 const ManualPage &quillbayPage();
 const ManualPage &countPage();
+const ManualPage &doctorPage();
 const ManualPage &explainPage();
 const ManualPage &extractPage();
 const ManualPage &preferencesPage();

@@ -5,6 +5,8 @@
 #include "platform/session_bus/SessionBusState.h"
 #include "presentation/WordCounterServiceProtocol.h"
 
+#include <QCoreApplication>
+
 #include <future>
 #include <memory>
 
@@ -14,7 +16,8 @@ using Outcome = Result<QBYWordCounterStats, QString>;
 
 QString memoryFailure()
 {
-    return QStringLiteral("not enough memory to send it to the counting service");
+    return QCoreApplication::translate(
+        "presentation", "not enough memory to send it to the counting service");
 }
 
 } // namespace
@@ -37,8 +40,9 @@ Outcome ServiceCounter::countText(const AttributedString &text)
 Outcome ServiceCounter::countDocument(DocumentKind kind, QByteArrayView bytes)
 {
     if (sessionBusFault())
-        return QStringLiteral("there is no session bus, over which the counting service is reached; run "
-                              "again without --service");
+        return QCoreApplication::translate("presentation",
+            "there is no session bus, over which the counting service is reached; run "
+            "again without --service");
     SealedMemory::MemoryResult memory = SealedMemory::copyOf(bytes);
     if (!memory)
         return memoryFailure();
@@ -54,7 +58,7 @@ Outcome ServiceCounter::countDocument(DocumentKind kind, QByteArrayView bytes)
     try {
         return answer.get();
     } catch (const std::future_error &) {
-        return QStringLiteral(
+        return QCoreApplication::translate("presentation",
             "the counting service does not answer; run again without --service, or 'quillbay doctor' to find "
             "out why");
     }

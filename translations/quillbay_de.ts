@@ -951,12 +951,12 @@
 <context>
     <name>platform/pasteboard</name>
     <message>
-        <source>there is no display to take the clipboard from; &apos;quillbay text&apos; takes a text from a pipe</source>
-        <translation>ohne Bildschirm gibt es keine Zwischenablage; &apos;quillbay text&apos; nimmt einen Text aus einer Pipe</translation>
+        <source>there is no display to take the clipboard from; &apos;quillbay count&apos; counts a text from a pipe</source>
+        <translation>ohne Bildschirm gibt es keine Zwischenablage; &apos;quillbay count&apos; zählt einen Text aus einer Pipe</translation>
     </message>
     <message>
-        <source>there is no display to take the selection from; &apos;quillbay text&apos; takes a text from a pipe</source>
-        <translation>ohne Bildschirm gibt es keine Auswahl; &apos;quillbay text&apos; nimmt einen Text aus einer Pipe</translation>
+        <source>there is no display to take the selection from; &apos;quillbay count&apos; counts a text from a pipe</source>
+        <translation>ohne Bildschirm gibt es keine Auswahl; &apos;quillbay count&apos; zählt einen Text aus einer Pipe</translation>
     </message>
     <message>
         <source>the clipboard is empty</source>

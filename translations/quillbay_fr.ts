@@ -951,12 +951,12 @@
 <context>
     <name>platform/pasteboard</name>
     <message>
-        <source>there is no display to take the clipboard from; &apos;quillbay text&apos; takes a text from a pipe</source>
-        <translation>sans écran, il n’y a pas de presse-papiers&#x202f;; &apos;quillbay text&apos; prend un texte d’un tube</translation>
+        <source>there is no display to take the clipboard from; &apos;quillbay count&apos; counts a text from a pipe</source>
+        <translation>sans écran, il n’y a pas de presse-papiers&#x202f;; &apos;quillbay count&apos; compte un texte d’un tube</translation>
     </message>
     <message>
-        <source>there is no display to take the selection from; &apos;quillbay text&apos; takes a text from a pipe</source>
-        <translation>sans écran, il n’y a pas de sélection&#x202f;; &apos;quillbay text&apos; prend un texte d’un tube</translation>
+        <source>there is no display to take the selection from; &apos;quillbay count&apos; counts a text from a pipe</source>
+        <translation>sans écran, il n’y a pas de sélection&#x202f;; &apos;quillbay count&apos; compte un texte d’un tube</translation>
     </message>
     <message>
         <source>the clipboard is empty</source>

@@ -12,7 +12,7 @@ const ManualPage &countPage()
             {QT_TRANSLATE_NOOP("Manual",
                  "Counts the words, characters, sentences, lines on your paper, hard line breaks, paragraphs "
                  "and indented paragraphs of each FILE by your preferences. Without FILE, or if FILE is -, "
-                 "reads standard input."),
+                 "reads standard input. A pipe that a shell passes by name is read in the same way."),
                 QT_TRANSLATE_NOOP("Manual",
                     "FILE can be plain text, RTF, RTFD, a web page, a Word document, an OpenDocument text, "
                     "an "
@@ -36,7 +36,7 @@ const ManualPage &countPage()
                 .text = QT_TRANSLATE_NOOP("Manual",
                     "instead of the counts, print what they depend on: locale, preferences, paper, "
                     "margins, and the fonts that the files need (without a file, the font of plain "
-                    "text)")},
+                    "text); with --json an object, whose lengths are in points")},
             {.name = "service",
                 .text = QT_TRANSLATE_NOOP("Manual",
                     "count in the counting service, in a sandboxed process, as Quillbay's windows do; "
@@ -46,15 +46,16 @@ const ManualPage &countPage()
                     "count every file as plain text, whatever it is: a web page with its markup, a "
                     "picture with its bytes")},
             helpOption()},
-        .notes =
-            {QT_TRANSLATE_NOOP("Manual",
-                 "For several files, the table ends with a row of totals; the other two formats have no such "
-                 "row."),
-                QT_TRANSLATE_NOOP("Manual",
-                    "Control characters in names are escaped: as \\x1b in the table and as \\u001b in JSON. "
-                    "With --tsv, tabs, line feeds, carriage returns and backslashes become \\t, \\n, \\r and "
-                    "\\\\; other control characters and bytes that are not valid UTF-8 become one \\x1b per "
-                    "byte.")},
+        .notes = {QT_TRANSLATE_NOOP("Manual",
+                      "For several files, the table ends with a row of totals; the other two formats have no "
+                      "such "
+                      "row."),
+            QT_TRANSLATE_NOOP("Manual",
+                "Control characters in names are escaped: as \\x1b in the table and as \\u001b in JSON. "
+                "With --tsv, tabs, line feeds, carriage returns and backslashes become \\t, \\n, \\r and "
+                "\\\\; other control characters and bytes that are not valid UTF-8 become one \\x1b per "
+                "byte. In JSON, a name that is not valid UTF-8 has U+FFFD in place of such bytes, and the "
+                "member \"url\" beside it has them percent-encoded, as a file: URL.")},
         .exitStatuses = {{0, QT_TRANSLATE_NOOP("Manual", "all files were counted")},
             {1, QT_TRANSLATE_NOOP("Manual", "a file could not be counted")}, {2, wrongUsageMeaning()}},
         .examples = {{"quillbay count *.txt",

@@ -11,8 +11,7 @@ const ManualPage &watchPage()
         .description = {QT_TRANSLATE_NOOP("Manual",
             "Opens a small window for each FILE, whose counts follow every save, or raises the window that "
             "FILE already has. Watches every kind of file that 'quillbay count' counts; the others are "
-            "reported and skipped. Errors of the windows are reported in a desktop notification as well as "
-            "on standard error.")},
+            "reported on standard error and in a desktop notification, and skipped.")},
         .completion = ShellCompletion::Files,
         .options = {{.name = "clipboard",
                         .text = QT_TRANSLATE_NOOP(

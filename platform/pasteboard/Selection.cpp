@@ -181,9 +181,9 @@ QString causeText(const SelectionFailure &failure)
     case Cause::NoDisplay:
         return text(
             QT_TRANSLATE_NOOP("platform/pasteboard",
-                "there is no display to take the clipboard from; 'quillbay text' takes a text from a pipe"),
+                "there is no display to take the clipboard from; 'quillbay count' counts a text from a pipe"),
             QT_TRANSLATE_NOOP("platform/pasteboard",
-                "there is no display to take the selection from; 'quillbay text' takes a text from a pipe"));
+                "there is no display to take the selection from; 'quillbay count' counts a text from a pipe"));
     case Cause::NothingSelected:
         return text(QT_TRANSLATE_NOOP("platform/pasteboard", "the clipboard is empty"),
             QT_TRANSLATE_NOOP("platform/pasteboard", "nothing is selected"));

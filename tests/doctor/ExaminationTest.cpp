@@ -85,10 +85,11 @@ TEST(Examination, TheWorstSeverityDecidesTheExitStatus)
 TEST(DoctorReport, LinesAreNarrowAndBeginWithTheSeverity)
 {
     const QString sentence = QStringLiteral("The quick brown fox jumps over the lazy dog. ");
-    const QByteArray text = textOfFinding(limitedFinding(sentence.repeated(3), sentence));
+    const QByteArray text =
+        textOfFinding({"fox", {}, answer}, limitedFinding(sentence.repeated(3), sentence));
     const QByteArrayList lines = text.chopped(1).split('\n');
     ASSERT_EQ(lines.size(), 3) << text.constData();
-    EXPECT_TRUE(lines[0].startsWith("limited  The quick"));
+    EXPECT_TRUE(lines[0].startsWith("limited  fox: The quick"));
     EXPECT_EQ(lines[2], QByteArray("         The quick brown fox jumps over the lazy dog."));
     for (const QByteArray &line : lines)
         EXPECT_LE(line.size(), 80);
@@ -97,6 +98,6 @@ TEST(DoctorReport, LinesAreNarrowAndBeginWithTheSeverity)
 TEST(DoctorReport, HidesTheHomeFolderAndControlCharacters)
 {
     const Finding finding = goodFinding(QDir::homePath() + QStringLiteral("/a b\x1B[2J"));
-    EXPECT_EQ(textOfFinding(finding), QByteArray("ok       ~/a b\\x1b[2J\n"));
+    EXPECT_EQ(textOfFinding({"name", {}, answer}, finding), QByteArray("ok       name: ~/a b\\x1b[2J\n"));
     EXPECT_THAT(jsonOfFinding({"name", {}, answer}, finding).toStdString(), HasSubstr("\"~/a b\\\\x1b[2J\""));
 }
