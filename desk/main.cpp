@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // quillbay-desk: the main window, in which the user sets the rules of the counts.
 #include "desk/DeskWindow.h"
+#include "desk/WatchFiles.h"
 #include "manual/HelpText.h"
 #include "manual/ManualPages.h"
 #include "platform/session_bus/UniqueApplication.h"
@@ -55,6 +56,39 @@ int reportWrongUsage(const char *message)
     return wrongUsage;
 }
 
+int reportMissingDisplay()
+{
+    std::fputs("quillbay-desk: no display for its window; set DISPLAY or WAYLAND_DISPLAY\n", stderr);
+    return notShown;
+}
+
+void describeApplication()
+{
+    QApplication::setApplicationName(QStringLiteral("Quillbay")); // screen readers read it
+    QApplication::setApplicationVersion(QStringLiteral(QUILLBAY_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("com.quillbay.Quillbay")));
+}
+
+/// The arguments after --watch are files; the user chooses some if there are none. Returns the exit status,
+/// unless the process has become the command.
+int watchFiles(int argumentCount, char **arguments)
+{
+    QByteArrayList names(arguments + 2, arguments + argumentCount);
+    if (names.isEmpty()) {
+        if (!hasDisplay())
+            return reportMissingDisplay();
+        const QApplication application(argumentCount, arguments);
+        describeApplication();
+        const DesktopAppearance appearance;
+        names = chooseFilesToWatch();
+        if (names.isEmpty())
+            return 0;
+    }
+    becomeWatchCommand(names);
+    return notShown;
+}
+
 int showWindow(UniqueApplication &unique, const UniqueApplication::Request &request, bool hasBus)
 {
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
@@ -90,10 +124,10 @@ int main(int argumentCount, char **arguments)
         return printText(helpText(deskPage()));
     if (word == "--version" || word == "-V")
         return printText("quillbay-desk " QUILLBAY_VERSION "\n");
-    if (!hasDisplay()) {
-        std::fputs("quillbay-desk: no display for its window; set DISPLAY or WAYLAND_DISPLAY\n", stderr);
-        return notShown;
-    }
+    if (word == "--watch")
+        return watchFiles(argumentCount, arguments);
+    if (!hasDisplay())
+        return reportMissingDisplay();
     UniqueApplication::Request request{.activationToken = takeActivationToken()};
     const QApplication application(argumentCount, arguments);
     installTranslations();
@@ -108,10 +142,7 @@ int main(int argumentCount, char **arguments)
         return reportWrongUsage("one file at a time");
     for (const QByteArray &file : words)
         request.files.append(fileURLOfName(file));
-    QApplication::setApplicationName(QStringLiteral("Quillbay")); // screen readers read it
-    QApplication::setApplicationVersion(QStringLiteral(QUILLBAY_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("com.quillbay.Quillbay"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("com.quillbay.Quillbay")));
+    describeApplication();
     UniqueApplication unique(QStringLiteral("com.quillbay.Quillbay"));
     const UniqueApplication::Role role = unique.start(request);
     if (role == UniqueApplication::Role::Later)

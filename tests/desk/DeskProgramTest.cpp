@@ -127,6 +127,21 @@ TEST_F(DeskProgram, WorksWithoutASessionBus)
     closeBy("ctrl+q", process);
 }
 
+TEST_F(DeskProgram, HandsFilesToTheCommandThatWatchesThem)
+{
+    const QByteArray missing = QFile::encodeName(world().root()) + "/mis\xFFsing";
+    const ChildProcess::Outcome outcome = ChildProcess(program()).run({"--watch", missing});
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("no such file"));
+}
+
+TEST_F(DeskProgram, AsksForTheFilesToWatch)
+{
+    ChildProcess process(program());
+    process.start({"--watch"});
+    closeBy("Escape", process);
+}
+
 TEST_F(DeskProgram, ReportsAMissingDisplayAndWrongUsage)
 {
     ChildProcess blind(program());

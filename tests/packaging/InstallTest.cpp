@@ -90,7 +90,8 @@ TEST_F(Install, IsComplete)
             QStringLiteral("share/dbus-1/interfaces/com.quillbay.ServiceProvider.xml"),
             QStringLiteral("share/icons/hicolor/scalable/apps/com.quillbay.Quillbay.svg"),
             QStringLiteral("share/icons/hicolor/symbolic/apps/com.quillbay.Quillbay-symbolic.svg"),
-            QStringLiteral("share/metainfo/com.quillbay.Quillbay.metainfo.xml")};
+            QStringLiteral("share/metainfo/com.quillbay.Quillbay.metainfo.xml"),
+            QStringLiteral("share/mime/packages/com.quillbay.Quillbay.xml")};
     for (const QString &file : filesBelow(QStringLiteral(BUILD_FOLDER "/share"))) {
         if (madeFromTheManual.match(file).hasMatch())
             expected.append(QStringLiteral("share/") + file);
@@ -122,7 +123,7 @@ TEST_F(Install, IntoTheRootOfAPackageNamesTheProgramsWhereTheyWillLie)
     const QString installed = root + QStringLiteral("/opt/quill bay/");
     EXPECT_TRUE(QFileInfo::exists(installed + QStringLiteral("bin/quillbay")));
     EXPECT_EQ(commandsIn(installed + filesWithCommands[0])[0],
-        QStringLiteral("\"/opt/quill bay/bin/quillbay-desk\""));
+        QStringLiteral("\"/opt/quill bay/bin/quillbay-desk\" %f"));
 }
 
 TEST_F(Install, HasValidDesktopFilesForTheMainWindowAndTheCommandQuillbay)
@@ -135,12 +136,13 @@ TEST_F(Install, HasValidDesktopFilesForTheMainWindowAndTheCommandQuillbay)
         EXPECT_EQ(outcome.output + outcome.errors, QByteArray());
     }
     const QString command = u'"' + prefix() + QStringLiteral("/bin/quillbay\" ");
+    const QString desk = u'"' + prefix() + QStringLiteral("/bin/quillbay-desk\" ");
     EXPECT_THAT(commandsIn(desktopFile()),
-        UnorderedElementsAre(u'"' + prefix() + QStringLiteral("/bin/quillbay-desk\""),
-            command + QStringLiteral("selection"), command + QStringLiteral("selection --clipboard"),
+        UnorderedElementsAre(desk + QStringLiteral("%f"), command + QStringLiteral("selection"),
+            command + QStringLiteral("selection --clipboard"),
             command + QStringLiteral("watch --clipboard")));
     EXPECT_THAT(commandsIn(desktopFile(QStringLiteral("Watch"))),
-        UnorderedElementsAre(command + QStringLiteral("watch %F")));
+        UnorderedElementsAre(desk + QStringLiteral("--watch %F")));
 }
 
 TEST_F(Install, HasValidDataForSoftwareCentres)

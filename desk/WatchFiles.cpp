@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "desk/WatchFiles.h"
+
+#include "platform/system/FileURL.h"
+#include "platform/system/SystemError.h"
+#include "platform/views/widgets/DocumentChooser.h"
+#include "watching/FileTypes.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <vector>
+
+#include <unistd.h>
+
+QByteArrayList chooseFilesToWatch()
+{
+    DocumentChooser chooser(QBYExtension::openPanelForTextFilesAllowMultipleSelection(true));
+    QByteArrayList names;
+    if (chooser.exec() == QDialog::Accepted) {
+        for (const QUrl &url : chooser.chosenUrls())
+            names.append(pathOfFileURL(url));
+    }
+    return names;
+}
+
+void becomeWatchCommand(const QByteArrayList &fileNames)
+{
+    // Beside this program, wherever it is installed; the application may not exist yet.
+    const QByteArray self = QFile::encodeName(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")));
+    QByteArrayList words{self.first(self.lastIndexOf('/') + 1) + "quillbay", "watch", "--"};
+    words += fileNames;
+    std::vector<char *> arguments;
+    for (QByteArray &word : words)
+        arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    ::execv(arguments.front(), arguments.data());
+    std::fprintf(stderr, "quillbay-desk: %s: cannot be started: %s; install Quillbay again\n",
+        words.constFirst().constData(), qPrintable(systemErrorText(errno)));
+}
