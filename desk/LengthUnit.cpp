@@ -4,9 +4,24 @@
 #include "platform/printing/Paper.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLocale>
 
 #include <cmath>
+
+namespace {
+
+/// Arabic digits would order what is between two numbers from right to left, and so swap width and height in
+/// a window from left to right.
+QString isolatedNumber(const QString &number)
+{
+    if (QGuiApplication::isRightToLeft() || QLocale().zeroDigit() == u"0")
+        return number;
+    constexpr QChar leftToRightMark(0x200E);
+    return leftToRightMark + number + leftToRightMark;
+}
+
+} // namespace
 
 LengthUnit::LengthUnit(bool isMetric)
     : m_isMetric(isMetric)
@@ -30,5 +45,6 @@ QString LengthUnit::numberText(double points) const
     // Whole millimetres, as printing systems round papers to points; two digits of an inch.
     const double factor = m_isMetric ? 1 : 100;
     const double number = std::round(fromInches(points / pointsPerInch) * factor) / factor;
-    return QLocale().toString(number, 'g', QLocale::FloatingPointShortest);
+    const QString text = QLocale().toString(number, 'g', QLocale::FloatingPointShortest);
+    return isolatedNumber(text);
 }

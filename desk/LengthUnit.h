@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // LengthUnit is the unit in which the user measures paper: millimetres or inches.
-// Thread: any; a value.
+// Thread: main; a value.
 #pragma once
 
 #include <QString>

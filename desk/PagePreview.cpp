@@ -62,7 +62,10 @@ QString withoutTrailingBlanks(const QString &text)
 PagePreview::PagePreview(QWidget *parent)
     : QWidget(parent)
     , m_controller(MeasuringSurface::shared().sharedEngine())
+    , m_sizeLabel(new QLabel(this))
 {
+    m_sizeLabel->setObjectName(QStringLiteral("sizeLabel"));
+    m_sizeLabel->setAlignment(Qt::AlignCenter);
     m_controller.loadView();
     QAccessible::installFactory(&makeAccessible); // once: Qt knows its factories
 }
@@ -83,10 +86,21 @@ void PagePreview::setText(const QString &text)
 void PagePreview::fitPage()
 {
     m_controller.mainScrollView()->setFrameSize(
-        QSizeF(size() - QSize(2 * frameWidth, 2 * frameWidth)).expandedTo({1, 1}));
+        QSizeF(size() - QSize(2 * frameWidth, 2 * frameWidth + m_sizeLabel->sizeHint().height()))
+            .expandedTo({1, 1}));
     m_controller.setPreviewContentFrameSize(m_page.paperSize, m_page.leftMargin, m_page.rightMargin);
     setAccessibleDescription(sizeText());
+    m_sizeLabel->setText(sizeText());
+    placeSizeLabel();
     update();
+}
+
+void PagePreview::placeSizeLabel()
+{
+    const QRectF page(QPointF(0, 0), m_controller.wrapperView()->frame().size());
+    const int height = m_sizeLabel->sizeHint().height();
+    const auto bottom = static_cast<int>(transformToWidget().mapRect(page).bottom()) + frameWidth;
+    m_sizeLabel->setGeometry(0, std::min(bottom, this->height() - height), width(), height);
 }
 
 void PagePreview::resizeEvent(QResizeEvent * /*event*/)
@@ -94,14 +108,22 @@ void PagePreview::resizeEvent(QResizeEvent * /*event*/)
     fitPage();
 }
 
+void PagePreview::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitPage();
+}
+
 QTransform PagePreview::transformToWidget() const
 {
-    // As large as the page of the controller, in the middle of the widget. Of a huge sheet the top left part.
+    // As large as the page of the controller, in the middle of the widget with the size below it. Of a huge
+    // sheet the top left part.
     const QSizeF page = m_controller.wrapperView()->frame().size();
     const double factor = m_controller.mainScrollView()->magnification();
     QTransform transform;
     transform.translate(std::max(0.0, (width() - page.width() * factor) / 2),
-        std::max(0.0, (height() - page.height() * factor) / 2));
+        std::max(0.0, (height() - m_sizeLabel->sizeHint().height() - page.height() * factor) / 2));
     transform.scale(factor, factor);
     return transform;
 }

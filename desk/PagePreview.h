@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 // PagePreview shows the page on which lines are measured: the paper in its proportions, and a text in the
-// column between its margins, broken into the lines that the line count counts.
-// Thread: main.  Owner: PaperPage, as a Qt child.
+// column between its margins, broken into the lines that the line count counts; below it the size of the
+// paper. Thread: main.  Owner: PaperPage, as a Qt child.
 #pragma once
 
 #include "text_statistics/CountingRules.h"
 #include "text_statistics/PageSizeForMeasuringPreviewViewController.h"
 
+#include <QLabel>
 #include <QWidget>
 
 /// The lines, their places and widths are those of the layout. Their letters are drawn by Qt, in a font with
@@ -35,6 +36,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     struct Line {
@@ -43,9 +45,11 @@ private:
     };
     void fitPage();
     [[nodiscard]] QList<Line> linesOfPage() const;
+    void placeSizeLabel();
     /// From points of the page to the widget.
     [[nodiscard]] QTransform transformToWidget() const;
 
     PageSizeForMeasuringPreviewViewController m_controller;
+    QLabel *m_sizeLabel; ///< directly below the page
     PageRules m_page;
 };

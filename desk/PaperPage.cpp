@@ -120,7 +120,6 @@ void PaperPage::showMargin(QDoubleSpinBox &spinBox, Preference preference, doubl
 void PaperPage::showPage(const PageRules &page)
 {
     m_ui->preview->setPage(page);
-    m_ui->sizeLabel->setText(m_ui->preview->sizeText());
     m_ui->stateLabel->setText(papersText() + u' ' + basisText(page));
 }
 

@@ -182,6 +182,7 @@ void WhyPage::takeText(const AttributedString &text, const QString &name)
     showReading({});
     m_text = text;
     m_ui->sourceLabel->setText(name.isEmpty() ? tr("Pasted text") : name);
+    m_ui->sourceLabel->setToolTip(name.toHtmlEscaped()); // a long name is cut
     m_ui->textView->showText(ShownText(text.string()));
     followRules();
 }
