@@ -376,7 +376,7 @@
     </message>
     <message>
         <source>Watched Files</source>
-        <translation>Überwachte Dateien</translation>
+        <translation>Beobachtete Dateien</translation>
     </message>
     <message>
         <source>Spea&amp;k the number of words when it changes</source>
@@ -452,7 +452,7 @@
     </message>
     <message>
         <source>Stop watching this file</source>
-        <translation>Diese Datei nicht mehr überwachen</translation>
+        <translation>Diese Datei nicht mehr beobachten</translation>
     </message>
 </context>
 <context>
@@ -894,7 +894,7 @@
     </message>
     <message>
         <source>Quillbay failed to validate file urls.</source>
-        <translation>Quillbay kann keine dieser Dateien überwachen.</translation>
+        <translation>Quillbay kann keine dieser Dateien beobachten.</translation>
     </message>
 </context>
 <context>
@@ -1057,7 +1057,7 @@
     </message>
     <message>
         <source>Quillbay was unable to update the stats of the text file currently being watched. This usually means the file was either renamed or deleted. You can choose another text file to watch or cancel.</source>
-        <translation>Quillbay konnte die Zahlen der überwachten Datei nicht aktualisieren. Meist wurde die Datei umbenannt oder gelöscht. Es lässt sich eine andere Datei zum Überwachen wählen oder abbrechen.</translation>
+        <translation>Quillbay konnte die Zahlen der beobachteten Datei nicht aktualisieren. Meist wurde die Datei umbenannt oder gelöscht. Es lässt sich eine andere Datei zum Beobachten wählen oder abbrechen.</translation>
     </message>
     <message>
         <source>Close</source>
