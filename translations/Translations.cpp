@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "translations/Translations.h"
 
+#include "translations/EnglishTexts.h"
 #include "translations/UserLanguage.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,8 @@ public:
     QString translate(
         const char *context, const char *sourceText, const char *disambiguation, int n) const override
     {
+        if (EnglishTexts::areWanted())
+            return {};
         std::call_once(m_once, [this] {
             const QString language = userLanguage();
             if (!language.isEmpty())

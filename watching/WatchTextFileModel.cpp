@@ -4,6 +4,7 @@
 #include "platform/file_coordination/FileState.h"
 #include "platform/system/FileURL.h"
 #include "preferences/QBYLogger.h"
+#include "translations/EnglishTexts.h"
 #include "watching/FileTypes.h"
 
 #include <QCoreApplication>
@@ -145,7 +146,8 @@ void WatchTextFileModel::_reloadAttributedStringAndTellDelegateAtPresentedURL(co
         return;
     if (!document) {
         watchLog().error(u"failed to load attributed string for file at {}. Error {}",
-            {publicly(m_presentedItemURL.toString()), publicly(causeText(document.error()))});
+            {publicly(m_presentedItemURL.toString()),
+                publicly(inEnglish([&] { return causeText(document.error()); }))});
         failToLoad();
         return;
     }

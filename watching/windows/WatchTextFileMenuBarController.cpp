@@ -8,6 +8,7 @@
 #include "platform/system/MainQueue.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "speech/ApplicationExtension.h"
+#include "translations/EnglishTexts.h"
 #include "watching/FileTypes.h"
 
 #include <QCoreApplication>
@@ -86,8 +87,8 @@ void WatchTextFileMenuBarController::countFirst(Text text)
     if (text)
         count(std::move(text).value());
     else
-        LogChannel::standard().error(
-            u"Error loading attributed string {}", {publicly(causeText(text.error()))});
+        LogChannel::standard().error(u"Error loading attributed string {}",
+            {publicly(inEnglish([&] { return causeText(text.error()); }))});
 }
 
 void WatchTextFileMenuBarController::count(
