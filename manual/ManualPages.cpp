@@ -5,9 +5,10 @@
 
 std::span<const ManualPage *const> manualPages()
 {
-    static const std::array pages{&quillbayPage(), &countPage(), &doctorPage(), &explainPage(), &extractPage(),
-        &preferencesPage(), &selectionPage(), &textPage(), &watchPage(), &deskPage(), &sayPage(),
-        &countingServicePage(), &serviceProviderPage(), &documentReaderPage(), &clipboardKeeperPage()};
+    static const std::array pages{&quillbayPage(), &countPage(), &doctorPage(), &explainPage(),
+        &extractPage(), &preferencesPage(), &selectionPage(), &textPage(), &watchPage(), &deskPage(),
+        &sayPage(), &countingServicePage(), &serviceProviderPage(), &documentReaderPage(),
+        &clipboardKeeperPage()};
     return pages;
 }
 

@@ -183,7 +183,8 @@ QString causeText(const SelectionFailure &failure)
             QT_TRANSLATE_NOOP("platform/pasteboard",
                 "there is no display to take the clipboard from; 'quillbay count' counts a text from a pipe"),
             QT_TRANSLATE_NOOP("platform/pasteboard",
-                "there is no display to take the selection from; 'quillbay count' counts a text from a pipe"));
+                "there is no display to take the selection from; 'quillbay count' counts a text from a "
+                "pipe"));
     case Cause::NothingSelected:
         return text(QT_TRANSLATE_NOOP("platform/pasteboard", "the clipboard is empty"),
             QT_TRANSLATE_NOOP("platform/pasteboard", "nothing is selected"));
