@@ -8,6 +8,7 @@
 #include "platform/system/FileURL.h"
 #include "platform/system/Processes.h"
 #include "platform/views/widgets/DesktopAppearance.h"
+#include "platform/views/widgets/Displays.h"
 #include "platform/views/widgets/WindowActivation.h"
 #include "preferences/QBYUserDefaultsController.h"
 #include "speech/ApplicationExtension.h"
@@ -25,11 +26,6 @@ namespace {
 constexpr int notShown = 1; // no display
 constexpr int wrongUsage = 2;
 
-bool hasDisplay()
-{
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
-        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-}
 
 /// Tokens are valid once, so child processes must not inherit it. That of X11 if there are two, of which Qt
 /// uses X11.
@@ -58,7 +54,9 @@ int reportWrongUsage(const char *message)
 
 int reportMissingDisplay()
 {
-    std::fputs("quillbay-desk: no display for its window; set DISPLAY or WAYLAND_DISPLAY\n", stderr);
+    std::fputs("quillbay-desk: no display for its window; set DISPLAY or WAYLAND_DISPLAY; "
+               "on Wayland without Xwayland, install qt6-wayland\n",
+        stderr);
     return notShown;
 }
 
@@ -76,9 +74,11 @@ int watchFiles(int argumentCount, char **arguments)
 {
     QByteArrayList names(arguments + 2, arguments + argumentCount);
     if (names.isEmpty()) {
-        if (!hasDisplay())
+        if (!Displays::isAny())
             return reportMissingDisplay();
         const QApplication application(argumentCount, arguments);
+        installTranslations();
+        installQtTranslations();
         describeApplication();
         const DesktopAppearance appearance;
         names = chooseFilesToWatch();
@@ -124,9 +124,10 @@ int main(int argumentCount, char **arguments)
         return printText(helpText(deskPage()));
     if (word == "--version" || word == "-V")
         return printText("quillbay-desk " QUILLBAY_VERSION "\n");
+    Displays::forgetUnreachable();
     if (word == "--watch")
         return watchFiles(argumentCount, arguments);
-    if (!hasDisplay())
+    if (!Displays::isAny())
         return reportMissingDisplay();
     UniqueApplication::Request request{.activationToken = takeActivationToken()};
     const QApplication application(argumentCount, arguments);

@@ -117,10 +117,14 @@ void QBYServiceProviderShowStatsWindowController::showStatistics()
 void QBYServiceProviderShowStatsWindowController::showWindow(QObject * /*sender*/)
 {
     loadWindow();
-    const QSizeF size = window()->frame().size();
-    const QPointF pointer = m_desktop.pointerLocation();
-    const QPointF origin = originBesidePointer(size, pointer, m_desktop.visibleFrameAt(pointer));
-    window()->setFrame({origin, size}, false, false);
+    const std::optional<QRectF> area = m_desktop.visibleFrameAtPointer();
+    window()->setPlacedByDesktop(!area);
+    if (area) {
+        const QSizeF size = window()->frame().size();
+        const QPointF topRight = area->bottomRight(); // Qt's name in its own coordinates
+        const QPointF pointer = m_desktop.pointerLocation().value_or(topRight);
+        window()->setFrame({originBesidePointer(size, pointer, *area), size}, false, false);
+    }
     window()->orderFront();
 }
 

@@ -2,10 +2,12 @@
 // The service provider: the program with the statistics windows, started by the session bus.
 #include "documents/loading/SandboxedReader.h"
 #include "front_end/ProviderApplication.h"
+#include "platform/logging/LogChannel.h"
 #include "platform/system/Processes.h"
 #include "platform/views/widgets/ApplicationActivitySource.h"
 #include "platform/views/widgets/ClipboardHandOver.h"
 #include "platform/views/widgets/DesktopAppearance.h"
+#include "platform/views/widgets/Displays.h"
 #include "platform/views/widgets/WidgetDesktop.h"
 #include "translations/Translations.h"
 
@@ -36,14 +38,15 @@ void exitWithoutDisplay()
 /// user's own QT_QPA_PLATFORM takes precedence.
 void choosePlatform()
 {
-    if (qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return;
+    if (Displays::keepWindowsAbove()) {
         qputenv("QT_QPA_PLATFORM", "xcb");
-}
-
-bool hasDisplay()
-{
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
-        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+        return;
+    }
+    qputenv("QT_QPA_PLATFORM", "wayland");
+    LogChannel::standard().error(u"There is no X display, so other windows may cover those of Quillbay; "
+                                 "install the package xwayland");
 }
 
 } // namespace
@@ -58,8 +61,10 @@ int main(int argumentCount, char **arguments)
             stderr);
         return wrongUsage;
     }
-    if (!hasDisplay()) {
-        std::fputs("quillbay-service-provider: no display for its windows; set DISPLAY or WAYLAND_DISPLAY\n",
+    Displays::forgetUnreachable();
+    if (!Displays::isAny()) {
+        std::fputs("quillbay-service-provider: no display for its windows; set DISPLAY or WAYLAND_DISPLAY; "
+                   "on Wayland without Xwayland, install qt6-wayland\n",
             stderr);
         return notServing;
     }

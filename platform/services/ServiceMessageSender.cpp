@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusMetaType>
+#include <QDir>
 
 #include <array>
 
@@ -17,10 +18,33 @@ using Environment = QMap<QString, QString>;
 
 constexpr int timeout = 60'000; // milliseconds
 
-// What a program needs to find the user's display and to use their language.
-constexpr std::array exportedVariables{"DISPLAY", "XAUTHORITY", "WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP",
-    "XDG_SESSION_TYPE", "LANG", "LANGUAGE", "LC_ALL", "LC_CTYPE", "LC_NUMERIC", "LC_TIME", "LC_COLLATE",
-    "LC_MONETARY", "LC_MESSAGES", "LC_PAPER", "LC_MEASUREMENT"};
+// What a program needs to find the user's display, and to use their language.
+constexpr std::array displayVariables{
+    "DISPLAY", "WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP", "XDG_SESSION_TYPE"};
+constexpr std::array languageVariables{"LANG", "LANGUAGE", "LC_ALL", "LC_CTYPE", "LC_NUMERIC", "LC_TIME",
+    "LC_COLLATE", "LC_MONETARY", "LC_MESSAGES", "LC_PAPER", "LC_MEASUREMENT"};
+
+/// The bus cannot unset variables: those of an earlier session, such as a display that has ended, become
+/// empty, which means the same. A caller without a display, as over ssh, empties none: it is not of the
+/// user's session.
+Environment sessionEnvironment()
+{
+    const bool hasDisplay =
+        !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    Environment environment;
+    for (const char *const name : languageVariables) {
+        if (hasDisplay || qEnvironmentVariableIsSet(name))
+            environment.insert(QString::fromLatin1(name), qEnvironmentVariable(name));
+    }
+    if (!hasDisplay)
+        return environment;
+    for (const char *const name : displayVariables)
+        environment.insert(QString::fromLatin1(name), qEnvironmentVariable(name));
+    // An empty name would be a file without keys.
+    const QString usualKeys = QDir::homePath() + QStringLiteral("/.Xauthority");
+    environment.insert(QStringLiteral("XAUTHORITY"), qEnvironmentVariable("XAUTHORITY", usualKeys));
+    return environment;
+}
 
 } // namespace
 
@@ -44,15 +68,10 @@ bool exportSessionEnvironment()
     if (!bus)
         return false;
     qDBusRegisterMetaType<Environment>();
-    Environment environment;
-    for (const char *const name : exportedVariables)
-        environment.insert(QString::fromLatin1(name), qEnvironmentVariable(name));
-    environment.removeIf(
-        [](const auto &variable) { return !qEnvironmentVariableIsSet(variable.key().toLatin1()); });
     QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("UpdateActivationEnvironment"));
-    call.setArguments({QVariant::fromValue(environment)});
+    call.setArguments({QVariant::fromValue(sessionEnvironment())});
     return bus.value().call(call, QDBus::Block, timeout).type() == QDBusMessage::ReplyMessage;
 }
 

@@ -27,7 +27,8 @@ struct ServiceMessageFailure {
 QString causeText(const ServiceMessageFailure &failure);
 
 /// Hands the display and the locale of this process to the session bus, and through it to systemd: a program
-/// that the bus starts gets neither from its caller. False if there is no bus.
+/// that the bus starts gets neither from its caller. Unset variables become empty there. False if there is no
+/// bus.
 bool exportSessionEnvironment();
 
 /// message: the part of the operation's name before its arguments, as "wordCountSelectedTextService". Waits

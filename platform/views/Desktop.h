@@ -72,7 +72,10 @@ public:
     virtual void setActivationToken(const QByteArray &token) = 0;
 
     // Points, with the origin at the bottom left of the primary screen, like the frames of windows.
-    [[nodiscard]] virtual QPointF pointerLocation() const = 0;
+    /// Absent where the desktop does not say: Xwayland knows the pointer only over windows of X clients.
+    [[nodiscard]] virtual std::optional<QPointF> pointerLocation() const = 0;
+    /// The work area of the screen with the pointer; absent if the desktop does not say which one that is.
+    [[nodiscard]] virtual std::optional<QRectF> visibleFrameAtPointer() const = 0;
     /// The work area of the screen at that point, or of the nearest screen.
     [[nodiscard]] virtual QRectF visibleFrameAt(const QPointF &point) const = 0;
 

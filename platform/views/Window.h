@@ -70,6 +70,11 @@ public:
     /// Whether the window may be the one the user works in; by default only with a title bar.
     [[nodiscard]] virtual bool canBecomeMainWindow() const { return m_styleMask & titled; }
 
+    /// Whether the desktop chooses the place of the window when it comes onto the screen; the frame follows.
+    /// For owners that do not know a place.
+    [[nodiscard]] bool isPlacedByDesktop() const { return m_placedByDesktop; }
+    void setPlacedByDesktop(bool placedByDesktop) { m_placedByDesktop = placedByDesktop; }
+
     /// Whether the window should be on the screen; initially false.
     [[nodiscard]] bool isVisible() const { return m_visible; }
     /// Shows the window above the others of its level, with the keyboard focus if it may take it.
@@ -123,6 +128,7 @@ private:
     WindowLevel m_level = WindowLevel::Normal;
     double m_backingScaleFactor = 1;
     bool m_movableByBackground = false;
+    bool m_placedByDesktop = false;
     bool m_visible = false;
     bool m_closesOnRequest = true;
     std::function<MimeContent()> m_copyProvider;

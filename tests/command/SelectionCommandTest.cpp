@@ -90,6 +90,21 @@ TEST_F(SelectionCommand, PassesDisplayAndLocaleToTheProviderThroughTheBus)
     EXPECT_EQ(environment[u"XDG_CURRENT_DESKTOP"].toString(), QStringLiteral("Harbour"));
 }
 
+TEST_F(SelectionCommand, HidesTheDisplayOfAnEarlierSessionFromTheProvider)
+{
+    const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});
+    ChildProcess earlier(productProgram(QStringLiteral("quillbay")));
+    earlier.withVariable("WAYLAND_DISPLAY", "wayland-of-yesterday").withVariable("LC_ALL", "C.UTF-8");
+    EXPECT_EQ(earlier.run({"selection"}).exitStatus, 0);
+    EXPECT_EQ(
+        request()[u"environment"][u"WAYLAND_DISPLAY"].toString(), QStringLiteral("wayland-of-yesterday"));
+    EXPECT_EQ(quillbay({"selection"}).exitStatus, 0);
+    const QJsonObject environment = requests().constLast()[u"environment"].toObject();
+    EXPECT_EQ(environment[u"WAYLAND_DISPLAY"].toString(), QString());
+    EXPECT_EQ(environment[u"LC_ALL"].toString(), QString());
+    EXPECT_EQ(environment[u"DISPLAY"].toString(), TestDisplay::start());
+}
+
 TEST_F(SelectionCommand, PassesItsActivationTokenToTheProviderOnly)
 {
     const SelectionOwner owner("PRIMARY", {{"UTF8_STRING", "text"}});

@@ -165,13 +165,15 @@ TEST(ProviderUsage, TakesNoArguments)
     EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("takes no arguments"));
 }
 
-TEST(ProviderUsage, ReportsAMissingDisplay)
+TEST(ProviderUsage, ReportsAMissingDisplayAndOneThatDoesNotAnswer)
 {
-    const auto outcome = ChildProcess(productProgram(QStringLiteral("quillbay-service-provider")))
-                             .withoutVariable("DISPLAY")
-                             .withoutVariable("WAYLAND_DISPLAY")
-                             .withoutVariable("QT_QPA_PLATFORM")
-                             .run({});
-    EXPECT_EQ(outcome.exitStatus, 1);
-    EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("no display"));
+    for (const char *const name : {"", ":54321"}) {
+        const auto outcome = ChildProcess(productProgram(QStringLiteral("quillbay-service-provider")))
+                                 .withVariable("DISPLAY", name)
+                                 .withVariable("WAYLAND_DISPLAY", name)
+                                 .withoutVariable("QT_QPA_PLATFORM")
+                                 .run({});
+        EXPECT_EQ(outcome.exitStatus, 1);
+        EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("no display"));
+    }
 }

@@ -269,6 +269,19 @@ TEST_F(StatsWindow, OpensBesideThePointerInTheWorkArea)
     EXPECT_EQ(desktop.numberOnScreen, 1);
 }
 
+TEST_F(StatsWindow, OpensInACornerOrWhereTheDesktopPlacesItIfThePointerIsUnknown)
+{
+    desktop.pointer.reset();
+    desktop.visibleFrame = {0, 40, 1280, 760};
+    controller->showWindow(nullptr);
+    EXPECT_FALSE(controller->window()->isPlacedByDesktop());
+    EXPECT_EQ(controller->window()->frame().right(), 1280);
+    EXPECT_GT(controller->window()->frame().bottom(), 760) << "the upper edge";
+    desktop.hasSeveralScreens = true;
+    controller->showWindow(nullptr);
+    EXPECT_TRUE(controller->window()->isPlacedByDesktop());
+}
+
 TEST_F(StatsWindow, ClosesBeforeItNotifiesTheDelegate)
 {
     for (const auto &close :

@@ -130,9 +130,15 @@ void WatchTextFileMenuBarController::showWindow()
     Window &window = *m_detachableWindowForPopover;
     if (!window.isVisible())
         m_contentViewControllerForDetachableWindow->viewWillAppear();
-    const QRectF area = m_surroundings.desktop.visibleFrameAt(m_surroundings.desktop.pointerLocation());
-    const QSizeF size = window.frame().size();
-    window.setFrame({originInMiddle(size, area), size}, true, false);
+    const Desktop &desktop = m_surroundings.desktop;
+    std::optional<QRectF> area = desktop.visibleFrameAtPointer();
+    if (!area && window.isVisible())
+        area = desktop.visibleFrameAt(window.frame().center());
+    window.setPlacedByDesktop(!area);
+    if (area) {
+        const QSizeF size = window.frame().size();
+        window.setFrame({originInMiddle(size, *area), size}, true, false);
+    }
     window.orderFront();
 }
 
@@ -140,9 +146,12 @@ void WatchTextFileMenuBarController::statusBarButtonAction()
 {
     if (!m_popover || m_popover->isShown())
         return;
-    // Most desktops do not report where the item is; then the pointer is the best guess.
-    const QRectF atPointer(m_surroundings.desktop.pointerLocation(), QSizeF(0, 0));
-    m_popover->show(m_statusItem->buttonFrame().value_or(atPointer), RectEdge::MinY);
+    // Most desktops do not report where the item is. Then the pointer is the best guess, or the usual place
+    // of trays: the corner at the bottom right.
+    const Desktop &desktop = m_surroundings.desktop;
+    const QRectF area = desktop.visibleFrameAt({});
+    const QPointF guess = desktop.pointerLocation().value_or(QPointF(area.right(), area.y()));
+    m_popover->show(m_statusItem->buttonFrame().value_or(QRectF(guess, QSizeF(0, 0))), RectEdge::MinY);
 }
 
 bool WatchTextFileMenuBarController::popoverShouldDetach(Popover & /*popover*/)

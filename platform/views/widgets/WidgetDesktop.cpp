@@ -8,6 +8,7 @@
 #include "platform/views/widgets/WindowActivation.h"
 #include "platform/views/widgets/WindowPlaces.h"
 #include "platform/views/widgets/WindowWidget.h"
+#include "platform/views/widgets/X11.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -139,9 +140,19 @@ void WidgetDesktop::setActivationToken(const QByteArray &token)
     WindowActivation::setToken(token);
 }
 
-QPointF WidgetDesktop::pointerLocation() const
+std::optional<QPointF> WidgetDesktop::pointerLocation() const
 {
+    if (!X11::knowsPointer())
+        return std::nullopt;
     return frameOnScreen({QCursor::pos(), QSize(1, 1)}, primaryScreenRect(), {}).topLeft();
+}
+
+std::optional<QRectF> WidgetDesktop::visibleFrameAtPointer() const
+{
+    const std::optional<QPointF> pointer = pointerLocation();
+    if (!pointer && QGuiApplication::screens().size() > 1)
+        return std::nullopt;
+    return visibleFrameAt(pointer.value_or(QPointF()));
 }
 
 QRectF WidgetDesktop::visibleFrameAt(const QPointF &point) const

@@ -28,7 +28,8 @@ public:
 
     [[nodiscard]] std::unique_ptr<WindowOnScreen> putOnScreen(std::shared_ptr<Window> window) override;
     void setActivationToken(const QByteArray &token) override;
-    [[nodiscard]] QPointF pointerLocation() const override;
+    [[nodiscard]] std::optional<QPointF> pointerLocation() const override;
+    [[nodiscard]] std::optional<QRectF> visibleFrameAtPointer() const override;
     [[nodiscard]] QRectF visibleFrameAt(const QPointF &point) const override;
     void beep() override;
     void runAlert(const Alert &alert, AlertCompletion completion) override;

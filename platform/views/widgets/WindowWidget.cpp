@@ -170,12 +170,17 @@ void WindowWidget::applyFrame()
         if (kept != pixels)
             return moveTo(kept.topLeft());
     }
-    m_ownPlaces += {geometry().topLeft(), pixels.topLeft()};
-    m_settling.start();
+    if (!m_awaitsPlace) {
+        m_ownPlaces += {geometry().topLeft(), pixels.topLeft()};
+        m_settling.start();
+    }
     // Widens the limits first, so that place and size change in one step and the window does not jump.
     setMinimumSize(size().boundedTo(pixels.size()));
     setMaximumSize(size().expandedTo(pixels.size()));
-    setGeometry(pixels);
+    if (m_awaitsPlace)
+        resize(pixels.size());
+    else
+        setGeometry(pixels);
     applySizeLimits();
 }
 
@@ -193,8 +198,9 @@ void WindowWidget::applyFrameAfterDrag()
 
 void WindowWidget::adoptGeometry()
 {
-    if (!isVisible() || isMinimized() || !windowHandle())
+    if (!isVisible() || isMinimized() || !windowHandle() || (m_awaitsPlace && m_settling.isActive()))
         return;
+    m_awaitsPlace = false;
     // While the display may still report places that the program gave the window, only a different place
     // shows that the user has moved it.
     if (!m_settling.isActive())
@@ -233,11 +239,23 @@ void WindowWidget::moveTo(const QPoint &corner)
     m_window->setFrame(frameOnScreen(pixels, primaryScreenRect(), frame), false, false);
 }
 
+/// Qt asks the window manager for a place as long as nothing has moved the widget.
+void WindowWidget::awaitPlace()
+{
+    setAttribute(Qt::WA_Moved, false);
+    m_awaitsPlace = true;
+    m_settling.start(); // by then the desktop has placed the window
+}
+
 void WindowWidget::bringToFront()
 {
     const QRect wanted = pixelRectOnScreen(m_window->frame(), primaryScreenRect());
-    moveTo(WindowPlaces::freePlace(
-        wanted, WindowPlaces::placesOfWindows(*this), WindowPlaces::workAreaAround(wanted)));
+    if (!m_window->isPlacedByDesktop()) {
+        moveTo(WindowPlaces::freePlace(
+            wanted, WindowPlaces::placesOfWindows(*this), WindowPlaces::workAreaAround(wanted)));
+    } else if (!isVisible()) {
+        awaitPlace();
+    }
     if (!isVisible())
         setFocus(); // no control has the focus until the user gives it one: a space must not press a button
     if (m_window->canBecomeKeyWindow()) {

@@ -7,6 +7,7 @@
 // - The widget covers the frame, without the title bar; PixelGeometry.h relates points and pixels.
 // - A window without a title bar is frameless; a floating one is above all others. Taskbar and Alt+Tab have
 //   both.
+// - A window that the desktop places adopts its place once the desktop has chosen it.
 // - A window that comes to the front where it would hide another one of the program is moved to the next free
 //   place of a cascade; one that grows over an edge of the work area is moved back into it.
 // - The frame of the window follows when the user, the window manager, a change of the primary screen or one
@@ -64,6 +65,7 @@ private:
     void adoptGeometry();
     void adoptScreen();
     void moveTo(const QPoint &corner);
+    void awaitPlace();
     void bringToFront();
 
     std::shared_ptr<Window> m_window;
@@ -77,6 +79,7 @@ private:
     bool m_wasReleased = false; // at the last poll
     QPointF m_knownOrigin; // of the frame, as last sent to or received from the display
     bool m_isAdopting = false;
+    bool m_awaitsPlace = false; // from the desktop; until then only the size is changed
     std::optional<QPoint> m_pressedAt;
     QMetaObject::Connection m_primaryScreen;
 };

@@ -2,6 +2,7 @@
 #include "platform/views/widgets/X11.h"
 
 #include <QGuiApplication>
+#include <QScreen>
 
 #include <xcb/xcb.h>
 
@@ -11,6 +12,7 @@
 #include <cstring>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 namespace {
 
@@ -40,6 +42,18 @@ xcb_atom_t atom(xcb_connection_t *connection, const char *name)
         xcb_intern_atom(connection, 0, static_cast<quint16>(std::strlen(name)), name);
     const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, cookie, nullptr));
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+/// Since version 23.1 Xwayland has an extension that says so; before, it gives the screens such names.
+bool isXwayland(xcb_connection_t *connection)
+{
+    const QScreen *const screen = QGuiApplication::primaryScreen();
+    if (screen && screen->name().startsWith(u"XWAYLAND"))
+        return true;
+    constexpr std::string_view name = "XWAYLAND";
+    const Reply<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(
+        connection, xcb_query_extension(connection, name.size(), name.data()), nullptr));
+    return reply && reply->present != 0;
 }
 
 /// The identifier of a startup notification ends in "_TIME" and the time of the user's action.
@@ -120,6 +134,21 @@ bool X11::isButtonPressed()
         xcb_query_pointer_reply(connection, xcb_query_pointer(connection, root(connection)), nullptr));
     constexpr int buttons = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
     return reply && (reply->mask & buttons) != 0;
+}
+
+bool X11::knowsPointer()
+{
+    xcb_connection_t *const connection = qtConnection();
+    if (!connection || !isXwayland(connection))
+        return connection != nullptr;
+    const Reply<xcb_query_pointer_reply_t> pointer(
+        xcb_query_pointer_reply(connection, xcb_query_pointer(connection, root(connection)), nullptr));
+    if (!pointer || pointer->child == XCB_WINDOW_NONE)
+        return false;
+    // Compositors cover the screen with invisible windows of their own.
+    const Reply<xcb_get_window_attributes_reply_t> window(xcb_get_window_attributes_reply(
+        connection, xcb_get_window_attributes(connection, pointer->child), nullptr));
+    return window && window->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
 }
 
 bool X11::isPointerGrabbed(quint32 window)

@@ -16,6 +16,10 @@ bool isAvailable();
 /// manager moves one of its windows.
 bool isButtonPressed();
 
+/// Whether the server knows where the pointer is. Xwayland knows it only over windows of X clients, and
+/// reports the last place there otherwise.
+bool knowsPointer();
+
 /// Whether another program has grabbed the pointer, as window managers do until a drag has ended. window: any
 /// window of this program.
 bool isPointerGrabbed(quint32 window);

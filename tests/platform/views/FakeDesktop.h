@@ -7,6 +7,7 @@
 #include "platform/views/Window.h"
 
 #include <deque>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -19,7 +20,11 @@ public:
     }
 
     void setActivationToken(const QByteArray &token) override { activationTokens.append(token); }
-    [[nodiscard]] QPointF pointerLocation() const override { return pointer; }
+    [[nodiscard]] std::optional<QPointF> pointerLocation() const override { return pointer; }
+    [[nodiscard]] std::optional<QRectF> visibleFrameAtPointer() const override
+    {
+        return pointer || !hasSeveralScreens ? std::optional(visibleFrame) : std::nullopt;
+    }
     [[nodiscard]] QRectF visibleFrameAt(const QPointF & /*point*/) const override { return visibleFrame; }
 
     void beep() override { notes.append(QStringLiteral("beep")); }
@@ -63,7 +68,8 @@ public:
     int numberOnScreen = 0;
     QStringList notes; ///< "beep", "alert: MESSAGE", "error: TEXT", "open panel"
     QByteArrayList activationTokens;
-    QPointF pointer;
+    std::optional<QPointF> pointer = QPointF();
+    bool hasSeveralScreens = false;
     QRectF visibleFrame{0, 0, 1280, 800};
 
 private:

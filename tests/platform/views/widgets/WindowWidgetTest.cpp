@@ -86,6 +86,20 @@ TEST(WindowWidget, FractionsOfTheFrameStayInTheWindow)
     EXPECT_EQ(shown.content().frame(), QRectF(0, 0, 300.5, 150.5));
 }
 
+TEST(WindowWidget, AWindowThatTheDesktopPlacesAdoptsItsPlaceAndKeepsItWhenItGrows)
+{
+    ShownWindow shown({1200, 10, 300, 150});
+    shown.window().setPlacedByDesktop(true);
+    shown.window().orderFront();
+    shown.window().setFrame({1200, 10, 300, 180}, false, false); // before the desktop has answered
+    EXPECT_TRUE(waitUntil([&] { return shown.window().frame().topLeft() != QPointF(1200, 10); }));
+    EXPECT_EQ(shown.frameOnDisplay(), shown.window().frame());
+    EXPECT_EQ(shown.window().frame().size(), QSizeF(300, 180));
+    const QPointF origin = shown.window().frame().topLeft();
+    shown.window().setFrame({origin, QSizeF(320, 200)}, false, false);
+    EXPECT_TRUE(waitUntil([&] { return shown.frameOnDisplay() == QRectF(origin, QSizeF(320, 200)); }));
+}
+
 TEST(WindowWidget, TheFrameFollowsTheUser)
 {
     ShownWindow shown({100, 200, 300, 150}, Window::titled | Window::resizable, WindowLevel::Normal);
