@@ -6,8 +6,7 @@ const ManualPage &doctorPage()
     static const ManualPage page{
         .program = "quillbay",
         .command = "doctor",
-        .summary =
-            QT_TRANSLATE_NOOP("Manual", "print what works on this desktop, and what to do about the rest"),
+        .summary = QT_TRANSLATE_NOOP("Manual", "print what works on this desktop, and how to mend the rest"),
         .usages = {"[--json]"},
         .description =
             {QT_TRANSLATE_NOOP("Manual",
