@@ -26,7 +26,6 @@ namespace {
 constexpr int notShown = 1; // no display
 constexpr int wrongUsage = 2;
 
-
 /// Tokens are valid once, so child processes must not inherit it. That of X11 if there are two, of which Qt
 /// uses X11.
 QByteArray takeActivationToken()
