@@ -45,14 +45,15 @@ const ManualOption &optionFor(const ManualPage &page, int result)
 
 // getopt_long() must not report errors itself: it prints words as they are, even with control characters for
 // the terminal.
-QByteArray wrongOption(int result, char *const *words)
+QString wrongOption(int result, char *const *words)
 {
     // In a group of letters such as -xyz, optopt has the letter, while optind only has the group.
     const bool isLetter = optopt > 0 && optopt < 0x80;
     const QByteArray word =
         isLetter ? '-' + QByteArray(1, static_cast<char>(optopt)) : QByteArray(words[optind - 1]);
-    return (result == ':' ? "missing argument for option '" : "invalid option '") + printableName(word)
-        + '\'';
+    const QString text = result == ':' ? CommandText::tr("missing argument for option '%1'")
+                                       : CommandText::tr("invalid option '%1'");
+    return text.arg(QString::fromUtf8(printableName(word)));
 }
 
 } // namespace
@@ -91,11 +92,21 @@ std::optional<QByteArray> CommandWords::valueOf(const QByteArray &name) const
     return index < 0 ? std::nullopt : std::optional(values.at(index));
 }
 
-int reportWrongUsage(const char *command, const QByteArray &message)
+int reportWrongUsage(const char *command, const QString &message)
 {
-    const QByteArray name = command ? QByteArray("quillbay ") + command : "quillbay";
-    std::fprintf(stderr, "quillbay: %s\nTry '%s --help' for more.\n", message.constData(), name.constData());
+    const QString name =
+        command ? QStringLiteral("quillbay ") + QLatin1String(command) : QStringLiteral("quillbay");
+    reportError(message);
+    const QString hint = CommandText::tr("Try '%1 --help' for more.").arg(name);
+    std::fprintf(stderr, "%s\n", hint.toUtf8().constData());
     return wrongUsageStatus;
+}
+
+void reportError(const QString &message)
+{
+    // Keeps the order where both streams go to the same terminal or file.
+    std::fflush(stdout);
+    std::fprintf(stderr, "quillbay: %s\n", message.toUtf8().constData());
 }
 
 void print(const QByteArray &bytes)

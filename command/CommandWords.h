@@ -7,11 +7,18 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QCoreApplication>
+#include <QString>
 
 #include <optional>
 
 /// The exit status after wrong usage.
 inline constexpr int wrongUsageStatus = 2;
+
+/// The texts of the commands in the user's language: CommandText::tr().
+class CommandText {
+    Q_DECLARE_TR_FUNCTIONS(command)
+};
 
 struct CommandWords {
     QByteArrayList switches; ///< without dashes, as "clipboard"; "help" also for -h
@@ -28,7 +35,10 @@ struct CommandWords {
 
 /// Reports wrong usage on standard error and points to the help. command: null for quillbay itself. Returns
 /// wrongUsageStatus.
-int reportWrongUsage(const char *command, const QByteArray &message);
+int reportWrongUsage(const char *command, const QString &message);
+
+/// Prints the message behind "quillbay: " on standard error, behind what has been printed to standard output.
+void reportError(const QString &message);
 
 /// Writes to standard output, whose errors show when it is flushed.
 void print(const QByteArray &bytes);

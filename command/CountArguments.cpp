@@ -6,20 +6,20 @@
 
 namespace {
 
-/// Wrong combinations, with their message; null if all is right.
-const char *wrongCombinationIn(const CommandWords &words)
+/// Wrong combinations, with their message; empty if all is right.
+QString wrongCombinationIn(const CommandWords &words)
 {
     if (words.switches.contains("json") && words.switches.contains("tsv"))
-        return "--json and --tsv cannot be combined";
+        return CommandText::tr("--json and --tsv cannot be combined");
     if (words.switches.count("files-from") > 1)
-        return "--files-from can be given only once";
+        return CommandText::tr("--files-from can be given only once");
     if (words.switches.contains("service") && words.switches.contains("explain-rules"))
-        return "--service and --explain-rules cannot be combined";
+        return CommandText::tr("--service and --explain-rules cannot be combined");
     if (words.switches.contains("tsv") && words.switches.contains("explain-rules"))
-        return "--explain-rules prints a table or, with --json, an object; leave out --tsv";
+        return CommandText::tr("--explain-rules prints a table or, with --json, an object; leave out --tsv");
     if (words.valueOf("files-from") == "-" && words.operands.contains("-"))
-        return "standard input cannot be both a document and the list of files";
-    return nullptr;
+        return CommandText::tr("standard input cannot be both a document and the list of files");
+    return {};
 }
 
 CountFormat formatOf(const CommandWords &words)
@@ -36,7 +36,7 @@ std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **wo
     const std::optional<CommandWords> given = CommandWords::parse(countPage(), wordCount, words);
     if (!given)
         return std::nullopt;
-    if (const char *const misuse = wrongCombinationIn(*given)) {
+    if (const QString misuse = wrongCombinationIn(*given); !misuse.isEmpty()) {
         reportWrongUsage("count", misuse);
         return std::nullopt;
     }

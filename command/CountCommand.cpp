@@ -111,7 +111,7 @@ int CountCommand::run()
     else
         countAll(names);
     if (std::fflush(stdout) != 0)
-        fail("standard output", systemErrorText(errno));
+        fail(CommandText::tr("standard output").toUtf8(), translatedSystemError(errno));
     return m_hasFailed ? 1 : 0;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/CountReport.h"
 
+#include "command/CommandWords.h"
 #include "command/FileNames.h"
 
 #include <algorithm>
@@ -11,22 +12,27 @@
 namespace {
 
 /// Of the table's columns, by Statistic.
-constexpr std::array<const char *, statisticCount> titles{
-    "Words", "Characters", "+Whitespace", "Sentences", "Lines", "Hard breaks", "Paragraphs", "Indented"};
+constexpr std::array<const char *, statisticCount> titles{QT_TRANSLATE_NOOP("command", "Words"),
+    QT_TRANSLATE_NOOP("command", "Characters"), QT_TRANSLATE_NOOP("command", "+Whitespace"),
+    QT_TRANSLATE_NOOP("command", "Sentences"), QT_TRANSLATE_NOOP("command", "Lines"),
+    QT_TRANSLATE_NOOP("command", "Hard breaks"), QT_TRANSLATE_NOOP("command", "Paragraphs"),
+    QT_TRANSLATE_NOOP("command", "Indented")};
 
 class TableReport final : public CountReport {
 public:
     explicit TableReport(qint64 expectedSize)
         : m_digits(QByteArray::number(expectedSize).size())
     {
+        for (const StatisticRow &row : statisticTable)
+            m_titles.append(titleOf(row.statistic));
     }
 
     [[nodiscard]] QByteArray header() const override
     {
-        QByteArray line;
+        QString line;
         for (const StatisticRow &row : statisticTable)
-            line += titleOf(row.statistic).rightJustified(widthOf(row)) + "  ";
-        return line + "File\n";
+            line += titleIn(row).rightJustified(widthOf(row)) + QStringLiteral("  ");
+        return (line + CommandText::tr("File") + u'\n').toUtf8();
     }
 
     [[nodiscard]] QByteArray row(const QByteArray &fileName, const QBYWordCounterStats &stats) const override
@@ -39,16 +45,21 @@ public:
 
     [[nodiscard]] QByteArray total(const QBYWordCounterStats &stats) const override
     {
-        return row("total", stats);
+        return row(CommandText::tr("total").toUtf8(), stats);
     }
 
 private:
     [[nodiscard]] qsizetype widthOf(const StatisticRow &row) const
     {
-        return std::max(titleOf(row.statistic).size(), m_digits);
+        return std::max(titleIn(row).size(), m_digits);
+    }
+    [[nodiscard]] const QString &titleIn(const StatisticRow &row) const
+    {
+        return m_titles.at(static_cast<qsizetype>(row.statistic));
     }
 
     qsizetype m_digits;
+    QStringList m_titles; ///< by Statistic
 };
 
 class JsonReport final : public CountReport {
@@ -83,21 +94,28 @@ public:
 
 /// A line of the explanation, and its member in JSON.
 struct RuleRow {
-    QByteArray title;
-    QByteArray text;
+    QString title;
+    QString text;
     QByteArray name;
     QByteArray json;
 };
 
-RuleRow numberRow(const char *title, double number, const char *unit, const char *name)
+RuleRow numberRow(const QString &title, double number, const QByteArray &name)
 {
     const QByteArray digits = QByteArray::number(number, 'g', 6);
-    return {title, digits + unit, name, digits};
+    return {title, QString::fromLatin1(digits), name, digits};
 }
 
-RuleRow lengthRow(const char *title, double length, const char *name)
+RuleRow lengthRow(const QString &title, double length, const QByteArray &name)
 {
-    return numberRow(title, length, " points", name);
+    RuleRow row = numberRow(title, length, name);
+    row.text = CommandText::tr("%1 points").arg(row.text);
+    return row;
+}
+
+QString printableText(const QByteArray &text)
+{
+    return QString::fromUtf8(printableName(text));
 }
 
 std::vector<RuleRow> rulesAsRows(const CountingRules &rules)
@@ -109,26 +127,29 @@ std::vector<RuleRow> rulesAsRows(const CountingRules &rules)
     const std::optional<QByteArray> paper =
         page.paperName ? std::optional(page.paperName->toUtf8()) : std::nullopt;
     const std::optional<double> columnWidth = columnWidthOf(page);
+    const QString column = CommandText::tr("Column");
     return {
-        {"Locale", printableName(locale), "locale", jsonName(locale)},
-        {"Sentences end in punctuation", needsPunctuation ? "yes" : "no", "terminalPunctuation",
+        {CommandText::tr("Locale"), printableText(locale), "locale", jsonName(locale)},
+        {CommandText::tr("Sentences end in punctuation"),
+            needsPunctuation ? CommandText::tr("yes") : CommandText::tr("no"), "terminalPunctuation",
             needsPunctuation ? "true" : "false"},
-        numberRow("Sentences of a paragraph, at least", minimumSentences, "", "minimumSentences"),
-        {"Paper", paper ? printableName(*paper) : "of the print settings", "paper",
-            paper ? jsonName(*paper) : "null"},
-        lengthRow("Paper width", page.paperSize.width(), "paperWidth"),
-        lengthRow("Paper height", page.paperSize.height(), "paperHeight"),
-        lengthRow("Left margin", page.leftMargin, "leftMargin"),
-        lengthRow("Right margin", page.rightMargin, "rightMargin"),
-        columnWidth ? lengthRow("Column", *columnWidth, "column")
-                    : RuleRow{"Column", "none: the margins leave no width", "column", "null"},
-        numberRow("Pixels per point", page.scale, "", "pixelsPerPoint"),
+        numberRow(
+            CommandText::tr("Sentences of a paragraph, at least"), minimumSentences, "minimumSentences"),
+        {CommandText::tr("Paper"), paper ? printableText(*paper) : CommandText::tr("of the print settings"),
+            "paper", paper ? jsonName(*paper) : "null"},
+        lengthRow(CommandText::tr("Paper width"), page.paperSize.width(), "paperWidth"),
+        lengthRow(CommandText::tr("Paper height"), page.paperSize.height(), "paperHeight"),
+        lengthRow(CommandText::tr("Left margin"), page.leftMargin, "leftMargin"),
+        lengthRow(CommandText::tr("Right margin"), page.rightMargin, "rightMargin"),
+        columnWidth ? lengthRow(column, *columnWidth, "column")
+                    : RuleRow{column, CommandText::tr("none: the margins leave no width"), "column", "null"},
+        numberRow(CommandText::tr("Pixels per point"), page.scale, "pixelsPerPoint"),
     };
 }
 
-QByteArray ruleLine(const QByteArray &title, const QByteArray &text)
+QByteArray ruleLine(const QString &title, const QString &text)
 {
-    return title.leftJustified(38) + text + '\n';
+    return (title.leftJustified(38) + text + u'\n').toUtf8();
 }
 
 } // namespace
@@ -146,9 +167,9 @@ std::unique_ptr<CountReport> CountReport::make(CountFormat format, qint64 expect
     return std::make_unique<TableReport>(expectedSize);
 }
 
-QByteArray titleOf(Statistic statistic)
+QString titleOf(Statistic statistic)
 {
-    return titles.at(static_cast<std::size_t>(statistic));
+    return CommandText::tr(titles.at(static_cast<std::size_t>(statistic)));
 }
 
 QByteArray explanationOfRules(const CountingRules &rules, const QByteArrayList &fontFiles)
@@ -157,9 +178,10 @@ QByteArray explanationOfRules(const CountingRules &rules, const QByteArrayList &
     for (const RuleRow &row : rulesAsRows(rules))
         text += ruleLine(row.title, row.text);
     for (const QByteArray &file : fontFiles)
-        text += ruleLine("Font", printableName(file));
+        text += ruleLine(CommandText::tr("Font"), printableText(file));
     if (fontFiles.isEmpty())
-        text += ruleLine("Font", "none: lines are measured with a fixed character width");
+        text += ruleLine(CommandText::tr("Font"),
+            CommandText::tr("none: lines are measured with a fixed character width"));
     return text;
 }
 

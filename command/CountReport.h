@@ -31,7 +31,7 @@ public:
 };
 
 /// The title of a statistic's column in the table, in ASCII.
-QByteArray titleOf(Statistic statistic);
+QString titleOf(Statistic statistic);
 
 /// The text of --explain-rules: a line with name and value for each rule. fontFiles: the files of the fonts
 /// that the lines were measured with.

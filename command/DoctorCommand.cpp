@@ -41,7 +41,7 @@ int runDoctorCommand(int wordCount, char **words)
     if (wanted->wantsHelp())
         return printText(helpText(doctorPage()));
     if (!wanted->operands.isEmpty())
-        return reportWrongUsage("doctor", "doctor takes no file");
+        return reportWrongUsage("doctor", CommandText::tr("doctor takes no file"));
     const int status = wanted->switches.contains("json") ? printJson() : printFindings();
     return std::fflush(stdout) == 0 ? status : 1;
 }

@@ -102,7 +102,7 @@ int ExtractCommand::run(const QByteArrayList &names)
         }
     }
     if (std::fflush(stdout) != 0)
-        fail("standard output", systemErrorText(errno));
+        fail(CommandText::tr("standard output").toUtf8(), translatedSystemError(errno));
     return m_hasFailed ? 1 : 0;
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "command/FirstLaunchStep.h"
 
+#include "command/CommandWords.h"
 #include "command/FileNames.h"
+#include "platform/defaults/FaultText.h"
 #include "preferences/QBYUserDefaultsController.h"
-
-#include <cstdio>
 
 void runFirstLaunchStep()
 {
@@ -12,9 +12,8 @@ void runFirstLaunchStep()
     const auto unstored = QBYUserDefaultsController::unstoredDefaults();
     if (!unstored)
         return;
-    std::fprintf(stderr,
-        "quillbay: %s: cannot be written (%s), so the default rules apply; make the folder "
-        "writable to set your own\n",
-        printableName(unstored->file.toUtf8()).constData(),
-        printableName(unstored->reason.toUtf8()).constData());
+    reportError(
+        CommandText::tr("%1: cannot be written (%2), so the default rules apply; make the folder writable to "
+                        "set your own")
+            .arg(QString::fromUtf8(printableName(unstored->file.toUtf8())), faultText(unstored->reason)));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/ItemTally.h"
 
+#include "command/CommandWords.h"
 #include "command/CountReport.h"
 
 void ItemTally::add(const CountedItem &item)
@@ -13,14 +14,14 @@ QByteArray ItemTally::summary(Statistic statistic, quint64 count, const TextRule
 {
     constexpr qsizetype titleWidth = 11;
     constexpr qsizetype numberWidth = 12;
-    QByteArray text = titleOf(statistic).leftJustified(titleWidth)
-        + QByteArray::number(count).rightJustified(numberWidth) + '\n';
+    QString text = titleOf(statistic).leftJustified(titleWidth)
+        + QString::number(count).rightJustified(numberWidth) + u'\n';
     for (std::size_t i = 0; i < m_sums.size(); ++i) {
         const auto reason = static_cast<CountingReason>(i);
         if (isCounted(reason) || m_sums[i] == 0)
             continue;
-        text += QByteArray::number(m_sums[i]).rightJustified(titleWidth + numberWidth)
-            + " not counted: " + explanationOf(reason, rules).toUtf8() + '\n';
+        text += QString::number(m_sums[i]).rightJustified(titleWidth + numberWidth) + u' '
+            + CommandText::tr("not counted: %1").arg(explanationOf(reason, rules)) + u'\n';
     }
-    return text;
+    return text.toUtf8();
 }

@@ -79,9 +79,9 @@ QByteArray lineNumber(qsizetype line)
     return QByteArray::number(line).rightJustified(numberWidth);
 }
 
-QByteArray noteIndent()
+QByteArray noteLine(const QString &note)
 {
-    return QByteArray(numberWidth + 2, ' ') + "not counted: ";
+    return QByteArray(numberWidth + 2, ' ') + note.toUtf8() + '\n';
 }
 
 /// The end of the part of an item that is marked: before white space, unless it consists of that, and before
@@ -158,9 +158,11 @@ void MarkedText::endLine()
         if (note.count == 0)
             continue;
         const qsizetype more = note.count - note.excerpts.size();
-        ::print(noteIndent() + note.excerpts.join(' ')
-            + (more > 0 ? " and " + QByteArray::number(more) + " more" : QByteArray()) + ": "
-            + explanationOf(static_cast<CountingReason>(i), m_rules).toUtf8() + '\n');
+        const QString excerpts = QString::fromUtf8(note.excerpts.join(' '));
+        const QString reason = explanationOf(static_cast<CountingReason>(i), m_rules);
+        ::print(noteLine(more > 0 ? CommandText::tr("not counted: %1 and %2 more: %3")
+                                        .arg(excerpts, QString::number(more), reason)
+                                  : CommandText::tr("not counted: %1: %2").arg(excerpts, reason)));
     }
 }
 
@@ -180,7 +182,7 @@ void MarkedText::addAlone(const CountedItem &item)
     const qsizetype from = startOfContext(m_text, item.start);
     ::print(lineNumber(m_line) + "  " + printablePart(m_text.sliced(from, item.start - from))
         + marked(item, excerpt(m_text, item.start, end)) + printablePart(contextFrom(m_text, end)) + '\n'
-        + noteIndent() + explanationOf(item.reason, m_rules).toUtf8() + '\n');
+        + noteLine(CommandText::tr("not counted: %1").arg(explanationOf(item.reason, m_rules))));
 }
 
 // Counts the lines without printing them.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/NamedDocument.h"
 
+#include "command/CommandWords.h"
 #include "command/FileNames.h"
 #include "platform/system/OwnedDescriptor.h"
 
@@ -12,7 +13,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <optional>
 
 namespace {
@@ -87,8 +87,5 @@ Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name
 
 void reportDocumentFailure(const QByteArray &name, const QString &cause)
 {
-    // Keeps the order where both streams go to the same terminal or file.
-    std::fflush(stdout);
-    std::fprintf(stderr, "quillbay: %s: %s\n", printableName(name).constData(),
-        printableName(cause.toUtf8()).constData());
+    reportError(QString::fromUtf8(printableName(name) + ": " + printableName(cause.toUtf8())));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/PreferenceText.h"
 
+#include "command/CommandWords.h"
 #include "command/FileNames.h"
 #include "platform/printing/PrintSettings.h"
 #include "preferences/PrintSettingsExtension.h"
@@ -52,7 +53,7 @@ Parsed parse(const SwitchAccessors & /*accessors*/, const QString &text)
         if (word == QLatin1StringView(off))
             return DefaultsValue(false);
     }
-    return quoted(text) + QStringLiteral(" is neither on nor off; use one of them");
+    return CommandText::tr("%1 is neither on nor off; use one of them").arg(quoted(text));
 }
 
 Parsed parse(const NumberAccessors &accessors, const QString &text)
@@ -61,7 +62,7 @@ Parsed parse(const NumberAccessors &accessors, const QString &text)
     const qint64 number = text.toLongLong(&isNumber);
     if (isNumber && number >= 0 && number <= accessors.max)
         return DefaultsValue(number);
-    return QStringLiteral("%1 is not a number from 0 to %2; use one")
+    return CommandText::tr("%1 is not a number from 0 to %2; use one")
         .arg(quoted(text), QString::number(accessors.max));
 }
 
@@ -79,7 +80,8 @@ Parsed parse(const MarginAccessors &accessors, const QString &text)
         QStringLiteral("^(\\d{1,9}(?:[.,]\\d{0,15})?|[.,]\\d{1,15})\\s*(in|mm|cm|pt|\")?$"));
     const QRegularExpressionMatch match = length.match(text.trimmed());
     if (!match.hasMatch())
-        return quoted(text) + QStringLiteral(" is not a length; use one such as 1in, 25.4mm, 2.5cm or 72pt");
+        return CommandText::tr("%1 is not a length; use one such as 1in, 25.4mm, 2.5cm or 72pt")
+            .arg(quoted(text));
     double inches = match.captured(1).replace(u',', u'.').toDouble();
     const QString unit = match.captured(2);
     if (unit == QStringLiteral("mm"))
@@ -92,7 +94,7 @@ Parsed parse(const MarginAccessors &accessors, const QString &text)
     constexpr double tolerance = 1e-6; // the maximum itself, as it is printed
     if (inches <= max + tolerance)
         return DefaultsValue(inches);
-    return QStringLiteral("%1 leaves no column on the page; use at most %2in")
+    return CommandText::tr("%1 leaves no column on the page; use at most %2in")
         .arg(quoted(text), QString::number(max, 'g', 4));
 }
 
@@ -124,9 +126,9 @@ Parsed parse(const PaperAccessors & /*accessors*/, const QString &text)
         paper = paperNamed(printer.papers, text, Qt::CaseInsensitive);
     if (!paper) {
         const QString problem = printer.state == PrinterState::Answering
-            ? QStringLiteral(" is no paper of your printer; use one of ")
-            : QStringLiteral(" is no common paper, and no printer answers; use one of ");
-        return quoted(text) + problem + namesOf(printer.papers);
+            ? CommandText::tr("%1 is no paper of your printer; use one of %2")
+            : CommandText::tr("%1 is no common paper, and no printer answers; use one of %2");
+        return problem.arg(quoted(text), namesOf(printer.papers));
     }
     const auto marginOf = [](Preference preference) {
         return std::get<MarginAccessors>(editablePreference(preference).accessors).get();
@@ -134,7 +136,7 @@ Parsed parse(const PaperAccessors & /*accessors*/, const QString &text)
     const double left = marginOf(Preference::LeftMargin);
     const double right = marginOf(Preference::RightMargin);
     if (!leaveColumn(left, right, paper->paperSize().width())) {
-        return QStringLiteral("the margins of %1in and %2in leave no column on %3; make them smaller first")
+        return CommandText::tr("the margins of %1in and %2in leave no column on %3; make them smaller first")
             .arg(QString::number(left), QString::number(right), *paper->paperName());
     }
     return DefaultsValue(*paper->paperName());

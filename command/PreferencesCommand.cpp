@@ -7,6 +7,7 @@
 #include "command/PreferenceText.h"
 #include "manual/HelpText.h"
 #include "manual/ManualPages.h"
+#include "platform/defaults/FaultText.h"
 #include "preferences/QBYUserDefaultsController.h"
 
 #include <algorithm>
@@ -32,15 +33,14 @@ QByteArray nameOf(const EditablePreference &row)
 
 int reportUnknown(const QByteArray &name)
 {
-    std::fprintf(stderr, "quillbay: no preference is called '%s'; 'quillbay preferences' lists them\n",
-        printableName(name).constData());
+    reportError(CommandText::tr("no preference is called '%1'; 'quillbay preferences' lists them")
+                    .arg(QString::fromUtf8(printableName(name))));
     return wrongUsageStatus;
 }
 
 void report(const EditablePreference &row, const QString &problem)
 {
-    std::fprintf(
-        stderr, "quillbay: %s: %s\n", nameOf(row).constData(), printableName(problem.toUtf8()).constData());
+    reportError(QString::fromUtf8(nameOf(row) + ": " + printableName(problem.toUtf8())));
 }
 
 /// The exit status.
@@ -49,10 +49,10 @@ int store(const EditablePreference &row, const DefaultsValue &value)
     if (setValue(row, value))
         return 0;
     const UserDefaults &suite = QBYUserDefaultsController::sharedUserDefaults();
-    std::fprintf(stderr,
-        "quillbay: %s: cannot be written: %s; check the permissions and the free space of its folder\n",
-        printableName(suite.path()).constData(),
-        printableName(suite.writeFault().value_or(QStringLiteral("unknown reason")).toUtf8()).constData());
+    const QString fault = faultText(suite.writeFault().value_or(QString()));
+    reportError(
+        CommandText::tr("%1: cannot be written: %2; check the permissions and the free space of its folder")
+            .arg(QString::fromUtf8(printableName(suite.path())), fault));
     return 1;
 }
 
@@ -73,7 +73,7 @@ int reset(const Rows &rows)
         const std::optional<DefaultsValue> value = defaultValueOf(*row, printer);
         if (!value)
             report(*row,
-                QStringLiteral("its default is unknown while the printer does not answer; retry later"));
+                CommandText::tr("its default is unknown while the printer does not answer; retry later"));
         status = std::max(status, value ? store(*row, *value) : 1);
     }
     return status;
@@ -98,24 +98,24 @@ QByteArray json(const Rows &rows)
     return '{' + members.join(',') + "}\n";
 }
 
-/// Wrong combinations, with their message; null if all is right.
-const char *misuseOf(const CommandWords &words)
+/// Wrong combinations, with their message; empty if all is right.
+QString misuseOf(const CommandWords &words)
 {
     const bool resets = words.switches.contains("reset");
     const bool resetsAll = words.switches.contains("reset-all");
     if (resets && resetsAll)
-        return "--reset and --reset-all cannot be combined";
+        return CommandText::tr("--reset and --reset-all cannot be combined");
     if ((resets || resetsAll) && words.switches.contains("json"))
-        return "--json only prints";
+        return CommandText::tr("--json only prints");
     if (resets && words.operands.isEmpty())
-        return "--reset needs a name";
+        return CommandText::tr("--reset needs a name");
     if (resetsAll && !words.operands.isEmpty())
-        return "--reset-all takes no names";
+        return CommandText::tr("--reset-all takes no names");
     if (!resets && words.operands.size() > 2)
-        return "one name and one value at a time";
+        return CommandText::tr("one name and one value at a time");
     if (words.operands.size() == 2 && words.switches.contains("json"))
-        return "--json only prints";
-    return nullptr;
+        return CommandText::tr("--json only prints");
+    return {};
 }
 
 int run(const CommandWords &words)
@@ -148,7 +148,7 @@ int runPreferencesCommand(int wordCount, char **words)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
         return printText(helpText(preferencesPage()));
-    if (const char *const misuse = misuseOf(*wanted))
+    if (const QString misuse = misuseOf(*wanted); !misuse.isEmpty())
         return reportWrongUsage("preferences", misuse);
     const bool prints = wanted->operands.size() < 2 && !wanted->switches.contains("reset")
         && !wanted->switches.contains("reset-all");

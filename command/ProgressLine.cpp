@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command/ProgressLine.h"
 
+#include "command/CommandWords.h"
 #include "command/FileNames.h"
 
 #include <sys/ioctl.h>
@@ -130,16 +131,20 @@ void ProgressLine::draw()
     if (m_length == 0 && m_fileName == "-" && ::isatty(STDIN_FILENO)) {
         // The user types into this line: it must not be drawn over.
         if (!std::exchange(m_hasPrompted, true))
-            writeToStandardError("reading standard input; Ctrl+D on an empty line ends it\n");
+            writeToStandardError(
+                CommandText::tr("reading standard input; Ctrl+D on an empty line ends it").toUtf8() + '\n');
         return;
     }
-    QString line = m_length > 0 ? QStringLiteral("counting ") : QStringLiteral("reading ");
+    QStringList parts;
     if (m_fileCount > 1)
-        line += QStringLiteral("%1 of %2, ").arg(m_index + 1).arg(m_fileCount);
+        parts.append(CommandText::tr("%1 of %2").arg(m_index + 1).arg(m_fileCount));
     if (m_length > 0)
-        line += QStringLiteral("%1 %, ").arg(100 * m_position.load(std::memory_order_relaxed) / m_length);
-    line +=
-        m_fileName == "-" ? QStringLiteral("standard input") : QString::fromUtf8(printableName(m_fileName));
+        parts.append(
+            CommandText::tr("%1 %").arg(100 * m_position.load(std::memory_order_relaxed) / m_length));
+    parts.append(
+        m_fileName == "-" ? CommandText::tr("standard input") : QString::fromUtf8(printableName(m_fileName)));
+    const QString text = m_length > 0 ? CommandText::tr("counting %1") : CommandText::tr("reading %1");
+    const QString line = text.arg(parts.join(QStringLiteral(", ")));
     isLineShown = true;
     writeToStandardError(eraseLine + line.left(terminalWidth() - 1).toUtf8());
 }

@@ -31,7 +31,8 @@ int runSelectionCommand(int wordCount, char **words)
     if (wanted->wantsHelp())
         return printText(helpText(selectionPage()));
     if (!wanted->operands.isEmpty())
-        return reportWrongUsage("selection", "selection takes no file; use 'quillbay text FILE'");
+        return reportWrongUsage(
+            "selection", CommandText::tr("selection takes no file; use 'quillbay text FILE'"));
     return openWindow(
         wanted->switches.contains("clipboard") ? SelectionName::Clipboard : SelectionName::Primary);
 }

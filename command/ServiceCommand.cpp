@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "command/ServiceCommand.h"
 
+#include "command/CommandWords.h"
 #include "command/FileNames.h"
 #include "command/FirstLaunchStep.h"
 #include "platform/services/ServiceInterface.h"
 #include "platform/services/ServiceMessageSender.h"
 #include "platform/session_bus/UserNotification.h"
-
-#include <cstdio>
 
 namespace {
 
@@ -40,16 +39,16 @@ bool hasDisplay()
 QString explanationOf(const ServiceMessageFailure &failure)
 {
     using Cause = ServiceMessageFailure::Cause;
-    const QString alternative = QStringLiteral("or use 'quillbay count', which needs none");
     // Not asked before: a provider that runs already has its display.
     if (failure.cause != Cause::Refused && !hasDisplay())
-        return QStringLiteral("there is no display for the window; run this in a terminal of your desktop, ")
-            + alternative;
+        return CommandText::tr(
+            "there is no display for the window; run this in a terminal of your desktop, or use "
+            "'quillbay count', which needs none");
     if (failure.cause == Cause::NoBus)
-        return causeText(failure) + QStringLiteral(", which opens the window; log in to a desktop, ")
-            + alternative;
+        return CommandText::tr("there is no session bus, which opens the window; log in to a desktop, or use "
+                               "'quillbay count', which needs none");
     if (failure.cause == Cause::NoProvider)
-        return causeText(failure) + QStringLiteral("; run 'quillbay doctor' to find out why");
+        return CommandText::tr("%1; run 'quillbay doctor' to find out why").arg(causeText(failure));
     return causeText(failure);
 }
 
@@ -69,7 +68,7 @@ int performService(const QString &service, const Pasteboard &pasteboard, Failure
 
 int reportFailure(const QString &cause, FailureReport report)
 {
-    std::fprintf(stderr, "quillbay: %s\n", printableName(cause.toUtf8()).constData());
+    reportError(QString::fromUtf8(printableName(cause.toUtf8())));
     if (report == FailureReport::StandardErrorAndNotification)
         showUserNotification(QStringLiteral("Quillbay"), sentenceOf(cause));
     return 1;

@@ -49,7 +49,7 @@ int runTextCommand(int wordCount, char **words)
     if (wanted->wantsHelp())
         return printText(helpText(textPage()));
     if (wanted->operands.size() > 1)
-        return reportWrongUsage("text", "one file at a time");
+        return reportWrongUsage("text", CommandText::tr("one file at a time"));
     const QByteArray name = wanted->operands.isEmpty() ? standardInputName : wanted->operands.first();
     // Every step allocates buffers as large as the document.
     try {

@@ -51,12 +51,12 @@ CheckedFiles checkFiles(const QByteArrayList &names)
 void notifyOf(const std::vector<LeftOut> &leftOut)
 {
     const LeftOut &first = leftOut.front();
-    QString text = QStringLiteral("%1: %2.").arg(
+    QString text = CommandText::tr("%1: %2.").arg(
         QString::fromUtf8(printableName(first.name)), QString::fromUtf8(printableName(first.cause.toUtf8())));
     if (leftOut.size() == 2)
-        text += QStringLiteral(" Another file cannot be watched either.");
+        text += u' ' + CommandText::tr("Another file cannot be watched either.");
     else if (leftOut.size() > 2)
-        text += QStringLiteral(" %1 other files cannot be watched either.").arg(leftOut.size() - 1);
+        text += u' ' + CommandText::tr("%1 other files cannot be watched either.").arg(leftOut.size() - 1);
     showUserNotification(QStringLiteral("Quillbay"), text);
 }
 
@@ -86,7 +86,7 @@ int watchCopiedFiles()
         names.append(pathOfFileURL(url));
     if (names.isEmpty())
         return reportFailure(
-            QStringLiteral("the copied files are not on this computer; copy them here and watch the copies"),
+            CommandText::tr("the copied files are not on this computer; copy them here and watch the copies"),
             report);
     return watch(names);
 }
@@ -102,8 +102,9 @@ int runWatchCommand(int wordCount, char **words)
         return printText(helpText(watchPage()));
     const bool fromClipboard = wanted->switches.contains("clipboard");
     if (wanted->operands.isEmpty() != fromClipboard)
-        return reportWrongUsage(
-            "watch", fromClipboard ? "either --clipboard or files, not both" : "no file given");
+        return reportWrongUsage("watch",
+            fromClipboard ? CommandText::tr("either --clipboard or files, not both")
+                          : CommandText::tr("no file given"));
     try {
         return fromClipboard ? watchCopiedFiles() : watch(wanted->operands);
     } catch (const std::bad_alloc &) {

@@ -33,16 +33,21 @@ constexpr Command commands[] = {
     {"watch", runWatchCommand},
 };
 
+QString unknownCommand(const QByteArray &typed)
+{
+    return CommandText::tr("unknown command '%1'").arg(QString::fromUtf8(printableName(typed)));
+}
+
 /// quillbay help [COMMAND]. Returns the exit status.
 int printHelp(int wordCount, char **words)
 {
     if (wordCount > 1)
-        return reportWrongUsage(nullptr, "one command at a time");
+        return reportWrongUsage(nullptr, CommandText::tr("one command at a time"));
     if (wordCount == 0)
         return printText(helpText(quillbayPage()));
     if (const ManualPage *const page = pageOfCommand(words[0]))
         return printText(helpText(*page));
-    return reportWrongUsage(nullptr, "unknown command '" + printableName(words[0]) + '\'');
+    return reportWrongUsage(nullptr, unknownCommand(words[0]));
 }
 
 /// name: the first word. Returns the exit status.
@@ -59,9 +64,9 @@ int runNamed(std::string_view name, int wordCount, char **words)
             return command.run(wordCount, words);
     }
     if (name.empty())
-        return reportWrongUsage(nullptr, "no command given");
+        return reportWrongUsage(nullptr, CommandText::tr("no command given"));
     const QByteArray typed(name.data(), static_cast<qsizetype>(name.size()));
-    return reportWrongUsage(nullptr, "unknown command '" + printableName(typed) + '\'');
+    return reportWrongUsage(nullptr, unknownCommand(typed));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "desk/WatchFiles.h"
 #include "manual/HelpText.h"
 #include "manual/ManualPages.h"
+#include "platform/defaults/FaultText.h"
 #include "platform/session_bus/UniqueApplication.h"
 #include "platform/system/FileURL.h"
 #include "platform/system/Processes.h"
@@ -96,7 +97,7 @@ int showWindow(UniqueApplication &unique, const UniqueApplication::Request &requ
         window.setNotice(
             DeskWindow::tr("%1: cannot be written (%2), so the default rules apply and changes are "
                            "not stored. Make the folder writable to set your own.")
-                .arg(unstored->file, unstored->reason));
+                .arg(unstored->file, faultText(unstored->reason)));
     } else if (!hasBus) {
         window.setNotice(DeskWindow::tr("There is no session bus: open windows of other programs of "
                                         "Quillbay follow a change only at their next count."));

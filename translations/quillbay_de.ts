@@ -172,6 +172,373 @@
     </message>
 </context>
 <context>
+    <name>Doctor</name>
+    <message>
+        <source>Everything works.</source>
+        <translation>Alles funktioniert.</translation>
+    </message>
+    <message>
+        <source>Quillbay works, with the limitations above.</source>
+        <translation>Quillbay funktioniert mit den obigen Einschränkungen.</translation>
+    </message>
+    <message>
+        <source>Something that Quillbay needs does not work; see above.</source>
+        <translation>Etwas, das Quillbay braucht, funktioniert nicht; siehe oben.</translation>
+    </message>
+    <message>
+        <source>Windows use Wayland directly, where they cannot choose their place or stay above others.</source>
+        <translation>Fenster benutzen Wayland direkt, wo sie weder ihren Platz wählen noch über anderen bleiben können.</translation>
+    </message>
+    <message>
+        <source>Install Xwayland (package xwayland), log out and in again.</source>
+        <translation>Xwayland (Paket xwayland) installieren, ab- und wieder anmelden.</translation>
+    </message>
+    <message>
+        <source>DISPLAY is not set.</source>
+        <translation>DISPLAY ist nicht gesetzt.</translation>
+    </message>
+    <message>
+        <source>There is no display for windows.</source>
+        <translation>Es gibt keinen Bildschirm für Fenster.</translation>
+    </message>
+    <message>
+        <source>Run this in a terminal of your desktop. &quot;quillbay count&quot; needs no display.</source>
+        <translation>Dies in einem Terminal des Desktops ausführen. &quot;quillbay count&quot; braucht keinen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>the X display %1</source>
+        <translation>der X-Anzeige %1</translation>
+    </message>
+    <message>
+        <source>Windows appear on %1 of a Wayland session.</source>
+        <translation>Fenster erscheinen auf %1 einer Wayland-Sitzung.</translation>
+    </message>
+    <message>
+        <source>Windows appear on %1.</source>
+        <translation>Fenster erscheinen auf %1.</translation>
+    </message>
+    <message>
+        <source>DISPLAY names %1, which cannot be opened.</source>
+        <translation>DISPLAY nennt %1, das sich nicht öffnen lässt.</translation>
+    </message>
+    <message>
+        <source>Run this in a terminal of your desktop.</source>
+        <translation>Dies in einem Terminal des Desktops ausführen.</translation>
+    </message>
+    <message>
+        <source>Windows do not stay above others.</source>
+        <translation>Fenster bleiben nicht über anderen.</translation>
+    </message>
+    <message>
+        <source>There is no window manager: windows do not stay above others and cannot be moved.</source>
+        <translation>Es gibt keine Fensterverwaltung: Fenster bleiben nicht über anderen und lassen sich nicht verschieben.</translation>
+    </message>
+    <message>
+        <source>Start a window manager, such as openbox or xfwm4.</source>
+        <translation>Eine Fensterverwaltung starten, etwa openbox oder xfwm4.</translation>
+    </message>
+    <message>
+        <source>The window manager</source>
+        <translation>Die Fensterverwaltung</translation>
+    </message>
+    <message>
+        <source>%1 does not keep windows above others.</source>
+        <translation>%1 hält Fenster nicht über anderen.</translation>
+    </message>
+    <message>
+        <source>Use another window manager, or one of its rules for the windows of &quot;Quillbay&quot;.</source>
+        <translation>Eine andere Fensterverwaltung verwenden oder eine ihrer Regeln für die Fenster von &quot;Quillbay&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 keeps Quillbay&apos;s windows above others.</source>
+        <translation>%1 hält die Fenster von Quillbay über anderen.</translation>
+    </message>
+    <message>
+        <source>The text that is selected in other programs can be read.</source>
+        <translation>Der in anderen Programmen ausgewählte Text lässt sich lesen.</translation>
+    </message>
+    <message>
+        <source>The selection cannot be read now: %1.</source>
+        <translation>Die Auswahl lässt sich jetzt nicht lesen: %1.</translation>
+    </message>
+    <message>
+        <source>Select text in another program and run this again.</source>
+        <translation>In einem anderen Programm Text auswählen und dies erneut ausführen.</translation>
+    </message>
+    <message>
+        <source>Selections cannot be counted: %1.</source>
+        <translation>Auswahlen lassen sich nicht zählen: %1.</translation>
+    </message>
+    <message>
+        <source>Copy the text and count it with &quot;quillbay selection --clipboard&quot;, or save it and watch the file.</source>
+        <translation>Den Text kopieren und mit &quot;quillbay selection --clipboard&quot; zählen, oder ihn speichern und die Datei beobachten.</translation>
+    </message>
+    <message>
+        <source>The desktop has a tray for icons.</source>
+        <translation>Der Desktop hat einen Bereich für Symbole.</translation>
+    </message>
+    <message>
+        <source>The desktop has no tray for icons. Quillbay needs none: every watched file has a window.</source>
+        <translation>Der Desktop hat keinen Bereich für Symbole. Quillbay braucht keinen: Jede beobachtete Datei hat ein Fenster.</translation>
+    </message>
+    <message>
+        <source>The check &quot;%1&quot; did not end within %2 seconds: what it asks does not answer.</source>
+        <translation>Die Prüfung &quot;%1&quot; endete nicht binnen %2 Sekunden: was sie fragt, antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Log out and in again; if that does not help, restart the computer.</source>
+        <translation>Ab- und wieder anmelden; hilft das nicht, den Rechner neu starten.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the check &quot;%1&quot;.</source>
+        <translation>Für die Prüfung &quot;%1&quot; reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>Close some programs and run this again.</source>
+        <translation>Einige Programme schließen und dies erneut ausführen.</translation>
+    </message>
+    <message>
+        <source>The check &quot;%1&quot; was left out, because &quot;%2&quot; failed.</source>
+        <translation>Die Prüfung &quot;%1&quot; entfiel, weil &quot;%2&quot; scheiterte.</translation>
+    </message>
+    <message>
+        <source>Install the package fonts-urw-base35 or fonts-liberation.</source>
+        <translation>Das Paket fonts-urw-base35 oder fonts-liberation installieren.</translation>
+    </message>
+    <message>
+        <source>The default printer answers.</source>
+        <translation>Der Standarddrucker antwortet.</translation>
+    </message>
+    <message>
+        <source>There is no printer; Quillbay offers the usual papers.</source>
+        <translation>Es gibt keinen Drucker; Quillbay bietet die gängigen Papiere an.</translation>
+    </message>
+    <message>
+        <source>The default printer does not answer within a second; meanwhile Quillbay offers the usual papers.</source>
+        <translation>Der Standarddrucker antwortet nicht binnen einer Sekunde; bis dahin bietet Quillbay die gängigen Papiere an.</translation>
+    </message>
+    <message>
+        <source>There is no usable font: lines are counted as if all letters had the same width.</source>
+        <translation>Es gibt keine brauchbare Schrift: Zeilen werden gezählt, als wären alle Buchstaben gleich breit.</translation>
+    </message>
+    <message>
+        <source>Plain text is measured with %1, whose letters are not as wide as those of Helvetica: lines are counted otherwise than elsewhere.</source>
+        <translation>Reiner Text wird mit %1 gemessen, dessen Buchstaben nicht so breit sind wie die von Helvetica: Zeilen werden anders gezählt als anderswo.</translation>
+    </message>
+    <message>
+        <source>Plain text is measured with %1, which stands for Helvetica.</source>
+        <translation>Reiner Text wird mit %1 gemessen, das für Helvetica steht.</translation>
+    </message>
+    <message>
+        <source>The margins leave no width for text on the paper %1.</source>
+        <translation>Die Ränder lassen auf dem Papier %1 keine Breite für Text.</translation>
+    </message>
+    <message>
+        <source>Run &quot;quillbay preferences --reset left-margin right-margin&quot;.</source>
+        <translation>&quot;quillbay preferences --reset left-margin right-margin&quot; ausführen.</translation>
+    </message>
+    <message>
+        <source>Lines are counted in a column of %1 points on the paper %2.</source>
+        <translation>Zeilen werden in einer Spalte von %1 Punkt auf dem Papier %2 gezählt.</translation>
+    </message>
+    <message>
+        <source>Check the printer with &quot;lpstat -t&quot;.</source>
+        <translation>Den Drucker mit &quot;lpstat -t&quot; prüfen.</translation>
+    </message>
+    <message>
+        <source>This is Quillbay %1 with Qt %2 on %3, Linux %4.</source>
+        <translation>Dies ist Quillbay %1 mit Qt %2 auf %3, Linux %4.</translation>
+    </message>
+    <message>
+        <source>The desktop is %1, the session %2.</source>
+        <translation>Der Desktop ist %1, die Sitzung %2.</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>A letter that stands alone counts as a word.</source>
+        <translation>Ein einzelner Buchstabe zählt als Wort.</translation>
+    </message>
+    <message>
+        <source>A letter that stands alone counts as a word only if it is a, I, O or x.</source>
+        <translation>Ein einzelner Buchstabe zählt nur als Wort, wenn er a, I, O oder x ist.</translation>
+    </message>
+    <message>
+        <source>The locale %1 is not installed; words are counted by the rules of %2.</source>
+        <translation>Die Locale %1 ist nicht installiert; Wörter werden nach den Regeln von %2 gezählt.</translation>
+    </message>
+    <message>
+        <source>Install the locale: choose it in the list of &quot;sudo dpkg-reconfigure locales&quot;.</source>
+        <translation>Die Locale installieren: in der Liste von &quot;sudo dpkg-reconfigure locales&quot; auswählen.</translation>
+    </message>
+    <message>
+        <source>Words are counted by the rules of the locale %1.</source>
+        <translation>Wörter werden nach den Regeln der Locale %1 gezählt.</translation>
+    </message>
+    <message>
+        <source>To count by the rules of your language, set LANG to its locale.</source>
+        <translation>Um nach den Regeln der eigenen Sprache zu zählen, LANG auf deren Locale setzen.</translation>
+    </message>
+    <message>
+        <source>The preferences in %1 cannot be read: %2. The default rules apply.</source>
+        <translation>Die Einstellungen in %1 lassen sich nicht lesen: %2. Es gelten die Standardregeln.</translation>
+    </message>
+    <message>
+        <source>Run &quot;quillbay preferences --reset-all&quot;, which puts the damaged file aside.</source>
+        <translation>&quot;quillbay preferences --reset-all&quot; ausführen, das die beschädigte Datei beiseitelegt.</translation>
+    </message>
+    <message>
+        <source>Check the permissions of the file and of its folders.</source>
+        <translation>Die Rechte der Datei und ihrer Ordner prüfen.</translation>
+    </message>
+    <message>
+        <source>Preferences cannot be stored in %1: %2.</source>
+        <translation>Einstellungen lassen sich nicht in %1 speichern: %2.</translation>
+    </message>
+    <message>
+        <source>Make the file and its folder writable.</source>
+        <translation>Die Datei und ihren Ordner beschreibbar machen.</translation>
+    </message>
+    <message>
+        <source>The preferences in %1 can be read and written.</source>
+        <translation>Die Einstellungen in %1 lassen sich lesen und schreiben.</translation>
+    </message>
+    <message>
+        <source>There are no preferences yet; the first count writes them to %1.</source>
+        <translation>Noch gibt es keine Einstellungen; die erste Zählung schreibt sie nach %1.</translation>
+    </message>
+    <message>
+        <source>Documents other than plain text cannot be read: %1.</source>
+        <translation>Andere Dokumente als reiner Text lassen sich nicht lesen: %1.</translation>
+    </message>
+    <message>
+        <source>a test document has lost its text</source>
+        <translation>ein Testdokument hat seinen Text verloren</translation>
+    </message>
+    <message>
+        <source>Install Quillbay again. If that does not help, use a kernel of the distribution: the sandbox needs its filter of system calls (seccomp).</source>
+        <translation>Quillbay neu installieren. Hilft das nicht, einen Kernel der Distribution verwenden: Die Sandbox braucht seinen Filter der Systemaufrufe (seccomp).</translation>
+    </message>
+    <message>
+        <source>Documents are read in a sandbox, which a filter of system calls keeps up alone: the kernel has no Landlock, or it is switched off.</source>
+        <translation>Dokumente werden in einer Sandbox gelesen, die allein ein Filter der Systemaufrufe sichert: der Kernel hat kein Landlock, oder es ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Start the kernel with &quot;landlock&quot; in its parameter lsm=.</source>
+        <translation>Den Kernel mit &quot;landlock&quot; in seinem Parameter lsm= starten.</translation>
+    </message>
+    <message>
+        <source>Documents are read in a sandbox (Landlock %1 and a filter of system calls).</source>
+        <translation>Dokumente werden in einer Sandbox gelesen (Landlock %1 und ein Filter der Systemaufrufe).</translation>
+    </message>
+    <message>
+        <source>The bus does not know the service %1. Install the package quillbay again; after an installation to another place, log out and in again.</source>
+        <translation>Der Bus kennt den Dienst %1 nicht. Das Paket quillbay neu installieren; nach einer Installation an einen anderen Ort ab- und wieder anmelden.</translation>
+    </message>
+    <message>
+        <source>Log out and in again. If that does not help, look for &quot;quillbay&quot; in the output of &quot;journalctl --user --since today&quot;.</source>
+        <translation>Ab- und wieder anmelden. Hilft das nicht, in der Ausgabe von &quot;journalctl --user --since today&quot; nach &quot;quillbay&quot; suchen.</translation>
+    </message>
+    <message>
+        <source>There is no session bus, so no window can open: %1.</source>
+        <translation>Es gibt keinen Sitzungsbus, daher kann sich kein Fenster öffnen: %1.</translation>
+    </message>
+    <message>
+        <source>Run this in a terminal of your desktop. &quot;quillbay count&quot; needs no bus.</source>
+        <translation>Dies in einem Terminal des Desktops ausführen. &quot;quillbay count&quot; braucht keinen Bus.</translation>
+    </message>
+    <message>
+        <source>The session bus answers.</source>
+        <translation>Der Sitzungsbus antwortet.</translation>
+    </message>
+    <message>
+        <source>Texts in windows are not counted: %1.</source>
+        <translation>Texte in Fenstern werden nicht gezählt: %1.</translation>
+    </message>
+    <message>
+        <source>The counting service counts %1 words in &quot;One two three.&quot;</source>
+        <translation>Der Zähldienst zählt %1 Wörter in &quot;One two three.&quot;</translation>
+    </message>
+    <message>
+        <source>Install the package quillbay again.</source>
+        <translation>Das Paket quillbay neu installieren.</translation>
+    </message>
+    <message>
+        <source>The counting service counts three words in &quot;One two three.&quot;</source>
+        <translation>Der Zähldienst zählt drei Wörter in &quot;One two three.&quot;</translation>
+    </message>
+    <message>
+        <source>The program with the windows does not start: %1.</source>
+        <translation>Das Programm mit den Fenstern startet nicht: %1.</translation>
+    </message>
+    <message>
+        <source>The program with the windows starts.</source>
+        <translation>Das Programm mit den Fenstern startet.</translation>
+    </message>
+    <message>
+        <source>The desktop shows notifications.</source>
+        <translation>Der Desktop zeigt Benachrichtigungen.</translation>
+    </message>
+    <message>
+        <source>The desktop shows no notifications: an error is invisible where Quillbay was not started in a terminal.</source>
+        <translation>Der Desktop zeigt keine Benachrichtigungen: Ein Fehler bleibt unsichtbar, wo Quillbay nicht in einem Terminal gestartet wurde.</translation>
+    </message>
+    <message>
+        <source>Install a notification server, such as the package dunst.</source>
+        <translation>Einen Benachrichtigungsdienst installieren, etwa das Paket dunst.</translation>
+    </message>
+    <message>
+        <source>no instance of inotify is left</source>
+        <translation>keine Instanz von inotify ist mehr frei</translation>
+    </message>
+    <message>
+        <source>no watch of inotify is left</source>
+        <translation>keine Beobachtung von inotify ist mehr frei</translation>
+    </message>
+    <message>
+        <source>Raise the limit: run &quot;sudo sysctl %1&quot;, and write that setting into a file in /etc/sysctl.d to keep it.</source>
+        <translation>Die Grenze anheben: &quot;sudo sysctl %1&quot; ausführen und die Einstellung in eine Datei in /etc/sysctl.d schreiben, damit sie bleibt.</translation>
+    </message>
+    <message>
+        <source>At least %1 of %2 watches and %3 of %4 instances of inotify are in use.</source>
+        <translation>Mindestens %1 von %2 Beobachtungen und %3 von %4 Instanzen von inotify sind in Gebrauch.</translation>
+    </message>
+    <message>
+        <source>The kernel does not report changes of further files (%1), so they are checked every two seconds.</source>
+        <translation>Der Kernel meldet Änderungen weiterer Dateien nicht (%1), daher werden sie alle zwei Sekunden geprüft.</translation>
+    </message>
+    <message>
+        <source>The kernel reports changes of watched files.</source>
+        <translation>Der Kernel meldet Änderungen beobachteter Dateien.</translation>
+    </message>
+    <message>
+        <source>Counts of watched files cannot be spoken, because there is no command %1.</source>
+        <translation>Die Zahlen beobachteter Dateien lassen sich nicht vorlesen, weil es den Befehl %1 nicht gibt.</translation>
+    </message>
+    <message>
+        <source>Install the package quillbay, or another one with that command.</source>
+        <translation>Das Paket quillbay oder ein anderes mit diesem Befehl installieren.</translation>
+    </message>
+    <message>
+        <source>Counts of watched files cannot be spoken, because no program for speech is installed.</source>
+        <translation>Die Zahlen beobachteter Dateien lassen sich nicht vorlesen, weil kein Sprachprogramm installiert ist.</translation>
+    </message>
+    <message>
+        <source>Install the package speech-dispatcher or espeak-ng.</source>
+        <translation>Das Paket speech-dispatcher oder espeak-ng installieren.</translation>
+    </message>
+    <message>
+        <source>Counts of watched files are spoken by %1.</source>
+        <translation>Die Zahlen beobachteter Dateien werden von %1 vorgelesen.</translation>
+    </message>
+    <message>
+        <source>Counts of watched files can be spoken by %1; this is switched off.</source>
+        <translation>Die Zahlen beobachteter Dateien kann %1 vorlesen; das ist ausgeschaltet.</translation>
+    </message>
+</context>
+<context>
     <name>DocumentChooser</name>
     <message>
         <source>Documents (%1)</source>
@@ -191,6 +558,537 @@
     <message>
         <source> in</source>
         <translation>&#xa0;Zoll</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>Usage:</source>
+        <translation>Aufruf:</translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation>Beispiele:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>Rückgabewert:</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>ÜBERSICHT</translation>
+    </message>
+    <message>
+        <source>NAMES</source>
+        <translation>NAMEN</translation>
+    </message>
+    <message>
+        <source>COMMANDS</source>
+        <translation>BEFEHLE</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPTIONEN</translation>
+    </message>
+    <message>
+        <source>EXAMPLES</source>
+        <translation>BEISPIELE</translation>
+    </message>
+    <message>
+        <source>EXIT STATUS</source>
+        <translation>RÜCKGABEWERT</translation>
+    </message>
+    <message>
+        <source>SEE ALSO</source>
+        <translation>SIEHE AUCH</translation>
+    </message>
+    <message>
+        <source>User Commands</source>
+        <translation>Befehle für Benutzer</translation>
+    </message>
+    <message>
+        <source>System Programs</source>
+        <translation>Systemprogramme</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>BESCHREIBUNG</translation>
+    </message>
+    <message>
+        <source>NOTES</source>
+        <translation>ANMERKUNGEN</translation>
+    </message>
+    <message>
+        <source>print this help and exit</source>
+        <translation>diese Hilfe ausgeben und beenden</translation>
+    </message>
+    <message>
+        <source>print the version and exit</source>
+        <translation>die Version ausgeben und beenden</translation>
+    </message>
+    <message>
+        <source>the options or arguments were wrong</source>
+        <translation>die Optionen oder Argumente waren falsch</translation>
+    </message>
+    <message>
+        <source>print the counts of files or of standard input</source>
+        <translation>die Zahlen von Dateien oder der Standardeingabe ausgeben</translation>
+    </message>
+    <message>
+        <source>FILE can be plain text, RTF, RTFD, a web page, a Word document, an OpenDocument text, an EPUB or a PDF file. A file that is no text, such as a picture, is reported and not counted.</source>
+        <translation>FILE kann reiner Text, RTF, RTFD, eine Webseite, ein Word-Dokument, ein OpenDocument-Text, ein EPUB oder eine PDF-Datei sein. Eine Datei, die kein Text ist, etwa ein Bild, wird gemeldet und nicht gezählt.</translation>
+    </message>
+    <message>
+        <source>print a JSON object on a line of its own for each file</source>
+        <translation>für jede Datei ein JSON-Objekt auf einer eigenen Zeile ausgeben</translation>
+    </message>
+    <message>
+        <source>print tab-separated columns, with their names on the first line</source>
+        <translation>durch Tabulatoren getrennte Spalten ausgeben, mit ihren Namen in der ersten Zeile</translation>
+    </message>
+    <message>
+        <source>also count the files named in LIST, after those of the command line; the names are separated by line ends, or by NUL bytes if there are any; LIST may be - for standard input</source>
+        <translation>nach den Dateien der Befehlszeile auch die in LIST genannten zählen; die Namen sind durch Zeilenenden getrennt oder, falls vorhanden, durch NUL-Bytes; LIST kann - für die Standardeingabe sein</translation>
+    </message>
+    <message>
+        <source>count in the counting service, in a sandboxed process, as Quillbay&apos;s windows do; the counts are the same</source>
+        <translation>im Zähldienst zählen, in einem abgeschotteten Prozess, wie es die Fenster von Quillbay tun; die Zahlen sind dieselben</translation>
+    </message>
+    <message>
+        <source>count every file as plain text, whatever it is: a web page with its markup, a picture with its bytes</source>
+        <translation>jede Datei als reinen Text zählen, was immer sie ist: eine Webseite mit ihren Auszeichnungen, ein Bild mit seinen Bytes</translation>
+    </message>
+    <message>
+        <source>For several files, the table ends with a row of totals; the other two formats have no such row.</source>
+        <translation>Bei mehreren Dateien endet die Tabelle mit einer Summenzeile; die beiden anderen Formate haben keine.</translation>
+    </message>
+    <message>
+        <source>all files were counted</source>
+        <translation>alle Dateien wurden gezählt</translation>
+    </message>
+    <message>
+        <source>a file could not be counted</source>
+        <translation>eine Datei konnte nicht gezählt werden</translation>
+    </message>
+    <message>
+        <source>count the text files of this folder, with their total</source>
+        <translation>die Textdateien dieses Ordners zählen, mit ihrer Summe</translation>
+    </message>
+    <message>
+        <source>count all OpenDocument texts below this folder, whatever their names are</source>
+        <translation>alle OpenDocument-Texte unter diesem Ordner zählen, wie immer sie heißen</translation>
+    </message>
+    <message>
+        <source>print nothing but the number of words</source>
+        <translation>nur die Zahl der Wörter ausgeben</translation>
+    </message>
+    <message>
+        <source>set the rules of the counts in a window</source>
+        <translation>die Regeln der Zahlen in einem Fenster einstellen</translation>
+    </message>
+    <message>
+        <source>Opens Quillbay&apos;s main window, in which you set the rules of the counts. If it is open already, it comes to the front. With FILE, it shows why the counts of that text are what they are.</source>
+        <translation>Öffnet das Hauptfenster von Quillbay, in dem sich die Regeln der Zahlen einstellen lassen. Ist es schon offen, kommt es nach vorn. Mit FILE zeigt es, wie die Zahlen dieses Textes entstehen.</translation>
+    </message>
+    <message>
+        <source>the window was closed, or another process shows it</source>
+        <translation>das Fenster wurde geschlossen, oder ein anderer Prozess zeigt es</translation>
+    </message>
+    <message>
+        <source>the window could not be shown</source>
+        <translation>das Fenster konnte nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>print what counts in files, what does not, and why</source>
+        <translation>ausgeben, was in Dateien zählt, was nicht und warum</translation>
+    </message>
+    <message>
+        <source>Prints the counts of each FILE as &apos;quillbay count&apos; does, and why they are what they are. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts.</source>
+        <translation>Gibt wie &apos;quillbay count&apos; die Zahlen jeder Datei FILE aus und wie sie entstehen. Ohne FILE, oder wenn FILE - ist, wird die Standardeingabe gelesen. FILE kann von jeder Art sein, die &apos;quillbay count&apos; zählt.</translation>
+    </message>
+    <message>
+        <source>Without options, prints each count with what was not counted and why. With the name of a count, prints the whole text, with what counted in [square brackets] and what did not in {curly ones}. Several counts are explained one after another.</source>
+        <translation>Ohne Optionen wird zu jeder Zahl ausgegeben, was nicht gezählt wurde und warum. Mit dem Namen einer Zahl wird der ganze Text ausgegeben, das Gezählte in [eckigen Klammern], das Übrige in {geschweiften}. Mehrere Zahlen werden nacheinander erklärt.</translation>
+    </message>
+    <message>
+        <source>explain the words</source>
+        <translation>die Wörter erklären</translation>
+    </message>
+    <message>
+        <source>explain the sentences</source>
+        <translation>die Sätze erklären</translation>
+    </message>
+    <message>
+        <source>explain the paragraphs</source>
+        <translation>die Absätze erklären</translation>
+    </message>
+    <message>
+        <source>explain the indented paragraphs</source>
+        <translation>die eingerückten Absätze erklären</translation>
+    </message>
+    <message>
+        <source>explain the lines on your paper</source>
+        <translation>die Zeilen auf dem eigenen Papier erklären</translation>
+    </message>
+    <message>
+        <source>explain the hard line breaks</source>
+        <translation>die harten Zeilenumbrüche erklären</translation>
+    </message>
+    <message>
+        <source>explain the characters without white space</source>
+        <translation>die Zeichen ohne Leerraum erklären</translation>
+    </message>
+    <message>
+        <source>explain the characters including white space</source>
+        <translation>die Zeichen mit Leerraum erklären</translation>
+    </message>
+    <message>
+        <source>print only what was not counted, with the text around it</source>
+        <translation>nur ausgeben, was nicht gezählt wurde, mit dem Text darum herum</translation>
+    </message>
+    <message>
+        <source>print a JSON object on a line of its own for each word, sentence and so on (of all counts, or of those that are named): the file, the kind of the count, the offset and length in UTF-16 code units, whether it was counted, the reason as a fixed identifier, and the text, of which at most 200 code units; a line as of &apos;quillbay count --json&apos; follows</source>
+        <translation>für jedes Wort, jeden Satz und so weiter (aller Zahlen oder der genannten) ein JSON-Objekt auf einer eigenen Zeile ausgeben: die Datei, die Art der Zahl, Anfang und Länge in UTF-16-Codeeinheiten, ob es gezählt wurde, den Grund als festen Bezeichner und den Text, höchstens 200 Codeeinheiten davon; es folgt eine Zeile wie von &apos;quillbay count --json&apos;</translation>
+    </message>
+    <message>
+        <source>read every file as plain text, whatever it is</source>
+        <translation>jede Datei als reinen Text lesen, was immer sie ist</translation>
+    </message>
+    <message>
+        <source>&apos;quillbay count --explain-rules&apos; prints the rules themselves: your preferences and your locale.</source>
+        <translation>&apos;quillbay count --explain-rules&apos; gibt die Regeln selbst aus: die Einstellungen und die Locale.</translation>
+    </message>
+    <message>
+        <source>all files were explained</source>
+        <translation>alle Dateien wurden erklärt</translation>
+    </message>
+    <message>
+        <source>a file could not be explained</source>
+        <translation>eine Datei konnte nicht erklärt werden</translation>
+    </message>
+    <message>
+        <source>find the headings that are not counted as sentences</source>
+        <translation>die Überschriften finden, die nicht als Sätze zählen</translation>
+    </message>
+    <message>
+        <source>print the text of files, as it is counted</source>
+        <translation>den Text von Dateien ausgeben, wie er gezählt wird</translation>
+    </message>
+    <message>
+        <source>Prints the text of each FILE that &apos;quillbay count&apos; counts, in UTF-8: without markup, headers and hidden text, with the notes behind the body. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts.</source>
+        <translation>Gibt den Text jeder Datei FILE, den &apos;quillbay count&apos; zählt, in UTF-8 aus: ohne Auszeichnungen, Kopfzeilen und verborgenen Text, mit den Anmerkungen hinter dem Haupttext. Ohne FILE, oder wenn FILE - ist, wird die Standardeingabe gelesen. FILE kann von jeder Art sein, die &apos;quillbay count&apos; zählt.</translation>
+    </message>
+    <message>
+        <source>Nothing is added between the files. Pictures and other attachments are the character U+FFFC, which is counted. On a terminal, control characters other than tabs and line ends are escaped, as \x1b; elsewhere they are printed as they are.</source>
+        <translation>Zwischen den Dateien wird nichts eingefügt. Bilder und andere Anlagen sind das Zeichen U+FFFC, das gezählt wird. Im Terminal werden Steuerzeichen außer Tabulatoren und Zeilenenden umschrieben, etwa als \x1b; sonst werden sie unverändert ausgegeben.</translation>
+    </message>
+    <message>
+        <source>print a JSON object on a line of its own for each file: its name, its MIME type, the text, the length of the text in UTF-16 code units, and the paragraphs; each has its offset and its length without the line end, in UTF-16 code units and in bytes of UTF-8, and its counts, which add up to those of &apos;quillbay count&apos;</source>
+        <translation>für jede Datei ein JSON-Objekt auf einer eigenen Zeile ausgeben: ihren Namen, ihren MIME-Typ, den Text, die Länge des Textes in UTF-16-Codeeinheiten und die Absätze; jeder hat seinen Anfang und seine Länge ohne das Zeilenende, in UTF-16-Codeeinheiten und in Bytes von UTF-8, und seine Zahlen, die zusammen die von &apos;quillbay count&apos; ergeben</translation>
+    </message>
+    <message>
+        <source>all files were printed</source>
+        <translation>alle Dateien wurden ausgegeben</translation>
+    </message>
+    <message>
+        <source>a file could not be printed</source>
+        <translation>eine Datei konnte nicht ausgegeben werden</translation>
+    </message>
+    <message>
+        <source>count the words of a Word document as another program does</source>
+        <translation>die Wörter eines Word-Dokuments zählen, wie es ein anderes Programm tut</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on oder off</translation>
+    </message>
+    <message>
+        <source>such as 1in, 25.4mm, 2.5cm or 72pt, at most so wide that a column of half an inch is left</source>
+        <translation>etwa 1in, 25.4mm, 2.5cm oder 72pt, höchstens so breit, dass eine Spalte von einem halben Zoll bleibt</translation>
+    </message>
+    <message>
+        <source>print and set the rules of the counts</source>
+        <translation>die Regeln der Zahlen ausgeben und einstellen</translation>
+    </message>
+    <message>
+        <source>Prints the rules of the counts, or the one called NAME; sets NAME to VALUE; or gives rules the values of a new user. Open windows show what you want at once; their numbers follow at the next count.</source>
+        <translation>Gibt die Regeln der Zahlen aus oder die namens NAME; setzt NAME auf VALUE; oder gibt Regeln die Anfangswerte. Offene Fenster zeigen sofort das Gewünschte; ihre Zahlen folgen bei der nächsten Zählung.</translation>
+    </message>
+    <message>
+        <source>Names:</source>
+        <translation>Namen:</translation>
+    </message>
+    <message>
+        <source>on or off: show the characters; also sets the next one</source>
+        <translation>on oder off: die Zeichen anzeigen; setzt auch das Nächste</translation>
+    </message>
+    <message>
+        <source>0 to 1000: paragraphs with fewer sentences are not counted</source>
+        <translation>0 bis 1000: Absätze mit weniger Sätzen zählen nicht</translation>
+    </message>
+    <message>
+        <source>on or off: count only sentences that end in a full stop, question mark or exclamation mark</source>
+        <translation>on oder off: nur Sätze zählen, die mit Punkt, Frage- oder Ausrufezeichen enden</translation>
+    </message>
+    <message>
+        <source>on or off: speak the words of a watched file when their number changes</source>
+        <translation>on oder off: die Wortzahl einer beobachteten Datei vorlesen, wenn sie sich ändert</translation>
+    </message>
+    <message>
+        <source>a paper of your printer, such as A4 or Letter</source>
+        <translation>ein Papier des Druckers, etwa A4 oder Letter</translation>
+    </message>
+    <message>
+        <source>print a JSON object; margins are in inches</source>
+        <translation>ein JSON-Objekt ausgeben; Ränder in Zoll</translation>
+    </message>
+    <message>
+        <source>reset the rules that are named</source>
+        <translation>die genannten Regeln zurücksetzen</translation>
+    </message>
+    <message>
+        <source>reset all rules</source>
+        <translation>alle Regeln zurücksetzen</translation>
+    </message>
+    <message>
+        <source>the rules were printed or stored</source>
+        <translation>die Regeln wurden ausgegeben oder gespeichert</translation>
+    </message>
+    <message>
+        <source>a rule could not be stored</source>
+        <translation>eine Regel konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>do not count headings as paragraphs</source>
+        <translation>Überschriften nicht als Absätze zählen</translation>
+    </message>
+    <message>
+        <source>use the default margins again</source>
+        <translation>wieder die Standardränder verwenden</translation>
+    </message>
+    <message>
+        <source>count text for people who write</source>
+        <translation>Texte zählen für alle, die schreiben</translation>
+    </message>
+    <message>
+        <source>Counts words, characters, sentences, lines on your paper and paragraphs by your own rules: in a terminal, or in a small window that follows a file through every save.</source>
+        <translation>Zählt Wörter, Zeichen, Sätze, Zeilen auf dem eigenen Papier und Absätze nach eigenen Regeln: im Terminal oder in einem kleinen Fenster, das einer Datei durch jedes Speichern folgt.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>print the help of a command and exit</source>
+        <translation>die Hilfe eines Befehls ausgeben und beenden</translation>
+    </message>
+    <message>
+        <source>Run &apos;quillbay help COMMAND&apos; or &apos;man quillbay-COMMAND&apos; for the options of a command.</source>
+        <translation>&apos;quillbay help COMMAND&apos; oder &apos;man quillbay-COMMAND&apos; zeigt die Optionen eines Befehls.</translation>
+    </message>
+    <message>
+        <source>everything was done</source>
+        <translation>alles wurde erledigt</translation>
+    </message>
+    <message>
+        <source>something was not done, and is reported on standard error</source>
+        <translation>etwas wurde nicht erledigt und auf der Standardfehlerausgabe gemeldet</translation>
+    </message>
+    <message>
+        <source>speak a phrase</source>
+        <translation>einen Satz vorlesen</translation>
+    </message>
+    <message>
+        <source>Speaks PHRASE, which is one argument, through the speech dispatcher of the user, or through espeak-ng if there is none. It exits when the dispatcher has accepted the phrase, or when espeak-ng has spoken it.</source>
+        <translation>Liest PHRASE, ein einziges Argument, über den Speech Dispatcher des Benutzers vor oder, wenn es keinen gibt, über espeak-ng. Es endet, wenn der Dispatcher den Satz angenommen oder espeak-ng ihn gesprochen hat.</translation>
+    </message>
+    <message>
+        <source>Quillbay speaks the number of words of a watched file through /usr/bin/say. Quillbay&apos;s package makes that name an alternative for this program, unless another package owns it.</source>
+        <translation>Quillbay liest die Wortzahl einer beobachteten Datei über /usr/bin/say vor. Das Paket von Quillbay macht diesen Namen zu einer Alternative für dieses Programm, sofern er keinem anderen Paket gehört.</translation>
+    </message>
+    <message>
+        <source>the phrase is spoken</source>
+        <translation>der Satz wird vorgelesen</translation>
+    </message>
+    <message>
+        <source>neither of the two programs could speak it</source>
+        <translation>keines der beiden Programme konnte ihn vorlesen</translation>
+    </message>
+    <message>
+        <source>show the counts of the text selected in any application</source>
+        <translation>die Zahlen des Textes zeigen, der in irgendeiner Anwendung ausgewählt ist</translation>
+    </message>
+    <message>
+        <source>Opens a small window with the counts of the text that is selected in any application. Meant for a keyboard shortcut: errors are reported in a desktop notification as well as on standard error.</source>
+        <translation>Öffnet ein kleines Fenster mit den Zahlen des Textes, der in irgendeiner Anwendung ausgewählt ist. Gedacht für ein Tastenkürzel: Fehler werden auch in einer Benachrichtigung des Desktops gemeldet, nicht nur auf der Standardfehlerausgabe.</translation>
+    </message>
+    <message>
+        <source>use the text that was copied last instead</source>
+        <translation>stattdessen den zuletzt kopierten Text nehmen</translation>
+    </message>
+    <message>
+        <source>the window has opened</source>
+        <translation>das Fenster ist offen</translation>
+    </message>
+    <message>
+        <source>the window could not be opened</source>
+        <translation>das Fenster konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>count documents for Quillbay&apos;s windows</source>
+        <translation>Dokumente für die Fenster von Quillbay zählen</translation>
+    </message>
+    <message>
+        <source>Counts documents for other programs. The session bus starts it for the first request to Brisklane.QBYServiceProviderXPC; it exits when it has been idle for a while.</source>
+        <translation>Zählt Dokumente für andere Programme. Der Sitzungsbus startet es bei der ersten Anfrage an Brisklane.QBYServiceProviderXPC; es endet, wenn es eine Weile nichts zu tun hatte.</translation>
+    </message>
+    <message>
+        <source>The documents are read by processes of their own, which are sandboxed before they receive one. Where systemd manages the session, the unit quillbay-counting-service.service limits all of them together.</source>
+        <translation>Die Dokumente werden von eigenen Prozessen gelesen, die abgeschottet werden, bevor sie eines erhalten. Wo systemd die Sitzung verwaltet, begrenzt die Unit quillbay-counting-service.service alle zusammen.</translation>
+    </message>
+    <message>
+        <source>exit after being idle for this long (default: 60000)</source>
+        <translation>nach so langer Untätigkeit beenden (Standard: 60000)</translation>
+    </message>
+    <message>
+        <source>it was idle, or was told to stop</source>
+        <translation>es war untätig oder wurde angehalten</translation>
+    </message>
+    <message>
+        <source>the service could not be offered on the session bus</source>
+        <translation>der Dienst konnte auf dem Sitzungsbus nicht angeboten werden</translation>
+    </message>
+    <message>
+        <source>show Quillbay&apos;s windows with counts</source>
+        <translation>die Fenster von Quillbay mit Zahlen zeigen</translation>
+    </message>
+    <message>
+        <source>Shows the windows with the counts of selected texts and of watched files. The session bus starts it for the first request to com.quillbay.ServiceProvider, as &apos;quillbay text&apos; and &apos;quillbay watch&apos; send it; it exits when the last window is closed.</source>
+        <translation>Zeigt die Fenster mit den Zahlen ausgewählter Texte und beobachteter Dateien. Der Sitzungsbus startet es bei der ersten Anfrage an com.quillbay.ServiceProvider, wie &apos;quillbay text&apos; und &apos;quillbay watch&apos; sie senden; es endet, wenn das letzte Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>no window is left, or the session has ended</source>
+        <translation>kein Fenster ist mehr offen, oder die Sitzung ist beendet</translation>
+    </message>
+    <message>
+        <source>there is no display, or the services could not be offered</source>
+        <translation>es gibt keinen Bildschirm, oder die Dienste konnten nicht angeboten werden</translation>
+    </message>
+    <message>
+        <source>the connection to the X server was lost</source>
+        <translation>die Verbindung zum X-Server ging verloren</translation>
+    </message>
+    <message>
+        <source>read one document in a sandbox</source>
+        <translation>ein Dokument in einer Sandbox lesen</translation>
+    </message>
+    <message>
+        <source>Reads one document for another program of Quillbay, which starts it. It receives the document in memory and can open no file and no connection; its memory and time are limited in proportion to the document.</source>
+        <translation>Liest ein Dokument für ein anderes Programm von Quillbay, das es startet. Es erhält das Dokument im Speicher und kann weder Dateien noch Verbindungen öffnen; Speicher und Zeit sind im Verhältnis zum Dokument begrenzt.</translation>
+    </message>
+    <message>
+        <source>the document was read, or none was sent</source>
+        <translation>das Dokument wurde gelesen, oder es kam keines</translation>
+    </message>
+    <message>
+        <source>keep what you copied from Quillbay&apos;s windows</source>
+        <translation>behalten, was aus den Fenstern von Quillbay kopiert wurde</translation>
+    </message>
+    <message>
+        <source>Takes over what you have copied from a window of Quillbay when the last one is closed, and hands it to the clipboard manager of the desktop. Without a manager it keeps the content until another program copies something or the display closes.</source>
+        <translation>Übernimmt beim Schließen des letzten Fensters von Quillbay, was daraus kopiert wurde, und übergibt es der Zwischenablageverwaltung des Desktops. Ohne eine solche behält es den Inhalt, bis ein anderes Programm etwas kopiert oder die Sitzung endet.</translation>
+    </message>
+    <message>
+        <source>the content is saved, or was replaced</source>
+        <translation>der Inhalt ist gesichert oder wurde ersetzt</translation>
+    </message>
+    <message>
+        <source>there was nothing to take over</source>
+        <translation>es gab nichts zu übernehmen</translation>
+    </message>
+    <message>
+        <source>show the counts of one file or of standard input</source>
+        <translation>die Zahlen einer Datei oder der Standardeingabe zeigen</translation>
+    </message>
+    <message>
+        <source>Opens a small window with the counts of FILE. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts.</source>
+        <translation>Öffnet ein kleines Fenster mit den Zahlen von FILE. Ohne FILE, oder wenn FILE - ist, wird die Standardeingabe gelesen. FILE kann von jeder Art sein, die &apos;quillbay count&apos; zählt.</translation>
+    </message>
+    <message>
+        <source>show the counts of what another program prints</source>
+        <translation>die Zahlen dessen zeigen, was ein anderes Programm ausgibt</translation>
+    </message>
+    <message>
+        <source>show the counts of files, and update them at every save</source>
+        <translation>die Zahlen von Dateien zeigen und bei jedem Speichern aktualisieren</translation>
+    </message>
+    <message>
+        <source>watch the files that were copied last in a file manager</source>
+        <translation>die zuletzt in einem Dateimanager kopierten Dateien beobachten</translation>
+    </message>
+    <message>
+        <source>the windows have opened</source>
+        <translation>die Fenster sind offen</translation>
+    </message>
+    <message>
+        <source>a file cannot be watched</source>
+        <translation>eine Datei lässt sich nicht beobachten</translation>
+    </message>
+    <message>
+        <source>Counts the words, characters, sentences, lines on your paper, hard line breaks, paragraphs and indented paragraphs of each FILE by your preferences. Without FILE, or if FILE is -, reads standard input. A pipe that a shell passes by name is read in the same way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>instead of the counts, print what they depend on: locale, preferences, paper, margins, and the fonts that the files need (without a file, the font of plain text); with --json an object, whose lengths are in points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control characters in names are escaped: as \x1b in the table and as \u001b in JSON. With --tsv, tabs, line feeds, carriage returns and backslashes become \t, \n, \r and \\; other control characters and bytes that are not valid UTF-8 become one \x1b per byte. In JSON, a name that is not valid UTF-8 has U+FFFD in place of such bytes, and the member &quot;url&quot; beside it has them percent-encoded, as a file: URL.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>watch the files as &apos;quillbay watch&apos; does; without FILE, choose them in a dialog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print what works on this desktop, and what to do about the rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tries what Quillbay needs of this computer and of the desktop, and prints a line for each: ok, note (worth knowing), limited or broken, the name of the check, what it has found, and what to do about it. It starts the programs of Quillbay as the other commands do, opens no window, and waits a few seconds at most for what does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output names no document, and your home folder is ~ in it, so that you can paste it into a report of a fault.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print a JSON object with the worst severity and a list of the findings: the name of each check, its severity, the text and the remedy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>everything works</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>something is limited</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>something is broken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a small window for each FILE, whose counts follow every save, or raises the window that FILE already has. Watches every kind of file that &apos;quillbay count&apos; counts; the others are reported on standard error and in a desktop notification, and skipped.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -684,6 +1582,313 @@
     </message>
 </context>
 <context>
+    <name>command</name>
+    <message>
+        <source>missing argument for option &apos;%1&apos;</source>
+        <translation>der Option &apos;%1&apos; fehlt ihr Argument</translation>
+    </message>
+    <message>
+        <source>invalid option &apos;%1&apos;</source>
+        <translation>ungültige Option &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos; for more.</source>
+        <translation>&apos;%1 --help&apos; zeigt mehr.</translation>
+    </message>
+    <message>
+        <source>--json and --tsv cannot be combined</source>
+        <translation>--json und --tsv schließen sich aus</translation>
+    </message>
+    <message>
+        <source>--files-from can be given only once</source>
+        <translation>--files-from darf nur einmal vorkommen</translation>
+    </message>
+    <message>
+        <source>--service and --explain-rules cannot be combined</source>
+        <translation>--service und --explain-rules schließen sich aus</translation>
+    </message>
+    <message>
+        <source>--explain-rules prints a table or, with --json, an object; leave out --tsv</source>
+        <translation>--explain-rules gibt eine Tabelle aus oder mit --json ein Objekt; --tsv weglassen</translation>
+    </message>
+    <message>
+        <source>standard input cannot be both a document and the list of files</source>
+        <translation>die Standardeingabe kann nicht zugleich Dokument und Liste der Dateien sein</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>+Whitespace</source>
+        <translation>+Leerraum</translation>
+    </message>
+    <message>
+        <source>Sentences</source>
+        <translation>Sätze</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Hard breaks</source>
+        <translation>Umbrüche</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Absätze</translation>
+    </message>
+    <message>
+        <source>Indented</source>
+        <translation>Eingerückt</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>total</source>
+        <translation>gesamt</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 Punkt</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Spalte</translation>
+    </message>
+    <message>
+        <source>Locale</source>
+        <translation>Locale</translation>
+    </message>
+    <message>
+        <source>Sentences end in punctuation</source>
+        <translation>Sätze enden mit einem Satzzeichen</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Sentences of a paragraph, at least</source>
+        <translation>Sätze eines Absatzes, mindestens</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>of the print settings</source>
+        <translation>aus den Druckeinstellungen</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Breite des Papiers</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Höhe des Papiers</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Right margin</source>
+        <translation>Rechter Rand</translation>
+    </message>
+    <message>
+        <source>none: the margins leave no width</source>
+        <translation>keine: die Ränder lassen keine Breite</translation>
+    </message>
+    <message>
+        <source>Pixels per point</source>
+        <translation>Pixel pro Punkt</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>none: lines are measured with a fixed character width</source>
+        <translation>keine: Zeilen werden mit fester Zeichenbreite gemessen</translation>
+    </message>
+    <message>
+        <source>doctor takes no file</source>
+        <translation>doctor nimmt keine Datei</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written (%2), so the default rules apply; make the folder writable to set your own</source>
+        <translation>%1: lässt sich nicht schreiben (%2), daher gelten die Standardregeln; für eigene Regeln den Ordner beschreibbar machen</translation>
+    </message>
+    <message>
+        <source>not counted: %1</source>
+        <translation>nicht gezählt: %1</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>unbekannter Befehl &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>one command at a time</source>
+        <translation>nur ein Befehl auf einmal</translation>
+    </message>
+    <message>
+        <source>no command given</source>
+        <translation>kein Befehl angegeben</translation>
+    </message>
+    <message>
+        <source>not counted: %1 and %2 more: %3</source>
+        <translation>nicht gezählt: %1 und %2 weitere: %3</translation>
+    </message>
+    <message>
+        <source>not counted: %1: %2</source>
+        <translation>nicht gezählt: %1: %2</translation>
+    </message>
+    <message>
+        <source>no preference is called &apos;%1&apos;; &apos;quillbay preferences&apos; lists them</source>
+        <translation>keine Einstellung heißt &apos;%1&apos;; &apos;quillbay preferences&apos; nennt alle</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2; check the permissions and the free space of its folder</source>
+        <translation>%1: lässt sich nicht schreiben: %2; die Rechte und den freien Platz des Ordners prüfen</translation>
+    </message>
+    <message>
+        <source>its default is unknown while the printer does not answer; retry later</source>
+        <translation>sein Standardwert ist unbekannt, solange der Drucker nicht antwortet; später erneut versuchen</translation>
+    </message>
+    <message>
+        <source>--reset and --reset-all cannot be combined</source>
+        <translation>--reset und --reset-all schließen sich aus</translation>
+    </message>
+    <message>
+        <source>--json only prints</source>
+        <translation>--json gibt nur aus</translation>
+    </message>
+    <message>
+        <source>--reset needs a name</source>
+        <translation>--reset braucht einen Namen</translation>
+    </message>
+    <message>
+        <source>--reset-all takes no names</source>
+        <translation>--reset-all nimmt keine Namen</translation>
+    </message>
+    <message>
+        <source>one name and one value at a time</source>
+        <translation>nur ein Name und ein Wert auf einmal</translation>
+    </message>
+    <message>
+        <source>%1 is neither on nor off; use one of them</source>
+        <translation>%1 ist weder on noch off; eines davon angeben</translation>
+    </message>
+    <message>
+        <source>%1 is not a number from 0 to %2; use one</source>
+        <translation>%1 ist keine Zahl von 0 bis %2; eine solche angeben</translation>
+    </message>
+    <message>
+        <source>%1 is not a length; use one such as 1in, 25.4mm, 2.5cm or 72pt</source>
+        <translation>%1 ist keine Länge; eine wie 1in, 25.4mm, 2.5cm oder 72pt angeben</translation>
+    </message>
+    <message>
+        <source>%1 leaves no column on the page; use at most %2in</source>
+        <translation>%1 lässt keine Spalte auf der Seite; höchstens %2in angeben</translation>
+    </message>
+    <message>
+        <source>%1 is no paper of your printer; use one of %2</source>
+        <translation>%1 ist kein Papier des Druckers; möglich sind %2</translation>
+    </message>
+    <message>
+        <source>%1 is no common paper, and no printer answers; use one of %2</source>
+        <translation>%1 ist kein gängiges Papier, und kein Drucker antwortet; möglich sind %2</translation>
+    </message>
+    <message>
+        <source>the margins of %1in and %2in leave no column on %3; make them smaller first</source>
+        <translation>die Ränder von %1in und %2in lassen auf %3 keine Spalte; zuerst verkleinern</translation>
+    </message>
+    <message>
+        <source>reading standard input; Ctrl+D on an empty line ends it</source>
+        <translation>die Standardeingabe wird gelesen; Strg+D in einer leeren Zeile beendet sie</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>counting %1</source>
+        <translation>Zählen: %1</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>Lesen: %1</translation>
+    </message>
+    <message>
+        <source>selection takes no file; use &apos;quillbay text FILE&apos;</source>
+        <translation>selection nimmt keine Datei; stattdessen &apos;quillbay text FILE&apos; verwenden</translation>
+    </message>
+    <message>
+        <source>there is no display for the window; run this in a terminal of your desktop, or use &apos;quillbay count&apos;, which needs none</source>
+        <translation>es gibt keinen Bildschirm für das Fenster; in einem Terminal des Desktops ausführen oder &apos;quillbay count&apos; verwenden, das keinen braucht</translation>
+    </message>
+    <message>
+        <source>there is no session bus, which opens the window; log in to a desktop, or use &apos;quillbay count&apos;, which needs none</source>
+        <translation>es gibt keinen Sitzungsbus, der das Fenster öffnet; an einem Desktop anmelden oder &apos;quillbay count&apos; verwenden, das keinen braucht</translation>
+    </message>
+    <message>
+        <source>%1; run &apos;quillbay doctor&apos; to find out why</source>
+        <translation>%1; &apos;quillbay doctor&apos; findet heraus, warum</translation>
+    </message>
+    <message>
+        <source>one file at a time</source>
+        <translation>nur eine Datei auf einmal</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>Another file cannot be watched either.</source>
+        <translation>Eine weitere Datei lässt sich auch nicht beobachten.</translation>
+    </message>
+    <message>
+        <source>%1 other files cannot be watched either.</source>
+        <translation>%1 weitere Dateien lassen sich auch nicht beobachten.</translation>
+    </message>
+    <message>
+        <source>the copied files are not on this computer; copy them here and watch the copies</source>
+        <translation>die kopierten Dateien liegen nicht auf diesem Rechner; hierher kopieren und die Kopien beobachten</translation>
+    </message>
+    <message>
+        <source>either --clipboard or files, not both</source>
+        <translation>entweder --clipboard oder Dateien, nicht beides</translation>
+    </message>
+    <message>
+        <source>no file given</source>
+        <translation>keine Datei angegeben</translation>
+    </message>
+</context>
+<context>
     <name>documents</name>
     <message>
         <source>is not plain text</source>
@@ -898,6 +2103,61 @@
     </message>
 </context>
 <context>
+    <name>platform/defaults</name>
+    <message>
+        <source>it is another program&apos;s database</source>
+        <translation>sie ist die Datenbank eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>its file is being replaced</source>
+        <translation>die Datei wird gerade ersetzt</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>sie ist beschädigt</translation>
+    </message>
+    <message>
+        <source>another process keeps it locked</source>
+        <translation>ein anderer Prozess hält sie gesperrt</translation>
+    </message>
+    <message>
+        <source>unable to open database file</source>
+        <translation>die Datei lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>attempt to write a readonly database</source>
+        <translation>die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>database or disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>disk I/O error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>database is locked</source>
+        <translation>die Datei ist gesperrt</translation>
+    </message>
+    <message>
+        <source>file is not a database</source>
+        <translation>die Datei ist keine Datenbank</translation>
+    </message>
+    <message>
+        <source>database disk image is malformed</source>
+        <translation>die Datei ist beschädigt</translation>
+    </message>
+</context>
+<context>
     <name>platform/files</name>
     <message>
         <source>no such file</source>
@@ -950,14 +2210,6 @@
 </context>
 <context>
     <name>platform/pasteboard</name>
-    <message>
-        <source>there is no display to take the clipboard from; &apos;quillbay count&apos; counts a text from a pipe</source>
-        <translation>ohne Bildschirm gibt es keine Zwischenablage; &apos;quillbay count&apos; zählt einen Text aus einer Pipe</translation>
-    </message>
-    <message>
-        <source>there is no display to take the selection from; &apos;quillbay count&apos; counts a text from a pipe</source>
-        <translation>ohne Bildschirm gibt es keine Auswahl; &apos;quillbay count&apos; zählt einen Text aus einer Pipe</translation>
-    </message>
     <message>
         <source>the clipboard is empty</source>
         <translation>die Zwischenablage ist leer</translation>
@@ -1016,11 +2268,19 @@
     </message>
     <message>
         <source>this desktop shows the clipboard to no other program; copy the text and run &apos;quillbay text&apos; in a terminal, or open its file with &apos;quillbay text FILE&apos;</source>
-        <translation>dieser Desktop zeigt die Zwischenablage keinem anderen Programm; kopieren Sie den Text und starten Sie &apos;quillbay text&apos; in einem Terminal, oder öffnen Sie seine Datei mit &apos;quillbay text FILE&apos;</translation>
+        <translation>dieser Desktop zeigt die Zwischenablage keinem anderen Programm; den Text kopieren und &apos;quillbay text&apos; im Terminal ausführen, oder seine Datei mit &apos;quillbay text FILE&apos; öffnen</translation>
     </message>
     <message>
         <source>this desktop shows the selection to no other program; copy the text and run &apos;quillbay text&apos; in a terminal, or open its file with &apos;quillbay text FILE&apos;</source>
-        <translation>dieser Desktop zeigt die Auswahl keinem anderen Programm; kopieren Sie den Text und starten Sie &apos;quillbay text&apos; in einem Terminal, oder öffnen Sie seine Datei mit &apos;quillbay text FILE&apos;</translation>
+        <translation>dieser Desktop zeigt die Auswahl keinem anderen Programm; den Text kopieren und &apos;quillbay text&apos; im Terminal ausführen, oder seine Datei mit &apos;quillbay text FILE&apos; öffnen</translation>
+    </message>
+    <message>
+        <source>there is no display to take the clipboard from; &apos;quillbay count&apos; counts a text from a pipe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no display to take the selection from; &apos;quillbay count&apos; counts a text from a pipe</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1039,6 +2299,141 @@
     <message>
         <source>%1 cannot be started: %2</source>
         <translation>%1 lässt sich nicht starten: %2</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Vorgang nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>Gerät oder Adresse gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>Nicht genug Speicher</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>Gerät oder Ressource belegt</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>Datei existiert schon</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>Gerät gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>Ungültiges Argument</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>Zu viele offene Dateien im System</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Datei zu groß</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Kein Platz mehr auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Schreibgeschütztes Dateisystem</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>Unterbrochene Pipe</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Dateiname zu lang</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>Zu viele symbolische Links</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Kontingent überschritten</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>Veralteter Dateizugriff</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Zeitüberschreitung der Verbindung</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>Verbindung verweigert</translation>
+    </message>
+    <message>
+        <source>Transport endpoint is not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Host is down</source>
+        <translation>Rechner nicht in Betrieb</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>Kein Weg zum Rechner</translation>
+    </message>
+    <message>
+        <source>Exec format error</source>
+        <translation>Falsches Programmformat</translation>
+    </message>
+    <message>
+        <source>Bad file descriptor</source>
+        <translation>Ungültiger Dateideskriptor</translation>
+    </message>
+    <message>
+        <source>Resource temporarily unavailable</source>
+        <translation>Ressource zurzeit nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>presentation</name>
+    <message>
+        <source>not enough memory to send it to the counting service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no session bus, over which the counting service is reached; run again without --service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the counting service does not answer; run again without --service, or &apos;quillbay doctor&apos; to find out why</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

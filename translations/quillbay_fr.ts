@@ -172,6 +172,373 @@
     </message>
 </context>
 <context>
+    <name>Doctor</name>
+    <message>
+        <source>Everything works.</source>
+        <translation>Tout fonctionne.</translation>
+    </message>
+    <message>
+        <source>Quillbay works, with the limitations above.</source>
+        <translation>Quillbay fonctionne, avec les limites ci-dessus.</translation>
+    </message>
+    <message>
+        <source>Something that Quillbay needs does not work; see above.</source>
+        <translation>Quelque chose dont Quillbay a besoin ne fonctionne pas&#x202f;; voir ci-dessus.</translation>
+    </message>
+    <message>
+        <source>Windows use Wayland directly, where they cannot choose their place or stay above others.</source>
+        <translation>Les fenêtres utilisent Wayland directement, où elles ne peuvent ni choisir leur place ni rester au-dessus des autres.</translation>
+    </message>
+    <message>
+        <source>Install Xwayland (package xwayland), log out and in again.</source>
+        <translation>Installez Xwayland (paquet xwayland), fermez la session et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>DISPLAY is not set.</source>
+        <translation>DISPLAY n’est pas défini.</translation>
+    </message>
+    <message>
+        <source>There is no display for windows.</source>
+        <translation>Il n’y a pas d’écran pour les fenêtres.</translation>
+    </message>
+    <message>
+        <source>Run this in a terminal of your desktop. &quot;quillbay count&quot; needs no display.</source>
+        <translation>Lancez ceci dans un terminal de votre bureau. &quot;quillbay count&quot; n’a pas besoin d’écran.</translation>
+    </message>
+    <message>
+        <source>the X display %1</source>
+        <translation>l’écran X %1</translation>
+    </message>
+    <message>
+        <source>Windows appear on %1 of a Wayland session.</source>
+        <translation>Les fenêtres apparaissent sur %1 d’une session Wayland.</translation>
+    </message>
+    <message>
+        <source>Windows appear on %1.</source>
+        <translation>Les fenêtres apparaissent sur %1.</translation>
+    </message>
+    <message>
+        <source>DISPLAY names %1, which cannot be opened.</source>
+        <translation>DISPLAY désigne %1, qui ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>Run this in a terminal of your desktop.</source>
+        <translation>Lancez ceci dans un terminal de votre bureau.</translation>
+    </message>
+    <message>
+        <source>Windows do not stay above others.</source>
+        <translation>Les fenêtres ne restent pas au-dessus des autres.</translation>
+    </message>
+    <message>
+        <source>There is no window manager: windows do not stay above others and cannot be moved.</source>
+        <translation>Il n’y a pas de gestionnaire de fenêtres&#xa0;: les fenêtres ne restent pas au-dessus des autres et ne peuvent pas être déplacées.</translation>
+    </message>
+    <message>
+        <source>Start a window manager, such as openbox or xfwm4.</source>
+        <translation>Lancez un gestionnaire de fenêtres, comme openbox ou xfwm4.</translation>
+    </message>
+    <message>
+        <source>The window manager</source>
+        <translation>Le gestionnaire de fenêtres</translation>
+    </message>
+    <message>
+        <source>%1 does not keep windows above others.</source>
+        <translation>%1 ne garde pas les fenêtres au-dessus des autres.</translation>
+    </message>
+    <message>
+        <source>Use another window manager, or one of its rules for the windows of &quot;Quillbay&quot;.</source>
+        <translation>Utilisez un autre gestionnaire de fenêtres, ou l’une de ses règles pour les fenêtres de &quot;Quillbay&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 keeps Quillbay&apos;s windows above others.</source>
+        <translation>%1 garde les fenêtres de Quillbay au-dessus des autres.</translation>
+    </message>
+    <message>
+        <source>The text that is selected in other programs can be read.</source>
+        <translation>Le texte sélectionné dans d’autres programmes peut être lu.</translation>
+    </message>
+    <message>
+        <source>The selection cannot be read now: %1.</source>
+        <translation>La sélection ne peut pas être lue maintenant&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Select text in another program and run this again.</source>
+        <translation>Sélectionnez du texte dans un autre programme et relancez ceci.</translation>
+    </message>
+    <message>
+        <source>Selections cannot be counted: %1.</source>
+        <translation>Les sélections ne peuvent pas être comptées&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Copy the text and count it with &quot;quillbay selection --clipboard&quot;, or save it and watch the file.</source>
+        <translation>Copiez le texte et comptez-le avec &quot;quillbay selection --clipboard&quot;, ou enregistrez-le et surveillez le fichier.</translation>
+    </message>
+    <message>
+        <source>The desktop has a tray for icons.</source>
+        <translation>Le bureau a une zone de notification.</translation>
+    </message>
+    <message>
+        <source>The desktop has no tray for icons. Quillbay needs none: every watched file has a window.</source>
+        <translation>Le bureau n’a pas de zone de notification. Quillbay n’en a pas besoin&#xa0;: chaque fichier surveillé a une fenêtre.</translation>
+    </message>
+    <message>
+        <source>The check &quot;%1&quot; did not end within %2 seconds: what it asks does not answer.</source>
+        <translation>Le contrôle &quot;%1&quot; n’a pas fini en %2 secondes&#xa0;: ce qu’il interroge ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Log out and in again; if that does not help, restart the computer.</source>
+        <translation>Fermez la session et rouvrez-la&#x202f;; si cela n’aide pas, redémarrez l’ordinateur.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the check &quot;%1&quot;.</source>
+        <translation>La mémoire ne suffit pas pour le contrôle &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Close some programs and run this again.</source>
+        <translation>Fermez quelques programmes et relancez ceci.</translation>
+    </message>
+    <message>
+        <source>The check &quot;%1&quot; was left out, because &quot;%2&quot; failed.</source>
+        <translation>Le contrôle &quot;%1&quot; a été omis, car &quot;%2&quot; a échoué.</translation>
+    </message>
+    <message>
+        <source>Install the package fonts-urw-base35 or fonts-liberation.</source>
+        <translation>Installez le paquet fonts-urw-base35 ou fonts-liberation.</translation>
+    </message>
+    <message>
+        <source>The default printer answers.</source>
+        <translation>L’imprimante par défaut répond.</translation>
+    </message>
+    <message>
+        <source>There is no printer; Quillbay offers the usual papers.</source>
+        <translation>Il n’y a pas d’imprimante&#x202f;; Quillbay propose les papiers courants.</translation>
+    </message>
+    <message>
+        <source>The default printer does not answer within a second; meanwhile Quillbay offers the usual papers.</source>
+        <translation>L’imprimante par défaut ne répond pas en une seconde&#x202f;; d’ici là, Quillbay propose les papiers courants.</translation>
+    </message>
+    <message>
+        <source>There is no usable font: lines are counted as if all letters had the same width.</source>
+        <translation>Il n’y a pas de police utilisable&#xa0;: les lignes sont comptées comme si toutes les lettres avaient la même largeur.</translation>
+    </message>
+    <message>
+        <source>Plain text is measured with %1, whose letters are not as wide as those of Helvetica: lines are counted otherwise than elsewhere.</source>
+        <translation>Le texte brut est mesuré avec %1, dont les lettres n’ont pas la largeur de celles de Helvetica&#xa0;: les lignes sont comptées autrement qu’ailleurs.</translation>
+    </message>
+    <message>
+        <source>Plain text is measured with %1, which stands for Helvetica.</source>
+        <translation>Le texte brut est mesuré avec %1, qui remplace Helvetica.</translation>
+    </message>
+    <message>
+        <source>The margins leave no width for text on the paper %1.</source>
+        <translation>Les marges ne laissent pas de largeur pour le texte sur le papier %1.</translation>
+    </message>
+    <message>
+        <source>Run &quot;quillbay preferences --reset left-margin right-margin&quot;.</source>
+        <translation>Lancez &quot;quillbay preferences --reset left-margin right-margin&quot;.</translation>
+    </message>
+    <message>
+        <source>Lines are counted in a column of %1 points on the paper %2.</source>
+        <translation>Les lignes sont comptées dans une colonne de %1 points sur le papier %2.</translation>
+    </message>
+    <message>
+        <source>Check the printer with &quot;lpstat -t&quot;.</source>
+        <translation>Vérifiez l’imprimante avec &quot;lpstat -t&quot;.</translation>
+    </message>
+    <message>
+        <source>This is Quillbay %1 with Qt %2 on %3, Linux %4.</source>
+        <translation>Voici Quillbay %1 avec Qt %2 sur %3, Linux %4.</translation>
+    </message>
+    <message>
+        <source>The desktop is %1, the session %2.</source>
+        <translation>Le bureau est %1, la session %2.</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>A letter that stands alone counts as a word.</source>
+        <translation>Une lettre seule compte comme mot.</translation>
+    </message>
+    <message>
+        <source>A letter that stands alone counts as a word only if it is a, I, O or x.</source>
+        <translation>Une lettre seule ne compte comme mot que si c’est a, I, O ou x.</translation>
+    </message>
+    <message>
+        <source>The locale %1 is not installed; words are counted by the rules of %2.</source>
+        <translation>La locale %1 n’est pas installée&#x202f;; les mots sont comptés selon les règles de %2.</translation>
+    </message>
+    <message>
+        <source>Install the locale: choose it in the list of &quot;sudo dpkg-reconfigure locales&quot;.</source>
+        <translation>Installez la locale&#xa0;: choisissez-la dans la liste de &quot;sudo dpkg-reconfigure locales&quot;.</translation>
+    </message>
+    <message>
+        <source>Words are counted by the rules of the locale %1.</source>
+        <translation>Les mots sont comptés selon les règles de la locale %1.</translation>
+    </message>
+    <message>
+        <source>To count by the rules of your language, set LANG to its locale.</source>
+        <translation>Pour compter selon les règles de votre langue, donnez à LANG sa locale.</translation>
+    </message>
+    <message>
+        <source>The preferences in %1 cannot be read: %2. The default rules apply.</source>
+        <translation>Les préférences dans %1 ne peuvent pas être lues&#xa0;: %2. Les règles par défaut s’appliquent.</translation>
+    </message>
+    <message>
+        <source>Run &quot;quillbay preferences --reset-all&quot;, which puts the damaged file aside.</source>
+        <translation>Lancez &quot;quillbay preferences --reset-all&quot;, qui met de côté le fichier endommagé.</translation>
+    </message>
+    <message>
+        <source>Check the permissions of the file and of its folders.</source>
+        <translation>Vérifiez les droits du fichier et de ses dossiers.</translation>
+    </message>
+    <message>
+        <source>Preferences cannot be stored in %1: %2.</source>
+        <translation>Les préférences ne peuvent pas être enregistrées dans %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Make the file and its folder writable.</source>
+        <translation>Rendez le fichier et son dossier accessibles en écriture.</translation>
+    </message>
+    <message>
+        <source>The preferences in %1 can be read and written.</source>
+        <translation>Les préférences dans %1 peuvent être lues et écrites.</translation>
+    </message>
+    <message>
+        <source>There are no preferences yet; the first count writes them to %1.</source>
+        <translation>Il n’y a pas encore de préférences&#x202f;; le premier comptage les écrit dans %1.</translation>
+    </message>
+    <message>
+        <source>Documents other than plain text cannot be read: %1.</source>
+        <translation>Les documents autres que le texte brut ne peuvent pas être lus&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>a test document has lost its text</source>
+        <translation>un document d’essai a perdu son texte</translation>
+    </message>
+    <message>
+        <source>Install Quillbay again. If that does not help, use a kernel of the distribution: the sandbox needs its filter of system calls (seccomp).</source>
+        <translation>Réinstallez Quillbay. Si cela n’aide pas, utilisez un noyau de la distribution&#xa0;: le bac à sable a besoin de son filtre des appels système (seccomp).</translation>
+    </message>
+    <message>
+        <source>Documents are read in a sandbox, which a filter of system calls keeps up alone: the kernel has no Landlock, or it is switched off.</source>
+        <translation>Les documents sont lus dans un bac à sable, que seul un filtre des appels système maintient&#xa0;: le noyau n’a pas Landlock, ou il est désactivé.</translation>
+    </message>
+    <message>
+        <source>Start the kernel with &quot;landlock&quot; in its parameter lsm=.</source>
+        <translation>Démarrez le noyau avec &quot;landlock&quot; dans son paramètre lsm=.</translation>
+    </message>
+    <message>
+        <source>Documents are read in a sandbox (Landlock %1 and a filter of system calls).</source>
+        <translation>Les documents sont lus dans un bac à sable (Landlock %1 et un filtre des appels système).</translation>
+    </message>
+    <message>
+        <source>The bus does not know the service %1. Install the package quillbay again; after an installation to another place, log out and in again.</source>
+        <translation>Le bus ne connaît pas le service %1. Réinstallez le paquet quillbay&#x202f;; après une installation à un autre endroit, fermez la session et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>Log out and in again. If that does not help, look for &quot;quillbay&quot; in the output of &quot;journalctl --user --since today&quot;.</source>
+        <translation>Fermez la session et rouvrez-la. Si cela n’aide pas, cherchez &quot;quillbay&quot; dans la sortie de &quot;journalctl --user --since today&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no session bus, so no window can open: %1.</source>
+        <translation>Il n’y a pas de bus de session&#x202f;; aucune fenêtre ne peut donc s’ouvrir&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Run this in a terminal of your desktop. &quot;quillbay count&quot; needs no bus.</source>
+        <translation>Lancez ceci dans un terminal de votre bureau. &quot;quillbay count&quot; n’a pas besoin de bus.</translation>
+    </message>
+    <message>
+        <source>The session bus answers.</source>
+        <translation>Le bus de session répond.</translation>
+    </message>
+    <message>
+        <source>Texts in windows are not counted: %1.</source>
+        <translation>Les textes des fenêtres ne sont pas comptés&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The counting service counts %1 words in &quot;One two three.&quot;</source>
+        <translation>Le service de comptage compte %1 mots dans &quot;One two three.&quot;</translation>
+    </message>
+    <message>
+        <source>Install the package quillbay again.</source>
+        <translation>Réinstallez le paquet quillbay.</translation>
+    </message>
+    <message>
+        <source>The counting service counts three words in &quot;One two three.&quot;</source>
+        <translation>Le service de comptage compte trois mots dans &quot;One two three.&quot;</translation>
+    </message>
+    <message>
+        <source>The program with the windows does not start: %1.</source>
+        <translation>Le programme des fenêtres ne démarre pas&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The program with the windows starts.</source>
+        <translation>Le programme des fenêtres démarre.</translation>
+    </message>
+    <message>
+        <source>The desktop shows notifications.</source>
+        <translation>Le bureau affiche les notifications.</translation>
+    </message>
+    <message>
+        <source>The desktop shows no notifications: an error is invisible where Quillbay was not started in a terminal.</source>
+        <translation>Le bureau n’affiche pas de notifications&#xa0;: une erreur reste invisible si Quillbay n’a pas été lancé dans un terminal.</translation>
+    </message>
+    <message>
+        <source>Install a notification server, such as the package dunst.</source>
+        <translation>Installez un serveur de notifications, par exemple le paquet dunst.</translation>
+    </message>
+    <message>
+        <source>no instance of inotify is left</source>
+        <translation>il ne reste aucune instance d’inotify</translation>
+    </message>
+    <message>
+        <source>no watch of inotify is left</source>
+        <translation>il ne reste aucune surveillance d’inotify</translation>
+    </message>
+    <message>
+        <source>Raise the limit: run &quot;sudo sysctl %1&quot;, and write that setting into a file in /etc/sysctl.d to keep it.</source>
+        <translation>Relevez la limite&#xa0;: lancez &quot;sudo sysctl %1&quot;, et écrivez ce réglage dans un fichier de /etc/sysctl.d pour le conserver.</translation>
+    </message>
+    <message>
+        <source>At least %1 of %2 watches and %3 of %4 instances of inotify are in use.</source>
+        <translation>Au moins %1 surveillances sur %2 et %3 instances sur %4 d’inotify sont utilisées.</translation>
+    </message>
+    <message>
+        <source>The kernel does not report changes of further files (%1), so they are checked every two seconds.</source>
+        <translation>Le noyau ne signale pas les modifications d’autres fichiers (%1)&#x202f;; ils sont donc vérifiés toutes les deux secondes.</translation>
+    </message>
+    <message>
+        <source>The kernel reports changes of watched files.</source>
+        <translation>Le noyau signale les modifications des fichiers surveillés.</translation>
+    </message>
+    <message>
+        <source>Counts of watched files cannot be spoken, because there is no command %1.</source>
+        <translation>Les chiffres des fichiers surveillés ne peuvent pas être énoncés, car la commande %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>Install the package quillbay, or another one with that command.</source>
+        <translation>Installez le paquet quillbay, ou un autre qui contient cette commande.</translation>
+    </message>
+    <message>
+        <source>Counts of watched files cannot be spoken, because no program for speech is installed.</source>
+        <translation>Les chiffres des fichiers surveillés ne peuvent pas être énoncés, car aucun programme de synthèse vocale n’est installé.</translation>
+    </message>
+    <message>
+        <source>Install the package speech-dispatcher or espeak-ng.</source>
+        <translation>Installez le paquet speech-dispatcher ou espeak-ng.</translation>
+    </message>
+    <message>
+        <source>Counts of watched files are spoken by %1.</source>
+        <translation>Les chiffres des fichiers surveillés sont énoncés par %1.</translation>
+    </message>
+    <message>
+        <source>Counts of watched files can be spoken by %1; this is switched off.</source>
+        <translation>Les chiffres des fichiers surveillés peuvent être énoncés par %1&#x202f;; c’est désactivé.</translation>
+    </message>
+</context>
+<context>
     <name>DocumentChooser</name>
     <message>
         <source>Documents (%1)</source>
@@ -191,6 +558,537 @@
     <message>
         <source> in</source>
         <translation>&#xa0;po</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>Usage:</source>
+        <translation>Usage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation>Exemples&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>Code de retour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>SYNOPSIS</translation>
+    </message>
+    <message>
+        <source>NAMES</source>
+        <translation>NOMS</translation>
+    </message>
+    <message>
+        <source>COMMANDS</source>
+        <translation>COMMANDES</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPTIONS</translation>
+    </message>
+    <message>
+        <source>EXAMPLES</source>
+        <translation>EXEMPLES</translation>
+    </message>
+    <message>
+        <source>EXIT STATUS</source>
+        <translation>CODE DE RETOUR</translation>
+    </message>
+    <message>
+        <source>SEE ALSO</source>
+        <translation>VOIR AUSSI</translation>
+    </message>
+    <message>
+        <source>User Commands</source>
+        <translation>Commandes utilisateur</translation>
+    </message>
+    <message>
+        <source>System Programs</source>
+        <translation>Programmes système</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOM</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>DESCRIPTION</translation>
+    </message>
+    <message>
+        <source>NOTES</source>
+        <translation>NOTES</translation>
+    </message>
+    <message>
+        <source>print this help and exit</source>
+        <translation>afficher cette aide et quitter</translation>
+    </message>
+    <message>
+        <source>print the version and exit</source>
+        <translation>afficher la version et quitter</translation>
+    </message>
+    <message>
+        <source>the options or arguments were wrong</source>
+        <translation>les options ou les arguments étaient incorrects</translation>
+    </message>
+    <message>
+        <source>print the counts of files or of standard input</source>
+        <translation>afficher les chiffres de fichiers ou de l’entrée standard</translation>
+    </message>
+    <message>
+        <source>FILE can be plain text, RTF, RTFD, a web page, a Word document, an OpenDocument text, an EPUB or a PDF file. A file that is no text, such as a picture, is reported and not counted.</source>
+        <translation>FILE peut être du texte brut, du RTF, un RTFD, une page web, un document Word, un texte OpenDocument, un EPUB ou un fichier PDF. Un fichier qui n’est pas un texte, comme une image, est signalé et n’est pas compté.</translation>
+    </message>
+    <message>
+        <source>print a JSON object on a line of its own for each file</source>
+        <translation>afficher pour chaque fichier un objet JSON sur une ligne à part</translation>
+    </message>
+    <message>
+        <source>print tab-separated columns, with their names on the first line</source>
+        <translation>afficher des colonnes séparées par des tabulations, avec leurs noms sur la première ligne</translation>
+    </message>
+    <message>
+        <source>also count the files named in LIST, after those of the command line; the names are separated by line ends, or by NUL bytes if there are any; LIST may be - for standard input</source>
+        <translation>compter aussi les fichiers nommés dans LIST, après ceux de la ligne de commande&#x202f;; les noms sont séparés par des fins de ligne, ou par des octets NUL s’il y en a&#x202f;; LIST peut être - pour l’entrée standard</translation>
+    </message>
+    <message>
+        <source>count in the counting service, in a sandboxed process, as Quillbay&apos;s windows do; the counts are the same</source>
+        <translation>compter dans le service de comptage, dans un processus isolé, comme le font les fenêtres de Quillbay&#x202f;; les chiffres sont les mêmes</translation>
+    </message>
+    <message>
+        <source>count every file as plain text, whatever it is: a web page with its markup, a picture with its bytes</source>
+        <translation>compter chaque fichier comme du texte brut, quel qu’il soit&#xa0;: une page web avec son balisage, une image avec ses octets</translation>
+    </message>
+    <message>
+        <source>For several files, the table ends with a row of totals; the other two formats have no such row.</source>
+        <translation>Pour plusieurs fichiers, le tableau se termine par une ligne de totaux&#x202f;; les deux autres formats n’en ont pas.</translation>
+    </message>
+    <message>
+        <source>all files were counted</source>
+        <translation>tous les fichiers ont été comptés</translation>
+    </message>
+    <message>
+        <source>a file could not be counted</source>
+        <translation>un fichier n’a pas pu être compté</translation>
+    </message>
+    <message>
+        <source>count the text files of this folder, with their total</source>
+        <translation>compter les fichiers texte de ce dossier, avec leur total</translation>
+    </message>
+    <message>
+        <source>count all OpenDocument texts below this folder, whatever their names are</source>
+        <translation>compter tous les textes OpenDocument sous ce dossier, quels que soient leurs noms</translation>
+    </message>
+    <message>
+        <source>print nothing but the number of words</source>
+        <translation>n’afficher que le nombre de mots</translation>
+    </message>
+    <message>
+        <source>set the rules of the counts in a window</source>
+        <translation>fixer les règles des comptages dans une fenêtre</translation>
+    </message>
+    <message>
+        <source>Opens Quillbay&apos;s main window, in which you set the rules of the counts. If it is open already, it comes to the front. With FILE, it shows why the counts of that text are what they are.</source>
+        <translation>Ouvre la fenêtre principale de Quillbay, dans laquelle vous fixez les règles des comptages. Si elle est déjà ouverte, elle passe au premier plan. Avec FILE, elle montre d’où viennent les chiffres de ce texte.</translation>
+    </message>
+    <message>
+        <source>the window was closed, or another process shows it</source>
+        <translation>la fenêtre a été fermée, ou un autre processus l’affiche</translation>
+    </message>
+    <message>
+        <source>the window could not be shown</source>
+        <translation>la fenêtre n’a pas pu être affichée</translation>
+    </message>
+    <message>
+        <source>print what counts in files, what does not, and why</source>
+        <translation>afficher ce qui compte dans des fichiers, ce qui ne compte pas, et pourquoi</translation>
+    </message>
+    <message>
+        <source>Prints the counts of each FILE as &apos;quillbay count&apos; does, and why they are what they are. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts.</source>
+        <translation>Affiche les chiffres de chaque FILE comme &apos;quillbay count&apos;, et d’où ils viennent. Sans FILE, ou si FILE est -, lit l’entrée standard. FILE peut être de tous les types que compte &apos;quillbay count&apos;.</translation>
+    </message>
+    <message>
+        <source>Without options, prints each count with what was not counted and why. With the name of a count, prints the whole text, with what counted in [square brackets] and what did not in {curly ones}. Several counts are explained one after another.</source>
+        <translation>Sans option, affiche chaque chiffre avec ce qui n’a pas été compté et pourquoi. Avec le nom d’un chiffre, affiche le texte entier, avec ce qui est compté entre [crochets] et ce qui ne l’est pas entre {accolades}. Plusieurs chiffres sont expliqués l’un après l’autre.</translation>
+    </message>
+    <message>
+        <source>explain the words</source>
+        <translation>expliquer les mots</translation>
+    </message>
+    <message>
+        <source>explain the sentences</source>
+        <translation>expliquer les phrases</translation>
+    </message>
+    <message>
+        <source>explain the paragraphs</source>
+        <translation>expliquer les paragraphes</translation>
+    </message>
+    <message>
+        <source>explain the indented paragraphs</source>
+        <translation>expliquer les paragraphes en retrait</translation>
+    </message>
+    <message>
+        <source>explain the lines on your paper</source>
+        <translation>expliquer les lignes sur votre papier</translation>
+    </message>
+    <message>
+        <source>explain the hard line breaks</source>
+        <translation>expliquer les sauts de ligne forcés</translation>
+    </message>
+    <message>
+        <source>explain the characters without white space</source>
+        <translation>expliquer les caractères sans les blancs</translation>
+    </message>
+    <message>
+        <source>explain the characters including white space</source>
+        <translation>expliquer les caractères, blancs compris</translation>
+    </message>
+    <message>
+        <source>print only what was not counted, with the text around it</source>
+        <translation>n’afficher que ce qui n’a pas été compté, avec le texte autour</translation>
+    </message>
+    <message>
+        <source>print a JSON object on a line of its own for each word, sentence and so on (of all counts, or of those that are named): the file, the kind of the count, the offset and length in UTF-16 code units, whether it was counted, the reason as a fixed identifier, and the text, of which at most 200 code units; a line as of &apos;quillbay count --json&apos; follows</source>
+        <translation>afficher un objet JSON sur une ligne à part pour chaque mot, phrase, etc. (de tous les chiffres, ou de ceux qui sont nommés)&#xa0;: le fichier, le type du chiffre, la position et la longueur en unités de code UTF-16, s’il a été compté, la raison sous forme d’identifiant fixe et le texte, au plus 200 unités de code&#x202f;; une ligne comme celle de &apos;quillbay count --json&apos; suit</translation>
+    </message>
+    <message>
+        <source>read every file as plain text, whatever it is</source>
+        <translation>lire chaque fichier comme du texte brut, quel qu’il soit</translation>
+    </message>
+    <message>
+        <source>&apos;quillbay count --explain-rules&apos; prints the rules themselves: your preferences and your locale.</source>
+        <translation>&apos;quillbay count --explain-rules&apos; affiche les règles elles-mêmes&#xa0;: vos préférences et votre locale.</translation>
+    </message>
+    <message>
+        <source>all files were explained</source>
+        <translation>tous les fichiers ont été expliqués</translation>
+    </message>
+    <message>
+        <source>a file could not be explained</source>
+        <translation>un fichier n’a pas pu être expliqué</translation>
+    </message>
+    <message>
+        <source>find the headings that are not counted as sentences</source>
+        <translation>trouver les titres qui ne sont pas comptés comme phrases</translation>
+    </message>
+    <message>
+        <source>print the text of files, as it is counted</source>
+        <translation>afficher le texte de fichiers, tel qu’il est compté</translation>
+    </message>
+    <message>
+        <source>Prints the text of each FILE that &apos;quillbay count&apos; counts, in UTF-8: without markup, headers and hidden text, with the notes behind the body. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts.</source>
+        <translation>Affiche le texte de chaque FILE que compte &apos;quillbay count&apos;, en UTF-8&#xa0;: sans balisage, en-têtes ni texte masqué, les notes étant placées après le corps. Sans FILE, ou si FILE est -, lit l’entrée standard. FILE peut être de tous les types que compte &apos;quillbay count&apos;.</translation>
+    </message>
+    <message>
+        <source>Nothing is added between the files. Pictures and other attachments are the character U+FFFC, which is counted. On a terminal, control characters other than tabs and line ends are escaped, as \x1b; elsewhere they are printed as they are.</source>
+        <translation>Rien n’est ajouté entre les fichiers. Les images et autres pièces jointes sont le caractère U+FFFC, qui est compté. Dans un terminal, les caractères de contrôle autres que les tabulations et les fins de ligne sont échappés, par exemple \x1b&#x202f;; ailleurs, ils sont affichés tels quels.</translation>
+    </message>
+    <message>
+        <source>print a JSON object on a line of its own for each file: its name, its MIME type, the text, the length of the text in UTF-16 code units, and the paragraphs; each has its offset and its length without the line end, in UTF-16 code units and in bytes of UTF-8, and its counts, which add up to those of &apos;quillbay count&apos;</source>
+        <translation>afficher pour chaque fichier un objet JSON sur une ligne à part&#xa0;: son nom, son type MIME, le texte, la longueur du texte en unités de code UTF-16 et les paragraphes&#x202f;; chacun a sa position et sa longueur sans la fin de ligne, en unités de code UTF-16 et en octets d’UTF-8, et ses chiffres, dont la somme est celle de &apos;quillbay count&apos;</translation>
+    </message>
+    <message>
+        <source>all files were printed</source>
+        <translation>tous les fichiers ont été affichés</translation>
+    </message>
+    <message>
+        <source>a file could not be printed</source>
+        <translation>un fichier n’a pas pu être affiché</translation>
+    </message>
+    <message>
+        <source>count the words of a Word document as another program does</source>
+        <translation>compter les mots d’un document Word comme le fait un autre programme</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on ou off</translation>
+    </message>
+    <message>
+        <source>such as 1in, 25.4mm, 2.5cm or 72pt, at most so wide that a column of half an inch is left</source>
+        <translation>par exemple 1in, 25.4mm, 2.5cm ou 72pt, au plus assez large pour laisser une colonne d’un demi-pouce</translation>
+    </message>
+    <message>
+        <source>print and set the rules of the counts</source>
+        <translation>afficher et fixer les règles des comptages</translation>
+    </message>
+    <message>
+        <source>Prints the rules of the counts, or the one called NAME; sets NAME to VALUE; or gives rules the values of a new user. Open windows show what you want at once; their numbers follow at the next count.</source>
+        <translation>Affiche les règles des comptages, ou celle qui s’appelle NAME&#x202f;; donne à NAME la valeur VALUE&#x202f;; ou rend à des règles leurs valeurs initiales. Les fenêtres ouvertes montrent aussitôt ce que vous voulez&#x202f;; leurs chiffres suivent au prochain comptage.</translation>
+    </message>
+    <message>
+        <source>Names:</source>
+        <translation>Noms&#xa0;:</translation>
+    </message>
+    <message>
+        <source>on or off: show the characters; also sets the next one</source>
+        <translation>on ou off&#xa0;: afficher les caractères&#x202f;; fixe aussi le suivant</translation>
+    </message>
+    <message>
+        <source>0 to 1000: paragraphs with fewer sentences are not counted</source>
+        <translation>0 à 1000&#xa0;: les paragraphes qui ont moins de phrases ne sont pas comptés</translation>
+    </message>
+    <message>
+        <source>on or off: count only sentences that end in a full stop, question mark or exclamation mark</source>
+        <translation>on ou off&#xa0;: ne compter que les phrases terminées par un point, un point d’interrogation ou d’exclamation</translation>
+    </message>
+    <message>
+        <source>on or off: speak the words of a watched file when their number changes</source>
+        <translation>on ou off&#xa0;: énoncer le nombre de mots d’un fichier surveillé quand il change</translation>
+    </message>
+    <message>
+        <source>a paper of your printer, such as A4 or Letter</source>
+        <translation>un papier de votre imprimante, comme A4 ou Letter</translation>
+    </message>
+    <message>
+        <source>print a JSON object; margins are in inches</source>
+        <translation>afficher un objet JSON&#x202f;; les marges sont en pouces</translation>
+    </message>
+    <message>
+        <source>reset the rules that are named</source>
+        <translation>réinitialiser les règles nommées</translation>
+    </message>
+    <message>
+        <source>reset all rules</source>
+        <translation>réinitialiser toutes les règles</translation>
+    </message>
+    <message>
+        <source>the rules were printed or stored</source>
+        <translation>les règles ont été affichées ou enregistrées</translation>
+    </message>
+    <message>
+        <source>a rule could not be stored</source>
+        <translation>une règle n’a pas pu être enregistrée</translation>
+    </message>
+    <message>
+        <source>do not count headings as paragraphs</source>
+        <translation>ne pas compter les titres comme paragraphes</translation>
+    </message>
+    <message>
+        <source>use the default margins again</source>
+        <translation>reprendre les marges par défaut</translation>
+    </message>
+    <message>
+        <source>count text for people who write</source>
+        <translation>compter les textes de celles et ceux qui écrivent</translation>
+    </message>
+    <message>
+        <source>Counts words, characters, sentences, lines on your paper and paragraphs by your own rules: in a terminal, or in a small window that follows a file through every save.</source>
+        <translation>Compte les mots, caractères, phrases, lignes sur votre papier et paragraphes selon vos propres règles&#xa0;: dans un terminal, ou dans une petite fenêtre qui suit un fichier à chaque enregistrement.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commandes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>print the help of a command and exit</source>
+        <translation>afficher l’aide d’une commande et quitter</translation>
+    </message>
+    <message>
+        <source>Run &apos;quillbay help COMMAND&apos; or &apos;man quillbay-COMMAND&apos; for the options of a command.</source>
+        <translation>&apos;quillbay help COMMAND&apos; ou &apos;man quillbay-COMMAND&apos; montre les options d’une commande.</translation>
+    </message>
+    <message>
+        <source>everything was done</source>
+        <translation>tout a été fait</translation>
+    </message>
+    <message>
+        <source>something was not done, and is reported on standard error</source>
+        <translation>quelque chose n’a pas été fait, et est signalé sur la sortie d’erreur</translation>
+    </message>
+    <message>
+        <source>speak a phrase</source>
+        <translation>énoncer une phrase</translation>
+    </message>
+    <message>
+        <source>Speaks PHRASE, which is one argument, through the speech dispatcher of the user, or through espeak-ng if there is none. It exits when the dispatcher has accepted the phrase, or when espeak-ng has spoken it.</source>
+        <translation>Énonce PHRASE, qui est un seul argument, par le répartiteur vocal de l’utilisateur, ou par espeak-ng s’il n’y en a pas. Le programme se termine quand le répartiteur a accepté la phrase, ou quand espeak-ng l’a énoncée.</translation>
+    </message>
+    <message>
+        <source>Quillbay speaks the number of words of a watched file through /usr/bin/say. Quillbay&apos;s package makes that name an alternative for this program, unless another package owns it.</source>
+        <translation>Quillbay énonce le nombre de mots d’un fichier surveillé par /usr/bin/say. Le paquet de Quillbay fait de ce nom une alternative pour ce programme, sauf si un autre paquet le possède.</translation>
+    </message>
+    <message>
+        <source>the phrase is spoken</source>
+        <translation>la phrase est énoncée</translation>
+    </message>
+    <message>
+        <source>neither of the two programs could speak it</source>
+        <translation>aucun des deux programmes n’a pu l’énoncer</translation>
+    </message>
+    <message>
+        <source>show the counts of the text selected in any application</source>
+        <translation>afficher les chiffres du texte sélectionné dans n’importe quelle application</translation>
+    </message>
+    <message>
+        <source>Opens a small window with the counts of the text that is selected in any application. Meant for a keyboard shortcut: errors are reported in a desktop notification as well as on standard error.</source>
+        <translation>Ouvre une petite fenêtre avec les chiffres du texte sélectionné dans n’importe quelle application. Conçu pour un raccourci clavier&#xa0;: les erreurs sont signalées dans une notification du bureau aussi bien que sur la sortie d’erreur.</translation>
+    </message>
+    <message>
+        <source>use the text that was copied last instead</source>
+        <translation>prendre plutôt le dernier texte copié</translation>
+    </message>
+    <message>
+        <source>the window has opened</source>
+        <translation>la fenêtre s’est ouverte</translation>
+    </message>
+    <message>
+        <source>the window could not be opened</source>
+        <translation>la fenêtre n’a pas pu être ouverte</translation>
+    </message>
+    <message>
+        <source>count documents for Quillbay&apos;s windows</source>
+        <translation>compter des documents pour les fenêtres de Quillbay</translation>
+    </message>
+    <message>
+        <source>Counts documents for other programs. The session bus starts it for the first request to Brisklane.QBYServiceProviderXPC; it exits when it has been idle for a while.</source>
+        <translation>Compte des documents pour d’autres programmes. Le bus de session le lance à la première demande adressée à Brisklane.QBYServiceProviderXPC&#x202f;; il se termine après un moment d’inactivité.</translation>
+    </message>
+    <message>
+        <source>The documents are read by processes of their own, which are sandboxed before they receive one. Where systemd manages the session, the unit quillbay-counting-service.service limits all of them together.</source>
+        <translation>Les documents sont lus par des processus à part, isolés avant d’en recevoir un. Là où systemd gère la session, l’unité quillbay-counting-service.service les limite tous ensemble.</translation>
+    </message>
+    <message>
+        <source>exit after being idle for this long (default: 60000)</source>
+        <translation>quitter après cette durée d’inactivité (par défaut&#xa0;: 60000)</translation>
+    </message>
+    <message>
+        <source>it was idle, or was told to stop</source>
+        <translation>il était inactif, ou il a été arrêté</translation>
+    </message>
+    <message>
+        <source>the service could not be offered on the session bus</source>
+        <translation>le service n’a pas pu être proposé sur le bus de session</translation>
+    </message>
+    <message>
+        <source>show Quillbay&apos;s windows with counts</source>
+        <translation>afficher les fenêtres de Quillbay avec des chiffres</translation>
+    </message>
+    <message>
+        <source>Shows the windows with the counts of selected texts and of watched files. The session bus starts it for the first request to com.quillbay.ServiceProvider, as &apos;quillbay text&apos; and &apos;quillbay watch&apos; send it; it exits when the last window is closed.</source>
+        <translation>Affiche les fenêtres avec les chiffres des textes sélectionnés et des fichiers surveillés. Le bus de session le lance à la première demande adressée à com.quillbay.ServiceProvider, comme en envoient &apos;quillbay text&apos; et &apos;quillbay watch&apos;&#x202f;; il se termine quand la dernière fenêtre est fermée.</translation>
+    </message>
+    <message>
+        <source>no window is left, or the session has ended</source>
+        <translation>il ne reste aucune fenêtre, ou la session est terminée</translation>
+    </message>
+    <message>
+        <source>there is no display, or the services could not be offered</source>
+        <translation>il n’y a pas d’écran, ou les services n’ont pas pu être proposés</translation>
+    </message>
+    <message>
+        <source>the connection to the X server was lost</source>
+        <translation>la connexion au serveur X a été perdue</translation>
+    </message>
+    <message>
+        <source>read one document in a sandbox</source>
+        <translation>lire un document dans un bac à sable</translation>
+    </message>
+    <message>
+        <source>Reads one document for another program of Quillbay, which starts it. It receives the document in memory and can open no file and no connection; its memory and time are limited in proportion to the document.</source>
+        <translation>Lit un document pour un autre programme de Quillbay, qui le lance. Il reçoit le document en mémoire et ne peut ouvrir ni fichier ni connexion&#x202f;; sa mémoire et son temps sont limités en proportion du document.</translation>
+    </message>
+    <message>
+        <source>the document was read, or none was sent</source>
+        <translation>le document a été lu, ou aucun n’a été envoyé</translation>
+    </message>
+    <message>
+        <source>keep what you copied from Quillbay&apos;s windows</source>
+        <translation>garder ce que vous avez copié des fenêtres de Quillbay</translation>
+    </message>
+    <message>
+        <source>Takes over what you have copied from a window of Quillbay when the last one is closed, and hands it to the clipboard manager of the desktop. Without a manager it keeps the content until another program copies something or the display closes.</source>
+        <translation>Prend en charge ce que vous avez copié d’une fenêtre de Quillbay quand la dernière est fermée, et le remet au gestionnaire de presse-papiers du bureau. Sans gestionnaire, il garde le contenu jusqu’à ce qu’un autre programme copie quelque chose ou que l’écran se ferme.</translation>
+    </message>
+    <message>
+        <source>the content is saved, or was replaced</source>
+        <translation>le contenu est sauvé, ou a été remplacé</translation>
+    </message>
+    <message>
+        <source>there was nothing to take over</source>
+        <translation>il n’y avait rien à prendre en charge</translation>
+    </message>
+    <message>
+        <source>show the counts of one file or of standard input</source>
+        <translation>afficher les chiffres d’un fichier ou de l’entrée standard</translation>
+    </message>
+    <message>
+        <source>Opens a small window with the counts of FILE. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts.</source>
+        <translation>Ouvre une petite fenêtre avec les chiffres de FILE. Sans FILE, ou si FILE est -, lit l’entrée standard. FILE peut être de tous les types que compte &apos;quillbay count&apos;.</translation>
+    </message>
+    <message>
+        <source>show the counts of what another program prints</source>
+        <translation>afficher les chiffres de ce qu’affiche un autre programme</translation>
+    </message>
+    <message>
+        <source>show the counts of files, and update them at every save</source>
+        <translation>afficher les chiffres de fichiers, et les mettre à jour à chaque enregistrement</translation>
+    </message>
+    <message>
+        <source>watch the files that were copied last in a file manager</source>
+        <translation>surveiller les derniers fichiers copiés dans un gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>the windows have opened</source>
+        <translation>les fenêtres se sont ouvertes</translation>
+    </message>
+    <message>
+        <source>a file cannot be watched</source>
+        <translation>un fichier ne peut pas être surveillé</translation>
+    </message>
+    <message>
+        <source>Counts the words, characters, sentences, lines on your paper, hard line breaks, paragraphs and indented paragraphs of each FILE by your preferences. Without FILE, or if FILE is -, reads standard input. A pipe that a shell passes by name is read in the same way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>instead of the counts, print what they depend on: locale, preferences, paper, margins, and the fonts that the files need (without a file, the font of plain text); with --json an object, whose lengths are in points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control characters in names are escaped: as \x1b in the table and as \u001b in JSON. With --tsv, tabs, line feeds, carriage returns and backslashes become \t, \n, \r and \\; other control characters and bytes that are not valid UTF-8 become one \x1b per byte. In JSON, a name that is not valid UTF-8 has U+FFFD in place of such bytes, and the member &quot;url&quot; beside it has them percent-encoded, as a file: URL.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>watch the files as &apos;quillbay watch&apos; does; without FILE, choose them in a dialog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print what works on this desktop, and what to do about the rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tries what Quillbay needs of this computer and of the desktop, and prints a line for each: ok, note (worth knowing), limited or broken, the name of the check, what it has found, and what to do about it. It starts the programs of Quillbay as the other commands do, opens no window, and waits a few seconds at most for what does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output names no document, and your home folder is ~ in it, so that you can paste it into a report of a fault.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print a JSON object with the worst severity and a list of the findings: the name of each check, its severity, the text and the remedy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>everything works</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>something is limited</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>something is broken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a small window for each FILE, whose counts follow every save, or raises the window that FILE already has. Watches every kind of file that &apos;quillbay count&apos; counts; the others are reported on standard error and in a desktop notification, and skipped.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -684,6 +1582,313 @@
     </message>
 </context>
 <context>
+    <name>command</name>
+    <message>
+        <source>missing argument for option &apos;%1&apos;</source>
+        <translation>argument manquant pour l’option &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>invalid option &apos;%1&apos;</source>
+        <translation>option &apos;%1&apos; invalide</translation>
+    </message>
+    <message>
+        <source>Try &apos;%1 --help&apos; for more.</source>
+        <translation>&apos;%1 --help&apos; en dit plus.</translation>
+    </message>
+    <message>
+        <source>--json and --tsv cannot be combined</source>
+        <translation>--json et --tsv s’excluent</translation>
+    </message>
+    <message>
+        <source>--files-from can be given only once</source>
+        <translation>--files-from ne peut être indiqué qu’une fois</translation>
+    </message>
+    <message>
+        <source>--service and --explain-rules cannot be combined</source>
+        <translation>--service et --explain-rules s’excluent</translation>
+    </message>
+    <message>
+        <source>--explain-rules prints a table or, with --json, an object; leave out --tsv</source>
+        <translation>--explain-rules affiche un tableau ou, avec --json, un objet&#x202f;; omettez --tsv</translation>
+    </message>
+    <message>
+        <source>standard input cannot be both a document and the list of files</source>
+        <translation>l’entrée standard ne peut pas être à la fois un document et la liste des fichiers</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>sortie standard</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Caractères</translation>
+    </message>
+    <message>
+        <source>+Whitespace</source>
+        <translation>+blancs</translation>
+    </message>
+    <message>
+        <source>Sentences</source>
+        <translation>Phrases</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Hard breaks</source>
+        <translation>Sauts</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Paragraphes</translation>
+    </message>
+    <message>
+        <source>Indented</source>
+        <translation>En retrait</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>total</source>
+        <translation>total</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 points</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <source>Locale</source>
+        <translation>Locale</translation>
+    </message>
+    <message>
+        <source>Sentences end in punctuation</source>
+        <translation>Phrases terminées par une ponctuation</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Sentences of a paragraph, at least</source>
+        <translation>Phrases d’un paragraphe, au moins</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>of the print settings</source>
+        <translation>des réglages d’impression</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Largeur du papier</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Hauteur du papier</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>Marge gauche</translation>
+    </message>
+    <message>
+        <source>Right margin</source>
+        <translation>Marge droite</translation>
+    </message>
+    <message>
+        <source>none: the margins leave no width</source>
+        <translation>aucune&#xa0;: les marges ne laissent pas de largeur</translation>
+    </message>
+    <message>
+        <source>Pixels per point</source>
+        <translation>Pixels par point</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>none: lines are measured with a fixed character width</source>
+        <translation>aucune&#xa0;: les lignes sont mesurées avec une largeur de caractère fixe</translation>
+    </message>
+    <message>
+        <source>doctor takes no file</source>
+        <translation>doctor ne prend pas de fichier</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written (%2), so the default rules apply; make the folder writable to set your own</source>
+        <translation>%1&#xa0;: écriture impossible (%2)&#x202f;; les règles par défaut s’appliquent&#x202f;; rendez le dossier accessible en écriture pour définir les vôtres</translation>
+    </message>
+    <message>
+        <source>not counted: %1</source>
+        <translation>non compté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>commande &apos;%1&apos; inconnue</translation>
+    </message>
+    <message>
+        <source>one command at a time</source>
+        <translation>une seule commande à la fois</translation>
+    </message>
+    <message>
+        <source>no command given</source>
+        <translation>aucune commande indiquée</translation>
+    </message>
+    <message>
+        <source>not counted: %1 and %2 more: %3</source>
+        <translation>non compté&#xa0;: %1 et %2 autres&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>not counted: %1: %2</source>
+        <translation>non compté&#xa0;: %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>no preference is called &apos;%1&apos;; &apos;quillbay preferences&apos; lists them</source>
+        <translation>aucune préférence ne s’appelle &apos;%1&apos;&#x202f;; &apos;quillbay preferences&apos; en donne la liste</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2; check the permissions and the free space of its folder</source>
+        <translation>%1&#xa0;: écriture impossible&#xa0;: %2&#x202f;; vérifiez les droits et l’espace libre de son dossier</translation>
+    </message>
+    <message>
+        <source>its default is unknown while the printer does not answer; retry later</source>
+        <translation>sa valeur par défaut est inconnue tant que l’imprimante ne répond pas&#x202f;; réessayez plus tard</translation>
+    </message>
+    <message>
+        <source>--reset and --reset-all cannot be combined</source>
+        <translation>--reset et --reset-all s’excluent</translation>
+    </message>
+    <message>
+        <source>--json only prints</source>
+        <translation>--json ne fait qu’afficher</translation>
+    </message>
+    <message>
+        <source>--reset needs a name</source>
+        <translation>--reset demande un nom</translation>
+    </message>
+    <message>
+        <source>--reset-all takes no names</source>
+        <translation>--reset-all ne prend pas de noms</translation>
+    </message>
+    <message>
+        <source>one name and one value at a time</source>
+        <translation>un seul nom et une seule valeur à la fois</translation>
+    </message>
+    <message>
+        <source>%1 is neither on nor off; use one of them</source>
+        <translation>%1 n’est ni on ni off&#x202f;; indiquez l’un des deux</translation>
+    </message>
+    <message>
+        <source>%1 is not a number from 0 to %2; use one</source>
+        <translation>%1 n’est pas un nombre de 0 à %2&#x202f;; indiquez-en un</translation>
+    </message>
+    <message>
+        <source>%1 is not a length; use one such as 1in, 25.4mm, 2.5cm or 72pt</source>
+        <translation>%1 n’est pas une longueur&#x202f;; indiquez-en une comme 1in, 25.4mm, 2.5cm ou 72pt</translation>
+    </message>
+    <message>
+        <source>%1 leaves no column on the page; use at most %2in</source>
+        <translation>%1 ne laisse pas de colonne sur la page&#x202f;; indiquez au plus %2in</translation>
+    </message>
+    <message>
+        <source>%1 is no paper of your printer; use one of %2</source>
+        <translation>%1 n’est pas un papier de votre imprimante&#x202f;; choisissez parmi %2</translation>
+    </message>
+    <message>
+        <source>%1 is no common paper, and no printer answers; use one of %2</source>
+        <translation>%1 n’est pas un papier courant, et aucune imprimante ne répond&#x202f;; choisissez parmi %2</translation>
+    </message>
+    <message>
+        <source>the margins of %1in and %2in leave no column on %3; make them smaller first</source>
+        <translation>les marges de %1in et %2in ne laissent pas de colonne sur %3&#x202f;; réduisez-les d’abord</translation>
+    </message>
+    <message>
+        <source>reading standard input; Ctrl+D on an empty line ends it</source>
+        <translation>lecture de l’entrée standard&#x202f;; Ctrl+D sur une ligne vide la termine</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
+    </message>
+    <message>
+        <source>counting %1</source>
+        <translation>comptage&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>lecture&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>selection takes no file; use &apos;quillbay text FILE&apos;</source>
+        <translation>selection ne prend pas de fichier&#x202f;; utilisez &apos;quillbay text FILE&apos;</translation>
+    </message>
+    <message>
+        <source>there is no display for the window; run this in a terminal of your desktop, or use &apos;quillbay count&apos;, which needs none</source>
+        <translation>il n’y a pas d’écran pour la fenêtre&#x202f;; lancez ceci dans un terminal de votre bureau, ou utilisez &apos;quillbay count&apos;, qui n’en a pas besoin</translation>
+    </message>
+    <message>
+        <source>there is no session bus, which opens the window; log in to a desktop, or use &apos;quillbay count&apos;, which needs none</source>
+        <translation>il n’y a pas de bus de session, qui ouvre la fenêtre&#x202f;; ouvrez une session sur un bureau, ou utilisez &apos;quillbay count&apos;, qui n’en a pas besoin</translation>
+    </message>
+    <message>
+        <source>%1; run &apos;quillbay doctor&apos; to find out why</source>
+        <translation>%1&#x202f;; &apos;quillbay doctor&apos; en trouve la raison</translation>
+    </message>
+    <message>
+        <source>one file at a time</source>
+        <translation>un seul fichier à la fois</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Another file cannot be watched either.</source>
+        <translation>Un autre fichier ne peut pas être surveillé non plus.</translation>
+    </message>
+    <message>
+        <source>%1 other files cannot be watched either.</source>
+        <translation>%1 autres fichiers ne peuvent pas être surveillés non plus.</translation>
+    </message>
+    <message>
+        <source>the copied files are not on this computer; copy them here and watch the copies</source>
+        <translation>les fichiers copiés ne sont pas sur cet ordinateur&#x202f;; copiez-les ici et surveillez les copies</translation>
+    </message>
+    <message>
+        <source>either --clipboard or files, not both</source>
+        <translation>soit --clipboard, soit des fichiers, pas les deux</translation>
+    </message>
+    <message>
+        <source>no file given</source>
+        <translation>aucun fichier indiqué</translation>
+    </message>
+</context>
+<context>
     <name>documents</name>
     <message>
         <source>is not plain text</source>
@@ -898,6 +2103,61 @@
     </message>
 </context>
 <context>
+    <name>platform/defaults</name>
+    <message>
+        <source>it is another program&apos;s database</source>
+        <translation>c’est la base de données d’un autre programme</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop volumineux</translation>
+    </message>
+    <message>
+        <source>its file is being replaced</source>
+        <translation>le fichier est en cours de remplacement</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>il est endommagé</translation>
+    </message>
+    <message>
+        <source>another process keeps it locked</source>
+        <translation>un autre processus le garde verrouillé</translation>
+    </message>
+    <message>
+        <source>unable to open database file</source>
+        <translation>le fichier ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>attempt to write a readonly database</source>
+        <translation>le fichier est en lecture seule</translation>
+    </message>
+    <message>
+        <source>database or disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>disk I/O error</source>
+        <translation>erreur d’entrée/sortie</translation>
+    </message>
+    <message>
+        <source>database is locked</source>
+        <translation>le fichier est verrouillé</translation>
+    </message>
+    <message>
+        <source>file is not a database</source>
+        <translation>le fichier n’est pas une base de données</translation>
+    </message>
+    <message>
+        <source>database disk image is malformed</source>
+        <translation>le fichier est endommagé</translation>
+    </message>
+</context>
+<context>
     <name>platform/files</name>
     <message>
         <source>no such file</source>
@@ -1039,6 +2299,141 @@
     <message>
         <source>%1 cannot be started: %2</source>
         <translation>%1 ne peut pas être lancé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Opération non permise</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Fichier ou dossier inexistant</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Erreur d’entrée/sortie</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>Périphérique ou adresse inexistant</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>Mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Accès refusé</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>Périphérique ou ressource occupé</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>Le fichier existe déjà</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>Périphérique inexistant</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>N’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Est un dossier</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>Argument invalide</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>Trop de fichiers ouverts dans le système</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Trop de fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Fichier trop volumineux</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Plus d’espace sur le périphérique</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Système de fichiers en lecture seule</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>Tube rompu</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Nom de fichier trop long</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>Trop de liens symboliques</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Quota de disque dépassé</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>Accès au fichier périmé</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Délai de connexion dépassé</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>Connexion refusée</translation>
+    </message>
+    <message>
+        <source>Transport endpoint is not connected</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <source>Host is down</source>
+        <translation>L’hôte est arrêté</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>Aucun chemin vers l’hôte</translation>
+    </message>
+    <message>
+        <source>Exec format error</source>
+        <translation>Format de programme incorrect</translation>
+    </message>
+    <message>
+        <source>Bad file descriptor</source>
+        <translation>Descripteur de fichier incorrect</translation>
+    </message>
+    <message>
+        <source>Resource temporarily unavailable</source>
+        <translation>Ressource temporairement indisponible</translation>
+    </message>
+</context>
+<context>
+    <name>presentation</name>
+    <message>
+        <source>not enough memory to send it to the counting service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no session bus, over which the counting service is reached; run again without --service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the counting service does not answer; run again without --service, or &apos;quillbay doctor&apos; to find out why</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -260,7 +260,7 @@ QString causeText(const FileError &error)
         break;
     }
     return QCoreApplication::translate("platform/files", "cannot be read (%1)")
-        .arg(systemErrorText(error.systemError));
+        .arg(translatedSystemError(error.systemError));
 }
 
 Contents readFile(const QByteArray &path, const FileLimits &limits)

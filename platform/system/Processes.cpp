@@ -136,7 +136,7 @@ bool waitUntilReadable(int descriptor, std::chrono::milliseconds timeout)
 QString messageText(const LaunchError &error)
 {
     return QCoreApplication::translate("platform/system", "%1 cannot be started: %2")
-        .arg(error.launchPath, systemErrorText(error.systemError));
+        .arg(error.launchPath, translatedSystemError(error.systemError));
 }
 
 std::optional<LaunchError> launchDetached(const QString &launchPath, const QStringList &arguments)

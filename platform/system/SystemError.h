@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// SystemError puts the errors of system calls into words: always in English, as all messages of the project.
-// Thread: any.
+// SystemError puts the errors of system calls into words: in English for log lines, in the user's language
+// for messages. Thread: any.
 #pragma once
 
 #include <QString>
@@ -14,3 +14,6 @@ inline QString systemErrorText(int number)
     const char *description = ::strerrordesc_np(number);
     return description ? QString::fromLatin1(description) : QString::number(number);
 }
+
+/// The same in the user's language, for the errors that users meet; others in English.
+QString translatedSystemError(int number);
