@@ -171,6 +171,7 @@ TEST_F(ExplainCommandTest, ADocumentCannotControlTheTerminal)
 TEST_F(ExplainCommandTest, FollowsTheLocale)
 {
     setLocale("de_DE.UTF-8");
+    qputenv("LANGUAGE", "en");
     const QByteArray output = explain({"--words"}, "b").output;
     EXPECT_EQ(output, QByteArray("-\n     1  [b]\nWords                 1\n"));
 }
