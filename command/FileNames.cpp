@@ -122,6 +122,17 @@ QByteArrayList namesInList(const QByteArray &list)
     return names;
 }
 
+QByteArrayList namesOfOperands(const QByteArrayList &operands)
+{
+    QByteArrayList names;
+    for (const QByteArray &operand : operands) {
+        const QByteArray path =
+            operand.startsWith("file:///") ? pathOfFileURL(QUrl::fromEncoded(operand)) : QByteArray();
+        names.append(path.isEmpty() ? operand : path);
+    }
+    return names;
+}
+
 QByteArray urlLineOfFile(const QByteArray &name)
 {
     return fileURLOfName(name).toEncoded() + "\r\n";

@@ -29,5 +29,9 @@ QByteArray jsonFileMembers(const QByteArray &name);
 /// The names in a list: separated by NUL bytes if it contains any, otherwise by LF. Empty names are skipped.
 QByteArrayList namesInList(const QByteArray &list);
 
+/// Of the operands of a command that desktops start: those that begin with "file:///" are URLs and become
+/// paths.
+QByteArrayList namesOfOperands(const QByteArrayList &operands);
+
 /// A line of a list of URLs (RFC 2483) for a file, by its absolute path without empty and "." components.
 QByteArray urlLineOfFile(const QByteArray &name);

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// "quillbay text": opens a window with the counts of a document or of standard input.
+// "quillbay text": opens a window with the counts of each document or of standard input.
 #include "command/CommandWords.h"
 #include "command/Commands.h"
 #include "command/FileNames.h"
+#include "command/LeftOutFiles.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
 #include "documents/rtfd/RtfdWriter.h"
@@ -10,6 +11,7 @@
 #include "manual/ManualPages.h"
 
 #include <new>
+#include <optional>
 
 namespace {
 
@@ -28,15 +30,36 @@ Result<Pasteboard, QString> pasteboardOf(const QByteArray &name)
     return Pasteboard(std::move(forms));
 }
 
-int openWindow(const QByteArray &name)
+/// Why the file cannot be counted. Absent if its window has opened, or has not for another reason, which is
+/// reported and makes status that of a failure.
+std::optional<QString> openWindow(const QByteArray &name, int &status)
 {
-    const Result<Pasteboard, QString> pasteboard = pasteboardOf(name);
-    if (!pasteboard) {
-        reportDocumentFailure(name, pasteboard.error());
-        return 1;
+    // Every step allocates buffers as large as the document.
+    try {
+        const Result<Pasteboard, QString> pasteboard = pasteboardOf(name);
+        if (!pasteboard)
+            return pasteboard.error();
+        status = performService(QStringLiteral("wordCountSelectedTextService"), pasteboard.value(),
+            name == standardInputName ? FailureReport::StandardError
+                                      : FailureReport::StandardErrorAndNotification);
+        return std::nullopt;
+    } catch (const std::bad_alloc &) {
+        return causeText(FileError{FileError::Cause::NotEnoughMemory});
     }
-    return performService(
-        QStringLiteral("wordCountSelectedTextService"), pasteboard.value(), FailureReport::StandardError);
+}
+
+/// The exit status. Stops where the service fails: it would for the other files too.
+int openWindows(const QByteArrayList &names)
+{
+    LeftOutFiles leftOut;
+    int status = 0;
+    for (qsizetype i = 0; i < names.size() && status == 0; ++i) {
+        if (const std::optional<QString> cause = openWindow(names[i], status))
+            leftOut.add(names[i], *cause);
+    }
+    if (names.first() != standardInputName)
+        leftOut.notify();
+    return leftOut.isEmpty() ? status : 1;
 }
 
 } // namespace
@@ -48,14 +71,6 @@ int runTextCommand(int wordCount, char **words)
         return wrongUsageStatus;
     if (wanted->wantsHelp())
         return printText(helpText(textPage()));
-    if (wanted->operands.size() > 1)
-        return reportWrongUsage("text", CommandText::tr("one file at a time"));
-    const QByteArray name = wanted->operands.isEmpty() ? standardInputName : wanted->operands.first();
-    // Every step allocates buffers as large as the document.
-    try {
-        return openWindow(name);
-    } catch (const std::bad_alloc &) {
-        reportDocumentFailure(name, causeText(FileError{FileError::Cause::NotEnoughMemory}));
-        return 1;
-    }
+    return openWindows(
+        wanted->operands.isEmpty() ? QByteArrayList{standardInputName} : namesOfOperands(wanted->operands));
 }

@@ -3,32 +3,25 @@
 #include "command/CommandWords.h"
 #include "command/Commands.h"
 #include "command/FileNames.h"
+#include "command/LeftOutFiles.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
 #include "manual/HelpText.h"
 #include "manual/ManualPages.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
-#include "platform/session_bus/UserNotification.h"
 #include "platform/system/FileURL.h"
 
 #include <algorithm>
 #include <new>
-#include <vector>
 
 namespace {
 
 constexpr FailureReport report = FailureReport::StandardErrorAndNotification;
 
-/// A file that is not watched, and why.
-struct LeftOut {
-    QByteArray name;
-    QString cause;
-};
-
 struct CheckedFiles {
     QByteArray urlList; ///< RFC 2483, of the files that can be counted
-    std::vector<LeftOut> leftOut;
+    LeftOutFiles leftOut;
 };
 
 /// Reports the files that cannot be counted on standard error.
@@ -41,37 +34,22 @@ CheckedFiles checkFiles(const QByteArrayList &names)
             checked.urlList += urlLineOfFile(name);
             continue;
         }
-        checked.leftOut.push_back({name, causeText(text.error())});
-        reportDocumentFailure(name, checked.leftOut.back().cause);
+        checked.leftOut.add(name, causeText(text.error()));
     }
     return checked;
-}
-
-/// One notification for all: a file manager shows nothing of standard error.
-void notifyOf(const std::vector<LeftOut> &leftOut)
-{
-    const LeftOut &first = leftOut.front();
-    QString text = CommandText::tr("%1: %2.").arg(
-        QString::fromUtf8(printableName(first.name)), QString::fromUtf8(printableName(first.cause.toUtf8())));
-    if (leftOut.size() == 2)
-        text += u' ' + CommandText::tr("Another file cannot be watched either.");
-    else if (leftOut.size() > 2)
-        text += u' ' + CommandText::tr("%1 other files cannot be watched either.").arg(leftOut.size() - 1);
-    showUserNotification(QStringLiteral("Quillbay"), text);
 }
 
 int watch(const QByteArrayList &names)
 {
     const CheckedFiles files = checkFiles(names);
-    int status = files.leftOut.empty() ? 0 : 1;
+    int status = files.leftOut.isEmpty() ? 0 : 1;
     if (!files.urlList.isEmpty()) {
         const Pasteboard pasteboard({{QString::fromUtf16(Pasteboard::urlListType), files.urlList}});
         const int sent = performService(QStringLiteral("watchTheTextFileService"), pasteboard, report);
         status = std::max(status, sent);
     }
     // Last: a notification server may take its time.
-    if (!files.leftOut.empty())
-        notifyOf(files.leftOut);
+    files.leftOut.notify();
     return status;
 }
 
@@ -106,7 +84,7 @@ int runWatchCommand(int wordCount, char **words)
             fromClipboard ? CommandText::tr("either --clipboard or files, not both")
                           : CommandText::tr("no file given"));
     try {
-        return fromClipboard ? watchCopiedFiles() : watch(wanted->operands);
+        return fromClipboard ? watchCopiedFiles() : watch(namesOfOperands(wanted->operands));
     } catch (const std::bad_alloc &) {
         return reportFailure(causeText(FileError{FileError::Cause::NotEnoughMemory}), report);
     }

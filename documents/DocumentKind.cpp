@@ -10,6 +10,8 @@ struct KindType {
     QStringView type;
 };
 
+/// In the spelling of the shared MIME database. The menus of file managers are made from these lines
+/// (file_managers/CMakeLists.txt).
 constexpr std::array kindTypes{
     KindType{DocumentKind::PlainText, u"text/plain"},
     KindType{DocumentKind::Rtf, u"text/rtf"},
@@ -22,8 +24,8 @@ constexpr std::array kindTypes{
         u"application/vnd.openxmlformats-officedocument.wordprocessingml.document"},
     KindType{DocumentKind::WordDocument,
         u"application/vnd.openxmlformats-officedocument.wordprocessingml.template"},
-    KindType{DocumentKind::WordDocument, u"application/vnd.ms-word.document.macroenabled.12"},
-    KindType{DocumentKind::WordDocument, u"application/vnd.ms-word.template.macroenabled.12"},
+    KindType{DocumentKind::WordDocument, u"application/vnd.ms-word.document.macroEnabled.12"},
+    KindType{DocumentKind::WordDocument, u"application/vnd.ms-word.template.macroEnabled.12"},
     KindType{DocumentKind::Pdf, u"application/pdf"},
     KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text"},
     KindType{DocumentKind::OpenDocument, u"application/vnd.oasis.opendocument.text-template"},
@@ -47,7 +49,7 @@ QStringList mimeTypes(DocumentKind kind)
 std::optional<DocumentKind> kindOfMimeType(QAnyStringView type)
 {
     for (const KindType &kindType : kindTypes) {
-        if (QAnyStringView::compare(kindType.type, type) == 0)
+        if (QAnyStringView::compare(kindType.type, type, Qt::CaseInsensitive) == 0)
             return kindType.kind;
     }
     return std::nullopt;

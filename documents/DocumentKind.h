@@ -24,5 +24,5 @@ inline constexpr DocumentKind lastDocumentKind = DocumentKind::Epub;
 /// The MIME types of a kind, the preferred one first.
 QStringList mimeTypes(DocumentKind kind);
 
-/// Absent for a type that no kind has. type: in lower case, without parameters.
+/// Absent for a type that no kind has. type: in any case, without parameters.
 std::optional<DocumentKind> kindOfMimeType(QAnyStringView type);

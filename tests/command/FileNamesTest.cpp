@@ -73,3 +73,10 @@ TEST(FileNames, TsvNamesAreReversible)
     }
     EXPECT_EQ(back, name);
 }
+
+TEST(FileNames, OperandsMayBeUrlsOfFiles)
+{
+    EXPECT_EQ(
+        namesOfOperands({"file:///tmp/it's%20%22new%0Aline%22%25%E9.txt", "plain.txt", "file:name", "-"}),
+        (QByteArrayList{"/tmp/it's \"new\nline\"%\xE9.txt", "plain.txt", "file:name", "-"}));
+}

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/system/FileURL.h"
 #include "tests/command/ServiceCommandTest.h"
 
 #include <QJsonArray>
@@ -110,10 +111,16 @@ TEST_F(TextCommand, GivesAWindowOfAPipeNoName)
     EXPECT_EQ(request()[u"forms"].toObject().keys(), QStringList{QStringLiteral("application/x-flat-rtfd")});
 }
 
-TEST_F(TextCommand, AcceptsOneFile)
+TEST_F(TextCommand, OpensAWindowForEachFile)
 {
-    const Outcome outcome = quillbay({"text", "a", "b"});
-    EXPECT_EQ(outcome.exitStatus, 2);
-    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("one file at a time"));
+    const Outcome outcome = quillbay({"text", file("first.txt", "One."),
+        file("picture.png", "\x89PNG\r\n\x1a\n"), fileURLOfPath(file("last.txt", "Three.")).toEncoded()});
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("picture.png: "));
+    EXPECT_EQ(requests().size(), 2);
+}
+
+TEST_F(TextCommand, HasHelp)
+{
     EXPECT_EQ(quillbay({"text", "--help"}).exitStatus, 0);
 }

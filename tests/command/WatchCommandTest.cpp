@@ -66,7 +66,7 @@ TEST_F(WatchCommand, NamesEveryFileThatCannotBeWatchedInOneNotification)
     EXPECT_EQ(outcome.errors,
         "quillbay: /no/such: no such file\nquillbay: " + folder
             + ": is a folder\nquillbay: /dev/zero: is a device\n");
-    EXPECT_EQ(notification, notice("/no/such: no such file. 2 other files cannot be watched either."));
+    EXPECT_EQ(notification, notice("/no/such: no such file. 2 other files are left out too."));
     EXPECT_EQ(requests().size(), 0);
 }
 

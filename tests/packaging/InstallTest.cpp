@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What "cmake --install" gives: whether it is complete, and whether it works as it lies there.
+#include "documents/DocumentKind.h"
 #include "tests/documents/pdf/PdfWriter.h"
 #include "tests/harness/Display.h"
 #include "tests/harness/QuillbayTest.h"
@@ -72,6 +73,11 @@ const QStringList filesWithCommands{QStringLiteral("share/applications/com.quill
     QStringLiteral("share/applications/com.quillbay.Watch.desktop"),
     QStringLiteral("share/dbus-1/services/Brisklane.QBYServiceProviderXPC.service"),
     QStringLiteral("share/dbus-1/services/com.quillbay.ServiceProvider.service"),
+    QStringLiteral("share/file-manager/actions/quillbay-count.desktop"),
+    QStringLiteral("share/file-manager/actions/quillbay-watch.desktop"),
+    QStringLiteral("share/kio/servicemenus/com.quillbay.Quillbay.desktop"),
+    QStringLiteral("share/nemo/actions/quillbay-count.nemo_action"),
+    QStringLiteral("share/nemo/actions/quillbay-watch.nemo_action"),
     QStringLiteral("share/systemd/user/quillbay-counting-service.service")};
 
 const QRegularExpression madeFromTheManual(QStringLiteral("^(man|bash-completion|zsh|fish)/"));
@@ -97,7 +103,9 @@ TEST_F(Install, IsComplete)
             expected.append(QStringLiteral("share/") + file);
     }
     EXPECT_TRUE(expected.contains(QStringLiteral("share/man/man1/quillbay-count.1")));
-    QStringList installed = filesBelow(prefix());
+    // Depend on what is installed here: there is a module for each file manager whose headers were found.
+    QStringList installed =
+        filesBelow(prefix()).filter(QRegularExpression(QStringLiteral("^(?!lib/.*/libquillbay-)")));
     expected.sort();
     installed.sort();
     EXPECT_EQ(installed, expected);
@@ -112,6 +120,23 @@ TEST_F(Install, NamesTheProgramsWhereverItIsInstalled)
         for (const QString &command : commands) {
             EXPECT_THAT(programOf(command).toStdString(), StartsWith(prefix().toStdString()));
             EXPECT_TRUE(QFileInfo(programOf(command)).isExecutable()) << command.toStdString();
+        }
+    }
+}
+
+TEST_F(Install, OffersItsMenusForTheTypesOfAllDocuments)
+{
+    install({"--prefix", QFile::encodeName(prefix())});
+    const QStringList files{QStringLiteral("file-manager/actions/quillbay-count.desktop"),
+        QStringLiteral("file-manager/actions/quillbay-watch.desktop"),
+        QStringLiteral("kio/servicemenus/com.quillbay.Quillbay.desktop"),
+        QStringLiteral("nemo/actions/quillbay-count.nemo_action"),
+        QStringLiteral("nemo/actions/quillbay-watch.nemo_action")};
+    for (const QString &file : files) {
+        const QByteArray content = readFile(prefix() + QStringLiteral("/share/") + file);
+        for (quint32 kind = 1; kind <= static_cast<quint32>(lastDocumentKind); ++kind) {
+            for (const QString &type : mimeTypes(static_cast<DocumentKind>(kind)))
+                EXPECT_TRUE(content.contains(type.toUtf8() + ';')) << (file + u' ' + type).toStdString();
         }
     }
 }
