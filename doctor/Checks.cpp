@@ -22,6 +22,7 @@ const std::vector<Check> &allChecks()
         {"selection", {"display"}, checkSelection, 5s},
         {"notifications", {"session-bus"}, checkNotifications},
         {"tray", {"session-bus", "display"}, checkTray},
+        {"file-managers", {}, checkFileManagers},
         {"watching", {}, checkWatches},
         {"speech", {}, checkSpeech},
     };

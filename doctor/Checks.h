@@ -40,6 +40,8 @@ Finding checkSelection();
 Finding checkNotifications();
 Finding checkTray();
 
+Finding checkFileManagers();
+
 // What watched files need.
 Finding checkWatches();
 Finding checkSpeech();

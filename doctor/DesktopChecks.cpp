@@ -6,6 +6,9 @@
 #include "platform/session_bus/SessionBusState.h"
 #include "platform/wayland/WaylandConnection.h"
 
+#include <QDir>
+#include <QLibraryInfo>
+
 #include <algorithm>
 #include <array>
 
@@ -16,8 +19,19 @@ QString xDisplayName()
     return qEnvironmentVariable("DISPLAY");
 }
 
+/// Whether Qt can open windows on Wayland without X.
+bool hasWaylandPlugin()
+{
+    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+    return !plugins.entryList({QStringLiteral("libqwayland*")}).isEmpty();
+}
+
 Finding waylandFinding(const QString &text)
 {
+    if (!hasWaylandPlugin())
+        return brokenFinding(
+            text + u' ' + Doctor::tr("Windows need an X display, or Qt's plugin for Wayland."),
+            Doctor::tr("Install the package xwayland, or else qt6-wayland, and log in again."));
     return limitedFinding(text + u' '
             + Doctor::tr("Windows use Wayland directly, where they cannot choose their place or stay above "
                          "others."),

@@ -170,6 +170,33 @@ TEST_F(MachineChecks, ThatWatchesAreInUseIsCounted)
     EXPECT_GE(used(examine()), 1);
 }
 
+TEST_F(MachineChecks, FileManagersWithoutOurEntriesAreNamed)
+{
+    const auto withPrograms = [](const QByteArrayList &programs) {
+        const QByteArray folder = QFile::encodeName(world().root()) + "/files/programs";
+        QDir().mkpath(QFile::decodeName(folder));
+        for (const QByteArray &name : programs) {
+            QFile program(QFile::decodeName(file(("programs/" + name).constData(), "#!/bin/sh\n")));
+            EXPECT_TRUE(program.setPermissions(program.permissions() | QFile::ExeOwner));
+        }
+        qputenv("PATH", folder);
+        return examine();
+    };
+    EXPECT_THAT(withPrograms({}).text("file-managers"), StartsWith("note: No file manager is installed"));
+    const Report without = withPrograms({"nemo", "pcmanfm"});
+    EXPECT_THAT(without.text("file-managers"), StartsWith("note: The menus of these"));
+    EXPECT_THAT(without.text("file-managers"), HasSubstr("no entries of Quillbay: Nemo and PCManFM."));
+    EXPECT_THAT(without.remedy("file-managers"), HasSubstr("Install the Debian package"));
+    for (const char *const name :
+        {"nemo/actions/quillbay-watch.nemo_action", "file-manager/actions/quillbay-watch.desktop"}) {
+        const QString path = world().data() + u'/' + QString::fromLatin1(name);
+        QDir().mkpath(QFileInfo(path).path());
+        EXPECT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+    }
+    EXPECT_EQ(examine().text("file-managers"),
+        "ok: The menus of these file managers have entries of Quillbay: Nemo and PCManFM.");
+}
+
 TEST_F(MachineChecks, AMissingVoiceIsALimitationOnlyIfCountsAreToBeSpoken)
 {
     if (QFileInfo::exists(QStringLiteral("/usr/bin/say")))
