@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the command finds on desktops, whole ones and ones with a fault: a private bus and display for each.
 #include "tests/doctor/DoctorTest.h"
+#include "tests/harness/Compositor.h"
 #include "tests/harness/Display.h"
 #include "tests/harness/PrivateBus.h"
 #include "tests/platform/pasteboard/SelectionOwner.h"
@@ -78,6 +79,22 @@ TEST_F(InstalledSessionChecks, ADisplayWithoutAWindowManagerIsLimited)
     const Report report = examine();
     EXPECT_THAT(report.text("display"), StartsWith("ok: "));
     EXPECT_THAT(report.text("staying-above"), StartsWith("limited: There is no window manager"));
+}
+
+TEST_F(SessionChecks, WaylandWithoutXIsNamedWithWhatItLacks)
+{
+    SKIP_WITHOUT_PACKAGE(TestCompositor::isInstalled(), TestCompositor::packages);
+    const TestCompositor compositor;
+    qunsetenv("DISPLAY");
+    const Report report = examine();
+    // Broken where Qt's plugin for Wayland is missing.
+    EXPECT_THAT(report.text("display"),
+        ::testing::AnyOf(
+            StartsWith("limited: DISPLAY is not set."), StartsWith("broken: DISPLAY is not set.")));
+    EXPECT_THAT(report.remedy("display"), HasSubstr("xwayland"));
+    if (report.text("display").starts_with("limited")) {
+        EXPECT_THAT(report.text("selection"), StartsWith("ok: "));
+    }
 }
 
 TEST_F(SessionChecks, ABusWithoutOurServicesSaysSo)
