@@ -38,7 +38,7 @@ int reportUnknown(const QByteArray &name)
     return wrongUsageStatus;
 }
 
-void report(const EditablePreference &row, const QString &problem)
+void reportProblem(const EditablePreference &row, const QString &problem)
 {
     reportError(QString::fromUtf8(nameOf(row) + ": " + printableName(problem.toUtf8())));
 }
@@ -61,7 +61,7 @@ int set(const EditablePreference &row, const QByteArray &text)
     const Result<DefaultsValue, QString> value = parseValue(row, QString::fromLocal8Bit(text));
     if (value)
         return store(row, value.value());
-    report(row, value.error());
+    reportProblem(row, value.error());
     return wrongUsageStatus;
 }
 
@@ -72,7 +72,7 @@ int reset(const Rows &rows)
     for (const EditablePreference *const row : rows) {
         const std::optional<DefaultsValue> value = defaultValueOf(*row, printer);
         if (!value)
-            report(*row,
+            reportProblem(*row,
                 CommandText::tr("its default is unknown while the printer does not answer; retry later"));
         status = std::max(status, value ? store(*row, *value) : 1);
     }
