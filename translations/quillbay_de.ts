@@ -537,6 +537,30 @@
         <source>Counts of watched files can be spoken by %1; this is switched off.</source>
         <translation>Die Zahlen beobachteter Dateien kann %1 vorlesen; das ist ausgeschaltet.</translation>
     </message>
+    <message>
+        <source>Windows need an X display, or Qt&apos;s plugin for Wayland.</source>
+        <translation>Fenster brauchen eine X-Anzeige oder das Wayland-Modul von Qt.</translation>
+    </message>
+    <message>
+        <source>Install the package xwayland, or else qt6-wayland, and log in again.</source>
+        <translation>Das Paket xwayland oder sonst qt6-wayland installieren und neu anmelden.</translation>
+    </message>
+    <message>
+        <source>The menus of these file managers have no entries of Quillbay: %1.</source>
+        <translation>Die Menüs dieser Dateimanager haben keine Einträge von Quillbay: %1.</translation>
+    </message>
+    <message>
+        <source>Install the Debian package of Quillbay and start the file manager again.</source>
+        <translation>Das Debian-Paket von Quillbay installieren und den Dateimanager neu starten.</translation>
+    </message>
+    <message>
+        <source>No file manager is installed that can have entries of Quillbay.</source>
+        <translation>Es ist kein Dateimanager installiert, der Einträge von Quillbay haben kann.</translation>
+    </message>
+    <message>
+        <source>The menus of these file managers have entries of Quillbay: %1.</source>
+        <translation>Die Menüs dieser Dateimanager haben Einträge von Quillbay: %1.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentChooser</name>
@@ -1015,14 +1039,6 @@
         <translation>es gab nichts zu übernehmen</translation>
     </message>
     <message>
-        <source>show the counts of one file or of standard input</source>
-        <translation>die Zahlen einer Datei oder der Standardeingabe zeigen</translation>
-    </message>
-    <message>
-        <source>Opens a small window with the counts of FILE. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts.</source>
-        <translation>Öffnet ein kleines Fenster mit den Zahlen von FILE. Ohne FILE, oder wenn FILE - ist, wird die Standardeingabe gelesen. FILE kann von jeder Art sein, die &apos;quillbay count&apos; zählt.</translation>
-    </message>
-    <message>
         <source>show the counts of what another program prints</source>
         <translation>die Zahlen dessen zeigen, was ein anderes Programm ausgibt</translation>
     </message>
@@ -1044,51 +1060,67 @@
     </message>
     <message>
         <source>Counts the words, characters, sentences, lines on your paper, hard line breaks, paragraphs and indented paragraphs of each FILE by your preferences. Without FILE, or if FILE is -, reads standard input. A pipe that a shell passes by name is read in the same way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zählt nach den eigenen Einstellungen die Wörter, Zeichen, Sätze, Zeilen auf dem eigenen Papier, harten Zeilenumbrüche, Absätze und eingerückten Absätze jeder Datei FILE. Ohne FILE, oder wenn FILE - ist, wird die Standardeingabe gelesen. Ebenso wird eine Pipe gelesen, die eine Shell mit ihrem Namen übergibt.</translation>
     </message>
     <message>
         <source>instead of the counts, print what they depend on: locale, preferences, paper, margins, and the fonts that the files need (without a file, the font of plain text); with --json an object, whose lengths are in points</source>
-        <translation type="unfinished"></translation>
+        <translation>statt der Zahlen ausgeben, wovon sie abhängen: Locale, Einstellungen, Papier, Ränder und die Schriften, die die Dateien brauchen (ohne Datei die Schrift reinen Textes); mit --json ein Objekt, dessen Längen in Punkt sind</translation>
     </message>
     <message>
         <source>Control characters in names are escaped: as \x1b in the table and as \u001b in JSON. With --tsv, tabs, line feeds, carriage returns and backslashes become \t, \n, \r and \\; other control characters and bytes that are not valid UTF-8 become one \x1b per byte. In JSON, a name that is not valid UTF-8 has U+FFFD in place of such bytes, and the member &quot;url&quot; beside it has them percent-encoded, as a file: URL.</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuerzeichen in Namen werden umschrieben: als \x1b in der Tabelle und als \u001b in JSON. Mit --tsv werden Tabulatoren, Zeilenvorschübe, Wagenrückläufe und umgekehrte Schrägstriche zu \t, \n, \r und \\; andere Steuerzeichen und Bytes, die kein gültiges UTF-8 sind, werden zu einem \x1b pro Byte. In JSON hat ein Name, der kein gültiges UTF-8 ist, U+FFFD anstelle solcher Bytes, und der Eintrag &quot;url&quot; daneben enthält sie prozentkodiert, als file:-URL.</translation>
     </message>
     <message>
         <source>watch the files as &apos;quillbay watch&apos; does; without FILE, choose them in a dialog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>print what works on this desktop, and what to do about the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>die Dateien wie &apos;quillbay watch&apos; beobachten; ohne FILE in einem Dialog auswählen</translation>
     </message>
     <message>
         <source>Tries what Quillbay needs of this computer and of the desktop, and prints a line for each: ok, note (worth knowing), limited or broken, the name of the check, what it has found, and what to do about it. It starts the programs of Quillbay as the other commands do, opens no window, and waits a few seconds at most for what does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Probiert, was Quillbay von diesem Rechner und vom Desktop braucht, und gibt je eine Zeile aus: ok, note (wissenswert), limited oder broken, den Namen der Prüfung, was sie gefunden hat und was zu tun ist. Es startet die Programme von Quillbay wie die anderen Befehle, öffnet kein Fenster und wartet höchstens einige Sekunden auf das, was nicht antwortet.</translation>
     </message>
     <message>
         <source>The output names no document, and your home folder is ~ in it, so that you can paste it into a report of a fault.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausgabe nennt kein Dokument, und der eigene Ordner heißt darin ~, sodass sie sich in eine Fehlermeldung einfügen lässt.</translation>
     </message>
     <message>
         <source>print a JSON object with the worst severity and a list of the findings: the name of each check, its severity, the text and the remedy</source>
-        <translation type="unfinished"></translation>
+        <translation>ein JSON-Objekt mit der schlimmsten Stufe und einer Liste der Befunde ausgeben: den Namen jeder Prüfung, ihre Stufe, den Text und die Abhilfe</translation>
     </message>
     <message>
         <source>everything works</source>
-        <translation type="unfinished"></translation>
+        <translation>alles funktioniert</translation>
     </message>
     <message>
         <source>something is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>etwas ist eingeschränkt</translation>
     </message>
     <message>
         <source>something is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>etwas ist defekt</translation>
     </message>
     <message>
         <source>Opens a small window for each FILE, whose counts follow every save, or raises the window that FILE already has. Watches every kind of file that &apos;quillbay count&apos; counts; the others are reported on standard error and in a desktop notification, and skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet für jede Datei FILE ein kleines Fenster, dessen Zahlen jedem Speichern folgen, oder hebt das Fenster hervor, das FILE schon hat. Beobachtet jede Art von Datei, die &apos;quillbay count&apos; zählt; die anderen werden auf der Standardfehlerausgabe und in einer Benachrichtigung des Desktops gemeldet und übergangen.</translation>
+    </message>
+    <message>
+        <source>print what works on this desktop, and how to mend the rest</source>
+        <translation>ausgeben, was auf diesem Desktop geht und wie der Rest zu beheben ist</translation>
+    </message>
+    <message>
+        <source>show the counts of files or of standard input</source>
+        <translation>die Zahlen von Dateien oder der Standardeingabe zeigen</translation>
+    </message>
+    <message>
+        <source>Opens a small window with the counts of each FILE. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts, or the URL of a file on this computer. Files that cannot be counted are reported and skipped, in a desktop notification too.</source>
+        <translation>Öffnet für jede Datei FILE ein kleines Fenster mit ihren Zahlen. Ohne FILE, oder wenn FILE - ist, wird die Standardeingabe gelesen. FILE kann von jeder Art sein, die &apos;quillbay count&apos; zählt, oder die URL einer Datei auf diesem Rechner. Dateien, die sich nicht zählen lassen, werden gemeldet und übergangen, auch in einer Benachrichtigung des Desktops.</translation>
+    </message>
+    <message>
+        <source>all windows have opened</source>
+        <translation>alle Fenster sind offen</translation>
+    </message>
+    <message>
+        <source>a window could not be opened</source>
+        <translation>ein Fenster konnte nicht geöffnet werden</translation>
     </message>
 </context>
 <context>
@@ -1860,20 +1892,8 @@
         <translation>%1; &apos;quillbay doctor&apos; findet heraus, warum</translation>
     </message>
     <message>
-        <source>one file at a time</source>
-        <translation>nur eine Datei auf einmal</translation>
-    </message>
-    <message>
         <source>%1: %2.</source>
         <translation>%1: %2.</translation>
-    </message>
-    <message>
-        <source>Another file cannot be watched either.</source>
-        <translation>Eine weitere Datei lässt sich auch nicht beobachten.</translation>
-    </message>
-    <message>
-        <source>%1 other files cannot be watched either.</source>
-        <translation>%1 weitere Dateien lassen sich auch nicht beobachten.</translation>
     </message>
     <message>
         <source>the copied files are not on this computer; copy them here and watch the copies</source>
@@ -1886,6 +1906,14 @@
     <message>
         <source>no file given</source>
         <translation>keine Datei angegeben</translation>
+    </message>
+    <message>
+        <source>Another file is left out too.</source>
+        <translation>Eine weitere Datei bleibt auch aus.</translation>
+    </message>
+    <message>
+        <source>%1 other files are left out too.</source>
+        <translation>%1 weitere Dateien bleiben auch aus.</translation>
     </message>
 </context>
 <context>
@@ -2276,11 +2304,11 @@
     </message>
     <message>
         <source>there is no display to take the clipboard from; &apos;quillbay count&apos; counts a text from a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Bildschirm gibt es keine Zwischenablage; &apos;quillbay count&apos; zählt einen Text aus einer Pipe</translation>
     </message>
     <message>
         <source>there is no display to take the selection from; &apos;quillbay count&apos; counts a text from a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Bildschirm gibt es keine Auswahl; &apos;quillbay count&apos; zählt einen Text aus einer Pipe</translation>
     </message>
 </context>
 <context>
@@ -2425,15 +2453,15 @@
     <name>presentation</name>
     <message>
         <source>not enough memory to send it to the counting service</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht genug Speicher, um es dem Zähldienst zu senden</translation>
     </message>
     <message>
         <source>there is no session bus, over which the counting service is reached; run again without --service</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Sitzungsbus, über den der Zähldienst erreichbar ist; ohne --service erneut ausführen</translation>
     </message>
     <message>
         <source>the counting service does not answer; run again without --service, or &apos;quillbay doctor&apos; to find out why</source>
-        <translation type="unfinished"></translation>
+        <translation>der Zähldienst antwortet nicht; ohne --service erneut ausführen, oder &apos;quillbay doctor&apos;, um den Grund zu finden</translation>
     </message>
 </context>
 <context>

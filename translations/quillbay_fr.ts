@@ -537,6 +537,30 @@
         <source>Counts of watched files can be spoken by %1; this is switched off.</source>
         <translation>Les chiffres des fichiers surveillés peuvent être énoncés par %1&#x202f;; c’est désactivé.</translation>
     </message>
+    <message>
+        <source>Windows need an X display, or Qt&apos;s plugin for Wayland.</source>
+        <translation>Les fenêtres ont besoin d’un écran X, ou du module Wayland de Qt.</translation>
+    </message>
+    <message>
+        <source>Install the package xwayland, or else qt6-wayland, and log in again.</source>
+        <translation>Installez le paquet xwayland, ou sinon qt6-wayland, et rouvrez la session.</translation>
+    </message>
+    <message>
+        <source>The menus of these file managers have no entries of Quillbay: %1.</source>
+        <translation>Les menus de ces gestionnaires de fichiers n’ont pas d’entrées de Quillbay&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Install the Debian package of Quillbay and start the file manager again.</source>
+        <translation>Installez le paquet Debian de Quillbay et relancez le gestionnaire de fichiers.</translation>
+    </message>
+    <message>
+        <source>No file manager is installed that can have entries of Quillbay.</source>
+        <translation>Aucun gestionnaire de fichiers pouvant avoir des entrées de Quillbay n’est installé.</translation>
+    </message>
+    <message>
+        <source>The menus of these file managers have entries of Quillbay: %1.</source>
+        <translation>Les menus de ces gestionnaires de fichiers ont des entrées de Quillbay&#xa0;: %1.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentChooser</name>
@@ -1015,14 +1039,6 @@
         <translation>il n’y avait rien à prendre en charge</translation>
     </message>
     <message>
-        <source>show the counts of one file or of standard input</source>
-        <translation>afficher les chiffres d’un fichier ou de l’entrée standard</translation>
-    </message>
-    <message>
-        <source>Opens a small window with the counts of FILE. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts.</source>
-        <translation>Ouvre une petite fenêtre avec les chiffres de FILE. Sans FILE, ou si FILE est -, lit l’entrée standard. FILE peut être de tous les types que compte &apos;quillbay count&apos;.</translation>
-    </message>
-    <message>
         <source>show the counts of what another program prints</source>
         <translation>afficher les chiffres de ce qu’affiche un autre programme</translation>
     </message>
@@ -1044,51 +1060,67 @@
     </message>
     <message>
         <source>Counts the words, characters, sentences, lines on your paper, hard line breaks, paragraphs and indented paragraphs of each FILE by your preferences. Without FILE, or if FILE is -, reads standard input. A pipe that a shell passes by name is read in the same way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte, selon vos préférences, les mots, caractères, phrases, lignes sur votre papier, sauts de ligne forcés, paragraphes et paragraphes en retrait de chaque FILE. Sans FILE, ou si FILE est -, lit l’entrée standard. Un tube qu’un shell passe par son nom est lu de la même façon.</translation>
     </message>
     <message>
         <source>instead of the counts, print what they depend on: locale, preferences, paper, margins, and the fonts that the files need (without a file, the font of plain text); with --json an object, whose lengths are in points</source>
-        <translation type="unfinished"></translation>
+        <translation>au lieu des chiffres, afficher ce dont ils dépendent&#xa0;: locale, préférences, papier, marges et les polices dont les fichiers ont besoin (sans fichier, la police du texte brut)&#x202f;; avec --json un objet, dont les longueurs sont en points</translation>
     </message>
     <message>
         <source>Control characters in names are escaped: as \x1b in the table and as \u001b in JSON. With --tsv, tabs, line feeds, carriage returns and backslashes become \t, \n, \r and \\; other control characters and bytes that are not valid UTF-8 become one \x1b per byte. In JSON, a name that is not valid UTF-8 has U+FFFD in place of such bytes, and the member &quot;url&quot; beside it has them percent-encoded, as a file: URL.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les caractères de contrôle des noms sont échappés&#xa0;: \x1b dans le tableau et \u001b en JSON. Avec --tsv, les tabulations, sauts de ligne, retours chariot et barres obliques inverses deviennent \t, \n, \r et \\&#x202f;; les autres caractères de contrôle et les octets qui ne sont pas de l’UTF-8 valide deviennent un \x1b par octet. En JSON, un nom qui n’est pas de l’UTF-8 valide a U+FFFD à la place de ces octets, et le membre &quot;url&quot; à côté les contient encodés en pourcent, comme URL file:.</translation>
     </message>
     <message>
         <source>watch the files as &apos;quillbay watch&apos; does; without FILE, choose them in a dialog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>print what works on this desktop, and what to do about the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>surveiller les fichiers comme &apos;quillbay watch&apos;&#x202f;; sans FILE, les choisir dans une boîte de dialogue</translation>
     </message>
     <message>
         <source>Tries what Quillbay needs of this computer and of the desktop, and prints a line for each: ok, note (worth knowing), limited or broken, the name of the check, what it has found, and what to do about it. It starts the programs of Quillbay as the other commands do, opens no window, and waits a few seconds at most for what does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Essaie ce dont Quillbay a besoin de cet ordinateur et du bureau, et affiche une ligne pour chaque point&#xa0;: ok, note (bon à savoir), limited ou broken, le nom du contrôle, ce qu’il a trouvé et ce qu’il faut faire. Il lance les programmes de Quillbay comme les autres commandes, n’ouvre aucune fenêtre et n’attend que quelques secondes ce qui ne répond pas.</translation>
     </message>
     <message>
         <source>The output names no document, and your home folder is ~ in it, so that you can paste it into a report of a fault.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sortie ne nomme aucun document, et votre dossier personnel y est ~, de sorte que vous pouvez la coller dans un rapport d’erreur.</translation>
     </message>
     <message>
         <source>print a JSON object with the worst severity and a list of the findings: the name of each check, its severity, the text and the remedy</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher un objet JSON avec le pire niveau et une liste des constats&#xa0;: le nom de chaque contrôle, son niveau, le texte et le remède</translation>
     </message>
     <message>
         <source>everything works</source>
-        <translation type="unfinished"></translation>
+        <translation>tout fonctionne</translation>
     </message>
     <message>
         <source>something is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>quelque chose est limité</translation>
     </message>
     <message>
         <source>something is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>quelque chose ne marche pas</translation>
     </message>
     <message>
         <source>Opens a small window for each FILE, whose counts follow every save, or raises the window that FILE already has. Watches every kind of file that &apos;quillbay count&apos; counts; the others are reported on standard error and in a desktop notification, and skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre pour chaque FILE une petite fenêtre, dont les chiffres suivent chaque enregistrement, ou met en avant la fenêtre que FILE a déjà. Surveille tous les types de fichiers que compte &apos;quillbay count&apos;&#x202f;; les autres sont signalés sur la sortie d’erreur et dans une notification du bureau, et ignorés.</translation>
+    </message>
+    <message>
+        <source>print what works on this desktop, and how to mend the rest</source>
+        <translation>afficher ce qui marche sur ce bureau, et comment réparer le reste</translation>
+    </message>
+    <message>
+        <source>show the counts of files or of standard input</source>
+        <translation>afficher les chiffres de fichiers ou de l’entrée standard</translation>
+    </message>
+    <message>
+        <source>Opens a small window with the counts of each FILE. Without FILE, or if FILE is -, reads standard input. FILE can be of every kind that &apos;quillbay count&apos; counts, or the URL of a file on this computer. Files that cannot be counted are reported and skipped, in a desktop notification too.</source>
+        <translation>Ouvre une petite fenêtre avec les chiffres de chaque FILE. Sans FILE, ou si FILE est -, lit l’entrée standard. FILE peut être de tous les types que compte &apos;quillbay count&apos;, ou l’URL d’un fichier de cet ordinateur. Les fichiers qui ne peuvent pas être comptés sont signalés et ignorés, aussi dans une notification du bureau.</translation>
+    </message>
+    <message>
+        <source>all windows have opened</source>
+        <translation>toutes les fenêtres se sont ouvertes</translation>
+    </message>
+    <message>
+        <source>a window could not be opened</source>
+        <translation>une fenêtre n’a pas pu être ouverte</translation>
     </message>
 </context>
 <context>
@@ -1860,20 +1892,8 @@
         <translation>%1&#x202f;; &apos;quillbay doctor&apos; en trouve la raison</translation>
     </message>
     <message>
-        <source>one file at a time</source>
-        <translation>un seul fichier à la fois</translation>
-    </message>
-    <message>
         <source>%1: %2.</source>
         <translation>%1&#xa0;: %2.</translation>
-    </message>
-    <message>
-        <source>Another file cannot be watched either.</source>
-        <translation>Un autre fichier ne peut pas être surveillé non plus.</translation>
-    </message>
-    <message>
-        <source>%1 other files cannot be watched either.</source>
-        <translation>%1 autres fichiers ne peuvent pas être surveillés non plus.</translation>
     </message>
     <message>
         <source>the copied files are not on this computer; copy them here and watch the copies</source>
@@ -1886,6 +1906,14 @@
     <message>
         <source>no file given</source>
         <translation>aucun fichier indiqué</translation>
+    </message>
+    <message>
+        <source>Another file is left out too.</source>
+        <translation>Un autre fichier est aussi laissé de côté.</translation>
+    </message>
+    <message>
+        <source>%1 other files are left out too.</source>
+        <translation>%1 autres fichiers sont aussi laissés de côté.</translation>
     </message>
 </context>
 <context>
@@ -2212,11 +2240,11 @@
     <name>platform/pasteboard</name>
     <message>
         <source>there is no display to take the clipboard from; &apos;quillbay count&apos; counts a text from a pipe</source>
-        <translation>sans écran, il n’y a pas de presse-papiers&#x202f;; &apos;quillbay count&apos; compte un texte d’un tube</translation>
+        <translation>sans écran, il n’y a pas de presse-papiers&#x202f;; &apos;quillbay count&apos; compte un texte venant d’un tube</translation>
     </message>
     <message>
         <source>there is no display to take the selection from; &apos;quillbay count&apos; counts a text from a pipe</source>
-        <translation>sans écran, il n’y a pas de sélection&#x202f;; &apos;quillbay count&apos; compte un texte d’un tube</translation>
+        <translation>sans écran, il n’y a pas de sélection&#x202f;; &apos;quillbay count&apos; compte un texte venant d’un tube</translation>
     </message>
     <message>
         <source>the clipboard is empty</source>
@@ -2425,15 +2453,15 @@
     <name>presentation</name>
     <message>
         <source>not enough memory to send it to the counting service</source>
-        <translation type="unfinished"></translation>
+        <translation>mémoire insuffisante pour l’envoyer au service de comptage</translation>
     </message>
     <message>
         <source>there is no session bus, over which the counting service is reached; run again without --service</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de bus de session, par lequel on atteint le service de comptage&#x202f;; relancez sans --service</translation>
     </message>
     <message>
         <source>the counting service does not answer; run again without --service, or &apos;quillbay doctor&apos; to find out why</source>
-        <translation type="unfinished"></translation>
+        <translation>le service de comptage ne répond pas&#x202f;; relancez sans --service, ou &apos;quillbay doctor&apos; pour en trouver la raison</translation>
     </message>
 </context>
 <context>

@@ -86,6 +86,20 @@ TEST_F(CountUsageTest, MessagesAreEnglishInALanguageWithoutATranslation)
     }
 }
 
+TEST_F(CountUsageTest, MessagesAndTablesAreInTheLanguageOfTheUserAndJsonIsTheSame)
+{
+    const QByteArray name = file("name", "One b.");
+    const QByteArray json = count({"--json", name}).output;
+    const QByteArray tsv = count({"--tsv", name}).output;
+    ::setenv("LANGUAGE", "fr:de", 1); // the counting rules remain those of LANG
+    EXPECT_TRUE(count({name}).output.contains("Phrases"));
+    EXPECT_EQ(count({"--json", name}).output, json);
+    EXPECT_EQ(count({"--tsv", name}).output, tsv);
+    ::setenv("LANGUAGE", "de", 1);
+    EXPECT_EQ(count({"/missing"}).errors, QByteArray("quillbay: /missing: gibt es nicht\n"));
+    EXPECT_EQ(count({"--json", name}).output, json);
+}
+
 TEST_F(CountUsageTest, OptionsMayFollowFilesAndTwoDashesEndThem)
 {
     const QByteArray name = file("--json", "One.");
