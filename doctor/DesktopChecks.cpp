@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The checks of the display: windows, selections, the tray.
 #include "doctor/Checks.h"
+#include "platform/display/Displays.h"
 #include "platform/display/XDisplay.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/session_bus/SessionBusState.h"
 #include "platform/wayland/WaylandConnection.h"
-
-#include <QDir>
-#include <QLibraryInfo>
 
 #include <algorithm>
 #include <array>
@@ -19,16 +17,9 @@ QString xDisplayName()
     return qEnvironmentVariable("DISPLAY");
 }
 
-/// Whether Qt can open windows on Wayland without X.
-bool hasWaylandPlugin()
-{
-    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
-    return !plugins.entryList({QStringLiteral("libqwayland*")}).isEmpty();
-}
-
 Finding waylandFinding(const QString &text)
 {
-    if (!hasWaylandPlugin())
+    if (!Displays::hasWaylandPlugin())
         return brokenFinding(
             text + u' ' + Doctor::tr("Windows need an X display, or Qt's plugin for Wayland."),
             Doctor::tr("Install the package xwayland, or else qt6-wayland, and log in again."));

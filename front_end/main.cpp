@@ -2,12 +2,12 @@
 // The service provider: the program with the statistics windows, started by the session bus.
 #include "documents/loading/SandboxedReader.h"
 #include "front_end/ProviderApplication.h"
+#include "platform/display/Displays.h"
 #include "platform/logging/LogChannel.h"
 #include "platform/system/Processes.h"
 #include "platform/views/widgets/ApplicationActivitySource.h"
 #include "platform/views/widgets/ClipboardHandOver.h"
 #include "platform/views/widgets/DesktopAppearance.h"
-#include "platform/views/widgets/Displays.h"
 #include "platform/views/widgets/WidgetDesktop.h"
 #include "translations/Translations.h"
 

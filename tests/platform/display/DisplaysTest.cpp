@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/views/widgets/Displays.h"
+#include "platform/display/Displays.h"
 #include "tests/harness/Compositor.h"
 #include "tests/harness/Display.h"
 #include "tests/harness/QuillbayTest.h"

@@ -13,6 +13,9 @@ void forgetUnreachable();
 /// Whether the variables name a display that Qt can use, or the user has chosen a platform plugin of Qt.
 [[nodiscard]] bool isAny();
 
+/// Whether Qt can use Wayland, for which it has a plugin in a package of its own.
+[[nodiscard]] bool hasWaylandPlugin();
+
 /// Whether the program's windows stay above those of other programs, and choose their place. True on X,
 /// Xwayland included; Wayland has no such requests for ordinary windows.
 [[nodiscard]] bool keepWindowsAbove();

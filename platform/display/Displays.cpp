@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/views/widgets/Displays.h"
+#include "platform/display/Displays.h"
 
 #include "platform/wayland/WaylandConnection.h"
 
@@ -20,14 +20,6 @@ bool answersX()
     return answers;
 }
 
-/// Without it Qt aborts on Wayland. It is a package of its own.
-bool hasWaylandPlugin()
-{
-    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
-    return qEnvironmentVariableIsSet("QT_PLUGIN_PATH")
-        || !plugins.entryList({QStringLiteral("libqwayland*")}).isEmpty();
-}
-
 } // namespace
 
 void Displays::forgetUnreachable()
@@ -36,6 +28,13 @@ void Displays::forgetUnreachable()
         qunsetenv("DISPLAY");
     if (!WaylandConnection().isConnected())
         qunsetenv("WAYLAND_DISPLAY");
+}
+
+bool Displays::hasWaylandPlugin()
+{
+    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+    return qEnvironmentVariableIsSet("QT_PLUGIN_PATH")
+        || !plugins.entryList({QStringLiteral("libqwayland*")}).isEmpty();
 }
 
 bool Displays::isAny()
