@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
-// manual_generator FOLDER VERSION DATE: writes the man pages and the shells' completions of all programs,
-// during the build. In FOLDER they lie as in the share folder of an installation.
+// manual_generator FOLDER VERSION DATE [LANGUAGE TRANSLATION]…: writes the man pages and the shells'
+// completions of all programs, during the build. In FOLDER they lie as in the share folder of an
+// installation. Man pages are written in English and in each LANGUAGE, such as "de", with the texts of the
+// file TRANSLATION.
 #include "manual/Completions.h"
 #include "manual/ManText.h"
 #include "manual/ManualPages.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -22,22 +26,48 @@ bool writeFile(const QString &path, const QByteArray &contents)
     return false;
 }
 
-} // namespace
-
-int main(int argumentCount, char **arguments)
+/// folder: of one language.
+bool writeManPages(const QString &folder, const ManualRelease &release)
 {
-    if (argumentCount != 4) {
-        std::fputs("usage: manual_generator FOLDER VERSION DATE\n", stderr);
-        return 2;
-    }
-    const QString folder = QFile::decodeName(arguments[1]) + u'/';
-    const ManualRelease release{.version = arguments[2], .date = arguments[3]};
     bool isComplete = true;
     for (const ManualPage *const page : manualPages()) {
         const QString section = QString::number(page->section);
         isComplete &= writeFile(
-            folder + QStringLiteral("man/man%1/%2.%1").arg(section, QString::fromLatin1(page->pageName())),
+            folder + QStringLiteral("/man%1/%2.%1").arg(section, QString::fromLatin1(page->pageName())),
             manText(*page, release));
+    }
+    return isComplete;
+}
+
+bool writeTranslatedManPages(const QString &folder, const QString &translation, const ManualRelease &release)
+{
+    QTranslator translator;
+    if (!translator.load(translation)) {
+        std::fprintf(stderr, "%s: is no translation\n", qPrintable(translation));
+        return false;
+    }
+    QCoreApplication::installTranslator(&translator);
+    const bool isComplete = writeManPages(folder, release);
+    QCoreApplication::removeTranslator(&translator);
+    return isComplete;
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    if (argumentCount < 4 || argumentCount % 2 != 0) {
+        std::fputs("usage: manual_generator FOLDER VERSION DATE [LANGUAGE TRANSLATION]…\n", stderr);
+        return 2;
+    }
+    const QCoreApplication application(argumentCount, arguments);
+    const QString folder = QFile::decodeName(arguments[1]) + u'/';
+    const ManualRelease release{.version = arguments[2], .date = arguments[3]};
+    bool isComplete = writeManPages(folder + QStringLiteral("man"), release);
+    for (int i = 4; i < argumentCount; i += 2) {
+        const QString language = QString::fromLatin1(arguments[i]);
+        isComplete &= writeTranslatedManPages(
+            folder + QStringLiteral("man/") + language, QFile::decodeName(arguments[i + 1]), release);
     }
     for (const CompletedProgram &program : completedPrograms()) {
         const QString name = QString::fromLatin1(program.page.program);

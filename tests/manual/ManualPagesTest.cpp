@@ -27,10 +27,12 @@ protected:
         return process.run((page.command ? QByteArrayList{page.command} : QByteArrayList()) + words);
     }
 
-    static QString manFile(const ManualPage &page)
+    /// language: as "de/".
+    static QString manFile(const ManualPage &page, const char *language = "")
     {
-        return QStringLiteral(SHARE_FOLDER "/man/man%1/%2.%1")
-            .arg(QString::number(page.section), QString::fromLatin1(page.pageName()));
+        return QStringLiteral(SHARE_FOLDER "/man/%3man%1/%2.%1")
+            .arg(QString::number(page.section), QString::fromLatin1(page.pageName()),
+                QString::fromLatin1(language));
     }
 };
 
@@ -149,8 +151,10 @@ TEST_F(ManualPagesTest, ThePageOfPreferencesListsEachOfThem)
 TEST_F(ManualPagesTest, EveryPageIsAManPage)
 {
     QStringList expected;
-    for (const ManualPage *const page : manualPages())
-        expected.append(manFile(*page));
+    for (const ManualPage *const page : manualPages()) {
+        for (const char *const language : {"", "de/", "fr/"})
+            expected.append(manFile(*page, language));
+    }
     QStringList written;
     for (QDirIterator file(QStringLiteral(SHARE_FOLDER "/man"), QDir::Files, QDirIterator::Subdirectories);
          file.hasNext();)
@@ -192,13 +196,18 @@ TEST_F(ManualPagesTest, ManPagesAreWellFormed)
     EXPECT_EQ(ChildProcess(QStringLiteral("mandoc")).run(words).output, QByteArray());
 }
 
-TEST_F(ManualPagesTest, ManShowsThemWithoutAWarning)
+TEST_F(ManualPagesTest, ManShowsThemWithoutAWarningInEveryLanguage)
 {
     SKIP_WITHOUT_PACKAGE(!QStandardPaths::findExecutable(QStringLiteral("man")).isEmpty(), "man-db");
-    ChildProcess man(QStringLiteral("man"));
-    const ChildProcess::Outcome outcome =
-        man.withVariable("MANWIDTH", "80")
-            .run({"--warnings", "-E", "UTF-8", "-l", QFile::encodeName(manFile(countPage()))});
-    EXPECT_EQ(outcome.errors, QByteArray());
-    EXPECT_THAT(outcome.output.toStdString(), StartsWith("QUILLBAY-COUNT(1)"));
+    const std::vector<std::pair<const char *, const char *>> titles{
+        {"", "\nEXIT STATUS\n"}, {"de/", "\nRÜCKGABEWERT\n"}, {"fr/", "\nCODE DE RETOUR\n"}};
+    for (const auto &[language, title] : titles) {
+        ChildProcess man(QStringLiteral("man"));
+        const ChildProcess::Outcome outcome =
+            man.withVariable("MANWIDTH", "80")
+                .run({"--warnings", "-E", "UTF-8", "-l", QFile::encodeName(manFile(countPage(), language))});
+        EXPECT_EQ(outcome.errors, QByteArray());
+        EXPECT_THAT(outcome.output.toStdString(), StartsWith("QUILLBAY-COUNT(1)"));
+        EXPECT_TRUE(outcome.output.contains(title)) << outcome.output.constData();
+    }
 }
