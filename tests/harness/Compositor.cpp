@@ -99,9 +99,9 @@ TestCompositor::~TestCompositor()
     }
 }
 
-void TestCompositor::pressKeys(const QStringList &arguments)
+void TestCompositor::pressKey()
 {
-    EXPECT_EQ(QProcess::execute(wtype, arguments), 0);
+    EXPECT_EQ(QProcess::execute(wtype, {QStringLiteral("a")}), 0);
 }
 
 void TestCompositor::suspend() const

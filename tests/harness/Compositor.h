@@ -14,14 +14,14 @@ public:
     static bool isInstalled();
     static constexpr char packages[] = "sway, wtype";
 
-    /// Starts it and sets WAYLAND_DISPLAY, or fails the test. It has a keyboard, for pressKeys().
+    /// Starts it and sets WAYLAND_DISPLAY, or fails the test. It has a keyboard, for pressKey().
     TestCompositor();
     TestCompositor(const TestCompositor &) = delete;
     TestCompositor &operator=(const TestCompositor &) = delete;
     ~TestCompositor();
 
-    /// Gives the window that has the focus a key with modifiers, as {"-M", "ctrl", "a"}: arguments of wtype.
-    static void pressKeys(const QStringList &arguments);
+    /// Presses a letter for the window that has the focus.
+    static void pressKey();
 
     /// While suspended it keeps its connections and does not answer.
     void suspend() const;

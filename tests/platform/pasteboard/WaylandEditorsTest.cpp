@@ -17,12 +17,6 @@ protected:
             + QStringLiteral("/platforms/libqwayland-generic.so"));
     }
 
-    /// Selects the whole text in the editor with the focus, and copies it.
-    static void selectAndCopy()
-    {
-        TestCompositor::pressKeys({QStringLiteral("-M"), QStringLiteral("ctrl"), QStringLiteral("a"),
-            QStringLiteral("c"), QStringLiteral("-m"), QStringLiteral("ctrl")});
-    }
     static void readWithFocus(SelectionName name, ChildProcess &editor)
     {
         WaylandConnection connection;
@@ -51,7 +45,7 @@ TEST_F(WaylandEditors, OfGtkAreRead)
     const QByteArray state = editor.readLine();
     SKIP_WITHOUT_PACKAGE(state != "missing", "gir1.2-gtk-3.0");
     ASSERT_EQ(state, QByteArray("focused"));
-    selectAndCopy();
+    TestCompositor::pressKey(); // selects and copies
     expectText(SelectionName::Primary, QStringLiteral("Four words of caf\u00e9"));
     expectText(SelectionName::Clipboard, QStringLiteral("Four words of caf\u00e9"));
 }
@@ -62,7 +56,7 @@ TEST_F(WaylandEditors, OfQtAreRead)
     ChildProcess editor(testProgram(QStringLiteral("editor_in_qt")));
     editor.start({});
     ASSERT_EQ(editor.readLine(), QByteArray("focused"));
-    selectAndCopy();
+    TestCompositor::pressKey(); // selects and copies
     expectText(SelectionName::Primary, QStringLiteral("Four bold words, caf\u00e9"));
     expectText(SelectionName::Clipboard, QStringLiteral("Four bold words, caf\u00e9"));
     EXPECT_TRUE(formsOf(read()).contains(QStringLiteral("text/html")));
@@ -74,7 +68,7 @@ TEST_F(WaylandEditors, AWindowTakesTheFocusToReadThemAndGivesItBack)
     ChildProcess editor(testProgram(QStringLiteral("editor_in_qt")));
     editor.start({});
     ASSERT_EQ(editor.readLine(), QByteArray("focused"));
-    selectAndCopy();
+    TestCompositor::pressKey(); // selects and copies
     expectText(SelectionName::Clipboard, QStringLiteral("Four bold words, caf\u00e9"));
     for (const SelectionName name : {SelectionName::Primary, SelectionName::Clipboard}) {
         readWithFocus(name, editor);

@@ -1,7 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""editor_in_gtk: as editor_in_qt.cpp, with GTK, but any key selects and copies: GTK finds no shortcut in the keymap
-of a virtual keyboard. Prints "missing" without the package gir1.2-gtk-3.0."""
+"""editor_in_gtk: as editor_in_qt.cpp, with GTK. Prints "missing" without the package gir1.2-gtk-3.0."""
 import sys
 
 try:
