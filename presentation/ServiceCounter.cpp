@@ -20,6 +20,17 @@ QString memoryFailure()
         "presentation", "not enough memory to send it to the counting service");
 }
 
+/// The service gives the cause in English, whatever its own language is.
+QString inUsersLanguage(const QString &cause)
+{
+    const QByteArray source = cause.toUtf8();
+    for (const char *const room : {"documents", "counting_service", "platform/files"}) {
+        if (QString text = QCoreApplication::translate(room, source.constData()); text != cause)
+            return text;
+    }
+    return cause;
+}
+
 } // namespace
 
 ServiceCounter::ServiceCounter()
@@ -53,7 +64,7 @@ Outcome ServiceCounter::countDocument(DocumentKind kind, QByteArrayView bytes)
     service.countDocument(
         kind, std::make_shared<const SealedMemory>(std::move(memory).value()),
         [promise](const QBYWordCounterStats &stats) { promise->set_value(stats); },
-        [promise](const QString &cause) { promise->set_value(cause); });
+        [promise](const QString &cause) { promise->set_value(inUsersLanguage(cause)); });
     promise.reset();
     try {
         return answer.get();

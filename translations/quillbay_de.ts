@@ -1917,6 +1917,45 @@
     </message>
 </context>
 <context>
+    <name>counting_service</name>
+    <message>
+        <source>the request has no document</source>
+        <translation>die Anfrage enthält kein Dokument</translation>
+    </message>
+    <message>
+        <source>is not a memory file sealed against writing and shrinking</source>
+        <translation>ist keine gegen Schreiben und Verkleinern versiegelte Speicherdatei</translation>
+    </message>
+    <message>
+        <source>is not as long as its sender said</source>
+        <translation>ist nicht so lang, wie der Absender angab</translation>
+    </message>
+    <message>
+        <source>is larger than the service accepts</source>
+        <translation>ist größer, als der Dienst annimmt</translation>
+    </message>
+    <message>
+        <source>could not be received</source>
+        <translation>konnte nicht empfangen werden</translation>
+    </message>
+    <message>
+        <source>is of a type that the counting service does not read</source>
+        <translation>ist von einem Typ, den der Zähldienst nicht liest</translation>
+    </message>
+    <message>
+        <source>no worker could be started</source>
+        <translation>der Zähldienst konnte keinen Prozess starten</translation>
+    </message>
+    <message>
+        <source>every worker that tried has failed</source>
+        <translation>der Zähldienst ist daran mehrmals gescheitert</translation>
+    </message>
+    <message>
+        <source>could not be read</source>
+        <translation>konnte nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
     <name>documents</name>
     <message>
         <source>is not plain text</source>

@@ -1917,6 +1917,45 @@
     </message>
 </context>
 <context>
+    <name>counting_service</name>
+    <message>
+        <source>the request has no document</source>
+        <translation>la demande ne contient pas de document</translation>
+    </message>
+    <message>
+        <source>is not a memory file sealed against writing and shrinking</source>
+        <translation>n’est pas un fichier mémoire scellé contre l’écriture et la réduction</translation>
+    </message>
+    <message>
+        <source>is not as long as its sender said</source>
+        <translation>n’a pas la longueur indiquée par l’expéditeur</translation>
+    </message>
+    <message>
+        <source>is larger than the service accepts</source>
+        <translation>dépasse ce que le service accepte</translation>
+    </message>
+    <message>
+        <source>could not be received</source>
+        <translation>n’a pas pu être reçu</translation>
+    </message>
+    <message>
+        <source>is of a type that the counting service does not read</source>
+        <translation>est d’un type que le service de comptage ne lit pas</translation>
+    </message>
+    <message>
+        <source>no worker could be started</source>
+        <translation>le service de comptage n’a pas pu lancer de processus</translation>
+    </message>
+    <message>
+        <source>every worker that tried has failed</source>
+        <translation>le service de comptage a échoué plusieurs fois</translation>
+    </message>
+    <message>
+        <source>could not be read</source>
+        <translation>n’a pas pu être lu</translation>
+    </message>
+</context>
+<context>
     <name>documents</name>
     <message>
         <source>is not plain text</source>
