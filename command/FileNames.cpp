@@ -109,7 +109,7 @@ QByteArray jsonName(const QByteArray &name)
 
 QByteArray jsonFileMembers(const QByteArray &name)
 {
-    const QByteArray file = "\"file\":" + jsonName(name);
+    QByteArray file = "\"file\":" + jsonName(name);
     if (QByteArrayView(name).isValidUtf8())
         return file;
     return file + ",\"url\":\"" + fileURLOfName(name).toEncoded() + '"'; // printable ASCII without quotes

@@ -55,7 +55,7 @@ Contents readPipe(const QByteArray &name)
             return FileError{FileError::Cause::NamedPipe};
         start = *first;
     }
-    Contents rest = readDescriptor(pipe.get());
+    const Contents rest = readDescriptor(pipe.get());
     return rest && !start.isEmpty() ? start + rest.value() : rest;
 }
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -132,8 +133,8 @@ void startProgram(gpointer, gpointer data)
 {
     const auto *const start = static_cast<const Start *>(data);
     GList *files = nullptr;
-    for (auto file = start->selection->rbegin(); file != start->selection->rend(); ++file)
-        files = g_list_prepend(files, file->location.get());
+    for (const auto &file : *start->selection | std::views::reverse)
+        files = g_list_prepend(files, file.location.get());
     GError *failure = nullptr;
     if (!g_app_info_launch(G_APP_INFO(start->program.get()), files, nullptr, &failure)) {
         const std::unique_ptr<GError, Free> error(failure);
@@ -159,8 +160,8 @@ gpointer newMenuItem(
     Program program = programOf(action.get(), profile, label);
     if (!program)
         return nullptr;
-    const gpointer item = interface.newItem(actionFile, label.c_str(),
-        textIn(action.get(), "Description").c_str(), textIn(action.get(), "Icon").c_str());
+    gpointer item = interface.newItem(actionFile, label.c_str(), textIn(action.get(), "Description").c_str(),
+        textIn(action.get(), "Icon").c_str());
     g_signal_connect_data(item, "activate", G_CALLBACK(startProgram),
         new Start{std::move(program), std::move(selection)}, deleteStart, GConnectFlags(0));
     return item;
@@ -177,7 +178,7 @@ GList *newMenuItems(const FileManagerInterface &interface, GList *files)
         return nullptr;
     GList *items = nullptr;
     for (const char *const actionFile : actionFiles) {
-        if (const gpointer item = newMenuItem(interface, actionFile, selection))
+        if (gpointer item = newMenuItem(interface, actionFile, selection))
             items = g_list_append(items, item);
     }
     return items;

@@ -145,11 +145,11 @@ Result<Pasteboard, Cause> read(SelectionName name, SelectionContent content, qui
     const bool isShown = wayland.isConnected() && WaylandSelection::isOffered(wayland, access, name);
     if (isShown) {
         WaylandSelection selection(wayland, access, name, maxBytes);
-        const Result<Pasteboard, Cause> pasteboard = readFrom(selection, content);
+        Result<Pasteboard, Cause> pasteboard = readFrom(selection, content);
         if (pasteboard || pasteboard.error() != Cause::NothingSelected)
             return pasteboard;
     }
-    const Result<Pasteboard, Cause> pasteboard = readFromXDisplay(name, content, maxBytes);
+    Result<Pasteboard, Cause> pasteboard = readFromXDisplay(name, content, maxBytes);
     if (pasteboard || pasteboard.error() != Cause::NoDisplay || !wayland.isConnected())
         return pasteboard;
     return isShown ? Cause::NothingSelected : readWithFocus(wayland, name, content, maxBytes);

@@ -28,7 +28,7 @@ bool hasKeys(const QString &value, const QKeySequence &keys)
 
 } // namespace
 
-GSettingsShortcut::GSettingsShortcut(const GSettingsLayout &layout, ShortcutCommand command)
+GSettingsShortcut::GSettingsShortcut(const GSettingsLayout &layout, const ShortcutCommand &command)
     : m_layout(layout)
     , m_title(command.title)
     , m_commandLine(commandLineOf(command.words))

@@ -22,7 +22,7 @@ struct GSettingsLayout {
 
 class GSettingsShortcut : public DesktopShortcut {
 public:
-    GSettingsShortcut(const GSettingsLayout &layout, ShortcutCommand command);
+    GSettingsShortcut(const GSettingsLayout &layout, const ShortcutCommand &command);
 
     [[nodiscard]] QString desktop() const override;
     [[nodiscard]] Result<QKeySequence, QString> keys() override;
@@ -35,7 +35,7 @@ private:
     [[nodiscard]] Result<QStringList, QString> items() const;
     [[nodiscard]] Result<QStringList, QString> ownItems() const;
     [[nodiscard]] QString newItem(const QStringList &others) const;
-    Failure setItems(const QStringList &items) const;
+    [[nodiscard]] Failure setItems(const QStringList &items) const;
     [[nodiscard]] QString schemaOf(const QString &item) const;
     [[nodiscard]] QString valueIn(const QString &item, const char *key) const;
     Failure set(const QString &item, const char *key, const QString &value) const;

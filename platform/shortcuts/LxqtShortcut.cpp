@@ -55,8 +55,7 @@ bool isOwn(const Action &action, const ShortcutCommand &command)
 /// Qt's name of the modifier of the Windows key is LXQt's; that of Ctrl is not.
 QKeySequence keysOf(QString shortcut)
 {
-    return QKeySequence(
-        shortcut.replace(QLatin1String("Control"), QLatin1String("Ctrl")), QKeySequence::PortableText);
+    return {shortcut.replace(QLatin1String("Control"), QLatin1String("Ctrl")), QKeySequence::PortableText};
 }
 
 QString shortcutOf(const QKeySequence &keys)

@@ -51,7 +51,7 @@ QKeySequence keysOf(const Property &property)
 
 } // namespace
 
-XfceShortcut::XfceShortcut(ShortcutCommand command)
+XfceShortcut::XfceShortcut(const ShortcutCommand &command)
     : m_commandLine(commandLineOf(command.words))
 {
 }

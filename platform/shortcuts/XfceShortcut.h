@@ -7,7 +7,7 @@
 
 class XfceShortcut : public DesktopShortcut {
 public:
-    explicit XfceShortcut(ShortcutCommand command);
+    explicit XfceShortcut(const ShortcutCommand &command);
 
     [[nodiscard]] QString desktop() const override;
     [[nodiscard]] Result<QKeySequence, QString> keys() override;

@@ -207,7 +207,8 @@ private:
         const QString theme = attribute("theme");
         const QString text = m_xml.readElementText(
             isIcon ? QXmlStreamReader::SkipChildElements : QXmlStreamReader::ErrorOnUnexpectedElement);
-        const QString value = isIcon ? theme : isTranslated ? translated(text) : text;
+        const QString shown = isTranslated ? translated(text) : text;
+        const QString value = isIcon ? theme : shown;
         bool isInteger = false;
         const qint64 number = value.toLongLong(&isInteger);
         if (!setProperty(view, name, value)) {
