@@ -3,6 +3,7 @@
 
 #include "desk/PaperPage.h"
 #include "desk/RulesPage.h"
+#include "desk/ShortcutPage.h"
 #include "desk/why/WhyPage.h"
 #include "platform/defaults/UserDefaults.h"
 #include "ui_DeskWindow.h"
@@ -31,6 +32,16 @@ QString pageKey()
     return QStringLiteral("Page");
 }
 
+/// The command lies beside this program.
+ShortcutCommand countSelectionCommand()
+{
+    return {.title = DeskWindow::tr("Count Selected Text"),
+        .words = {QCoreApplication::applicationDirPath() + QStringLiteral("/quillbay"),
+            QStringLiteral("selection")},
+        .desktopFile = QStringLiteral("com.quillbay.Quillbay.desktop"),
+        .desktopAction = QStringLiteral("CountSelectedText")};
+}
+
 } // namespace
 
 DeskWindow::DeskWindow(const QString &speechLaunchPath)
@@ -45,6 +56,8 @@ DeskWindow::DeskWindow(const QString &speechLaunchPath)
     addPage(*new PaperPage(m_editor, m_papers), tr("Page"));
     m_whyPage = new WhyPage;
     addPage(*m_whyPage, tr("Why"));
+    const ShortcutCommand command = countSelectionCommand();
+    addPage(*new ShortcutPage(shortcutOfCurrentDesktop(command), command), tr("Shortcut"));
     connect(&m_editor, &RulesEditor::changed, m_whyPage, &WhyPage::followRules);
     connect(&m_editor, &RulesEditor::failed, this, [this](const QString &file) {
         setNotice(tr("%1: cannot be written, so the change is not stored. Check the permissions and the "

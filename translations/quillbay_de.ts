@@ -170,6 +170,14 @@
         <source>&amp;Redo %1</source>
         <translation>&amp;Wiederholen: %1</translation>
     </message>
+    <message>
+        <source>Count Selected Text</source>
+        <translation>Ausgewählten Text zählen</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Tastenkürzel</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1331,6 +1339,49 @@
     <message>
         <source>No speech program is installed: %1 does not exist. Nothing will be spoken.</source>
         <translation>Es ist kein Sprachprogramm installiert: %1 gibt es nicht. Nichts wird vorgelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutPage</name>
+    <message>
+        <source>&amp;Count the selected text of any application when I press keys</source>
+        <translation>Ausgewählten Text jeder Anwendung auf Tastendruck &amp;zählen</translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation>&amp;Tasten:</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>The keys are stored in the settings of your desktop. You can change them there too.</source>
+        <translation>Die Tasten stehen in den Einstellungen der Arbeitsumgebung und lassen sich auch dort ändern.</translation>
+    </message>
+    <message>
+        <source>Quillbay cannot change the shortcuts of this desktop. To count the selected text of any application when you press keys, bind this &amp;command to them in the desktop&apos;s own settings:</source>
+        <translation>Quillbay kann die Tastenkürzel dieser Arbeitsumgebung nicht ändern. Um ausgewählten Text jeder Anwendung auf Tastendruck zu zählen, diesen &amp;Befehl in den Einstellungen der Arbeitsumgebung mit Tasten verbinden:</translation>
+    </message>
+    <message>
+        <source>Click the keys, then press Ctrl, Alt or Meta together with another key.</source>
+        <translation>In das Feld mit den Tasten klicken, dann Strg, Alt oder Meta zusammen mit einer anderen Taste drücken.</translation>
+    </message>
+    <message>
+        <source>The settings of %1 cannot be used: %2.</source>
+        <translation>Die Einstellungen von %1 lassen sich nicht verwenden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2” in %3, so it was not changed. Choose other keys.</source>
+        <translation>%1 ist in %3 schon mit „%2“ belegt und bleibt unverändert. Bitte andere Tasten wählen.</translation>
+    </message>
+    <message>
+        <source>No keys count the selected text.</source>
+        <translation>Keine Tasten zählen den ausgewählten Text.</translation>
+    </message>
+    <message>
+        <source>Select text anywhere and press %1.</source>
+        <translation>Irgendwo Text auswählen und %1 drücken.</translation>
     </message>
 </context>
 <context>

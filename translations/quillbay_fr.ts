@@ -170,6 +170,14 @@
         <source>&amp;Redo %1</source>
         <translation>Re&amp;faire&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Count Selected Text</source>
+        <translation>Compter le texte sélectionné</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Raccourci</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -1331,6 +1339,49 @@
     <message>
         <source>No speech program is installed: %1 does not exist. Nothing will be spoken.</source>
         <translation>Aucun programme de synthèse vocale n’est installé&#xa0;: %1 n’existe pas. Rien ne sera énoncé.</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutPage</name>
+    <message>
+        <source>&amp;Count the selected text of any application when I press keys</source>
+        <translation>&amp;Compter le texte sélectionné de toute application par un raccourci</translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation>&amp;Touches&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>The keys are stored in the settings of your desktop. You can change them there too.</source>
+        <translation>Les touches sont enregistrées dans les réglages de votre bureau. Vous pouvez aussi les y changer.</translation>
+    </message>
+    <message>
+        <source>Quillbay cannot change the shortcuts of this desktop. To count the selected text of any application when you press keys, bind this &amp;command to them in the desktop&apos;s own settings:</source>
+        <translation>Quillbay ne peut pas changer les raccourcis de ce bureau. Pour compter le texte sélectionné de toute application par un raccourci, associez cette &amp;commande à des touches dans les réglages du bureau&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Click the keys, then press Ctrl, Alt or Meta together with another key.</source>
+        <translation>Cliquez sur les touches, puis appuyez sur Ctrl, Alt ou Meta avec une autre touche.</translation>
+    </message>
+    <message>
+        <source>The settings of %1 cannot be used: %2.</source>
+        <translation>Les réglages de %1 sont inutilisables&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is used for “%2” in %3, so it was not changed. Choose other keys.</source>
+        <translation>%1 sert déjà à «&#xa0;%2&#xa0;» dans %3 et n’a pas été changé. Choisissez d’autres touches.</translation>
+    </message>
+    <message>
+        <source>No keys count the selected text.</source>
+        <translation>Aucun raccourci ne compte le texte sélectionné.</translation>
+    </message>
+    <message>
+        <source>Select text anywhere and press %1.</source>
+        <translation>Sélectionnez du texte n’importe où et appuyez sur %1.</translation>
     </message>
 </context>
 <context>

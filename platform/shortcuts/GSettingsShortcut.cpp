@@ -31,7 +31,7 @@ bool hasKeys(const QString &value, const QKeySequence &keys)
 GSettingsShortcut::GSettingsShortcut(const GSettingsLayout &layout, const ShortcutCommand &command)
     : m_layout(layout)
     , m_title(command.title)
-    , m_commandLine(commandLineOf(command.words))
+    , m_words(command.words)
 {
 }
 
@@ -82,7 +82,7 @@ Result<QStringList, QString> GSettingsShortcut::ownItems() const
         return all.error();
     QStringList own;
     for (const QString &item : all.value()) {
-        if (stringsInGVariant(valueIn(item, m_layout.commandKey)).value(0) == m_commandLine)
+        if (isCommandLineOf(stringsInGVariant(valueIn(item, m_layout.commandKey)).value(0), m_words))
             own.append(item);
     }
     return own;
@@ -162,7 +162,7 @@ DesktopShortcut::Failure GSettingsShortcut::bind(const QKeySequence &keys)
     // The list last: some desktops read the items when it changes.
     if (Failure failure = set(item, "name", gvariantOf(m_title)))
         return failure;
-    if (Failure failure = set(item, m_layout.commandKey, gvariantOf(m_commandLine)))
+    if (Failure failure = set(item, m_layout.commandKey, gvariantOf(commandLineOf(m_words))))
         return failure;
     if (Failure failure = set(item, "binding", binding))
         return failure;

@@ -42,7 +42,7 @@ private:
 
     const GSettingsLayout &m_layout;
     const QString m_title;
-    const QString m_commandLine;
+    const QStringList m_words;
 };
 
 extern const GSettingsLayout gnomeLayout;

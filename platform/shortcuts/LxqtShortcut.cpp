@@ -49,7 +49,7 @@ Result<std::vector<Action>, QString> actions()
 
 bool isOwn(const Action &action, const ShortcutCommand &command)
 {
-    return action.info == commandLineOf(command.words);
+    return isCommandLineOf(action.info, command.words);
 }
 
 /// Qt's name of the modifier of the Windows key is LXQt's; that of Ctrl is not.

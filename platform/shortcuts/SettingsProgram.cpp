@@ -40,3 +40,10 @@ QString commandLineOf(const QStringList &words)
     }
     return quoted.join(u' ');
 }
+
+bool isCommandLineOf(const QString &commandLine, const QStringList &words)
+{
+    QStringList withoutPath = words;
+    withoutPath.first() = words.first().section(u'/', -1);
+    return commandLine == commandLineOf(words) || commandLine == commandLineOf(withoutPath);
+}

@@ -14,3 +14,6 @@ Result<QByteArray, QString> runSettingsProgram(const QString &program, const QSt
 
 /// One command line of the words, quoted where a shell needs it.
 QString commandLineOf(const QStringList &words);
+
+/// Whether the command line starts the words, with the path of the program or, as users write it, without.
+bool isCommandLineOf(const QString &commandLine, const QStringList &words);

@@ -4,6 +4,7 @@
 #include "platform/shortcuts/Accelerator.h"
 #include "platform/shortcuts/SettingsProgram.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -49,10 +50,21 @@ QKeySequence keysOf(const Property &property)
     return keysOfAccelerator(property.name.section(u'/', -1));
 }
 
+/// The custom shortcuts of the commands, and those of the window manager, replace all the default ones.
+bool isInForce(const Property &property, const std::vector<Property> &all)
+{
+    const QString name =
+        QString(property.name).replace(QLatin1String("/default/"), QLatin1String("/custom/"));
+    const QString replacement = name.section(u'/', 0, 2) + QStringLiteral("/override");
+    return name == property.name || std::none_of(all.begin(), all.end(), [&](const Property &other) {
+        return other.name == replacement && other.value == QLatin1String("true");
+    });
+}
+
 } // namespace
 
 XfceShortcut::XfceShortcut(const ShortcutCommand &command)
-    : m_commandLine(commandLineOf(command.words))
+    : m_words(command.words)
 {
 }
 
@@ -67,7 +79,7 @@ Result<QKeySequence, QString> XfceShortcut::keys()
     if (!all)
         return all.error();
     for (const Property &property : all.value()) {
-        if (property.name.startsWith(customCommands()) && property.value == m_commandLine)
+        if (property.name.startsWith(customCommands()) && isCommandLineOf(property.value, m_words))
             return keysOf(property);
     }
     return QKeySequence();
@@ -80,7 +92,8 @@ QString XfceShortcut::userOf(const QKeySequence &keys)
         return {};
     // Of the commands and of the window manager.
     for (const Property &property : all.value()) {
-        if (keysOf(property) == keys && !property.value.isEmpty() && property.value != m_commandLine)
+        if (keysOf(property) == keys && !property.value.isEmpty() && isInForce(property, all.value())
+            && !isCommandLineOf(property.value, m_words))
             return property.value;
     }
     return {};
@@ -91,9 +104,9 @@ DesktopShortcut::Failure XfceShortcut::bind(const QKeySequence &keys)
     // Each property is for other keys.
     if (Failure failure = unbind())
         return failure;
-    const Result<QByteArray, QString> result = query(
-        {QStringLiteral("--property"), customCommands() + acceleratorOf(keys), QStringLiteral("--create"),
-            QStringLiteral("--type"), QStringLiteral("string"), QStringLiteral("--set"), m_commandLine});
+    const Result<QByteArray, QString> result = query({QStringLiteral("--property"),
+        customCommands() + acceleratorOf(keys), QStringLiteral("--create"), QStringLiteral("--type"),
+        QStringLiteral("string"), QStringLiteral("--set"), commandLineOf(m_words)});
     return result ? Failure() : result.error();
 }
 
@@ -103,7 +116,7 @@ DesktopShortcut::Failure XfceShortcut::unbind()
     if (!all)
         return all.error();
     for (const Property &property : all.value()) {
-        if (!property.name.startsWith(customCommands()) || property.value != m_commandLine)
+        if (!property.name.startsWith(customCommands()) || !isCommandLineOf(property.value, m_words))
             continue;
         const Result<QByteArray, QString> result =
             query({QStringLiteral("--property"), property.name, QStringLiteral("--reset")});

@@ -16,5 +16,5 @@ public:
     Failure unbind() override;
 
 private:
-    const QString m_commandLine;
+    const QStringList m_words;
 };

@@ -69,7 +69,7 @@ protected:
             .desktopAction = QStringLiteral("CountSelectedText")};
     }
     static QKeySequence keys() { return {QStringLiteral("Meta+Shift+W")}; }
-    static QKeySequence otherKeys() { return {QStringLiteral("Ctrl+Alt+F9")}; }
+    static QKeySequence otherKeys() { return {QStringLiteral("Ctrl+Alt+Shift+F9")}; }
 
     static bool isInstalled(const QString &program)
     {

@@ -58,3 +58,21 @@ TEST_F(XfceShortcutInXfconf, FollowsKeysThatTheUserChangesInTheSettings)
     set("/commands/custom/<Primary>F5", "'/opt/quill bay/bin/quillbay' selection");
     EXPECT_EQ(m_shortcut.keys().value(), QKeySequence(QStringLiteral("Ctrl+F5")));
 }
+
+TEST_F(XfceShortcutInXfconf, IgnoresDefaultsThatTheUsersOwnReplace)
+{
+    const QKeySequence defaultKeys(QStringLiteral("Alt+F12"));
+    set("/xfwm4/default/<Alt>F12", "above_key");
+    EXPECT_EQ(m_shortcut.userOf(defaultKeys), QStringLiteral("above_key"));
+    set("/xfwm4/custom/override", "true");
+    EXPECT_EQ(m_shortcut.userOf(defaultKeys), QString());
+    outputOf(QStringLiteral("xfconf-query"),
+        {"-c", "xfce4-keyboard-shortcuts", "-p", "/xfwm4/custom/override", "-r"});
+}
+
+TEST_F(XfceShortcutInXfconf, KnowsAnEntryThatTheUserHasTyped)
+{
+    set("/commands/custom/<Primary><Alt>q", "quillbay selection");
+    EXPECT_EQ(m_shortcut.keys().value(), QKeySequence(QStringLiteral("Ctrl+Alt+Q")));
+    EXPECT_EQ(m_shortcut.userOf(QKeySequence(QStringLiteral("Ctrl+Alt+Q"))), QString());
+}
