@@ -30,8 +30,8 @@ constexpr size_t maxTypeLength = 256;
 
 /// What the protocols for selections differ in.
 struct WaylandSelection::Variant {
-    const wl_interface *manager; ///< null if the compositor offers none
-    const wl_interface *device;
+    const wl_interface &manager;
+    const wl_interface &device;
     uint32_t selectionEvent;
     uint32_t receiveRequest = 0;
     uint32_t destroyOfferRequest = 1;
@@ -65,32 +65,35 @@ WaylandSelection::Variant WaylandSelection::variantFor(
     using Interfaces = SelectionInterfaces;
     const bool isPrimary = name == SelectionName::Primary;
     if (access == Access::AnyProgram) {
-        const Interfaces *const control = Interfaces::offeredDataControl(connection);
-        return {control ? &control->manager() : nullptr, control ? &control->device() : nullptr,
+        const Interfaces *const offered = Interfaces::offeredDataControl(connection);
+        const Interfaces &control = offered ? *offered : Interfaces::wlrootsDataControl();
+        return {control.manager(), control.device(),
             isPrimary ? Interfaces::PrimarySelection : Interfaces::Selection};
     }
-    const Variant variant = isPrimary
-        ? Variant{&Interfaces::primarySelection().manager(), &Interfaces::primarySelection().device(),
-            Interfaces::Selection}
-        : Variant{&wl_data_device_manager_interface, &wl_data_device_interface, /*selection event*/ 5,
-            WL_DATA_OFFER_RECEIVE, WL_DATA_OFFER_DESTROY};
-    return connection.offers(*variant.manager) ? variant : Variant{};
+    if (isPrimary) {
+        const Interfaces &primary = Interfaces::primarySelection();
+        return {primary.manager(), primary.device(), Interfaces::Selection};
+    }
+    constexpr uint32_t selectionEvent = 5;
+    return {wl_data_device_manager_interface, wl_data_device_interface, selectionEvent, WL_DATA_OFFER_RECEIVE,
+        WL_DATA_OFFER_DESTROY};
 }
 
 bool WaylandSelection::isOffered(const WaylandConnection &connection, Access access, SelectionName name)
 {
-    return connection.offers(wl_seat_interface) && variantFor(connection, access, name).manager;
+    return connection.offers(wl_seat_interface)
+        && connection.offers(variantFor(connection, access, name).manager);
 }
 
 WaylandSelection::WaylandSelection(
     WaylandConnection &connection, Access access, SelectionName name, quint64 maxBytes)
     : m_connection(connection)
     , m_variant(std::make_unique<const Variant>(variantFor(connection, access, name)))
-    , m_manager(connection.bind(*m_variant->manager))
+    , m_manager(connection.bind(m_variant->manager))
     , m_seat(connection.bind(wl_seat_interface))
     , m_deviceHandler(
           [this](uint32_t opcode, const wl_argument *arguments) { handleDevice(opcode, arguments); })
-    , m_device(WaylandConnection::make(m_manager, SelectionInterfaces::GetDevice, *m_variant->device,
+    , m_device(WaylandConnection::make(m_manager, SelectionInterfaces::GetDevice, m_variant->device,
           {{.o = nullptr}, {.o = reinterpret_cast<wl_object *>(m_seat.get())}}))
     , m_deadline(totalTimeout)
     , m_bytesLeft(maxBytes)

@@ -12,7 +12,6 @@ import subprocess
 import sys
 import tempfile
 import time
-import time
 
 from compositors import COMPOSITORS, call, wait_until
 from gi.repository import GLib
