@@ -40,6 +40,8 @@ ShortcutPage::ShortcutPage(std::shared_ptr<DesktopShortcut> shortcut, const Shor
     , m_ui(std::make_unique<Ui::ShortcutPage>())
 {
     m_ui->setupUi(this);
+    const QKeySequence longest(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::META | Qt::Key_PageDown);
+    m_ui->keysEdit->setMinimumWidth(fontMetrics().horizontalAdvance(nameOf(longest)));
     m_ui->keysEdit->setKeySequence(suggestedKeys());
     m_ui->commandEdit->setText(commandLineOf(command.words));
     m_ui->switchWidget->setVisible(m_shortcut != nullptr);

@@ -1377,7 +1377,7 @@
     </message>
     <message>
         <source>No keys count the selected text.</source>
-        <translation>Keine Tasten zählen den ausgewählten Text.</translation>
+        <translation>Kein Tastenkürzel zählt den ausgewählten Text.</translation>
     </message>
     <message>
         <source>Select text anywhere and press %1.</source>
