@@ -52,9 +52,9 @@ void installTranslations()
 void installQtTranslations()
 {
     const QString language = userLanguage();
-    auto *const translator = new QTranslator(QCoreApplication::instance());
+    static auto &translator = *new QTranslator;
     if (!language.isEmpty()
-        && translator->load(
+        && translator.load(
             QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(translator);
+        QCoreApplication::installTranslator(&translator);
 }
