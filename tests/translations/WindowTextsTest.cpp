@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Whether every text in every window goes through the translation.
 #include "desk/DeskWindow.h"
+#include "desk/why/WhyPage.h"
 #include "front_end/QBYServiceProviderShowStatsWindowController.h"
 #include "platform/views/widgets/WidgetDesktop.h"
 #include "preferences/QBYUserDefaultsController.h"
@@ -94,7 +95,8 @@ TEST_F(WindowTexts, OfTheMainWindowInTroubleAreTranslated)
     QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
     DeskWindow window(QStringLiteral("/nonexistent/say"));
     window.show();
-    const auto *const state = window.findChild<QLabel *>(QStringLiteral("stateLabel"));
+    const auto *const state =
+        window.findChild<WhyPage *>()->findChild<QLabel *>(QStringLiteral("stateLabel"));
     window.openFiles({QUrl::fromLocalFile(QStringLiteral("/12.txt"))});
     EXPECT_TRUE(waitUntil([&] { return state->text().contains(u':'); }));
     window.openFiles({QUrl(QStringLiteral("http://1.2/3"))});
