@@ -78,4 +78,5 @@ TEST_P(ConsoleExamples, PrintWhatTheDocumentShows)
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, ConsoleExamples,
-    ::testing::Values("README.md", "docs/explain.md", "docs/preferences.md", "docs/rules.md"));
+    ::testing::Values("README.md", "docs/explain.md", "docs/preferences.md", "docs/privacy-and-sandbox.md",
+        "docs/rules.md"));
