@@ -48,6 +48,7 @@ protected:
 
 TEST_F(InstalledSessionChecks, AWholeDesktopHasNoFaultAndTheStatusIsZero)
 {
+    setLocale("C.UTF-8"); // the only one that every machine has
     ChildProcess notifications(testProgram(QStringLiteral("notification_server")));
     notifications.start({});
     EXPECT_EQ(notifications.readLine(), QByteArray("ready"));

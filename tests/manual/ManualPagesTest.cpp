@@ -205,6 +205,7 @@ TEST_F(ManualPagesTest, ManShowsThemWithoutAWarningInEveryLanguage)
         ChildProcess man(QStringLiteral("man"));
         const ChildProcess::Outcome outcome =
             man.withVariable("MANWIDTH", "80")
+                .withVariable("LC_ALL", "C.UTF-8") // man warns of a locale that is not installed
                 .run({"--warnings", "-E", "UTF-8", "-l", QFile::encodeName(manFile(countPage(), language))});
         EXPECT_EQ(outcome.errors, QByteArray());
         EXPECT_THAT(outcome.output.toStdString(), StartsWith("QUILLBAY-COUNT(1)"));
