@@ -16,8 +16,13 @@ public:
         TestDisplay::xdotool(search());
     }
 
-    /// Makes the window manager give it the focus, like a click on its title bar.
-    void activate() const { TestDisplay::xdotool(search() + QStringList{QStringLiteral("windowactivate")}); }
+    /// Makes the window manager give it the focus, like a click on its title bar, and returns once it has it:
+    /// before that, Alt+Tab would go the other way.
+    void activate() const
+    {
+        TestDisplay::xdotool(
+            search() + QStringList{QStringLiteral("windowactivate"), QStringLiteral("--sync")});
+    }
 
 private:
     static constexpr auto name = "another-program";
