@@ -108,14 +108,3 @@ void reportError(const QString &message)
     std::fflush(stdout);
     std::fprintf(stderr, "quillbay: %s\n", message.toUtf8().constData());
 }
-
-void print(const QByteArray &bytes)
-{
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
-}
-
-int printText(const QByteArray &text)
-{
-    print(text);
-    return std::fflush(stdout) == 0 ? 0 : 1;
-}

@@ -39,9 +39,3 @@ int reportWrongUsage(const char *command, const QString &message);
 
 /// Prints the message behind "quillbay: " on standard error, behind what has been printed to standard output.
 void reportError(const QString &message);
-
-/// Writes to standard output, whose errors show when it is flushed.
-void print(const QByteArray &bytes);
-
-/// Prints to standard output. Returns the exit status: 1 if standard output cannot be written.
-int printText(const QByteArray &text);

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "command/CountArguments.h"
 
-#include "command/CommandWords.h"
-#include "manual/ManualPages.h"
-
 namespace {
 
 /// Wrong combinations, with their message; empty if all is right.
@@ -31,22 +28,18 @@ CountFormat formatOf(const CommandWords &words)
 
 } // namespace
 
-std::optional<CountArguments> CountArguments::fromWords(int wordCount, char **words)
+std::optional<CountArguments> CountArguments::fromWords(const CommandWords &words)
 {
-    const std::optional<CommandWords> given = CommandWords::parse(countPage(), wordCount, words);
-    if (!given)
-        return std::nullopt;
-    if (const QString misuse = wrongCombinationIn(*given); !misuse.isEmpty()) {
+    if (const QString misuse = wrongCombinationIn(words); !misuse.isEmpty()) {
         reportWrongUsage("count", misuse);
         return std::nullopt;
     }
-    CountArguments arguments{.format = formatOf(*given),
-        .wantsHelp = given->wantsHelp(),
-        .wantsRules = given->switches.contains("explain-rules"),
-        .readAs = given->switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind,
-        .wantsService = given->switches.contains("service"),
-        .listName = given->valueOf("files-from"),
-        .fileNames = given->operands};
+    CountArguments arguments{.format = formatOf(words),
+        .wantsRules = words.switches.contains("explain-rules"),
+        .readAs = words.switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind,
+        .wantsService = words.switches.contains("service"),
+        .listName = words.valueOf("files-from"),
+        .fileNames = words.operands};
     if (!arguments.listName && arguments.fileNames.isEmpty() && !arguments.wantsRules)
         arguments.fileNames.append("-");
     return arguments;

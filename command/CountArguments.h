@@ -3,6 +3,7 @@
 // Thread: main; a value.
 #pragma once
 
+#include "command/CommandWords.h"
 #include "command/NamedDocument.h"
 
 #include <QByteArray>
@@ -14,14 +15,12 @@ enum class CountFormat { Table, Json, Tsv };
 
 struct CountArguments {
     CountFormat format = CountFormat::Table;
-    bool wantsHelp = false;
     bool wantsRules = false; ///< print the rules of the counts instead of the counts
     ReadAs readAs = ReadAs::ItsKind;
     bool wantsService = false; ///< count in the counting service instead of in this process
     std::optional<QByteArray> listName; ///< the file that lists names; "-" for standard input
     QByteArrayList fileNames; ///< "-" for standard input
 
-    /// Parses the words after "quillbay count". Absent after wrong usage, which is reported on standard
-    /// error.
-    static std::optional<CountArguments> fromWords(int wordCount, char **words);
+    /// Absent after wrong usage, which is reported on standard error.
+    static std::optional<CountArguments> fromWords(const CommandWords &words);
 };

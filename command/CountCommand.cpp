@@ -12,10 +12,9 @@
 #include "command/ProgressLine.h"
 #include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
-#include "manual/HelpText.h"
-#include "manual/ManualPages.h"
 #include "platform/system/Processors.h"
 #include "platform/system/Result.h"
+#include "platform/system/StandardOutput.h"
 #include "platform/system/SystemError.h"
 #include "presentation/ServiceCounter.h"
 #include "text_statistics/ColumnCounter.h"
@@ -269,12 +268,8 @@ void CountCommand::fail(const QByteArray &name, const QString &cause)
 
 } // namespace
 
-int runCountCommand(int wordCount, char **words)
+int runCountCommand(const CommandWords &words)
 {
-    const std::optional<CountArguments> arguments = CountArguments::fromWords(wordCount, words);
-    if (!arguments)
-        return wrongUsageStatus;
-    if (arguments->wantsHelp)
-        return printText(helpText(countPage()));
-    return CountCommand(*arguments).run();
+    const std::optional<CountArguments> arguments = CountArguments::fromWords(words);
+    return arguments ? CountCommand(*arguments).run() : wrongUsageStatus;
 }

@@ -4,8 +4,7 @@
 #include "command/Commands.h"
 #include "command/DoctorReport.h"
 #include "doctor/Examination.h"
-#include "manual/HelpText.h"
-#include "manual/ManualPages.h"
+#include "platform/system/StandardOutput.h"
 
 #include <cstdio>
 
@@ -33,15 +32,10 @@ int printJson()
 
 } // namespace
 
-int runDoctorCommand(int wordCount, char **words)
+int runDoctorCommand(const CommandWords &words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse(doctorPage(), wordCount, words);
-    if (!wanted)
-        return wrongUsageStatus;
-    if (wanted->wantsHelp())
-        return printText(helpText(doctorPage()));
-    if (!wanted->operands.isEmpty())
+    if (!words.operands.isEmpty())
         return reportWrongUsage("doctor", CommandText::tr("doctor takes no file"));
-    const int status = wanted->switches.contains("json") ? printJson() : printFindings();
+    const int status = words.switches.contains("json") ? printJson() : printFindings();
     return std::fflush(stdout) == 0 ? status : 1;
 }

@@ -9,9 +9,8 @@
 #include "command/MarkedText.h"
 #include "command/NamedDocument.h"
 #include "command/ProgressLine.h"
-#include "manual/HelpText.h"
-#include "manual/ManualPages.h"
 #include "platform/segmentation/GraphemeClusters.h"
+#include "platform/system/StandardOutput.h"
 #include "platform/system/SystemError.h"
 #include "text_statistics/ColumnCounter.h"
 #include "text_statistics/MeasuringSurface.h"
@@ -207,13 +206,8 @@ ExplainOptions optionsOf(const CommandWords &words)
 
 } // namespace
 
-int runExplainCommand(int wordCount, char **words)
+int runExplainCommand(const CommandWords &words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse(explainPage(), wordCount, words);
-    if (!wanted)
-        return wrongUsageStatus;
-    if (wanted->wantsHelp())
-        return printText(helpText(explainPage()));
-    ExplainCommand command(optionsOf(*wanted));
-    return command.run(wanted->operands.isEmpty() ? QByteArrayList{standardInputName} : wanted->operands);
+    ExplainCommand command(optionsOf(words));
+    return command.run(words.operands.isEmpty() ? QByteArrayList{standardInputName} : words.operands);
 }

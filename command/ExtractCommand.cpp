@@ -7,9 +7,8 @@
 #include "command/NamedDocument.h"
 #include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
-#include "manual/HelpText.h"
-#include "manual/ManualPages.h"
 #include "platform/files/FileContents.h"
+#include "platform/system/StandardOutput.h"
 #include "platform/system/SystemError.h"
 #include "text_statistics/TextCounter.h"
 
@@ -155,14 +154,9 @@ void ExtractCommand::fail(const QByteArray &name, const QString &cause)
 
 } // namespace
 
-int runExtractCommand(int wordCount, char **words)
+int runExtractCommand(const CommandWords &words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse(extractPage(), wordCount, words);
-    if (!wanted)
-        return wrongUsageStatus;
-    if (wanted->wantsHelp())
-        return printText(helpText(extractPage()));
-    const ReadAs readAs = wanted->switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind;
-    ExtractCommand command(wanted->switches.contains("json"), readAs);
-    return command.run(wanted->operands.isEmpty() ? QByteArrayList{standardInputName} : wanted->operands);
+    const ReadAs readAs = words.switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind;
+    ExtractCommand command(words.switches.contains("json"), readAs);
+    return command.run(words.operands.isEmpty() ? QByteArrayList{standardInputName} : words.operands);
 }

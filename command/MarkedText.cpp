@@ -5,6 +5,7 @@
 #include "command/FileNames.h"
 #include "platform/segmentation/GraphemeClusters.h"
 #include "platform/segmentation/Paragraphs.h"
+#include "platform/system/StandardOutput.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -5,9 +5,8 @@
 #include "command/FileNames.h"
 #include "command/FirstLaunchStep.h"
 #include "command/PreferenceText.h"
-#include "manual/HelpText.h"
-#include "manual/ManualPages.h"
 #include "platform/defaults/FaultText.h"
+#include "platform/system/StandardOutput.h"
 #include "preferences/QBYUserDefaultsController.h"
 
 #include <algorithm>
@@ -141,20 +140,15 @@ int run(const CommandWords &words)
 
 } // namespace
 
-int runPreferencesCommand(int wordCount, char **words)
+int runPreferencesCommand(const CommandWords &words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse(preferencesPage(), wordCount, words);
-    if (!wanted)
-        return wrongUsageStatus;
-    if (wanted->wantsHelp())
-        return printText(helpText(preferencesPage()));
-    if (const QString misuse = misuseOf(*wanted); !misuse.isEmpty())
+    if (const QString misuse = misuseOf(words); !misuse.isEmpty())
         return reportWrongUsage("preferences", misuse);
-    const bool prints = wanted->operands.size() < 2 && !wanted->switches.contains("reset")
-        && !wanted->switches.contains("reset-all");
+    const bool prints = words.operands.size() < 2 && !words.switches.contains("reset")
+        && !words.switches.contains("reset-all");
     if (prints)
         runFirstLaunchStep();
     else // setting a value will report that it cannot be stored
         QBYUserDefaultsController::configureUserDefaultsOnApplicationLaunch();
-    return run(*wanted);
+    return run(words);
 }

@@ -3,8 +3,6 @@
 #include "command/CommandWords.h"
 #include "command/Commands.h"
 #include "command/ServiceCommand.h"
-#include "manual/HelpText.h"
-#include "manual/ManualPages.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
 
@@ -23,16 +21,11 @@ int openWindow(SelectionName name)
 
 } // namespace
 
-int runSelectionCommand(int wordCount, char **words)
+int runSelectionCommand(const CommandWords &words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse(selectionPage(), wordCount, words);
-    if (!wanted)
-        return wrongUsageStatus;
-    if (wanted->wantsHelp())
-        return printText(helpText(selectionPage()));
-    if (!wanted->operands.isEmpty())
+    if (!words.operands.isEmpty())
         return reportWrongUsage(
             "selection", CommandText::tr("selection takes no file; use 'quillbay text FILE'"));
     return openWindow(
-        wanted->switches.contains("clipboard") ? SelectionName::Clipboard : SelectionName::Primary);
+        words.switches.contains("clipboard") ? SelectionName::Clipboard : SelectionName::Primary);
 }

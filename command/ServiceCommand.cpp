@@ -6,22 +6,10 @@
 #include "command/FirstLaunchStep.h"
 #include "platform/services/ServiceInterface.h"
 #include "platform/services/ServiceMessageSender.h"
+#include "platform/session_bus/ActivationToken.h"
 #include "platform/session_bus/UserNotification.h"
 
 namespace {
-
-/// The token that allows the new window to take the focus; that of X11 if there are two, as the windows use
-/// X11. Tokens are valid once, so child processes must not inherit it.
-QString takeActivationToken()
-{
-    QString token;
-    for (const char *const name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
-        if (const QString value = qEnvironmentVariable(name); !value.isEmpty())
-            token = value;
-        qunsetenv(name);
-    }
-    return token;
-}
 
 QString sentenceOf(const QString &cause)
 {
@@ -31,16 +19,11 @@ QString sentenceOf(const QString &cause)
     return sentence;
 }
 
-bool hasDisplay()
-{
-    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-}
-
 QString explanationOf(const ServiceMessageFailure &failure)
 {
     using Cause = ServiceMessageFailure::Cause;
     // Not asked before: a provider that runs already has its display.
-    if (failure.cause != Cause::Refused && !hasDisplay())
+    if (failure.cause != Cause::Refused && !isInSessionWithDisplay())
         return CommandText::tr(
             "there is no display for the window; run this in a terminal of your desktop, or use "
             "'quillbay count', which needs none");
@@ -56,12 +39,12 @@ QString explanationOf(const ServiceMessageFailure &failure)
 
 int performService(const QString &service, const Pasteboard &pasteboard, FailureReport report)
 {
-    const QString token = takeActivationToken();
+    const QByteArray token = takeActivationToken();
     runFirstLaunchStep();
     exportSessionEnvironment();
     QVariantMap options;
     if (!token.isEmpty())
-        options.insert(ServiceInterface::activationTokenOption(), token);
+        options.insert(ServiceInterface::activationTokenOption(), QString::fromLocal8Bit(token));
     const std::optional<ServiceMessageFailure> failure = sendServiceMessage(service, pasteboard, options);
     return failure ? reportFailure(explanationOf(*failure), report) : 0;
 }

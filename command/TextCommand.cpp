@@ -7,8 +7,6 @@
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
 #include "documents/rtfd/RtfdWriter.h"
-#include "manual/HelpText.h"
-#include "manual/ManualPages.h"
 
 #include <new>
 #include <optional>
@@ -64,13 +62,8 @@ int openWindows(const QByteArrayList &names)
 
 } // namespace
 
-int runTextCommand(int wordCount, char **words)
+int runTextCommand(const CommandWords &words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse(textPage(), wordCount, words);
-    if (!wanted)
-        return wrongUsageStatus;
-    if (wanted->wantsHelp())
-        return printText(helpText(textPage()));
     return openWindows(
-        wanted->operands.isEmpty() ? QByteArrayList{standardInputName} : namesOfOperands(wanted->operands));
+        words.operands.isEmpty() ? QByteArrayList{standardInputName} : namesOfOperands(words.operands));
 }

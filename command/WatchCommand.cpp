@@ -6,8 +6,6 @@
 #include "command/LeftOutFiles.h"
 #include "command/NamedDocument.h"
 #include "command/ServiceCommand.h"
-#include "manual/HelpText.h"
-#include "manual/ManualPages.h"
 #include "platform/pasteboard/Selection.h"
 #include "platform/services/PasteboardWire.h"
 #include "platform/system/FileURL.h"
@@ -71,20 +69,15 @@ int watchCopiedFiles()
 
 } // namespace
 
-int runWatchCommand(int wordCount, char **words)
+int runWatchCommand(const CommandWords &words)
 {
-    const std::optional<CommandWords> wanted = CommandWords::parse(watchPage(), wordCount, words);
-    if (!wanted)
-        return wrongUsageStatus;
-    if (wanted->wantsHelp())
-        return printText(helpText(watchPage()));
-    const bool fromClipboard = wanted->switches.contains("clipboard");
-    if (wanted->operands.isEmpty() != fromClipboard)
+    const bool fromClipboard = words.switches.contains("clipboard");
+    if (words.operands.isEmpty() != fromClipboard)
         return reportWrongUsage("watch",
             fromClipboard ? CommandText::tr("either --clipboard or files, not both")
                           : CommandText::tr("no file given"));
     try {
-        return fromClipboard ? watchCopiedFiles() : watch(namesOfOperands(wanted->operands));
+        return fromClipboard ? watchCopiedFiles() : watch(namesOfOperands(words.operands));
     } catch (const std::bad_alloc &) {
         return reportFailure(causeText(FileError{FileError::Cause::NotEnoughMemory}), report);
     }

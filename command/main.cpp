@@ -6,6 +6,7 @@
 #include "manual/HelpText.h"
 #include "manual/ManualPages.h"
 #include "platform/system/Processes.h"
+#include "platform/system/StandardOutput.h"
 #include "translations/Translations.h"
 
 #include <QCoreApplication>
@@ -18,19 +19,19 @@
 namespace {
 
 struct Command {
-    std::string_view name;
-    int (*run)(int wordCount, char **words); ///< words: those after the name
+    const ManualPage &(*page)();
+    int (*run)(const CommandWords &words); ///< returns the exit status
 };
 
 constexpr Command commands[] = {
-    {"count", runCountCommand},
-    {"doctor", runDoctorCommand},
-    {"explain", runExplainCommand},
-    {"extract", runExtractCommand},
-    {"preferences", runPreferencesCommand},
-    {"selection", runSelectionCommand},
-    {"text", runTextCommand},
-    {"watch", runWatchCommand},
+    {countPage, runCountCommand},
+    {doctorPage, runDoctorCommand},
+    {explainPage, runExplainCommand},
+    {extractPage, runExtractCommand},
+    {preferencesPage, runPreferencesCommand},
+    {selectionPage, runSelectionCommand},
+    {textPage, runTextCommand},
+    {watchPage, runWatchCommand},
 };
 
 QString unknownCommand(const QByteArray &typed)
@@ -39,14 +40,14 @@ QString unknownCommand(const QByteArray &typed)
 }
 
 /// quillbay help [COMMAND]. Returns the exit status.
-int printHelp(int wordCount, char **words)
+int runHelp(int wordCount, char **words)
 {
     if (wordCount > 1)
         return reportWrongUsage(nullptr, CommandText::tr("one command at a time"));
     if (wordCount == 0)
-        return printText(helpText(quillbayPage()));
+        return printHelp(quillbayPage());
     if (const ManualPage *const page = pageOfCommand(words[0]))
-        return printText(helpText(*page));
+        return printHelp(*page);
     return reportWrongUsage(nullptr, unknownCommand(words[0]));
 }
 
@@ -54,14 +55,19 @@ int printHelp(int wordCount, char **words)
 int runNamed(std::string_view name, int wordCount, char **words)
 {
     if (name == "--help" || name == "-h")
-        return printHelp(0, nullptr);
+        return printHelp(quillbayPage());
     if (name == "--version" || name == "-V")
         return printText("quillbay " QUILLBAY_VERSION "\n");
     if (name == "help")
-        return printHelp(wordCount, words);
+        return runHelp(wordCount, words);
     for (const Command &command : commands) {
-        if (command.name == name)
-            return command.run(wordCount, words);
+        const ManualPage &page = command.page();
+        if (page.command != name)
+            continue;
+        const std::optional<CommandWords> given = CommandWords::parse(page, wordCount, words);
+        if (!given)
+            return wrongUsageStatus;
+        return given->wantsHelp() ? printHelp(page) : command.run(*given);
     }
     if (name.empty())
         return reportWrongUsage(nullptr, CommandText::tr("no command given"));

@@ -7,6 +7,7 @@
 #include "platform/sandbox/FontSources.h"
 #include "platform/sandbox/Sandbox.h"
 #include "platform/system/Processes.h"
+#include "platform/system/StandardOutput.h"
 #include "platform/system/TerminationSignals.h"
 
 #include <QCoreApplication>
@@ -21,12 +22,6 @@ namespace {
 
 constexpr int wrongUsage = 2;
 constexpr char workerArgument[] = "--worker"; // internal: only the broker starts workers
-
-int printText(const QByteArray &text)
-{
-    std::fputs(text.constData(), stdout);
-    return std::fflush(stdout) == 0 ? 0 : 1;
-}
 
 std::optional<std::chrono::milliseconds> parseIdleTime(std::string_view word)
 {
@@ -80,7 +75,7 @@ int main(int argumentCount, char **arguments)
     if (word == workerArgument)
         return runWorker();
     if (word == "--help" || word == "-h")
-        return printText(helpText(countingServicePage()));
+        return printHelp(countingServicePage());
     if (word == "--version" || word == "-V")
         return printText("quillbay-counting-service " QUILLBAY_VERSION "\n");
     const std::span<char *const> words(arguments, static_cast<size_t>(argumentCount));

@@ -6,9 +6,11 @@
 #include "manual/ManualPages.h"
 #include "platform/defaults/FaultText.h"
 #include "platform/display/Displays.h"
+#include "platform/session_bus/ActivationToken.h"
 #include "platform/session_bus/UniqueApplication.h"
 #include "platform/system/FileURL.h"
 #include "platform/system/Processes.h"
+#include "platform/system/StandardOutput.h"
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/WindowActivation.h"
 #include "preferences/QBYUserDefaultsController.h"
@@ -26,25 +28,6 @@ namespace {
 // Exit statuses, besides 0.
 constexpr int notShown = 1; // no display
 constexpr int wrongUsage = 2;
-
-/// Tokens are valid once, so child processes must not inherit it. That of X11 if there are two, of which Qt
-/// uses X11.
-QByteArray takeActivationToken()
-{
-    QByteArray token;
-    for (const char *const name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
-        if (const QByteArray value = qgetenv(name); !value.isEmpty())
-            token = value;
-        qunsetenv(name);
-    }
-    return token;
-}
-
-int printText(const QByteArray &text)
-{
-    std::fputs(text.constData(), stdout);
-    return std::fflush(stdout) == 0 ? 0 : 1;
-}
 
 int reportWrongUsage(const char *message)
 {
@@ -121,7 +104,7 @@ int main(int argumentCount, char **arguments)
     keepMemoryPrivate();
     const std::string_view word = argumentCount > 1 ? arguments[1] : "";
     if (word == "--help" || word == "-h")
-        return printText(helpText(deskPage()));
+        return printHelp(deskPage());
     if (word == "--version" || word == "-V")
         return printText("quillbay-desk " QUILLBAY_VERSION "\n");
     Displays::forgetUnreachable();

@@ -20,16 +20,6 @@
 
 namespace {
 
-/// The locale that the environment asks for; empty if it asks for none.
-QByteArray wantedLocale()
-{
-    for (const char *const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (const QByteArray value = qgetenv(name); !value.isEmpty())
-            return value;
-    }
-    return {};
-}
-
 QByteArray folderOf(const QByteArray &path)
 {
     return path.first(path.lastIndexOf('/'));
@@ -77,12 +67,12 @@ Finding checkVersions()
 
 Finding checkLocale()
 {
-    const QByteArray wanted = wantedLocale();
+    const char *const wanted = wantedLocaleName();
     const QString identifier = currentLocaleIdentifier();
     const QString letters = currentTextRules().areLoneUnitsCounted()
         ? Doctor::tr("A letter that stands alone counts as a word.")
         : Doctor::tr("A letter that stands alone counts as a word only if it is a, I, O or x.");
-    const bool isWanted = !wanted.isEmpty() && wanted != "C" && !wanted.startsWith("C.") && wanted != "POSIX";
+    const bool isWanted = !isCLocale(wanted);
     const QByteArray currentName = std::setlocale(LC_MESSAGES, nullptr);
     if (isWanted && currentName == "C")
         return limitedFinding(

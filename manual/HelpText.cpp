@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "manual/HelpText.h"
 
+#include "platform/system/StandardOutput.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -131,4 +133,9 @@ QByteArray helpText(const ManualPage &page)
         rows.emplace_back(QString::number(row.status), row.text);
     help += titledList(QT_TRANSLATE_NOOP("Manual", "Exit status:"), rows);
     return help.toUtf8();
+}
+
+int printHelp(const ManualPage &page)
+{
+    return printText(helpText(page));
 }

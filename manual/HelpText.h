@@ -9,5 +9,8 @@
 
 QByteArray helpText(const ManualPage &page);
 
+/// Prints it to standard output. Returns the exit status: 1 if standard output cannot be written.
+int printHelp(const ManualPage &page);
+
 /// The words that an option is listed with: "-h, --help" or "--files-from LIST".
 QString optionLabel(const ManualOption &option);

@@ -1,18 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "translations/UserLanguage.h"
 
+#include "platform/locale/CurrentLocale.h"
+
 #include <QtGlobal>
 
 namespace {
-
-QString localeName()
-{
-    for (const char *const variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty())
-            return name;
-    }
-    return {};
-}
 
 /// The language of a locale's name: that of "de_AT.UTF-8@euro" is "de".
 QString languageOf(const QString &locale)
@@ -23,22 +16,17 @@ QString languageOf(const QString &locale)
     return locale.left(end).toLower();
 }
 
-bool isCLocale(const QString &name)
-{
-    return name.isEmpty() || name == u"POSIX" || languageOf(name) == u"c";
-}
-
 } // namespace
 
 QStringList userLanguages()
 {
-    const QString locale = localeName();
+    const char *const locale = wantedLocaleName();
     if (isCLocale(locale))
         return {};
     QStringList languages;
     for (const QString &name : qEnvironmentVariable("LANGUAGE").split(u':', Qt::SkipEmptyParts))
         languages.append(languageOf(name));
-    return languages.isEmpty() ? QStringList{languageOf(locale)} : languages;
+    return languages.isEmpty() ? QStringList{languageOf(QString::fromLocal8Bit(locale))} : languages;
 }
 
 QString userLanguageAmong(const QStringList &available)

@@ -45,5 +45,5 @@ bool Displays::isAny()
 
 bool Displays::keepWindowsAbove()
 {
-    return answersX();
+    return !qEnvironmentVariableIsEmpty("DISPLAY");
 }

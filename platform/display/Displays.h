@@ -16,8 +16,8 @@ void forgetUnreachable();
 /// Whether Qt can use Wayland, for which it has a plugin in a package of its own.
 [[nodiscard]] bool hasWaylandPlugin();
 
-/// Whether the program's windows stay above those of other programs, and choose their place. True on X,
-/// Xwayland included; Wayland has no such requests for ordinary windows.
+/// After forgetUnreachable(): whether the program's windows stay above those of other programs, and choose
+/// their place. True on X, Xwayland included; Wayland has no such requests for ordinary windows.
 [[nodiscard]] bool keepWindowsAbove();
 
 } // namespace Displays

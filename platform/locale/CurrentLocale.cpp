@@ -10,23 +10,13 @@
 
 namespace {
 
-bool isCLocale(std::string_view name)
-{
-    return name.empty() || name == "C" || name == "POSIX" || name.starts_with("C.");
-}
-
 // The name of the current locale, in the POSIX form language_REGION.charset@variant.
 const char *posixLocaleName()
 {
     const char *name = std::setlocale(LC_MESSAGES, nullptr);
     if (name && !isCLocale(name))
         return name;
-    for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const char *value = std::getenv(variable);
-        if (value && *value)
-            return value;
-    }
-    return "C";
+    return wantedLocaleName();
 }
 
 QString identifierFor(std::string_view posixName)
@@ -49,6 +39,21 @@ QString identifierFor(std::string_view posixName)
 }
 
 } // namespace
+
+const char *wantedLocaleName()
+{
+    for (const char *const variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const char *const value = std::getenv(variable);
+        if (value && *value)
+            return value;
+    }
+    return "C";
+}
+
+bool isCLocale(std::string_view name)
+{
+    return name.empty() || name == "C" || name == "POSIX" || name.starts_with("C.");
+}
 
 QString currentLocaleIdentifier()
 {

@@ -29,8 +29,7 @@ constexpr std::array languageVariables{"LANG", "LANGUAGE", "LC_ALL", "LC_CTYPE",
 /// user's session.
 Environment sessionEnvironment()
 {
-    const bool hasDisplay =
-        !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const bool hasDisplay = isInSessionWithDisplay();
     Environment environment;
     for (const char *const name : languageVariables) {
         if (hasDisplay || qEnvironmentVariableIsSet(name))
@@ -60,6 +59,11 @@ QString causeText(const ServiceMessageFailure &failure)
         return failure.text;
     }
     return {};
+}
+
+bool isInSessionWithDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
 bool exportSessionEnvironment()

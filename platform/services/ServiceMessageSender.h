@@ -23,8 +23,11 @@ struct ServiceMessageFailure {
     QString text;
 };
 
-/// The cause in English, on one line.
+/// The cause in the user's language, on one line.
 QString causeText(const ServiceMessageFailure &failure);
+
+/// Whether the environment names a display, which may have ended.
+bool isInSessionWithDisplay();
 
 /// Hands the display and the locale of this process to the session bus, and through it to systemd: a program
 /// that the bus starts gets neither from its caller. Unset variables become empty there. False if there is no
