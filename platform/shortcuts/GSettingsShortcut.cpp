@@ -75,13 +75,10 @@ Result<QStringList, QString> GSettingsShortcut::items() const
     return items;
 }
 
-Result<QStringList, QString> GSettingsShortcut::ownItems() const
+QStringList GSettingsShortcut::ownAmong(const QStringList &items) const
 {
-    const Result<QStringList, QString> all = items();
-    if (!all)
-        return all.error();
     QStringList own;
-    for (const QString &item : all.value()) {
+    for (const QString &item : items) {
         if (isCommandLineOf(stringsInGVariant(valueIn(item, m_layout.commandKey)).value(0), m_words))
             own.append(item);
     }
@@ -118,10 +115,10 @@ DesktopShortcut::Failure GSettingsShortcut::setItems(const QStringList &items) c
 
 Result<QKeySequence, QString> GSettingsShortcut::keys()
 {
-    const Result<QStringList, QString> own = ownItems();
-    if (!own)
-        return own.error();
-    for (const QString &item : own.value()) {
+    const Result<QStringList, QString> all = items();
+    if (!all)
+        return all.error();
+    for (const QString &item : ownAmong(all.value())) {
         const QKeySequence keys = keysOfAccelerator(stringsInGVariant(valueIn(item, "binding")).value(0));
         if (!keys.isEmpty())
             return keys;
@@ -131,9 +128,10 @@ Result<QKeySequence, QString> GSettingsShortcut::keys()
 
 QString GSettingsShortcut::userOf(const QKeySequence &keys)
 {
-    const Result<QStringList, QString> all = items();
-    const QStringList own = ownItems() ? ownItems().value() : QStringList();
-    for (const QString &item : all ? all.value() : QStringList()) {
+    const Result<QStringList, QString> listed = items();
+    const QStringList all = listed ? listed.value() : QStringList();
+    const QStringList own = ownAmong(all);
+    for (const QString &item : all) {
         if (!own.contains(item) && hasKeys(valueIn(item, "binding"), keys))
             return stringsInGVariant(valueIn(item, "name")).value(0);
     }
@@ -154,8 +152,8 @@ DesktopShortcut::Failure GSettingsShortcut::bind(const QKeySequence &keys)
     const Result<QStringList, QString> all = items();
     if (!all)
         return all.error();
-    const Result<QStringList, QString> own = ownItems();
-    const QString item = own && !own.value().isEmpty() ? own.value().first() : newItem(all.value());
+    const QStringList own = ownAmong(all.value());
+    const QString item = own.isEmpty() ? newItem(all.value()) : own.first();
     const QString accelerator = acceleratorOf(keys);
     const QString binding =
         m_layout.hasManyKeys ? gvariantOf(QStringList{accelerator}) : gvariantOf(accelerator);
@@ -172,17 +170,17 @@ DesktopShortcut::Failure GSettingsShortcut::bind(const QKeySequence &keys)
 DesktopShortcut::Failure GSettingsShortcut::unbind()
 {
     const Result<QStringList, QString> all = items();
-    const Result<QStringList, QString> own = ownItems();
-    if (!all || !own)
-        return all ? own.error() : all.error();
+    if (!all)
+        return all.error();
+    const QStringList own = ownAmong(all.value());
     QStringList left = all.value();
-    for (const QString &item : own.value())
+    for (const QString &item : own)
         left.removeAll(item);
     if (left.size() != all.value().size()) {
         if (Failure failure = setItems(left))
             return failure;
     }
-    for (const QString &item : own.value()) {
+    for (const QString &item : own) {
         const Result<QByteArray, QString> result =
             gsettings({QStringLiteral("reset-recursively"), schemaOf(item)});
         if (!result)

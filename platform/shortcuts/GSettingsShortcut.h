@@ -33,7 +33,8 @@ public:
 private:
     /// The last components of their paths.
     [[nodiscard]] Result<QStringList, QString> items() const;
-    [[nodiscard]] Result<QStringList, QString> ownItems() const;
+    /// Those that start the command.
+    [[nodiscard]] QStringList ownAmong(const QStringList &items) const;
     [[nodiscard]] QString newItem(const QStringList &others) const;
     [[nodiscard]] Failure setItems(const QStringList &items) const;
     [[nodiscard]] QString schemaOf(const QString &item) const;
