@@ -52,7 +52,9 @@ struct DocumentError {
     Cause cause;
     DocumentKind kind = DocumentKind::PlainText; ///< PlainText where it is not known yet
     std::optional<FileError> file = std::nullopt; ///< of FileUnreadable and TextUnreadable
-    QString format = {}; ///< of NotText and UnsupportedFormat, for use after "is": "a PNG image"; in English
+    /// For use after "is", as "a PNG image": of NotText in the language of the messages, of UnsupportedFormat
+    /// in English.
+    QString format = {};
 
     bool operator==(const DocumentError &) const = default;
 };

@@ -33,7 +33,7 @@ struct FileError {
     bool operator==(const FileError &) const = default;
 };
 
-/// The cause in English, on one line, to follow the name of the file: "is a folder".
+/// The cause in the user's language, on one line, to follow the name of the file: "is a folder".
 QString causeText(const FileError &error);
 
 /// The maximum size of a file in bytes. The positions in a text are 32 bits wide, so a text has less than

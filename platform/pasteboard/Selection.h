@@ -32,7 +32,7 @@ struct SelectionFailure {
     SelectionContent content;
 };
 
-/// The cause and a remedy if there is one, in English, on one line without a full stop.
+/// The cause and a remedy if there is one, in the user's language, on one line without a full stop.
 QString causeText(const SelectionFailure &failure);
 
 /// For Text: the richest form that is not empty, and a plain text form. For Files: the first list of files.
