@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // CommandWords are the words after "quillbay COMMAND": the options that the command's page of the manual
-// lists, and operands; with them the messages for wrong usage, for all commands. Thread: main; a value.
+// lists, and operands; with them the messages for wrong usage, for all commands.
+// Thread: main; a value.
 #pragma once
 
 #include "manual/ManualPage.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // MarkedText prints a text for people, line by line, with what counted in [square brackets] and what did not
 // in {curly ones}, and the reasons below each line. It prints while it gets the items, and stores none but a
-// few of the open line. Thread: one at a time.  Owner: the explain command; of one pass over one text.
+// few of the open line.
+// Thread: one at a time.  Owner: the explain command; of one pass over one text.
 #pragma once
 
 #include "text_statistics/CountedItem.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // PagePreview shows the page on which lines are measured: the paper in its proportions, and a text in the
 // column between its margins, broken into the lines that the line count counts; below it the size of the
-// paper. Thread: main.  Owner: PaperPage, as a Qt child.
+// paper.
+// Thread: main.  Owner: PaperPage, as a Qt child.
 #pragma once
 
 #include "text_statistics/CountingRules.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // ShortcutPage is the page on which the user has the desktop count the selected text when keys are pressed;
-// how the desktop stores that is left to platform/shortcuts. Thread: main; the desktop's settings are read
-// and written on a thread of their own.  Owner: the stack of pages, as a Qt child.
+// how the desktop stores that is left to platform/shortcuts.
+// Thread: main; the desktop's settings are read and written on a thread of their own.  Owner: the stack of
+// pages, as a Qt child.
 #pragma once
 
 #include "platform/shortcuts/DesktopShortcut.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Starts watching from the desktop: the files that a file manager hands over, or those that the user chooses.
-// The command "quillbay watch" does the rest, and reports what cannot be watched. Thread: main.
+// The command "quillbay watch" does the rest, and reports what cannot be watched.
+// Thread: main.
 #pragma once
 
 #include <QByteArrayList>

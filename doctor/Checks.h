@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The checks of the user's desktop. Each asks the real thing, by the code that Quillbay's programs use: it
-// has a document read, has words counted, sends the provider a message. Thread: any, one check at a time; a
-// check may block, which Examination bounds.
+// has a document read, has words counted, sends the provider a message.
+// Thread: any, one check at a time; a check may block, which Examination bounds.
 #pragma once
 
 #include "doctor/Finding.h"

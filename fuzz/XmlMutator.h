@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // XmlMutator changes XML element by element, so that most results are still well-formed and reach the reader
-// behind the parser. Thread: any; values.
+// behind the parser.
+// Thread: any; values.
 #pragma once
 
 #include <QByteArray>

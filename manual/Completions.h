@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The files from which shells complete a program's commands, options and operands, from the pages of the
-// manual. Thread: any.
+// manual.
+// Thread: any.
 #pragma once
 
 #include "manual/ManualPage.h"

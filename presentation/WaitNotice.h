@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WaitNotice tells the user what a window waits for whose spinner has turned for long: in the spinner's
-// tooltip and for screen readers, and in the log how to mend it. The window waits on. Thread: main.  Owner:
-// the controller of the window.
+// tooltip and for screen readers, and in the log how to mend it. The window waits on.
+// Thread: main.  Owner: the controller of the window.
 #pragma once
 
 #include "platform/system/Clock.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // ColumnCounter counts texts under fixed rules on any thread, with fonts and break iterators of its own.
-// Texts of windows are counted by WordCounterModel. Thread: one at a time; any.  Owner: the code that counts;
-// expensive to create, so keep it for the next text.
+// Texts of windows are counted by WordCounterModel.
+// Thread: one at a time; any.  Owner: the code that counts; expensive to create, so keep it for the next
+// text.
 #pragma once
 
 #include "platform/styled_text/AttributedString.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ItemReport hands on what the counters find for one statistic, item by item, while they count. It decides
-// nothing that changes a count, and stores no items. Thread: that of the count.  Owner: the code that asks
-// for the items; of one count.
+// nothing that changes a count, and stores no items.
+// Thread: that of the count.  Owner: the code that asks for the items; of one count.
 #pragma once
 
 #include "text_statistics/CountedItem.h"

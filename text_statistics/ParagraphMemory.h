@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // ParagraphMemory remembers the counts of paragraphs, so that counting a text again after an edit costs what
 // has changed. It knows paragraphs by a hash of their text, their style and the rules, and stores none of
-// their content. Counting is left to WordCounterModel. Thread: one at a time.  Owner: WordCounterModel, whose
-// fonts do not change during its life.
+// their content. Counting is left to WordCounterModel.
+// Thread: one at a time.  Owner: WordCounterModel, whose fonts do not change during its life.
 #pragma once
 
 #include "platform/styled_text/AttributedString.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // PlainTextCounter applies the counting rules to plain text in the order of their definition, with a
 // segmenter of ICU. TextCounter gives the same numbers many times faster; this one is what it is compared
-// with, and decides the few cases that it leaves open. Thread: one at a time.  Owner: the code that counts;
-// expensive to create, so keep it for the next text.
+// with, and decides the few cases that it leaves open.
+// Thread: one at a time.  Owner: the code that counts; expensive to create, so keep it for the next text.
 #pragma once
 
 #include "platform/segmentation/Paragraphs.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // UserLanguage is the choice of the language of windows and messages from the variables of the environment,
-// as gettext makes it. The rules of the counts depend on the locale alone (platform/locale/). Thread: any.
+// as gettext makes it. The rules of the counts depend on the locale alone (platform/locale/).
+// Thread: any.
 #pragma once
 
 #include <QStringList>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // CountingService is the broker: it owns the service's name on the session bus, answers every request once
 // unless its client has left the bus, and exits when it has been idle for a while. It never reads documents:
-// WorkerPool has them counted, under the rules of RulesSource. Thread: main.  Owner: main().
+// WorkerPool has them counted, under the rules of RulesSource.
+// Thread: main.  Owner: main().
 #pragma once
 
 #include "counting_service/broker/RulesSource.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The messages between broker and worker, as bytes: the worker's greeting, then requests and one reply to
 // each, at most one sign of progress before it. A message is one short packet; the document is sent with it
-// as a descriptor (PacketSocket.h). Thread: any; values.
+// as a descriptor (PacketSocket.h).
+// Thread: any; values.
 #pragma once
 
 #include "counting_service/protocol/CountFailure.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // StyleSheets are the rules in the style elements of a page that set display or visibility, the properties
 // that hide text, and in the sheets to which its link elements refer if the caller has them. Which rules
-// apply to an element is left to StyleCascade. Thread: any; a value.
+// apply to an element is left to StyleCascade.
+// Thread: any; a value.
 #pragma once
 
 #include "documents/DocumentError.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ContentReader turns the elements of the content of an OpenDocument text into styled text: it decides which
-// elements are text. Assembling paragraphs is left to StoryStack. Thread: one at a time.  Owner: OdtDocument.
+// elements are text. Assembling paragraphs is left to StoryStack.
+// Thread: one at a time.  Owner: OdtDocument.
 #pragma once
 
 #include "documents/odt/FormulaReader.h"

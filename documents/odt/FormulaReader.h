@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // FormulaReader appends the text of a formula (MathML 3) to the open paragraph: its numbers, names and
-// operators, with a space around each part of a fraction and each cell of a matrix. Thread: one at a time.
-// Owner: ContentReader.
+// operators, with a space around each part of a fraction and each cell of a matrix.
+// Thread: one at a time. Owner: ContentReader.
 #pragma once
 
 #include "documents/odt/StoryStack.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // OdfNames are the names in OpenDocument texts (OASIS OpenDocument 1.3), as literals: "text:p"_odf is the
-// element p in the namespace of text, whatever prefix a document has for it. Thread: any; constants.
+// element p in the namespace of text, whatever prefix a document has for it.
+// Thread: any; constants.
 #pragma once
 
 #include "documents/package/XmlReader.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // OdtDocument passes the sections of an OpenDocument text, which are in one file or in several parts of a
-// package, to their readers. Thread: one at a time.  Owner: readOpenDocument().
+// package, to their readers.
+// Thread: one at a time.  Owner: readOpenDocument().
 #pragma once
 
 #include "documents/odt/ContentReader.h"

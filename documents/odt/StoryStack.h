@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // StoryStack assembles the paragraphs of the stories of an OpenDocument text: the body, and the notes and
-// text boxes within it. Deciding which elements are text is left to ContentReader. Thread: one at a time.
-// Owner: ContentReader.
+// text boxes within it. Deciding which elements are text is left to ContentReader.
+// Thread: one at a time. Owner: ContentReader.
 #pragma once
 
 #include "documents/odt/Styles.h"

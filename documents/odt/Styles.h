@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Styles holds the styles of an OpenDocument text and resolves them, each with everything that it inherits.
-// Reading them is left to StylesReader. Thread: one at a time; it caches resolved styles.  Owner:
-// readOpenDocument().
+// Reading them is left to StylesReader.
+// Thread: one at a time; it caches resolved styles.  Owner: readOpenDocument().
 #pragma once
 
 #include "documents/odt/TextFormat.h"

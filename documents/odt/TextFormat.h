@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // TextFormat is the format of characters that a style of an OpenDocument text sets (style:text-properties),
-// as far as text and layout need it; absent values are left to other levels. Thread: any; values.
+// as far as text and layout need it; absent values are left to other levels.
+// Thread: any; values.
 #pragma once
 
 #include "documents/odt/OdfNames.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ParagraphFormat is the format that a style, a list or a paragraph sets; absent values are left to other
-// levels. Which levels there are, and their order, is left to the reader of the format. Thread: any; values.
+// levels. Which levels there are, and their order, is left to the reader of the format.
+// Thread: any; values.
 #pragma once
 
 #include "documents/package/XmlValues.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ScriptFormats selects the format of each character by its script: documents name a font of its own for
-// Latin, East Asian and complex scripts. Thread: any; values.
+// Latin, East Asian and complex scripts.
+// Thread: any; values.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"

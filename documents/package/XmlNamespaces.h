@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // XmlNamespaces resolves the names in one XML document while it is read, for a format that knows some
-// namespaces. Parsing is left to XmlReader. Thread: one at a time.  Owner: the function that reads the
-// document.
+// namespaces. Parsing is left to XmlReader.
+// Thread: one at a time.  Owner: the function that reads the document.
 #pragma once
 
 #include <QByteArray>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // XmlReader reads XML, such as a part of a package, as a stream of elements and characters. What elements
-// mean is left to the handlers. Thread: one at a time.
+// mean is left to the handlers.
+// Thread: one at a time.
 #pragma once
 
 #include "documents/DocumentError.h"

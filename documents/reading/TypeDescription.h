@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// TypeDescription describes a file type of the shared MIME database in the language of our messages, which may
-// not be that of the user. Which type a document has, it leaves to KindDetection.
+// TypeDescription describes a file type of the shared MIME database in the language of our messages, which
+// may not be that of the user. Which type a document has, it leaves to KindDetection.
 // Thread: any.
 #pragma once
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // FaultText puts a reason why a suite cannot be read or written into the user's language. Faults have it in
-// English, for log lines. Thread: any.
+// English, for log lines.
+// Thread: any.
 #pragma once
 
 #include <QString>

@@ -2,7 +2,8 @@
 // Selection reads what the user has selected or copied in any application, without a toolkit: from the
 // Wayland compositor, if it shows selections to every program; otherwise from the X display, including
 // Xwayland (ICCCM 2.0, chapter 2); and where there is none, from the compositor with a window that has the
-// focus for a moment. Thread: any.
+// focus for a moment.
+// Thread: any.
 #pragma once
 
 #include "platform/pasteboard/Pasteboard.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WaylandSelection requests a selection from its owner through the Wayland compositor. Used inside this
-// folder only. Thread: any, one at a time.  Owner: readSelection().
+// folder only.
+// Thread: any, one at a time.  Owner: readSelection().
 #pragma once
 
 #include "platform/pasteboard/Selection.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WordTrace puts together where words start and end, from what WordScanner finds out about their characters.
-// It decides nothing itself, and counts nothing. Thread: one at a time.  Owner: the code that wants the words
-// of a text.
+// It decides nothing itself, and counts nothing.
+// Thread: one at a time.  Owner: the code that wants the words of a text.
 #pragma once
 
 #include <QtGlobal>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // DesktopShortcut binds one command to keys in the settings of a desktop, by the desktop's own means; which
-// keys the user wants is left to the window. Thread: any, one at a time; every function waits for programs or
-// the bus, for some seconds at most.
+// keys the user wants is left to the window.
+// Thread: any, one at a time; every function waits for programs or the bus, for some seconds at most.
 #pragma once
 
 #include "platform/system/Result.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // GSettingsShortcut binds keys in the settings of desktops that keep custom shortcuts in GSettings: GNOME,
-// Cinnamon and MATE. It runs gsettings. Thread: as DesktopShortcut.
+// Cinnamon and MATE. It runs gsettings.
+// Thread: as DesktopShortcut.
 #pragma once
 
 #include "platform/shortcuts/DesktopShortcut.h"

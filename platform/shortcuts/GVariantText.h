@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The text form of the values that gsettings prints and takes, as far as shortcuts need it: strings and lists
-// of strings. Thread: any.
+// of strings.
+// Thread: any.
 #pragma once
 
 #include <QString>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // KdeShortcut binds keys to an action of the application menu with KDE's service of global shortcuts,
-// kglobalaccel (System Settings › Shortcuts). Thread: as DesktopShortcut.
+// kglobalaccel (System Settings › Shortcuts).
+// Thread: as DesktopShortcut.
 #pragma once
 
 #include "platform/shortcuts/DesktopShortcut.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // LxqtShortcut binds keys with the global shortcuts of LXQt (Preferences › Shortcut Keys), over the session
-// bus. Thread: as DesktopShortcut.
+// bus.
+// Thread: as DesktopShortcut.
 #pragma once
 
 #include "platform/shortcuts/DesktopShortcut.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // XfceShortcut binds keys in the settings of Xfce (Settings › Keyboard › Application Shortcuts), with
-// xfconf-query. Thread: as DesktopShortcut.
+// xfconf-query.
+// Thread: as DesktopShortcut.
 #pragma once
 
 #include "platform/shortcuts/DesktopShortcut.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // PacketSocket sends short packets over a socket between two processes, each with at most one file
-// descriptor. What is in them is left to its users. Thread: any, one at a time for each socket.
+// descriptor. What is in them is left to its users.
+// Thread: any, one at a time for each socket.
 #pragma once
 
 #include "platform/system/OwnedDescriptor.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // SystemError puts the errors of system calls into words: in English for log lines, in the user's language
-// for messages. Thread: any.
+// for messages.
+// Thread: any.
 #pragma once
 
 #include <QString>

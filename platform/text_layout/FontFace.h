@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // FontFace is one face of a font file, loaded for shaping. Its lengths are font units, unitsPerEm() per em:
-// whole, unhinted and independent of the size. Thread: one at a time.  Owner: FontLibrary.
+// whole, unhinted and independent of the size.
+// Thread: one at a time.  Owner: FontLibrary.
 #pragma once
 
 #include "platform/text_layout/FontCatalogue.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // TestCompositor is a private Wayland compositor without a screen: sway(1), with data control, for the
-// programs that a test starts and for this process. Starts in a tenth of a second. Thread: main.  Owner: the
-// test.
+// programs that a test starts and for this process. Starts in a tenth of a second.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include <QByteArrayList>

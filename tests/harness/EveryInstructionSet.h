@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // EveryInstructionSet runs a test once for each instruction set that the processor has and vector code is
-// compiled for. Thread: main.
+// compiled for.
+// Thread: main.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // MarkedTexts is a language whose texts are those of the source code between marks: "⟦Stop⟧". A text on the
-// screen that has letters outside of the marks never went through the translation. Thread: main; the texts
-// themselves on any thread.
+// screen that has letters outside of the marks never went through the translation.
+// Thread: main; the texts themselves on any thread.
 #pragma once
 
 #include <QCoreApplication>

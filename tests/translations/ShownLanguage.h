@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ShownLanguage shows the texts of this process in one of the languages that Quillbay is translated into,
-// whatever the locale. Thread: main.
+// whatever the locale.
+// Thread: main.
 #pragma once
 
 #include <QCoreApplication>

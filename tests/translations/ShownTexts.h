@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ShownTexts collects every text that the widgets of this process show or read out: titles, labels, menus,
-// tool tips, and what a screen reader gets. Thread: main.
+// tool tips, and what a screen reader gets.
+// Thread: main.
 #pragma once
 
 #include <QString>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What screen readers learn of our windows beyond what Qt tells them: that a window is one, what it shows as
-// a whole, and that a spinner at rest is invisible. Thread: main.
+// a whole, and that a spinner at rest is invisible.
+// Thread: main.
 #pragma once
 
 namespace AccessibleWidgets {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // SpinnerWidget is an indeterminate progress bar, drawn as a wheel of fading spokes while it turns and
-// invisible otherwise. Thread: main.
+// invisible otherwise.
+// Thread: main.
 #pragma once
 
 #include <QBasicTimer>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // SelectionOwner runs selection_owner.cpp or wayland_owner.cpp, an application that has selected something,
-// in a process of its own. Thread: main.  Owner: the test.
+// in a process of its own.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include "tests/harness/QuillbayTest.h"

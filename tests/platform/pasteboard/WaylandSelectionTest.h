@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // WaylandSelectionTest is the fixture of tests that read the selections of a private Wayland compositor.
-// There is a private X display too, of another session. Thread: main.
+// There is a private X display too, of another session.
+// Thread: main.
 #pragma once
 
 #include "tests/harness/Compositor.h"

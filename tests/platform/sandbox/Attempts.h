@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Attempts are what a document could make a process do that it has taken over, each by a name and an
-// argument. Thread: main.
+// argument.
+// Thread: main.
 #pragma once
 
 #include <string>

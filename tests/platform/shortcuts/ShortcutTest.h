@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // ShortcutTest is the fixture of tests that bind keys in the real settings of a desktop, in the test's own
-// home. Thread: main.  Owner: the test.
+// home.
+// Thread: main.  Owner: the test.
 #pragma once
 
 #include "platform/shortcuts/DesktopShortcut.h"
