@@ -4,6 +4,7 @@
 #include <unicode/uchar.h>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 namespace {
@@ -13,6 +14,28 @@ constexpr qsizetype never = std::numeric_limits<qsizetype>::max();
 
 // How far back to search for a simple boundary: longer than nearly every word.
 constexpr qsizetype maxLookBack = 64;
+
+// Of ASCII characters.
+enum EnglishText : quint8 {
+    InWord = 1, // letters and digits: AL and NU
+    FollowsWord = 2, // IS and EX
+};
+
+constexpr auto englishText = [] {
+    std::array<quint8, 128> table{};
+    for (size_t lower = 'a'; lower <= 'z'; ++lower)
+        table[lower] = table[lower - 'a' + 'A'] = InWord;
+    for (size_t digit = '0'; digit <= '9'; ++digit)
+        table[digit] = InWord;
+    for (const char mark : {',', '.', ':', ';', '!', '?'})
+        table[static_cast<size_t>(mark)] = FollowsWord;
+    return table;
+}();
+
+bool isEnglish(char16_t unit, int kinds)
+{
+    return unit < englishText.size() && (englishText[unit] & kinds) != 0;
+}
 
 } // namespace
 
@@ -164,10 +187,27 @@ bool LineBreaks::isSimpleBoundary(qsizetype position)
         && classAt(position - 2) == Class::Letter;
 }
 
+// The start of an English word, to which the character at a position belongs or which it follows; otherwise
+// none. What isSimpleBoundary() and isJoined() know of such text, in less time.
+qsizetype LineBreaks::startOfEnglishWord(qsizetype position) const
+{
+    const char16_t *const units = m_text.utf16();
+    qsizetype at = position;
+    if (at > 0 && isEnglish(units[at], FollowsWord))
+        --at;
+    const qsizetype limit = std::max<qsizetype>(1, position - maxLookBack);
+    while (at > limit && isEnglish(units[at], InWord))
+        --at;
+    const bool isStart = at > 0 && at < position && units[at] == u' ' && isEnglish(units[at + 1], InWord);
+    return isStart && isEnglish(units[at - 1], InWord | FollowsWord) ? at + 1 : none;
+}
+
 qsizetype LineBreaks::lastAtOrBefore(qsizetype position)
 {
     if (position >= m_text.size())
         return m_text.size();
+    if (const qsizetype start = startOfEnglishWord(position); start != none)
+        return start;
     if (m_last <= position && position < m_next)
         return m_last;
     bool isOneWord = true; // no break from the simple boundary to the position

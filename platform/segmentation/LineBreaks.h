@@ -44,6 +44,7 @@ private:
     [[nodiscard]] static bool areJoined(Class first, Class second);
     [[nodiscard]] static Class classOf(char16_t unit);
     Class classAt(qsizetype position);
+    [[nodiscard]] qsizetype startOfEnglishWord(qsizetype position) const;
     bool isSimpleBoundary(qsizetype position);
     bool isJoined(qsizetype position);
     void restartAt(qsizetype boundary);

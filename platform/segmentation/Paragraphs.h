@@ -6,7 +6,10 @@
 #include <QStringView>
 
 /// LF, CR and U+2029; CR LF together are one separator.
-bool isParagraphSeparator(char16_t unit);
+inline bool isParagraphSeparator(char16_t unit)
+{
+    return unit == u'\n' || unit == u'\r' || unit == u'\u2029';
+}
 
 /// A paragraph separator or U+2028.
 bool isLineEnd(char16_t unit);

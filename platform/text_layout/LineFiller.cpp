@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype blockLength = 16; // characters whose advances are added without a look at the line's end
+constexpr qsizetype stretchLength = 256; // characters; nearly every line is shorter
 
 // The exact layout adds points, we add font units. In lines of up to this length, the two sums differ by less
 // than the margin; a line that ends within it is not decided here.
@@ -86,7 +86,7 @@ std::optional<quint64> LineFiller::fillLines(const Paragraph &paragraph, std::ve
 void LineFiller::measureRoom(Stretch &stretch)
 {
     const double room = m_edges->end + LineEdges::tolerance - stretch.base;
-    const double unitsPerPoint = 1 / m_text.run().pointsPerUnit;
+    const double unitsPerPoint = m_text.run().unitsPerPoint;
     stretch.flow = 0;
     stretch.fitting = (room - margin) * unitsPerPoint;
     stretch.overflowing = (room + margin) * unitsPerPoint;
@@ -94,36 +94,57 @@ void LineFiller::measureRoom(Stretch &stretch)
         m_hasGivenUp = true;
 }
 
-// Adds whole blocks as long as they fit and consist of pairs with an advance.
-qsizetype LineFiller::addBlocks(qsizetype at, Stretch &stretch) const
+// Adds single characters, up to the one that may not fit or is not plain.
+qsizetype LineFiller::addPlain(qsizetype at, Stretch &stretch) const
 {
     const PairRun &run = m_text.run();
+    if (run.tracking != 0)
+        return addSpaced(at, stretch);
     const quint8 *const classes = m_text.classes();
     const int *const advances = m_text.advances();
-    const double tracking = run.tracking * static_cast<double>(blockLength);
-    while (at + blockLength + 1 < run.end) {
-        const char16_t *const units = m_text.units() + at;
-        int sum = 0;
-        size_t own = classes[units[0]];
-        for (qsizetype i = 0; i < blockLength; ++i) {
-            const size_t next = classes[units[i + 1]];
-            sum += advances[own << 8 | next];
+    const char16_t *const units = m_text.units();
+    // Advances are whole numbers. The values that are not advances exceed it, too.
+    const int room = static_cast<int>(std::clamp(std::floor(stretch.fitting - stretch.flow), -1.0, maxFlow));
+    const qsizetype first = at;
+    const qsizetype last = run.end - 1;
+    int sum = 0;
+    int value = 0; // of the next character
+    size_t own = classes[units[at]];
+    for (;;) {
+        // A stretch at a time, to notice those without an advance.
+        const qsizetype stretchStart = at;
+        const qsizetype stretchEnd = std::min(last, at + stretchLength);
+        const int before = sum;
+        while (at < stretchEnd) {
+            const size_t next = classes[units[at + 1]];
+            value = advances[PairAdvances::indexOf(own, next)];
+            if (sum + value > room)
+                break;
+            sum += value;
             own = next;
+            ++at;
         }
-        // A ligature after the block would change its last advance.
-        const int following = advances[own << 8 | classes[units[blockLength + 1]]];
-        const double flow = stretch.flow + sum + tracking;
-        if (flow > stretch.fitting || following >= PairAdvances::limit)
+        if (at < stretchEnd)
             break;
-        stretch.flow = flow;
-        stretch.weightless += sum == 0 ? blockLength : 0;
-        at += blockLength;
+        stretch.weightless += sum == before ? at - stretchStart : 0;
+        if (at < last)
+            continue;
+        value = advances[PairAdvances::indexOf(own, PairAdvances::endClass)];
+        if (sum + value <= room) {
+            stretch.flow += sum + value;
+            return run.end;
+        }
+        break;
     }
+    // A ligature would change the advance of the character before it.
+    if (value >= PairAdvances::limit && at > first)
+        sum -= m_text.knownPair(--at);
+    stretch.flow += sum;
     return at;
 }
 
-// Adds single characters, up to the one that may not fit or is not plain.
-qsizetype LineFiller::addPlain(qsizetype at, Stretch &stretch) const
+// The same for letters that are spaced.
+qsizetype LineFiller::addSpaced(qsizetype at, Stretch &stretch) const
 {
     const PairRun &run = m_text.run();
     for (int own = m_text.knownPair(at); own < PairAdvances::limit;) {
@@ -220,7 +241,7 @@ std::optional<qsizetype> LineFiller::findObstacle(qsizetype start, Stretch &stre
         if (m_hasGivenUp || m_text.hasFailed())
             return at;
         if (!m_text.isInShapedChain(at))
-            at = addPlain(addBlocks(at, stretch), stretch);
+            at = addPlain(at, stretch);
         if (at < m_text.run().end && !addOne(start, at, stretch))
             return at;
         if (isTooLong(start, at, stretch) && stretch.flow <= stretch.overflowing)
@@ -233,7 +254,7 @@ std::optional<qsizetype> LineFiller::findObstacle(qsizetype start, Stretch &stre
 // pair is split.
 bool LineFiller::fitsWhenBrokenAt(qsizetype start, qsizetype end, const Stretch &stretch)
 {
-    if (end >= m_text.length() || !m_text.isUnsafe(end))
+    if (end >= m_text.length() || m_text.isPlainlySafe(end) || !m_text.isUnsafe(end))
         return true;
     // So far back, the exact layout measures again.
     constexpr qsizetype maxReshapedLength = 64;

@@ -33,8 +33,8 @@ private:
     std::optional<quint64> fillLines(const Paragraph &paragraph, std::vector<qsizetype> *ends);
     LineBreaker::Line nextLine(qsizetype start);
     [[nodiscard]] std::optional<qsizetype> findObstacle(qsizetype start, Stretch &stretch);
-    qsizetype addBlocks(qsizetype at, Stretch &stretch) const;
     qsizetype addPlain(qsizetype at, Stretch &stretch) const;
+    qsizetype addSpaced(qsizetype at, Stretch &stretch) const;
     [[nodiscard]] bool addOne(qsizetype start, qsizetype &at, Stretch &stretch);
     void skipBlanks(qsizetype start, qsizetype &at, Stretch &stretch);
     [[nodiscard]] bool movePastTab(qsizetype start, qsizetype at, Stretch &stretch);

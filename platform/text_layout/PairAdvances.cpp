@@ -178,7 +178,7 @@ void PairAdvances::measure(char16_t first, char16_t second)
         return;
     bool isUnsafe = false;
     advance = advanceOfPair(first, second, isUnsafe);
-    m_isUnsafe[static_cast<size_t>(firstClass) << 8 | secondClass] = isUnsafe;
+    m_isUnsafe[indexOf(firstClass, secondClass)] = isUnsafe;
 }
 
 int PairAdvances::advanceOfPair(char16_t first, char16_t second, bool &isUnsafe)

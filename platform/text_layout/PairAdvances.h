@@ -41,7 +41,8 @@ public:
 
     /// Characters of one class have the same advances. 0: not yet known.
     [[nodiscard]] const quint8 *classes() const { return m_classes.data(); }
-    /// advances()[class of a character << 8 | class of the next one], or one of the values above.
+    static size_t indexOf(size_t first, size_t second) { return first << 8 | second; }
+    /// advances()[indexOf(class of a character, class of the next one)], or one of the values above.
     [[nodiscard]] const int *advances() const { return m_advances.data(); }
     /// The class that stands for a tab or the end of the text as next character.
     static constexpr quint8 endClass = u'\t';
@@ -55,7 +56,7 @@ public:
     /// Whether a line that ends between a pair, which has an advance, must be measured again.
     [[nodiscard]] bool isUnsafe(quint8 first, quint8 second) const
     {
-        return m_isUnsafe[static_cast<size_t>(first) << 8 | second];
+        return m_isUnsafe[indexOf(first, second)];
     }
 
     [[nodiscard]] const ShapingStyle &style() const { return m_style; }
@@ -78,7 +79,7 @@ private:
     quint8 classOfAdvance(char16_t unit);
     int advanceOfPair(char16_t first, char16_t second, bool &isUnsafe);
 
-    int &at(quint8 first, quint8 second) { return m_advances[static_cast<size_t>(first) << 8 | second]; }
+    int &at(quint8 first, quint8 second) { return m_advances[indexOf(first, second)]; }
 
     FontChain *m_fonts;
     Shaper &m_shaper;

@@ -70,8 +70,6 @@ bool PairRuns::addOneRun(const AttributedString &text, const Paragraph &paragrap
     if (!m_oneRun.pairs)
         return false;
     m_oneRun.end = m_content.size();
-    m_runsEnd = m_content.size();
-    m_runs.push_back(m_oneRun);
     return true;
 }
 
@@ -99,7 +97,9 @@ std::optional<quint32> PairRuns::findScript(QStringView content) const
 
 const PairRun *PairRuns::runAt(qsizetype position)
 {
-    while (m_isItemized && m_runsEnd <= position) {
+    if (!m_isItemized)
+        return &m_oneRun;
+    while (m_runsEnd <= position) {
         if (!addNextRun())
             return nullptr;
     }
@@ -154,6 +154,7 @@ PairRun PairRuns::makeRun(const TextRun &run, PairAdvances::Text text)
     made.pairs =
         tableFor({isPrimary ? run.style.fonts : nullptr, &m_shaper.styleOf(run), text}, run.end - run.start);
     made.pointsPerUnit = run.style.pointSize / run.face->unitsPerEm();
+    made.unitsPerPoint = 1 / made.pointsPerUnit;
     made.tracking = run.style.tracking / made.pointsPerUnit;
     return made;
 }

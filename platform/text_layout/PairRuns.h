@@ -20,6 +20,7 @@ struct PairRun {
     qsizetype end = 0;
     PairAdvances *pairs = nullptr;
     double pointsPerUnit = 0;
+    double unitsPerPoint = 0;
     double tracking = 0; ///< font units
 };
 

@@ -16,19 +16,16 @@ bool PairText::setParagraph(const AttributedString &text, const Paragraph &parag
     return !m_hasFailed;
 }
 
-const PairRun &PairText::enter(qsizetype position)
+void PairText::enterOther(qsizetype position)
 {
-    if (position >= m_run.start && position < m_run.end)
-        return m_run;
     const PairRun *const found = m_runs.runAt(position);
     if (!found || position >= found->end) {
         m_hasFailed = true;
-        return m_run;
+        return;
     }
     m_run = *found;
     m_classes = m_run.pairs->classes();
     m_advances = m_run.pairs->advances();
-    return m_run;
 }
 
 int PairText::measurePair(qsizetype at)
@@ -40,7 +37,7 @@ int PairText::measurePair(qsizetype at)
     return knownPair(at);
 }
 
-double PairText::advance(qsizetype at)
+double PairText::advanceInChain(qsizetype at)
 {
     if (!m_chain.holds(at)) {
         const int own = pair(at);
@@ -82,15 +79,6 @@ void PairText::loadChain(qsizetype at)
     m_chain = {start, end, shaped};
 }
 
-bool PairText::startsInChain(qsizetype at)
-{
-    enter(at);
-    if (m_hasFailed || !isJoined(at - 1))
-        return false;
-    loadChain(at);
-    return true;
-}
-
 bool PairText::isUnsafe(qsizetype at)
 {
     if (at <= 0 || at >= m_length || isApart(m_units[at - 1]) || isApart(m_units[at]))
@@ -122,7 +110,7 @@ double PairText::growthAtLineEnd(qsizetype at)
 {
     enter(at);
     m_run.pairs->measureAlone(m_units[at]);
-    const int alone = m_advances[static_cast<size_t>(classAt(at)) << 8 | PairAdvances::endClass];
+    const int alone = m_advances[PairAdvances::indexOf(classAt(at), PairAdvances::endClass)];
     return (alone - pair(at)) * m_run.pointsPerUnit;
 }
 

@@ -27,7 +27,12 @@ public:
     [[nodiscard]] qsizetype length() const { return m_length; }
 
     /// The run that contains a position becomes the current one.
-    const PairRun &enter(qsizetype position);
+    const PairRun &enter(qsizetype position)
+    {
+        if (position < m_run.start || position >= m_run.end)
+            enterOther(position);
+        return m_run;
+    }
     [[nodiscard]] const PairRun &run() const { return m_run; }
 
     // For positions in the current run.
@@ -38,15 +43,36 @@ public:
     [[nodiscard]] int knownPair(qsizetype at) const
     {
         const quint8 next = at + 1 < m_run.end ? classAt(at + 1) : PairAdvances::endClass;
-        return m_advances[static_cast<size_t>(classAt(at)) << 8 | next];
+        return m_advances[PairAdvances::indexOf(classAt(at), next)];
     }
     /// Font units, without tracking.
-    double advance(qsizetype at);
+    double advance(qsizetype at)
+    {
+        const int own = knownPair(at);
+        const bool isPlain = own < PairAdvances::limit && !m_chain.holds(at)
+            && (at == m_run.start || knownPair(at - 1) < PairAdvances::limit)
+            && (at + 1 >= m_run.end || knownPair(at + 1) < PairAdvances::limit);
+        return isPlain ? own : advanceInChain(at);
+    }
     /// Whether advance() of this character is that of a ligature or of the character before one.
     [[nodiscard]] bool isInShapedChain(qsizetype at) const { return m_chain.holds(at); }
     /// To be called at the start of a line: whether that is inside of a possible ligature.
-    bool startsInChain(qsizetype at);
+    bool startsInChain(qsizetype at)
+    {
+        enter(at);
+        if (m_hasFailed || !isJoined(at - 1))
+            return false;
+        loadChain(at);
+        return true;
+    }
 
+    /// Whether isUnsafe() is false, and that follows from the pairs around the place.
+    [[nodiscard]] bool isPlainlySafe(qsizetype at) const
+    {
+        return at >= m_run.start + 2 && at + 1 < m_run.end && knownPair(at - 2) < PairAdvances::limit
+            && knownPair(at - 1) < PairAdvances::limit && knownPair(at) < PairAdvances::limit
+            && !m_run.pairs->isUnsafe(classAt(at - 1), classAt(at));
+    }
     /// Whether the text on both sides of a place must be measured again if a line ends there.
     [[nodiscard]] bool isUnsafe(qsizetype at);
     /// The same, for a place that cannot be inside of a ligature or beside one; otherwise it fails.
@@ -75,7 +101,9 @@ private:
         const int advance = knownPair(at);
         return advance != PairAdvances::unknown ? advance : measurePair(at);
     }
+    void enterOther(qsizetype position);
     int measurePair(qsizetype at);
+    double advanceInChain(qsizetype at);
     [[nodiscard]] bool isJoined(qsizetype at)
     {
         return at >= m_run.start && at + 1 < m_run.end && pair(at) == PairAdvances::joined;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/segmentation/Paragraphs.h"
 
+#include "tests/harness/EveryInstructionSet.h"
 #include "tests/harness/QuillbayTest.h"
 
 #include <QStringList>
@@ -18,7 +19,29 @@ QStringList contents(const QString &text)
     return list;
 }
 
+class ParagraphsOfEveryTarget : public EveryInstructionSet { };
+
 } // namespace
+
+TEST_P(ParagraphsOfEveryTarget, EndAtASeparatorWhereverItIs)
+{
+    // Neighbours of the separators in one byte or the other.
+    const QString others = QStringLiteral("\u000Bx\u202A\u0A0A\u0D0D\u200A\u2920");
+    for (const char16_t separator : {u'\n', u'\r', u'\u2029'}) {
+        for (qsizetype length = 0; length < 150; ++length) {
+            QString text = others.repeated(length / others.size() + 1).first(length);
+            EXPECT_EQ(paragraphAt(text, 0).length, length);
+            text += QChar(separator);
+            text += others.repeated(length % 3 * 9);
+            const Paragraph paragraph = paragraphAt(text, length / 2);
+            EXPECT_EQ(paragraph.contentLength, length - length / 2) << length;
+            EXPECT_EQ(paragraph.length, length - length / 2 + 1) << length;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AllTargets, ParagraphsOfEveryTarget, EveryInstructionSet::values(), EveryInstructionSet::name);
 
 TEST(Paragraphs, AnEmptyTextHasNone)
 {
