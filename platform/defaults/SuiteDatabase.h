@@ -4,43 +4,29 @@
 // Thread: any, one at a time.  Owner: UserDefaults.
 #pragma once
 
+#include "platform/database/DatabaseFile.h"
 #include "platform/defaults/DefaultsValue.h"
-#include "platform/system/Result.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <chrono>
 #include <optional>
-#include <sys/types.h>
 #include <vector>
 
-struct sqlite3;
+using SuiteFault = DatabaseFault;
 
-struct SuiteFault {
-    enum class Kind {
-        Broken, ///< permanent: not a database, damaged, another program's
-        Busy, ///< another process has locked it
-        Other, ///< may be temporary: permissions, a full disk, a missing folder
-    };
-    Kind kind;
-    QString reason; ///< for the log; names no file
-};
-
-/// Every access checks whether the open file is still the one at the path, and otherwise opens that one. The
-/// whole file is checked when it is opened; it is closed after every fault.
+/// The whole file is checked when it is opened.
 class SuiteDatabase {
 public:
     /// path: bytes in any encoding. Nothing is opened before the first access.
     explicit SuiteDatabase(QByteArray path);
-    SuiteDatabase(const SuiteDatabase &) = delete;
-    SuiteDatabase &operator=(const SuiteDatabase &) = delete;
-    ~SuiteDatabase();
 
-    [[nodiscard]] const QByteArray &path() const { return m_path; }
+    [[nodiscard]] const QByteArray &path() const { return m_file.path(); }
+    [[nodiscard]] DatabaseFile &file() { return m_file; }
 
     /// How long later accesses wait for other processes.
-    void setTimeout(std::chrono::milliseconds timeout);
+    void setTimeout(std::chrono::milliseconds timeout) { m_file.setTimeout(timeout); }
 
     /// Absent if there is no file, or no such key in it. Never creates a file.
     Result<std::optional<DefaultsValue>, SuiteFault> read(const QString &key);
@@ -52,30 +38,8 @@ public:
         const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
 
 private:
-    using Failure = std::optional<SuiteFault>;
-    enum class Purpose { Reading, Writing };
-    enum class Content { Empty, Suite, Foreign };
+    DatabaseFile::Failure select(const QString &key, std::optional<DefaultsValue> &value);
+    DatabaseFile::Failure store(const DefaultsEntry &entry);
 
-    [[nodiscard]] bool isOpen(dev_t device, ino_t inode, Purpose purpose) const;
-    Failure ensureOpen(Purpose purpose);
-    Failure openFile(Purpose purpose);
-    Failure checkFile(Purpose purpose);
-    Failure setLimits();
-    void close();
-
-    Result<Content, SuiteFault> content();
-    Failure checkIntegrity();
-    Failure createTable();
-    Failure writeInTransaction(
-        const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
-    Result<std::optional<DefaultsValue>, SuiteFault> select(const QString &key);
-    Failure store(const DefaultsEntry &entry);
-    Failure execute(const QByteArray &text);
-    [[nodiscard]] SuiteFault faultOf(int code) const;
-
-    QByteArray m_path;
-    std::chrono::milliseconds m_timeout{0};
-    sqlite3 *m_database = nullptr;
-    dev_t m_device = 0; // of the open file
-    ino_t m_inode = 0;
+    DatabaseFile m_file;
 };

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/defaults/UserDefaults.h"
 
-#include "platform/defaults/SuiteFolder.h"
+#include "platform/database/DatabaseFolder.h"
 #include "platform/logging/LogChannel.h"
-#include "platform/system/SystemError.h"
 
 #include <QFile>
 #include <QStandardPaths>
-
-#include <cerrno>
 
 #include <algorithm>
 #include <cmath>
@@ -27,9 +24,8 @@ QByteArray folderOfSuites()
 
 UserDefaults::UserDefaults(const QString &suiteName, std::chrono::milliseconds timeout)
     : m_suiteName(suiteName)
-    , m_folder(folderOfSuites())
     , m_timeout(timeout)
-    , m_database(m_folder + '/' + QFile::encodeName(suiteName) + ".sqlite3")
+    , m_database(folderOfSuites() + '/' + QFile::encodeName(suiteName) + ".sqlite3")
 {
 }
 
@@ -111,42 +107,17 @@ bool UserDefaults::write(const std::vector<DefaultsEntry> &entries, const std::o
     if (!std::all_of(entries.begin(), entries.end(), canStore))
         return false;
     const std::lock_guard lock(m_mutex);
-    const auto fault = writeUnderLock(entries, guard);
+    const auto fault = writeInFolder(
+        m_database.file(), timeout(m_writing), [&] { return m_database.write(entries, guard); },
+        [this](const SuiteFault &broken, const QByteArray &newName) { logPutAside(broken, newName); });
     recordOutcome(m_writing, fault);
     return !fault;
 }
 
-std::optional<SuiteFault> UserDefaults::writeUnderLock(
-    const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard)
+void UserDefaults::logPutAside(const SuiteFault &fault, const QByteArray &newName) const
 {
-    if (const int error = makeFolder(m_folder))
-        return SuiteFault{SuiteFault::Kind::Other, systemErrorText(error)};
-    const FolderLock lock(m_folder, timeout(m_writing));
-    if (lock.error() == EWOULDBLOCK)
-        return SuiteFault{SuiteFault::Kind::Busy, QStringLiteral("another process keeps it locked")};
-    if (lock.error() != 0)
-        return SuiteFault{SuiteFault::Kind::Other, systemErrorText(lock.error())};
-    m_database.setTimeout(timeout(m_writing));
-    auto fault = m_database.write(entries, guard);
-    if (!fault || fault->kind != SuiteFault::Kind::Broken)
-        return fault;
-    // The failed write has checked the file at the path, and nobody replaces it while the lock is held: the
-    // file that is put aside is the broken one.
-    if (auto failure = putBrokenFileAside(*fault))
-        return failure;
-    return m_database.write(entries, guard);
-}
-
-std::optional<SuiteFault> UserDefaults::putBrokenFileAside(const SuiteFault &fault)
-{
-    const QByteArray path = putAside(m_database.path());
-    if (path.isEmpty())
-        return SuiteFault{
-            SuiteFault::Kind::Other, fault.reason + QStringLiteral("; ") + systemErrorText(errno)};
     LogChannel::standard().notice(u"Preference suite {} could not be used: {}; renamed it to {}",
-        {publicly(m_suiteName), publicly(fault.reason),
-            publicly(QFile::decodeName(path.sliced(path.lastIndexOf('/') + 1)))});
-    return std::nullopt;
+        {publicly(m_suiteName), publicly(fault.reason), publicly(QFile::decodeName(newName))});
 }
 
 bool UserDefaults::canBeStored(const DefaultsEntry &entry) const

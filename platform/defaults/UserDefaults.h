@@ -73,16 +73,13 @@ private:
     };
 
     bool write(const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
-    std::optional<SuiteFault> writeUnderLock(
-        const std::vector<DefaultsEntry> &entries, const std::optional<QString> &guard);
-    std::optional<SuiteFault> putBrokenFileAside(const SuiteFault &fault);
+    void logPutAside(const SuiteFault &fault, const QByteArray &newName) const;
     [[nodiscard]] std::optional<DefaultsValue> fallbackValueOf(const QString &key) const;
     [[nodiscard]] bool canBeStored(const DefaultsEntry &entry) const;
     void recordOutcome(Episode &episode, const std::optional<SuiteFault> &fault) const;
     [[nodiscard]] std::chrono::milliseconds timeout(const Episode &episode) const;
 
     const QString m_suiteName;
-    const QByteArray m_folder;
     const std::chrono::milliseconds m_timeout;
 
     mutable std::mutex m_mutex; // guards all below

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/defaults/SuiteFolder.h"
+#include "platform/database/DatabaseFolder.h"
+
+#include "platform/system/SystemError.h"
 
 #include <QDateTime>
 #include <QRandomGenerator>
@@ -73,4 +75,30 @@ QByteArray putAside(const QByteArray &databasePath)
             return {};
     }
     return to;
+}
+
+std::optional<DatabaseFault> writeInFolder(DatabaseFile &database, std::chrono::milliseconds timeout,
+    const std::function<std::optional<DatabaseFault>()> &write,
+    const std::function<void(const DatabaseFault &fault, const QByteArray &newName)> &putAsideDone)
+{
+    const QByteArray folder = database.path().first(database.path().lastIndexOf('/'));
+    if (const int error = makeFolder(folder))
+        return DatabaseFault{DatabaseFault::Kind::Other, systemErrorText(error)};
+    const FolderLock lock(folder, timeout);
+    if (lock.error() == EWOULDBLOCK)
+        return DatabaseFault{DatabaseFault::Kind::Busy, QStringLiteral("another process keeps it locked")};
+    if (lock.error() != 0)
+        return DatabaseFault{DatabaseFault::Kind::Other, systemErrorText(lock.error())};
+    database.setTimeout(timeout);
+    auto fault = write();
+    if (!fault || fault->kind != DatabaseFault::Kind::Broken)
+        return fault;
+    // The failed write has checked the file at the path, and nobody replaces it while the lock is held: the
+    // file that is put aside is the broken one.
+    const QByteArray newPath = putAside(database.path());
+    if (newPath.isEmpty())
+        return DatabaseFault{
+            DatabaseFault::Kind::Other, fault->reason + QStringLiteral("; ") + systemErrorText(errno)};
+    putAsideDone(*fault, newPath.sliced(newPath.lastIndexOf('/') + 1));
+    return write();
 }
