@@ -1,7 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "command/CountArguments.h"
 
+#include "command/FileNames.h"
+#include "platform/system/Result.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
 namespace {
+
+QString allFurtherNames()
+{
+    QStringList names;
+    for (const FurtherStatisticRow &row : furtherStatisticTable)
+        names.append(QLatin1StringView(row.typedName.data(), static_cast<qsizetype>(row.typedName.size())));
+    return names.join(u',');
+}
 
 /// Wrong combinations, with their message; empty if all is right.
 QString wrongCombinationIn(const CommandWords &words)
@@ -17,6 +32,29 @@ QString wrongCombinationIn(const CommandWords &words)
     if (words.valueOf("files-from") == "-" && words.operands.contains("-"))
         return CommandText::tr("standard input cannot be both a document and the list of files");
     return {};
+}
+
+using FurtherList = std::vector<FurtherStatistic>;
+
+/// The error is a message.
+Result<FurtherList, QString> furtherListOf(const QByteArray &names, bool isInService)
+{
+    FurtherList list;
+    if (names == "none")
+        return list;
+    for (const QByteArray &name : names.split(',')) {
+        const std::optional<FurtherStatistic> statistic =
+            furtherStatisticNamed({name.constData(), static_cast<std::size_t>(name.size())});
+        if (!statistic)
+            return CommandText::tr("--also knows no '%1'; use none, or some of %2")
+                .arg(QString::fromUtf8(printableName(name)), allFurtherNames());
+        if (isInService && needsText(*statistic))
+            return CommandText::tr("--service does not count %1; leave out one of them")
+                .arg(QString::fromUtf8(name));
+        if (std::find(list.begin(), list.end(), *statistic) == list.end())
+            list.push_back(*statistic);
+    }
+    return list;
 }
 
 CountFormat formatOf(const CommandWords &words)
@@ -38,8 +76,17 @@ std::optional<CountArguments> CountArguments::fromWords(const CommandWords &word
         .wantsRules = words.switches.contains("explain-rules"),
         .readAs = words.switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind,
         .wantsService = words.switches.contains("service"),
+        .also = std::nullopt,
         .listName = words.valueOf("files-from"),
         .fileNames = words.operands};
+    if (const std::optional<QByteArray> names = words.valueOf("also")) {
+        const Result<FurtherList, QString> also = furtherListOf(*names, arguments.wantsService);
+        if (!also) {
+            reportWrongUsage("count", also.error());
+            return std::nullopt;
+        }
+        arguments.also = also.value();
+    }
     if (!arguments.listName && arguments.fileNames.isEmpty() && !arguments.wantsRules)
         arguments.fileNames.append("-");
     return arguments;

@@ -5,11 +5,13 @@
 
 #include "command/CommandWords.h"
 #include "command/NamedDocument.h"
+#include "text_statistics/FurtherStats.h"
 
 #include <QByteArray>
 #include <QByteArrayList>
 
 #include <optional>
+#include <vector>
 
 enum class CountFormat { Table, Json, Tsv };
 
@@ -18,6 +20,7 @@ struct CountArguments {
     bool wantsRules = false; ///< print the rules of the counts instead of the counts
     ReadAs readAs = ReadAs::ItsKind;
     bool wantsService = false; ///< count in the counting service instead of in this process
+    std::optional<std::vector<FurtherStatistic>> also; ///< instead of those that the preferences show
     std::optional<QByteArray> listName; ///< the file that lists names; "-" for standard input
     QByteArrayList fileNames; ///< "-" for standard input
 

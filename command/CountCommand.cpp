@@ -10,6 +10,7 @@
 #include "command/NamedDocument.h"
 #include "command/ParallelCount.h"
 #include "command/ProgressLine.h"
+#include "command/RulesReport.h"
 #include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "platform/system/Processors.h"
@@ -19,6 +20,7 @@
 #include "presentation/ServiceCounter.h"
 #include "text_statistics/ColumnCounter.h"
 #include "text_statistics/MeasuringSurface.h"
+#include "text_statistics/PageCounter.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <sys/stat.h>
@@ -59,6 +61,11 @@ int threadsFor(const QByteArrayList &names, qint64 size)
         worthwhile, 1, std::min<qint64>(availableProcessors(), std::max<qsizetype>(names.size(), 1))));
 }
 
+Result<FileCounts, QString> withoutFurther(const Result<QBYWordCounterStats, QString> &stats)
+{
+    return stats ? Result<FileCounts, QString>(FileCounts{stats.value(), {}}) : stats.error();
+}
+
 constexpr qint64 minLargeSize = qint64{16} * 1024 * 1024; // bytes
 
 class CountCommand {
@@ -75,14 +82,14 @@ private:
     [[nodiscard]] QByteArrayList inputNames();
     void countAll(const QByteArrayList &names);
     void explainRules(const QByteArrayList &names);
-    std::optional<QBYWordCounterStats> count(const QByteArray &name, ProgressLine &progress);
-    std::optional<QBYWordCounterStats> take(
-        const QByteArray &name, const Result<QBYWordCounterStats, QString> &stats, ProgressLine &progress);
+    std::optional<FileCounts> count(const QByteArray &name, ProgressLine &progress);
+    std::optional<FileCounts> take(
+        const QByteArray &name, const Result<FileCounts, QString> &stats, ProgressLine &progress);
     std::unique_ptr<ParallelCount> countInParallel(const QByteArrayList &names, int threads);
     /// On any thread.
-    Result<QBYWordCounterStats, QString> countOnThread(
+    Result<FileCounts, QString> countOnThread(
         const QByteArray &name, ColumnCounter &counter, ParallelCount::Position &position) const;
-    Result<QBYWordCounterStats, QString> countHere(const QByteArray &name, ProgressLine &progress);
+    Result<FileCounts, QString> countHere(const QByteArray &name, ProgressLine &progress);
     Result<QBYWordCounterStats, QString> countInService(const QByteArray &name, ProgressLine &progress);
     Result<QBYWordCounterStats, QString> countTextInService(
         const Result<AttributedString, DocumentError> &text, ProgressLine &progress);
@@ -90,6 +97,7 @@ private:
 
     const CountArguments m_arguments;
     CountingRules m_rules; ///< of all files of the run
+    FurtherRules m_further;
     WordCounterModel m_model{[this] { return m_rules; }};
     std::optional<ServiceCounter> m_service; ///< created when first needed
     std::mutex m_largeDocument;
@@ -102,6 +110,11 @@ int CountCommand::run()
     // The service has its own, unless they are to be explained.
     if (!m_arguments.wantsService || m_arguments.wantsRules)
         m_rules = currentCountingRules();
+    m_further = currentFurtherRules();
+    if (m_arguments.also)
+        m_further.shown = *m_arguments.also;
+    if (m_arguments.wantsService)
+        std::erase_if(m_further.shown, needsText);
     if (m_rules.text.localeIdentifier)
         m_rules.text.fixLocale();
     const QByteArrayList names = inputNames();
@@ -117,15 +130,16 @@ int CountCommand::run()
 void CountCommand::countAll(const QByteArrayList &names)
 {
     const qint64 size = sizeOfAll(names);
-    const std::unique_ptr<CountReport> report = CountReport::make(m_arguments.format, size);
+    const std::unique_ptr<CountReport> report =
+        CountReport::make(m_arguments.format, size, columnsFor(m_further), m_further);
     const int threads = m_arguments.wantsService ? 1 : threadsFor(names, size);
     const std::unique_ptr<ParallelCount> parallel = threads > 1 ? countInParallel(names, threads) : nullptr;
-    QBYWordCounterStats total;
+    FileCounts total;
     bool hasRows = false;
     ProgressLine progress(names.size());
     for (qsizetype i = 0; i < names.size(); ++i) {
         progress.startReading(names[i], i);
-        const std::optional<QBYWordCounterStats> stats =
+        const std::optional<FileCounts> stats =
             parallel ? take(names[i], parallel->next(progress), progress) : count(names[i], progress);
         if (!stats)
             continue;
@@ -151,8 +165,8 @@ void CountCommand::explainRules(const QByteArrayList &names)
         m_model.setAttributedStringToCount(AttributedString(QStringLiteral("a")));
     progress.hide();
     const QByteArrayList fontFiles = MeasuringSurface::shared().engine().fontFilesInUse();
-    print(m_arguments.format == CountFormat::Json ? jsonOfRules(m_rules, fontFiles)
-                                                  : explanationOfRules(m_rules, fontFiles));
+    print(m_arguments.format == CountFormat::Json ? jsonOfRules(m_rules, m_further, fontFiles)
+                                                  : explanationOfRules(m_rules, m_further, fontFiles));
 }
 
 QByteArrayList CountCommand::inputNames()
@@ -168,19 +182,20 @@ QByteArrayList CountCommand::inputNames()
     return names + namesInList(list.value());
 }
 
-std::optional<QBYWordCounterStats> CountCommand::count(const QByteArray &name, ProgressLine &progress)
+std::optional<FileCounts> CountCommand::count(const QByteArray &name, ProgressLine &progress)
 {
-    Result<QBYWordCounterStats, QString> stats = causeText(FileError{FileError::Cause::NotEnoughMemory});
+    Result<FileCounts, QString> stats = causeText(FileError{FileError::Cause::NotEnoughMemory});
     // Every step allocates buffers as large as the document.
     try {
-        stats = m_arguments.wantsService ? countInService(name, progress) : countHere(name, progress);
+        stats = m_arguments.wantsService ? withoutFurther(countInService(name, progress))
+                                         : countHere(name, progress);
     } catch (const std::bad_alloc &) {
     }
     return take(name, stats, progress);
 }
 
-std::optional<QBYWordCounterStats> CountCommand::take(
-    const QByteArray &name, const Result<QBYWordCounterStats, QString> &stats, ProgressLine &progress)
+std::optional<FileCounts> CountCommand::take(
+    const QByteArray &name, const Result<FileCounts, QString> &stats, ProgressLine &progress)
 {
     progress.hide();
     if (stats)
@@ -205,7 +220,7 @@ std::unique_ptr<ParallelCount> CountCommand::countInParallel(const QByteArrayLis
     return std::make_unique<ParallelCount>(names, threads, makeCounter);
 }
 
-Result<QBYWordCounterStats, QString> CountCommand::countOnThread(
+Result<FileCounts, QString> CountCommand::countOnThread(
     const QByteArray &name, ColumnCounter &counter, ParallelCount::Position &position) const
 {
     try {
@@ -213,13 +228,14 @@ Result<QBYWordCounterStats, QString> CountCommand::countOnThread(
         if (!text)
             return causeText(text.error());
         position.length = text.value().length();
-        return counter.count(text.value(), [&position](qsizetype at) { position.position = at; });
+        return FileCounts{counter.count(text.value(), [&position](qsizetype at) { position.position = at; }),
+            counter.countFurther(text.value(), m_further, columnHeightOf(m_rules.page))};
     } catch (const std::bad_alloc &) {
         return causeText(FileError{FileError::Cause::NotEnoughMemory});
     }
 }
 
-Result<QBYWordCounterStats, QString> CountCommand::countHere(const QByteArray &name, ProgressLine &progress)
+Result<FileCounts, QString> CountCommand::countHere(const QByteArray &name, ProgressLine &progress)
 {
     const Result<AttributedString, DocumentError> text = loadNamedDocument(name, m_arguments.readAs);
     if (!text)
@@ -227,7 +243,10 @@ Result<QBYWordCounterStats, QString> CountCommand::countHere(const QByteArray &n
     progress.startCounting(text.value().length());
     m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
     m_model.setAttributedStringToCount(text.value());
-    return m_model.statsRepresentation();
+    MeasuringSurface &surface = MeasuringSurface::shared();
+    return FileCounts{m_model.statsRepresentation(),
+        furtherStatsOf(text.value(), m_further, surface.engine(), surface.columnWidthOn(m_rules.page),
+            columnHeightOf(m_rules.page))};
 }
 
 Result<QBYWordCounterStats, QString> CountCommand::countInService(

@@ -15,8 +15,6 @@
 #include "text_statistics/ColumnCounter.h"
 #include "text_statistics/MeasuringSurface.h"
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <new>
@@ -24,22 +22,6 @@
 #include <vector>
 
 namespace {
-
-struct StatisticSwitch {
-    const char *name;
-    Statistic statistic;
-};
-
-constexpr std::array<StatisticSwitch, statisticCount> statisticSwitches{{
-    {"words", Statistic::Words},
-    {"characters", Statistic::Characters},
-    {"all-characters", Statistic::CharactersIncludingWhitespace},
-    {"sentences", Statistic::Sentences},
-    {"lines", Statistic::Lines},
-    {"hard-line-breaks", Statistic::HardLineBreaks},
-    {"paragraphs", Statistic::Paragraphs},
-    {"indents", Statistic::IndentedParagraphs},
-}};
 
 struct ExplainOptions {
     std::vector<Statistic> statistics; ///< all, unless some are named
@@ -176,7 +158,7 @@ void ExplainCommand::printJson(const QByteArray &name, const AttributedString &t
                 print(jsonOf(fileMembers, text.string(), item));
         });
     }
-    print(CountReport::make(CountFormat::Json, 0)->row(name, m_counter->count(text)));
+    print(CountReport::make(CountFormat::Json, 0)->row(name, {m_counter->count(text), {}}));
 }
 
 void ExplainCommand::fail(const QByteArray &name, const QString &cause)
@@ -192,15 +174,16 @@ ExplainOptions optionsOf(const CommandWords &words)
         .wantsJson = words.switches.contains("json"),
         .wantsOnlyNotCounted = words.switches.contains("not-counted"),
         .readAs = words.switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind};
-    for (const StatisticSwitch &known : statisticSwitches) {
-        if (words.switches.contains(known.name))
-            chosen.statistics.push_back(known.statistic);
+    std::vector<Statistic> all;
+    for (const StatisticRow &row : statisticTable) {
+        all.push_back(row.statistic);
+        const std::string_view name = typedNameOf(row.statistic);
+        if (words.switches.contains(QByteArrayView(name.data(), static_cast<qsizetype>(name.size()))))
+            chosen.statistics.push_back(row.statistic);
     }
     chosen.areNamed = !chosen.statistics.empty();
-    if (!chosen.areNamed) {
-        for (const StatisticSwitch &known : statisticSwitches)
-            chosen.statistics.push_back(known.statistic);
-    }
+    if (!chosen.areNamed)
+        chosen.statistics = std::move(all);
     return chosen;
 }
 

@@ -2,7 +2,7 @@
 #include "command/ItemTally.h"
 
 #include "command/CommandWords.h"
-#include "command/CountReport.h"
+#include "command/CountColumn.h"
 
 void ItemTally::add(const CountedItem &item)
 {

@@ -3,9 +3,9 @@
 // Thread: one, main.  Owner: the count command.
 #pragma once
 
+#include "command/CountColumn.h"
 #include "command/ProgressLine.h"
 #include "platform/system/Result.h"
-#include "text_statistics/QBYWordCounterStats.h"
 
 #include <QByteArrayList>
 #include <QString>
@@ -25,7 +25,7 @@ class ParallelCount {
 public:
     static constexpr qsizetype maxAhead = 1024;
 
-    using Outcome = Result<QBYWordCounterStats, QString>;
+    using Outcome = Result<FileCounts, QString>;
 
     /// How far the count of one file is, in UTF-16 code units; the length is 0 while it is read.
     struct Position {

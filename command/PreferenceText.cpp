@@ -5,6 +5,7 @@
 #include "command/FileNames.h"
 #include "platform/printing/PrintSettings.h"
 #include "preferences/PrintSettingsExtension.h"
+#include "preferences/StandardPage.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -60,18 +61,26 @@ Parsed parse(const NumberAccessors &accessors, const QString &text)
 {
     bool isNumber = false;
     const qint64 number = text.toLongLong(&isNumber);
-    if (isNumber && number >= 0 && number <= accessors.max)
+    if (isNumber && number >= accessors.min && number <= accessors.max)
         return DefaultsValue(number);
-    return CommandText::tr("%1 is not a number from 0 to %2; use one")
-        .arg(quoted(text), QString::number(accessors.max));
+    return CommandText::tr("%1 is not a number from %2 to %3; use one")
+        .arg(quoted(text), QString::number(accessors.min), QString::number(accessors.max));
+}
+
+Parsed parse(const StandardPageAccessors & /*accessors*/, const QString &text)
+{
+    if (const std::optional<StandardPage> page = StandardPage::fromText(text))
+        return DefaultsValue(page->text());
+    return CommandText::tr("%1 is no standard page; use one such as '1800 characters' or '250 words'")
+        .arg(quoted(text));
 }
 
 /// Points.
-double widthOfPage()
+QSizeF sizeOfPage()
 {
     PrintSettings &settings = PrintSettings::shared();
     const std::optional<QBYPaper> paper = QBYExtension::currentPaperObject(settings);
-    return (paper ? paper->paperSize() : settings.paperSize()).width();
+    return paper ? paper->paperSize() : settings.paperSize();
 }
 
 Parsed parse(const MarginAccessors &accessors, const QString &text)
@@ -90,7 +99,9 @@ Parsed parse(const MarginAccessors &accessors, const QString &text)
         inches /= millimetresPerInch / 10;
     else if (unit == QStringLiteral("pt"))
         inches /= pointsPerInch;
-    const double max = maxMargin(widthOfPage(), accessors.getOpposite());
+    const QSizeF page = sizeOfPage();
+    const double side = accessors.isVertical ? page.height() : page.width();
+    const double max = maxMargin(side, accessors.getOpposite());
     constexpr double tolerance = 1e-6; // the maximum itself, as it is printed
     if (inches <= max + tolerance)
         return DefaultsValue(inches);

@@ -2,6 +2,7 @@
 #include "desk/RulesPage.h"
 
 #include "desk/ControlText.h"
+#include "desk/FurtherRulesBox.h"
 #include "desk/PageSize.h"
 #include "ui_RulesPage.h"
 
@@ -28,6 +29,8 @@ RulesPage::RulesPage(RulesEditor &editor, QAction &restoreDefaults, const QStrin
     , m_ui(std::make_unique<Ui::RulesPage>())
 {
     m_ui->setupUi(this);
+    m_further = new FurtherRulesBox(editor);
+    m_ui->contentLayout->insertWidget(m_ui->contentLayout->indexOf(m_ui->speechBox) + 1, m_further);
     for (QCheckBox *const checkBox : findChildren<QCheckBox *>())
         bindCheckBox(*checkBox);
     bindMinimum();
@@ -70,6 +73,8 @@ void RulesPage::showValues()
         checkBox->setChecked(valueOf(rowOf(*checkBox)) == DefaultsValue(true));
     }
     m_ui->whitespaceCheckBox->setEnabled(m_ui->charactersCheckBox->isChecked());
+
+    m_further->showValues();
 
     const EditablePreference &minimum = rowOf(*m_ui->minimumSpinBox);
     const auto number = std::get<qint64>(*valueOf(minimum));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// RulesPage is the page with the rules of the counts: what is shown, what is a sentence and a paragraph, and
-// what is spoken. It applies every change at once.
+// RulesPage is the page with the rules of the counts: what is shown, what is a sentence and a paragraph,
+// what is spoken, and what is counted beside the eight statistics. It applies every change at once.
 // Thread: main.  Owner: the stack of pages, as a Qt child.
 #pragma once
 
@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class FurtherRulesBox;
 class QAction;
 class QCheckBox;
 namespace Ui {
@@ -38,4 +39,5 @@ private:
     RulesEditor &m_editor;
     SpeechSample m_sample;
     std::unique_ptr<Ui::RulesPage> m_ui;
+    FurtherRulesBox *m_further; ///< a Qt child
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/EditablePreferences.h"
 
+#include "preferences/FurtherPreferences.h"
 #include "preferences/QBYPaper.h"
 #include "preferences/QBYUserDefaultsController.h"
 
@@ -12,6 +13,26 @@ namespace {
 using Controller = QBYUserDefaultsController;
 
 constexpr qint64 maxMinimumOfSentences = 1000;
+
+template <Preference preference>
+constexpr SwitchAccessors furtherSwitch{[] { return FurtherPreferences::isShown(preference); },
+    [](bool isOn) { FurtherPreferences::setShown(preference, isOn); }};
+
+template <Preference preference>
+constexpr NumberAccessors speed{[] { return FurtherPreferences::speed(preference); },
+    [](qint64 number) { FurtherPreferences::setSpeed(preference, number); }, FurtherPreferences::maxSpeed,
+    FurtherPreferences::minSpeed};
+
+template <Preference preference, Preference opposite>
+constexpr MarginAccessors verticalMargin{[] { return FurtherPreferences::verticalMargin(preference); },
+    [](double inches) { FurtherPreferences::setVerticalMargin(preference, inches); },
+    [] { return FurtherPreferences::verticalMargin(opposite); }, true};
+
+constexpr StandardPageAccessors standardPage{[] { return FurtherPreferences::standardPage().text(); },
+    [](const QString &text) {
+        if (const std::optional<StandardPage> page = StandardPage::fromText(text))
+            FurtherPreferences::setStandardPage(*page);
+    }};
 
 constexpr std::array editable{
     EditablePreference{Preference::ShowCharacterCount, QLatin1StringView("show-characters"),
@@ -58,6 +79,25 @@ constexpr std::array editable{
         MarginAccessors{Controller::rightMarginForPaperSizeLineMeasuring,
             Controller::setRightMarginForPaperSizeLineMeasuring,
             Controller::leftMarginForPaperSizeLineMeasuring}},
+    EditablePreference{Preference::TopMargin, QLatin1StringView("top-margin"),
+        verticalMargin<Preference::TopMargin, Preference::BottomMargin>},
+    EditablePreference{Preference::BottomMargin, QLatin1StringView("bottom-margin"),
+        verticalMargin<Preference::BottomMargin, Preference::TopMargin>},
+    EditablePreference{
+        Preference::ShowPages, QLatin1StringView("show-pages"), furtherSwitch<Preference::ShowPages>},
+    EditablePreference{Preference::ShowStandardPages, QLatin1StringView("show-standard-pages"),
+        furtherSwitch<Preference::ShowStandardPages>},
+    EditablePreference{Preference::ShowReadingTime, QLatin1StringView("show-reading-time"),
+        furtherSwitch<Preference::ShowReadingTime>},
+    EditablePreference{Preference::ShowSpeakingTime, QLatin1StringView("show-speaking-time"),
+        furtherSwitch<Preference::ShowSpeakingTime>},
+    EditablePreference{Preference::ShowGraphemes, QLatin1StringView("show-graphemes"),
+        furtherSwitch<Preference::ShowGraphemes>},
+    EditablePreference{Preference::StandardPageSize, QLatin1StringView("standard-page"), standardPage},
+    EditablePreference{
+        Preference::ReadingSpeed, QLatin1StringView("reading-speed"), speed<Preference::ReadingSpeed>},
+    EditablePreference{
+        Preference::SpeakingSpeed, QLatin1StringView("speaking-speed"), speed<Preference::SpeakingSpeed>},
 };
 
 std::optional<DefaultsValue> valueFrom(const PaperAccessors &accessors)
@@ -125,6 +165,8 @@ std::optional<DefaultsValue> defaultValueOf(
 {
     if (const std::optional<DefaultsValue> fixed = fixedDefaultOf(preference.preference))
         return fixed;
+    if (const std::optional<DefaultsValue> unwritten = unwrittenDefaultOf(preference.preference))
+        return unwritten;
     if (!printer.defaultPaper)
         return std::nullopt;
     const QBYPaper paper(*printer.defaultPaper);
@@ -138,9 +180,9 @@ std::optional<DefaultsValue> defaultValueOf(
     }
 }
 
-double maxMargin(double paperWidth, double oppositeMargin)
+double maxMargin(double paperSide, double oppositeMargin)
 {
-    return std::max(0.0, paperWidth / pointsPerInch - std::max(0.0, oppositeMargin) - minColumnInInches);
+    return std::max(0.0, paperSide / pointsPerInch - std::max(0.0, oppositeMargin) - minColumnInInches);
 }
 
 bool leaveColumn(double leftMargin, double rightMargin, double paperWidth)

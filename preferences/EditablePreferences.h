@@ -19,11 +19,16 @@ struct SwitchAccessors {
     bool (*get)();
     void (*set)(bool isOn);
 };
-/// A whole number, from 0.
 struct NumberAccessors {
     qint64 (*get)();
     void (*set)(qint64 number);
     qint64 max;
+    qint64 min = 0;
+};
+/// A text that StandardPage::fromText() reads.
+struct StandardPageAccessors {
+    QString (*get)();
+    void (*set)(const QString &text);
 };
 struct PaperAccessors {
     std::optional<QString> (*get)();
@@ -34,12 +39,14 @@ struct MarginAccessors {
     double (*get)();
     void (*set)(double inches);
     double (*getOpposite)(); ///< the margin at the other edge
+    bool isVertical = false; ///< at the top or the bottom
 };
 
 struct EditablePreference {
     Preference preference;
     QLatin1StringView name; ///< as it is typed, such as "show-lines"
-    std::variant<SwitchAccessors, NumberAccessors, PaperAccessors, MarginAccessors> accessors;
+    std::variant<SwitchAccessors, NumberAccessors, PaperAccessors, MarginAccessors, StandardPageAccessors>
+        accessors;
 };
 
 /// In the order in which they are listed. Values that are set in this order have the values that were asked
@@ -52,23 +59,24 @@ const EditablePreference *editablePreferenceNamed(QStringView name);
 const EditablePreference &editablePreference(Preference preference);
 
 /// The value in force; absent only for a paper that was never chosen. A boolean for a switch, an integer for
-/// a number, a text for a paper, inches as a double for a margin.
+/// a number, a text for a paper or a standard page, inches as a double for a margin.
 std::optional<DefaultsValue> valueOf(const EditablePreference &preference);
 
 /// value: of the kind that valueOf() returns, otherwise nothing happens. Ranges are left to the caller. False
 /// if the value could not be written.
 bool setValue(const EditablePreference &preference, const DefaultsValue &value);
 
-/// What the first launch writes; absent for paper and margins while the printer does not answer.
+/// What the first launch writes, or what holds without having been written; absent for paper and margins
+/// while the printer does not answer.
 std::optional<DefaultsValue> defaultValueOf(
     const EditablePreference &preference, const PrinterAnswer &printer);
 
 /// The margins leave a column at least this wide.
 inline constexpr double minColumnInInches = 0.5;
 
-/// The largest margin, in inches, that leaves a column beside the opposite one; 0 or more. paperWidth:
-/// points.
-double maxMargin(double paperWidth, double oppositeMargin);
+/// The largest margin, in inches, that leaves a column beside the opposite one; 0 or more. paperSide: points,
+/// the width for the left and right margins, the height for the others.
+double maxMargin(double paperSide, double oppositeMargin);
 
 /// Whether the margins, in inches, leave such a column. paperWidth: points.
 bool leaveColumn(double leftMargin, double rightMargin, double paperWidth);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preferences/PreferenceTable.h"
 
+#include "preferences/StandardPage.h"
+
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -11,7 +13,8 @@ struct Row {
     Preference preference;
     const char16_t *key;
     bool isAnnounced;
-    std::optional<std::variant<bool, qint64>> firstLaunchDefault; // absent if it depends on the paper
+    std::optional<std::variant<bool, qint64>>
+        firstLaunchDefault; // absent if it is not written then, or depends on the paper
 };
 
 constexpr std::array table{
@@ -32,6 +35,16 @@ constexpr std::array table{
     Row{Preference::PaperName, u"PaperNameForPageToLineMeasureUserDefaultsKey", true, std::nullopt},
     Row{Preference::LeftMargin, u"PaperLeftMarginValueUserDefaultsKey", false, std::nullopt},
     Row{Preference::RightMargin, u"PaperRightMarginValueUserDefaultsKey", false, std::nullopt},
+    Row{Preference::TopMargin, u"PaperTopMarginValueUserDefaultsKey", false, std::nullopt},
+    Row{Preference::BottomMargin, u"PaperBottomMarginValueUserDefaultsKey", false, std::nullopt},
+    Row{Preference::ShowPages, u"ShowPagesUserDefaultsKey", true, std::nullopt},
+    Row{Preference::ShowStandardPages, u"ShowStandardPagesUserDefaultsKey", true, std::nullopt},
+    Row{Preference::ShowReadingTime, u"ShowReadingTimeUserDefaultsKey", true, std::nullopt},
+    Row{Preference::ShowSpeakingTime, u"ShowSpeakingTimeUserDefaultsKey", true, std::nullopt},
+    Row{Preference::ShowGraphemes, u"ShowGraphemesUserDefaultsKey", true, std::nullopt},
+    Row{Preference::StandardPageSize, u"StandardPageSizeUserDefaultsKey", true, std::nullopt},
+    Row{Preference::ReadingSpeed, u"ReadingSpeedUserDefaultsKey", true, std::nullopt},
+    Row{Preference::SpeakingSpeed, u"SpeakingSpeedUserDefaultsKey", true, std::nullopt},
     Row{Preference::HasAppBeenOpened, u"HasAppBeenOpenedKey", false, std::nullopt},
 };
 
@@ -60,6 +73,31 @@ QString keyOf(Preference preference)
 bool isAnnounced(Preference preference)
 {
     return rowOf(preference).isAnnounced;
+}
+
+std::optional<DefaultsValue> unwrittenDefaultOf(Preference preference)
+{
+    switch (preference) {
+    case Preference::ShowPages:
+    case Preference::ShowStandardPages:
+    case Preference::ShowReadingTime:
+    case Preference::ShowSpeakingTime:
+    case Preference::ShowGraphemes:
+        return false;
+    case Preference::StandardPageSize:
+        return StandardPage().text();
+    // The means for adults who read English, silently and aloud: M. Brysbaert, "How many words do we read per
+    // minute? A review and meta-analysis of reading rate", Journal of Memory and Language 109 (2019).
+    case Preference::ReadingSpeed:
+        return qint64{238};
+    case Preference::SpeakingSpeed:
+        return qint64{183};
+    case Preference::TopMargin:
+    case Preference::BottomMargin:
+        return 1.0;
+    default:
+        return std::nullopt;
+    }
 }
 
 std::vector<DefaultsEntry> fixedFirstLaunchDefaults()

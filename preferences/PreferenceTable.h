@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 enum class Preference {
@@ -24,6 +25,16 @@ enum class Preference {
     PaperName,
     LeftMargin, ///< inches
     RightMargin, ///< inches
+    TopMargin, ///< inches
+    BottomMargin, ///< inches
+    ShowPages,
+    ShowStandardPages,
+    ShowReadingTime,
+    ShowSpeakingTime,
+    ShowGraphemes,
+    StandardPageSize, ///< as of StandardPage
+    ReadingSpeed, ///< words per minute
+    SpeakingSpeed, ///< words per minute
     HasAppBeenOpened, ///< whether the first-launch defaults have been written
 };
 
@@ -33,6 +44,10 @@ QString keyOf(Preference preference);
 /// Whether the setter posts the change notification. Those of the sentence rule and the margins deliberately
 /// do not: other processes read these preferences at their next count.
 bool isAnnounced(Preference preference);
+
+/// The value of a preference that the first launch does not write and that depends on nothing else; it holds
+/// until the user sets another. Absent for all others.
+std::optional<DefaultsValue> unwrittenDefaultOf(Preference preference);
 
 /// The first-launch values that do not depend on the paper, in the order in which they are written.
 std::vector<DefaultsEntry> fixedFirstLaunchDefaults();

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/ColumnCounter.h"
 
+#include "platform/segmentation/GraphemeClusters.h"
 #include "text_statistics/ItemReport.h"
+#include "text_statistics/PageCounter.h"
 
 QBYWordCounterStats ColumnCounter::count(const AttributedString &text, const TextCounter::Progress &progress)
 {
@@ -14,6 +16,23 @@ QBYWordCounterStats ColumnCounter::count(const AttributedString &text, const Tex
     const quint64 lines = m_engine.countLines(text, m_columnWidth, half(0));
     QBYWordCounterStats stats = m_counter.count(text.string(), m_rules, half(text.length()));
     stats.numberOfLines = lines;
+    return stats;
+}
+
+FurtherStats ColumnCounter::countFurther(
+    const AttributedString &text, const FurtherRules &rules, double columnHeight)
+{
+    return furtherStatsOf(text, rules, m_engine, m_columnWidth, columnHeight);
+}
+
+FurtherStats furtherStatsOf(const AttributedString &text, const FurtherRules &rules, LayoutEngine &engine,
+    double columnWidth, double columnHeight)
+{
+    FurtherStats stats;
+    if (rules.shows(FurtherStatistic::Pages))
+        stats.numberOfPages = numberOfPages(engine, text, columnWidth, columnHeight);
+    if (rules.shows(FurtherStatistic::Graphemes))
+        stats.numberOfGraphemes = numberOfGraphemeClusters(text.string());
     return stats;
 }
 

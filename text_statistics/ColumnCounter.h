@@ -8,6 +8,7 @@
 #include "platform/styled_text/AttributedString.h"
 #include "platform/text_layout/LayoutEngine.h"
 #include "text_statistics/CountedItem.h"
+#include "text_statistics/FurtherStats.h"
 #include "text_statistics/TextCounter.h"
 
 class ColumnCounter {
@@ -23,6 +24,11 @@ public:
     /// units up to the text's length.
     [[nodiscard]] QBYWordCounterStats count(
         const AttributedString &text, const TextCounter::Progress &progress = {});
+
+    /// Those of the further counts that the rules show and that need the text. columnHeight: points, of
+    /// columnHeightOf().
+    [[nodiscard]] FurtherStats countFurther(
+        const AttributedString &text, const FurtherRules &rules, double columnHeight);
 
     /// Counts one statistic, and yields what it counts and what it does not, in the order of the text. The
     /// items add up to the result; none of them is kept.
@@ -45,3 +51,7 @@ private:
     TextCounter m_counter;
     LayoutEngine m_engine;
 };
+
+/// The same with the engine of another counter.
+FurtherStats furtherStatsOf(const AttributedString &text, const FurtherRules &rules, LayoutEngine &engine,
+    double columnWidth, double columnHeight);

@@ -37,6 +37,9 @@ struct PageRules {
     QSizeF paperSize;
     double leftMargin = 0;
     double rightMargin = 0;
+    // Only pages depend on these two.
+    double topMargin = 72;
+    double bottomMargin = 72;
     double scale = 1; ///< the surface's backing scale factor; the margins have already been divided by it
     /// Points; the width of the column to use if the margins leave none. Absent: the column of the surface's
     /// previous count.

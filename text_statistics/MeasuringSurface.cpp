@@ -5,6 +5,7 @@
 #include "platform/logging/LogChannel.h"
 #include "platform/printing/PrintSettings.h"
 #include "platform/text_layout/LayoutEngine.h"
+#include "preferences/FurtherPreferences.h"
 #include "preferences/PrintSettingsExtension.h"
 #include "preferences/QBYUserDefaultsController.h"
 
@@ -38,12 +39,14 @@ PageRules MeasuringSurface::pageOf(PrintSettings &printSettings) const
             .scale = m_window.backingScaleFactor()};
     }
     const View &textView = *m_preview.previewTextView();
+    const auto pointsOf = [&textView](
+                              double inches) { return QBYExtension::inchToScreenNumber(textView, inches); };
     return {.paperName = paper->paperName(),
         .paperSize = paper->paperSize(),
-        .leftMargin =
-            QBYExtension::inchToScreenNumber(textView, Preferences::leftMarginForPaperSizeLineMeasuring()),
-        .rightMargin =
-            QBYExtension::inchToScreenNumber(textView, Preferences::rightMarginForPaperSizeLineMeasuring()),
+        .leftMargin = pointsOf(Preferences::leftMarginForPaperSizeLineMeasuring()),
+        .rightMargin = pointsOf(Preferences::rightMarginForPaperSizeLineMeasuring()),
+        .topMargin = pointsOf(FurtherPreferences::verticalMargin(Preference::TopMargin)),
+        .bottomMargin = pointsOf(FurtherPreferences::verticalMargin(Preference::BottomMargin)),
         .scale = m_window.backingScaleFactor()};
 }
 

@@ -582,6 +582,69 @@
     </message>
 </context>
 <context>
+    <name>FurtherRulesBox</name>
+    <message>
+        <source>%L1 words</source>
+        <translation>%L1 Wörter</translation>
+    </message>
+    <message>
+        <source>%L1 characters</source>
+        <translation>%L1 Zeichen</translation>
+    </message>
+    <message>
+        <source>Beyond the Eight Numbers</source>
+        <translation>Über die acht Zahlen hinaus</translation>
+    </message>
+    <message>
+        <source>Shown in the table of documents and in the terminal only.</source>
+        <translation>Nur in der Tabelle der Dokumente und im Terminal zu sehen.</translation>
+    </message>
+    <message>
+        <source>Pages of your paper</source>
+        <translation>Seiten des eigenen Papiers</translation>
+    </message>
+    <message>
+        <source>Standard pages of</source>
+        <translation>Normseiten zu</translation>
+    </message>
+    <message>
+        <source>Reading time at</source>
+        <translation>Lesezeit bei</translation>
+    </message>
+    <message>
+        <source>Reading Speed</source>
+        <translation>Lesegeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Speaking time at</source>
+        <translation>Sprechzeit bei</translation>
+    </message>
+    <message>
+        <source>Speaking Speed</source>
+        <translation>Sprechgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Characters as a reader sees them</source>
+        <translation>Zeichen, wie man sie beim Lesen sieht</translation>
+    </message>
+    <message>
+        <source>Counts what looks like one character as one: letters with their accents, and emoji.</source>
+        <translation>Zählt als eins, was wie ein Zeichen aussieht: Buchstaben mit ihren Akzenten und Emojis.</translation>
+    </message>
+    <message>
+        <source> words per minute</source>
+        <translation> Wörtern pro Minute</translation>
+    </message>
+    <message>
+        <source>Standard Page</source>
+        <translation>Normseite</translation>
+    </message>
+    <message>
+        <source>Choose a size, or type your own. White space counts as characters.</source>
+        <translation>Eine Größe wählen oder eine eigene eingeben. Leerraum zählt zu den Zeichen.</translation>
+    </message>
+</context>
+<context>
     <name>LengthUnit</name>
     <message>
         <source> mm</source>
@@ -689,10 +752,6 @@
     <message>
         <source>also count the files named in LIST, after those of the command line; the names are separated by line ends, or by NUL bytes if there are any; LIST may be - for standard input</source>
         <translation>nach den Dateien der Befehlszeile auch die in LIST genannten zählen; die Namen sind durch Zeilenenden getrennt oder, falls vorhanden, durch NUL-Bytes; LIST kann - für die Standardeingabe sein</translation>
-    </message>
-    <message>
-        <source>count in the counting service, in a sandboxed process, as Quillbay&apos;s windows do; the counts are the same</source>
-        <translation>im Zähldienst zählen, in einem abgeschotteten Prozess, wie es die Fenster von Quillbay tun; die Zahlen sind dieselben</translation>
     </message>
     <message>
         <source>count every file as plain text, whatever it is: a web page with its markup, a picture with its bytes</source>
@@ -1129,6 +1188,30 @@
     <message>
         <source>a window could not be opened</source>
         <translation>ein Fenster konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>also print these counts, separated by commas: pages, standard-pages, reading-time, speaking-time, graphemes; none prints none of them; without this option, those that your preferences show</source>
+        <translation>auch diese Zahlen ausgeben, durch Kommas getrennt: pages, standard-pages, reading-time, speaking-time, graphemes; none gibt keine davon aus; ohne diese Option die, die die Einstellungen zeigen</translation>
+    </message>
+    <message>
+        <source>count in the counting service, in a sandboxed process, as Quillbay&apos;s windows do; the counts are the same; pages and graphemes are not counted there</source>
+        <translation>im Zähldienst zählen, in einem Prozess in einer Sandbox, wie die Fenster von Quillbay; die Zahlen sind dieselben; Seiten und Grapheme werden dort nicht gezählt</translation>
+    </message>
+    <message>
+        <source>Pages are sheets of your paper, filled with the lines of the text between the top and bottom margins. Standard pages are the characters or words divided by the size that you prefer. Reading and speaking times follow from the words and your speeds; JSON and TSV have them in seconds. Graphemes are the characters that a reader sees, white space included.</source>
+        <translation>Seiten sind Blätter des eigenen Papiers, zwischen dem oberen und dem unteren Rand mit den Zeilen des Textes gefüllt. Normseiten sind die Zeichen oder Wörter, geteilt durch die eingestellte Größe. Lese- und Sprechzeit ergeben sich aus den Wörtern und den eingestellten Geschwindigkeiten; JSON und TSV enthalten sie in Sekunden. Grapheme sind die Zeichen, die man beim Lesen sieht, mit Leerraum.</translation>
+    </message>
+    <message>
+        <source>print the pages and the time to read it, too</source>
+        <translation>auch die Seiten und die Lesezeit ausgeben</translation>
+    </message>
+    <message>
+        <source>20 to 2000 words per minute</source>
+        <translation>20 bis 2000 Wörter pro Minute</translation>
+    </message>
+    <message>
+        <source>such as &apos;1800 characters&apos; or &apos;250 words&apos;; white space counts</source>
+        <translation>zum Beispiel &apos;1800 characters&apos; oder &apos;250 words&apos;; Leerraum zählt mit</translation>
     </message>
 </context>
 <context>
@@ -1879,10 +1962,6 @@
         <translation>%1 ist weder on noch off; eines davon angeben</translation>
     </message>
     <message>
-        <source>%1 is not a number from 0 to %2; use one</source>
-        <translation>%1 ist keine Zahl von 0 bis %2; eine solche angeben</translation>
-    </message>
-    <message>
         <source>%1 is not a length; use one such as 1in, 25.4mm, 2.5cm or 72pt</source>
         <translation>%1 ist keine Länge; eine wie 1in, 25.4mm, 2.5cm oder 72pt angeben</translation>
     </message>
@@ -1965,6 +2044,62 @@
     <message>
         <source>%1 other files are left out too.</source>
         <translation>%1 weitere Dateien bleiben auch aus.</translation>
+    </message>
+    <message>
+        <source>--also knows no &apos;%1&apos;; use none, or some of %2</source>
+        <translation>--also kennt &apos;%1&apos; nicht; none verwenden oder einige von %2</translation>
+    </message>
+    <message>
+        <source>--service does not count %1; leave out one of them</source>
+        <translation>--service zählt %1 nicht; eines von beiden weglassen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Standard pages</source>
+        <translation>Normseiten</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lesezeit</translation>
+    </message>
+    <message>
+        <source>Speaking</source>
+        <translation>Sprechzeit</translation>
+    </message>
+    <message>
+        <source>Graphemes</source>
+        <translation>Grapheme</translation>
+    </message>
+    <message>
+        <source>%1 is not a number from %2 to %3; use one</source>
+        <translation>%1 ist keine Zahl von %2 bis %3; eine solche angeben</translation>
+    </message>
+    <message>
+        <source>%1 is no standard page; use one such as &apos;1800 characters&apos; or &apos;250 words&apos;</source>
+        <translation>%1 ist keine Normseite; eine verwenden wie &apos;1800 characters&apos; oder &apos;250 words&apos;</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>Oberer Rand</translation>
+    </message>
+    <message>
+        <source>Bottom margin</source>
+        <translation>Unterer Rand</translation>
+    </message>
+    <message>
+        <source>Standard page</source>
+        <translation>Normseite</translation>
+    </message>
+    <message>
+        <source>Words read per minute</source>
+        <translation>Gelesene Wörter pro Minute</translation>
+    </message>
+    <message>
+        <source>Words spoken per minute</source>
+        <translation>Gesprochene Wörter pro Minute</translation>
     </message>
 </context>
 <context>

@@ -582,6 +582,69 @@
     </message>
 </context>
 <context>
+    <name>FurtherRulesBox</name>
+    <message>
+        <source>%L1 words</source>
+        <translation>%L1&#xa0;mots</translation>
+    </message>
+    <message>
+        <source>%L1 characters</source>
+        <translation>%L1&#xa0;caractères</translation>
+    </message>
+    <message>
+        <source>Beyond the Eight Numbers</source>
+        <translation>Au-delà des huit statistiques</translation>
+    </message>
+    <message>
+        <source>Shown in the table of documents and in the terminal only.</source>
+        <translation>Visibles seulement dans le tableau des documents et dans le terminal.</translation>
+    </message>
+    <message>
+        <source>Pages of your paper</source>
+        <translation>Pages de votre papier</translation>
+    </message>
+    <message>
+        <source>Standard pages of</source>
+        <translation>Pages types de</translation>
+    </message>
+    <message>
+        <source>Reading time at</source>
+        <translation>Temps de lecture à</translation>
+    </message>
+    <message>
+        <source>Reading Speed</source>
+        <translation>Vitesse de lecture</translation>
+    </message>
+    <message>
+        <source>Speaking time at</source>
+        <translation>Temps de parole à</translation>
+    </message>
+    <message>
+        <source>Speaking Speed</source>
+        <translation>Vitesse de parole</translation>
+    </message>
+    <message>
+        <source>Characters as a reader sees them</source>
+        <translation>Caractères tels qu’on les voit</translation>
+    </message>
+    <message>
+        <source>Counts what looks like one character as one: letters with their accents, and emoji.</source>
+        <translation>Compte pour un ce qui ressemble à un seul caractère&#xa0;: les lettres avec leurs accents, les émojis.</translation>
+    </message>
+    <message>
+        <source> words per minute</source>
+        <translation>&#xa0;mots par minute</translation>
+    </message>
+    <message>
+        <source>Standard Page</source>
+        <translation>Page type</translation>
+    </message>
+    <message>
+        <source>Choose a size, or type your own. White space counts as characters.</source>
+        <translation>Choisissez une taille ou saisissez la vôtre. Les blancs comptent parmi les caractères.</translation>
+    </message>
+</context>
+<context>
     <name>LengthUnit</name>
     <message>
         <source> mm</source>
@@ -689,10 +752,6 @@
     <message>
         <source>also count the files named in LIST, after those of the command line; the names are separated by line ends, or by NUL bytes if there are any; LIST may be - for standard input</source>
         <translation>compter aussi les fichiers nommés dans LIST, après ceux de la ligne de commande&#x202f;; les noms sont séparés par des fins de ligne, ou par des octets NUL s’il y en a&#x202f;; LIST peut être - pour l’entrée standard</translation>
-    </message>
-    <message>
-        <source>count in the counting service, in a sandboxed process, as Quillbay&apos;s windows do; the counts are the same</source>
-        <translation>compter dans le service de comptage, dans un processus isolé, comme le font les fenêtres de Quillbay&#x202f;; les chiffres sont les mêmes</translation>
     </message>
     <message>
         <source>count every file as plain text, whatever it is: a web page with its markup, a picture with its bytes</source>
@@ -1129,6 +1188,30 @@
     <message>
         <source>a window could not be opened</source>
         <translation>une fenêtre n’a pas pu être ouverte</translation>
+    </message>
+    <message>
+        <source>also print these counts, separated by commas: pages, standard-pages, reading-time, speaking-time, graphemes; none prints none of them; without this option, those that your preferences show</source>
+        <translation>afficher aussi ces statistiques, séparées par des virgules&#xa0;: pages, standard-pages, reading-time, speaking-time, graphemes&#x202f;; none n’en affiche aucune&#x202f;; sans cette option, celles que vos préférences montrent</translation>
+    </message>
+    <message>
+        <source>count in the counting service, in a sandboxed process, as Quillbay&apos;s windows do; the counts are the same; pages and graphemes are not counted there</source>
+        <translation>compter dans le service de comptage, dans un processus isolé, comme le font les fenêtres de Quillbay&#x202f;; les statistiques sont les mêmes&#x202f;; les pages et les graphèmes n’y sont pas comptés</translation>
+    </message>
+    <message>
+        <source>Pages are sheets of your paper, filled with the lines of the text between the top and bottom margins. Standard pages are the characters or words divided by the size that you prefer. Reading and speaking times follow from the words and your speeds; JSON and TSV have them in seconds. Graphemes are the characters that a reader sees, white space included.</source>
+        <translation>Les pages sont des feuilles de votre papier, remplies des lignes du texte entre les marges du haut et du bas. Les pages types sont les caractères ou les mots divisés par la taille que vous préférez. Les temps de lecture et de parole découlent des mots et de vos vitesses&#x202f;; JSON et TSV les donnent en secondes. Les graphèmes sont les caractères que voit un lecteur, blancs compris.</translation>
+    </message>
+    <message>
+        <source>print the pages and the time to read it, too</source>
+        <translation>afficher aussi les pages et le temps de lecture</translation>
+    </message>
+    <message>
+        <source>20 to 2000 words per minute</source>
+        <translation>20 à 2000 mots par minute</translation>
+    </message>
+    <message>
+        <source>such as &apos;1800 characters&apos; or &apos;250 words&apos;; white space counts</source>
+        <translation>par exemple &apos;1800 characters&apos; ou &apos;250 words&apos;&#x202f;; les blancs comptent</translation>
     </message>
 </context>
 <context>
@@ -1879,10 +1962,6 @@
         <translation>%1 n’est ni on ni off&#x202f;; indiquez l’un des deux</translation>
     </message>
     <message>
-        <source>%1 is not a number from 0 to %2; use one</source>
-        <translation>%1 n’est pas un nombre de 0 à %2&#x202f;; indiquez-en un</translation>
-    </message>
-    <message>
         <source>%1 is not a length; use one such as 1in, 25.4mm, 2.5cm or 72pt</source>
         <translation>%1 n’est pas une longueur&#x202f;; indiquez-en une comme 1in, 25.4mm, 2.5cm ou 72pt</translation>
     </message>
@@ -1965,6 +2044,62 @@
     <message>
         <source>%1 other files are left out too.</source>
         <translation>%1 autres fichiers sont aussi laissés de côté.</translation>
+    </message>
+    <message>
+        <source>--also knows no &apos;%1&apos;; use none, or some of %2</source>
+        <translation>--also ne connaît pas &apos;%1&apos;&#x202f;; utilisez none, ou certains de %2</translation>
+    </message>
+    <message>
+        <source>--service does not count %1; leave out one of them</source>
+        <translation>--service ne compte pas %1&#x202f;; retirez l’un des deux</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Standard pages</source>
+        <translation>Pages types</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Speaking</source>
+        <translation>Parole</translation>
+    </message>
+    <message>
+        <source>Graphemes</source>
+        <translation>Graphemes</translation>
+    </message>
+    <message>
+        <source>%1 is not a number from %2 to %3; use one</source>
+        <translation>%1 n’est pas un nombre de %2 à %3&#x202f;; indiquez-en un</translation>
+    </message>
+    <message>
+        <source>%1 is no standard page; use one such as &apos;1800 characters&apos; or &apos;250 words&apos;</source>
+        <translation>%1 n’est pas une page type&#x202f;; utilisez-en une comme &apos;1800 characters&apos; ou &apos;250 words&apos;</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>Marge du haut</translation>
+    </message>
+    <message>
+        <source>Bottom margin</source>
+        <translation>Marge du bas</translation>
+    </message>
+    <message>
+        <source>Standard page</source>
+        <translation>Page type</translation>
+    </message>
+    <message>
+        <source>Words read per minute</source>
+        <translation>Mots lus par minute</translation>
+    </message>
+    <message>
+        <source>Words spoken per minute</source>
+        <translation>Mots dits par minute</translation>
     </message>
 </context>
 <context>

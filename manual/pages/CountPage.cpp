@@ -7,7 +7,9 @@ const ManualPage &countPage()
         .program = "quillbay",
         .command = "count",
         .summary = QT_TRANSLATE_NOOP("Manual", "print the counts of files or of standard input"),
-        .usages = {"[--json | --tsv | --explain-rules] [--service] [--as-text] [--files-from LIST] [FILE…]"},
+        .usages =
+            {"[--json | --tsv | --explain-rules] [--also COUNTS] [--service] [--as-text] [--files-from LIST] "
+             "[FILE…]"},
         .description =
             {QT_TRANSLATE_NOOP("Manual",
                  "Counts the words, characters, sentences, lines on your paper, hard line breaks, paragraphs "
@@ -25,6 +27,12 @@ const ManualPage &countPage()
             {.name = "tsv",
                 .text = QT_TRANSLATE_NOOP(
                     "Manual", "print tab-separated columns, with their names on the first line")},
+            {.name = "also",
+                .placeholder = "COUNTS",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "also print these counts, separated by commas: pages, standard-pages, reading-time, "
+                    "speaking-time, graphemes; none prints none of them; without this option, those that "
+                    "your preferences show")},
             {.name = "files-from",
                 .placeholder = "LIST",
                 .completion = ShellCompletion::Files,
@@ -40,7 +48,7 @@ const ManualPage &countPage()
             {.name = "service",
                 .text = QT_TRANSLATE_NOOP("Manual",
                     "count in the counting service, in a sandboxed process, as Quillbay's windows do; "
-                    "the counts are the same")},
+                    "the counts are the same; pages and graphemes are not counted there")},
             {.name = "as-text",
                 .text = QT_TRANSLATE_NOOP("Manual",
                     "count every file as plain text, whatever it is: a web page with its markup, a "
@@ -50,6 +58,12 @@ const ManualPage &countPage()
                       "For several files, the table ends with a row of totals; the other two formats have no "
                       "such "
                       "row."),
+            QT_TRANSLATE_NOOP("Manual",
+                "Pages are sheets of your paper, filled with the lines of the text between the top and "
+                "bottom "
+                "margins. Standard pages are the characters or words divided by the size that you prefer. "
+                "Reading and speaking times follow from the words and your speeds; JSON and TSV have them in "
+                "seconds. Graphemes are the characters that a reader sees, white space included."),
             QT_TRANSLATE_NOOP("Manual",
                 "Control characters in names are escaped: as \\x1b in the table and as \\u001b in JSON. "
                 "With --tsv, tabs, line feeds, carriage returns and backslashes become \\t, \\n, \\r and "
@@ -64,6 +78,8 @@ const ManualPage &countPage()
             {"find . -name '*.odt' -print0 | quillbay count --files-from -",
                 QT_TRANSLATE_NOOP(
                     "Manual", "count all OpenDocument texts below this folder, whatever their names are")},
+            {"quillbay count --also pages,reading-time thesis.odt",
+                QT_TRANSLATE_NOOP("Manual", "print the pages and the time to read it, too")},
             {"quillbay count --json story.txt | jq .words",
                 QT_TRANSLATE_NOOP("Manual", "print nothing but the number of words")}},
         .seeAlso = {"quillbay-explain(1)", "quillbay-preferences(1)", "wc(1)"},

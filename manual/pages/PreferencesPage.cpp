@@ -6,6 +6,7 @@ const ManualPage &preferencesPage()
     static const char *const onOrOff = QT_TRANSLATE_NOOP("Manual", "on or off");
     static const char *const margin = QT_TRANSLATE_NOOP("Manual",
         "such as 1in, 25.4mm, 2.5cm or 72pt, at most so wide that a column of half an inch is left");
+    static const char *const wordsPerMinute = QT_TRANSLATE_NOOP("Manual", "20 to 2000 words per minute");
     static const std::vector<const char *> switchValues{"on", "off"};
     static const ManualPage page{
         .program = "quillbay",
@@ -37,7 +38,14 @@ const ManualPage &preferencesPage()
                 switchValues},
             {"paper", QT_TRANSLATE_NOOP("Manual", "a paper of your printer, such as A4 or Letter"),
                 {"A4", "Letter"}},
-            {"left-margin", margin}, {"right-margin", margin}},
+            {"left-margin", margin}, {"right-margin", margin}, {"top-margin", margin},
+            {"bottom-margin", margin}, {"show-pages", onOrOff, switchValues},
+            {"show-standard-pages", onOrOff, switchValues}, {"show-reading-time", onOrOff, switchValues},
+            {"show-speaking-time", onOrOff, switchValues}, {"show-graphemes", onOrOff, switchValues},
+            {"standard-page",
+                QT_TRANSLATE_NOOP("Manual", "such as '1800 characters' or '250 words'; white space counts"),
+                {"1500", "1800", "2400", "250words", "300words"}},
+            {"reading-speed", wordsPerMinute}, {"speaking-speed", wordsPerMinute}},
         .termsOption = "reset",
         .completion = ShellCompletion::Terms,
         .options = {{.name = "json",

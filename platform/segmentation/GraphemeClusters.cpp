@@ -197,6 +197,14 @@ qsizetype graphemeClusterEnd(QStringView text, qsizetype start)
     return end;
 }
 
+quint64 numberOfGraphemeClusters(QStringView text)
+{
+    quint64 clusters = 0;
+    for (qsizetype start = 0; start < text.size(); start = graphemeClusterEnd(text, start))
+        ++clusters;
+    return clusters;
+}
+
 bool standsAlone(char16_t unit)
 {
     if (QChar::isSurrogate(unit))

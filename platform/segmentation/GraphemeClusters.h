@@ -11,6 +11,9 @@
 /// is a cluster.
 qsizetype graphemeClusterEnd(QStringView text, qsizetype start);
 
+/// The number of extended grapheme clusters of a text; a line end, CR LF too, is one.
+quint64 numberOfGraphemeClusters(QStringView text);
+
 /// Whether a code unit is a character that never forms a cluster with another one of these: a text of such
 /// characters has as many clusters as code units.
 bool standsAlone(char16_t unit);

@@ -18,7 +18,7 @@ QByteArrayList numbers(qsizetype count)
 
 ParallelCount::Outcome numberOf(const QByteArray &name)
 {
-    return QBYWordCounterStats{.numberOfWords = name.toULongLong()};
+    return FileCounts{{.numberOfWords = name.toULongLong()}, {}};
 }
 
 class ParallelCountTest : public CommandTest { };
@@ -41,7 +41,7 @@ TEST_F(ParallelCountTest, ReturnsTheCountsInTheOrderOfTheFiles)
         if (name.endsWith('7'))
             EXPECT_EQ(outcome.error(), QString::fromLatin1(name));
         else
-            EXPECT_EQ(outcome.value().numberOfWords, name.toULongLong());
+            EXPECT_EQ(outcome.value().stats.numberOfWords, name.toULongLong());
     }
 }
 

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The page with the rules: what a user changes there, and what others change meanwhile.
 #include "preferences/EditablePreferences.h"
+#include "preferences/FurtherPreferences.h"
 #include "tests/desk/DeskTest.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -98,6 +101,39 @@ TEST_F(RulesPageTest, TheMinimumIsTypedAndStepped)
     EXPECT_TRUE(waitUntil([] { return Controller::minNumberOfSentencesForParagraphCount() == 8; }));
     control<QAction>("undoAction").trigger(); // the steps are one
     EXPECT_EQ(Controller::minNumberOfSentencesForParagraphCount(), 0);
+}
+
+TEST_F(RulesPageTest, WhatIsCountedBesideTheEightIsChosenAtTheEnd)
+{
+    open();
+    click(control<QCheckBox>("pagesCheckBox"));
+    EXPECT_TRUE(waitUntil([] { return FurtherPreferences::isShown(Preference::ShowPages); }));
+    auto &speed = control<QSpinBox>("readingSpeedSpinBox");
+    EXPECT_EQ(speed.value(), 238);
+    speed.setValue(300);
+    EXPECT_EQ(FurtherPreferences::speed(Preference::ReadingSpeed), 300);
+    press("ctrl+z");
+    EXPECT_TRUE(waitUntil([&] { return speed.value() == 238; }));
+}
+
+TEST_F(RulesPageTest, AStandardPageIsChosenOrTyped)
+{
+    open();
+    auto &sizes = control<QComboBox>("standardPageComboBox");
+    EXPECT_EQ(sizes.currentText(), QStringLiteral("1,800 characters"));
+    EXPECT_EQ(sizes.count(), 5);
+    const auto type = [&sizes](const QString &text) {
+        sizes.setEditText(text);
+        Q_EMIT sizes.lineEdit()->editingFinished();
+        return FurtherPreferences::standardPage();
+    };
+    using Unit = StandardPage::Unit;
+    EXPECT_EQ(type(QStringLiteral("275 w")), (StandardPage{275, Unit::Words}));
+    EXPECT_EQ(sizes.currentText(), QStringLiteral("275 words"));
+    EXPECT_EQ(type(QStringLiteral("280")), (StandardPage{280, Unit::Words}));
+    EXPECT_EQ(type(QStringLiteral("2,000 characters")), (StandardPage{2000, Unit::Characters}));
+    EXPECT_EQ(type(QStringLiteral("3 lines")), (StandardPage{2000, Unit::Characters}));
+    EXPECT_EQ(sizes.currentText(), QStringLiteral("2,000 characters"));
 }
 
 TEST_F(RulesPageTest, ANumberBeyondTheRangeIsShownAndStays)

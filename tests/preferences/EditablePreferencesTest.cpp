@@ -46,10 +46,11 @@ TEST_F(EditablePreferencesTest, EveryRowWritesItsOwnKey)
         if (const auto *isOn = std::get_if<bool>(&*value))
             return !*isOn;
         if (std::holds_alternative<qint64>(*value))
-            return qint64{7};
+            return qint64{70};
         if (std::holds_alternative<double>(*value))
             return 0.75;
-        return QStringLiteral("A5");
+        return row.preference == Preference::StandardPageSize ? QStringLiteral("250 words")
+                                                              : QStringLiteral("A5");
     };
     for (const EditablePreference &row : editablePreferences()) {
         const DefaultsValue value = otherValue(row);
