@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sandbox/Sandbox.h"
 
+#include "platform/sandbox/ConfinedSanitizer.h"
 #include "platform/sandbox/Landlock.h"
 #include "platform/sandbox/SystemCallFilter.h"
 #include "platform/system/Processes.h"
@@ -50,6 +51,7 @@ SandboxReport restrictFiles(const QByteArrayList &readable)
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     forbidCoreFiles();
     openErrorsForWritingOnly();
+    prepareSanitizerForConfinement();
     forbidGrowingFiles();
 
     SandboxReport report;

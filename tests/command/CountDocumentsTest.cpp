@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Word documents and PDF files on the command line.
+#include "platform/system/Sanitizers.h"
 #include "tests/command/CommandTest.h"
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/documents/pdf/PdfWriter.h"
@@ -139,9 +140,8 @@ TEST_F(CountDocumentsTest, ReadersAddNoLibrariesToTheCommand)
 
 TEST_F(CountDocumentsTest, AHostileFileLeavesTheOthersCounted)
 {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "a sanitized program cannot run under a limit of its memory";
-#endif
+    if (isSanitized)
+        GTEST_SKIP() << "a sanitized program cannot run under a limit of its memory";
     const PdfWriter bomb{.pages = {QByteArray("a\n").repeated(10'000'000)}, .isCompressed = true};
     const QByteArray hostile = file("bomb.pdf", bomb.bytes());
     const QByteArray sound = file("sound.txt", "Two words.");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How the broker handles workers that misbehave.
 #include "counting_service/broker/WorkerPool.h"
+#include "platform/system/Sanitizers.h"
 #include "tests/counting_service/CountingServiceTest.h"
 #include "tests/documents/loading/ReaderPrograms.h"
 
@@ -419,9 +420,8 @@ TEST_F(WorkerPoolTest, AWorkerThatHasCountedALargeDocumentIsReplaced)
 
 TEST_F(WorkerPoolTest, EndsAWorkerThatTakesTooMuchMemory)
 {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    GTEST_SKIP() << "the sanitizers need the memory themselves";
-#endif
+    if (isSanitized)
+        GTEST_SKIP() << "the sanitizers need the memory themselves";
     const auto pool = this->pool();
     EXPECT_EQ(failureOf(add(*pool, "eat")), CountFailure::Cause::WorkerFailed);
     EXPECT_EQ(statsOf(add(*pool, "count")).numberOfWords, 5U);

@@ -2,6 +2,7 @@
 #include "documents/loading/DocumentLoader.h"
 
 #include "documents/rtfd/RtfdWriter.h"
+#include "platform/system/Sanitizers.h"
 #include "tests/documents/SampleTexts.h"
 #include "tests/documents/docx/PackageWriter.h"
 #include "tests/harness/QuillbayTest.h"
@@ -139,9 +140,8 @@ TEST_F(DocumentLoader, AFailureOfAReaderComesWithItsCause)
 
 TEST_F(DocumentLoader, AProcessThatHasMemoryForTheBytesOnlySaysSo)
 {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";
-#endif
+    if (isSanitized)
+        GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";
     const QByteArray path = writeDocument("sparse", {});
     ASSERT_EQ(::truncate(path.constData(), 150 * mebibyte), 0);
     const auto loadUnder = [&](qint64 mebibytes) {

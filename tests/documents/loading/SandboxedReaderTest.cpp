@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How documents are read in another process, and what a failure of it means.
 #include "documents/loading/SandboxedReader.h"
+#include "platform/system/Sanitizers.h"
 #include "tests/documents/loading/ReaderPrograms.h"
 #include "tests/documents/pdf/PdfWriter.h"
 #include "tests/harness/QuillbayTest.h"
@@ -255,9 +256,8 @@ TEST_F(SandboxedReaderTest, StopsAtItsLimits)
 
 TEST_F(SandboxedReaderTest, StopsAtItsLimitOfMemory)
 {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "a sanitized program cannot run under a limit of its memory";
-#endif
+    if (isSanitized)
+        GTEST_SKIP() << "a sanitized program cannot run under a limit of its memory";
     const QByteArray text = "{\\rtf1 " + QByteArray("word ").repeated(20'000'000) + '}';
     ReaderLimits limits = ReaderLimits::of(DocumentKind::Rtf, text.size());
     limits.memory = 50'000'000;

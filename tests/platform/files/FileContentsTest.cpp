@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/FileContents.h"
 
+#include "platform/system/Sanitizers.h"
 #include "tests/harness/QuillbayTest.h"
 
 #include <QFile>
@@ -185,9 +186,8 @@ TEST_F(FileContents, AFileWhoseTextWouldNotFitIntoMemoryIsRefusedUnread)
 
 TEST_F(FileContents, AFailedAllocationIsReported)
 {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";
-#endif
+    if (isSanitized)
+        GTEST_SKIP() << "a sanitized program cannot run under a limit of its address space";
     const QByteArray file = sparseFile("sparse", 512 * mebibyte);
     ChildProcess reader(testProgram(QStringLiteral("read_file")));
     reader.afterFork([] {
