@@ -51,13 +51,16 @@ std::optional<AttributedString> WatchedContent::update(const Look &look, const C
     m_seen = look;
     if (!isNew && m_isCounted)
         return std::nullopt;
+    // The same text under the same preferences keeps its number: it may be counted at this moment.
+    if (isNew || !hasSamePreferences(look)) {
+        m_given = look;
+        ++m_number;
+    }
     if (isNew) {
         m_hash = document.hash;
         m_text = document.text;
     }
-    m_given = look;
     m_isCounted = false;
-    ++m_number;
     return m_text;
 }
 

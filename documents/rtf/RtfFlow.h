@@ -40,6 +40,9 @@ public:
     {
     }
 
+    /// length: code units, at most. Memory pages that are not written cost nothing, and growing costs copies.
+    void reserve(qsizetype length) { m_builder.reserve(length); }
+
     /// The buffer to which text in a format is appended; valid until the next call.
     QString &bufferFor(const RtfFormat &format);
     void appendAttachment(const RtfFormat &format, const std::shared_ptr<const Attachment> &attachment);

@@ -29,6 +29,7 @@ constexpr qint32 lastCodePoint = 0x10FFFF;
 
 AttributedString RtfInterpreter::readText(RtfTokenizer tokens)
 {
+    m_body.reserve(tokens.remaining());
     do {
         const RtfToken token = tokens.next();
         if (token.kind == RtfToken::Kind::End)

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/RtfTokenizer.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
 
 namespace {
@@ -24,22 +27,23 @@ bool isPlain(char byte)
 
 constexpr qsizetype blockLength = 16; // bytes
 
-/// Writes the code units of a block if all of it is plain.
-bool widenBlock(const char *from, char16_t *to)
+/// Writes the code units of a whole block, and returns how many bytes of it are plain, counted from its
+/// start: those behind them must be written again.
+qsizetype widenBlock(const char *from, char16_t *to)
 {
     using Bytes = uchar __attribute__((vector_size(blockLength)));
     using Units = char16_t __attribute__((vector_size(2 * blockLength)));
     Bytes bytes;
     std::memcpy(&bytes, from, sizeof bytes);
-    const auto others = (bytes >= 0x80) | (bytes == '\\') | (bytes == '{') | (bytes == '}') | (bytes == '\r')
-        | (bytes == '\n') | (bytes == '\0');
-    std::array<quint64, 2> bits;
-    std::memcpy(bits.data(), &others, sizeof bits);
-    if ((bits[0] | bits[1]) != 0)
-        return false;
     const Units units = __builtin_convertvector(bytes, Units);
     std::memcpy(to, &units, sizeof units);
-    return true;
+    const auto others = (bytes >= 0x80) | (bytes == '\\') | (bytes == '{') | (bytes == '}') | (bytes == '\r')
+        | (bytes == '\n') | (bytes == '\0');
+    std::array<quint64, 2> bits; // eight for each byte
+    std::memcpy(bits.data(), &others, sizeof bits);
+    if constexpr (std::endian::native == std::endian::big)
+        bits = {qbswap(bits[0]), qbswap(bits[1])};
+    return bits[0] != 0 ? std::countr_zero(bits[0]) / 8 : 8 + std::countr_zero(bits[1]) / 8;
 }
 
 bool isLetter(char byte)
@@ -86,9 +90,10 @@ void RtfTokenizer::appendPlainRun(QString &text, qsizetype maxLength)
     auto *to = reinterpret_cast<char16_t *>(text.data()) + start;
     const char16_t *const end = to + room;
     while (to != end && m_at != m_end) {
-        if (end - to >= blockLength && m_end - m_at >= blockLength && widenBlock(m_at, to)) {
-            m_at += blockLength;
-            to += blockLength;
+        const bool fitsBlock = end - to >= blockLength && m_end - m_at >= blockLength;
+        if (const qsizetype plain = fitsBlock ? widenBlock(m_at, to) : 0) {
+            m_at += plain;
+            to += plain;
         } else if (isPlain(*m_at)) {
             *to++ = static_cast<uchar>(*m_at++);
         } else if (*m_at == '\0' || *m_at == '\r' || *m_at == '\n') {

@@ -37,6 +37,9 @@ public:
     {
     }
 
+    /// Bytes. No code unit of the text takes less than one.
+    [[nodiscard]] qsizetype remaining() const { return m_end - m_at; }
+
     /// Returns Kind::End after the last token, however often it is called.
     RtfToken next();
 

@@ -149,15 +149,19 @@ QByteArray attributesOf(const std::vector<FlatEntry> &entries)
 Result<QByteArray, DocumentError> flatRtfd(const AttributedString &text, qsizetype start, qsizetype length)
 {
     StoredFiles files;
-    const Result<QByteArray, DocumentError> rtf = writeRtf(
-        text, start, length, [&](const Attachment &attachment) { return files.nameFor(attachment); });
-    if (!rtf)
-        return rtf.error();
-    std::vector<FlatEntry> entries{{FlatFormat::textName, rtf.value()}};
-    for (const StoredFiles::File &file : files.files())
-        entries.push_back({file.name.toUtf8(), file.contents});
-    entries.push_back({FlatFormat::attributesName, attributesOf(entries)});
-    return flatFolderOf(entries);
+    std::vector<FlatEntry> entries{{FlatFormat::textName, {}}};
+    const auto startOfFolder = [&] {
+        for (const StoredFiles::File &file : files.files())
+            entries.push_back({file.name.toUtf8(), file.contents});
+        entries.push_back({FlatFormat::attributesName, attributesOf(entries)});
+        return startOfFlatFolder(entries);
+    };
+    Result<QByteArray, DocumentError> folder = writeRtf(
+        text, start, length, [&](const Attachment &attachment) { return files.nameFor(attachment); },
+        startOfFolder);
+    if (!folder)
+        return folder.error();
+    return finishFlatFolder(std::move(folder).value(), entries);
 }
 
 } // namespace

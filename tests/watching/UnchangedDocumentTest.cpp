@@ -52,6 +52,15 @@ TEST_F(UnchangedDocumentTest, ADroppedCountIsHealedByTheNextPoll)
     EXPECT_THAT(poll(), IsEmpty());
 }
 
+TEST_F(UnchangedDocumentTest, APollDuringACountDoesNotMakeItWorthless)
+{
+    EXPECT_THAT(pollUncounted(), ElementsAre(QStringLiteral("text before")));
+    const quint64 first = m_model->contentNumber();
+    EXPECT_THAT(pollUncounted(), ElementsAre(QStringLiteral("text before")));
+    m_model->contentWasCounted(first);
+    EXPECT_THAT(pollUncounted(), IsEmpty());
+}
+
 TEST_F(UnchangedDocumentTest, APollOfUnchangedStampsReadsNothingForHalfAMinute)
 {
     QFile file(m_path);

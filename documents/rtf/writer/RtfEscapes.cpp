@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "documents/rtf/writer/RtfEscapes.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cstring>
 
@@ -18,22 +21,46 @@ constexpr std::array<bool, 128> makeLiteralCharacters()
 
 constexpr std::array<bool, 128> isLiteral = makeLiteralCharacters();
 
-void appendCodeUnit(QByteArray &rtf, char16_t unit)
+/// So many code units are escaped at a time, in a buffer that has room for the longest escapes.
+constexpr qsizetype escapedAtOnce = 4096;
+constexpr qsizetype longestEscape = sizeof "\\u-32768 " - 1; // bytes
+
+char *writeWord(char *to, QByteArrayView word)
 {
-    char word[sizeof "\\u-32768 "] = "\\u";
-    char *const blank = word + sizeof word - 1; // its last possible position
-    // NOLINTNEXTLINE(misc-const-correctness): the next line writes through it
-    char *end = std::to_chars(word + 2, blank, static_cast<qint16>(unit)).ptr;
-    *end++ = ' ';
-    rtf.append(word, end - word);
+    return std::copy(word.begin(), word.end(), to);
+}
+
+/// Writes longestEscape bytes or fewer, and returns their end.
+char *writeEscaped(char *to, char16_t unit)
+{
+    if (unit == u'\\' || unit == u'{' || unit == u'}') {
+        *to++ = '\\';
+        *to++ = static_cast<char>(unit);
+        return to;
+    }
+    to = writeWord(to, "\\u");
+    to = std::to_chars(to, to + longestEscape, static_cast<qint16>(unit)).ptr;
+    *to++ = ' ';
+    return to;
 }
 
 void appendEscaped(QByteArray &rtf, char16_t unit)
 {
-    if (unit == u'\\' || unit == u'{' || unit == u'}')
-        rtf.append('\\').append(static_cast<char>(unit));
-    else
-        appendCodeUnit(rtf, unit);
+    std::array<char, longestEscape> word;
+    rtf.append(word.data(), writeEscaped(word.data(), unit) - word.data());
+}
+
+char *writeUnit(char *to, char16_t unit)
+{
+    if (unit < 128 && isLiteral[unit]) {
+        *to++ = static_cast<char>(unit);
+        return to;
+    }
+    if (unit == u'\n')
+        return writeWord(to, "\\par\n"); // RTF ignores the line end; it only makes the source readable
+    if (unit == u'\t')
+        return writeWord(to, "\\tab ");
+    return writeEscaped(to, unit);
 }
 
 constexpr qsizetype blockLength = 8; // code units
@@ -41,57 +68,48 @@ constexpr qsizetype blockLength = 8; // code units
 using Units = quint16 __attribute__((vector_size(2 * blockLength)));
 using Bytes = uchar __attribute__((vector_size(blockLength)));
 
-bool isLiteralBlock(const char16_t *from)
+/// Writes a whole block of bytes, and returns how many of its units are literal, counted from its start:
+/// those behind them must be written again.
+qsizetype narrowBlock(const char16_t *from, char *to)
 {
     Units units;
     std::memcpy(&units, from, sizeof units);
+    const Bytes narrow = __builtin_convertvector(units, Bytes);
+    std::memcpy(to, &narrow, sizeof narrow);
     const auto others = (units < 0x20) | (units > 0x7E) | (units == '\\') | (units == '{') | (units == '}');
-    std::array<quint64, 2> bits;
-    std::memcpy(bits.data(), &others, sizeof bits);
-    return (bits[0] | bits[1]) == 0;
+    quint64 bits = 0; // eight for each unit
+    const auto narrowOthers = __builtin_convertvector(others, Bytes);
+    std::memcpy(&bits, &narrowOthers, sizeof bits);
+    if constexpr (std::endian::native == std::endian::big)
+        bits = qbswap(bits);
+    return bits == 0 ? blockLength : std::countr_zero(bits) / 8;
 }
 
-const char16_t *endOfLiterals(const char16_t *at, const char16_t *end)
+/// There must be room for longestEscape bytes for each unit. Returns the end of what it writes.
+char *writeText(char *to, QStringView text)
 {
-    while (end - at >= blockLength && isLiteralBlock(at))
-        at += blockLength;
-    return std::find_if_not(at, end, [](char16_t unit) { return unit < 128 && isLiteral[unit]; });
-}
-
-void appendUnescaped(QByteArray &rtf, const char16_t *from, const char16_t *to)
-{
-    const qsizetype length = rtf.size();
-    rtf.resize(length + (to - from));
-    char *bytes = rtf.data() + length;
-    for (; to - from >= blockLength; from += blockLength, bytes += blockLength) {
-        Units units;
-        std::memcpy(&units, from, sizeof units);
-        const Bytes narrow = __builtin_convertvector(units, Bytes);
-        std::memcpy(bytes, &narrow, sizeof narrow);
+    const char16_t *at = text.utf16();
+    const char16_t *const end = at + text.size();
+    while (at != end) {
+        const qsizetype literal = end - at >= blockLength ? narrowBlock(at, to) : 0;
+        at += literal;
+        to += literal;
+        if (literal < blockLength)
+            to = writeUnit(to, *at++);
     }
-    std::transform(from, to, bytes, [](char16_t unit) { return static_cast<char>(unit); });
+    return to;
 }
 
 } // namespace
 
 void appendRtfText(QByteArray &rtf, QStringView text)
 {
-    const char16_t *at = text.utf16();
-    const char16_t *const end = at + text.size();
-    while (at != end) {
-        const char16_t *const next = endOfLiterals(at, end);
-        if (next != at)
-            appendUnescaped(rtf, at, next);
-        if (next == end)
-            return;
-        if (*next == u'\n')
-            rtf.append(
-                QByteArrayView("\\par\n")); // RTF ignores the line end; it only makes the source readable
-        else if (*next == u'\t')
-            rtf.append(QByteArrayView("\\tab "));
-        else
-            appendEscaped(rtf, *next);
-        at = next + 1;
+    while (!text.isEmpty()) {
+        const QStringView piece = text.first(std::min(text.size(), escapedAtOnce));
+        const qsizetype length = rtf.size();
+        rtf.resize(length + piece.size() * longestEscape);
+        rtf.truncate(writeText(rtf.data() + length, piece) - rtf.data());
+        text = text.sliced(piece.size());
     }
 }
 

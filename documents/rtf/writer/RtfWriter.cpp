@@ -18,11 +18,13 @@ constexpr qsizetype pieceLength = 65'536; // code units
 
 class RtfDocument {
 public:
-    RtfDocument(const AttributedString &text, qsizetype start, qsizetype length, const AttachmentNames &names)
+    RtfDocument(const AttributedString &text, qsizetype start, qsizetype length, const AttachmentNames &names,
+        const RtfTarget &target)
         : m_text(text)
         , m_start(std::clamp<qsizetype>(start, 0, text.length()))
         , m_end(m_start + std::clamp<qsizetype>(length, 0, text.length() - m_start))
         , m_names(names)
+        , m_target(target)
         , m_styles(text.distinctAttributes().size())
     {
     }
@@ -59,6 +61,7 @@ private:
     const qsizetype m_start;
     const qsizetype m_end;
     const AttachmentNames &m_names;
+    const RtfTarget &m_target;
 
     ExactValues m_exactValues;
     FontWords m_fontWords{m_exactValues};
@@ -66,7 +69,8 @@ private:
     std::vector<QByteArray> m_words;
     QHash<QByteArray, qsizetype> m_wordsIndices;
 
-    QByteArray m_rtf;
+    QByteArray m_rtf; ///< behind what the target has given
+    qsizetype m_lead = 0; ///< length of that
     qsizetype m_paragraph = noWords; ///< at the end of the RTF; an index into m_words
     qsizetype m_character = noWords; ///< at the end of the RTF; an index into m_words
     bool m_isTooLong = false;
@@ -131,8 +135,11 @@ void RtfDocument::writeHeader()
     const QByteArray fonts = m_fontWords.table();
     const QByteArray exactValues = m_exactValues.table();
     // Enough for ASCII text, so that the buffer never grows.
-    constexpr qsizetype roomForRest = 1024;
-    m_rtf.reserve(m_end - m_start + fonts.size() + exactValues.size() + roomForRest);
+    constexpr qsizetype roomForRest = 65'536;
+    if (m_target)
+        m_rtf = m_target();
+    m_lead = m_rtf.size();
+    m_rtf.reserve(m_lead + m_end - m_start + fonts.size() + exactValues.size() + roomForRest);
     m_rtf += R"({\rtf1\ansi\ansicpg1252\uc0)" + defaultTabWord() + '\n' + fonts + exactValues;
 }
 
@@ -172,7 +179,7 @@ void RtfDocument::writeRun(const AttributedString::Run &run)
     writeWords(style);
     for (qsizetype at = 0; at < text.size() && !m_isTooLong; at += pieceLength) {
         writePiece(text.sliced(at, std::min(pieceLength, text.size() - at)), style.attachment);
-        m_isTooLong = m_rtf.size() > maxDocumentLength;
+        m_isTooLong = m_rtf.size() - m_lead > maxDocumentLength;
     }
 }
 
@@ -182,18 +189,18 @@ Result<QByteArray, DocumentError> RtfDocument::write()
     writeHeader();
     forEachRun([this](const AttributedString::Run &run) { writeRun(run); });
     m_rtf += '}';
-    if (m_isTooLong || m_rtf.size() > maxDocumentLength)
+    if (m_isTooLong || m_rtf.size() - m_lead > maxDocumentLength)
         return DocumentError(DocumentError::Cause::TooLong, DocumentKind::Rtf);
     return std::move(m_rtf);
 }
 
 } // namespace
 
-Result<QByteArray, DocumentError> writeRtf(
-    const AttributedString &text, qsizetype start, qsizetype length, const AttachmentNames &storedNameOf)
+Result<QByteArray, DocumentError> writeRtf(const AttributedString &text, qsizetype start, qsizetype length,
+    const AttachmentNames &storedNameOf, const RtfTarget &target)
 {
     try {
-        return RtfDocument(text, start, length, storedNameOf).write();
+        return RtfDocument(text, start, length, storedNameOf, target).write();
     } catch (const std::bad_alloc &) {
         return DocumentError(DocumentError::Cause::NotEnoughMemory, DocumentKind::Rtf);
     }
