@@ -45,6 +45,25 @@ TEST(RtfWriter, LineEndsAndTabulatorsAreWords)
     EXPECT_EQ(charactersOf(QStringLiteral("a\n\nb\tc")), "a\\par\n\\par\nb\\tab c");
 }
 
+TEST(RtfWriter, ACharacterIsEscapedWhereverItStands)
+{
+    const std::pair<QChar, QByteArray> escapes[] = {{u'\\', "\\\\"}, {u'}', "\\}"}, {u'\n', "\\par\n"},
+        {u'\t', "\\tab "}, {u'\x7F', "\\u127 "}, {u'\u0141', "\\u321 "}, {u'\u8041', "\\u-32703 "}};
+    for (const auto &[character, escape] : escapes) {
+        for (qsizetype before = 0; before < 20; ++before) {
+            const QString text = QString(before, u'a') + character + character + QString(19 - before, u'b');
+            EXPECT_EQ(
+                charactersOf(text), QByteArray(before, 'a') + escape + escape + QByteArray(19 - before, 'b'));
+        }
+    }
+}
+
+TEST(RtfWriter, ALongTextOfTheLongestEscapes)
+{
+    constexpr qsizetype length = 100'000;
+    EXPECT_EQ(charactersOf(QString(length, u'\u8000')), QByteArray("\\u-32768 ").repeated(length));
+}
+
 TEST(RtfWriter, EveryOtherCodeUnitIsASignedNumber)
 {
     EXPECT_EQ(charactersOf(QStringLiteral("\u00E9\u0436\u2028\uFFFC")), "\\u233 \\u1078 \\u8232 \\u-4 ");
