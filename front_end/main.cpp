@@ -17,12 +17,27 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <malloc.h>
+
 namespace {
 
 // Exit statuses, besides 0 when nothing is open any more.
 constexpr int notServing = 1; // no display, or the services cannot be offered
 constexpr int wrongUsage = 2;
 constexpr int lostDisplay = 3;
+
+/// Bytes. Larger blocks, which hold texts, go back to the system when they are freed. Left to itself, the C
+/// library raises this with each of them, and the heap of every thread keeps what its largest text took.
+constexpr int maxKeptBlock = 1 << 20;
+/// Bytes of free memory at the end of a heap, so that the texts of small files do not come and go page by
+/// page.
+constexpr int maxKeptMemory = 4 << 20;
+
+void limitKeptMemory()
+{
+    ::mallopt(M_MMAP_THRESHOLD, maxKeptBlock);
+    ::mallopt(M_TRIM_THRESHOLD, maxKeptMemory);
+}
 
 bool isRunning = false;
 
@@ -54,6 +69,7 @@ void choosePlatform()
 int main(int argumentCount, char **arguments)
 {
     keepMemoryPrivate();
+    limitKeptMemory();
     if (argumentCount > 1) {
         std::fputs(
             "quillbay-service-provider: takes no arguments; run quillbay instead, for which the session "
