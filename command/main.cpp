@@ -26,10 +26,14 @@ struct Command {
 constexpr Command commands[] = {
     {countPage, runCountCommand},
     {doctorPage, runDoctorCommand},
+    {documentsPage, runDocumentsCommand},
     {explainPage, runExplainCommand},
     {extractPage, runExtractCommand},
+    {goalPage, runGoalCommand},
+    {historyPage, runHistoryCommand},
     {preferencesPage, runPreferencesCommand},
     {selectionPage, runSelectionCommand},
+    {statusPage, runStatusCommand},
     {textPage, runTextCommand},
     {watchPage, runWatchCommand},
 };

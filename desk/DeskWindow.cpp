@@ -4,6 +4,8 @@
 #include "desk/PaperPage.h"
 #include "desk/RulesPage.h"
 #include "desk/ShortcutPage.h"
+#include "desk/WatchFiles.h"
+#include "desk/documents/DocumentsPage.h"
 #include "desk/why/WhyPage.h"
 #include "platform/defaults/UserDefaults.h"
 #include "ui_DeskWindow.h"
@@ -52,12 +54,15 @@ DeskWindow::DeskWindow(const QString &speechLaunchPath)
     makeActions();
     connect(
         m_ui->pageList, &QListWidget::currentRowChanged, m_ui->pageStack, &QStackedWidget::setCurrentIndex);
+    auto *const documentsPage = new DocumentsPage(startWatchCommand);
+    addPage(*documentsPage, tr("Documents"));
     addPage(*new RulesPage(m_editor, *m_ui->restoreDefaultsAction, speechLaunchPath), tr("Rules"));
     addPage(*new PaperPage(m_editor, m_papers), tr("Page"));
     m_whyPage = new WhyPage;
     addPage(*m_whyPage, tr("Why"));
     const ShortcutCommand command = countSelectionCommand();
     addPage(*new ShortcutPage(shortcutOfCurrentDesktop(command), command), tr("Shortcut"));
+    connect(&m_editor, &RulesEditor::changed, documentsPage, &DocumentsPage::followRules);
     connect(&m_editor, &RulesEditor::changed, m_whyPage, &WhyPage::followRules);
     connect(&m_editor, &RulesEditor::failed, this, [this](const QString &file) {
         setNotice(tr("%1: cannot be written, so the change is not stored. Check the permissions and the "

@@ -7,6 +7,7 @@
 #include "watching/FileTypes.h"
 
 #include <QFile>
+#include <QProcess>
 
 #include <cerrno>
 #include <cstdio>
@@ -25,11 +26,28 @@ QByteArrayList chooseFilesToWatch()
     return names;
 }
 
+namespace {
+
+/// Lies beside this program, wherever it is installed; the application may not exist yet.
+QByteArray commandFile()
+{
+    const QByteArray self = QFile::encodeName(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")));
+    return self.first(self.lastIndexOf('/') + 1) + "quillbay";
+}
+
+} // namespace
+
+void startWatchCommand(const QByteArrayList &fileNames)
+{
+    QStringList words{QStringLiteral("watch"), QStringLiteral("--")};
+    for (const QByteArray &name : fileNames)
+        words.append(QString::fromLatin1(fileURLOfPath(name).toEncoded())); // any bytes
+    QProcess::startDetached(QFile::decodeName(commandFile()), words);
+}
+
 void becomeWatchCommand(const QByteArrayList &fileNames)
 {
-    // Beside this program, wherever it is installed; the application may not exist yet.
-    const QByteArray self = QFile::encodeName(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")));
-    QByteArrayList words{self.first(self.lastIndexOf('/') + 1) + "quillbay", "watch", "--"};
+    QByteArrayList words{commandFile(), "watch", "--"};
     words += fileNames;
     std::vector<char *> arguments;
     for (QByteArray &word : words)

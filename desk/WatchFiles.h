@@ -9,5 +9,8 @@
 /// For an application menu, which hands over no file. Empty if the user chooses none. Needs a QApplication.
 QByteArrayList chooseFilesToWatch();
 
+/// Runs "quillbay watch" beside this process.
+void startWatchCommand(const QByteArrayList &fileNames);
+
 /// Replaces this process by "quillbay watch"; returns only if it cannot be started, after reporting that.
 void becomeWatchCommand(const QByteArrayList &fileNames);

@@ -10,6 +10,7 @@
 #include "platform/views/widgets/DesktopAppearance.h"
 #include "platform/views/widgets/WidgetDesktop.h"
 #include "translations/Translations.h"
+#include "writing_progress/ProgressRecorder.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -98,7 +99,9 @@ int main(int argumentCount, char **arguments)
     WidgetDesktop desktop;
     ApplicationActivity activity(false);
     const ApplicationActivitySource activitySource(activity);
-    ProviderApplication provider({.desktop = desktop, .applicationActivity = activity});
+    ProgressRecorder progressRecorder;
+    ProviderApplication provider(
+        {.desktop = desktop, .applicationActivity = activity, .progressRecorder = &progressRecorder});
     if (!provider.start())
         return notServing;
     std::atexit(exitWithoutDisplay);

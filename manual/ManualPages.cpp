@@ -5,10 +5,10 @@
 
 std::span<const ManualPage *const> manualPages()
 {
-    static const std::array pages{&quillbayPage(), &countPage(), &doctorPage(), &explainPage(),
-        &extractPage(), &preferencesPage(), &selectionPage(), &textPage(), &watchPage(), &deskPage(),
-        &sayPage(), &countingServicePage(), &serviceProviderPage(), &documentReaderPage(),
-        &clipboardKeeperPage()};
+    static const std::array pages{&quillbayPage(), &countPage(), &doctorPage(), &documentsPage(),
+        &explainPage(), &extractPage(), &goalPage(), &historyPage(), &preferencesPage(), &selectionPage(),
+        &statusPage(), &textPage(), &watchPage(), &deskPage(), &sayPage(), &countingServicePage(),
+        &serviceProviderPage(), &documentReaderPage(), &clipboardKeeperPage()};
     return pages;
 }
 

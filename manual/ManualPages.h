@@ -10,10 +10,14 @@
 const ManualPage &quillbayPage();
 const ManualPage &countPage();
 const ManualPage &doctorPage();
+const ManualPage &documentsPage();
 const ManualPage &explainPage();
 const ManualPage &extractPage();
+const ManualPage &goalPage();
+const ManualPage &historyPage();
 const ManualPage &preferencesPage();
 const ManualPage &selectionPage();
+const ManualPage &statusPage();
 const ManualPage &textPage();
 const ManualPage &watchPage();
 const ManualPage &deskPage();

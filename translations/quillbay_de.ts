@@ -178,6 +178,10 @@
         <source>Shortcut</source>
         <translation>Tastenkürzel</translation>
     </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -582,6 +586,235 @@
     </message>
 </context>
 <context>
+    <name>DocumentList</name>
+    <message>
+        <source>%1: cannot be used (%2), so the list, the goals and the history are not stored. Check the permissions and the free space of its folder.</source>
+        <translation>%1: lässt sich nicht benutzen (%2), daher werden Liste, Ziele und Verlauf nicht gespeichert. Bitte die Rechte und den freien Platz des Ordners prüfen.</translation>
+    </message>
+    <message>
+        <source>%1: was damaged. It was renamed to %2, and a new list begun.</source>
+        <translation>%1: war beschädigt. Die Datei heißt nun %2, und eine neue Liste wurde begonnen.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentTable</name>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Characters with white space</source>
+        <translation>Zeichen mit Leerraum</translation>
+    </message>
+    <message>
+        <source>Sentences</source>
+        <translation>Sätze</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Hard line breaks</source>
+        <translation>Harte Zeilenumbrüche</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Absätze</translation>
+    </message>
+    <message>
+        <source>Indented paragraphs</source>
+        <translation>Eingerückte Absätze</translation>
+    </message>
+    <message>
+        <source>More than %1</source>
+        <translation>Mehr als %1</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>The file is missing</source>
+        <translation>Die Datei fehlt</translation>
+    </message>
+    <message>
+        <source>The file cannot be read</source>
+        <translation>Die Datei lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>The counting service does not answer</source>
+        <translation>Der Zähldienst antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>By how many words the document has changed since this window was opened</source>
+        <translation>Um wie viele Wörter sich das Dokument geändert hat, seit dieses Fenster offen ist</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sitzung</translation>
+    </message>
+    <message>
+        <source>By how many words the document has changed since midnight</source>
+        <translation>Um wie viele Wörter sich das Dokument seit Mitternacht geändert hat</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Goal</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Last save</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Today: %1</source>
+        <translation>Heute: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentsPage</name>
+    <message>
+        <source>F&amp;ilter:</source>
+        <translation>F&amp;ilter:</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>Hin&amp;zufügen …</translation>
+    </message>
+    <message>
+        <source>Add F&amp;older…</source>
+        <translation>&amp;Ordner hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Show on &amp;Top</source>
+        <translation>Obe&amp;n zeigen</translation>
+    </message>
+    <message>
+        <source>Open a small window that stays above the others, with the counts of the document</source>
+        <translation>Ein kleines Fenster mit den Zahlen des Dokuments öffnen, das über den anderen bleibt</translation>
+    </message>
+    <message>
+        <source>&amp;Goal…</source>
+        <translation>Zie&amp;l …</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows, or all, as text, CSV and HTML</source>
+        <translation>Die ausgewählten Zeilen, sonst alle, als Text, CSV und HTML kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>Na&amp;ch oben</translation>
+    </message>
+    <message>
+        <source>Do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>Fi&amp;nd File…</source>
+        <translation>Datei &amp;suchen …</translation>
+    </message>
+    <message>
+        <source>Choose the file of a document that was moved</source>
+        <translation>Die Datei eines verschobenen Dokuments wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>&amp;Entfernen …</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the history of the counts</source>
+        <translation>&amp;Verlauf der Zahlen aufheben</translation>
+    </message>
+    <message>
+        <source>Of each save the time and the eight counts are kept, and nothing of the text. Off: only what the changes of the day need.</source>
+        <translation>Von jedem Speichern werden die Zeit und die acht Zahlen aufgehoben, vom Text nichts. Aus: nur, was die Änderungen des Tages brauchen.</translation>
+    </message>
+    <message>
+        <source>Drop documents here, or add them: their counts follow every save, and you see what today brought. Nothing of their texts is kept.</source>
+        <translation>Dokumente hier ablegen oder hinzufügen: Ihre Zahlen folgen jedem Speichern, und man sieht, was der Tag gebracht hat. Von den Texten wird nichts aufgehoben.</translation>
+    </message>
+    <message>
+        <source>All documents (%1)</source>
+        <translation>Alle Dokumente (%1)</translation>
+    </message>
+    <message>
+        <source>Selected documents (%1)</source>
+        <translation>Ausgewählte Dokumente (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Forget the History</source>
+        <translation>Verlauf ver&amp;gessen</translation>
+    </message>
+    <message>
+        <source>Add a Folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add the files whose names match, in the folders inside it, too:</source>
+        <translation>Dateien mit passenden Namen hinzufügen, auch aus den Ordnern darin:</translation>
+    </message>
+    <message>
+        <source>No file in %1 matches %2.</source>
+        <translation>Keine Datei in %1 passt zu %2.</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list, and forget its goal and its history?</source>
+        <translation>%1 aus der Liste entfernen und Ziel und Verlauf vergessen?</translation>
+    </message>
+    <message>
+        <source>Remove %1 documents from the list, and forget their goals and their history?</source>
+        <translation>%1 Dokumente aus der Liste entfernen und ihre Ziele und ihren Verlauf vergessen?</translation>
+    </message>
+    <message>
+        <source>Remove Documents</source>
+        <translation>Dokumente entfernen</translation>
+    </message>
+    <message>
+        <source>The files stay where they are.</source>
+        <translation>Die Dateien bleiben, wo sie sind.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
     <name>FurtherRulesBox</name>
     <message>
         <source>%L1 words</source>
@@ -642,6 +875,77 @@
     <message>
         <source>Choose a size, or type your own. White space counts as characters.</source>
         <translation>Eine Größe wählen oder eine eigene eingeben. Leerraum zählt zu den Zeichen.</translation>
+    </message>
+</context>
+<context>
+    <name>GoalDialog</name>
+    <message>
+        <source>&amp;Goal</source>
+        <translation>&amp;Ziel</translation>
+    </message>
+    <message>
+        <source>Nu&amp;mber:</source>
+        <translation>&amp;Anzahl:</translation>
+    </message>
+    <message>
+        <source>&amp;Of:</source>
+        <translation>&amp;Von:</translation>
+    </message>
+    <message>
+        <source>In &amp;all</source>
+        <translation>&amp;Insgesamt</translation>
+    </message>
+    <message>
+        <source>&amp;Until</source>
+        <translation>&amp;Bis</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
+    </message>
+    <message>
+        <source>Each &amp;day, from midnight</source>
+        <translation>Jeden &amp;Tag ab Mitternacht</translation>
+    </message>
+    <message>
+        <source>Do not subtract &amp;what is deleted</source>
+        <translation>&amp;Gelöschtes nicht abziehen</translation>
+    </message>
+    <message>
+        <source>What is deleted counts against the day. With the switch, what is added between two saves counts, and what is deleted is left aside.</source>
+        <translation>Was gelöscht wird, geht vom Tag ab. Mit dem Schalter zählt, was zwischen zwei Speicherungen dazukommt, und Gelöschtes bleibt außer Betracht.</translation>
+    </message>
+    <message>
+        <source>&amp;Limit</source>
+        <translation>G&amp;renze</translation>
+    </message>
+    <message>
+        <source>At mo&amp;st:</source>
+        <translation>&amp;Höchstens:</translation>
+    </message>
+    <message>
+        <source>O&amp;f:</source>
+        <translation>V&amp;on:</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Characters with white space</source>
+        <translation>Zeichen mit Leerraum</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Goal of %1</source>
+        <translation>Ziel von %1</translation>
     </message>
 </context>
 <context>
@@ -1212,6 +1516,142 @@
     <message>
         <source>such as &apos;1800 characters&apos; or &apos;250 words&apos;; white space counts</source>
         <translation>zum Beispiel &apos;1800 characters&apos; oder &apos;250 words&apos;; Leerraum zählt mit</translation>
+    </message>
+    <message>
+        <source>list the documents that you keep an eye on</source>
+        <translation>die Dokumente im Blick auflisten</translation>
+    </message>
+    <message>
+        <source>Adds each FILE to the list of documents, which the page Documents of the main window shows, too. Without FILE, prints their paths.</source>
+        <translation>Nimmt jede FILE in die Liste der Dokumente auf, die auch die Seite Dokumente des Hauptfensters zeigt. Gibt ohne FILE die Pfade aus.</translation>
+    </message>
+    <message>
+        <source>The counts of a listed document are kept after every save, so that &apos;quillbay status&apos; knows what today brought, and &apos;quillbay history&apos; each day. Nothing of its text is kept.</source>
+        <translation>Die Zahlen eines Dokuments der Liste werden nach jedem Speichern aufgehoben, damit &apos;quillbay status&apos; weiß, was der heutige Tag gebracht hat, und &apos;quillbay history&apos;, was jeder Tag. Vom Text wird nichts aufgehoben.</translation>
+    </message>
+    <message>
+        <source>remove each FILE from the list, and forget its goal and its history</source>
+        <translation>jede FILE aus der Liste entfernen, Ziel und Verlauf vergessen</translation>
+    </message>
+    <message>
+        <source>the list was printed or stored</source>
+        <translation>die Liste wurde ausgegeben oder gespeichert</translation>
+    </message>
+    <message>
+        <source>a file is missing, or the list cannot be read or stored</source>
+        <translation>eine Datei fehlt, oder die Liste lässt sich nicht lesen oder speichern</translation>
+    </message>
+    <message>
+        <source>keep an eye on all chapters of a novel</source>
+        <translation>alle Kapitel eines Romans im Blick behalten</translation>
+    </message>
+    <message>
+        <source>set a goal or a limit for a document or a folder</source>
+        <translation>ein Ziel oder eine Grenze für ein Dokument oder einen Ordner setzen</translation>
+    </message>
+    <message>
+        <source>Sets the goal of FILE to NUMBER words, in all or for each day; or the limit, which is reported when it is passed. Without NUMBER, prints both. A folder has the documents of the list that are directly in it.</source>
+        <translation>Setzt das Ziel von FILE auf NUMBER Wörter, insgesamt oder für jeden Tag; oder die Grenze, die beim Überschreiten gemeldet wird. Gibt ohne NUMBER beide aus. Zu einem Ordner gehören die Dokumente der Liste, die direkt darin liegen.</translation>
+    </message>
+    <message>
+        <source>What is deleted counts against the goal for a day. With --added-only it does not: what is added between two saves counts, and what is deleted is left aside.</source>
+        <translation>Was gelöscht wird, geht vom Ziel eines Tages ab. Mit --added-only nicht: Dann zählt, was zwischen zwei Speicherungen dazukommt, und Gelöschtes bleibt außer Betracht.</translation>
+    </message>
+    <message>
+        <source>count words (the default), characters, charactersIncludingWhitespace or lines</source>
+        <translation>words (Standard), characters, charactersIncludingWhitespace oder lines zählen</translation>
+    </message>
+    <message>
+        <source>reach the goal until DATE, such as 2026-11-30</source>
+        <translation>das Ziel bis DATE erreichen, etwa 2026-11-30</translation>
+    </message>
+    <message>
+        <source>the goal is for each day, from midnight</source>
+        <translation>das Ziel gilt für jeden Tag ab Mitternacht</translation>
+    </message>
+    <message>
+        <source>do not subtract what is deleted</source>
+        <translation>Gelöschtes nicht abziehen</translation>
+    </message>
+    <message>
+        <source>set or remove the limit</source>
+        <translation>die Grenze setzen oder entfernen</translation>
+    </message>
+    <message>
+        <source>remove the goal or the limit</source>
+        <translation>das Ziel oder die Grenze entfernen</translation>
+    </message>
+    <message>
+        <source>the goal was printed or stored</source>
+        <translation>das Ziel wurde ausgegeben oder gespeichert</translation>
+    </message>
+    <message>
+        <source>the goal cannot be read or stored</source>
+        <translation>das Ziel lässt sich nicht lesen oder speichern</translation>
+    </message>
+    <message>
+        <source>write 50,000 words in a folder until 30 November</source>
+        <translation>bis zum 30. November 50.000 Wörter in einem Ordner schreiben</translation>
+    </message>
+    <message>
+        <source>be told when an abstract has more than 5,000 characters</source>
+        <translation>erfahren, wenn eine Zusammenfassung mehr als 5.000 Zeichen hat</translation>
+    </message>
+    <message>
+        <source>print what each day brought to a document</source>
+        <translation>ausgeben, was jeder Tag einem Dokument gebracht hat</translation>
+    </message>
+    <message>
+        <source>Prints for each day how many words FILE had at its end, by how many it changed, and how many were added without those that were deleted. FILE is in the list of &apos;quillbay documents&apos;.</source>
+        <translation>Gibt für jeden Tag aus, wie viele Wörter FILE an seinem Ende hatte, um wie viele es sich änderte und wie viele dazukamen, ohne Abzug der gelöschten. FILE ist in der Liste von &apos;quillbay documents&apos;.</translation>
+    </message>
+    <message>
+        <source>The counts of a document are kept once a minute at most, and once a day after a year.</source>
+        <translation>Die Zahlen eines Dokuments werden höchstens einmal je Minute aufgehoben, nach einem Jahr einmal je Tag.</translation>
+    </message>
+    <message>
+        <source>print all counts that are kept, separated by commas</source>
+        <translation>alle aufgehobenen Zahlen ausgeben, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>print a JSON object for each count that is kept</source>
+        <translation>für jede aufgehobene Zählung ein JSON-Objekt ausgeben</translation>
+    </message>
+    <message>
+        <source>forget all counts but the last</source>
+        <translation>alle Zahlen außer den letzten vergessen</translation>
+    </message>
+    <message>
+        <source>keep the history of all documents, or only what the changes of the day need</source>
+        <translation>den Verlauf aller Dokumente aufheben, oder nur, was die Änderungen des Tages brauchen</translation>
+    </message>
+    <message>
+        <source>the history was printed or forgotten</source>
+        <translation>der Verlauf wurde ausgegeben oder vergessen</translation>
+    </message>
+    <message>
+        <source>there is no history of FILE, or it cannot be read or forgotten</source>
+        <translation>es gibt keinen Verlauf von FILE, oder er lässt sich nicht lesen oder vergessen</translation>
+    </message>
+    <message>
+        <source>print your documents, what today brought, and their goals</source>
+        <translation>die Dokumente ausgeben, was der Tag gebracht hat, und ihre Ziele</translation>
+    </message>
+    <message>
+        <source>Prints the words of each document in the list of &apos;quillbay documents&apos;, by how many they have changed since midnight, and what its goal still needs. Counts what was saved since the last time; what has not changed is not read.</source>
+        <translation>Gibt die Wörter jedes Dokuments in der Liste von &apos;quillbay documents&apos; aus, um wie viele sie sich seit Mitternacht geändert haben und was seinem Ziel noch fehlt. Zählt, was seit dem letzten Mal gespeichert wurde; was sich nicht geändert hat, wird nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>print a JSON object with all statistics, for panels and scripts</source>
+        <translation>ein JSON-Objekt mit allen Zahlen ausgeben, für Leisten und Skripte</translation>
+    </message>
+    <message>
+        <source>all documents were counted</source>
+        <translation>alle Dokumente wurden gezählt</translation>
+    </message>
+    <message>
+        <source>a document could not be counted</source>
+        <translation>ein Dokument ließ sich nicht zählen</translation>
     </message>
 </context>
 <context>
@@ -2101,6 +2541,122 @@
         <source>Words spoken per minute</source>
         <translation>Gesprochene Wörter pro Minute</translation>
     </message>
+    <message>
+        <source>%1: there is no such file; check its name</source>
+        <translation>%1: diese Datei gibt es nicht; bitte den Namen prüfen</translation>
+    </message>
+    <message>
+        <source>the list is full; remove documents with &apos;quillbay documents --remove&apos;</source>
+        <translation>die Liste ist voll; &apos;quillbay documents --remove&apos; entfernt Dokumente</translation>
+    </message>
+    <message>
+        <source>one file and one number at a time</source>
+        <translation>nur eine Datei und eine Zahl auf einmal</translation>
+    </message>
+    <message>
+        <source>--remove takes no number</source>
+        <translation>--remove nimmt keine Zahl</translation>
+    </message>
+    <message>
+        <source>no number given</source>
+        <translation>keine Zahl angegeben</translation>
+    </message>
+    <message>
+        <source>a limit has neither --day nor --by</source>
+        <translation>eine Grenze hat weder --day noch --by</translation>
+    </message>
+    <message>
+        <source>--day and --by cannot be combined</source>
+        <translation>--day und --by lassen sich nicht verbinden</translation>
+    </message>
+    <message>
+        <source>--added-only needs --day</source>
+        <translation>--added-only braucht --day</translation>
+    </message>
+    <message>
+        <source>Goal: %1</source>
+        <translation>Ziel: %1</translation>
+    </message>
+    <message>
+        <source>Limit: %1</source>
+        <translation>Grenze: %1</translation>
+    </message>
+    <message>
+        <source>%1 has neither a goal nor a limit.</source>
+        <translation>%1 hat weder ein Ziel noch eine Grenze.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
+        <translation>&apos;%1&apos; ist keine Zahl von 1 bis %2</translation>
+    </message>
+    <message>
+        <source>--of takes words, characters, charactersIncludingWhitespace or lines</source>
+        <translation>--of nimmt words, characters, charactersIncludingWhitespace oder lines</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date such as 2026-11-30</source>
+        <translation>&apos;%1&apos; ist kein Datum wie 2026-11-30</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Dazu</translation>
+    </message>
+    <message>
+        <source>--keep takes on or off</source>
+        <translation>--keep nimmt on oder off</translation>
+    </message>
+    <message>
+        <source>--keep takes no file</source>
+        <translation>--keep nimmt keine Datei</translation>
+    </message>
+    <message>
+        <source>one file at a time</source>
+        <translation>nur eine Datei auf einmal</translation>
+    </message>
+    <message>
+        <source>--csv and --json cannot be combined</source>
+        <translation>--csv und --json lassen sich nicht verbinden</translation>
+    </message>
+    <message>
+        <source>%1: has no history; add it with &apos;quillbay documents&apos;, then save it while its window is open or run &apos;quillbay status&apos;</source>
+        <translation>%1: hat keinen Verlauf; mit &apos;quillbay documents&apos; aufnehmen, dann bei offenem Fenster speichern oder &apos;quillbay status&apos; ausführen</translation>
+    </message>
+    <message>
+        <source>%1: cannot be used: %2; check the permissions and the free space of its folder</source>
+        <translation>%1: lässt sich nicht benutzen: %2; bitte die Rechte und den freien Platz des Ordners prüfen</translation>
+    </message>
+    <message>
+        <source>%1: is damaged; it was renamed to %2, and a new list of documents begun</source>
+        <translation>%1: ist beschädigt; die Datei heißt nun %2, und eine neue Liste der Dokumente wurde begonnen</translation>
+    </message>
+    <message>
+        <source>not counted yet</source>
+        <translation>noch nicht gezählt</translation>
+    </message>
+    <message>
+        <source>more than %1</source>
+        <translation>mehr als %1</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>takes no file</source>
+        <translation>nimmt keine Datei</translation>
+    </message>
+    <message>
+        <source>no documents; add some with &apos;quillbay documents FILE…&apos;</source>
+        <translation>keine Dokumente; &apos;quillbay documents FILE…&apos; nimmt welche auf</translation>
+    </message>
 </context>
 <context>
     <name>counting_service</name>
@@ -2714,6 +3270,89 @@
     <message>
         <source>Choose another file.</source>
         <translation>Andere Datei wählen …</translation>
+    </message>
+</context>
+<context>
+    <name>writing_progress</name>
+    <message>
+        <source>Goal reached</source>
+        <translation>Ziel erreicht</translation>
+    </message>
+    <message>
+        <source>Limit passed</source>
+        <translation>Grenze überschritten</translation>
+    </message>
+    <message>
+        <source>%1 word</source>
+        <translation>%1 Wort</translation>
+    </message>
+    <message>
+        <source>%1 words</source>
+        <translation>%1 Wörter</translation>
+    </message>
+    <message>
+        <source>%1 character</source>
+        <translation>%1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 character with white space</source>
+        <translation>%1 Zeichen mit Leerraum</translation>
+    </message>
+    <message>
+        <source>%1 characters with white space</source>
+        <translation>%1 Zeichen mit Leerraum</translation>
+    </message>
+    <message>
+        <source>%1 line</source>
+        <translation>%1 Zeile</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 a day</source>
+        <translation>%1 am Tag</translation>
+    </message>
+    <message>
+        <source>%1 until %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>At most %1</source>
+        <translation>Höchstens %1</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Erreicht</translation>
+    </message>
+    <message>
+        <source>%1 remaining today</source>
+        <translation>noch %1 heute</translation>
+    </message>
+    <message>
+        <source>%1 remaining: it was due on %2</source>
+        <translation>noch %1, fällig war es am %2</translation>
+    </message>
+    <message>
+        <source>%1 remaining: %2 a day until %3</source>
+        <translation>noch %1: %2 am Tag bis %3</translation>
+    </message>
+    <message>
+        <source>%1 remaining</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>%1: has more than %2.</source>
+        <translation>%1: hat mehr als %2.</translation>
+    </message>
+    <message>
+        <source>%1: has reached its goal of %2.</source>
+        <translation>%1: hat das Ziel von %2 erreicht.</translation>
     </message>
 </context>
 </TS>

@@ -178,6 +178,10 @@
         <source>Shortcut</source>
         <translation>Raccourci</translation>
     </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
 </context>
 <context>
     <name>Doctor</name>
@@ -582,6 +586,235 @@
     </message>
 </context>
 <context>
+    <name>DocumentList</name>
+    <message>
+        <source>%1: cannot be used (%2), so the list, the goals and the history are not stored. Check the permissions and the free space of its folder.</source>
+        <translation>%1&#xa0;: n’est pas utilisable (%2)&#x202f;; la liste, les objectifs et l’historique ne sont donc pas enregistrés. Vérifiez les droits et l’espace libre de son dossier.</translation>
+    </message>
+    <message>
+        <source>%1: was damaged. It was renamed to %2, and a new list begun.</source>
+        <translation>%1&#xa0;: était endommagé. Il a été renommé %2, et une nouvelle liste commencée.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentTable</name>
+    <message>
+        <source>Words</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Caractères</translation>
+    </message>
+    <message>
+        <source>Characters with white space</source>
+        <translation>Caractères, blancs compris</translation>
+    </message>
+    <message>
+        <source>Sentences</source>
+        <translation>Phrases</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Hard line breaks</source>
+        <translation>Sauts de ligne forcés</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Paragraphes</translation>
+    </message>
+    <message>
+        <source>Indented paragraphs</source>
+        <translation>Paragraphes en retrait</translation>
+    </message>
+    <message>
+        <source>More than %1</source>
+        <translation>Plus de %1</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>Lecture…</translation>
+    </message>
+    <message>
+        <source>The file is missing</source>
+        <translation>Le fichier manque</translation>
+    </message>
+    <message>
+        <source>The file cannot be read</source>
+        <translation>Le fichier ne peut être lu</translation>
+    </message>
+    <message>
+        <source>The counting service does not answer</source>
+        <translation>Le service de comptage ne répond pas</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>By how many words the document has changed since this window was opened</source>
+        <translation>De combien de mots le document a changé depuis l’ouverture de cette fenêtre</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>By how many words the document has changed since midnight</source>
+        <translation>De combien de mots le document a changé depuis minuit</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Goal</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Last save</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Today: %1</source>
+        <translation>Aujourd’hui&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentsPage</name>
+    <message>
+        <source>F&amp;ilter:</source>
+        <translation>F&amp;iltre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Ajouter…</translation>
+    </message>
+    <message>
+        <source>Add F&amp;older…</source>
+        <translation>Ajouter un d&amp;ossier…</translation>
+    </message>
+    <message>
+        <source>Show on &amp;Top</source>
+        <translation>Montrer au-dess&amp;us</translation>
+    </message>
+    <message>
+        <source>Open a small window that stays above the others, with the counts of the document</source>
+        <translation>Ouvrir une petite fenêtre qui reste au-dessus des autres, avec les chiffres du document</translation>
+    </message>
+    <message>
+        <source>&amp;Goal…</source>
+        <translation>Ob&amp;jectif…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows, or all, as text, CSV and HTML</source>
+        <translation>Copier les lignes sélectionnées, ou toutes, sous forme de texte, CSV et HTML</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Do&amp;wn</source>
+        <translation>Desce&amp;ndre</translation>
+    </message>
+    <message>
+        <source>Fi&amp;nd File…</source>
+        <translation>&amp;Trouver le fichier…</translation>
+    </message>
+    <message>
+        <source>Choose the file of a document that was moved</source>
+        <translation>Choisir le fichier d’un document déplacé</translation>
+    </message>
+    <message>
+        <source>&amp;Remove…</source>
+        <translation>&amp;Retirer…</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the history of the counts</source>
+        <translation>Conserver l’&amp;historique des chiffres</translation>
+    </message>
+    <message>
+        <source>Of each save the time and the eight counts are kept, and nothing of the text. Off: only what the changes of the day need.</source>
+        <translation>De chaque enregistrement sont conservés l’heure et les huit chiffres, et rien du texte. Désactivé&#xa0;: seulement ce qu’exigent les changements du jour.</translation>
+    </message>
+    <message>
+        <source>Drop documents here, or add them: their counts follow every save, and you see what today brought. Nothing of their texts is kept.</source>
+        <translation>Déposez ici des documents, ou ajoutez-les&#xa0;: leurs chiffres suivent chaque enregistrement, et vous voyez ce qu’a apporté la journée. Rien de leurs textes n’est conservé.</translation>
+    </message>
+    <message>
+        <source>All documents (%1)</source>
+        <translation>Tous les documents (%1)</translation>
+    </message>
+    <message>
+        <source>Selected documents (%1)</source>
+        <translation>Documents sélectionnés (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Forget the History</source>
+        <translation>Oublier l’histori&amp;que</translation>
+    </message>
+    <message>
+        <source>Add a Folder</source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message>
+        <source>Add the files whose names match, in the folders inside it, too:</source>
+        <translation>Ajouter les fichiers dont le nom correspond, y compris dans ses sous-dossiers&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No file in %1 matches %2.</source>
+        <translation>Aucun fichier de %1 ne correspond à %2.</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the list, and forget its goal and its history?</source>
+        <translation>Retirer %1 de la liste, et oublier son objectif et son historique&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Remove %1 documents from the list, and forget their goals and their history?</source>
+        <translation>Retirer %1 documents de la liste, et oublier leurs objectifs et leur historique&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Remove Documents</source>
+        <translation>Retirer des documents</translation>
+    </message>
+    <message>
+        <source>The files stay where they are.</source>
+        <translation>Les fichiers restent où ils sont.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+</context>
+<context>
     <name>FurtherRulesBox</name>
     <message>
         <source>%L1 words</source>
@@ -642,6 +875,77 @@
     <message>
         <source>Choose a size, or type your own. White space counts as characters.</source>
         <translation>Choisissez une taille ou saisissez la vôtre. Les blancs comptent parmi les caractères.</translation>
+    </message>
+</context>
+<context>
+    <name>GoalDialog</name>
+    <message>
+        <source>&amp;Goal</source>
+        <translation>&amp;Objectif</translation>
+    </message>
+    <message>
+        <source>Nu&amp;mber:</source>
+        <translation>&amp;Nombre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Of:</source>
+        <translation>&amp;De&#xa0;:</translation>
+    </message>
+    <message>
+        <source>In &amp;all</source>
+        <translation>En &amp;tout</translation>
+    </message>
+    <message>
+        <source>&amp;Until</source>
+        <translation>D’&amp;ici au</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Dernier jour</translation>
+    </message>
+    <message>
+        <source>Each &amp;day, from midnight</source>
+        <translation>Chaque &amp;jour, à partir de minuit</translation>
+    </message>
+    <message>
+        <source>Do not subtract &amp;what is deleted</source>
+        <translation>Ne pas déduire ce qui est &amp;supprimé</translation>
+    </message>
+    <message>
+        <source>What is deleted counts against the day. With the switch, what is added between two saves counts, and what is deleted is left aside.</source>
+        <translation>Ce qui est supprimé se déduit de la journée. Avec cette option, ce qui est ajouté entre deux enregistrements compte, et ce qui est supprimé est laissé de côté.</translation>
+    </message>
+    <message>
+        <source>&amp;Limit</source>
+        <translation>&amp;Limite</translation>
+    </message>
+    <message>
+        <source>At mo&amp;st:</source>
+        <translation>Au &amp;plus&#xa0;:</translation>
+    </message>
+    <message>
+        <source>O&amp;f:</source>
+        <translation>D&amp;e&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Caractères</translation>
+    </message>
+    <message>
+        <source>Characters with white space</source>
+        <translation>Caractères, blancs compris</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Goal of %1</source>
+        <translation>Objectif de %1</translation>
     </message>
 </context>
 <context>
@@ -1212,6 +1516,142 @@
     <message>
         <source>such as &apos;1800 characters&apos; or &apos;250 words&apos;; white space counts</source>
         <translation>par exemple &apos;1800 characters&apos; ou &apos;250 words&apos;&#x202f;; les blancs comptent</translation>
+    </message>
+    <message>
+        <source>list the documents that you keep an eye on</source>
+        <translation>lister les documents à suivre</translation>
+    </message>
+    <message>
+        <source>Adds each FILE to the list of documents, which the page Documents of the main window shows, too. Without FILE, prints their paths.</source>
+        <translation>Ajoute chaque FILE à la liste des documents, que montre aussi la page Documents de la fenêtre principale. Sans FILE, affiche leurs chemins.</translation>
+    </message>
+    <message>
+        <source>The counts of a listed document are kept after every save, so that &apos;quillbay status&apos; knows what today brought, and &apos;quillbay history&apos; each day. Nothing of its text is kept.</source>
+        <translation>Les chiffres d’un document de la liste sont conservés après chaque enregistrement&#xa0;: &apos;quillbay status&apos; sait ainsi ce qu’a apporté la journée, et &apos;quillbay history&apos; chaque jour. Rien du texte n’est conservé.</translation>
+    </message>
+    <message>
+        <source>remove each FILE from the list, and forget its goal and its history</source>
+        <translation>retirer chaque FILE de la liste, oublier son objectif et son historique</translation>
+    </message>
+    <message>
+        <source>the list was printed or stored</source>
+        <translation>la liste a été affichée ou enregistrée</translation>
+    </message>
+    <message>
+        <source>a file is missing, or the list cannot be read or stored</source>
+        <translation>un fichier manque, ou la liste ne peut être lue ou enregistrée</translation>
+    </message>
+    <message>
+        <source>keep an eye on all chapters of a novel</source>
+        <translation>suivre tous les chapitres d’un roman</translation>
+    </message>
+    <message>
+        <source>set a goal or a limit for a document or a folder</source>
+        <translation>fixer un objectif ou une limite à un document ou un dossier</translation>
+    </message>
+    <message>
+        <source>Sets the goal of FILE to NUMBER words, in all or for each day; or the limit, which is reported when it is passed. Without NUMBER, prints both. A folder has the documents of the list that are directly in it.</source>
+        <translation>Fixe l’objectif de FILE à NUMBER mots, en tout ou par jour&#x202f;; ou la limite, dont le dépassement est signalé. Sans NUMBER, affiche les deux. Un dossier réunit les documents de la liste qui s’y trouvent directement.</translation>
+    </message>
+    <message>
+        <source>What is deleted counts against the goal for a day. With --added-only it does not: what is added between two saves counts, and what is deleted is left aside.</source>
+        <translation>Ce qui est supprimé se déduit de l’objectif du jour. Pas avec --added-only&#xa0;: ce qui est ajouté entre deux enregistrements compte, et ce qui est supprimé est laissé de côté.</translation>
+    </message>
+    <message>
+        <source>count words (the default), characters, charactersIncludingWhitespace or lines</source>
+        <translation>compter words (par défaut), characters, charactersIncludingWhitespace ou lines</translation>
+    </message>
+    <message>
+        <source>reach the goal until DATE, such as 2026-11-30</source>
+        <translation>atteindre l’objectif d’ici à DATE, par exemple 2026-11-30</translation>
+    </message>
+    <message>
+        <source>the goal is for each day, from midnight</source>
+        <translation>l’objectif vaut pour chaque jour, à partir de minuit</translation>
+    </message>
+    <message>
+        <source>do not subtract what is deleted</source>
+        <translation>ne pas déduire ce qui est supprimé</translation>
+    </message>
+    <message>
+        <source>set or remove the limit</source>
+        <translation>fixer ou retirer la limite</translation>
+    </message>
+    <message>
+        <source>remove the goal or the limit</source>
+        <translation>retirer l’objectif ou la limite</translation>
+    </message>
+    <message>
+        <source>the goal was printed or stored</source>
+        <translation>l’objectif a été affiché ou enregistré</translation>
+    </message>
+    <message>
+        <source>the goal cannot be read or stored</source>
+        <translation>l’objectif ne peut être lu ou enregistré</translation>
+    </message>
+    <message>
+        <source>write 50,000 words in a folder until 30 November</source>
+        <translation>écrire 50&#x202f;000 mots dans un dossier d’ici au 30 novembre</translation>
+    </message>
+    <message>
+        <source>be told when an abstract has more than 5,000 characters</source>
+        <translation>être averti quand un résumé dépasse 5&#x202f;000 caractères</translation>
+    </message>
+    <message>
+        <source>print what each day brought to a document</source>
+        <translation>afficher ce que chaque jour a apporté à un document</translation>
+    </message>
+    <message>
+        <source>Prints for each day how many words FILE had at its end, by how many it changed, and how many were added without those that were deleted. FILE is in the list of &apos;quillbay documents&apos;.</source>
+        <translation>Affiche pour chaque jour combien de mots FILE avait à la fin, de combien il a changé, et combien ont été ajoutés sans déduire ceux qui ont été supprimés. FILE figure dans la liste de &apos;quillbay documents&apos;.</translation>
+    </message>
+    <message>
+        <source>The counts of a document are kept once a minute at most, and once a day after a year.</source>
+        <translation>Les chiffres d’un document sont conservés une fois par minute au plus, et une fois par jour au bout d’un an.</translation>
+    </message>
+    <message>
+        <source>print all counts that are kept, separated by commas</source>
+        <translation>afficher tous les chiffres conservés, séparés par des virgules</translation>
+    </message>
+    <message>
+        <source>print a JSON object for each count that is kept</source>
+        <translation>afficher un objet JSON pour chaque comptage conservé</translation>
+    </message>
+    <message>
+        <source>forget all counts but the last</source>
+        <translation>oublier tous les chiffres sauf les derniers</translation>
+    </message>
+    <message>
+        <source>keep the history of all documents, or only what the changes of the day need</source>
+        <translation>conserver l’historique de tous les documents, ou seulement ce qu’exigent les changements du jour</translation>
+    </message>
+    <message>
+        <source>the history was printed or forgotten</source>
+        <translation>l’historique a été affiché ou oublié</translation>
+    </message>
+    <message>
+        <source>there is no history of FILE, or it cannot be read or forgotten</source>
+        <translation>FILE n’a pas d’historique, ou il ne peut être lu ou oublié</translation>
+    </message>
+    <message>
+        <source>print your documents, what today brought, and their goals</source>
+        <translation>afficher vos documents, ce qu’a apporté la journée et leurs objectifs</translation>
+    </message>
+    <message>
+        <source>Prints the words of each document in the list of &apos;quillbay documents&apos;, by how many they have changed since midnight, and what its goal still needs. Counts what was saved since the last time; what has not changed is not read.</source>
+        <translation>Affiche les mots de chaque document de la liste de &apos;quillbay documents&apos;, de combien ils ont changé depuis minuit, et ce qui manque encore à son objectif. Compte ce qui a été enregistré depuis la dernière fois&#x202f;; ce qui n’a pas changé n’est pas lu.</translation>
+    </message>
+    <message>
+        <source>print a JSON object with all statistics, for panels and scripts</source>
+        <translation>afficher un objet JSON avec tous les chiffres, pour les barres et les scripts</translation>
+    </message>
+    <message>
+        <source>all documents were counted</source>
+        <translation>tous les documents ont été comptés</translation>
+    </message>
+    <message>
+        <source>a document could not be counted</source>
+        <translation>un document n’a pas pu être compté</translation>
     </message>
 </context>
 <context>
@@ -2101,6 +2541,122 @@
         <source>Words spoken per minute</source>
         <translation>Mots dits par minute</translation>
     </message>
+    <message>
+        <source>%1: there is no such file; check its name</source>
+        <translation>%1&#xa0;: ce fichier n’existe pas&#x202f;; vérifiez son nom</translation>
+    </message>
+    <message>
+        <source>the list is full; remove documents with &apos;quillbay documents --remove&apos;</source>
+        <translation>la liste est pleine&#x202f;; &apos;quillbay documents --remove&apos; en retire des documents</translation>
+    </message>
+    <message>
+        <source>one file and one number at a time</source>
+        <translation>un seul fichier et un seul nombre à la fois</translation>
+    </message>
+    <message>
+        <source>--remove takes no number</source>
+        <translation>--remove ne prend pas de nombre</translation>
+    </message>
+    <message>
+        <source>no number given</source>
+        <translation>aucun nombre indiqué</translation>
+    </message>
+    <message>
+        <source>a limit has neither --day nor --by</source>
+        <translation>une limite n’a ni --day ni --by</translation>
+    </message>
+    <message>
+        <source>--day and --by cannot be combined</source>
+        <translation>--day et --by ne peuvent être combinés</translation>
+    </message>
+    <message>
+        <source>--added-only needs --day</source>
+        <translation>--added-only exige --day</translation>
+    </message>
+    <message>
+        <source>Goal: %1</source>
+        <translation>Objectif&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Limit: %1</source>
+        <translation>Limite&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 has neither a goal nor a limit.</source>
+        <translation>%1 n’a ni objectif ni limite.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
+        <translation>&apos;%1&apos; n’est pas un nombre de 1 à %2</translation>
+    </message>
+    <message>
+        <source>--of takes words, characters, charactersIncludingWhitespace or lines</source>
+        <translation>--of prend words, characters, charactersIncludingWhitespace ou lines</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date such as 2026-11-30</source>
+        <translation>&apos;%1&apos; n’est pas une date comme 2026-11-30</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Évolution</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Ajoutés</translation>
+    </message>
+    <message>
+        <source>--keep takes on or off</source>
+        <translation>--keep prend on ou off</translation>
+    </message>
+    <message>
+        <source>--keep takes no file</source>
+        <translation>--keep ne prend pas de fichier</translation>
+    </message>
+    <message>
+        <source>one file at a time</source>
+        <translation>un seul fichier à la fois</translation>
+    </message>
+    <message>
+        <source>--csv and --json cannot be combined</source>
+        <translation>--csv et --json ne peuvent être combinés</translation>
+    </message>
+    <message>
+        <source>%1: has no history; add it with &apos;quillbay documents&apos;, then save it while its window is open or run &apos;quillbay status&apos;</source>
+        <translation>%1&#xa0;: n’a pas d’historique&#x202f;; ajoutez-le avec &apos;quillbay documents&apos;, puis enregistrez-le pendant que sa fenêtre est ouverte ou exécutez &apos;quillbay status&apos;</translation>
+    </message>
+    <message>
+        <source>%1: cannot be used: %2; check the permissions and the free space of its folder</source>
+        <translation>%1&#xa0;: n’est pas utilisable&#xa0;: %2&#x202f;; vérifiez les droits et l’espace libre de son dossier</translation>
+    </message>
+    <message>
+        <source>%1: is damaged; it was renamed to %2, and a new list of documents begun</source>
+        <translation>%1&#xa0;: est endommagé&#x202f;; il a été renommé %2, et une nouvelle liste des documents commencée</translation>
+    </message>
+    <message>
+        <source>not counted yet</source>
+        <translation>pas encore compté</translation>
+    </message>
+    <message>
+        <source>more than %1</source>
+        <translation>plus de %1</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>takes no file</source>
+        <translation>ne prend pas de fichier</translation>
+    </message>
+    <message>
+        <source>no documents; add some with &apos;quillbay documents FILE…&apos;</source>
+        <translation>aucun document&#x202f;; ajoutez-en avec &apos;quillbay documents FILE…&apos;</translation>
+    </message>
 </context>
 <context>
     <name>counting_service</name>
@@ -2714,6 +3270,89 @@
     <message>
         <source>Choose another file.</source>
         <translation>Choisir un autre fichier…</translation>
+    </message>
+</context>
+<context>
+    <name>writing_progress</name>
+    <message>
+        <source>Goal reached</source>
+        <translation>Objectif atteint</translation>
+    </message>
+    <message>
+        <source>Limit passed</source>
+        <translation>Limite dépassée</translation>
+    </message>
+    <message>
+        <source>%1 word</source>
+        <translation>%1 mot</translation>
+    </message>
+    <message>
+        <source>%1 words</source>
+        <translation>%1 mots</translation>
+    </message>
+    <message>
+        <source>%1 character</source>
+        <translation>%1 caractère</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 caractères</translation>
+    </message>
+    <message>
+        <source>%1 character with white space</source>
+        <translation>%1 caractère, blancs compris</translation>
+    </message>
+    <message>
+        <source>%1 characters with white space</source>
+        <translation>%1 caractères, blancs compris</translation>
+    </message>
+    <message>
+        <source>%1 line</source>
+        <translation>%1 ligne</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 lignes</translation>
+    </message>
+    <message>
+        <source>%1 a day</source>
+        <translation>%1 par jour</translation>
+    </message>
+    <message>
+        <source>%1 until %2</source>
+        <translation>%1 d’ici au %2</translation>
+    </message>
+    <message>
+        <source>At most %1</source>
+        <translation>Au plus %1</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Atteint</translation>
+    </message>
+    <message>
+        <source>%1 remaining today</source>
+        <translation>encore %1 aujourd’hui</translation>
+    </message>
+    <message>
+        <source>%1 remaining: it was due on %2</source>
+        <translation>encore %1, l’échéance était le %2</translation>
+    </message>
+    <message>
+        <source>%1 remaining: %2 a day until %3</source>
+        <translation>encore %1&#xa0;: %2 par jour d’ici au %3</translation>
+    </message>
+    <message>
+        <source>%1 remaining</source>
+        <translation>encore %1</translation>
+    </message>
+    <message>
+        <source>%1: has more than %2.</source>
+        <translation>%1&#xa0;: dépasse %2.</translation>
+    </message>
+    <message>
+        <source>%1: has reached its goal of %2.</source>
+        <translation>%1&#xa0;: a atteint son objectif de %2.</translation>
     </message>
 </context>
 </TS>

@@ -30,11 +30,6 @@ DatabaseForm formOfStore(qint64 maxSize)
         .isCheckedWhenOpened = false}; // takes seconds for the history of years
 }
 
-QByteArray folderOf(const QByteArray &path)
-{
-    return path.first(std::max<qsizetype>(path.lastIndexOf('/'), 1));
-}
-
 /// When a count belongs to the history: at the save, if that is known and possible.
 QDateTime timeOf(const DocumentCount &count, const std::optional<RecordedCount> &last, const QDateTime &now)
 {
@@ -44,6 +39,11 @@ QDateTime timeOf(const DocumentCount &count, const std::optional<RecordedCount> 
 }
 
 } // namespace
+
+QByteArray folderOf(const QByteArray &path)
+{
+    return path.first(std::max<qsizetype>(path.lastIndexOf('/'), 1));
+}
 
 ProgressStore::ProgressStore(std::chrono::milliseconds timeout, qint64 maxSize)
     : m_timeout(timeout)
@@ -188,6 +188,13 @@ ProgressStore::Failure ProgressStore::move(const QByteArray &from, const QByteAr
 {
     if (from == to)
         return {};
+    ListedDocument listed;
+    const auto finding = [&] {
+        listed = {};
+        return find(from, listed);
+    };
+    if (Failure failure = read(finding); failure || listed.identifier == 0)
+        return failure;
     return write([&]() -> Failure {
         ListedDocument moved;
         if (Failure failure = find(from, moved); failure || moved.identifier == 0)
@@ -212,7 +219,7 @@ ProgressStore::Failure ProgressStore::readTotal(qint64 document, QDate day, DayT
 {
     std::vector<RecordedCount> counts;
     Failure failure = m_history.readDay(document, day, counts);
-    total = totalOfDay(day, counts);
+    total = ::totalOfDay(day, counts);
     return failure;
 }
 
@@ -326,13 +333,28 @@ ProgressStore::Answer<std::map<qint64, DayTotal>> ProgressStore::totalsOfDay(QDa
             if (Failure failure = m_history.readDay(document.identifier, day, counts))
                 return failure;
             if (!counts.empty())
-                totals[document.identifier] = totalOfDay(day, counts);
+                totals[document.identifier] = ::totalOfDay(day, counts);
         }
         return m_file.execute("RELEASE totals");
     };
     if (Failure failure = read(reading))
         return *failure;
     return totals;
+}
+
+ProgressStore::Answer<std::optional<DayTotal>> ProgressStore::totalOfDay(const QByteArray &path, QDate day)
+{
+    std::vector<RecordedCount> counts;
+    const auto reading = [&]() -> Failure {
+        counts.clear();
+        ListedDocument document;
+        if (Failure failure = find(path, document))
+            return failure;
+        return m_history.readDay(document.identifier, day, counts);
+    };
+    if (Failure failure = read(reading))
+        return *failure;
+    return counts.empty() ? std::optional<DayTotal>() : ::totalOfDay(day, counts);
 }
 
 ProgressStore::Failure ProgressStore::forgetHistory(const QByteArrayList &paths)

@@ -30,6 +30,9 @@ struct DocumentCount {
     QByteArray stamp = {};
 };
 
+/// The folder of a document, which can have a goal for all documents directly in it.
+QByteArray folderOf(const QByteArray &path);
+
 /// The database is "quillbay/com.quillbay.Documents.sqlite3" in the user's configuration folder. It is opened
 /// at the first access; reading creates neither file nor folder, and what is missing reads as empty. A broken
 /// file is put aside with a line in the log, and a new one begun. Paths are absolute and bytes in any
@@ -77,6 +80,8 @@ public:
     Answer<std::vector<RecordedCount>> history(const QByteArray &path);
     /// The totals of a day, by the identifier of the document; none for those without a count.
     Answer<std::map<qint64, DayTotal>> totalsOfDay(QDate day);
+    /// The same of one document; absent without a count.
+    Answer<std::optional<DayTotal>> totalOfDay(const QByteArray &path, QDate day);
     /// Leaves the last count of each document.
     Failure forgetHistory(const QByteArrayList &paths);
 

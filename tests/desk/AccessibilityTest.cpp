@@ -90,9 +90,9 @@ private:
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Desk, EveryPage, ::testing::Values(0, 1, 2));
+INSTANTIATE_TEST_SUITE_P(Desk, EveryPage, ::testing::Values(0, 1, 2, 3));
 INSTANTIATE_TEST_SUITE_P(Desk, EveryPageInEveryLanguage,
-    ::testing::Combine(::testing::Values(0, 1, 2), ::testing::Values("en", "de", "fr")));
+    ::testing::Combine(::testing::Values(0, 1, 2, 3), ::testing::Values("en", "de", "fr")));
 
 TEST_P(EveryPage, EveryControlIsReachedByTab)
 {
@@ -190,7 +190,7 @@ TEST_P(EveryPage, IsMirroredFromRightToLeft)
 TEST_F(AccessibilityTest, ThePageIsWhiteInTheDark)
 {
     applyColorScheme(ColorScheme::Dark);
-    openPage(1);
+    openPage(2);
     const QImage window = m_window->grab().toImage();
     EXPECT_LT(window.pixelColor(2, window.height() - 3).lightness(), 100);
     auto &preview = control<PagePreview>("preview");
@@ -201,7 +201,7 @@ TEST_F(AccessibilityTest, ThePageIsWhiteInTheDark)
 
 TEST_F(AccessibilityTest, ScreenReadersKnowThePreviewAsAPictureOfThatSize)
 {
-    openPage(1);
+    openPage(2);
     QAccessibleInterface *const preview =
         QAccessible::queryAccessibleInterface(&control<PagePreview>("preview"));
     EXPECT_EQ(preview->role(), QAccessible::Graphic);

@@ -10,7 +10,9 @@
 #include "tests/harness/QuillbayTest.h"
 #include "tests/harness/Screenshot.h"
 
+#include <QListWidget>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QWidget>
 #include <QWindow>
 
@@ -28,16 +30,23 @@ protected:
         Controller::configureUserDefaultsOnApplicationLaunch();
     }
 
-    /// Returns once the window has the focus. speech: the speech command.
-    DeskWindow &open(const QString &speech = QStringLiteral("/nonexistent/say"))
+    /// Returns once the window has the focus. speech: the speech command. page: the name of the widget.
+    DeskWindow &open(
+        const QString &speech = QStringLiteral("/nonexistent/say"), const char *page = "RulesPage")
     {
         m_window.emplace(speech);
+        showPage(page);
         m_window->show();
         m_window->activateWindow();
         EXPECT_TRUE(waitUntil([this] { return m_window->isActiveWindow(); }));
         return *m_window;
     }
     void close() { m_window.reset(); }
+    void showPage(const char *name)
+    {
+        control<QListWidget>("pageList")
+            .setCurrentRow(control<QStackedWidget>("pageStack").indexOf(&control<QWidget>(name)));
+    }
 
     template <typename Widget>
     Widget &control(const char *name)

@@ -28,7 +28,7 @@ protected:
     DeskWindow &openPage()
     {
         open();
-        control<QListWidget>("pageList").setCurrentRow(1);
+        showPage("PaperPage");
         return *m_window;
     }
 
@@ -273,7 +273,7 @@ TEST_F(SilentPrinterTest, TheWindowOpensAtOnceAndShowsThePapersWhenTheyArrive)
     PrintSettings settings(printer);
     const ScopedPrintSettings scope(settings);
     open(); // reaches its end only if nothing waits for the printer
-    control<QListWidget>("pageList").setCurrentRow(1);
+    showPage("PaperPage");
     EXPECT_THAT(
         control<QWidget>("PaperPage").findChild<QLabel *>(QStringLiteral("stateLabel"))->text().toStdString(),
         HasSubstr("Asking the printing system"));
@@ -296,7 +296,7 @@ TEST_F(SilentPrinterTest, APaperThatWasNeverChosenIsNamedAndCanBeChosen)
     Controller::configureUserDefaultsOnApplicationLaunch();
     ASSERT_EQ(Controller::paperNameForLineMeasuring(), std::nullopt);
     open();
-    control<QListWidget>("pageList").setCurrentRow(1);
+    showPage("PaperPage");
     EXPECT_THAT(
         control<QWidget>("PaperPage").findChild<QLabel *>(QStringLiteral("stateLabel"))->text().toStdString(),
         HasSubstr("No paper has been chosen yet, so lines are measured on Letter."));

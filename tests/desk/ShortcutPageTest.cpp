@@ -39,7 +39,7 @@ protected:
     void openPage()
     {
         open();
-        control<QListWidget>("pageList").setCurrentRow(3);
+        showPage("ShortcutPage");
         waitForAnswer();
     }
     void waitForAnswer()
@@ -120,7 +120,7 @@ TEST_F(ShortcutPageTest, AnotherDesktopGetsTheCommandToBind)
 {
     qputenv("XDG_CURRENT_DESKTOP", "sway");
     open();
-    control<QListWidget>("pageList").setCurrentRow(3);
+    showPage("ShortcutPage");
     EXPECT_FALSE(control<QCheckBox>("switchCheckBox").isVisible());
     EXPECT_TRUE(control<QLineEdit>("commandEdit").isVisible());
     EXPECT_THAT(control<QLineEdit>("commandEdit").text().toStdString(), HasSubstr("/quillbay selection"));

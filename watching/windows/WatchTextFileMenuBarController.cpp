@@ -12,6 +12,7 @@
 #include "watching/FileTypes.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QPointer>
 
 #include <utility>
@@ -130,7 +131,18 @@ void WatchTextFileMenuBarController::countDidComplete()
     // Once, not at every save: screen readers would interrupt the writing.
     if (std::exchange(m_isCountRequested, false) && m_detachableWindowForPopover)
         m_detachableWindowForPopover->announce();
+    record(stats);
     sayWordCountIfPreferred(stats.numberOfWords);
+}
+
+void WatchTextFileMenuBarController::record(const QBYWordCounterStats &stats)
+{
+    m_recordedPath = pathOfFileURL(urlBeingWatched());
+    if (!m_surroundings.progressRecorder || m_recordedPath.isEmpty())
+        return;
+    const QFileInfo file(QFile::decodeName(m_recordedPath));
+    m_surroundings.progressRecorder->record(
+        {.path = m_recordedPath, .stats = stats, .saved = file.lastModified()});
 }
 
 /// A panel drops requests while it counts, and a Word document is not polled: the file coordination has to
@@ -172,6 +184,8 @@ void WatchTextFileMenuBarController::currentlyWatchedTextFileWasRenamed(
     const QString &newName, WatchTextFileModel & /*watchModel*/)
 {
     setTitleOfPanels(newName);
+    if (m_surroundings.progressRecorder && !m_recordedPath.isEmpty())
+        m_surroundings.progressRecorder->move(m_recordedPath, pathOfFileURL(urlBeingWatched()));
 }
 
 void WatchTextFileMenuBarController::currentlyWatchedTextFileDidFailToLoadAttribedText(

@@ -17,6 +17,7 @@
 #include "watching/WatchTextFileModel.h"
 #include "watching/windows/WatchTextFileMenuBarControllerDelegate.h"
 #include "watching/windows/WatchTextFileViewController.h"
+#include "writing_progress/ProgressRecorder.h"
 
 /// What watchers need of their program. Everything that it refers to outlives them.
 struct WatchSurroundings {
@@ -24,6 +25,7 @@ struct WatchSurroundings {
     ApplicationActivity &applicationActivity;
     StatusBar *statusBar = nullptr; ///< only needed for watchers with a status item
     Clock &clock = systemClock();
+    ProgressRecorder *progressRecorder = nullptr; ///< null: counts are not recorded
     QString speechLaunchPath = QBYExtension::speechLaunchPath();
 };
 
@@ -123,6 +125,7 @@ private:
     void countDocX(const QUrl &url);
     [[nodiscard]] WordCounterViewController::Completion makeCompletion();
     void countDidComplete();
+    void record(const QBYWordCounterStats &stats);
     void countingStateDidChange();
     void sayWordCountIfPreferred(quint64 wordCount);
 
@@ -144,6 +147,7 @@ private:
     std::unique_ptr<WatchTextFileModel> m_watchFileModel;
     std::unique_ptr<ClockTimer> m_popoverTimer; // until the pop-over opens by itself
     quint64 m_lastCalledOutWordCount = 0;
+    QByteArray m_recordedPath; // at the last count
     std::optional<BackgroundWork<Text>> m_firstReading; // until it is counted, or a later content is
     bool m_isCountRequested = false; // by the user, and not completed yet
     bool m_isChangeUncounted = false; // of a Word document, dropped while the panel was counting
