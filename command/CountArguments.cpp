@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace {
 
@@ -57,6 +58,58 @@ Result<FurtherList, QString> furtherListOf(const QByteArray &names, bool isInSer
     return list;
 }
 
+template <typename Value>
+struct Choice {
+    const char *name;
+    Value value;
+};
+
+/// Sets the value of an option that takes one of some words. The message for another word; empty if all is
+/// right.
+template <typename Value>
+QString choose(
+    const CommandWords &words, const char *option, std::initializer_list<Choice<Value>> choices, Value &value)
+{
+    const std::optional<QByteArray> given = words.valueOf(option);
+    if (!given)
+        return {};
+    QStringList names;
+    for (const Choice<Value> &choice : choices) {
+        if (*given == choice.name) {
+            value = choice.value;
+            return {};
+        }
+        names.append(QLatin1StringView(choice.name));
+    }
+    return CommandText::tr("--%1 knows no '%2'; use one of %3")
+        .arg(QLatin1StringView(option), QString::fromUtf8(printableName(*given)),
+            names.join(QStringLiteral(", ")));
+}
+
+/// The error is a message.
+Result<WordRules, QString> wordRulesOf(const CommandWords &words)
+{
+    WordRules rules;
+    QString wrong = choose<WordRules>(words, "count-as",
+        {{"quillbay", {}}, {"libreoffice", WordRules::ofLibreOffice()},
+            {"word-processor", WordRules::ofWordProcessors()}},
+        rules);
+    using Hyphenated = WordRules::Hyphenated;
+    if (wrong.isEmpty())
+        wrong = choose<Hyphenated>(words, "hyphenated",
+            {{"one", Hyphenated::One}, {"several", Hyphenated::Several}}, rules.hyphenated);
+    using Urls = WordRules::Urls;
+    if (wrong.isEmpty())
+        wrong = choose<Urls>(words, "urls", {{"one", Urls::One}, {"none", Urls::None}}, rules.urls);
+    if (!wrong.isEmpty())
+        return wrong;
+    if (const std::optional<QByteArray> separators = words.valueOf("separators"))
+        rules.separators = QString::fromLocal8Bit(*separators);
+    if (words.switches.contains("service") && !(rules == WordRules()))
+        return CommandText::tr("--service counts words by Quillbay's own rules; leave out the other rules");
+    return rules;
+}
+
 CountFormat formatOf(const CommandWords &words)
 {
     if (words.switches.contains("json"))
@@ -74,9 +127,10 @@ std::optional<CountArguments> CountArguments::fromWords(const CommandWords &word
     }
     CountArguments arguments{.format = formatOf(words),
         .wantsRules = words.switches.contains("explain-rules"),
-        .readAs = words.switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind,
+        .readAs = ReadAs::fromWords(words),
         .wantsService = words.switches.contains("service"),
         .also = std::nullopt,
+        .wordRules = {},
         .listName = words.valueOf("files-from"),
         .fileNames = words.operands};
     if (const std::optional<QByteArray> names = words.valueOf("also")) {
@@ -87,6 +141,12 @@ std::optional<CountArguments> CountArguments::fromWords(const CommandWords &word
         }
         arguments.also = also.value();
     }
+    const Result<WordRules, QString> wordRules = wordRulesOf(words);
+    if (!wordRules) {
+        reportWrongUsage("count", wordRules.error());
+        return std::nullopt;
+    }
+    arguments.wordRules = wordRules.value();
     if (!arguments.listName && arguments.fileNames.isEmpty() && !arguments.wantsRules)
         arguments.fileNames.append("-");
     return arguments;

@@ -99,6 +99,7 @@ private:
     CountingRules m_rules; ///< of all files of the run
     FurtherRules m_further;
     WordCounterModel m_model{[this] { return m_rules; }};
+    TextCounter m_textCounter; ///< of the words by other rules
     std::optional<ServiceCounter> m_service; ///< created when first needed
     std::mutex m_largeDocument;
     bool m_hasFailed = false;
@@ -244,9 +245,11 @@ Result<FileCounts, QString> CountCommand::countHere(const QByteArray &name, Prog
     m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
     m_model.setAttributedStringToCount(text.value());
     MeasuringSurface &surface = MeasuringSurface::shared();
-    return FileCounts{m_model.statsRepresentation(),
+    FileCounts counts{m_model.statsRepresentation(),
         furtherStatsOf(text.value(), m_further, surface.engine(), surface.columnWidthOn(m_rules.page),
             columnHeightOf(m_rules.page))};
+    applyWordRules(m_arguments.wordRules, text.value().string(), m_rules.text, m_textCounter, counts.stats);
+    return counts;
 }
 
 Result<QBYWordCounterStats, QString> CountCommand::countInService(
@@ -254,8 +257,7 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
 {
     if (!m_service)
         m_service.emplace();
-    const bool asText = m_arguments.readAs == ReadAs::Text;
-    if (asText || (name != standardInputName && isRtfdPackage(name)))
+    if (!m_arguments.readAs.isItsKind() || (name != standardInputName && isRtfdPackage(name)))
         return countTextInService(loadNamedDocument(name, m_arguments.readAs), progress);
     const QByteArray path = name == standardInputName ? QByteArray() : name;
     const Result<QByteArray, FileError> contents = readNamed(name);

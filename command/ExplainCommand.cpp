@@ -28,7 +28,7 @@ struct ExplainOptions {
     bool areNamed = false;
     bool wantsJson = false;
     bool wantsOnlyNotCounted = false;
-    ReadAs readAs = ReadAs::ItsKind;
+    ReadAs readAs;
 
     [[nodiscard]] bool isOverview() const { return !areNamed && !wantsOnlyNotCounted; }
 };
@@ -173,7 +173,7 @@ ExplainOptions optionsOf(const CommandWords &words)
         .areNamed = false,
         .wantsJson = words.switches.contains("json"),
         .wantsOnlyNotCounted = words.switches.contains("not-counted"),
-        .readAs = words.switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind};
+        .readAs = ReadAs::fromWords(words)};
     std::vector<Statistic> all;
     for (const StatisticRow &row : statisticTable) {
         all.push_back(row.statistic);

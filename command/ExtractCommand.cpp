@@ -5,7 +5,6 @@
 #include "command/FileNames.h"
 #include "command/FirstLaunchStep.h"
 #include "command/NamedDocument.h"
-#include "documents/reading/KindDetection.h"
 #include "documents/rtfd/RtfdReader.h"
 #include "platform/files/FileContents.h"
 #include "platform/system/StandardOutput.h"
@@ -26,9 +25,17 @@ struct ReadText {
     QString text;
 };
 
-Result<ReadText, DocumentError> readNamedText(const QByteArray &name, ReadAs readAs)
+/// In the spelling of the shared MIME database.
+QByteArray mimeTypeOf(DocumentKind kind)
 {
-    const ReadOptions readOptions{.readsPdf = true, .asText = readAs == ReadAs::Text};
+    if (kind == DocumentKind::Markdown)
+        return "text/markdown";
+    return kind == DocumentKind::Latex ? QByteArray("text/x-tex") : mimeTypes(kind).first().toUtf8();
+}
+
+Result<ReadText, DocumentError> readNamedText(const QByteArray &name, const ReadAs &readAs)
+{
+    const ReadOptions readOptions = readOptionsFor(name, readAs);
     const bool isInput = name == standardInputName;
     if (!isInput && !readOptions.asText && isRtfdPackage(name)) {
         const Result<AttributedString, DocumentError> text = loadDocument(name, readOptions);
@@ -39,8 +46,7 @@ Result<ReadText, DocumentError> readNamedText(const QByteArray &name, ReadAs rea
     if (!contents)
         return DocumentError(contents.error());
     const QByteArray path = isInput ? QByteArray() : name;
-    const Result<DocumentKind, DocumentError> kind =
-        readOptions.asText ? DocumentKind::PlainText : kindOfDocument(path, contents.value());
+    const Result<DocumentKind, DocumentError> kind = kindToReadAs(path, contents.value(), readOptions);
     if (!kind)
         return kind.error();
     const Result<AttributedString, DocumentError> text = readBytes(contents.value(), path, readOptions);
@@ -66,7 +72,7 @@ QByteArray printableText(const QString &text)
 
 class ExtractCommand {
 public:
-    ExtractCommand(bool wantsJson, ReadAs readAs)
+    ExtractCommand(bool wantsJson, const ReadAs &readAs)
         : m_wantsJson(wantsJson)
         , m_readAs(readAs)
         , m_isTerminal(::isatty(STDOUT_FILENO) == 1)
@@ -125,9 +131,9 @@ QByteArray ExtractCommand::jsonOf(const QByteArray &name, const ReadText &docume
 {
     const QString &text = document.text;
     const CountingRules rules = currentCountingRules();
-    QByteArray json = '{' + jsonFileMembers(name)
-        + ",\"type\":" + jsonName(mimeTypes(document.kind).first().toUtf8()) + ",\"length\":"
-        + QByteArray::number(text.size()) + ",\"text\":" + jsonName(text.toUtf8()) + ",\"paragraphs\":[";
+    QByteArray json = '{' + jsonFileMembers(name) + ",\"type\":" + jsonName(mimeTypeOf(document.kind))
+        + ",\"length\":" + QByteArray::number(text.size()) + ",\"text\":" + jsonName(text.toUtf8())
+        + ",\"paragraphs\":[";
     qsizetype byteOffset = 0;
     forEachParagraph(text, [&](const Paragraph &paragraph) {
         const QByteArray number = QByteArray::number(paragraph.content(text).toUtf8().size());
@@ -156,7 +162,6 @@ void ExtractCommand::fail(const QByteArray &name, const QString &cause)
 
 int runExtractCommand(const CommandWords &words)
 {
-    const ReadAs readAs = words.switches.contains("as-text") ? ReadAs::Text : ReadAs::ItsKind;
-    ExtractCommand command(words.switches.contains("json"), readAs);
+    ExtractCommand command(words.switches.contains("json"), ReadAs::fromWords(words));
     return command.run(words.operands.isEmpty() ? QByteArrayList{standardInputName} : words.operands);
 }

@@ -59,6 +59,12 @@ Contents readPipe(const QByteArray &name)
     return rest && !start.isEmpty() ? start + rest.value() : rest;
 }
 
+bool isNamedAsLatex(const QByteArray &name)
+{
+    const QByteArray lower = name.toLower();
+    return lower.endsWith(".tex") || lower.endsWith(".ltx") || lower.endsWith(".latex");
+}
+
 } // namespace
 
 bool isNamedPipe(const QByteArray &name)
@@ -74,9 +80,26 @@ Contents readNamed(const QByteArray &name)
     return isNamedPipe(name) ? readPipe(name) : readFile(name);
 }
 
-Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name, ReadAs readAs)
+ReadAs ReadAs::fromWords(const CommandWords &words)
 {
-    const ReadOptions options{.readsPdf = true, .asText = readAs == ReadAs::Text};
+    return {.text = words.switches.contains("as-text"),
+        .markdown = words.switches.contains("markdown"),
+        .latex = words.switches.contains("latex")};
+}
+
+ReadOptions readOptionsFor(const QByteArray &name, const ReadAs &readAs)
+{
+    const bool isLatex = readAs.latex && (!readAs.markdown || isNamedAsLatex(name));
+    return {.readsPdf = true,
+        .asText = readAs.text,
+        .plainTextAs = isLatex ? DocumentKind::Latex
+            : readAs.markdown  ? DocumentKind::Markdown
+                               : DocumentKind::PlainText};
+}
+
+Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name, const ReadAs &readAs)
+{
+    const ReadOptions options = readOptionsFor(name, readAs);
     if (name == standardInputName)
         return loadDocument(STDIN_FILENO, options);
     if (!isNamedPipe(name))

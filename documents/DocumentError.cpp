@@ -23,6 +23,8 @@ QString textOfWrongKind(DocumentKind kind)
 {
     switch (kind) {
     case DocumentKind::PlainText:
+    case DocumentKind::Markdown:
+    case DocumentKind::Latex:
         return QCoreApplication::translate("documents", "is not plain text");
     case DocumentKind::Rtf:
         return QCoreApplication::translate("documents", "is not RTF");

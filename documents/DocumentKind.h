@@ -18,10 +18,14 @@ enum class DocumentKind : quint32 {
     Pdf,
     OpenDocument, ///< a text; spreadsheets and presentations are not
     Epub,
+    // Plain texts without their marks. No name and no bytes make a document one of these: only a user chooses
+    // them.
+    Markdown,
+    Latex,
 };
-inline constexpr DocumentKind lastDocumentKind = DocumentKind::Epub;
+inline constexpr DocumentKind lastDocumentKind = DocumentKind::Latex;
 
-/// The MIME types of a kind, the preferred one first.
+/// The MIME types of a kind, the preferred one first; none for Markdown and Latex.
 QStringList mimeTypes(DocumentKind kind);
 
 /// Absent for a type that no kind has. type: in any case, without parameters.

@@ -19,6 +19,8 @@ TimeBudget timeBudgetOf(DocumentKind kind)
     case DocumentKind::Rtf:
     case DocumentKind::Rtfd:
     case DocumentKind::Html:
+    case DocumentKind::Markdown:
+    case DocumentKind::Latex:
         return {5s, 500ms};
     case DocumentKind::Pdf:
         return {60s, 10s}; // Qt Pdf may take seconds for a page

@@ -24,6 +24,22 @@ ManualOption versionOption()
         .name = "version", .letter = 'V', .text = QT_TRANSLATE_NOOP("Manual", "print the version and exit")};
 }
 
+ManualOption markdownOption()
+{
+    return {.name = "markdown",
+        .text = QT_TRANSLATE_NOOP("Manual",
+            "read plain text as Markdown, without its marks, front matter, comments, code blocks and link "
+            "targets")};
+}
+
+ManualOption latexOption()
+{
+    return {.name = "latex",
+        .text = QT_TRANSLATE_NOOP("Manual",
+            "read plain text as LaTeX, without its commands, formulas, comments, listings and references; "
+            "with --markdown, only files named .tex, .ltx or .latex")};
+}
+
 const char *wrongUsageMeaning()
 {
     return QT_TRANSLATE_NOOP("Manual", "the options or arguments were wrong");

@@ -68,6 +68,8 @@ struct ManualPage {
 /// Options that several programs have.
 ManualOption helpOption();
 ManualOption versionOption();
+ManualOption markdownOption();
+ManualOption latexOption();
 
 /// What an exit status after wrong usage means.
 const char *wrongUsageMeaning();

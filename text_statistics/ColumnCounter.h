@@ -10,6 +10,7 @@
 #include "text_statistics/CountedItem.h"
 #include "text_statistics/FurtherStats.h"
 #include "text_statistics/TextCounter.h"
+#include "text_statistics/WordRules.h"
 
 class ColumnCounter {
 public:
@@ -29,6 +30,12 @@ public:
     /// columnHeightOf().
     [[nodiscard]] FurtherStats countFurther(
         const AttributedString &text, const FurtherRules &rules, double columnHeight);
+
+    /// Puts words and characters by other rules in place of those of count().
+    void applyWordRules(const WordRules &rules, const AttributedString &text, QBYWordCounterStats &stats)
+    {
+        ::applyWordRules(rules, text.string(), m_rules, m_counter, stats);
+    }
 
     /// Counts one statistic, and yields what it counts and what it does not, in the order of the text. The
     /// items add up to the result; none of them is kept.

@@ -1653,6 +1653,34 @@
         <source>a document could not be counted</source>
         <translation>ein Dokument ließ sich nicht zählen</translation>
     </message>
+    <message>
+        <source>read plain text as Markdown, without its marks, front matter, comments, code blocks and link targets</source>
+        <translation>reinen Text als Markdown lesen, ohne seine Auszeichnung, Metadaten am Anfang, Kommentare, Codeblöcke und Linkziele</translation>
+    </message>
+    <message>
+        <source>read plain text as LaTeX, without its commands, formulas, comments, listings and references; with --markdown, only files named .tex, .ltx or .latex</source>
+        <translation>reinen Text als LaTeX lesen, ohne seine Befehle, Formeln, Kommentare, Listings und Verweise; mit --markdown nur Dateien namens .tex, .ltx oder .latex</translation>
+    </message>
+    <message>
+        <source>count the words that a reader of the pages sees</source>
+        <translation>die Wörter zählen, die man beim Lesen der Seiten sieht</translation>
+    </message>
+    <message>
+        <source>count words and characters as PROGRAM does: libreoffice (LibreOffice Writer), word-processor (words between white space) or quillbay</source>
+        <translation>Wörter und Zeichen zählen wie PROGRAM: libreoffice (LibreOffice Writer), word-processor (Wörter zwischen Leerraum) oder quillbay</translation>
+    </message>
+    <message>
+        <source>count a hyphenated word as one, or its parts as several</source>
+        <translation>ein Wort mit Bindestrich als eines zählen (one) oder seine Teile einzeln (several)</translation>
+    </message>
+    <message>
+        <source>count each web address as one word, or none</source>
+        <translation>jede Webadresse als ein Wort zählen (one) oder gar nicht (none)</translation>
+    </message>
+    <message>
+        <source>each of these characters ends a word, too</source>
+        <translation>auch jedes dieser Zeichen beendet ein Wort</translation>
+    </message>
 </context>
 <context>
     <name>PageSizeForMeasuringPreviewViewController</name>
@@ -2656,6 +2684,14 @@
     <message>
         <source>no documents; add some with &apos;quillbay documents FILE…&apos;</source>
         <translation>keine Dokumente; &apos;quillbay documents FILE…&apos; nimmt welche auf</translation>
+    </message>
+    <message>
+        <source>--%1 knows no &apos;%2&apos;; use one of %3</source>
+        <translation>--%1 kennt &apos;%2&apos; nicht; eines von %3 verwenden</translation>
+    </message>
+    <message>
+        <source>--service counts words by Quillbay&apos;s own rules; leave out the other rules</source>
+        <translation>--service zählt Wörter nach Quillbays eigenen Regeln; die anderen Regeln weglassen</translation>
     </message>
 </context>
 <context>

@@ -1653,6 +1653,34 @@
         <source>a document could not be counted</source>
         <translation>un document n’a pas pu être compté</translation>
     </message>
+    <message>
+        <source>read plain text as Markdown, without its marks, front matter, comments, code blocks and link targets</source>
+        <translation>lire le texte brut comme du Markdown, sans ses marques, ses métadonnées en tête, ses commentaires, ses blocs de code et les cibles des liens</translation>
+    </message>
+    <message>
+        <source>read plain text as LaTeX, without its commands, formulas, comments, listings and references; with --markdown, only files named .tex, .ltx or .latex</source>
+        <translation>lire le texte brut comme du LaTeX, sans ses commandes, formules, commentaires, listings et références&#x202f;; avec --markdown, seulement les fichiers nommés .tex, .ltx ou .latex</translation>
+    </message>
+    <message>
+        <source>count the words that a reader of the pages sees</source>
+        <translation>compter les mots que voit un lecteur des pages</translation>
+    </message>
+    <message>
+        <source>count words and characters as PROGRAM does: libreoffice (LibreOffice Writer), word-processor (words between white space) or quillbay</source>
+        <translation>compter les mots et les caractères comme PROGRAM&#xa0;: libreoffice (LibreOffice Writer), word-processor (mots entre blancs) ou quillbay</translation>
+    </message>
+    <message>
+        <source>count a hyphenated word as one, or its parts as several</source>
+        <translation>compter un mot à trait d’union comme un seul (one), ou ses parties (several)</translation>
+    </message>
+    <message>
+        <source>count each web address as one word, or none</source>
+        <translation>compter chaque adresse web comme un mot (one), ou aucun (none)</translation>
+    </message>
+    <message>
+        <source>each of these characters ends a word, too</source>
+        <translation>chacun de ces caractères termine aussi un mot</translation>
+    </message>
 </context>
 <context>
     <name>PageSizeForMeasuringPreviewViewController</name>
@@ -2656,6 +2684,14 @@
     <message>
         <source>no documents; add some with &apos;quillbay documents FILE…&apos;</source>
         <translation>aucun document&#x202f;; ajoutez-en avec &apos;quillbay documents FILE…&apos;</translation>
+    </message>
+    <message>
+        <source>--%1 knows no &apos;%2&apos;; use one of %3</source>
+        <translation>--%1 ne connaît pas &apos;%2&apos;&#x202f;; utilisez l’un de %3</translation>
+    </message>
+    <message>
+        <source>--service counts words by Quillbay&apos;s own rules; leave out the other rules</source>
+        <translation>--service compte les mots selon les règles de Quillbay&#x202f;; retirez les autres règles</translation>
     </message>
 </context>
 <context>

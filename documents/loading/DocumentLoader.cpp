@@ -48,11 +48,18 @@ Result<AttributedString, DocumentError> loadDocument(int descriptor, const ReadO
     return readContents(readDescriptor(descriptor), {}, options);
 }
 
-Result<AttributedString, DocumentError> readBytes(
-    QByteArrayView bytes, const QByteArray &path, const ReadOptions &options)
+Result<DocumentKind, DocumentError> kindToReadAs(
+    const QByteArray &path, QByteArrayView bytes, const ReadOptions &options)
 {
     const Result<DocumentKind, DocumentError> kind =
         options.asText ? DocumentKind::PlainText : kindOfDocument(path, bytes);
+    return kind && kind.value() == DocumentKind::PlainText ? options.plainTextAs : kind;
+}
+
+Result<AttributedString, DocumentError> readBytes(
+    QByteArrayView bytes, const QByteArray &path, const ReadOptions &options)
+{
+    const Result<DocumentKind, DocumentError> kind = kindToReadAs(path, bytes, options);
     if (!kind)
         return kind.error();
     return kind.value() == DocumentKind::Pdf ? readPdfFile(bytes, options)

@@ -18,3 +18,7 @@ Result<AttributedString, DocumentError> loadDocument(int descriptor, const ReadO
 /// document without a name.
 Result<AttributedString, DocumentError> readBytes(
     QByteArrayView bytes, const QByteArray &path = {}, const ReadOptions &options = {});
+
+/// The kind as which readBytes() reads a document.
+Result<DocumentKind, DocumentError> kindToReadAs(
+    const QByteArray &path, QByteArrayView bytes, const ReadOptions &options);

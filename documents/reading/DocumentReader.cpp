@@ -5,6 +5,8 @@
 #include "documents/docx/DocxReader.h"
 #include "documents/epub/EpubReader.h"
 #include "documents/html/HtmlReader.h"
+#include "documents/markup/LatexReader.h"
+#include "documents/markup/MarkdownReader.h"
 #include "documents/odt/OdtReader.h"
 #include "documents/rtf/RtfReader.h"
 #include "documents/rtfd/RtfdReader.h"
@@ -60,6 +62,12 @@ constexpr std::array readers{
     Reader{DocumentKind::OpenDocument,
         [](QByteArrayView bytes, const ReadOptions &) { return readOpenDocument(bytes); }},
     Reader{DocumentKind::Epub, [](QByteArrayView bytes, const ReadOptions &) { return readEpub(bytes); }},
+    Reader{DocumentKind::Markdown,
+        [](QByteArrayView bytes, const ReadOptions &options) {
+            return readMarkdown(bytes, options.charset);
+        }},
+    Reader{DocumentKind::Latex,
+        [](QByteArrayView bytes, const ReadOptions &options) { return readLatex(bytes, options.charset); }},
 };
 static_assert(readers.size() == static_cast<size_t>(lastDocumentKind));
 

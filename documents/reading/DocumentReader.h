@@ -23,6 +23,9 @@ struct ReadOptions {
     bool readsPdf = false;
     /// Where the kind of a document is found out: it is plain text, whatever its bytes say.
     bool asText = false;
+    /// Where the kind of a document is found out to be plain text: the kind to read it as instead, Markdown
+    /// or Latex. Without it, marks are text.
+    DocumentKind plainTextAs = DocumentKind::PlainText;
     /// For SandboxedReader: ends the reading at once, which then fails as Cancelled.
     std::stop_token stop = {};
 };

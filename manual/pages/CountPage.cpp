@@ -7,9 +7,10 @@ const ManualPage &countPage()
         .program = "quillbay",
         .command = "count",
         .summary = QT_TRANSLATE_NOOP("Manual", "print the counts of files or of standard input"),
-        .usages =
-            {"[--json | --tsv | --explain-rules] [--also COUNTS] [--service] [--as-text] [--files-from LIST] "
-             "[FILE…]"},
+        .usages = {"[--json | --tsv | --explain-rules] [--also COUNTS] [--service] [--as-text] [--markdown] "
+                   "[--latex] "
+                   "[--count-as PROGRAM] [--hyphenated COUNT] [--urls COUNT] [--separators CHARACTERS] "
+                   "[--files-from LIST] [FILE…]"},
         .description =
             {QT_TRANSLATE_NOOP("Manual",
                  "Counts the words, characters, sentences, lines on your paper, hard line breaks, paragraphs "
@@ -33,6 +34,21 @@ const ManualPage &countPage()
                     "also print these counts, separated by commas: pages, standard-pages, reading-time, "
                     "speaking-time, graphemes; none prints none of them; without this option, those that "
                     "your preferences show")},
+            {.name = "count-as",
+                .placeholder = "PROGRAM",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "count words and characters as PROGRAM does: libreoffice (LibreOffice Writer), "
+                    "word-processor (words between white space) or quillbay")},
+            {.name = "hyphenated",
+                .placeholder = "COUNT",
+                .text =
+                    QT_TRANSLATE_NOOP("Manual", "count a hyphenated word as one, or its parts as several")},
+            {.name = "urls",
+                .placeholder = "COUNT",
+                .text = QT_TRANSLATE_NOOP("Manual", "count each web address as one word, or none")},
+            {.name = "separators",
+                .placeholder = "CHARACTERS",
+                .text = QT_TRANSLATE_NOOP("Manual", "each of these characters ends a word, too")},
             {.name = "files-from",
                 .placeholder = "LIST",
                 .completion = ShellCompletion::Files,
@@ -53,7 +69,7 @@ const ManualPage &countPage()
                 .text = QT_TRANSLATE_NOOP("Manual",
                     "count every file as plain text, whatever it is: a web page with its markup, a "
                     "picture with its bytes")},
-            helpOption()},
+            markdownOption(), latexOption(), helpOption()},
         .notes = {QT_TRANSLATE_NOOP("Manual",
                       "For several files, the table ends with a row of totals; the other two formats have no "
                       "such "
@@ -80,6 +96,8 @@ const ManualPage &countPage()
                     "Manual", "count all OpenDocument texts below this folder, whatever their names are")},
             {"quillbay count --also pages,reading-time thesis.odt",
                 QT_TRANSLATE_NOOP("Manual", "print the pages and the time to read it, too")},
+            {"quillbay count --markdown *.md",
+                QT_TRANSLATE_NOOP("Manual", "count the words that a reader of the pages sees")},
             {"quillbay count --json story.txt | jq .words",
                 QT_TRANSLATE_NOOP("Manual", "print nothing but the number of words")}},
         .seeAlso = {"quillbay-explain(1)", "quillbay-preferences(1)", "wc(1)"},

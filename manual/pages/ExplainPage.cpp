@@ -8,7 +8,8 @@ const ManualPage &explainPage()
         .command = "explain",
         .summary = QT_TRANSLATE_NOOP("Manual", "print what counts in files, what does not, and why"),
         .usages = {"[--words] [--sentences] [--paragraphs] [--indents] [--lines] [--hard-line-breaks] "
-                   "[--characters] [--all-characters] [--not-counted] [--json] [--as-text] [FILE…]"},
+                   "[--characters] [--all-characters] [--not-counted] [--json] [--as-text] [--markdown] "
+                   "[--latex] [FILE…]"},
         .description =
             {QT_TRANSLATE_NOOP("Manual",
                  "Prints the counts of each FILE as 'quillbay count' does, and why they are what they are. "
@@ -42,7 +43,7 @@ const ManualPage &explainPage()
                     "count --json' follows")},
             {.name = "as-text",
                 .text = QT_TRANSLATE_NOOP("Manual", "read every file as plain text, whatever it is")},
-            helpOption()},
+            markdownOption(), latexOption(), helpOption()},
         .notes = {QT_TRANSLATE_NOOP("Manual",
             "'quillbay count --explain-rules' prints the rules themselves: your preferences and your "
             "locale.")},

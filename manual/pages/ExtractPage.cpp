@@ -7,7 +7,7 @@ const ManualPage &extractPage()
         .program = "quillbay",
         .command = "extract",
         .summary = QT_TRANSLATE_NOOP("Manual", "print the text of files, as it is counted"),
-        .usages = {"[--json] [--as-text] [FILE…]"},
+        .usages = {"[--json] [--as-text] [--markdown] [--latex] [FILE…]"},
         .description =
             {QT_TRANSLATE_NOOP("Manual",
                  "Prints the text of each FILE that 'quillbay count' counts, in UTF-8: without markup, "
@@ -27,7 +27,7 @@ const ManualPage &extractPage()
                      "UTF-8, and its counts, which add up to those of 'quillbay count'")},
                 {.name = "as-text",
                     .text = QT_TRANSLATE_NOOP("Manual", "read every file as plain text, whatever it is")},
-                helpOption()},
+                markdownOption(), latexOption(), helpOption()},
         .exitStatuses = {{0, QT_TRANSLATE_NOOP("Manual", "all files were printed")},
             {1, QT_TRANSLATE_NOOP("Manual", "a file could not be printed")}, {2, wrongUsageMeaning()}},
         .examples = {{"quillbay extract thesis.docx | wc --words",

@@ -37,6 +37,8 @@ QByteArray flatDocument(const LibreOffice::Document &document)
 /// The target of a conversion.
 QString targetOf(const QString &extension)
 {
+    if (extension == QStringLiteral("xml")) // it does not write over the source, which is an .fodt
+        return QStringLiteral("xml:OpenDocument Text Flat XML");
     return extension == QStringLiteral("txt") ? QStringLiteral("txt:Text (encoded):UTF8,LF") : extension;
 }
 

@@ -19,9 +19,9 @@ struct Document {
     QByteArray masterStyles = {}; ///< content of office:master-styles
 };
 
-/// The document in another format; empty if the conversion fails. extension: "odt", "fodt", "docx", "rtf",
-/// "html", "pdf" or "txt" (UTF-8 with a byte order mark).  folder: for temporary files and the settings of
-/// LibreOffice.
+/// The document in another format; empty if the conversion fails. extension: "odt", "xml" (a flat
+/// OpenDocument text), "docx", "rtf", "html", "pdf" or "txt" (UTF-8 with a byte order mark). folder: for
+/// temporary files and the settings of LibreOffice.
 QByteArray convert(const Document &document, const QString &extension, const QString &folder);
 
 /// The text export, without its byte order mark.
