@@ -50,14 +50,14 @@ FurtherRulesBox::FurtherRulesBox(RulesEditor &editor)
 {
     auto *const note = new QLabel(tr("Shown in the table of documents and in the terminal only."));
     note->setWordWrap(true);
-    m_rows->addWidget(note, 0, 0, 1, 3);
-    m_rows->setColumnStretch(2, 1);
+    m_rows->addWidget(note, 0, 0, 1, 4);
+    m_rows->setColumnStretch(3, 1);
     addSwitch(tr("Pages of your paper"), Preference::ShowPages, "pagesCheckBox");
-    addSwitch(tr("Standard pages of"), Preference::ShowStandardPages, "standardPagesCheckBox");
+    addSwitch(tr("Standard pages"), Preference::ShowStandardPages, "standardPagesCheckBox");
     m_standardPages = addStandardPages();
-    addSwitch(tr("Reading time at"), Preference::ShowReadingTime, "readingTimeCheckBox");
+    addSwitch(tr("Reading time"), Preference::ShowReadingTime, "readingTimeCheckBox");
     m_readingSpeed = addSpeed(Preference::ReadingSpeed, "readingSpeedSpinBox", tr("Reading Speed"));
-    addSwitch(tr("Speaking time at"), Preference::ShowSpeakingTime, "speakingTimeCheckBox");
+    addSwitch(tr("Speaking time"), Preference::ShowSpeakingTime, "speakingTimeCheckBox");
     m_speakingSpeed = addSpeed(Preference::SpeakingSpeed, "speakingSpeedSpinBox", tr("Speaking Speed"));
     addSwitch(tr("Characters as a reader sees them"), Preference::ShowGraphemes, "graphemesCheckBox")
         ->setToolTip(
@@ -75,6 +75,14 @@ QCheckBox *FurtherRulesBox::addSwitch(const QString &text, Preference preference
 }
 
 // Beside the switch that was added last.
+void FurtherRulesBox::addField(const QString &name, QWidget &field)
+{
+    auto *const label = new QLabel(name);
+    label->setBuddy(&field);
+    m_rows->addWidget(label, m_rows->rowCount() - 1, 1, Qt::AlignRight | Qt::AlignVCenter);
+    m_rows->addWidget(&field, m_rows->rowCount() - 1, 2);
+}
+
 QSpinBox *FurtherRulesBox::addSpeed(Preference preference, const char *name, const QString &description)
 {
     auto *const spinBox = new QSpinBox;
@@ -87,7 +95,7 @@ QSpinBox *FurtherRulesBox::addSpeed(Preference preference, const char *name, con
     connect(spinBox, &QSpinBox::valueChanged, this, [this, preference, description](int number) {
         m_editor.change({{preference, qint64{number}}}, description);
     });
-    m_rows->addWidget(spinBox, m_rows->rowCount() - 1, 1);
+    addField(tr("Speed:"), *spinBox);
     return spinBox;
 }
 
@@ -104,7 +112,7 @@ QComboBox *FurtherRulesBox::addStandardPages()
     const auto change = [this, comboBox] { changeStandardPage(comboBox->currentText()); };
     connect(comboBox, &QComboBox::activated, this, change);
     connect(comboBox->lineEdit(), &QLineEdit::editingFinished, this, change);
-    m_rows->addWidget(comboBox, m_rows->rowCount() - 1, 1);
+    addField(tr("Size:"), *comboBox);
     return comboBox;
 }
 

@@ -26,6 +26,7 @@ public:
 
 private:
     QCheckBox *addSwitch(const QString &text, Preference preference, const char *name);
+    void addField(const QString &name, QWidget &field);
     QSpinBox *addSpeed(Preference preference, const char *name, const QString &description);
     QComboBox *addStandardPages();
     void changeStandardPage(const QString &text);

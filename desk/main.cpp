@@ -8,6 +8,7 @@
 #include "platform/display/Displays.h"
 #include "platform/session_bus/ActivationToken.h"
 #include "platform/session_bus/UniqueApplication.h"
+#include "platform/system/DispatchQueue.h"
 #include "platform/system/FileURL.h"
 #include "platform/system/Processes.h"
 #include "platform/system/StandardOutput.h"
@@ -97,11 +98,8 @@ int showWindow(UniqueApplication &unique, const UniqueApplication::Request &requ
     return QApplication::exec();
 }
 
-} // namespace
-
-int main(int argumentCount, char **arguments)
+int run(int argumentCount, char **arguments)
 {
-    keepMemoryPrivate();
     const std::string_view word = argumentCount > 1 ? arguments[1] : "";
     if (word == "--help" || word == "-h")
         return printHelp(deskPage());
@@ -133,4 +131,12 @@ int main(int argumentCount, char **arguments)
         return 0;
     const DesktopAppearance appearance;
     return showWindow(unique, request, role == UniqueApplication::Role::First);
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    keepMemoryPrivate();
+    exitDespiteQueues(run(argumentCount, arguments));
 }

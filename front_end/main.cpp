@@ -4,6 +4,7 @@
 #include "front_end/ProviderApplication.h"
 #include "platform/display/Displays.h"
 #include "platform/logging/LogChannel.h"
+#include "platform/system/DispatchQueue.h"
 #include "platform/system/Processes.h"
 #include "platform/views/widgets/ApplicationActivitySource.h"
 #include "platform/views/widgets/ClipboardHandOver.h"
@@ -65,12 +66,8 @@ void choosePlatform()
                                  "install the package xwayland");
 }
 
-} // namespace
-
-int main(int argumentCount, char **arguments)
+int serve(int argumentCount, char **arguments)
 {
-    keepMemoryPrivate();
-    limitKeptMemory();
     if (argumentCount > 1) {
         std::fputs(
             "quillbay-service-provider: takes no arguments; run quillbay instead, for which the session "
@@ -111,4 +108,13 @@ int main(int argumentCount, char **arguments)
         QCoreApplication::applicationDirPath() + QStringLiteral("/quillbay-clipboard-keeper"));
     isRunning = false;
     return status;
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    keepMemoryPrivate();
+    limitKeptMemory();
+    exitDespiteQueues(serve(argumentCount, arguments));
 }

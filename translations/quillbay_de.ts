@@ -837,20 +837,20 @@
         <translation>Seiten des eigenen Papiers</translation>
     </message>
     <message>
-        <source>Standard pages of</source>
-        <translation>Normseiten zu</translation>
+        <source>Standard pages</source>
+        <translation>Normseiten</translation>
     </message>
     <message>
-        <source>Reading time at</source>
-        <translation>Lesezeit bei</translation>
+        <source>Reading time</source>
+        <translation>Lesezeit</translation>
     </message>
     <message>
         <source>Reading Speed</source>
         <translation>Lesegeschwindigkeit</translation>
     </message>
     <message>
-        <source>Speaking time at</source>
-        <translation>Sprechzeit bei</translation>
+        <source>Speaking time</source>
+        <translation>Sprechzeit</translation>
     </message>
     <message>
         <source>Speaking Speed</source>
@@ -875,6 +875,14 @@
     <message>
         <source>Choose a size, or type your own. White space counts as characters.</source>
         <translation>Eine Größe wählen oder eine eigene eingeben. Leerraum zählt zu den Zeichen.</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Geschwindigkeit:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Größe:</translation>
     </message>
 </context>
 <context>

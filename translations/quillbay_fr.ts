@@ -837,20 +837,20 @@
         <translation>Pages de votre papier</translation>
     </message>
     <message>
-        <source>Standard pages of</source>
-        <translation>Pages types de</translation>
+        <source>Standard pages</source>
+        <translation>Pages types</translation>
     </message>
     <message>
-        <source>Reading time at</source>
-        <translation>Temps de lecture à</translation>
+        <source>Reading time</source>
+        <translation>Temps de lecture</translation>
     </message>
     <message>
         <source>Reading Speed</source>
         <translation>Vitesse de lecture</translation>
     </message>
     <message>
-        <source>Speaking time at</source>
-        <translation>Temps de parole à</translation>
+        <source>Speaking time</source>
+        <translation>Temps de parole</translation>
     </message>
     <message>
         <source>Speaking Speed</source>
@@ -875,6 +875,14 @@
     <message>
         <source>Choose a size, or type your own. White space counts as characters.</source>
         <translation>Choisissez une taille ou saisissez la vôtre. Les blancs comptent parmi les caractères.</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Vitesse :</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/DispatchQueue.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <deque>
 #include <mutex>
 #include <system_error>
@@ -56,4 +58,10 @@ void DispatchQueue::runBlocks(Work &work)
         lock.lock();
     }
     work.isRunning = false;
+}
+
+void exitDespiteQueues(int status)
+{
+    std::fflush(nullptr);
+    std::quick_exit(status);
 }

@@ -9,7 +9,7 @@
 #include <memory>
 
 /// The thread starts with the first block and ends when no block is left. Blocks are destroyed on it. The
-/// process does not wait for blocks when it exits.
+/// process does not wait for blocks when it exits; exitDespiteQueues() keeps what they use until then.
 class DispatchQueue {
 public:
     /// label: the name of the thread; debuggers show its first 15 bytes.
@@ -25,3 +25,8 @@ private:
 
     std::shared_ptr<Work> m_work;
 };
+
+/// Ends the process without destroying static objects, which the threads of queues may still use. main()
+/// calls it in place of returning, when its own objects are gone; functions of std::at_quick_exit() are
+/// called.
+[[noreturn]] void exitDespiteQueues(int status);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/harness/ChildProcess.h"
 
+#include "platform/system/Sanitizers.h"
 #include "tests/harness/TestHome.h"
 
 #include <QDir>
@@ -17,8 +18,9 @@
 namespace {
 
 constexpr uid_t nobody = 65534;
-constexpr int exitTimeout = 60'000; // milliseconds
-constexpr int lineTimeout = 20'000;
+constexpr int patience = isSanitized ? 4 : 1;
+constexpr int exitTimeout = patience * 60'000; // milliseconds
+constexpr int lineTimeout = patience * 20'000;
 
 /// QProcess accepts arguments only as text.
 bool isText(const QByteArray &argument)

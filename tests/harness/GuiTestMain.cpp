@@ -3,6 +3,7 @@
 // display.
 #include "tests/harness/Display.h"
 #include "tests/harness/SessionBus.h"
+#include "tests/harness/TestExit.h"
 #include "tests/harness/TestHome.h"
 
 #include <QApplication>
@@ -36,5 +37,5 @@ int main(int argumentCount, char **arguments)
     const int result = runTests(argumentCount, arguments);
     TestDisplay::stop();
     SessionBus::stop();
-    return result;
+    exitTest(result);
 }

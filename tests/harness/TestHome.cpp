@@ -32,6 +32,7 @@ void makeFolder(const QString &path, mode_t mode)
 TestHome &TestHome::instance()
 {
     static TestHome home;
+    [[maybe_unused]] static const int isRegistered = std::at_quick_exit([] { instance().remove(); });
     return home;
 }
 
@@ -52,6 +53,11 @@ TestHome::TestHome()
 }
 
 TestHome::~TestHome()
+{
+    remove();
+}
+
+void TestHome::remove() const
 {
     // QDir leaves files whose names are not UTF-8.
     std::error_code ignored;

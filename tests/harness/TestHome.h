@@ -31,6 +31,7 @@ public:
     [[nodiscard]] static QString busAddress(const QString &path);
 
 private:
+    void remove() const;
     void makeFolders() const;
     void setEnvironment() const;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/harness/WaitUntil.h"
 
+#include "platform/system/Sanitizers.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -23,7 +25,7 @@ bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds
     QElapsedTimer turn;
     turn.start();
     while (!condition()) {
-        if (waited >= timeout)
+        if (waited >= timeout * (isSanitized ? 4 : 1))
             return false;
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         waited += std::min(std::chrono::milliseconds(turn.restart()), maxCountedTurn);

@@ -17,6 +17,12 @@
 
 namespace {
 
+void crash()
+{
+    ::signal(SIGSEGV, SIG_DFL); // a sanitizer would report it
+    ::raise(SIGSEGV);
+}
+
 std::span<char> mapResult()
 {
     struct stat status = {};
@@ -52,7 +58,7 @@ int main(int, char **arguments)
     const auto length = *writeFlatText(AttributedString(QStringLiteral("text")), result);
     const auto unmap = [&] { ::munmap(result.data(), result.size()); };
     if (name == "crashes")
-        ::raise(SIGSEGV);
+        crash();
     if (name == "aborts")
         ::raise(SIGABRT);
     if (name == "exits")
@@ -72,7 +78,7 @@ int main(int, char **arguments)
     if (name == "writes-garbage")
         std::memset(result.data(), 'x', static_cast<size_t>(length));
     if (name == "grows-the-memory" && ::ftruncate(ReaderMessages::resultMemory, 1'000'000'000'000) != 0)
-        ::raise(SIGSEGV);
+        crash();
     unmap();
     if (name == "claims-too-much")
         reply(UINT64_MAX);
