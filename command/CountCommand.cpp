@@ -102,6 +102,7 @@ private:
     TextCounter m_textCounter; ///< of the words by other rules
     std::optional<ServiceCounter> m_service; ///< created when first needed
     std::mutex m_largeDocument;
+    bool m_mayUseThreads = false; ///< for parts of a long text
     bool m_hasFailed = false;
 };
 
@@ -135,6 +136,7 @@ void CountCommand::countAll(const QByteArrayList &names)
         CountReport::make(m_arguments.format, size, columnsFor(m_further), m_further);
     const int threads = m_arguments.wantsService ? 1 : threadsFor(names, size);
     const std::unique_ptr<ParallelCount> parallel = threads > 1 ? countInParallel(names, threads) : nullptr;
+    m_mayUseThreads = !parallel;
     FileCounts total;
     bool hasRows = false;
     ProgressLine progress(names.size());
@@ -243,6 +245,8 @@ Result<FileCounts, QString> CountCommand::countHere(const QByteArray &name, Prog
         return causeText(text.error());
     progress.startCounting(text.value().length());
     m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
+    if (m_mayUseThreads && text.value().length() >= PieceCounters::minLengthForThreads)
+        m_model.startThreads(availableProcessors());
     m_model.setAttributedStringToCount(text.value());
     MeasuringSurface &surface = MeasuringSurface::shared();
     FileCounts counts{m_model.statsRepresentation(),

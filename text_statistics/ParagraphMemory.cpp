@@ -8,6 +8,7 @@
 #include <bit>
 #include <memory>
 #include <span>
+#include <unordered_map>
 
 namespace {
 
@@ -63,11 +64,38 @@ qsizetype endOfPiece(QStringView text, qsizetype start)
 } // namespace
 
 QBYWordCounterStats ParagraphMemory::count(
-    const AttributedString &text, const TextRules &rules, double columnWidth, const CountPiece &countPiece)
+    const AttributedString &text, const TextRules &rules, double columnWidth, const CountPieces &countPieces)
 {
-    const ContentHash rulesHash = hashOf(rules, columnWidth);
-    const std::vector<quint64> styleNumbers = styleNumbersOf(text);
     QBYWordCounterStats sum;
+    std::vector<CountedPiece> pieces; // that are not remembered
+    std::vector<ContentHash> hashes; // of these
+    std::vector<size_t> uses; // which of them the text has, once or more often
+    std::unordered_map<ContentHash, size_t> indices;
+    forEachPiece(
+        text, hashOf(rules, columnWidth), [&](qsizetype start, qsizetype end, const ContentHash &hash) {
+            if (const QBYWordCounterStats *const known = m_counts.object(hash)) {
+                sum += *known;
+                return;
+            }
+            const auto [index, isNew] = indices.try_emplace(hash, pieces.size());
+            if (isNew) {
+                pieces.push_back({start, end});
+                hashes.push_back(hash);
+            }
+            uses.push_back(index->second);
+        });
+    countPieces(pieces);
+    for (const size_t use : uses)
+        sum += pieces[use].counts;
+    for (size_t i = 0; i < pieces.size(); ++i)
+        m_counts.insert(hashes[i], new QBYWordCounterStats(pieces[i].counts));
+    return sum;
+}
+
+template <typename Take>
+void ParagraphMemory::forEachPiece(const AttributedString &text, const ContentHash &rulesHash, Take &&take)
+{
+    const std::vector<quint64> styleNumbers = styleNumbersOf(text);
     std::vector<quint64> styles; // of one piece: where each begins, and its number
     qsizetype run = 0;
     for (qsizetype start = 0, end = 0; start < text.length(); start = end) {
@@ -82,17 +110,10 @@ QBYWordCounterStats ParagraphMemory::count(
         }
         if (run + 1 < text.runCount() && text.run(run + 1).start == end)
             ++run;
-        const ContentHash hash = contentHash(bytesOf(QStringView(text.string()).sliced(start, end - start)),
-            contentHash(bytesOf(styles), rulesHash));
-        if (const QBYWordCounterStats *const known = m_counts.object(hash)) {
-            sum += *known;
-            continue;
-        }
-        const QBYWordCounterStats counts = countPiece(start, end);
-        m_counts.insert(hash, new QBYWordCounterStats(counts));
-        sum += counts;
+        take(start, end,
+            contentHash(bytesOf(QStringView(text.string()).sliced(start, end - start)),
+                contentHash(bytesOf(styles), rulesHash)));
     }
-    return sum;
 }
 
 quint64 ParagraphMemory::styleNumberOf(TextAttributes attributes)

@@ -7,13 +7,14 @@
 
 #include "platform/styled_text/AttributedString.h"
 #include "platform/system/ContentHash.h"
+#include "text_statistics/CountedPiece.h"
 #include "text_statistics/CountingRules.h"
-#include "text_statistics/QBYWordCounterStats.h"
 
 #include <QCache>
 #include <QHash>
 
 #include <functional>
+#include <span>
 #include <vector>
 
 /// Remembers pieces of some paragraphs each. A piece ends where the content of a paragraph says so, wherever
@@ -28,15 +29,18 @@ public:
     /// Bytes of all styles together, about. Beyond that, everything is forgotten.
     static constexpr qsizetype maxStyleBytes = 1 << 20;
 
-    /// Counts the paragraphs from start to end (UTF-16 code units).
-    using CountPiece = std::function<QBYWordCounterStats(qsizetype start, qsizetype end)>;
+    /// Fills in the counts of all pieces.
+    using CountPieces = std::function<void(std::span<CountedPiece> pieces)>;
 
-    /// The counts of the text: the sum over its pieces, of which countPiece is called for those that are not
-    /// remembered. columnWidth: points.
+    /// The counts of the text: the sum over its pieces. countPieces: called with those that are not
+    /// remembered, equal ones once. columnWidth: points.
     QBYWordCounterStats count(const AttributedString &text, const TextRules &rules, double columnWidth,
-        const CountPiece &countPiece);
+        const CountPieces &countPieces);
 
 private:
+    /// Calls take(start, end, hash) for every piece.
+    template <typename Take>
+    void forEachPiece(const AttributedString &text, const ContentHash &rulesHash, Take &&take);
     [[nodiscard]] quint64 styleNumberOf(TextAttributes attributes);
     std::vector<quint64> styleNumbersOf(const AttributedString &text);
 

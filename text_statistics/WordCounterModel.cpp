@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text_statistics/WordCounterModel.h"
 
+#include "platform/segmentation/Paragraphs.h"
 #include "text_statistics/MeasuringSurface.h"
 #include "text_statistics/WordCounterStatStringFormatter.h"
 
@@ -48,6 +49,10 @@ void WordCounterModel::countAttributedString()
         m_stats = countNewParagraphs(text, rules);
         return;
     }
+    if (m_pieces.hasThreads() && text.length() >= PieceCounters::minLengthForThreads) {
+        m_stats = countOnThreads(text, rules);
+        return;
+    }
     const quint64 lines = MeasuringSurface::shared().numberOfLines(text, rules.page, halfOfProgress(0));
     m_stats = m_counter.count(text.string(), rules.text, halfOfProgress(text.length()));
     m_stats.numberOfLines = lines;
@@ -56,17 +61,44 @@ void WordCounterModel::countAttributedString()
 QBYWordCounterStats WordCounterModel::countNewParagraphs(
     const AttributedString &text, const CountingRules &rules)
 {
-    MeasuringSurface &surface = MeasuringSurface::shared();
-    const double columnWidth = surface.columnWidthOn(rules.page);
-    const auto countPiece = [&](qsizetype start, qsizetype end) {
-        const QStringView piece = QStringView(text.string()).sliced(start, end - start);
-        QBYWordCounterStats counts = m_counter.count(piece, rules.text);
-        counts.numberOfLines = surface.engine().countLines(text, columnWidth, start, end);
-        if (m_progress)
-            m_progress(end);
-        return counts;
-    };
-    return m_memory->count(text, rules.text, columnWidth, countPiece);
+    const double columnWidth = MeasuringSurface::shared().columnWidthOn(rules.page);
+    return m_memory->count(text, rules.text, columnWidth,
+        [&](std::span<CountedPiece> pieces) { countPieces(text, rules, columnWidth, pieces); });
+}
+
+QBYWordCounterStats WordCounterModel::countOnThreads(const AttributedString &text, const CountingRules &rules)
+{
+    constexpr qsizetype minPieceLength = 65'536; // UTF-16 code units
+    std::vector<CountedPiece> pieces;
+    for (qsizetype start = 0, end = 0; start < text.length(); start = end) {
+        while (end < text.length() && end - start < minPieceLength)
+            end = paragraphAt(text.string(), end).end();
+        pieces.push_back({start, end});
+    }
+    countPieces(text, rules, MeasuringSurface::shared().columnWidthOn(rules.page), pieces);
+    QBYWordCounterStats sum;
+    for (const CountedPiece &piece : pieces)
+        sum += piece.counts;
+    return sum;
+}
+
+void WordCounterModel::countPieces(const AttributedString &text, const CountingRules &rules,
+    double columnWidth, std::span<CountedPiece> pieces)
+{
+    // Only these are counted; the others are known.
+    qsizetype known = text.length();
+    for (const CountedPiece &piece : pieces)
+        known -= piece.end - piece.start;
+    TextCounter::Progress progress;
+    if (m_progress)
+        progress = [this, known](qsizetype counted) { m_progress(known + counted); };
+    m_pieces.count(
+        {text, columnWidth}, rules.text, pieces, {m_counter, MeasuringSurface::shared().engine()}, progress);
+}
+
+void WordCounterModel::startThreads(int threads)
+{
+    m_pieces.startThreads(threads, MeasuringSurface::shared().engine().fonts());
 }
 
 // Layout and counting are two passes over the text; each reports half of the progress.

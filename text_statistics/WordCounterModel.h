@@ -6,6 +6,7 @@
 
 #include "platform/styled_text/AttributedString.h"
 #include "text_statistics/ParagraphMemory.h"
+#include "text_statistics/PieceCounters.h"
 #include "text_statistics/QBYDocxMetaData.h"
 #include "text_statistics/QBYWordCounterStats.h"
 #include "text_statistics/TextCounter.h"
@@ -15,6 +16,7 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <span>
 
 /// Empty at first: counts 0, strings null. Every update replaces all eight strings.
 class WordCounterModel {
@@ -69,6 +71,10 @@ public:
     /// From now on the counts of paragraphs are remembered: a text that is counted again after an edit costs
     /// what has changed.
     void rememberParagraphs() { m_memory.emplace(); }
+
+    /// Starts threads that help to count long texts: this many with the caller's, up to the maximum of
+    /// PieceCounters. They wait until they are needed.
+    void startThreads(int threads);
 
     // The counts. The setters only store.
     [[nodiscard]] quint64 numberOfWords() const { return m_stats.numberOfWords; }
@@ -149,6 +155,10 @@ private:
     [[nodiscard]] QBYWordCounterStats countNewParagraphs(
         const AttributedString &text, const CountingRules &rules);
     void copyDocXMetaData();
+    [[nodiscard]] QBYWordCounterStats countOnThreads(
+        const AttributedString &text, const CountingRules &rules);
+    void countPieces(const AttributedString &text, const CountingRules &rules, double columnWidth,
+        std::span<CountedPiece> pieces);
     [[nodiscard]] TextCounter::Progress halfOfProgress(qsizetype done) const;
     void store(Statistic statistic, const QString &text)
     {
@@ -157,6 +167,7 @@ private:
 
     std::function<CountingRules()> m_rules;
     TextCounter m_counter;
+    PieceCounters m_pieces;
     std::optional<ParagraphMemory> m_memory;
     TextCounter::Progress m_progress;
     std::optional<AttributedString> m_attributedStringToCount;

@@ -4,6 +4,7 @@
 #include "documents/reading/DocumentReader.h"
 #include "platform/locale/CurrentLocale.h"
 #include "platform/system/PacketSocket.h"
+#include "platform/system/Processors.h"
 #include "platform/system/SealedMemory.h"
 #include "text_statistics/MeasuringSurface.h"
 
@@ -37,6 +38,7 @@ CountingRules rulesFrom(const RulesSnapshot &snapshot)
 CountingWorker::CountingWorker()
     : m_rules(rulesFrom(RulesSnapshot()))
     , m_model([this] { return m_rules; })
+    , m_processors(availableProcessors())
 {
     m_model.rememberParagraphs();
 }
@@ -68,6 +70,8 @@ void CountingWorker::loadFonts(FontAccess access)
     m_model.setAttributedStringToCount(AttributedString(QStringLiteral("One. Two.")));
     if (access == FontAccess::Once)
         MeasuringSurface::shared().engine().loadAllFonts();
+    else
+        m_model.startThreads(m_processors); // which must open fonts of their own later
 }
 
 WorkerReply CountingWorker::replyTo(const WorkerRequest &request, int descriptor)

@@ -32,5 +32,6 @@ private:
 
     CountingRules m_rules;
     WordCounterModel m_model;
+    const int m_processors; ///< found out before the sandbox
     bool m_isConfined = false;
 };

@@ -38,5 +38,6 @@ enum class FontAccess {
 /// The sandbox of a process that also reads fonts. fonts: the folders and files that fonts are read from, and
 /// the configuration of the fonts; nothing else may be opened. loadFonts: called in a part of the sandbox,
 /// where the fonts can be looked up; opens them all where it is told so, which is the case without Landlock.
+/// It may start threads, which are confined, too, if all of them are running when it returns.
 [[nodiscard]] SandboxReport enterDocumentSandbox(
     const QByteArrayList &fonts, const std::function<void(FontAccess)> &loadFonts);

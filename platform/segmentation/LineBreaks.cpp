@@ -39,12 +39,6 @@ bool isEnglish(char16_t unit, int kinds)
 
 } // namespace
 
-bool isForcedLineBreak(char16_t unit)
-{
-    return unit == u'\u000B' || unit == u'\u000C' || unit == u'\u0085' || unit == u'\u2028'
-        || unit == u'\u2029';
-}
-
 void LineBreaks::setParagraph(QStringView text)
 {
     m_text = text;

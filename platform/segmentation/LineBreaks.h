@@ -12,7 +12,11 @@
 
 /// Whether a line always ends after this character (classes BK and NL, LB4 and LB5). Carriage return and line
 /// feed also end lines, but never occur inside a paragraph.
-bool isForcedLineBreak(char16_t unit);
+inline bool isForcedLineBreak(char16_t unit)
+{
+    return unit == u'\u000B' || unit == u'\u000C' || unit == u'\u0085' || unit == u'\u2028'
+        || unit == u'\u2029';
+}
 
 class LineBreaks {
 public:

@@ -87,10 +87,26 @@ bool followsCasedLetter(QStringView text, qsizetype sentence, qsizetype position
     return false;
 }
 
+// A mark, perhaps a space, and a capital letter or the end of the paragraph: the end of nearly every English
+// sentence, of which the rules need not be asked. 0 for anything else.
+qsizetype simpleEndBehind(QStringView text, qsizetype mark)
+{
+    const char16_t *const units = text.utf16();
+    if ((units[mark] != u'.' && units[mark] != u'?' && units[mark] != u'!') || mark + 2 >= text.size())
+        return 0;
+    if (units[mark + 1] == u'\n')
+        return mark + 1;
+    const char16_t after = units[mark + 2];
+    const bool isCapital = after >= u'A' && after <= u'Z';
+    return units[mark + 1] == u' ' && isCapital ? mark + 2 : 0;
+}
+
 } // namespace
 
 SentenceStep sentenceStepAt(QStringView text, qsizetype sentence, qsizetype terminator)
 {
+    if (const qsizetype end = simpleEndBehind(text, terminator); end > 0)
+        return {true, end};
     Cursor cursor(text, terminator);
     const SentenceClass kind = cursor.value();
     cursor.advance();

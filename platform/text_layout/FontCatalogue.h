@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // FontCatalogue lists the usable fonts of the machine, as fontconfig finds them: scalable SFNT fonts, with
 // their properties and characters. Choosing and loading fonts is left to FontLibrary.
-// Thread: one at a time.  Owner: FontLibrary.
+// Thread: any.  Owner: the font libraries that use it.
 #pragma once
 
 #include "platform/styled_text/TextAttributes.h"

@@ -78,7 +78,7 @@ FontFace *FontChain::primary()
 bool FontChain::isPrimaryForAscii()
 {
     if (!m_isPrimaryForAscii) {
-        const CatalogueFont &font = m_library.m_catalogue.fonts()[m_named.front()];
+        const CatalogueFont &font = m_library.m_catalogue->fonts()[m_named.front()];
         m_isPrimaryForAscii = true;
         for (char32_t character = U' '; character <= U'~'; ++character)
             *m_isPrimaryForAscii = *m_isPrimaryForAscii && font.covers(character);
@@ -92,7 +92,7 @@ const std::vector<quint16> &FontChain::fallbacks()
 {
     if (!m_fallbacks.empty())
         return m_fallbacks;
-    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue->fonts();
     m_fallbacks.resize(fonts.size());
     for (size_t i = 0; i < fonts.size(); ++i)
         m_fallbacks[i] = static_cast<quint16>(i);
@@ -127,7 +127,7 @@ std::optional<quint16> FontChain::firstFontThat(Covers covers)
 // A colour font for an emoji that the first font lacks.
 std::optional<quint16> FontChain::coloredFontFor(QStringView emoji)
 {
-    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue->fonts();
     if (coversAll(fonts[m_named.front()], emoji))
         return std::nullopt;
     const std::vector<quint16> &others = fallbacks();
@@ -143,7 +143,7 @@ quint16 FontChain::findFontFor(char32_t character)
         if (const std::optional<quint16> colored = coloredFontFor(text))
             return *colored;
     }
-    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue->fonts();
     return firstFontThat([&](quint16 font) {
         return fonts[font].covers(character);
     }).value_or(m_named.front());
@@ -182,7 +182,7 @@ bool FontChain::isFontForAll(quint16 font, QStringView cluster)
 
 quint16 FontChain::findFontForCluster(QStringView cluster)
 {
-    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue.fonts();
+    const std::vector<CatalogueFont> &fonts = m_library.m_catalogue->fonts();
     const quint16 forFirst = fontFor(codePointAt(cluster, 0));
     if (isEmojiCluster(cluster)) {
         if (fonts[forFirst].isColored && coversAll(fonts[forFirst], cluster))
@@ -219,9 +219,10 @@ FontFace *FontChain::faceFor(QStringView cluster, FontFace *preferred)
     return !isEmojiCluster(cluster) && coversAll(preferred->source(), cluster) ? preferred : face;
 }
 
-FontLibrary::FontLibrary()
+FontLibrary::FontLibrary(std::shared_ptr<const FontCatalogue> catalogue)
+    : m_catalogue(std::move(catalogue))
 {
-    const std::vector<CatalogueFont> &fonts = m_catalogue.fonts();
+    const std::vector<CatalogueFont> &fonts = m_catalogue->fonts();
     m_faces.resize(fonts.size());
     for (size_t i = 0; i < fonts.size(); ++i) {
         for (const QString &family : fonts[i].families)
@@ -251,7 +252,7 @@ FontFace *FontLibrary::load(quint16 font)
 {
     std::unique_ptr<FontFace> &face = m_faces[font];
     if (!face) {
-        const CatalogueFont &source = m_catalogue.fonts()[font];
+        const CatalogueFont &source = m_catalogue->fonts()[font];
         FontFile &file = m_files[source.path];
         if (!file)
             file = mapFontFile(source.path);
@@ -262,7 +263,7 @@ FontFace *FontLibrary::load(quint16 font)
 
 std::vector<quint16> FontLibrary::namedFonts(const FontRequest &request) const
 {
-    const std::vector<CatalogueFont> &fonts = m_catalogue.fonts();
+    const std::vector<CatalogueFont> &fonts = m_catalogue->fonts();
     const auto isNearer = [&](quint16 left, quint16 right) {
         return styleDistance(fonts[left], request.weight, request.slant)
             < styleDistance(fonts[right], request.weight, request.slant);

@@ -65,13 +65,17 @@ private:
 
 class FontLibrary {
 public:
-    FontLibrary();
+    /// catalogue: not null; may be shared with libraries of other threads.
+    explicit FontLibrary(
+        std::shared_ptr<const FontCatalogue> catalogue = std::make_shared<const FontCatalogue>());
     FontLibrary(const FontLibrary &) = delete;
     FontLibrary &operator=(const FontLibrary &) = delete;
     ~FontLibrary();
 
     /// True if the machine has no usable font; then there are no chains.
-    [[nodiscard]] bool isEmpty() const { return m_catalogue.fonts().empty(); }
+    [[nodiscard]] bool isEmpty() const { return m_catalogue->fonts().empty(); }
+
+    [[nodiscard]] const std::shared_ptr<const FontCatalogue> &catalogue() const { return m_catalogue; }
 
     /// language: BCP 47 or empty. Null only if isEmpty().
     FontChain *chainFor(const FontAttributes &attributes, const QString &language);
@@ -90,7 +94,7 @@ private:
 
     using ChainKey = std::tuple<std::vector<quint16>, int, FontSlant, QByteArray>;
 
-    FontCatalogue m_catalogue;
+    std::shared_ptr<const FontCatalogue> m_catalogue;
     QHash<QString, std::vector<quint16>> m_families;
     std::map<QByteArray, FontFile> m_files; // by path
     std::vector<std::unique_ptr<FontFace>> m_faces; // by index in the catalogue, null until loaded

@@ -4,8 +4,11 @@
 #include "platform/logging/LogChannel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
+
+constexpr qsizetype progressInterval = 65'536; // UTF-16 code units
 
 // The height that the tallest characters of a line need.
 struct LineHeight {
@@ -45,7 +48,13 @@ double leftShare(TextAlignment alignment, bool isRightToLeft)
 } // namespace
 
 LayoutEngine::LayoutEngine(Shaping shaping)
-    : m_paragraph(m_fonts, shaping != Shaping::WholeRuns)
+    : LayoutEngine(std::make_shared<const FontCatalogue>(), shaping)
+{
+}
+
+LayoutEngine::LayoutEngine(std::shared_ptr<const FontCatalogue> fonts, Shaping shaping)
+    : m_fonts(std::move(fonts))
+    , m_paragraph(m_fonts, shaping != Shaping::WholeRuns)
     , m_isByPairs(shaping == Shaping::ByPairs)
 {
     if (m_fonts.isEmpty())
@@ -130,17 +139,27 @@ void LayoutEngine::layOutParagraph(
         });
 }
 
-quint64 LayoutEngine::countLinesOfParagraph(
-    const AttributedString &text, const Paragraph &paragraph, double columnWidth, const YieldLine &yield)
+quint64 LayoutEngine::countLinesOfParagraph(const AttributedString &text, const Paragraph &paragraph,
+    double columnWidth, const YieldLine &yield, const Progress &progress)
 {
     if (paragraph.contentLength == 0) {
         if (yield)
             yield(paragraph.start, paragraph.end());
         return 1;
     }
+    LineFiller::Report report;
+    qsizetype next = progressInterval;
+    if (progress && paragraph.length > progressInterval) {
+        report = [&](qsizetype end) {
+            if (end < next) // the text may be laid out twice
+                return;
+            progress(paragraph.start + end);
+            next = end + progressInterval;
+        };
+    }
     if (m_isByPairs) {
         const std::optional<quint64> count =
-            m_filler.countLines(text, paragraph, columnWidth, yield ? &m_lineEnds : nullptr);
+            m_filler.countLines(text, paragraph, columnWidth, yield ? &m_lineEnds : nullptr, report);
         if (count && yield) {
             m_lineEnds.back() = paragraph.length; // with the separator
             for (qsizetype start = 0; const qsizetype end : m_lineEnds) {
@@ -153,6 +172,8 @@ quint64 LayoutEngine::countLinesOfParagraph(
     }
     return fillLines(text, paragraph, columnWidth,
         [&](const LineBreaker &, qsizetype start, const LineBreaker::Line &line) {
+            if (report)
+                report(line.end);
             if (yield)
                 yield(paragraph.start + start, endOf(paragraph, start, line));
         });
@@ -169,7 +190,7 @@ quint64 LayoutEngine::countLines(const AttributedString &text, double columnWidt
     quint64 count = 0;
     while (start < end) {
         const Paragraph paragraph = paragraphAt(text.string(), start);
-        count += countLinesOfParagraph(text, paragraph, columnWidth);
+        count += countLinesOfParagraph(text, paragraph, columnWidth, {}, progress);
         start = paragraph.end();
         if (progress)
             progress(start);

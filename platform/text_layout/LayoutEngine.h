@@ -27,6 +27,9 @@ public:
 
     /// Logs a notice if the machine has no usable font; then all graphemes have the same width.
     explicit LayoutEngine(Shaping shaping = Shaping::ByPairs);
+    /// fonts: those of an engine of another thread, which need not be listed again.
+    explicit LayoutEngine(std::shared_ptr<const FontCatalogue> fonts, Shaping shaping = Shaping::ByPairs);
+    [[nodiscard]] const std::shared_ptr<const FontCatalogue> &fonts() const { return m_fonts.catalogue(); }
 
     using Yield = std::function<void(const LineFragment &)>;
 
@@ -39,12 +42,13 @@ public:
     /// Called for every line; start, end: UTF-16 code units of the text, as of LineFragment.
     using YieldLine = std::function<void(qsizetype start, qsizetype end)>;
 
+    /// Called after every paragraph, and now and then in long ones. position: the UTF-16 code units laid out
+    /// so far.
+    using Progress = std::function<void(qsizetype position)>;
+
     /// The number of lines that layOutParagraph() would yield. yield: called for each, unless empty.
     quint64 countLinesOfParagraph(const AttributedString &text, const Paragraph &paragraph,
-        double columnWidth, const YieldLine &yield = {});
-
-    /// Called after every paragraph. position: the UTF-16 code units laid out so far.
-    using Progress = std::function<void(qsizetype position)>;
+        double columnWidth, const YieldLine &yield = {}, const Progress &progress = {});
 
     /// The sum over all paragraphs; 0 for an empty text.
     quint64 countLines(const AttributedString &text, double columnWidth, const Progress &progress = {});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text_layout/LineFiller.h"
 
+#include "platform/text_layout/AsciiAdvances.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -35,7 +37,7 @@ LineFiller::LineFiller(FontLibrary &fonts, Shaper &shaper, LineBreaks &breaks)
 }
 
 std::optional<quint64> LineFiller::countLines(const AttributedString &text, const Paragraph &paragraph,
-    double columnWidth, std::vector<qsizetype> *ends)
+    double columnWidth, std::vector<qsizetype> *ends, const Report &report)
 {
     const ParagraphStyle &style = text.attributesAt(paragraph.start).paragraphStyle;
     m_edges.emplace(style, columnWidth);
@@ -46,14 +48,15 @@ std::optional<quint64> LineFiller::countLines(const AttributedString &text, cons
         if (!m_text.setParagraph(text, paragraph, isOneRun))
             continue;
         m_breaks.setParagraph(paragraph.content(text.string()));
-        const std::optional<quint64> count = fillLines(paragraph, ends);
+        const std::optional<quint64> count = fillLines(paragraph, ends, report);
         if (count || m_hasGivenUp)
             return count;
     }
     return std::nullopt;
 }
 
-std::optional<quint64> LineFiller::fillLines(const Paragraph &paragraph, std::vector<qsizetype> *ends)
+std::optional<quint64> LineFiller::fillLines(
+    const Paragraph &paragraph, std::vector<qsizetype> *ends, const Report &report)
 {
     m_startsWithinWord = false;
     m_lastSafePlace = 0;
@@ -70,6 +73,8 @@ std::optional<quint64> LineFiller::fillLines(const Paragraph &paragraph, std::ve
             return std::nullopt;
         m_text.discardBefore(std::min(line.end, m_lastSafePlace) - 1);
         ++count;
+        if (report)
+            report(line.end);
         if (ends)
             ends->push_back(line.end);
     }
@@ -109,6 +114,7 @@ qsizetype LineFiller::addPlain(qsizetype at, Stretch &stretch) const
     const qsizetype last = run.end - 1;
     int sum = 0;
     int value = 0; // of the next character
+    at += addAsciiAdvances(units + at, last - at, advances, room, sum);
     size_t own = classes[units[at]];
     for (;;) {
         // A stretch at a time, to notice those without an advance.

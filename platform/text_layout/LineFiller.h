@@ -7,16 +7,21 @@
 #include "platform/text_layout/LineBreaker.h"
 #include "platform/text_layout/PairText.h"
 
+#include <functional>
+
 class LineFiller {
 public:
     /// breaks: is set to each paragraph.
     LineFiller(FontLibrary &fonts, Shaper &shaper, LineBreaks &breaks);
 
+    using Report = std::function<void(qsizetype lineEnd)>;
+
     /// The number of lines of a paragraph that is not empty. Absent if it must be laid out by LineBreaker: it
     /// has characters that change with their neighbours, or a line of which rounding decides.
     /// ends: unless null, gets the end of every line (UTF-16 code units from the start of the paragraph).
+    /// report: called with each of them, unless empty; also where the result is absent.
     std::optional<quint64> countLines(const AttributedString &text, const Paragraph &paragraph,
-        double columnWidth, std::vector<qsizetype> *ends = nullptr);
+        double columnWidth, std::vector<qsizetype> *ends = nullptr, const Report &report = {});
 
 private:
     // The text after the last tab of a line, or after its start.
@@ -30,7 +35,8 @@ private:
         qsizetype weightless = 0; // characters without an advance, as far as known
     };
 
-    std::optional<quint64> fillLines(const Paragraph &paragraph, std::vector<qsizetype> *ends);
+    std::optional<quint64> fillLines(
+        const Paragraph &paragraph, std::vector<qsizetype> *ends, const Report &report);
     LineBreaker::Line nextLine(qsizetype start);
     [[nodiscard]] std::optional<qsizetype> findObstacle(qsizetype start, Stretch &stretch);
     qsizetype addPlain(qsizetype at, Stretch &stretch) const;

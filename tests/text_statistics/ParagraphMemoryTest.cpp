@@ -40,10 +40,12 @@ protected:
     {
         qsizetype counted = 0;
         const QBYWordCounterStats sum =
-            m_memory.count(text, rules, columnWidth, [&](qsizetype start, qsizetype end) {
-                counted += end - start;
-                const auto length = static_cast<quint64>(end - start);
-                return QBYWordCounterStats{length, length, length, length, length, length, length, length};
+            m_memory.count(text, rules, columnWidth, [&](std::span<CountedPiece> pieces) {
+                for (CountedPiece &piece : pieces) {
+                    counted += piece.end - piece.start;
+                    const auto length = static_cast<quint64>(piece.end - piece.start);
+                    piece.counts = {length, length, length, length, length, length, length, length};
+                }
             });
         const auto length = static_cast<quint64>(text.length());
         EXPECT_EQ(sum, (QBYWordCounterStats{length, length, length, length, length, length, length, length}));

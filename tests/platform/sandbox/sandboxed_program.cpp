@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
-// A program in its sandbox that tries what a document could make it try. Arguments: "worker", "reader" or
-// "free", for the sandbox of a counting worker, that of a reader, or none; then attempts, each as NAME or
-// NAME=ARGUMENT. Prints what the sandbox is made of, and for each attempt a line: "done", or the name of the
-// error.
+// A program in its sandbox that tries what a document could make it try. Arguments: "worker", "thread",
+// "reader" or "free", for the sandbox of a counting worker, a thread that helps a worker, the sandbox of a
+// reader, or none; then attempts, each as NAME or NAME=ARGUMENT. Prints what the sandbox is made of, and for
+// each attempt a line: "done", or the name of the error.
 #include "counting_service/worker/CountingWorker.h"
 #include "platform/sandbox/FontSources.h"
 #include "platform/sandbox/Sandbox.h"
+#include "platform/system/ThreadTeam.h"
 #include "tests/platform/sandbox/Attempts.h"
 #include "text_statistics/WordCounterModel.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <memory>
+#include <span>
 #include <string>
 
 namespace {
@@ -31,24 +34,27 @@ void printLines()
     std::printf("%llu\n", static_cast<unsigned long long>(model.numberOfLines()));
 }
 
+// Helps a worker: starts where the threads of a worker do.
+std::unique_ptr<ThreadTeam> team;
+
 SandboxReport enter(const std::string &kind)
 {
     if (kind == "reader")
         return enterDocumentSandbox();
-    if (kind != "worker")
+    if (kind != "worker" && kind != "thread")
         return {};
     CountingWorker worker;
-    return enterDocumentSandbox(
-        FontSources::current().readable, [&worker](FontAccess access) { worker.loadFonts(access); });
+    return enterDocumentSandbox(FontSources::current().readable, [&](FontAccess access) {
+        worker.loadFonts(access);
+        if (kind == "thread")
+            team = std::make_unique<ThreadTeam>(1);
+    });
 }
 
-} // namespace
-
-int main(int argumentCount, char **arguments)
+void makeAttempts(std::span<char *const> attempts)
 {
-    std::printf("%s\n", sandboxDescription(enter(arguments[1])).toUtf8().constData());
-    for (int i = 2; i < argumentCount; ++i) {
-        const std::string all = arguments[i];
+    for (const char *const word : attempts) {
+        const std::string all = word;
         const size_t end = std::min(all.find('='), all.size());
         const std::string name = all.substr(0, end);
         const std::string argument = all.substr(std::min(end + 1, all.size()));
@@ -58,6 +64,20 @@ int main(int argumentCount, char **arguments)
             std::printf("%s\n", unlistedCalls().c_str());
         else
             std::printf("%s\n", attempt(name, argument.c_str()) >= 0 ? "done" : strerrorname_np(errno));
+    }
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    std::printf("%s\n", sandboxDescription(enter(arguments[1])).toUtf8().constData());
+    const auto attempts = std::span<char *const>(arguments, static_cast<size_t>(argumentCount)).subspan(2);
+    if (team) {
+        team->start([attempts](int) { makeAttempts(attempts); });
+        team.reset(); // waits
+    } else {
+        makeAttempts(attempts);
     }
     std::fflush(stdout);
     return 0;
