@@ -92,6 +92,16 @@ std::optional<QByteArray> CommandWords::valueOf(const QByteArray &name) const
     return index < 0 ? std::nullopt : std::optional(values.at(index));
 }
 
+QByteArrayList CommandWords::valuesOf(const QByteArray &name) const
+{
+    QByteArrayList found;
+    for (qsizetype i = 0; i < switches.size(); ++i) {
+        if (switches[i] == name)
+            found.append(values[i]);
+    }
+    return found;
+}
+
 int reportWrongUsage(const char *command, const QString &message)
 {
     const QString name =

@@ -29,6 +29,8 @@ struct CommandWords {
     [[nodiscard]] bool wantsHelp() const { return switches.contains("help"); }
     /// Of the first such switch; absent if it was not given.
     [[nodiscard]] std::optional<QByteArray> valueOf(const QByteArray &name) const;
+    /// Of all such switches.
+    [[nodiscard]] QByteArrayList valuesOf(const QByteArray &name) const;
 
     /// Absent after an unknown switch or a missing argument, which is reported on standard error.
     static std::optional<CommandWords> parse(const ManualPage &page, int wordCount, char **words);

@@ -1,23 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "command/CountArguments.h"
 
+#include "command/CountSelection.h"
 #include "command/FileNames.h"
-#include "platform/system/Result.h"
 
 #include <QStringList>
 
-#include <algorithm>
 #include <initializer_list>
 
 namespace {
-
-QString allFurtherNames()
-{
-    QStringList names;
-    for (const FurtherStatisticRow &row : furtherStatisticTable)
-        names.append(QLatin1StringView(row.typedName.data(), static_cast<qsizetype>(row.typedName.size())));
-    return names.join(u',');
-}
 
 /// Wrong combinations, with their message; empty if all is right.
 QString wrongCombinationIn(const CommandWords &words)
@@ -30,32 +21,13 @@ QString wrongCombinationIn(const CommandWords &words)
         return CommandText::tr("--service and --explain-rules cannot be combined");
     if (words.switches.contains("tsv") && words.switches.contains("explain-rules"))
         return CommandText::tr("--explain-rules prints a table or, with --json, an object; leave out --tsv");
+    if (words.switches.contains("also") && words.switches.contains("columns"))
+        return CommandText::tr("--also and --columns cannot be combined; name all counts in --columns");
+    if (words.switches.contains("include") && !words.switches.contains("recursive"))
+        return CommandText::tr("--include needs --recursive");
     if (words.valueOf("files-from") == "-" && words.operands.contains("-"))
         return CommandText::tr("standard input cannot be both a document and the list of files");
     return {};
-}
-
-using FurtherList = std::vector<FurtherStatistic>;
-
-/// The error is a message.
-Result<FurtherList, QString> furtherListOf(const QByteArray &names, bool isInService)
-{
-    FurtherList list;
-    if (names == "none")
-        return list;
-    for (const QByteArray &name : names.split(',')) {
-        const std::optional<FurtherStatistic> statistic =
-            furtherStatisticNamed({name.constData(), static_cast<std::size_t>(name.size())});
-        if (!statistic)
-            return CommandText::tr("--also knows no '%1'; use none, or some of %2")
-                .arg(QString::fromUtf8(printableName(name)), allFurtherNames());
-        if (isInService && needsText(*statistic))
-            return CommandText::tr("--service does not count %1; leave out one of them")
-                .arg(QString::fromUtf8(name));
-        if (std::find(list.begin(), list.end(), *statistic) == list.end())
-            list.push_back(*statistic);
-    }
-    return list;
 }
 
 template <typename Value>
@@ -110,6 +82,36 @@ Result<WordRules, QString> wordRulesOf(const CommandWords &words)
     return rules;
 }
 
+/// Stores the result of reading an option's value. The message, if it was wrong.
+template <typename Value, typename Target>
+QString store(const Result<Value, QString> &read, Target &target)
+{
+    if (!read)
+        return read.error();
+    target = read.value();
+    return {};
+}
+
+/// The message for the first value that is wrong; empty if all are right.
+QString readValues(const CommandWords &words, CountArguments &arguments)
+{
+    QString wrong = store(wordRulesOf(words), arguments.wordRules);
+    const auto read = [&](const char *option, const auto &parse, auto &target) {
+        const std::optional<QByteArray> value = words.valueOf(option);
+        if (value && wrong.isEmpty())
+            wrong = store(parse(*value), target);
+    };
+    const bool isInService = arguments.wantsService;
+    read(
+        "also", [&](const QByteArray &names) { return furtherListOf(names, isInService); }, arguments.also);
+    read(
+        "columns", [&](const QByteArray &names) { return columnListOf(names, isInService); },
+        arguments.columns);
+    read("sort", sortKeyOf, arguments.sortKey);
+    read("goal", goalOf, arguments.goal);
+    return wrong;
+}
+
 CountFormat formatOf(const CommandWords &words)
 {
     if (words.switches.contains("json"))
@@ -131,23 +133,18 @@ std::optional<CountArguments> CountArguments::fromWords(const CommandWords &word
         .wantsService = words.switches.contains("service"),
         .also = std::nullopt,
         .wordRules = {},
+        .columns = std::nullopt,
+        .sortKey = std::nullopt,
+        .goal = std::nullopt,
+        .isRecursive = words.switches.contains("recursive"),
+        .globs = words.valuesOf("include"),
         .listName = words.valueOf("files-from"),
         .fileNames = words.operands};
-    if (const std::optional<QByteArray> names = words.valueOf("also")) {
-        const Result<FurtherList, QString> also = furtherListOf(*names, arguments.wantsService);
-        if (!also) {
-            reportWrongUsage("count", also.error());
-            return std::nullopt;
-        }
-        arguments.also = also.value();
-    }
-    const Result<WordRules, QString> wordRules = wordRulesOf(words);
-    if (!wordRules) {
-        reportWrongUsage("count", wordRules.error());
+    if (const QString wrong = readValues(words, arguments); !wrong.isEmpty()) {
+        reportWrongUsage("count", wrong);
         return std::nullopt;
     }
-    arguments.wordRules = wordRules.value();
     if (!arguments.listName && arguments.fileNames.isEmpty() && !arguments.wantsRules)
-        arguments.fileNames.append("-");
+        arguments.fileNames.append(arguments.isRecursive ? "." : "-");
     return arguments;
 }

@@ -3,6 +3,8 @@
 
 #include "command/CommandWords.h"
 
+#include <QStringList>
+
 #include <array>
 
 namespace {
@@ -69,6 +71,36 @@ CountColumns columnsFor(const FurtherRules &rules)
 std::string_view typedNameOf(Statistic statistic)
 {
     return statisticNames.at(static_cast<std::size_t>(statistic)).typed;
+}
+
+std::optional<CountColumn> columnNamed(std::string_view typedName)
+{
+    for (const StatisticRow &row : statisticTable) {
+        if (typedNameOf(row.statistic) == typedName)
+            return row.statistic;
+    }
+    const std::optional<FurtherStatistic> further = furtherStatisticNamed(typedName);
+    return further ? std::optional<CountColumn>(*further) : std::nullopt;
+}
+
+QString allColumnNames()
+{
+    QStringList names;
+    const auto add = [&names](std::string_view name) {
+        names.append(QLatin1StringView(name.data(), static_cast<qsizetype>(name.size())));
+    };
+    for (const Names &row : statisticNames)
+        add(row.typed);
+    for (const FurtherStatisticRow &row : furtherStatisticTable)
+        add(row.typedName);
+    return names.join(u',');
+}
+
+double valueOf(CountColumn column, const FileCounts &counts, const FurtherRules &rules)
+{
+    if (const auto *const statistic = std::get_if<Statistic>(&column))
+        return static_cast<double>(countOf(*statistic, counts));
+    return furtherCount(std::get<FurtherStatistic>(column), counts.stats, counts.further, rules);
 }
 
 QString titleOf(CountColumn column)

@@ -31,6 +31,14 @@ CountColumns columnsFor(const FurtherRules &rules);
 /// As users type it: "all-characters".
 std::string_view typedNameOf(Statistic statistic);
 
+/// The column of that typed name; absent for a name that is none.
+std::optional<CountColumn> columnNamed(std::string_view typedName);
+/// The typed names of all columns, separated by commas.
+QString allColumnNames();
+
+/// The number in a column; times in seconds.
+double valueOf(CountColumn column, const FileCounts &counts, const FurtherRules &rules);
+
 /// The title of a column in the table, in ASCII.
 QString titleOf(CountColumn column);
 /// The name in JSON and TSV.

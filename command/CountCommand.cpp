@@ -7,6 +7,7 @@
 #include "command/CountReport.h"
 #include "command/FileNames.h"
 #include "command/FirstLaunchStep.h"
+#include "command/FolderWalk.h"
 #include "command/NamedDocument.h"
 #include "command/ParallelCount.h"
 #include "command/ProgressLine.h"
@@ -23,6 +24,8 @@
 #include "text_statistics/PageCounter.h"
 #include "text_statistics/WordCounterModel.h"
 
+#include <QSet>
+
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -31,6 +34,7 @@
 #include <mutex>
 #include <new>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -68,6 +72,13 @@ Result<FileCounts, QString> withoutFurther(const Result<QBYWordCounterStats, QSt
 
 constexpr qint64 minLargeSize = qint64{16} * 1024 * 1024; // bytes
 
+struct CountedFile {
+    QByteArray name;
+    FileCounts counts;
+};
+
+constexpr int missedGoalStatus = 3;
+
 class CountCommand {
 public:
     explicit CountCommand(CountArguments arguments)
@@ -75,18 +86,24 @@ public:
     {
     }
 
-    /// The exit status: 1 if a file could not be counted or the counts could not be printed, otherwise 0.
+    /// The exit status: 1 if a file could not be counted or the counts could not be printed, missedGoalStatus
+    /// if a goal is not reached, otherwise 0.
     int run();
 
 private:
     [[nodiscard]] QByteArrayList inputNames();
+    void chooseColumns();
     void countAll(const QByteArrayList &names);
+    void sort(std::vector<CountedFile> &files) const;
+    void compareWithGoal(const QBYWordCounterStats &total);
+    [[nodiscard]] QByteArrayList withoutFolders(const QByteArrayList &names);
     void explainRules(const QByteArrayList &names);
     std::optional<FileCounts> count(const QByteArray &name, ProgressLine &progress);
     std::optional<FileCounts> take(
         const QByteArray &name, const Result<FileCounts, QString> &stats, ProgressLine &progress);
     std::unique_ptr<ParallelCount> countInParallel(const QByteArrayList &names, int threads);
-    /// On any thread.
+    /// Why a document is not counted; empty for one that is left out. On any thread, like the next one.
+    [[nodiscard]] QString failureOf(const QByteArray &name, const DocumentError &error) const;
     Result<FileCounts, QString> countOnThread(
         const QByteArray &name, ColumnCounter &counter, ParallelCount::Position &position) const;
     Result<FileCounts, QString> countHere(const QByteArray &name, ProgressLine &progress);
@@ -98,6 +115,9 @@ private:
     const CountArguments m_arguments;
     CountingRules m_rules; ///< of all files of the run
     FurtherRules m_further;
+    CountColumns m_columns;
+    QSet<QByteArray> m_filesOfFolders; ///< nobody has named them, so what is no text there is left out
+    bool m_isGoalReached = true;
     WordCounterModel m_model{[this] { return m_rules; }};
     TextCounter m_textCounter; ///< of the words by other rules
     std::optional<ServiceCounter> m_service; ///< created when first needed
@@ -112,11 +132,7 @@ int CountCommand::run()
     // The service has its own, unless they are to be explained.
     if (!m_arguments.wantsService || m_arguments.wantsRules)
         m_rules = currentCountingRules();
-    m_further = currentFurtherRules();
-    if (m_arguments.also)
-        m_further.shown = *m_arguments.also;
-    if (m_arguments.wantsService)
-        std::erase_if(m_further.shown, needsText);
+    chooseColumns();
     if (m_rules.text.localeIdentifier)
         m_rules.text.fixLocale();
     const QByteArrayList names = inputNames();
@@ -126,34 +142,88 @@ int CountCommand::run()
         countAll(names);
     if (std::fflush(stdout) != 0)
         fail(CommandText::tr("standard output").toUtf8(), translatedSystemError(errno));
-    return m_hasFailed ? 1 : 0;
+    if (m_hasFailed)
+        return 1;
+    return m_isGoalReached ? 0 : missedGoalStatus;
+}
+
+void CountCommand::chooseColumns()
+{
+    m_further = currentFurtherRules();
+    if (m_arguments.also)
+        m_further.shown = *m_arguments.also;
+    if (m_arguments.wantsService)
+        std::erase_if(m_further.shown, needsText);
+    m_columns = m_arguments.columns.value_or(columnsFor(m_further));
+    // What is sorted by must be counted, shown or not.
+    CountColumns counted = m_columns;
+    if (m_arguments.sortKey && m_arguments.sortKey->column)
+        counted.push_back(*m_arguments.sortKey->column);
+    m_further.shown.clear();
+    for (const CountColumn &column : counted) {
+        if (const auto *const further = std::get_if<FurtherStatistic>(&column))
+            m_further.shown.push_back(*further);
+    }
 }
 
 void CountCommand::countAll(const QByteArrayList &names)
 {
     const qint64 size = sizeOfAll(names);
     const std::unique_ptr<CountReport> report =
-        CountReport::make(m_arguments.format, size, columnsFor(m_further), m_further);
+        CountReport::make(m_arguments.format, size, m_columns, m_further);
     const int threads = m_arguments.wantsService ? 1 : threadsFor(names, size);
     const std::unique_ptr<ParallelCount> parallel = threads > 1 ? countInParallel(names, threads) : nullptr;
     m_mayUseThreads = !parallel;
     FileCounts total;
+    std::vector<CountedFile> files; // only to be sorted
     bool hasRows = false;
     ProgressLine progress(names.size());
     for (qsizetype i = 0; i < names.size(); ++i) {
         progress.startReading(names[i], i);
-        const std::optional<FileCounts> stats =
+        const std::optional<FileCounts> counts =
             parallel ? take(names[i], parallel->next(progress), progress) : count(names[i], progress);
-        if (!stats)
+        if (!counts)
             continue;
         if (!std::exchange(hasRows, true))
             print(report->header());
-        print(report->row(names[i], *stats));
-        total += *stats;
+        if (m_arguments.sortKey)
+            files.push_back({names[i], *counts});
+        else
+            print(report->row(names[i], *counts));
+        total += *counts;
     }
     progress.hide();
-    if (names.size() > 1 && hasRows)
+    sort(files);
+    for (const CountedFile &file : files)
+        print(report->row(file.name, file.counts));
+    if ((names.size() > 1 || m_arguments.isRecursive) && hasRows)
         print(report->total(total));
+    if (m_arguments.goal)
+        compareWithGoal(total.stats);
+}
+
+void CountCommand::sort(std::vector<CountedFile> &files) const
+{
+    if (!m_arguments.sortKey)
+        return;
+    const std::optional<CountColumn> &column = m_arguments.sortKey->column;
+    std::stable_sort(files.begin(), files.end(), [&](const CountedFile &one, const CountedFile &other) {
+        return column ? valueOf(*column, one.counts, m_further) > valueOf(*column, other.counts, m_further)
+                      : one.name < other.name;
+    });
+}
+
+void CountCommand::compareWithGoal(const QBYWordCounterStats &total)
+{
+    const CountGoal &goal = *m_arguments.goal;
+    const quint64 count = total.*statisticTable.at(static_cast<std::size_t>(goal.statistic)).count;
+    m_isGoalReached = count >= goal.count;
+    if (m_arguments.format != CountFormat::Table)
+        return;
+    const quint64 difference = m_isGoalReached ? count - goal.count : goal.count - count;
+    const QString text = m_isGoalReached ? CommandText::tr("%1: goal %2, reached with %3 more")
+                                         : CommandText::tr("%1: goal %2, %3 to go");
+    print((text.arg(titleOf(goal.statistic)).arg(goal.count).arg(difference) + u'\n').toUtf8());
 }
 
 // Counts first: the fonts in use are known only after the texts have been laid out.
@@ -176,13 +246,34 @@ QByteArrayList CountCommand::inputNames()
 {
     QByteArrayList names = m_arguments.fileNames;
     if (!m_arguments.listName)
-        return names;
+        return withoutFolders(names);
     const Result<QByteArray, FileError> list = readNamed(*m_arguments.listName);
     if (!list) {
         fail(*m_arguments.listName, causeText(list.error()));
-        return names;
+        return withoutFolders(names);
     }
-    return names + namesInList(list.value());
+    return withoutFolders(names + namesInList(list.value()));
+}
+
+QByteArrayList CountCommand::withoutFolders(const QByteArrayList &names)
+{
+    if (!m_arguments.isRecursive)
+        return names;
+    FolderWalk walk(m_arguments.globs,
+        [this](const QByteArray &path, int error) { fail(path, translatedSystemError(error)); });
+    QByteArrayList files;
+    for (const QByteArray &name : names) {
+        struct stat status { };
+        if (::stat(name.constData(), &status) != 0 || !S_ISDIR(status.st_mode) || isRtfdPackage(name)) {
+            files.append(name);
+            continue;
+        }
+        for (const QByteArray &file : walk.filesBelow(name)) {
+            files.append(file);
+            m_filesOfFolders.insert(file);
+        }
+    }
+    return files;
 }
 
 std::optional<FileCounts> CountCommand::count(const QByteArray &name, ProgressLine &progress)
@@ -203,7 +294,8 @@ std::optional<FileCounts> CountCommand::take(
     progress.hide();
     if (stats)
         return stats.value();
-    fail(name, stats.error());
+    if (!stats.error().isEmpty())
+        fail(name, stats.error());
     return std::nullopt;
 }
 
@@ -223,13 +315,20 @@ std::unique_ptr<ParallelCount> CountCommand::countInParallel(const QByteArrayLis
     return std::make_unique<ParallelCount>(names, threads, makeCounter);
 }
 
+QString CountCommand::failureOf(const QByteArray &name, const DocumentError &error) const
+{
+    using Cause = DocumentError::Cause;
+    const bool isNoText = error.cause == Cause::NotText || error.cause == Cause::UnsupportedFormat;
+    return isNoText && m_filesOfFolders.contains(name) ? QString() : causeText(error);
+}
+
 Result<FileCounts, QString> CountCommand::countOnThread(
     const QByteArray &name, ColumnCounter &counter, ParallelCount::Position &position) const
 {
     try {
         const Result<AttributedString, DocumentError> text = loadNamedDocument(name, m_arguments.readAs);
         if (!text)
-            return causeText(text.error());
+            return failureOf(name, text.error());
         position.length = text.value().length();
         return FileCounts{counter.count(text.value(), [&position](qsizetype at) { position.position = at; }),
             counter.countFurther(text.value(), m_further, columnHeightOf(m_rules.page))};
@@ -242,7 +341,7 @@ Result<FileCounts, QString> CountCommand::countHere(const QByteArray &name, Prog
 {
     const Result<AttributedString, DocumentError> text = loadNamedDocument(name, m_arguments.readAs);
     if (!text)
-        return causeText(text.error());
+        return failureOf(name, text.error());
     progress.startCounting(text.value().length());
     m_model.setProgress([&progress](qsizetype position) { progress.setPosition(position); });
     if (m_mayUseThreads && text.value().length() >= PieceCounters::minLengthForThreads)
@@ -269,7 +368,7 @@ Result<QBYWordCounterStats, QString> CountCommand::countInService(
         return causeText(DocumentError(contents.error()));
     const Result<DocumentKind, DocumentError> kind = kindOfDocument(path, contents.value());
     if (!kind)
-        return causeText(kind.error());
+        return failureOf(name, kind.error());
     if (kind.value() == DocumentKind::Pdf) // read by a program of its own
         return countTextInService(readBytes(contents.value(), path, {.readsPdf = true}), progress);
     progress.startCounting(contents.value().size());

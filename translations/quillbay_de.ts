@@ -1689,6 +1689,30 @@
         <source>each of these characters ends a word, too</source>
         <translation>auch jedes dieser Zeichen beendet ein Wort</translation>
     </message>
+    <message>
+        <source>print only these counts, in this order, separated by commas: words, characters, all-characters, sentences, lines, hard-line-breaks, paragraphs, indents, and those of --also</source>
+        <translation>nur diese Zahlen ausgeben, in dieser Reihenfolge, durch Kommas getrennt: words, characters, all-characters, sentences, lines, hard-line-breaks, paragraphs, indents und die von --also</translation>
+    </message>
+    <message>
+        <source>print the files with the largest COUNT first, such as words; or by name, with name</source>
+        <translation>die Dateien mit der größten Zahl COUNT zuerst ausgeben, etwa words; oder nach Namen, mit name</translation>
+    </message>
+    <message>
+        <source>compare all files together with a number of words, or with another count, such as &apos;5000 characters&apos;; the table ends with what remains</source>
+        <translation>alle Dateien zusammen mit einer Anzahl von Wörtern vergleichen oder mit einer anderen Zahl, etwa &apos;5000 characters&apos;; die Tabelle endet mit dem, was fehlt</translation>
+    </message>
+    <message>
+        <source>count the files below each FILE that is a folder, or below this folder, but not what a .gitignore ignores, symbolic links, and what is no text</source>
+        <translation>die Dateien unter jeder FILE zählen, die ein Ordner ist, oder unter diesem Ordner, aber nicht, was eine .gitignore ausnimmt, keine symbolischen Verknüpfungen und nichts, was kein Text ist</translation>
+    </message>
+    <message>
+        <source>with --recursive, count only files with such a name, as &apos;*.md&apos;; can be given several times</source>
+        <translation>mit --recursive nur Dateien mit einem solchen Namen zählen, etwa &apos;*.md&apos;; kann mehrmals angegeben werden</translation>
+    </message>
+    <message>
+        <source>the goal has not been reached</source>
+        <translation>das Ziel ist nicht erreicht</translation>
+    </message>
 </context>
 <context>
     <name>PageSizeForMeasuringPreviewViewController</name>
@@ -2700,6 +2724,34 @@
     <message>
         <source>--service counts words by Quillbay&apos;s own rules; leave out the other rules</source>
         <translation>--service zählt Wörter nach Quillbays eigenen Regeln; die anderen Regeln weglassen</translation>
+    </message>
+    <message>
+        <source>--also and --columns cannot be combined; name all counts in --columns</source>
+        <translation>--also und --columns können nicht kombiniert werden; alle Zahlen in --columns nennen</translation>
+    </message>
+    <message>
+        <source>--include needs --recursive</source>
+        <translation>--include braucht --recursive</translation>
+    </message>
+    <message>
+        <source>%1: goal %2, reached with %3 more</source>
+        <translation>%1: Ziel %2, erreicht, %3 darüber</translation>
+    </message>
+    <message>
+        <source>%1: goal %2, %3 to go</source>
+        <translation>%1: Ziel %2, noch %3</translation>
+    </message>
+    <message>
+        <source>--columns knows no &apos;%1&apos;; use some of %2</source>
+        <translation>--columns kennt &apos;%1&apos; nicht; einige von %2 verwenden</translation>
+    </message>
+    <message>
+        <source>--sort knows no &apos;%1&apos;; use name or one of %2</source>
+        <translation>--sort kennt &apos;%1&apos; nicht; name oder eines von %2 verwenden</translation>
+    </message>
+    <message>
+        <source>%1 is no goal; use a number, or one such as &apos;5000 characters&apos;</source>
+        <translation>%1 ist kein Ziel; eine Zahl verwenden oder eines wie &apos;5000 characters&apos;</translation>
     </message>
 </context>
 <context>

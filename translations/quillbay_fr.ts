@@ -1689,6 +1689,30 @@
         <source>each of these characters ends a word, too</source>
         <translation>chacun de ces caractères termine aussi un mot</translation>
     </message>
+    <message>
+        <source>print only these counts, in this order, separated by commas: words, characters, all-characters, sentences, lines, hard-line-breaks, paragraphs, indents, and those of --also</source>
+        <translation>n’afficher que ces statistiques, dans cet ordre, séparées par des virgules&#xa0;: words, characters, all-characters, sentences, lines, hard-line-breaks, paragraphs, indents, et celles de --also</translation>
+    </message>
+    <message>
+        <source>print the files with the largest COUNT first, such as words; or by name, with name</source>
+        <translation>afficher d’abord les fichiers dont la statistique COUNT est la plus grande, par exemple words&#x202f;; ou par nom, avec name</translation>
+    </message>
+    <message>
+        <source>compare all files together with a number of words, or with another count, such as &apos;5000 characters&apos;; the table ends with what remains</source>
+        <translation>comparer tous les fichiers ensemble à un nombre de mots, ou à une autre statistique, par exemple &apos;5000 characters&apos;&#x202f;; le tableau finit par ce qui reste</translation>
+    </message>
+    <message>
+        <source>count the files below each FILE that is a folder, or below this folder, but not what a .gitignore ignores, symbolic links, and what is no text</source>
+        <translation>compter les fichiers sous chaque FILE qui est un dossier, ou sous ce dossier, mais ni ce qu’un .gitignore ignore, ni les liens symboliques, ni ce qui n’est pas du texte</translation>
+    </message>
+    <message>
+        <source>with --recursive, count only files with such a name, as &apos;*.md&apos;; can be given several times</source>
+        <translation>avec --recursive, ne compter que les fichiers portant un tel nom, comme &apos;*.md&apos;&#x202f;; peut être donné plusieurs fois</translation>
+    </message>
+    <message>
+        <source>the goal has not been reached</source>
+        <translation>l’objectif n’est pas atteint</translation>
+    </message>
 </context>
 <context>
     <name>PageSizeForMeasuringPreviewViewController</name>
@@ -2700,6 +2724,34 @@
     <message>
         <source>--service counts words by Quillbay&apos;s own rules; leave out the other rules</source>
         <translation>--service compte les mots selon les règles de Quillbay&#x202f;; retirez les autres règles</translation>
+    </message>
+    <message>
+        <source>--also and --columns cannot be combined; name all counts in --columns</source>
+        <translation>--also et --columns ne peuvent pas être combinés&#x202f;; nommez toutes les statistiques dans --columns</translation>
+    </message>
+    <message>
+        <source>--include needs --recursive</source>
+        <translation>--include demande --recursive</translation>
+    </message>
+    <message>
+        <source>%1: goal %2, reached with %3 more</source>
+        <translation>%1&#xa0;: objectif %2, atteint, %3 de plus</translation>
+    </message>
+    <message>
+        <source>%1: goal %2, %3 to go</source>
+        <translation>%1&#xa0;: objectif %2, encore %3</translation>
+    </message>
+    <message>
+        <source>--columns knows no &apos;%1&apos;; use some of %2</source>
+        <translation>--columns ne connaît pas &apos;%1&apos;&#x202f;; utilisez certains de %2</translation>
+    </message>
+    <message>
+        <source>--sort knows no &apos;%1&apos;; use name or one of %2</source>
+        <translation>--sort ne connaît pas &apos;%1&apos;&#x202f;; utilisez name ou l’un de %2</translation>
+    </message>
+    <message>
+        <source>%1 is no goal; use a number, or one such as &apos;5000 characters&apos;</source>
+        <translation>%1 n’est pas un objectif&#x202f;; utilisez un nombre, ou un objectif comme &apos;5000 characters&apos;</translation>
     </message>
 </context>
 <context>

@@ -7,7 +7,8 @@ const ManualPage &countPage()
         .program = "quillbay",
         .command = "count",
         .summary = QT_TRANSLATE_NOOP("Manual", "print the counts of files or of standard input"),
-        .usages = {"[--json | --tsv | --explain-rules] [--also COUNTS] [--service] [--as-text] [--markdown] "
+        .usages = {"[--json | --tsv | --explain-rules] [--also COUNTS | --columns COUNTS] [--sort COUNT] "
+                   "[--goal GOAL] [--recursive [--include GLOB]…] [--service] [--as-text] [--markdown] "
                    "[--latex] "
                    "[--count-as PROGRAM] [--hyphenated COUNT] [--urls COUNT] [--separators CHARACTERS] "
                    "[--files-from LIST] [FILE…]"},
@@ -34,6 +35,31 @@ const ManualPage &countPage()
                     "also print these counts, separated by commas: pages, standard-pages, reading-time, "
                     "speaking-time, graphemes; none prints none of them; without this option, those that "
                     "your preferences show")},
+            {.name = "columns",
+                .placeholder = "COUNTS",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "print only these counts, in this order, separated by commas: words, characters, "
+                    "all-characters, sentences, lines, hard-line-breaks, paragraphs, indents, and those of "
+                    "--also")},
+            {.name = "sort",
+                .placeholder = "COUNT",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "print the files with the largest COUNT first, such as words; or by name, with name")},
+            {.name = "goal",
+                .placeholder = "GOAL",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "compare all files together with a number of words, or with another count, such as '5000 "
+                    "characters'; the table ends with what remains")},
+            {.name = "recursive",
+                .letter = 'r',
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "count the files below each FILE that is a folder, or below this folder, but not what a "
+                    ".gitignore ignores, symbolic links, and what is no text")},
+            {.name = "include",
+                .placeholder = "GLOB",
+                .text = QT_TRANSLATE_NOOP("Manual",
+                    "with --recursive, count only files with such a name, as '*.md'; can be given several "
+                    "times")},
             {.name = "count-as",
                 .placeholder = "PROGRAM",
                 .text = QT_TRANSLATE_NOOP("Manual",
@@ -87,7 +113,8 @@ const ManualPage &countPage()
                 "byte. In JSON, a name that is not valid UTF-8 has U+FFFD in place of such bytes, and the "
                 "member \"url\" beside it has them percent-encoded, as a file: URL.")},
         .exitStatuses = {{0, QT_TRANSLATE_NOOP("Manual", "all files were counted")},
-            {1, QT_TRANSLATE_NOOP("Manual", "a file could not be counted")}, {2, wrongUsageMeaning()}},
+            {1, QT_TRANSLATE_NOOP("Manual", "a file could not be counted")}, {2, wrongUsageMeaning()},
+            {3, QT_TRANSLATE_NOOP("Manual", "the goal has not been reached")}},
         .examples = {{"quillbay count *.txt",
                          QT_TRANSLATE_NOOP(
                              "Manual", "count the text files of this folder, with their total")},
