@@ -59,7 +59,8 @@ QByteArray printableText(const QString &text)
 {
     QByteArray printable;
     QByteArray piece;
-    for (const char byte : text.toUtf8().replace("\r\n", "\n")) {
+    const QByteArray bytes = text.toUtf8().replace("\r\n", "\n");
+    for (const char byte : bytes) {
         if (byte != '\n' && byte != '\t') {
             piece += byte;
             continue;

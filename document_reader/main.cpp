@@ -5,6 +5,8 @@
 #include "documents/loading/ReaderMessages.h"
 #include "platform/system/Processes.h"
 
+#include <QtGlobal>
+
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -40,6 +42,8 @@ int main(int argumentCount, char **)
             stderr);
         ::_exit(ReaderMessages::wrongUsageStatus);
     }
+    qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) {}); // they may be of a document
     loadEverythingThatReadersNeed();
     forbidNewThreads();
     // The owner limits the memory and the processor time before it sends the document.

@@ -16,7 +16,8 @@ protected:
         m_recorder.whenRecorded([&isDone] { isDone = true; });
         EXPECT_TRUE(waitUntil([&isDone] { return isDone; }));
         std::vector<quint64> words;
-        for (const RecordedCount &count : m_store.history(QFile::encodeName(path)).value())
+        const auto history = m_store.history(QFile::encodeName(path));
+        for (const RecordedCount &count : history.value())
             words.push_back(count.stats.numberOfWords);
         return words;
     }
