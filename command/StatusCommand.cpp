@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -42,8 +43,14 @@ Result<QBYWordCounterStats, QString> countDocument(const QByteArray &path, WordC
 /// Counts what has changed since it was counted last. Returns the exit status.
 int countChangedDocuments(ProgressStore &store, const std::vector<ListedDocument> &documents)
 {
+    constexpr std::size_t maxUnrecorded = 100; // a write to disk takes longer than most counts
     int status = 0;
     WordCounterModel model;
+    std::vector<DocumentCount> counts;
+    const auto record = [&]() -> int {
+        const auto recorded = store.recordAll(std::exchange(counts, {}), QDateTime::currentDateTime());
+        return recorded ? 0 : reportStoreFault(store, recorded.error());
+    };
     for (const ListedDocument &document : documents) {
         const QByteArray stamp = countStamp(document.path);
         if (!stamp.isEmpty() && stamp == document.stamp)
@@ -55,13 +62,11 @@ int countChangedDocuments(ProgressStore &store, const std::vector<ListedDocument
             status = 1;
             continue;
         }
-        const auto recorded =
-            store.record({.path = document.path, .stats = stats.value(), .saved = saved, .stamp = stamp},
-                QDateTime::currentDateTime());
-        if (!recorded)
-            return reportStoreFault(store, recorded.error());
+        counts.push_back({.path = document.path, .stats = stats.value(), .saved = saved, .stamp = stamp});
+        if (counts.size() >= maxUnrecorded && record() != 0)
+            return 1;
     }
-    return status;
+    return counts.empty() ? status : std::max(status, record());
 }
 
 QByteArray jsonOfStats(const QBYWordCounterStats &stats)

@@ -21,8 +21,11 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <algorithm>
 #include <cstdio>
 #include <string_view>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -71,6 +74,17 @@ int watchFiles(int argumentCount, char **arguments)
     }
     becomeWatchCommand(names);
     return notShown;
+}
+
+/// Each document of the list that is followed needs three descriptors.
+void raiseDescriptorLimit()
+{
+    constexpr rlim_t wanted = 16'384;
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= wanted)
+        return;
+    limit.rlim_cur = std::min(wanted, limit.rlim_max);
+    ::setrlimit(RLIMIT_NOFILE, &limit);
 }
 
 int showWindow(UniqueApplication &unique, const UniqueApplication::Request &request, bool hasBus)
@@ -130,6 +144,7 @@ int run(int argumentCount, char **arguments)
     if (role == UniqueApplication::Role::Later)
         return 0;
     const DesktopAppearance appearance;
+    raiseDescriptorLimit();
     return showWindow(unique, request, role == UniqueApplication::Role::First);
 }
 

@@ -226,23 +226,41 @@ ProgressStore::Failure ProgressStore::readTotal(qint64 document, QDate day, DayT
 ProgressStore::Answer<std::vector<Milestone>> ProgressStore::record(
     const DocumentCount &count, const QDateTime &now)
 {
+    return recordAll({count}, now);
+}
+
+ProgressStore::Answer<std::vector<Milestone>> ProgressStore::recordAll(
+    const std::vector<DocumentCount> &counts, const QDateTime &now)
+{
     // Most counts are of documents that are in no list: they cost no lock.
-    ListedDocument document;
-    std::vector<Milestone> milestones;
-    const auto finding = [&] {
-        document = {};
-        return find(count.path, document);
+    bool isAnyListed = false;
+    const auto finding = [&]() -> Failure {
+        isAnyListed = false;
+        for (const DocumentCount &count : counts) {
+            ListedDocument document;
+            if (Failure failure = find(count.path, document))
+                return failure;
+            isAnyListed = isAnyListed || document.identifier != 0;
+        }
+        return {};
     };
+    std::vector<Milestone> milestones;
     if (Failure failure = read(finding))
         return *failure;
-    if (document.identifier == 0)
+    if (!isAnyListed)
         return milestones;
     const auto recording = [&]() -> Failure {
-        document = {};
         milestones.clear();
-        if (Failure failure = find(count.path, document); failure || document.identifier == 0)
-            return failure;
-        return recordFor(document, count, now, milestones);
+        for (const DocumentCount &count : counts) {
+            ListedDocument document;
+            if (Failure failure = find(count.path, document))
+                return failure;
+            if (document.identifier == 0)
+                continue;
+            if (Failure failure = recordFor(document, count, now, milestones))
+                return failure;
+        }
+        return {};
     };
     if (Failure failure = write(recording))
         return *failure;

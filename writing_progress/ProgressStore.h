@@ -75,6 +75,8 @@ public:
     /// for others. now: the local time. A save that is newer than the last count, and not in the future,
     /// counts for its own day.
     Answer<std::vector<Milestone>> record(const DocumentCount &count, const QDateTime &now);
+    /// The same for several, all or none of which are on disk afterwards.
+    Answer<std::vector<Milestone>> recordAll(const std::vector<DocumentCount> &counts, const QDateTime &now);
 
     /// The counts of a document, in the order in which they were recorded.
     Answer<std::vector<RecordedCount>> history(const QByteArray &path);

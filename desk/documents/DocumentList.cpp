@@ -50,7 +50,10 @@ std::unique_ptr<FollowedDocument> DocumentList::makeDocument(const ListedDocumen
 {
     auto document = std::make_unique<FollowedDocument>(listed, m_surroundings);
     FollowedDocument *const known = document.get();
-    connect(known, &FollowedDocument::changed, this, [this, known] { Q_EMIT changed(indexOf(*known)); });
+    connect(known, &FollowedDocument::changed, this, [this, known] {
+        if (!m_isResetting)
+            Q_EMIT changed(indexOf(*known));
+    });
     connect(known, &FollowedDocument::recorded, this, [this, known] { readTotal(*known); });
     connect(known, &FollowedDocument::moved, this, [this, known](const QByteArray &from) {
         if (auto plan = m_plans.extract(from)) {
@@ -69,10 +72,11 @@ void DocumentList::load()
         !listed ? std::optional(listed.error()) : (plans ? std::nullopt : std::optional(plans.error())));
     if (!listed || !plans)
         return;
+    Q_EMIT aboutToReset();
+    m_isResetting = true;
     std::map<QByteArray, std::unique_ptr<FollowedDocument>> known;
     for (auto &document : m_documents)
         known[document->path()] = std::move(document);
-    Q_EMIT aboutToReset();
     m_documents.clear();
     m_plans = plans.value();
     for (const ListedDocument &document : listed.value()) {
@@ -83,6 +87,7 @@ void DocumentList::load()
             m_toBegin.emplace_back(m_documents.back().get());
     }
     readTotals();
+    m_isResetting = false;
     Q_EMIT wasReset();
     m_beginning.start();
 }

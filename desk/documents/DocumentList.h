@@ -72,4 +72,5 @@ private:
     QTimer m_beginning;
     QTimer m_checking;
     bool m_isBeginning = false;
+    bool m_isResetting = false;
 };

@@ -44,8 +44,6 @@ bool isPlainFolder(const QByteArray &path)
 
 DocumentsPage::DocumentsPage(std::function<void(const QByteArrayList &paths)> watch)
     : m_watch(std::move(watch))
-    , m_activity(true)
-    , m_activitySource(m_activity)
     , m_list(m_activity)
     , m_table(m_list)
     , m_ui(std::make_unique<Ui::DocumentsPage>())
@@ -66,12 +64,13 @@ DocumentsPage::DocumentsPage(std::function<void(const QByteArrayList &paths)> wa
         m_problem = text;
         showState();
     });
-    for (const auto signal : {&DocumentList::wasReset})
-        connect(&m_list, signal, this, [this] {
-            fitColumns();
-            showState();
-        });
-    connect(&m_list, &DocumentList::changed, this, &DocumentsPage::showState);
+    connect(&m_list, &DocumentList::wasReset, this, [this] {
+        fitColumns();
+        showState();
+    });
+    m_refresh.setSingleShot(true);
+    connect(&m_refresh, &QTimer::timeout, this, &DocumentsPage::showState);
+    connect(&m_list, &DocumentList::changed, &m_refresh, qOverload<>(&QTimer::start));
     connect(m_ui->documentTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &DocumentsPage::showState);
     connect(m_ui->filterEdit, &QLineEdit::textChanged, this, [this](const QString &text) {

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "desk/documents/DocumentTable.h"
-#include "platform/views/widgets/ApplicationActivitySource.h"
+#include "platform/views/ApplicationActivity.h"
 
 #include <QSortFilterProxyModel>
 #include <QWidget>
@@ -52,11 +52,13 @@ private:
     void select(int row);
 
     const std::function<void(const QByteArrayList &paths)> m_watch;
-    ApplicationActivity m_activity;
-    ApplicationActivitySource m_activitySource;
+    // Always active: many documents are not polled. Their events suffice, and file systems without events are
+    // polled below.
+    ApplicationActivity m_activity{true};
     DocumentList m_list;
     DocumentTable m_table;
     QSortFilterProxyModel m_sorted;
     QString m_problem; // of the store
+    QTimer m_refresh; // after changes of rows, of which many come at once
     std::unique_ptr<Ui::DocumentsPage> m_ui;
 };

@@ -118,6 +118,8 @@ TEST_F(DeskProgram, RemembersTheSizeOfItsWindow)
 
 TEST_F(DeskProgram, WorksWithoutASessionBus)
 {
+    // The window begins with its second page, Rules.
+    UserDefaults(QStringLiteral("com.quillbay.Desk")).setObject(qint64{1}, QStringLiteral("Page"));
     ChildProcess process(program());
     process.withVariable("DBUS_SESSION_BUS_ADDRESS", TestHome::busAddress(world().runtime()).toUtf8());
     process.start({});

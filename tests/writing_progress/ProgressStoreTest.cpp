@@ -44,6 +44,19 @@ TEST_F(ProgressStoreTest, TheSameCountFromTwoProcessesIsOneRow)
     EXPECT_THAT(history("/book/a.md"), ElementsAre(10));
 }
 
+TEST_F(ProgressStoreTest, SeveralCountsAreRecordedTogether)
+{
+    add({"/book/a.md", "/book/b.md"});
+    EXPECT_TRUE(
+        m_store
+            .recordAll({{.path = "/book/a.md", .stats = words(1)}, {.path = "/other", .stats = words(2)},
+                           {.path = "/book/b.md", .stats = words(3)}},
+                at("2026-11-22 10:00:00"))
+            .hasValue());
+    EXPECT_THAT(history("/book/a.md"), ElementsAre(1));
+    EXPECT_THAT(history("/book/b.md"), ElementsAre(3));
+}
+
 TEST_F(ProgressStoreTest, AMinuteHasOneRow)
 {
     add({"/book/a.md"});
