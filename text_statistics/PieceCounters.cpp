@@ -5,6 +5,7 @@
 #include <atomic>
 #include <new>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -38,8 +39,9 @@ public:
     {
         // The longest first, so that the threads finish at about the same time.
         std::iota(m_order.begin(), m_order.end(), size_t{0});
-        std::stable_sort(m_order.begin(), m_order.end(),
-            [&](size_t left, size_t right) { return lengthOf(m_pieces[left]) > lengthOf(m_pieces[right]); });
+        std::sort(m_order.begin(), m_order.end(), [&](size_t left, size_t right) {
+            return std::pair(lengthOf(m_pieces[right]), left) < std::pair(lengthOf(m_pieces[left]), right);
+        });
         m_rules.fixLocale();
     }
 
