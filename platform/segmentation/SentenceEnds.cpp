@@ -3,6 +3,8 @@
 
 #include "platform/segmentation/CharacterClasses.h"
 
+#include <optional>
+
 namespace {
 
 // Walks over the code units of a text; behind its end there are separators.
@@ -87,26 +89,35 @@ bool followsCasedLetter(QStringView text, qsizetype sentence, qsizetype position
     return false;
 }
 
-// A mark, perhaps a space, and a capital letter or the end of the paragraph: the end of nearly every English
-// sentence, of which the rules need not be asked. 0 for anything else.
-qsizetype simpleEndBehind(QStringView text, qsizetype mark)
+bool isEnglishMark(char16_t unit)
+{
+    return unit == u'.' || unit == u'?' || unit == u'!';
+}
+
+// For a mark that is followed by another one, by the end of the paragraph, or by a space and a capital
+// letter: nearly all in English, of which the rules need not be asked.
+std::optional<SentenceStep> simpleStepAt(QStringView text, qsizetype mark)
 {
     const char16_t *const units = text.utf16();
-    if ((units[mark] != u'.' && units[mark] != u'?' && units[mark] != u'!') || mark + 2 >= text.size())
-        return 0;
-    if (units[mark + 1] == u'\n')
-        return mark + 1;
+    if (!isEnglishMark(units[mark]) || mark + 2 >= text.size())
+        return std::nullopt;
+    const char16_t next = units[mark + 1];
+    if (next == u'\n')
+        return SentenceStep{true, mark + 1};
+    if (isEnglishMark(next)) // SB8a
+        return SentenceStep{false, mark + 1};
     const char16_t after = units[mark + 2];
-    const bool isCapital = after >= u'A' && after <= u'Z';
-    return units[mark + 1] == u' ' && isCapital ? mark + 2 : 0;
+    if (next == u' ' && after >= u'A' && after <= u'Z') // SB11
+        return SentenceStep{true, mark + 2};
+    return std::nullopt;
 }
 
 } // namespace
 
 SentenceStep sentenceStepAt(QStringView text, qsizetype sentence, qsizetype terminator)
 {
-    if (const qsizetype end = simpleEndBehind(text, terminator); end > 0)
-        return {true, end};
+    if (const std::optional<SentenceStep> step = simpleStepAt(text, terminator))
+        return *step;
     Cursor cursor(text, terminator);
     const SentenceClass kind = cursor.value();
     cursor.advance();

@@ -187,11 +187,17 @@ quint64 LayoutEngine::countLines(const AttributedString &text, double columnWidt
 quint64 LayoutEngine::countLines(const AttributedString &text, double columnWidth, qsizetype start,
     qsizetype end, const Progress &progress)
 {
+    const char16_t *const units = QStringView(text.string()).utf16();
     quint64 count = 0;
     while (start < end) {
-        const Paragraph paragraph = paragraphAt(text.string(), start);
-        count += countLinesOfParagraph(text, paragraph, columnWidth, {}, progress);
-        start = paragraph.end();
+        if (units[start] == u'\n') { // an empty paragraph
+            ++count;
+            ++start;
+        } else {
+            const Paragraph paragraph = paragraphAt(text.string(), start);
+            count += countLinesOfParagraph(text, paragraph, columnWidth, {}, progress);
+            start = paragraph.end();
+        }
         if (progress)
             progress(start);
     }
