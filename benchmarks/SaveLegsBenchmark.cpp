@@ -137,12 +137,18 @@ public:
 
     [[nodiscard]] QBYWordCounterStats count(const std::shared_ptr<const SealedMemory> &data) const
     {
-        std::promise<QBYWordCounterStats> promise;
-        std::future<QBYWordCounterStats> answer = promise.get_future();
-        WordCounterServiceProtocol(m_connection.remoteObjectProxy())
-            .countWordsForAttributedStringRTFDData(
-                data, [&promise](const QBYWordCounterStats &stats) { promise.set_value(stats); });
-        return answer.get();
+        // A connection that gives up a request destroys its handler, which breaks the promise.
+        auto promise = std::make_shared<std::promise<QBYWordCounterStats>>();
+        std::future<QBYWordCounterStats> answer = promise->get_future();
+        const WordCounterServiceProtocol service(m_connection.remoteObjectProxy());
+        service.countWordsForAttributedStringRTFDData(
+            data, [promise](const QBYWordCounterStats &stats) { promise->set_value(stats); });
+        promise.reset();
+        try {
+            return answer.get();
+        } catch (const std::future_error &) {
+            qFatal("the counting service does not answer; set XDG_DATA_DIRS");
+        }
     }
 
 private:

@@ -168,7 +168,7 @@ void FilePresentation::look()
         watch();
     const FileSighting seen = sight();
     if (seen.state && isElsewhere) {
-        m_pin = PinnedFile(m_path);
+        m_pin.replaceBy(PinnedFile(m_path));
         HeldFile::replaceAt(m_path);
     }
     const Clock::Time now = m_clock.now();

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/file_coordination/HeldFiles.h"
 
+#include "platform/system/DispatchQueue.h"
+
 #include <algorithm>
 #include <climits>
+#include <utility>
 #include <vector>
 
 #include <fcntl.h>
@@ -23,6 +26,12 @@ std::vector<HeldFile *> &heldFiles()
 PinnedFile::PinnedFile(const QByteArray &path)
     : m_descriptor(::open(path.constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC))
 {
+}
+
+void PinnedFile::replaceBy(PinnedFile file)
+{
+    auto before = std::make_shared<PinnedFile>(std::exchange(*this, std::move(file)));
+    DispatchQueue(QStringLiteral("replaced file")).async([before = std::move(before)] {});
 }
 
 bool PinnedFile::isAt(const QByteArray &path) const
@@ -100,6 +109,6 @@ void HeldFile::replaceAt(const QByteArray &path)
         if (file->m_path != path)
             continue;
         if (PinnedFile pin(path); pin)
-            file->m_pin = std::move(pin);
+            file->m_pin.replaceBy(std::move(pin));
     }
 }

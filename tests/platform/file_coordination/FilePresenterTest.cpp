@@ -10,12 +10,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QThread>
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <algorithm>
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -62,6 +65,14 @@ protected:
     [[nodiscard]] QString at(const QString &name) const { return m_folder + u'/' + name; }
     static QString movedTo(const QString &path) { return QStringLiteral("moved to ") + path; }
 
+    static bool isOpen(const QString &file)
+    {
+        const QDir descriptors(QStringLiteral("/proc/self/fd"));
+        const QStringList names = descriptors.entryList(QDir::System | QDir::AllEntries);
+        return std::ranges::any_of(names,
+            [&](const QString &name) { return QFile::symLinkTarget(descriptors.filePath(name)) == file; });
+    }
+
     const QString m_changed = QStringLiteral("changed");
     const QString m_deleted = QStringLiteral("deleted");
     const QString m_path = writeFile(QStringLiteral("above/folder/f.txt"), "before");
@@ -69,6 +80,16 @@ protected:
     FakeClock m_clock;
     RecordingPresenter m_presenter{m_path};
 };
+
+TEST_F(FilePresenterTest, AReplacedFileIsClosed)
+{
+    EXPECT_TRUE(isOpen(m_path));
+    replace(m_path, "after");
+    EXPECT_THAT(allNews(), ElementsAre(m_changed));
+    while (isOpen(m_path + QStringLiteral(" (deleted)")))
+        QThread::yieldCurrentThread(); // another thread closes it
+    EXPECT_TRUE(isOpen(m_path));
+}
 
 TEST_F(FilePresenterTest, NothingIsReportedWithoutAChange)
 {
