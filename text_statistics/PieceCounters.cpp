@@ -30,9 +30,9 @@ class PieceCounters::Job {
 public:
     using Tick = std::function<void()>;
 
-    Job(const TextInColumn &text, const TextRules &rules, std::span<CountedPiece> pieces)
+    Job(const TextInColumn &text, TextRules rules, std::span<CountedPiece> pieces)
         : m_text(text)
-        , m_rules(rules)
+        , m_rules(std::move(rules))
         , m_pieces(pieces)
         , m_order(pieces.size())
         , m_lines(pieces.size())
