@@ -866,7 +866,7 @@
     </message>
     <message>
         <source> words per minute</source>
-        <translation> Wörtern pro Minute</translation>
+        <translation> Wörter pro Minute</translation>
     </message>
     <message>
         <source>Standard Page</source>
