@@ -73,13 +73,15 @@ DocumentTable::DocumentTable(const DocumentList &list)
 
 void DocumentTable::chooseColumns()
 {
-    std::vector<Column> columns{{Kind::Name}, {Kind::Folder}};
+    // What a writer looks for first is on the left; a narrow window hides the rest.
+    std::vector<Column> columns{{Kind::Name}, {Kind::Count, Statistic::Words}, {Kind::Session}, {Kind::Today},
+        {Kind::Goal}, {Kind::Progress}};
     for (const StatisticRow &row : statisticTable) {
-        if (isShown(row.statistic))
+        if (row.statistic != Statistic::Words && isShown(row.statistic))
             columns.push_back({Kind::Count, row.statistic});
     }
-    for (const Kind kind : {Kind::Session, Kind::Today, Kind::Goal, Kind::Progress, Kind::Saved})
-        columns.push_back({kind});
+    columns.push_back({Kind::Saved});
+    columns.push_back({Kind::Folder});
     const bool isSame = std::ranges::equal(columns, m_columns, [](const Column &one, const Column &other) {
         return one.kind == other.kind && one.statistic == other.statistic;
     });
