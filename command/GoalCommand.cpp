@@ -84,11 +84,9 @@ int runGoalCommand(const CommandWords &words)
         return reportWrongValue(CommandText::tr("'%1' is not a number from 1 to %2")
                                     .arg(printablePath(words.operands.last()))
                                     .arg(maxGoal));
-    const std::optional<Statistic> statistic =
-        goalStatisticNamed(words.valueOf("of").value_or(machineName(Statistic::Words)));
+    const std::optional<Statistic> statistic = goalStatisticNamed(words.valueOf("of").value_or("words"));
     if (!statistic)
-        return reportWrongValue(
-            CommandText::tr("--of takes words, characters, charactersIncludingWhitespace or lines"));
+        return reportWrongValue(CommandText::tr("--of takes words, characters, all-characters or lines"));
     if (isLimit) {
         plan.limit = Limit{.statistic = *statistic, .amount = amount};
         return statusOf(store, store.setPlan(path, plan));

@@ -2,6 +2,7 @@
 #include "command/ProgressAccess.h"
 
 #include "command/CommandWords.h"
+#include "command/CountColumn.h"
 #include "command/FileNames.h"
 #include "platform/defaults/FaultText.h"
 #include "platform/system/FileURL.h"
@@ -35,14 +36,9 @@ int statusOf(const ProgressStore &store, const ProgressStore::Failure &failure)
     return failure ? reportStoreFault(store, *failure) : 0;
 }
 
-QByteArray machineName(Statistic statistic)
-{
-    return statisticTable.at(static_cast<std::size_t>(statistic)).name;
-}
-
 std::optional<Statistic> goalStatisticNamed(const QByteArray &name)
 {
     const auto found = std::ranges::find_if(
-        goalStatistics, [&](Statistic statistic) { return machineName(statistic) == name; });
+        goalStatistics, [&](Statistic statistic) { return typedNameOf(statistic) == name.toStdString(); });
     return found == goalStatistics.end() ? std::nullopt : std::optional(*found);
 }

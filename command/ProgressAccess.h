@@ -17,6 +17,5 @@ void reportBrokenFile(const ProgressStore &store);
 /// The fault of an operation as an exit status: 0 if there is none, 1 after reporting it.
 int statusOf(const ProgressStore &store, const ProgressStore::Failure &failure);
 
-/// Of a name in machine-readable output, such as "words"; absent if goals cannot have it.
+/// Of a name as users type it, such as "all-characters"; absent if goals cannot have it.
 std::optional<Statistic> goalStatisticNamed(const QByteArray &name);
-QByteArray machineName(Statistic statistic);

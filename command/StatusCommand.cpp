@@ -2,6 +2,7 @@
 // "quillbay status": the documents of the list, what today brought, and how far their goals are.
 #include "command/CommandWords.h"
 #include "command/Commands.h"
+#include "command/CountColumn.h"
 #include "command/FileNames.h"
 #include "command/FirstLaunchStep.h"
 #include "command/NamedDocument.h"
@@ -88,7 +89,7 @@ QByteArray jsonOfChange(const DayTotal &today)
 QByteArray jsonOfGoal(const Goal &goal, const DayTotal &today)
 {
     const GoalProgress progress = progressOf(goal, today);
-    QByteArray json = "{\"statistic\":\"" + machineName(goal.statistic) + "\",\"amount\":"
+    QByteArray json = QByteArray("{\"statistic\":\"") + machineNameOf(goal.statistic) + "\",\"amount\":"
         + QByteArray::number(goal.amount) + ",\"span\":\"" + (goal.span == Goal::Span::Day ? "day" : "total")
         + "\",\"done\":" + QByteArray::number(progress.done) + ",\"remaining\":"
         + QByteArray::number(progress.remaining()) + ",\"percent\":" + QByteArray::number(progress.percent());
@@ -111,7 +112,7 @@ QByteArray jsonOf(const StatusRow &row)
     if (row.isCounted && row.plan.goal)
         json += ",\"goal\":" + jsonOfGoal(*row.plan.goal, row.today);
     if (row.isCounted && row.plan.limit)
-        json += ",\"limit\":{\"statistic\":\"" + machineName(row.plan.limit->statistic)
+        json += QByteArray(",\"limit\":{\"statistic\":\"") + machineNameOf(row.plan.limit->statistic)
             + "\",\"amount\":" + QByteArray::number(row.plan.limit->amount)
             + ",\"isPassed\":" + (isPassed(*row.plan.limit, row.today.counts) ? "true}" : "false}");
     return json + '}';

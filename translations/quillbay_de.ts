@@ -1566,8 +1566,8 @@
         <translation>Was gelöscht wird, geht vom Ziel eines Tages ab. Mit --added-only nicht: Dann zählt, was zwischen zwei Speicherungen dazukommt, und Gelöschtes bleibt außer Betracht.</translation>
     </message>
     <message>
-        <source>count words (the default), characters, charactersIncludingWhitespace or lines</source>
-        <translation>words (Standard), characters, charactersIncludingWhitespace oder lines zählen</translation>
+        <source>count words (the default), characters, all-characters or lines</source>
+        <translation>words (Standard), characters, all-characters oder lines zählen</translation>
     </message>
     <message>
         <source>reach the goal until DATE, such as 2026-11-30</source>
@@ -2650,8 +2650,8 @@
         <translation>&apos;%1&apos; ist keine Zahl von 1 bis %2</translation>
     </message>
     <message>
-        <source>--of takes words, characters, charactersIncludingWhitespace or lines</source>
-        <translation>--of nimmt words, characters, charactersIncludingWhitespace oder lines</translation>
+        <source>--of takes words, characters, all-characters or lines</source>
+        <translation>--of nimmt words, characters, all-characters oder lines</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a date such as 2026-11-30</source>

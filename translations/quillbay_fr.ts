@@ -1566,8 +1566,8 @@
         <translation>Ce qui est supprimé se déduit de l’objectif du jour. Pas avec --added-only&#xa0;: ce qui est ajouté entre deux enregistrements compte, et ce qui est supprimé est laissé de côté.</translation>
     </message>
     <message>
-        <source>count words (the default), characters, charactersIncludingWhitespace or lines</source>
-        <translation>compter words (par défaut), characters, charactersIncludingWhitespace ou lines</translation>
+        <source>count words (the default), characters, all-characters or lines</source>
+        <translation>compter words (par défaut), characters, all-characters ou lines</translation>
     </message>
     <message>
         <source>reach the goal until DATE, such as 2026-11-30</source>
@@ -2650,8 +2650,8 @@
         <translation>&apos;%1&apos; n’est pas un nombre de 1 à %2</translation>
     </message>
     <message>
-        <source>--of takes words, characters, charactersIncludingWhitespace or lines</source>
-        <translation>--of prend words, characters, charactersIncludingWhitespace ou lines</translation>
+        <source>--of takes words, characters, all-characters or lines</source>
+        <translation>--of prend words, characters, all-characters ou lines</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a date such as 2026-11-30</source>

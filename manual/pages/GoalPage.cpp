@@ -20,8 +20,8 @@ const ManualPage &goalPage()
         .completion = ShellCompletion::Files,
         .options = {{.name = "of",
                         .placeholder = "STATISTIC",
-                        .text = QT_TRANSLATE_NOOP("Manual",
-                            "count words (the default), characters, charactersIncludingWhitespace or lines")},
+                        .text = QT_TRANSLATE_NOOP(
+                            "Manual", "count words (the default), characters, all-characters or lines")},
             {.name = "by",
                 .placeholder = "DATE",
                 .text = QT_TRANSLATE_NOOP("Manual", "reach the goal until DATE, such as 2026-11-30")},
@@ -34,7 +34,7 @@ const ManualPage &goalPage()
             {1, QT_TRANSLATE_NOOP("Manual", "the goal cannot be read or stored")}, {2, wrongUsageMeaning()}},
         .examples = {{"quillbay goal --by 2026-11-30 novel 50000",
                          QT_TRANSLATE_NOOP("Manual", "write 50,000 words in a folder until 30 November")},
-            {"quillbay goal --limit --of charactersIncludingWhitespace abstract.odt 5000",
+            {"quillbay goal --limit --of all-characters abstract.odt 5000",
                 QT_TRANSLATE_NOOP("Manual", "be told when an abstract has more than 5,000 characters")}},
         .seeAlso = {"quillbay-documents(1)", "quillbay-status(1)"},
     };

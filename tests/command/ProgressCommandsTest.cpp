@@ -94,6 +94,16 @@ TEST_F(ProgressCommandsTest, ADocumentThatCannotBeReadIsReported)
     EXPECT_EQ(quillbay({"documents"}).output, "");
 }
 
+TEST_F(ProgressCommandsTest, AGoalIsForTheStatisticOfThatName)
+{
+    const QByteArray path = file("a.txt", "one two");
+    quillbay({"documents", path});
+    EXPECT_EQ(quillbay({"goal", "--of", "all-characters", path, "10"}).exitStatus, 0);
+    EXPECT_EQ(
+        status("documents.0.goal.statistic").toString(), QStringLiteral("charactersIncludingWhitespace"));
+    EXPECT_EQ(status("documents.0.goal.remaining").toInt(), 3);
+}
+
 TEST_F(ProgressCommandsTest, WrongUsageIsReported)
 {
     const QByteArray path = file("a.txt", "one");
