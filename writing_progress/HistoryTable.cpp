@@ -53,17 +53,10 @@ QByteArray HistoryTable::schema()
 HistoryTable::Failure HistoryTable::find(qint64 document, Place &place) const
 {
     DatabaseStatement statement = m_file.prepare(selection("ORDER BY sequence DESC LIMIT 1"));
-    switch (statement.bind(1, document).step()) {
-    case DatabaseStatement::Outcome::Row:
+    return m_file.forEachRow(statement.bind(1, document), [&] {
         place = {.sequence = statement.integer(firstCountColumn + static_cast<int>(statisticCount)),
             .last = rowOf(statement)};
-        break;
-    case DatabaseStatement::Outcome::End:
-        break;
-    case DatabaseStatement::Outcome::Failed:
-        return m_file.faultOf(statement);
-    }
-    return {};
+    });
 }
 
 HistoryTable::Failure HistoryTable::readLast(qint64 document, std::optional<RecordedCount> &last) const
@@ -103,17 +96,7 @@ HistoryTable::Failure HistoryTable::append(qint64 document, const RecordedCount 
 HistoryTable::Failure HistoryTable::read(
     DatabaseStatement &statement, std::vector<RecordedCount> &counts) const
 {
-    while (true) {
-        switch (statement.step()) {
-        case DatabaseStatement::Outcome::Row:
-            counts.push_back(rowOf(statement));
-            break;
-        case DatabaseStatement::Outcome::End:
-            return {};
-        case DatabaseStatement::Outcome::Failed:
-            return m_file.faultOf(statement);
-        }
-    }
+    return m_file.forEachRow(statement, [&] { counts.push_back(rowOf(statement)); });
 }
 
 HistoryTable::Failure HistoryTable::readDay(

@@ -60,17 +60,8 @@ PlanTable::Failure PlanTable::read(Plans &plans) const
     DatabaseStatement statement =
         m_file.prepare("SELECT path, goal_statistic, goal_amount, goal_span, goal_deadline,"
                        " goal_counts_added_only, limit_statistic, limit_amount FROM plan");
-    while (true) {
-        switch (statement.step()) {
-        case DatabaseStatement::Outcome::Row:
-            plans[statement.bytes(0)] = {.goal = goalOf(statement), .limit = limitOf(statement)};
-            break;
-        case DatabaseStatement::Outcome::End:
-            return {};
-        case DatabaseStatement::Outcome::Failed:
-            return m_file.faultOf(statement);
-        }
-    }
+    return m_file.forEachRow(statement,
+        [&] { plans[statement.bytes(0)] = {.goal = goalOf(statement), .limit = limitOf(statement)}; });
 }
 
 PlanTable::Failure PlanTable::set(const QByteArray &path, const Plan &plan) const
@@ -102,16 +93,7 @@ PlanTable::Failure PlanTable::note(
     const QByteArray name(column);
     DatabaseStatement statement = m_file.prepare(
         "UPDATE plan SET " + name + " = ?2 WHERE path = ?1 AND " + name + " IS NOT ?2 RETURNING path");
-    switch (statement.bindBytes(1, path).bind(2, value).step()) {
-    case DatabaseStatement::Outcome::Row:
-        isNew = true;
-        return m_file.execute(statement);
-    case DatabaseStatement::Outcome::End:
-        return {};
-    case DatabaseStatement::Outcome::Failed:
-        break;
-    }
-    return m_file.faultOf(statement);
+    return m_file.forEachRow(statement.bindBytes(1, path).bind(2, value), [&isNew] { isNew = true; });
 }
 
 PlanTable::Failure PlanTable::noteMilestones(

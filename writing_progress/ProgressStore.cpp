@@ -79,17 +79,9 @@ ProgressStore::Failure ProgressStore::readDocuments(std::vector<ListedDocument> 
     DatabaseStatement statement =
         m_file.prepare("SELECT id, path, stamp FROM document ORDER BY position, id LIMIT ?1");
     statement.bind(1, static_cast<qint64>(maxDocuments));
-    while (true) {
-        switch (statement.step()) {
-        case DatabaseStatement::Outcome::Row:
-            documents.push_back({statement.integer(0), statement.bytes(1), statement.bytes(2)});
-            break;
-        case DatabaseStatement::Outcome::End:
-            return {};
-        case DatabaseStatement::Outcome::Failed:
-            return m_file.faultOf(statement);
-        }
-    }
+    return m_file.forEachRow(statement, [&] {
+        documents.push_back({statement.integer(0), statement.bytes(1), statement.bytes(2)});
+    });
 }
 
 ProgressStore::Answer<std::vector<ListedDocument>> ProgressStore::documents()
@@ -107,16 +99,9 @@ ProgressStore::Answer<std::vector<ListedDocument>> ProgressStore::documents()
 ProgressStore::Failure ProgressStore::find(const QByteArray &path, ListedDocument &document)
 {
     DatabaseStatement statement = m_file.prepare("SELECT id, path, stamp FROM document WHERE path = ?1");
-    switch (statement.bindBytes(1, path).step()) {
-    case DatabaseStatement::Outcome::Row:
+    return m_file.forEachRow(statement.bindBytes(1, path), [&] {
         document = {statement.integer(0), statement.bytes(1), statement.bytes(2)};
-        return {};
-    case DatabaseStatement::Outcome::End:
-        return {};
-    case DatabaseStatement::Outcome::Failed:
-        break;
-    }
-    return m_file.faultOf(statement);
+    });
 }
 
 ProgressStore::Answer<int> ProgressStore::add(const QByteArrayList &paths)
@@ -134,15 +119,8 @@ ProgressStore::Answer<int> ProgressStore::add(const QByteArrayList &paths)
             if (documents.size() + static_cast<std::size_t>(added) >= maxDocuments)
                 return {};
             statement.reset();
-            switch (statement.bindBytes(1, path).step()) {
-            case DatabaseStatement::Outcome::Row:
-                ++added;
-                break;
-            case DatabaseStatement::Outcome::End:
-                break;
-            case DatabaseStatement::Outcome::Failed:
-                return m_file.faultOf(statement);
-            }
+            if (Failure failure = m_file.forEachRow(statement.bindBytes(1, path), [&added] { ++added; }))
+                return failure;
         }
         return {};
     };

@@ -76,11 +76,13 @@ DatabaseFile::Failure DatabaseFile::execute(const QByteArray &text) const
     return execute(statement);
 }
 
-DatabaseFile::Failure DatabaseFile::execute(DatabaseStatement &statement) const
+DatabaseFile::Failure DatabaseFile::forEachRow(
+    DatabaseStatement &statement, const std::function<void()> &reading) const
 {
     while (true) {
         switch (statement.step()) {
         case DatabaseStatement::Outcome::Row:
+            reading();
             break;
         case DatabaseStatement::Outcome::End:
             return {};
@@ -88,6 +90,11 @@ DatabaseFile::Failure DatabaseFile::execute(DatabaseStatement &statement) const
             return faultOf(statement);
         }
     }
+}
+
+DatabaseFile::Failure DatabaseFile::execute(DatabaseStatement &statement) const
+{
+    return forEachRow(statement, [] {});
 }
 
 bool DatabaseFile::isOpen(dev_t device, ino_t inode, Purpose purpose) const

@@ -64,6 +64,8 @@ public:
     // Only while one of these functions is called.
     [[nodiscard]] DatabaseStatement prepare(const QByteArray &text) const { return {m_database, text}; }
     Failure execute(const QByteArray &text) const;
+    /// Steps the statement to its end, and calls the function at each row.
+    Failure forEachRow(DatabaseStatement &statement, const std::function<void()> &reading) const;
     /// Steps the statement to its end.
     Failure execute(DatabaseStatement &statement) const;
     [[nodiscard]] DatabaseFault faultOf(const DatabaseStatement &statement) const;

@@ -65,16 +65,7 @@ Result<std::optional<DefaultsValue>, SuiteFault> SuiteDatabase::read(const QStri
 DatabaseFile::Failure SuiteDatabase::select(const QString &key, std::optional<DefaultsValue> &value)
 {
     DatabaseStatement statement = m_file.prepare("SELECT type, value FROM preference WHERE key = ?1");
-    switch (statement.bind(1, key).step()) {
-    case DatabaseStatement::Outcome::Row:
-        value = storedValue(statement);
-        break;
-    case DatabaseStatement::Outcome::End:
-        break;
-    case DatabaseStatement::Outcome::Failed:
-        return m_file.faultOf(statement);
-    }
-    return {};
+    return m_file.forEachRow(statement.bind(1, key), [&] { value = storedValue(statement); });
 }
 
 std::optional<SuiteFault> SuiteDatabase::write(
