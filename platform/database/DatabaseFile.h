@@ -8,6 +8,7 @@
 #include "platform/system/Result.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QString>
 
 #include <chrono>
