@@ -244,7 +244,7 @@ void CountCommand::explainRules(const QByteArrayList &names)
 
 QByteArrayList CountCommand::inputNames()
 {
-    QByteArrayList names = m_arguments.fileNames;
+    const QByteArrayList names = m_arguments.fileNames;
     if (!m_arguments.listName)
         return withoutFolders(names);
     const Result<QByteArray, FileError> list = readNamed(*m_arguments.listName);

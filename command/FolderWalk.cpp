@@ -13,6 +13,7 @@
 #include <climits>
 #include <cstdlib>
 #include <memory>
+#include <ranges>
 
 namespace {
 
@@ -133,9 +134,9 @@ void FolderWalk::walk(const QByteArray &path, const QByteArray &absolutePath, si
 // The list that is nearest to the file decides.
 bool FolderWalk::isIgnored(const QByteArray &absolutePath, bool isFolder) const
 {
-    for (auto level = m_levels.rbegin(); level != m_levels.rend(); ++level) {
-        const QByteArrayView path = QByteArrayView(absolutePath).sliced(level->prefixLength);
-        if (const std::optional<bool> ignored = level->rules.ignores(path, isFolder))
+    for (const auto &level : m_levels | std::views::reverse) {
+        const QByteArrayView path = QByteArrayView(absolutePath).sliced(level.prefixLength);
+        if (const std::optional<bool> ignored = level.rules.ignores(path, isFolder))
             return *ignored;
     }
     return false;

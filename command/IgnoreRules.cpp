@@ -116,7 +116,9 @@ std::optional<std::vector<Part>> partsOf(QByteArrayView glob, bool isPath)
             parts.push_back({Kind::Set, glob.sliced(at, end - at)});
             at = end;
         } else {
-            if (glob[at] == '\\' && ++at == glob.size())
+            if (glob[at] == '\\')
+                ++at;
+            if (at == glob.size())
                 return std::nullopt;
             parts.push_back({Kind::Byte, glob.sliced(at, 1)});
             ++at;
@@ -174,7 +176,8 @@ bool matchesGlob(QByteArrayView glob, QByteArrayView text, bool isPath)
                 continue;
             const Part &part = (*parts)[i];
             if (!isRepeated(i)) {
-                next[i + 1] = next[i + 1] || matchesByte(part, byte);
+                if (matchesByte(part, byte))
+                    next[i + 1] = 1;
             } else if (isTaken(part.kind, byte)) {
                 next[i] = 1;
                 if (part.kind == Kind::AnyPath)

@@ -90,11 +90,9 @@ ReadAs ReadAs::fromWords(const CommandWords &words)
 ReadOptions readOptionsFor(const QByteArray &name, const ReadAs &readAs)
 {
     const bool isLatex = readAs.latex && (!readAs.markdown || isNamedAsLatex(name));
-    return {.readsPdf = true,
-        .asText = readAs.text,
-        .plainTextAs = isLatex ? DocumentKind::Latex
-            : readAs.markdown  ? DocumentKind::Markdown
-                               : DocumentKind::PlainText};
+    const DocumentKind unlessLatex = readAs.markdown ? DocumentKind::Markdown : DocumentKind::PlainText;
+    return {
+        .readsPdf = true, .asText = readAs.text, .plainTextAs = isLatex ? DocumentKind::Latex : unlessLatex};
 }
 
 Result<AttributedString, DocumentError> loadNamedDocument(const QByteArray &name, const ReadAs &readAs)

@@ -38,7 +38,7 @@ int statusOf(const ProgressStore &store, const ProgressStore::Failure &failure)
 
 std::optional<Statistic> goalStatisticNamed(const QByteArray &name)
 {
-    const auto found = std::ranges::find_if(
+    const auto *const found = std::ranges::find_if(
         goalStatistics, [&](Statistic statistic) { return typedNameOf(statistic) == name.toStdString(); });
     return found == goalStatistics.end() ? std::nullopt : std::optional(*found);
 }

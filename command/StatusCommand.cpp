@@ -221,6 +221,7 @@ int runStatusCommand(const CommandWords &words)
         }
     }
     std::vector<StatusRow> projects;
+    projects.reserve(folders.size());
     for (const auto &[path, folder] : folders)
         projects.push_back(folder);
     const int printed =

@@ -14,6 +14,7 @@ using Controller = QBYUserDefaultsController;
 
 constexpr qint64 maxMinimumOfSentences = 1000;
 
+// NOLINTBEGIN(modernize-avoid-c-style-cast): template arguments are taken for casts
 template <Preference preference>
 constexpr SwitchAccessors furtherSwitch{[] { return FurtherPreferences::isShown(preference); },
     [](bool isOn) { FurtherPreferences::setShown(preference, isOn); }};
@@ -27,6 +28,7 @@ template <Preference preference, Preference opposite>
 constexpr MarginAccessors verticalMargin{[] { return FurtherPreferences::verticalMargin(preference); },
     [](double inches) { FurtherPreferences::setVerticalMargin(preference, inches); },
     [] { return FurtherPreferences::verticalMargin(opposite); }, true};
+// NOLINTEND(modernize-avoid-c-style-cast)
 
 constexpr StandardPageAccessors standardPage{[] { return FurtherPreferences::standardPage().text(); },
     [](const QString &text) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 #include <utility>
 
 namespace {
@@ -68,9 +69,12 @@ void DocumentList::load()
 {
     const auto listed = m_store.documents();
     const auto plans = m_store.plans();
-    reportProblem(
-        !listed ? std::optional(listed.error()) : (plans ? std::nullopt : std::optional(plans.error())));
-    if (!listed || !plans)
+    ProgressStore::Failure failure;
+    if (!listed)
+        failure = listed.error();
+    else if (!plans)
+        failure = plans.error();
+    if (!reportProblem(failure))
         return;
     Q_EMIT aboutToReset();
     m_isResetting = true;
@@ -193,10 +197,9 @@ void DocumentList::remove(const QByteArrayList &paths)
 
 void DocumentList::shift(int index, int step)
 {
-    std::vector<int> order;
-    for (int i = 0; i < size(); ++i)
-        order.push_back(i);
-    std::swap(order.at(static_cast<std::size_t>(index)), order.at(static_cast<std::size_t>(index + step)));
+    std::vector<int> order(m_documents.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::iter_swap(order.begin() + index, order.begin() + index + step);
     if (reportProblem(m_store.setOrder(pathsOf(order))))
         load();
 }

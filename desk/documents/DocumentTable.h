@@ -45,8 +45,8 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    [[nodiscard]] QString text(const FollowedDocument &document, const Column &column) const;
-    [[nodiscard]] QVariant sortValue(const FollowedDocument &document, const Column &column) const;
+    [[nodiscard]] QString text(const FollowedDocument &document, const Column &shown) const;
+    [[nodiscard]] QVariant sortValue(const FollowedDocument &document, const Column &shown) const;
     [[nodiscard]] QString toolTip(const FollowedDocument &document) const;
     [[nodiscard]] std::optional<GoalProgress> progressOf(const FollowedDocument &document) const;
 

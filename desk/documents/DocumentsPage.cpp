@@ -137,6 +137,7 @@ std::vector<int> DocumentsPage::selectedRows() const
         places.emplace_back(index.row(), m_sorted.mapToSource(index).row());
     std::ranges::sort(places);
     std::vector<int> rows;
+    rows.reserve(places.size());
     for (const auto &[place, row] : places)
         rows.push_back(row);
     return rows;
@@ -191,8 +192,8 @@ void DocumentsPage::changeEvent(QEvent *event)
 void DocumentsPage::contextMenuEvent(QContextMenuEvent *event)
 {
     QMenu menu;
-    for (QPushButton *const button : {m_ui->showButton, m_ui->goalButton, m_ui->copyButton, m_ui->upButton,
-             m_ui->downButton, m_ui->findButton, m_ui->removeButton}) {
+    for (const QPushButton *const button : {m_ui->showButton, m_ui->goalButton, m_ui->copyButton,
+             m_ui->upButton, m_ui->downButton, m_ui->findButton, m_ui->removeButton}) {
         QAction *const action = menu.addAction(button->text(), button, &QPushButton::click);
         action->setEnabled(button->isEnabled());
     }

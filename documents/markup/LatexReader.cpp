@@ -96,7 +96,10 @@ private:
             add(take(u'\'') ? u"\u201D" : u"'");
             break;
         case u'-':
-            add(!take(u'-') ? u"-" : take(u'-') ? u"\u2014" : u"\u2013");
+            if (!take(u'-'))
+                add(u"-");
+            else
+                add(take(u'-') ? u"\u2014" : u"\u2013");
             break;
         default:
             add(m_source.sliced(m_at - 1, 1));
@@ -339,7 +342,10 @@ private:
         qsizetype at = m_at;
         for (; at < m_source.size() && m_effort > 0; ++at) {
             const QChar unit = m_source[at];
-            depth += unit == u'{' ? 1 : unit == u'}' ? -1 : 0;
+            if (unit == u'{')
+                ++depth;
+            else if (unit == u'}')
+                --depth;
             at += unit == u'\\' ? 1 : 0;
             if (depth == 0) {
                 m_at = at + 1;

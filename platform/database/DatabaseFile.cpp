@@ -185,7 +185,7 @@ DatabaseFile::Failure DatabaseFile::setLimits()
     return execute("PRAGMA max_page_count = " + QByteArray::number(m_form.maxFileSize / pageSize));
 }
 
-Result<DatabaseFile::Content, DatabaseFault> DatabaseFile::content()
+Result<DatabaseFile::Content, DatabaseFault> DatabaseFile::content() const
 {
     DatabaseStatement statement =
         prepare("SELECT application_id, (SELECT count(*) FROM sqlite_schema) FROM pragma_application_id");
@@ -196,7 +196,7 @@ Result<DatabaseFile::Content, DatabaseFault> DatabaseFile::content()
     return statement.integer(0) == m_form.applicationIdentifier ? Content::Known : Content::Foreign;
 }
 
-DatabaseFile::Failure DatabaseFile::checkIntegrity()
+DatabaseFile::Failure DatabaseFile::checkIntegrity() const
 {
     DatabaseStatement statement = prepare("PRAGMA integrity_check(1)");
     if (statement.step() != DatabaseStatement::Outcome::Row)

@@ -64,11 +64,12 @@ public:
 
     // Only while one of these functions is called.
     [[nodiscard]] DatabaseStatement prepare(const QByteArray &text) const { return {m_database, text}; }
-    Failure execute(const QByteArray &text) const;
+    [[nodiscard]] Failure execute(const QByteArray &text) const;
     /// Steps the statement to its end, and calls the function at each row.
-    Failure forEachRow(DatabaseStatement &statement, const std::function<void()> &reading) const;
+    [[nodiscard]] Failure forEachRow(
+        DatabaseStatement &statement, const std::function<void()> &reading) const;
     /// Steps the statement to its end.
-    Failure execute(DatabaseStatement &statement) const;
+    [[nodiscard]] Failure execute(DatabaseStatement &statement) const;
     [[nodiscard]] DatabaseFault faultOf(const DatabaseStatement &statement) const;
 
 private:
@@ -81,8 +82,8 @@ private:
     Failure setLimits();
     void close();
 
-    Result<Content, DatabaseFault> content();
-    Failure checkIntegrity();
+    [[nodiscard]] Result<Content, DatabaseFault> content() const;
+    [[nodiscard]] Failure checkIntegrity() const;
     Failure createTables();
     Failure writeInTransaction(const std::function<Failure()> &writing);
     [[nodiscard]] DatabaseFault faultOf(int code) const;

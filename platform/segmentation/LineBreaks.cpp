@@ -27,8 +27,8 @@ constexpr auto englishText = [] {
         table[lower] = table[lower - 'a' + 'A'] = InWord;
     for (size_t digit = '0'; digit <= '9'; ++digit)
         table[digit] = InWord;
-    for (const char mark : {',', '.', ':', ';', '!', '?'})
-        table[static_cast<size_t>(mark)] = FollowsWord;
+    for (const char16_t mark : {u',', u'.', u':', u';', u'!', u'?'})
+        table[mark] = FollowsWord;
     return table;
 }();
 
